@@ -1,0 +1,40 @@
+#pragma once
+
+// The three ways from the logic to the outside. The window implements them, a test scripts them.
+
+#include <chrono>
+#include <string>
+#include <vector>
+
+namespace varnok {
+
+enum class Symbol { keines, Ausrufezeichen, Frage };
+enum class Knopf { OK, Abbrechen, Ja, Nein };
+
+struct Frage {
+    std::string Titel;
+    std::string Text;
+    Symbol Zeichen = Symbol::Ausrufezeichen;
+    std::vector<Knopf> Knoepfe = {Knopf::OK};
+};
+
+class Rueckfrage {
+public:
+    virtual ~Rueckfrage() = default;
+    virtual Knopf frage(const Frage& f) = 0;
+};
+
+class Uhr {
+public:
+    virtual ~Uhr() = default;
+    virtual std::chrono::system_clock::time_point jetzt() const = 0;
+};
+
+class Fortschritt {
+public:
+    virtual ~Fortschritt() = default;
+    // `fertig` of `gesamt` pieces of work are done; may be called from several threads.
+    virtual void melde(std::size_t fertig, std::size_t gesamt) = 0;
+};
+
+}  // namespace varnok

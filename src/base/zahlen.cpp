@@ -1,0 +1,181 @@
+#include "base/zahlen.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <cstdint>
+#include <cstdlib>
+#include <limits>
+#include <system_error>
+
+namespace varnok {
+namespace {
+
+bool ist_Ziffer(char z) { return z >= '0' && z <= '9'; }
+
+// The characters of `Text` that form its leading number, blanks left out; empty without a digit.
+std::string Zahlzeichen(std::string_view Text, bool Komma_als_Punkt) {
+    std::string Zahl;
+    bool Punkt = false;
+    bool Ziffer = false;
+    bool Exponent = false;
+    std::size_t gueltig = 0;  // length up to which `Zahl` is a complete number
+    for (char z : Text) {
+        if (z == ' ') continue;
+        if (z == ',' && Komma_als_Punkt) z = '.';
+        const char davor = Zahl.empty() ? '\0' : Zahl.back();
+        if (ist_Ziffer(z)) {
+            Ziffer = true;
+        } else if (z == '+' || z == '-') {
+            if (davor != '\0' && davor != 'E') break;
+        } else if (z == '.' && !Punkt && !Exponent) {
+            Punkt = true;
+        } else if ((z == 'E' || z == 'e') && Ziffer && !Exponent) {
+            Exponent = true;
+            z = 'E';
+        } else {
+            break;
+        }
+        Zahl.push_back(z);
+        if (ist_Ziffer(z) || (z == '.' && Ziffer)) gueltig = Zahl.size();
+    }
+    Zahl.resize(Ziffer ? gueltig : 0);
+    return Zahl;
+}
+
+// Place of the first digit that counts: 0 for units, 3 for thousands, -2 for hundredths. The exponent may be
+// too large for any integer; it then decides alone.
+double Groessenordnung(const std::string& Zahl) {
+    const auto Mantissenende = std::min(Zahl.find('E'), Zahl.size());
+    double Exponent = 0;
+    for (std::size_t i = Mantissenende; i < Zahl.size(); ++i) {
+        if (ist_Ziffer(Zahl[i])) Exponent = 10 * Exponent + (Zahl[i] - '0');
+    }
+    if (Zahl.find('-', Mantissenende) != std::string::npos) Exponent = -Exponent;
+    const auto Punkt = static_cast<double>(std::min(Zahl.find('.'), Mantissenende));
+    const auto erste = static_cast<double>(Zahl.find_first_of("123456789"));
+    return Exponent + (erste < Punkt ? Punkt - erste - 1 : Punkt - erste);
+}
+
+double lies(const std::string& Zahl) {
+    if (Zahl.empty()) return 0.0;
+    const char* Anfang = Zahl.data() + (Zahl.front() == '+' ? 1 : 0);
+    const char* Ende = Zahl.data() + Zahl.size();
+    double Ergebnis = 0.0;
+    const auto [Rest, Fehler] = std::from_chars(Anfang, Ende, Ergebnis);
+    if (Fehler != std::errc::result_out_of_range) return Ergebnis;
+    // from_chars does not say which end of the range was left.
+    if (Groessenordnung(Zahl) < 0) return 0.0;
+    return Zahl.front() == '-' ? -std::numeric_limits<double>::infinity() : std::numeric_limits<double>::infinity();
+}
+
+// Decimal digits and exponent of a value: 0.d1d2d3... times 10 to the power `Zehnerpotenz`.
+struct Dezimaltext {
+    bool negativ = false;
+    std::string Ziffern;  // no zeros at the end, at least one digit
+    int Zehnerpotenz = 1;
+};
+
+template <class Gleitzahl>
+Dezimaltext zerlege(Gleitzahl Zahl, int Stellen) {
+    char Puffer[64];
+    const auto Ende = std::to_chars(Puffer, Puffer + sizeof Puffer, Zahl, std::chars_format::scientific, Stellen - 1).ptr;
+    const std::string_view Text(Puffer, static_cast<std::size_t>(Ende - Puffer));
+    Dezimaltext d;
+    const auto Stelle_e = Text.find('e');
+    for (const char z : Text.substr(0, Stelle_e)) {
+        if (z == '-') d.negativ = true;
+        if (ist_Ziffer(z)) d.Ziffern.push_back(z);
+    }
+    int Exponent = 0;
+    std::string_view Exponententext = Text.substr(Stelle_e + 1);
+    if (Exponententext.front() == '+') Exponententext.remove_prefix(1);
+    std::from_chars(Exponententext.data(), Exponententext.data() + Exponententext.size(), Exponent);
+    d.Zehnerpotenz = Exponent + 1;
+    d.Ziffern.resize(std::max<std::size_t>(1, d.Ziffern.find_last_not_of('0') + 1));
+    if (d.Ziffern == "0") d.negativ = false;
+    return d;
+}
+
+std::string nicht_endlich(double Zahl) { return std::isnan(Zahl) ? "nan" : Zahl < 0 ? "-inf" : "inf"; }
+
+template <class Gleitzahl>
+std::string allgemein(Gleitzahl Zahl, int Stellen, char Dezimalzeichen) {
+    if (!std::isfinite(Zahl)) return nicht_endlich(Zahl);
+    const Dezimaltext d = zerlege(Zahl, Stellen);
+    const int Anzahl = static_cast<int>(d.Ziffern.size());
+    const int Exponent = d.Zehnerpotenz - 1;
+    std::string Text = d.negativ ? "-" : "";
+    if (d.Ziffern == "0") return "0";
+    if (Exponent < -4 || Exponent >= 15) {
+        Text += d.Ziffern[0];
+        if (Anzahl > 1) Text += Dezimalzeichen + d.Ziffern.substr(1);
+        const int Betrag = std::abs(Exponent);
+        Text += Exponent < 0 ? "E-" : "E+";
+        if (Betrag < 10) Text += '0';
+        Text += std::to_string(Betrag);
+    } else if (Exponent < 0) {
+        Text += '0';
+        Text += Dezimalzeichen + std::string(static_cast<std::size_t>(-d.Zehnerpotenz), '0') + d.Ziffern;
+    } else if (Anzahl <= d.Zehnerpotenz) {
+        Text += d.Ziffern + std::string(static_cast<std::size_t>(d.Zehnerpotenz - Anzahl), '0');
+    } else {
+        const auto Stelle = static_cast<std::size_t>(d.Zehnerpotenz);
+        Text += d.Ziffern.substr(0, Stelle) + Dezimalzeichen + d.Ziffern.substr(Stelle);
+    }
+    return Text;
+}
+
+template <class Gleitzahl>
+std::string genau(Gleitzahl Zahl) {
+    if (!std::isfinite(Zahl)) return nicht_endlich(Zahl);
+    char Puffer[64];
+    return {Puffer, std::to_chars(Puffer, Puffer + sizeof Puffer, Zahl).ptr};
+}
+
+}  // namespace
+
+double Wert(std::string_view Text) { return lies(Zahlzeichen(Text, true)); }
+
+double fuehrende_Zahl(std::string_view Text) { return lies(Zahlzeichen(Text, false)); }
+
+bool ist_Zahl_oder_leer(std::string_view Text) {
+    return Text.find_first_not_of(" \t") == std::string_view::npos || !Zahlzeichen(Text, true).empty();
+}
+
+std::string allgemeine_Zahl(double Zahl, char Dezimalzeichen) { return allgemein(Zahl, 15, Dezimalzeichen); }
+std::string allgemeine_Zahl(float Zahl, char Dezimalzeichen) { return allgemein(Zahl, 7, Dezimalzeichen); }
+
+std::string feste_Zahl(double Zahl, int Nachkommastellen, char Dezimalzeichen) {
+    if (!std::isfinite(Zahl)) return nicht_endlich(Zahl);
+    const Dezimaltext d = zerlege(Zahl, 15);
+    // All digits from the place before the point to the last one wanted, and one more that decides.
+    const int fuehrend = std::max(d.Zehnerpotenz, 1);
+    std::string Ziffern = std::string(static_cast<std::size_t>(fuehrend - std::min(d.Zehnerpotenz, fuehrend)), '0') + d.Ziffern;
+    const auto behalten = static_cast<std::size_t>(fuehrend + Nachkommastellen);
+    Ziffern.resize(std::max(Ziffern.size(), behalten + 1), '0');
+    const bool aufrunden = Ziffern[behalten] >= '5';
+    Ziffern.resize(behalten);
+    std::size_t Stelle = behalten;
+    while (aufrunden && Stelle > 0 && Ziffern[Stelle - 1] == '9') Ziffern[--Stelle] = '0';
+    if (aufrunden && Stelle > 0) ++Ziffern[Stelle - 1];
+    if (aufrunden && Stelle == 0) Ziffern.insert(Ziffern.begin(), '1');
+
+    const bool null = Ziffern.find_first_not_of('0') == std::string::npos;
+    std::string Text = d.negativ && !null ? "-" : "";
+    const std::size_t Vorkommastellen = Ziffern.size() - static_cast<std::size_t>(Nachkommastellen);
+    Text += Ziffern.substr(0, Vorkommastellen);
+    if (Nachkommastellen > 0) Text += Dezimalzeichen + Ziffern.substr(Vorkommastellen);
+    return Text;
+}
+
+std::string genaue_Zahl(float Zahl) { return genau(Zahl); }
+std::string genaue_Zahl(double Zahl) { return genau(Zahl); }
+
+std::optional<int> ganze_Zahl(double Zahl, int von, int bis) {
+    const double gerundet = std::nearbyint(Zahl);
+    if (!(gerundet >= von && gerundet <= bis)) return std::nullopt;
+    return static_cast<int>(gerundet);
+}
+
+}  // namespace varnok

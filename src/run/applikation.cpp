@@ -1,0 +1,119 @@
+#include "run/applikation.h"
+
+#include <cmath>
+
+#include "base/laufzeitfehler.h"
+#include "base/zahlen.h"
+#include "run/kalender.h"
+
+namespace varnok {
+namespace {
+
+enum Spalte { Tag = 0, Monat = 1, Rate = 2, Bedeckung = 3 };
+
+// The part of a rate that reaches the soil, g/ha.
+double Nettodosis(const std::string& Ratentext, const std::string& Interzeptionstext) {
+    const double Dosis = Wert(Ratentext) * (100 - Wert(Interzeptionstext)) / 100;
+    if (!std::isfinite(static_cast<float>(Dosis))) {
+        melde_unmoegliche_Rechnung("Application rate (g/ha) = " + Ratentext + ", Crop interception (%) = " + Interzeptionstext);
+    }
+    return Dosis;
+}
+
+// Day of the year of a table row, counted from 0; nothing outside a year of 365 days.
+std::optional<int> Jahrestag(const Applikationszeile& Zeile) {
+    const auto Tageszahl = ganze_Zahl(Wert(Zeile[Tag]), 1, Tage_pro_Jahr);
+    const auto Monatszahl = ganze_Zahl(Wert(Zeile[Monat]), -32768, 32767);
+    if (!Tageszahl || !Monatszahl) return std::nullopt;
+    const int d = Julian(*Monatszahl) + *Tageszahl - 1;
+    return d < Tage_pro_Jahr ? std::optional(d) : std::nullopt;
+}
+
+void trage_ein(Ergebnisspeicher& s, int Ereignis, int Tag, double Dosis) {
+    s.Applikationstag[static_cast<std::size_t>(Ereignis)] = static_cast<std::int16_t>(Tag);
+    s.Tagesrate[static_cast<std::size_t>(Tag)] = static_cast<float>(Dosis);
+}
+
+// The year's doses, each decayed from its day to the day of the last one; `Exponent(i)` is that of event i.
+template <class Funktion>
+double wirksame_Rate(const Ergebnisspeicher& s, int n, double k, Funktion Exponent) {
+    double Summe = 0;
+    for (int i = 1; i <= n; ++i) {
+        const auto d = static_cast<std::size_t>(s.Applikationstag[static_cast<std::size_t>(i)]);
+        Summe += static_cast<double>(s.Tagesrate[d]) * std::exp(Exponent(i));
+    }
+    if (!std::isfinite(Summe)) melde_unmoegliche_Rechnung("SFO k (1/d) = " + allgemeine_Zahl(k));
+    return Summe;
+}
+
+void lade_regelmaessig(Ergebnisspeicher& s, int n, int Intervall, double Dosis, double k) {
+    for (int i = 1; i <= n; ++i) trage_ein(s, i, (i - 1) * Intervall, Dosis);
+    s.Anzahl_pro_Jahr = static_cast<std::int16_t>(n);
+    s.Wirksame_Rate = wirksame_Rate(s, n, k, [&](int i) { return -k * (n - i) * Intervall; });
+}
+
+// False if the dates do not ascend.
+bool lade_unregelmaessig(const Eingabe& e, Ergebnisspeicher& s, double k) {
+    const int n = e.Anzahl();
+    int davor = -1;
+    for (int i = 1; i <= n; ++i) {
+        const Applikationszeile& Zeile = e.Applikationsschema[static_cast<std::size_t>(i - 1)];
+        const auto d = Jahrestag(Zeile);
+        if (!d || *d <= davor) return false;
+        trage_ein(s, i, *d, Nettodosis(Zeile[Rate], Zeile[Bedeckung]));
+        davor = *d;
+    }
+    // The time axis starts with the first application, whatever its date.
+    const int erster = s.Applikationstag[1];
+    for (std::size_t i = 1; i <= static_cast<std::size_t>(n); ++i) {
+        const auto d = static_cast<std::size_t>(s.Applikationstag[i]);
+        const float Dosis = s.Tagesrate[d];
+        s.Tagesrate[d] = 0;
+        trage_ein(s, static_cast<int>(i), static_cast<int>(d) - erster, static_cast<double>(Dosis));
+    }
+    s.Anzahl_pro_Jahr = static_cast<std::int16_t>(n);
+    const int letzter = s.Applikationstag[static_cast<std::size_t>(n)];
+    s.Wirksame_Rate = wirksame_Rate(s, n, k, [&](int i) { return -k * (letzter - s.Applikationstag[static_cast<std::size_t>(i)]); });
+    return true;
+}
+
+// Every year repeats the first one. The events of an eleventh year are listed and never reached.
+void wiederhole_jaehrlich(Ergebnisspeicher& s) {
+    const auto n = static_cast<std::size_t>(s.Anzahl_pro_Jahr);
+    for (std::size_t Jahr = 1; Jahr <= Jahre; ++Jahr) {
+        for (std::size_t j = 1; j <= n; ++j) {
+            s.Applikationstag[Jahr * n + j] = static_cast<std::int16_t>(s.Applikationstag[j] + Tage_pro_Jahr * static_cast<int>(Jahr));
+        }
+        for (std::size_t j = 0; j < Tage_pro_Jahr; ++j) s.Tagesrate[Tage_pro_Jahr * (Jahr - 1) + j] = s.Tagesrate[j];
+    }
+}
+
+}  // namespace
+
+std::optional<Tabellenzelle> Tabelle_mit_Applikationen_berechne_PEC(Eingabe& e) {
+    for (int i = 0; i < e.Anzahl(); ++i) {
+        Applikationszeile& Zeile = e.Applikationsschema[static_cast<std::size_t>(i)];
+        if (Wert(Zeile[Tag]) == 0) return Tabellenzelle{i, Tag};
+        if (Wert(Zeile[Monat]) == 0) return Tabellenzelle{i, Monat};
+        if (!Jahrestag(Zeile)) return Tabellenzelle{i, Tag};
+        if (Wert(Zeile[Bedeckung]) >= 100) Zeile[Bedeckung] = "99";
+    }
+    return std::nullopt;
+}
+
+bool Lade_Applikationen(const Eingabe& e, const Laufparameter& Parameter, int i_studie, Ergebnisspeicher& s) {
+    s.Tagesrate.fill(0);
+    s.Wirksame_Rate = 0;
+    // The plateau of the closed series needs the SFO constant as it stands, also under another kinetics.
+    const double k = Parameter.k_SFO[0][static_cast<std::size_t>(i_studie)];
+    if (e.Applikationsmuster == unregelmaessig) {
+        if (!lade_unregelmaessig(e, s, k)) return false;
+    } else {
+        const int n = e.Applikationsmuster == einzeln ? 1 : e.Anzahl();
+        lade_regelmaessig(s, n, e.Intervall(), Nettodosis(e.Applikationsrate, e.Interzeption), k);
+    }
+    wiederhole_jaehrlich(s);
+    return true;
+}
+
+}  // namespace varnok

@@ -1,0 +1,81 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <cstdlib>
+#include <memory>
+#include <span>
+#include <string>
+
+#include "run/laufparameter.h"
+#include "run/zeitachse.h"
+
+namespace varnok {
+
+// Index order [endpoint][study][compound].
+template <class T>
+using Ergebnistabelle = std::array<std::array<std::array<T, Stoffe>, Studienplaetze>, Endpunkte>;
+
+using Tagesreihe = std::span<float, Tagesplaetze>;
+using Tagesreihe_lesend = std::span<const float, Tagesplaetze>;
+
+// The results of all studies. Allocated once; a study that was never run holds zeros, and a run
+// touches the section of its own study only. All concentrations are in the unit of `Einheit` per kg
+// of soil (endpoint 0) or per litre of pore water (endpoint 1).
+class Ergebnisspeicher {
+public:
+    Ergebnisspeicher();
+
+    // Daily concentration with the doses of all ten years mixed into the tillage depth.
+    // Slot 0 is the sum, slot k the residue of application event k; pore water has slot 0 (and 1 on day 0).
+    Tagesreihe Reihe_Plateautiefe(int i_endpunkt, int i_studie, int i_substanz, int Slot);
+    Tagesreihe_lesend Reihe_Plateautiefe(int i_endpunkt, int i_studie, int i_substanz, int Slot) const;
+
+    // Daily concentration with the doses of the first year only, mixed into the soil depth.
+    Tagesreihe Reihe_Bodentiefe(int i_endpunkt, int i_studie, int i_substanz, int Slot);
+    Tagesreihe_lesend Reihe_Bodentiefe(int i_endpunkt, int i_studie, int i_substanz, int Slot) const;
+
+    // Running trapezoid integral of slot 0 of `Reihe_Bodentiefe`, concentration times days.
+    Tagesreihe Integral_Bodentiefe(int i_endpunkt, int i_studie, int i_substanz);
+    Tagesreihe_lesend Integral_Bodentiefe(int i_endpunkt, int i_studie, int i_substanz) const;
+
+    // Clears what a run of the study writes: its series, integral and maxima, the doses and the formation.
+    void leere_Studie(int i_studie);
+
+    std::array<float, Tagesplaetze> Tagesrate{};  // net dose on the soil, g/ha
+    std::array<std::int16_t, Ereignisplaetze> Applikationstag{};  // day of event k; place 0 unused
+    std::int16_t Anzahl_pro_Jahr = 0;
+    double Wirksame_Rate = 0;  // the year's doses, each decayed to the last one, g/ha
+
+    // Amount of a metabolite (0 first, 1 second) formed on each day, in its own mass.
+    std::array<std::array<float, Tagesplaetze>, 2> Bildung_Plateautiefe{};
+    std::array<std::array<float, Tagesplaetze>, 2> Bildung_Bodentiefe{};
+
+    Ergebnistabelle<float> Maximum_Plateautiefe{};
+    Ergebnistabelle<std::int16_t> Maximumtag_Plateautiefe{};  // day of the last new yearly maximum
+    Ergebnistabelle<float> Maximum_Bodentiefe{};
+    Ergebnistabelle<std::int16_t> Maximumtag_Bodentiefe{};
+    Ergebnistabelle<std::array<float, Jahre + 1>> Jahresmaximum{};  // place 0 unused
+
+    Ergebnistabelle<float> Plateauwert{};
+    Ergebnistabelle<double> Plateauzuwachs{};
+    Ergebnistabelle<std::string> Plateautext{};
+    Ergebnistabelle<float> Plateaujahr{};
+
+    std::array<float, TWA_Plaetze> TWA_Tage{};
+    Ergebnistabelle<std::array<float, TWA_Plaetze>> TWA_Maximum{};
+    Ergebnistabelle<std::array<std::int16_t, TWA_Plaetze>> TWA_Starttag{};
+
+private:
+    struct Freigabe {
+        void operator()(float* p) const { std::free(p); }
+    };
+    // Zeroed by the system on first touch: studies that are never run cost no memory.
+    using Block = std::unique_ptr<float[], Freigabe>;
+
+    Block Plateau_;
+    Block Boden_;
+    Block Integral_;
+};
+
+}  // namespace varnok

@@ -1,0 +1,86 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+#include "run/zeitachse.h"
+
+namespace varnok {
+
+// One value for each study; study 0 to 5 are in use.
+template <class T>
+using Studientabelle = std::array<T, Studienplaetze>;
+
+// One value for each compound and study.
+template <class T>
+using Stofftabelle = std::array<Studientabelle<T>, Stoffe>;
+
+template <class T>
+constexpr Studientabelle<T> ueberall(T Wert) {
+    Studientabelle<T> Tabelle{};
+    Tabelle.fill(Wert);
+    return Tabelle;
+}
+
+template <class T>
+constexpr Stofftabelle<T> fuer_alle(T Wert) {
+    Stofftabelle<T> Tabelle{};
+    Tabelle.fill(ueberall(Wert));
+    return Tabelle;
+}
+
+// Codes of `Kinetik`.
+inline constexpr int SFO = 0;
+inline constexpr int DFOP = 1;
+inline constexpr int FOMC = 2;  // parent only
+inline constexpr int HS = 3;    // parent only
+
+// The run parameters that all parts of the program share. The values set here are those of a
+// program that has read no record yet.
+struct Laufparameter {
+    // scenario
+    double Bodendichte = 0;        // kg/L
+    double Bodentiefe = 0;         // cm
+    double Plateautiefe = 0;       // cm
+    double Kohlenstoffgehalt = 0;  // %
+    double Feldkapazitaet = 0;     // Vol%
+    double Welkepunkt = 0;         // Vol%
+    std::uint8_t Klimamodus = 0;   // 0 constant temperature, 1 climate file
+    std::uint8_t Szenariotemperatur = 20;  // degrees C
+
+    // options
+    std::uint8_t Einheit = 0;                // 0 mg, 1 microgram
+    std::uint8_t Separate_Rueckstaende = 0;  // 0 no, 1 yes, 2 within a year
+    std::uint8_t TWA_Zeiten = 1;             // 0 monthly list, 1 EU list
+    std::array<std::uint8_t, 7> Ausgabename_Teile{};  // product, study, kinetics, endpoint, date, time, unused
+    std::uint8_t Rechenmodus = 0;            // carried through the record
+
+    // compounds
+    std::uint8_t Anzahl_Studien = 1;
+    Stofftabelle<double> KOC = fuer_alle(0.0);      // L/kg
+    Stofftabelle<double> Q10 = fuer_alle(1.0);
+    Stofftabelle<double> Walker = fuer_alle(0.0);
+    Stofftabelle<double> TRef = fuer_alle(20.0);    // degrees C
+    Stofftabelle<double> Kinetik = fuer_alle(0.0);  // a code as a whole number
+    Stofftabelle<double> k_SFO = fuer_alle(0.01);   // 1/d
+    Stofftabelle<double> k1_DFOP = fuer_alle(0.01);
+    Stofftabelle<double> k2_DFOP = fuer_alle(0.01);
+    Stofftabelle<double> g_DFOP = fuer_alle(0.5);
+    Studientabelle<double> alpha_FOMC = ueberall(0.1);
+    Studientabelle<double> beta_FOMC = ueberall(1.0);  // d
+    Studientabelle<double> k1_HS = ueberall(0.01);     // 1/d
+    Studientabelle<double> k2_HS = ueberall(0.01);
+    Studientabelle<double> Tb_HS = ueberall(10.0);     // d
+
+    // averaging windows, days; places count from 0
+    std::array<double, 10> TWA_Liste_EU = {1, 2, 4, 7, 14, 21, 28, 42, 50, 100};
+    std::array<double, 12> TWA_Liste_Monat = {30, 60, 90, 120, 150, 180, 210, 240, 270, 300, 330, 360};
+
+    friend bool operator==(const Laufparameter&, const Laufparameter&) = default;
+};
+
+// Number of averaging windows in force.
+constexpr int Anzahl_TWA(std::uint8_t TWA_Zeiten) { return 12 - 2 * TWA_Zeiten; }
+
+}  // namespace varnok

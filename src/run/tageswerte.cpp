@@ -1,0 +1,76 @@
+#include "run/tageswerte.h"
+
+#include <cmath>
+#include <string>
+
+#include "base/laufzeitfehler.h"
+#include "base/zahlen.h"
+
+namespace varnok {
+
+void beginne_Tageswerte(Lauf& l) {
+    l.Tag.Bodenfeuchte = (l.Parameter.Feldkapazitaet + l.Parameter.Welkepunkt) / 2;
+    l.Tag.Referenzfeuchte = l.Parameter.Feldkapazitaet;
+}
+
+void lies_Klimatag(Lauf& l, int d) {
+    const Klimatag& k = l.Klima.Tag(d);
+    l.Tag.Tagesniederschlag = k.Tagesniederschlag;
+    l.Tag.Tagesverdunstung = k.Tagesverdunstung;
+    l.Tag.Tagestemperatur = k.Tagestemperatur;
+    // mm over cm times 100 is this model's balance, not a slip of units.
+    const double Bilanz = (k.Tagesniederschlag - k.Tagesverdunstung) / l.Parameter.Bodentiefe * 100 + l.Tag.Bodenfeuchte;
+    l.Tag.Bodenfeuchte = Maximum(l.Parameter.Welkepunkt, Minimum(l.Parameter.Feldkapazitaet, Bilanz));
+}
+
+void setze_konstantes_Klima(Lauf& l) {
+    l.Tag.Tagestemperatur = l.Parameter.Szenariotemperatur;
+    l.Tag.Bodenfeuchte = l.Tag.Referenzfeuchte;
+}
+
+double PW_faktor(const Lauf& l, int i_studie, int i_substanz) {
+    const double KOC = l.Parameter.KOC[static_cast<std::size_t>(i_substanz)][static_cast<std::size_t>(i_studie)];
+    const double Faktor = (l.Parameter.Kohlenstoffgehalt * KOC) / 100 + (l.Tag.Bodenfeuchte / 100) / l.Parameter.Bodendichte;
+    if (Faktor == 0 || !std::isfinite(Faktor)) {
+        melde_unmoegliche_Rechnung("KOC (L/kg) = " + allgemeine_Zahl(KOC) + ", soil moisture (Vol%) = " + allgemeine_Zahl(l.Tag.Bodenfeuchte));
+    }
+    return Faktor;
+}
+
+Korrektur bestimme_Korrektur(const Lauf& l, int i_studie, int i_substanz) {
+    const auto c = static_cast<std::size_t>(i_substanz);
+    const auto st = static_cast<std::size_t>(i_studie);
+    const Laufparameter& p = l.Parameter;
+    Korrektur k;
+    k.Temperatur = std::pow(p.Q10[c][st], (l.Tag.Tagestemperatur - p.TRef[c][st]) / 10);
+    k.Feuchte = std::pow(l.Tag.Bodenfeuchte / l.Tag.Referenzfeuchte, p.Walker[c][st]);
+    if (!std::isfinite(k.Faktor())) {
+        melde_unmoegliche_Rechnung("Q10-factor = " + allgemeine_Zahl(p.Q10[c][st]) + ", Walker-exponent = " +
+                                   allgemeine_Zahl(p.Walker[c][st]) + ", temperature (°C) = " + allgemeine_Zahl(l.Tag.Tagestemperatur) +
+                                   ", soil moisture (Vol%) = " + allgemeine_Zahl(l.Tag.Bodenfeuchte));
+    }
+    return k;
+}
+
+bool Tageskorrektur::aktualisiere(const Lauf& l, int i_studie, int i_substanz) {
+    if (bekannt_ && l.Tag.Tagestemperatur == Temperatur_ && l.Tag.Bodenfeuchte == Feuchte_) return false;
+    Korrektur_ = bestimme_Korrektur(l, i_studie, i_substanz);
+    bekannt_ = true;
+    Temperatur_ = l.Tag.Tagestemperatur;
+    Feuchte_ = l.Tag.Bodenfeuchte;
+    return true;
+}
+
+void pruefe_Boden(const Laufparameter& p) {
+    const struct { const char* Name; double Wert; } Nenner[] = {
+        {"Soil density (kg/L)", p.Bodendichte},
+        {"Soil depth (cm)", p.Bodentiefe},
+        {"Plateaudepth (cm)", p.Plateautiefe},
+        {"Field capacity (Vol%)", p.Feldkapazitaet},
+    };
+    for (const auto& n : Nenner) {
+        if (!(n.Wert > 0)) melde_unmoegliche_Rechnung(std::string(n.Name) + " = " + allgemeine_Zahl(n.Wert));
+    }
+}
+
+}  // namespace varnok
