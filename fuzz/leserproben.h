@@ -1,0 +1,70 @@
+#pragma once
+
+// What must hold for any bytes that a reader is given. The fuzzers call it with what they make up, the
+// ordinary tests with every input that was ever kept in fuzz/corpus. A breach ends the process.
+
+#include <cstdint>
+#include <cstdlib>
+#include <string>
+
+#include "base/laufzeitfehler.h"
+#include "records/einstellungen.h"
+#include "records/klimadatei.h"
+#include "records/satz.h"
+
+namespace varnok::fuzz {
+
+inline void fordere(bool erfuellt) {
+    if (!erfuellt) std::abort();
+}
+
+// A record that was read is written as bytes that read and write the same again, unless it holds a
+// text that no record can hold (a tab, too long with its numbers written out).
+inline void pruefe_Rundgang(Satzart Art, const Laufparameter& Parameter, const Eingabe& Felder, char Dezimalzeichen) {
+    std::string Bytes;
+    try {
+        Bytes = Satz_als_Bytes(Art, Parameter, Felder, Dezimalzeichen);
+    } catch (const Laufzeitfehler&) {
+        return;
+    }
+    Laufparameter p;
+    Eingabe e;
+    const Lesebefund b = Satz_lesen_aus(Bytes, "written", Art, p, e, Dezimalzeichen);
+    fordere(b.Ausgang == Leseausgang::gelesen);
+    fordere(Satz_als_Bytes(Art, p, e, Dezimalzeichen) == Bytes);
+}
+
+// The first byte chooses the kind of record and the decimal separator.
+inline void pruefe_Satz(const std::string& Eingang) {
+    if (Eingang.empty()) return;
+    const auto Wahl = static_cast<unsigned char>(Eingang.front());
+    const auto Art = static_cast<Satzart>(Wirkstoff + Wahl % 3);
+    const char Dezimalzeichen = Wahl % 2 ? ',' : '.';
+    Laufparameter p;
+    Eingabe e;
+    try {
+        const Lesebefund b = Satz_lesen_aus(Eingang.substr(1), "input", Art, p, e, Dezimalzeichen);
+        fordere(b.Ausgang != Leseausgang::fehlt);
+        if (b.Ausgang == Leseausgang::gelesen) pruefe_Rundgang(Art, p, e, Dezimalzeichen);
+    } catch (const Laufzeitfehler&) {
+        fordere(Art == Wirkstoff && p == Laufparameter{} && e == Eingabe{});
+    }
+}
+
+inline void pruefe_Klima(const std::string& Eingang) {
+    try {
+        fordere(!zerlege_Klimadatei(Eingang, "input").empty());
+    } catch (const Laufzeitfehler&) {
+        return;
+    }
+}
+
+inline void pruefe_Einstellungen(const std::string& Eingang) {
+    const auto e = zerlege_Einstellungen(Eingang);
+    if (!e) return;
+    const std::string Bytes = Einstellungen_als_Bytes(*e);
+    const auto wieder = zerlege_Einstellungen(Bytes);
+    fordere(wieder && Einstellungen_als_Bytes(*wieder) == Bytes);
+}
+
+}  // namespace varnok::fuzz

@@ -1,0 +1,26 @@
+#pragma once
+
+// Files as bytes. Paths and messages are UTF-8.
+
+#include <cstddef>
+#include <optional>
+#include <string>
+
+namespace varnok {
+
+// No input of this program comes near this size; what is larger is no record.
+inline constexpr std::size_t Hoechstgroesse_Datei = std::size_t{16} << 20;
+
+// The whole content of a file. Throws Laufzeitfehler that names the file and the reason: it cannot be
+// opened, is a folder, or is larger than any input of this program (16 MB).
+std::string lies_Datei(const std::string& Pfad);
+
+// The same, but nothing where the file cannot be opened: it does not exist, is a folder, may not be read.
+std::optional<std::string> lies_Datei_falls_moeglich(const std::string& Pfad);
+
+// Replaces the file by `Inhalt` in one step: written beside it, flushed, renamed over it. A reader sees
+// the old file or the new one. Throws Laufzeitfehler that names the file and the reason; the old file
+// is then untouched. What is no plain file (a device, a pipe) is written to as it stands.
+void schreibe_Datei(const std::string& Pfad, const std::string& Inhalt);
+
+}  // namespace varnok

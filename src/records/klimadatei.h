@@ -1,0 +1,28 @@
+#pragma once
+
+// Climate files: a header line, then one line for each day of the year in fixed columns.
+
+#include <string>
+#include <vector>
+
+#include "records/projektordner.h"
+#include "run/klima.h"
+
+namespace varnok {
+
+// The day lines of a climate file: rain in columns 8 to 17, potential evapotranspiration in 18 to 27,
+// temperature in 38 to 47. What is missing or no number is 0. Lines that no run can reach are left out.
+// Throws Laufzeitfehler that names file and line for a value that is not finite or a file without a day.
+std::vector<Klimatag> zerlege_Klimadatei(const std::string& Bytes, const std::string& Datei);
+
+// The climate files of a project.
+class Projektklima : public Klimaquelle {
+public:
+    explicit Projektklima(const Projektordner& Ordner) : Ordner_(&Ordner) {}
+    std::optional<std::vector<Klimatag>> lade(const std::string& Name) const override;
+
+private:
+    const Projektordner* Ordner_;
+};
+
+}  // namespace varnok

@@ -1,0 +1,178 @@
+#include "records/satz.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <utility>
+
+#include "base/laufzeitfehler.h"
+#include "records/dateien.h"
+#include "records/satzaufbau.h"
+#include "records/satzleser.h"
+#include "records/satzschreiber.h"
+
+namespace varnok {
+namespace {
+
+constexpr int Zeile_der_Flaggen = 3;
+
+// The kind of record that a template has the layout of.
+Satzart Grundart(Satzart Art) { return Art > Szenario ? static_cast<Satzart>(Art - Szenario) : Art; }
+
+// What a reading works on: nothing of the caller's is touched before it is clear what counts.
+struct Lesung {
+    Satzleser Leser;
+    const std::string& Datei;
+    Laufparameter Parameter;
+    Eingabe Felder;
+};
+
+[[noreturn]] void verwirf(const Lesung& l, int Zeile, const std::string& Grund) {
+    throw Laufzeitfehler("File " + l.Datei + ", line " + std::to_string(Zeile) + ": " + Grund);
+}
+
+[[noreturn]] void verwirf(const Lesung& l, const Lesefehler& f) { verwirf(l, f.Zeile(), f.what()); }
+
+Lesebefund abgebrochen(const Lesefehler& f) { return {Leseausgang::abgebrochen, f.Zeile(), f.what(), {}}; }
+
+void loesche_Flaggen_ab(Laufparameter& p, int Stelle) {
+    std::fill(p.Ausgabename_Teile.begin() + std::clamp(Stelle, 0, 7), p.Ausgabename_Teile.end(), std::uint8_t{0});
+}
+
+// Older records have fewer than seven flags: those from the missing tab on are 0. True if it was needed.
+bool lies_Flaggen(Lesung& l) {
+    try {
+        gehe_durch_Ausgabename(l.Leser, l.Parameter);
+        return false;
+    } catch (const Lesefehler& f) {
+        const bool Datei_zu_Ende = l.Leser.Zeilennummer() < f.Zeile();
+        if (!f.am_Aufbau() || Datei_zu_Ende) throw;
+        loesche_Flaggen_ab(l.Parameter, f.Stelle());
+        l.Leser.bemerke(f.Zeile(), std::string(f.what()) + "; from there on all are 0");
+        return true;
+    }
+}
+
+// Lines 4 on. After a complete line 3 the repair is still armed: the first fault of the layout clears
+// the flags from the index of the study on, and the reading takes the next line for line 4.
+void lies_Wirkstoffdaten(Lesung& l, bool Flaggen_repariert) {
+    int Zaehler = static_cast<int>(l.Parameter.Ausgabename_Teile.size());
+    std::optional<Lesefehler> erster;
+    try {
+        gehe_durch_Wirkstoffdaten(l.Leser, l.Parameter, l.Felder, Zaehler);
+        return;
+    } catch (const Lesefehler& f) {
+        if (!f.am_Aufbau()) throw;
+        if (Flaggen_repariert) {
+            verwirf(l, f.Zeile(),
+                    std::string(f.what()) + " (line " + std::to_string(Zeile_der_Flaggen) + " is short of values, too)");
+        }
+        erster = f;
+    }
+    loesche_Flaggen_ab(l.Parameter, Zaehler);
+    l.Leser.bemerke(erster->Zeile(), std::string(erster->what()) + "; reading went on with the line behind as line 4");
+    try {
+        gehe_durch_Wirkstoffdaten(l.Leser, l.Parameter, l.Felder, Zaehler);
+    } catch (const Lesefehler&) {
+        verwirf(l, *erster);
+    }
+}
+
+template <class T>
+void gib_Startwerte(Studientabelle<T>& Tabelle, const Studientabelle<T>& Start, std::size_t ab) {
+    std::copy(Start.begin() + static_cast<std::ptrdiff_t>(ab), Start.end(), Tabelle.begin() + static_cast<std::ptrdiff_t>(ab));
+}
+
+// The places behind the last study: a study added later must not inherit what an earlier record left.
+void gib_Startwerte_hinter_den_Studien(Laufparameter& p) {
+    const Laufparameter Start;
+    const std::size_t ab = p.Anzahl_Studien;
+    for (const auto Tabelle :
+         {&Laufparameter::KOC, &Laufparameter::Q10, &Laufparameter::Walker, &Laufparameter::TRef, &Laufparameter::Kinetik,
+          &Laufparameter::k_SFO, &Laufparameter::k1_DFOP, &Laufparameter::k2_DFOP, &Laufparameter::g_DFOP}) {
+        for (std::size_t i = 0; i < (p.*Tabelle).size(); ++i) gib_Startwerte((p.*Tabelle)[i], (Start.*Tabelle)[i], ab);
+    }
+    for (const auto Tabelle : {&Laufparameter::alpha_FOMC, &Laufparameter::beta_FOMC, &Laufparameter::k1_HS,
+                               &Laufparameter::k2_HS, &Laufparameter::Tb_HS}) {
+        gib_Startwerte(p.*Tabelle, Start.*Tabelle, ab);
+    }
+}
+
+Lesebefund lies_Wirkstoff(Lesung& l) {
+    try {
+        gehe_durch_Wirkstoffkopf(l.Leser, l.Parameter);
+    } catch (const Lesefehler& f) {
+        if (f.am_Aufbau()) return abgebrochen(f);
+        verwirf(l, f);
+    }
+    try {
+        lies_Wirkstoffdaten(l, lies_Flaggen(l));
+    } catch (const Lesefehler& f) {
+        verwirf(l, f);
+    }
+    l.Felder.Studie_Index = 0;
+    gib_Startwerte_hinter_den_Studien(l.Parameter);
+    return {};
+}
+
+Lesebefund lies_ohne_Reparatur(Lesung& l, Satzart Art) {
+    try {
+        if (Art == Applikation) {
+            gehe_durch_Applikation(l.Leser, l.Felder);
+        } else {
+            gehe_durch_Szenario(l.Leser, l.Parameter, l.Felder);
+        }
+        return {};
+    } catch (const Lesefehler& f) {
+        return abgebrochen(f);
+    }
+}
+
+}  // namespace
+
+Lesebefund Satz_lesen_aus(const std::string& Bytes, const std::string& Datei, Satzart Art, Laufparameter& Parameter,
+                          Eingabe& Felder, char Dezimalzeichen) {
+    if (Art < Wirkstoff || Art > Vorlage_Szenario) throw Laufzeitfehler("File " + Datei + " is no record");
+    if (Bytes.size() > Hoechstgroesse_Datei)
+        throw Laufzeitfehler("File " + Datei + ", line 1: the file is too large for a record");
+    Lesung l{Satzleser(Bytes, Dezimalzeichen), Datei, Parameter, Felder};
+    Lesebefund Befund = Grundart(Art) == Wirkstoff ? lies_Wirkstoff(l) : lies_ohne_Reparatur(l, Grundart(Art));
+    Befund.Bemerkungen = std::move(l.Leser.Bemerkungen());
+    Parameter = l.Parameter;
+    Felder = std::move(l.Felder);
+    return Befund;
+}
+
+Lesebefund Satz_lesen(const Projektordner& Ordner, const std::string& Name, Satzart Art, Laufparameter& Parameter,
+                      Eingabe& Felder, char Dezimalzeichen) {
+    if (Art < Wirkstoff || Art > Vorlage_Szenario) throw Laufzeitfehler("\"" + Name + "\" is no record");
+    const std::string Endung = Endungen[Art];
+    const auto Pfad = Ordner.finde(Name, Endung);
+    if (!Pfad) return {Leseausgang::fehlt, 0, {}, {}};
+    return Satz_lesen_aus(lies_Datei(*Pfad), Name + Endung, Art, Parameter, Felder, Dezimalzeichen);
+}
+
+std::string Satz_als_Bytes(Satzart Art, const Laufparameter& Parameter, const Eingabe& Felder, char Dezimalzeichen) {
+    Satzschreiber Schreiber(Dezimalzeichen);
+    Laufparameter p = Parameter;
+    Eingabe e = Felder;
+    int Zaehler = 0;
+    if (Art == Wirkstoff) {
+        gehe_durch_Wirkstoffkopf(Schreiber, p);
+        gehe_durch_Ausgabename(Schreiber, p);
+        gehe_durch_Wirkstoffdaten(Schreiber, p, e, Zaehler);
+    }
+    if (Art == Applikation) gehe_durch_Applikation(Schreiber, e);
+    if (Art == Szenario) gehe_durch_Szenario(Schreiber, p, e);
+    return Schreiber.Bytes();
+}
+
+void Satz_schreiben(const Projektordner& Ordner, const std::string& Name, Satzart Art, const Laufparameter& Parameter,
+                    const Eingabe& Felder, char Dezimalzeichen) {
+    if (Art < Wirkstoff || Art > Szenario) return;
+    const std::string Pfad = Ordner.Zielpfad(Name, Endungen[Art]);
+    schreibe_Datei(Pfad, Satz_als_Bytes(Art, Parameter, Felder, Dezimalzeichen));
+}
+
+}  // namespace varnok

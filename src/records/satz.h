@@ -1,0 +1,54 @@
+#pragma once
+
+// The three kinds of input record: compound, application pattern, scenario. Windows-1252 text with CR
+// LF, read by line position; labels are written and never compared.
+
+#include <string>
+#include <vector>
+
+#include "records/projektordner.h"
+#include "run/eingabe.h"
+#include "run/laufparameter.h"
+
+namespace varnok {
+
+// Something in a record that was read in a way its author may not have meant.
+struct Bemerkung {
+    int Zeile = 0;  // counted from 1
+    std::string Text;  // e.g. "abc" is no number and was read as 0
+};
+
+enum class Leseausgang {
+    gelesen,
+    abgebrochen,  // reading ended before the record did; what was read so far is in force
+    fehlt,        // there is no such file; nothing was changed
+};
+
+struct Lesebefund {
+    Leseausgang Ausgang = Leseausgang::gelesen;
+    int Zeile = 0;       // of the end of an early stop, counted from 1
+    std::string Grund;   // why reading stopped
+    std::vector<Bemerkung> Bemerkungen;
+};
+
+// Reads a record of the types 1 to 6 (a template reads as its kind) into parameters and fields.
+// Values that pass through a number come back in general form with `Dezimalzeichen`.
+// Throws Laufzeitfehler that names file, line and fault where the record cannot be used; parameters
+// and fields are then as they were.
+Lesebefund Satz_lesen(const Projektordner& Ordner, const std::string& Name, Satzart Art, Laufparameter& Parameter,
+                      Eingabe& Felder, char Dezimalzeichen = '.');
+
+// The same from bytes; `Datei` names the source in messages.
+Lesebefund Satz_lesen_aus(const std::string& Bytes, const std::string& Datei, Satzart Art, Laufparameter& Parameter,
+                          Eingabe& Felder, char Dezimalzeichen = '.');
+
+// Writes a record of the types 1 to 3 from parameters and fields over any file of that name; other
+// types write nothing. Throws Laufzeitfehler: the name is none, a text has a character without a place
+// in Windows-1252 (or a tab or line end), the file cannot be written. The old file is then untouched.
+void Satz_schreiben(const Projektordner& Ordner, const std::string& Name, Satzart Art, const Laufparameter& Parameter,
+                    const Eingabe& Felder, char Dezimalzeichen = '.');
+
+// The bytes that `Satz_schreiben` writes.
+std::string Satz_als_Bytes(Satzart Art, const Laufparameter& Parameter, const Eingabe& Felder, char Dezimalzeichen = '.');
+
+}  // namespace varnok

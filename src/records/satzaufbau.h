@@ -1,0 +1,76 @@
+#pragma once
+
+// How the lines of a record stand one below the other: one description for each kind, which a reader
+// and a writer walk through alike. What is read by one rule can so not be written by another.
+
+#include <cstdint>
+#include <initializer_list>
+#include <string>
+#include <string_view>
+#include <variant>
+
+#include "run/eingabe.h"
+#include "run/laufparameter.h"
+
+namespace varnok {
+
+enum class Feldart {
+    ganze_Zahl,  // rounded to the nearest whole number, ties to even, within [von, bis]
+    Kennzahl,    // must be whole, within [von, bis]
+    Zahl,
+    Text,
+    Zahltext,   // a text that comes back as a number in general form
+    Tageszahl,  // a day or month of the table, shown with two digits; blank stays blank
+    Rohzahl,    // a text that means a number and stays as it was typed, without outer blanks
+};
+
+// One value of a line and the place that it goes to. An `int` place is a zero-based position in a
+// list whose first entry is `von`.
+struct Feld {
+    Feldart Art;
+    std::variant<std::uint8_t*, int*, double*, std::string*> Platz;
+    int von = 0;
+    int bis = 0;
+    bool mit_Komma = true;    // a decimal comma counts as a point
+    bool abwaehlbar = false;  // the number before `von` leaves the list without a selection
+};
+
+// The walk through a record. Throws what its kind of walk throws.
+class Satzgang {
+public:
+    virtual ~Satzgang() = default;
+
+    // A line without values for the program.
+    virtual void Ueberschrift(std::string_view Text) = 0;
+    // Begins a line with a label, or a row of the table (counted from 1) without one.
+    virtual void beginne(std::string_view Beschriftung) = 0;
+    virtual void beginne_Tabellenzeile(int Nummer) = 0;
+    // A value with others behind it, and the last value of a line.
+    virtual void Zwischenwert(const Feld& f) = 0;
+    virtual void Endwert(const Feld& f) = 0;
+    // Whether the record ends here, as those without climate lines do.
+    virtual bool folgt_Trennlinie() = 0;
+    // The divider at the end, which no reader asks for.
+    virtual void Schlusszeile() = 0;
+
+    // A whole line.
+    void Zeile(std::string_view Beschriftung, std::initializer_list<Feld> Felder);
+    void Trennlinie() { Ueberschrift(Trennlinientext); }
+
+    static constexpr std::string_view Trennlinientext = "-----------------------------------------------";
+};
+
+// The description of each kind. A reader's walk changes parameters and fields value by value.
+void gehe_durch_Szenario(Satzgang& g, Laufparameter& p, Eingabe& e);
+void gehe_durch_Applikation(Satzgang& g, Eingabe& e);
+
+// The compound record in the three pieces that tell apart what an error means: lines 1 and 2, the
+// flags of line 3, and the rest. `Zaehler` follows the loop over the studies.
+void gehe_durch_Wirkstoffkopf(Satzgang& g, Laufparameter& p);
+void gehe_durch_Ausgabename(Satzgang& g, Laufparameter& p);
+void gehe_durch_Wirkstoffdaten(Satzgang& g, Laufparameter& p, Eingabe& e, int& Zaehler);
+
+// "7" is not valid for "Unit:" (0 to 1)
+std::string ausserhalb(std::string_view Wertetext, std::string_view Feldname, const Feld& f);
+
+}  // namespace varnok

@@ -1,0 +1,67 @@
+#include "records/satzschreiber.h"
+
+#include <cmath>
+
+#include "base/laufzeitfehler.h"
+#include "base/text.h"
+#include "base/zahlen.h"
+#include "records/satztext.h"
+#include "records/zeilen.h"
+
+namespace varnok {
+
+void Satzschreiber::Ueberschrift(std::string_view Text) { Bytes_ += als_Satztext(Text, "the label") + "\r\n"; }
+
+void Satzschreiber::beginne(std::string_view Beschriftung) {
+    Name_ = '"' + std::string(ohne_Randblanks(Beschriftung)) + '"';
+    Bytes_ += als_Satztext(Beschriftung, "the label") + '\t';
+    Wertanfang_ = Bytes_.size();
+}
+
+void Satzschreiber::beginne_Tabellenzeile(int Nummer) {
+    Name_ = "row " + std::to_string(Nummer) + " of the application table";
+    Wertanfang_ = Bytes_.size();
+}
+
+void Satzschreiber::Zwischenwert(const Feld& f) {
+    schreibe(f);
+    Bytes_ += '\t';
+}
+
+void Satzschreiber::Endwert(const Feld& f) {
+    schreibe(f);
+    // The reader sees no more of a line than this.
+    if (Bytes_.size() - Wertanfang_ > Hoechstlaenge_Wert) {
+        melde(Name_ + " is too long (more than " + std::to_string(Hoechstlaenge_Wert) + " characters)");
+    }
+    Bytes_ += "\r\n";
+}
+
+void Satzschreiber::schreibe(const Feld& f) {
+    const std::string Text = als_Satztext(als_Text(f), Name_);
+    if (Text.find('\t') != std::string::npos) melde(Name_ + " holds a tab");
+    Bytes_ += Text;
+}
+
+std::string Satzschreiber::als_Text(const Feld& f) const {
+    if (const auto Platz = std::get_if<std::string*>(&f.Platz)) return **Platz;
+    if (f.Art == Feldart::Zahl) return als_Zahltext(*std::get<double*>(f.Platz));
+
+    double Zahl = 0;
+    if (const auto Platz = std::get_if<std::uint8_t*>(&f.Platz)) Zahl = **Platz;
+    if (const auto Platz = std::get_if<double*>(&f.Platz)) Zahl = **Platz;
+    if (const auto Platz = std::get_if<int*>(&f.Platz)) Zahl = **Platz + f.von;
+    if (!(Zahl >= f.von && Zahl <= f.bis && Zahl == std::nearbyint(Zahl))) melde(ausserhalb(allgemeine_Zahl(Zahl), Name_, f));
+    return allgemeine_Zahl(Zahl);
+}
+
+std::string Satzschreiber::als_Zahltext(double Zahl) const {
+    const std::string Text = allgemeine_Zahl(Zahl, Dezimalzeichen_);
+    // The largest double rounds up to a text that no longer fits into one.
+    if (!std::isfinite(Zahl) || !std::isfinite(Wert(Text))) melde("the value of " + Name_ + " is not finite");
+    return Text;
+}
+
+void Satzschreiber::melde(const std::string& Grund) const { throw Laufzeitfehler("The record cannot be saved: " + Grund); }
+
+}  // namespace varnok

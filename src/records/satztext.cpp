@@ -1,0 +1,19 @@
+#include "records/satztext.h"
+
+#include "base/laufzeitfehler.h"
+#include "base/zeichensatz.h"
+
+namespace varnok {
+
+std::string als_Satztext(std::string_view Utf8, std::string_view Feldname) {
+    const std::string Anfang = "The record cannot be saved: " + std::string(Feldname) + " holds ";
+    const auto Bytes = nach_Windows_1252(Utf8);
+    if (!Bytes) {
+        throw Laufzeitfehler(Anfang + "the character \"" + Zeichen_ohne_Platz(Utf8) +
+                             "\", which has no place in its character set (Windows-1252)");
+    }
+    if (Bytes->find_first_of("\r\n") != std::string::npos) throw Laufzeitfehler(Anfang + "a line end");
+    return *Bytes;
+}
+
+}  // namespace varnok

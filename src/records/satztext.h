@@ -1,0 +1,12 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace varnok {
+
+// The bytes of a text in a record or a summary file. Throws Laufzeitfehler that names the field and
+// the character for one without a place in Windows-1252, or for a line end.
+std::string als_Satztext(std::string_view Utf8, std::string_view Feldname);
+
+}  // namespace varnok

@@ -1,0 +1,70 @@
+#include "records/simulation.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <utility>
+
+#include "base/laufzeitfehler.h"
+#include "base/zeichensatz.h"
+#include "records/dateien.h"
+#include "records/satztext.h"
+#include "records/zeilen.h"
+
+namespace varnok {
+namespace {
+
+constexpr std::array<const char*, 4> Zeilennamen = {"the description", "the name of the compound record",
+                                                    "the name of the application pattern record",
+                                                    "the name of the scenario record"};
+
+}  // namespace
+
+Simulationssatz lies_Simulation(const Projektordner& Ordner, const std::string& Name) {
+    const std::string Datei = Name + Endungen[Simulation];
+    const auto Pfad = Ordner.finde(Name, Endungen[Simulation]);
+    if (!Pfad) throw Laufzeitfehler("File " + Datei + " is missing in the folder \"" + Ordner.Eingabeordner() + "\"");
+    const std::string Bytes = lies_Datei(*Pfad);
+    Zeilenfolge Zeilen(Bytes);
+    Simulationssatz Satz;
+    for (std::size_t i = 0; i < Zeilennamen.size(); ++i) {
+        const auto Zeile = Zeilen.naechste();
+        if (!Zeile) {
+            throw Laufzeitfehler("File " + Datei + ", line " + std::to_string(i + 1) + ": the file ends before " +
+                                 Zeilennamen[i]);
+        }
+        (i == 0 ? Satz.Beschreibung : Satz.Dateinamen[i]) = aus_Windows_1252(*Zeile);
+    }
+    return Satz;
+}
+
+void schreibe_Simulation(const Projektordner& Ordner, const std::string& Name, const Simulationssatz& Satz) {
+    const std::string Pfad = Ordner.Zielpfad(Name, Endungen[Simulation]);
+    std::string Bytes;
+    for (std::size_t i = 0; i < Zeilennamen.size(); ++i) {
+        Bytes += als_Satztext(i == 0 ? Satz.Beschreibung : Satz.Dateinamen[i], Zeilennamen[i]) + "\r\n";
+    }
+    schreibe_Datei(Pfad, Bytes);
+}
+
+std::vector<std::string> Simulationen_nach_Alter(const Projektordner& Ordner) {
+    std::vector<std::pair<std::filesystem::file_time_type, std::string>> Gefundene;
+    for (const auto& Name : Ordner.Namen(Endungen[Simulation])) {
+        const auto Pfad = Ordner.finde(Name, Endungen[Simulation]);
+        if (!Pfad) continue;
+        std::error_code Fehler;
+        const auto Stempel = std::filesystem::last_write_time(std::u8string(Pfad->begin(), Pfad->end()), Fehler);
+        if (!Fehler) Gefundene.emplace_back(Stempel, Name);
+    }
+    // Of equal stamps the first in the order of the selector stays in front.
+    std::stable_sort(Gefundene.begin(), Gefundene.end(), [](const auto& a, const auto& b) { return a.first > b.first; });
+    std::vector<std::string> Namen;
+    for (auto& [Stempel, Name] : Gefundene) Namen.push_back(std::move(Name));
+    return Namen;
+}
+
+std::optional<std::string> neueste_Simulation(const Projektordner& Ordner) {
+    const auto Namen = Simulationen_nach_Alter(Ordner);
+    return Namen.empty() ? std::nullopt : std::optional(Namen.front());
+}
+
+}  // namespace varnok

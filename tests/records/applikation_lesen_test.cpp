@@ -1,0 +1,230 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "satzprobe.h"
+
+namespace varnok {
+namespace {
+
+using namespace probe;
+using ::testing::HasSubstr;
+
+const std::string Satz = Bytes(Applikation, volle_Probe());
+
+TEST(Applikation_lesen, each_line_goes_to_its_place) {
+    Satzprobe p;
+    EXPECT_EQ(lies(Satz, Applikation, p).Ausgang, Leseausgang::gelesen);
+    Satzprobe erwartet;
+    erwartet.Felder.Applikationsmuster = unregelmaessig;
+    erwartet.Felder.PEC_Typ = 1;
+    erwartet.Felder.App_Monat = 2;
+    erwartet.Felder.App_Tag = 30;
+    erwartet.Felder.Applikationsrate = "750.5";
+    erwartet.Felder.Interzeption = "25";
+    erwartet.Felder.Intervall_Index = 13;
+    erwartet.Felder.Anzahl_Index = 1;
+    erwartet.Felder.Applikationsschema = {{"01", "04", "100", "0"}, {"15", "04", "200.5", "12.5"}, {"30", "11", "", "50"}};
+    EXPECT_EQ(p, erwartet);
+}
+
+TEST(Applikation_lesen, list_positions_are_the_numbers_less_the_first_entry) {
+    Satzprobe p;
+    auto Zeilen = zerlegt(Satz);
+    Zeilen[3] = "Regular application date:\t12\t1";
+    Zeilen[6] = "Time between applications:\t1";
+    Zeilen[7] = "Number of applications per year:\t2";
+    EXPECT_EQ(lies(verbunden(Zeilen), Applikation, p).Ausgang, Leseausgang::gelesen);
+    EXPECT_EQ(p.Felder.App_Monat, 11);
+    EXPECT_EQ(p.Felder.App_Tag, 0);
+    EXPECT_EQ(p.Felder.Intervall_Index, 0);
+    EXPECT_EQ(p.Felder.Anzahl_Index, 0);
+}
+
+TEST(Applikation_lesen, rate_and_interception_come_back_in_general_form) {
+    for (const char z : {'.', ','}) {
+        Satzprobe p;
+        auto Zeilen = zerlegt(Satz);
+        Zeilen[4] = "Application rate (g/ha):\t 0750,50 g";
+        Zeilen[5] = "Crop interception (%):\t";
+        Zeilen[9] = "1\t4\t 100,0 \t12,50";
+        lies(verbunden(Zeilen), Applikation, p, z);
+        EXPECT_EQ(p.Felder.Applikationsrate, std::string("750") + z + "5");
+        EXPECT_EQ(p.Felder.Interzeption, "0");
+        // In the table the rate stays as it stands, without the blanks around it.
+        EXPECT_EQ(p.Felder.Applikationsschema[0], (Applikationszeile{"01", "04", "100,0", std::string("12") + z + "5"}));
+    }
+}
+
+TEST(Applikation_lesen, day_and_month_of_the_table_have_two_digits_and_blanks_stay_blank) {
+    Satzprobe p;
+    auto Zeilen = zerlegt(Satz);
+    Zeilen[9] = "7\t 3 \t\t";
+    Zeilen[10] = "\t\t\t";
+    Zeilen[11] = "-1\t1E300\tx\ty";
+    const Lesebefund b = lies(verbunden(Zeilen), Applikation, p);
+    EXPECT_EQ(b.Ausgang, Leseausgang::gelesen);
+    EXPECT_EQ(p.Felder.Applikationsschema[0], (Applikationszeile{"07", "03", "", "0"}));
+    EXPECT_EQ(p.Felder.Applikationsschema[1], (Applikationszeile{"", "", "", "0"}));
+    EXPECT_EQ(p.Felder.Applikationsschema[2], (Applikationszeile{"-01", "1E+300", "x", "0"}));
+    ASSERT_EQ(b.Bemerkungen.size(), 2u);
+    EXPECT_EQ(b.Bemerkungen[0].Zeile, 12);
+    EXPECT_EQ(b.Bemerkungen[0].Text, "\"x\" is no number and was read as 0 for row 3 of the application table");
+}
+
+TEST(Applikation_lesen, text_as_a_day_of_the_table_reads_as_00) {
+    Satzprobe p;
+    EXPECT_EQ(lies(mit_Zeile(Satz, 10, "May\t1\t2\t3"), Applikation, p).Bemerkungen.size(), 1u);
+    EXPECT_EQ(p.Felder.Applikationsschema[0][0], "00");
+}
+
+TEST(Applikation_lesen, interval_above_365_by_number_becomes_the_last_entry) {
+    Satzprobe p;
+    lies(mit_Zeile(Satz, 7, "Time between applications:\t365"), Applikation, p);
+    EXPECT_EQ(p.Felder.Anzahl(), 3);
+    EXPECT_EQ(p.Felder.Intervall(), 122);  // 365/3
+}
+
+TEST(Applikation_lesen, what_a_record_gives_does_not_depend_on_the_one_before) {
+    Satzprobe viele = volle_Probe();
+    viele.Felder.Anzahl_Index = 18;
+    viele.Felder.Intervall_Index = 5;
+    viele.Felder.Applikationsschema.assign(20, {"09", "09", "9", "9"});
+    viele.Parameter = {};
+    viele.Felder.Studie.clear();
+    Satzprobe keine;
+    const std::string weit = mit_Zeile(Satz, 7, "Time between applications:\t100");
+    lies(weit, Applikation, viele);
+    lies(weit, Applikation, keine);
+    EXPECT_EQ(Bytes(Applikation, viele), Bytes(Applikation, keine));
+    EXPECT_EQ(viele.Felder.Intervall(), 100);
+    EXPECT_EQ(viele.Felder.Applikationsschema.size(), 3u);
+}
+
+TEST(Applikation_lesen, crop_rotation_is_left_alone) {
+    Satzprobe p;
+    p.Felder.Fruchtwechsel = 2;
+    lies(Satz, Applikation, p);
+    EXPECT_EQ(p.Felder.Fruchtwechsel, 2);
+}
+
+TEST(Applikation_lesen, type_and_day_know_no_decimal_comma) {
+    Satzprobe p;
+    auto Zeilen = zerlegt(Satz);
+    Zeilen[1] = "Application type:\t1,9";
+    Zeilen[3] = "Regular application date:\t3\t7,9";
+    lies(verbunden(Zeilen), Applikation, p);
+    EXPECT_EQ(p.Felder.Applikationsmuster, 1);
+    EXPECT_EQ(p.Felder.App_Tag, 6);
+}
+
+TEST(Applikation_lesen, position_is_rounded_after_the_subtraction) {
+    Satzprobe p;
+    // 2.5 - 1 = 1.5 rounds to position 2; 2.5 itself would round to 2 and so to position 1.
+    lies(mit_Zeile(Satz, 4, "Regular application date:\t2.5\t1"), Applikation, p);
+    EXPECT_EQ(p.Felder.App_Monat, 2);
+}
+
+struct Abbruch {
+    std::size_t Zeile;
+    const char* Text;
+    const char* Grund;
+};
+
+class Applikation_Abbruch : public ::testing::TestWithParam<Abbruch> {};
+
+TEST_P(Applikation_Abbruch, value_outside_its_list_ends_the_reading_there) {
+    const auto& [Zeile, Text, Grund] = GetParam();
+    Satzprobe p;
+    const Lesebefund b = lies(mit_Zeile(Satz, Zeile, Text), Applikation, p);
+    EXPECT_EQ(b.Ausgang, Leseausgang::abgebrochen);
+    EXPECT_EQ(b.Zeile, static_cast<int>(Zeile));
+    EXPECT_THAT(b.Grund, HasSubstr(Grund));
+    // Above the fault the record is in force, below it nothing has changed.
+    const Eingabe alt;
+    EXPECT_EQ(p.Felder.Applikationsmuster, Zeile > 2 ? unregelmaessig : alt.Applikationsmuster);
+    EXPECT_EQ(p.Felder.PEC_Typ, Zeile > 3 ? 1 : alt.PEC_Typ);
+    EXPECT_EQ(p.Felder.Applikationsrate, Zeile > 5 ? "750.5" : alt.Applikationsrate);
+    EXPECT_EQ(p.Felder.Interzeption, Zeile > 6 ? "25" : alt.Interzeption);
+    EXPECT_EQ(p.Felder.Intervall_Index, Zeile > 7 ? 13 : alt.Intervall_Index);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    alle, Applikation_Abbruch,
+    ::testing::Values(
+        Abbruch{2, "Application type:\t3", "\"3\" is not valid for \"Application type:\" (0 to 2)"},
+        Abbruch{2, "Application type:\t-1", "\"-1\" is not valid"},
+        Abbruch{3, "PEC-Type:\t3", "\"3\" is not valid for \"PEC-Type:\" (0 to 2)"},
+        Abbruch{4, "Regular application date:\t13\t1", "\"13\" is not valid for \"Regular application date:\" (1 to 12)"},
+        Abbruch{4, "Regular application date:\t0\t1", "\"0\" is not valid"},
+        Abbruch{4, "Regular application date:\t4\t31", "\"31\" is not valid for \"Regular application date:\" (1 to 30)"},
+        Abbruch{4, "Regular application date:\t2\t29", "(1 to 28)"}, Abbruch{4, "Regular application date:\t4\t0", "(1 to 30)"},
+        Abbruch{4, "Regular application date:\t4", "has too few values"},
+        Abbruch{5, "Application rate (g/ha):\t1E400", "\"1E400\" is too large a number"},
+        Abbruch{6, "Crop interception (%):\t-1E400", "too large"}, Abbruch{7, "Time between applications:\t0", "(1 to 365)"},
+        Abbruch{7, "Time between applications:\t366", "(1 to 365)"},
+        Abbruch{8, "Number of applications per year:\t0", "(2 to 20)"},
+        Abbruch{8, "Number of applications per year:\t1",
+                "\"1\" is not valid for \"Number of applications per year:\" (2 to 20)"},
+        Abbruch{8, "Number of applications per year:\t21", "(2 to 20)"},
+        Abbruch{8, "Number of applications per year:\t1E9", "(2 to 20)"}));
+
+TEST(Applikation_lesen, one_application_leaves_the_list_without_a_selection) {
+    Satzprobe p;
+    lies(mit_Zeile(Satz, 8, "Number of applications per year:\t1"), Applikation, p);
+    EXPECT_EQ(p.Felder.Anzahl_Index, -1);
+    EXPECT_EQ(p.Felder.Applikationsschema, Eingabe{}.Applikationsschema);
+}
+
+TEST(Applikation_lesen, no_other_number_outside_the_list_changes_the_selection) {
+    for (const char* Text : {"Number of applications per year:\t0", "Number of applications per year:\t21"}) {
+        Satzprobe p;
+        p.Felder.Anzahl_Index = 4;
+        lies(mit_Zeile(Satz, 8, Text), Applikation, p);
+        EXPECT_EQ(p.Felder.Anzahl_Index, 4);
+    }
+}
+
+TEST(Applikation_lesen, month_in_force_cuts_off_a_day_that_it_does_not_have) {
+    Satzprobe p;
+    p.Felder.App_Monat = 0;
+    p.Felder.App_Tag = 30;
+    lies(mit_Zeile(Satz, 4, "Regular application date:\t2\t30"), Applikation, p);
+    EXPECT_EQ(p.Felder.App_Monat, 1);
+    EXPECT_EQ(p.Felder.App_Tag, 27);
+}
+
+TEST(Applikation_lesen, missing_row_ends_the_reading_and_keeps_the_rows_above) {
+    Satzprobe p;
+    p.Felder.Anzahl_Index = 1;
+    p.Felder.Applikationsschema.assign(3, {"09", "09", "9", "9"});
+    const Lesebefund b = lies(vor_Zeile(Satz, 12) + Trennlinie + "\r\n", Applikation, p);
+    EXPECT_EQ(b.Ausgang, Leseausgang::abgebrochen);
+    EXPECT_EQ(b.Zeile, 12);
+    EXPECT_EQ(b.Grund, "row 3 of the application table has too few values (no tab behind value 1)");
+    EXPECT_EQ(p.Felder.Applikationsschema[1][0], "15");
+    EXPECT_EQ(p.Felder.Applikationsschema[2], (Applikationszeile{"09", "09", "9", "9"}));
+}
+
+TEST(Applikation_lesen, row_without_a_tab_keeps_the_cells_before_it) {
+    Satzprobe p;
+    const Lesebefund b = lies(mit_Zeile(Satz, 11, "20\t05"), Applikation, p);
+    EXPECT_EQ(b.Zeile, 11);
+    EXPECT_EQ(p.Felder.Applikationsschema[1], (Applikationszeile{"20", "", "", ""}));
+}
+
+TEST(Applikation_lesen, file_that_ends_early_leaves_the_rest_as_it_was) {
+    for (std::size_t Zeile = 1; Zeile <= 12; ++Zeile) {
+        Satzprobe p;
+        const Lesebefund b = lies(vor_Zeile(Satz, Zeile), Applikation, p);
+        EXPECT_EQ(b.Ausgang, Leseausgang::abgebrochen) << Zeile;
+        EXPECT_EQ(b.Zeile, static_cast<int>(Zeile));
+        EXPECT_EQ(p.Felder.PEC_Typ, Zeile > 3 ? 1 : 0) << Zeile;
+        EXPECT_EQ(p.Felder.Anzahl(), Zeile > 8 ? 3 : 2) << Zeile;
+        EXPECT_EQ(p.Felder.Applikationsschema[0][0], Zeile > 10 ? "01" : "") << Zeile;
+    }
+    Satzprobe p;
+    EXPECT_EQ(lies(vor_Zeile(Satz, 13), Applikation, p).Ausgang, Leseausgang::gelesen);
+}
+
+}  // namespace
+}  // namespace varnok

@@ -1,0 +1,333 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "satzprobe.h"
+
+namespace varnok {
+namespace {
+
+using namespace probe;
+using ::testing::HasSubstr;
+
+const std::string Satz = Bytes(Wirkstoff, volle_Probe(2));
+
+// Lines of a record: 9 of the head, 15 for each study, then 8.
+constexpr std::size_t Flaggen = 3;
+constexpr std::size_t erste_Studie = 10;
+constexpr std::size_t zweite_Studie = 25;
+constexpr std::size_t gezeigter_Stoff = 40;
+constexpr std::size_t Rechnungsart = 43;
+constexpr std::size_t Wirkstoffzeile = 44;
+
+TEST(Wirkstoff_lesen, each_line_goes_to_its_place) {
+    Satzprobe p;
+    EXPECT_EQ(lies(Satz, Wirkstoff, p).Ausgang, Leseausgang::gelesen);
+    const Satzprobe voll = volle_Probe(2);
+    EXPECT_EQ(p.Parameter.Einheit, 1);
+    EXPECT_EQ(p.Parameter.Separate_Rueckstaende, 2);
+    EXPECT_EQ(p.Parameter.TWA_Zeiten, 0);
+    EXPECT_EQ(p.Parameter.Rechenmodus, 3);
+    EXPECT_EQ(p.Parameter.Ausgabename_Teile, voll.Parameter.Ausgabename_Teile);
+    EXPECT_EQ(p.Parameter.Anzahl_Studien, 2);
+    EXPECT_EQ(p.Felder.Studie, (std::vector<std::string>{"Löss, Feld 1", "Study no 1"}));
+    EXPECT_EQ(p.Parameter.KOC[0][0], 110);
+    EXPECT_EQ(p.Parameter.KOC[2][1], 122);
+    EXPECT_EQ(p.Parameter.Q10[1][0], 2.011);
+    EXPECT_EQ(p.Parameter.Walker[2][1], 0.22);
+    EXPECT_EQ(p.Parameter.TRef[1][1], 17.1);
+    EXPECT_EQ(p.Parameter.Kinetik[0], (Studientabelle<double>{FOMC, HS}));
+    EXPECT_EQ(p.Parameter.Kinetik[1], (Studientabelle<double>{SFO, SFO}));
+    EXPECT_EQ(p.Parameter.Kinetik[2], (Studientabelle<double>{DFOP, DFOP}));
+    EXPECT_EQ(p.Parameter.k_SFO[0][1], 0.05);
+    EXPECT_EQ(p.Parameter.alpha_FOMC[1], 2.7);
+    EXPECT_EQ(p.Parameter.beta_FOMC[0], 1e-5);
+    EXPECT_EQ(p.Parameter.k1_DFOP[0][0], 0.2);
+    EXPECT_EQ(p.Parameter.k2_DFOP[0][0], 0.0003);
+    EXPECT_EQ(p.Parameter.g_DFOP[1][0], 11. / 128);
+    EXPECT_EQ(p.Parameter.k1_HS[1], 0.035);
+    EXPECT_EQ(p.Parameter.k2_HS[1], 0.0035);
+    EXPECT_EQ(p.Parameter.Tb_HS[1], 25);
+    EXPECT_EQ(p.Felder.Substanz, 1);
+    EXPECT_EQ(p.Felder.Berechnungsmodus, 2);
+    EXPECT_EQ(p.Felder.Name_Wirkstoff, "Wirkstoff 1 µ");
+    EXPECT_EQ(p.Felder.Molmasse_Wirkstoff, "300.25");
+    EXPECT_EQ(p.Felder.Name_Met_1, "M 01");
+    EXPECT_EQ(p.Felder.Molmasse_Met_1, "200");
+    EXPECT_EQ(p.Felder.Bildungsanteil_Met_1, "0.5");
+    EXPECT_EQ(p.Felder.Name_Met_2, "M 02");
+    EXPECT_EQ(p.Felder.Molmasse_Met_2, "150.125");
+    EXPECT_EQ(p.Felder.Bildungsanteil_Met_2, "0.25");
+}
+
+TEST(Wirkstoff_lesen, first_study_is_shown) {
+    Satzprobe p;
+    p.Felder.Studie_Index = 4;
+    lies(Satz, Wirkstoff, p);
+    EXPECT_EQ(p.Felder.Studie_Index, 0);
+}
+
+TEST(Wirkstoff_lesen, places_behind_the_last_study_get_start_values) {
+    Satzprobe p = volle_Probe(6);
+    lies(Satz, Wirkstoff, p);
+    const Laufparameter& l = p.Parameter;
+    EXPECT_EQ(p.Felder.Studie.size(), 2u);
+    for (std::size_t Studie = 2; Studie < Studienplaetze; ++Studie) {
+        for (std::size_t c = 0; c < Stoffe; ++c) {
+            EXPECT_EQ(l.k_SFO[c][Studie], 0.01);
+            EXPECT_EQ(l.k1_DFOP[c][Studie], 0.01);
+            EXPECT_EQ(l.k2_DFOP[c][Studie], 0.01);
+            EXPECT_EQ(l.g_DFOP[c][Studie], 0.5);
+            EXPECT_EQ(l.Kinetik[c][Studie], SFO);
+            EXPECT_EQ(l.Q10[c][Studie], 1);
+            EXPECT_EQ(l.Walker[c][Studie], 0);
+            EXPECT_EQ(l.KOC[c][Studie], 0);
+            EXPECT_EQ(l.TRef[c][Studie], 20);
+        }
+        EXPECT_EQ(l.alpha_FOMC[Studie], 0.1);
+        EXPECT_EQ(l.beta_FOMC[Studie], 1);
+        EXPECT_EQ(l.k1_HS[Studie], 0.01);
+        EXPECT_EQ(l.k2_HS[Studie], 0.01);
+        EXPECT_EQ(l.Tb_HS[Studie], 10);
+    }
+    EXPECT_EQ(l.KOC[0][1], 120);
+}
+
+TEST(Wirkstoff_lesen, what_a_record_gives_does_not_depend_on_the_one_before) {
+    Satzprobe nach_anderem = volle_Probe(6);
+    Satzprobe frisch;
+    lies(Satz, Wirkstoff, nach_anderem);
+    lies(Satz, Wirkstoff, frisch);
+    // The scenario and the pattern are no part of this record.
+    nach_anderem.Parameter.Bodendichte = nach_anderem.Parameter.Bodentiefe = nach_anderem.Parameter.Plateautiefe = 0;
+    nach_anderem.Parameter.Kohlenstoffgehalt = nach_anderem.Parameter.Feldkapazitaet = nach_anderem.Parameter.Welkepunkt = 0;
+    nach_anderem.Parameter.Klimamodus = 0;
+    nach_anderem.Parameter.Szenariotemperatur = 20;
+    EXPECT_EQ(nach_anderem.Parameter, frisch.Parameter);
+    EXPECT_EQ(Bytes(Wirkstoff, nach_anderem), Bytes(Wirkstoff, frisch));
+}
+
+TEST(Wirkstoff_lesen, masses_and_fractions_come_back_in_general_form) {
+    for (const char z : {'.', ','}) {
+        Satzprobe p;
+        lies(mit_Zeile(Satz, Wirkstoffzeile + 1, "Metabolite 1:\t M 01 \t0200,50 g/mol\t1E-5"), Wirkstoff, p, z);
+        EXPECT_EQ(p.Felder.Name_Met_1, "M 01");
+        EXPECT_EQ(p.Felder.Molmasse_Met_1, std::string("200") + z + "5");
+        EXPECT_EQ(p.Felder.Bildungsanteil_Met_1, "1E-05");
+    }
+}
+
+TEST(Wirkstoff_lesen, decimal_comma_is_taken_in_every_number_of_a_study) {
+    std::string Komma = Bytes(Wirkstoff, volle_Probe(2), ',');
+    EXPECT_THAT(Komma, HasSubstr("Q10-factor:\t2,01\t2,011\t2,012\r\n"));
+    Satzprobe p, q;
+    lies(Komma, Wirkstoff, p);
+    lies(Satz, Wirkstoff, q);
+    EXPECT_EQ(p.Parameter, q.Parameter);
+}
+
+TEST(Wirkstoff_lesen, compound_shown_knows_no_decimal_comma) {
+    Satzprobe p;
+    lies(mit_Zeile(Satz, gezeigter_Stoff, "Compound shown:\t1,9"), Wirkstoff, p);
+    EXPECT_EQ(p.Felder.Substanz, 1);
+}
+
+TEST(Wirkstoff_lesen, last_divider_is_not_asked_for) {
+    Satzprobe p;
+    EXPECT_EQ(lies(vor_Zeile(Satz, 47), Wirkstoff, p).Ausgang, Leseausgang::gelesen);
+    EXPECT_EQ(Bytes(Wirkstoff, p), Satz);
+}
+
+TEST(Wirkstoff_lesen, template_reads_as_its_kind) {
+    const Probeordner o;
+    o.lege_an("Do not delete this file.chn", Satz);
+    Satzprobe p;
+    EXPECT_EQ(Satz_lesen(o.Ordner(), "do not delete this file", Vorlage_Wirkstoff, p.Parameter, p.Felder).Ausgang,
+              Leseausgang::gelesen);
+    EXPECT_EQ(Bytes(Wirkstoff, p), Satz);
+}
+
+// Line 3 of older records is shorter. k values leave the first k - 1: the last one has no tab behind it.
+struct Flaggenzeile {
+    const char* Text;
+    std::array<std::uint8_t, 7> erwartet;
+};
+
+class Wirkstoff_Flaggen : public ::testing::TestWithParam<Flaggenzeile> {};
+
+TEST_P(Wirkstoff_Flaggen, missing_tab_clears_the_flag_in_progress_and_all_later_ones) {
+    Satzprobe p;
+    p.Parameter.Ausgabename_Teile.fill(9);
+    const Lesebefund b = lies(mit_Zeile(Satz, Flaggen, GetParam().Text), Wirkstoff, p);
+    EXPECT_EQ(b.Ausgang, Leseausgang::gelesen);
+    EXPECT_EQ(p.Parameter.Ausgabename_Teile, GetParam().erwartet);
+    ASSERT_EQ(b.Bemerkungen.size(), 1u);
+    EXPECT_EQ(b.Bemerkungen[0].Zeile, 3);
+    EXPECT_EQ(p.Parameter.Separate_Rueckstaende, 2);
+    EXPECT_EQ(p.Felder.Bildungsanteil_Met_2, "0.25");
+}
+
+using F = std::array<std::uint8_t, 7>;
+INSTANTIATE_TEST_SUITE_P(alle, Wirkstoff_Flaggen,
+                         ::testing::Values(Flaggenzeile{"Output file name :\t1\t2\t3\t4\t5\t6", F{1, 2, 3, 4, 5, 0, 0}},
+                                           Flaggenzeile{"Output file name :\t1\t2\t3\t4", F{1, 2, 3, 0, 0, 0, 0}},
+                                           Flaggenzeile{"Output file name :\t1\t2", F{1, 0, 0, 0, 0, 0, 0}},
+                                           Flaggenzeile{"Output file name :\t1", F{}}, Flaggenzeile{"Output file name :\t", F{}},
+                                           Flaggenzeile{"Output file name :", F{}}, Flaggenzeile{"", F{}}));
+
+TEST(Wirkstoff_Flaggen, six_values_with_a_tab_behind_the_last_are_seven) {
+    Satzprobe p;
+    const Lesebefund b = lies(mit_Zeile(Satz, Flaggen, "Output file name :\t1\t2\t3\t4\t5\t6\t"), Wirkstoff, p);
+    EXPECT_EQ(p.Parameter.Ausgabename_Teile, (F{1, 2, 3, 4, 5, 6, 0}));
+    EXPECT_TRUE(b.Bemerkungen.empty());
+}
+
+TEST(Wirkstoff_Flaggen, error_after_the_repair_rejects_the_record) {
+    const std::string kurz = mit_Zeile(Satz, Flaggen, "Output file name :\t1\t1\t1\t1");
+    for (const auto& [Bytes_, Stelle] :
+         {std::pair{vor_Zeile(kurz, 20), "line 20: the file ends before \"DFOP k2 (1/d):\""},
+          std::pair{mit_Zeile(kurz, 11, "KOC (L/kg):\t1\t2"), "line 11: \"KOC (L/kg):\" has too few values"}}) {
+        Satzprobe p = volle_Probe(4);
+        const Satzprobe vorher = p;
+        const auto Fehler = Fehler_beim_Lesen(Bytes_, Wirkstoff, p);
+        ASSERT_TRUE(Fehler);
+        EXPECT_THAT(*Fehler, HasSubstr(std::string("File probe.che, ") + Stelle));
+        EXPECT_EQ(p, vorher);
+    }
+}
+
+// A complete line 3 leaves the repair armed: the first fault clears the flags from the study's index on
+// and the line behind it is taken for line 4.
+std::string mit_Fortsetzung(std::size_t schadhaft, const std::string& Zeile) {
+    auto Zeilen = zerlegt(mit_Zeile(vor_Zeile(Satz, schadhaft + 1), schadhaft, Zeile));
+    const auto ganz = zerlegt(Bytes(Wirkstoff, volle_Probe(3)));
+    Zeilen.insert(Zeilen.end(), ganz.begin() + 3, ganz.end());
+    return verbunden(Zeilen);
+}
+
+TEST(Wirkstoff_Flaggen, fault_in_the_first_study_clears_all_flags_and_goes_on_with_line_4) {
+    Satzprobe p;
+    const Lesebefund b = lies(mit_Fortsetzung(erste_Studie + 1, "KOC (L/kg):\t1\t2"), Wirkstoff, p);
+    EXPECT_EQ(b.Ausgang, Leseausgang::gelesen);
+    EXPECT_EQ(p.Parameter.Ausgabename_Teile, F{});
+    EXPECT_EQ(p.Felder.Studie, volle_Probe(3).Felder.Studie);
+    EXPECT_EQ(p.Parameter.KOC[0][0], 110);
+    EXPECT_EQ(p.Parameter.Einheit, 1);
+    ASSERT_EQ(b.Bemerkungen.size(), 1u);
+    EXPECT_EQ(b.Bemerkungen[0].Zeile, 11);
+}
+
+TEST(Wirkstoff_Flaggen, fault_in_the_second_study_keeps_the_first_flag) {
+    Satzprobe p;
+    lies(mit_Fortsetzung(zweite_Studie + 5, "Kinetics:\t0"), Wirkstoff, p);
+    EXPECT_EQ(p.Parameter.Ausgabename_Teile, (F{1, 0, 0, 0, 0, 0, 0}));
+    EXPECT_EQ(p.Parameter.Anzahl_Studien, 3);
+}
+
+TEST(Wirkstoff_Flaggen, fault_behind_the_studies_keeps_as_many_flags_as_there_are_studies) {
+    Satzprobe p;
+    lies(mit_Fortsetzung(Wirkstoffzeile, "Parent: no tab"), Wirkstoff, p);
+    EXPECT_EQ(p.Parameter.Ausgabename_Teile, (F{1, 0, 0, 0, 0, 0, 0}));
+    p = {};
+    auto Zeilen = zerlegt(mit_Fortsetzung(Wirkstoffzeile, "Parent: no tab"));
+    Zeilen[2] = "Output file name :\t1\t2\t3\t4\t5\t6\t7";
+    lies(verbunden(Zeilen), Wirkstoff, p);
+    EXPECT_EQ(p.Parameter.Ausgabename_Teile, (F{1, 2, 0, 0, 0, 0, 0}));
+}
+
+TEST(Wirkstoff_Flaggen, second_fault_rejects_the_record_and_names_the_first) {
+    Satzprobe p = volle_Probe(4);
+    const Satzprobe vorher = p;
+    const auto Fehler = Fehler_beim_Lesen(mit_Zeile(Satz, 26, "KOC (L/kg):\t1\t2"), Wirkstoff, p);
+    ASSERT_TRUE(Fehler);
+    EXPECT_EQ(*Fehler, "File probe.che, line 26: \"KOC (L/kg):\" has too few values (no tab behind value 2)");
+    EXPECT_EQ(p, vorher);
+}
+
+TEST(Wirkstoff_lesen, file_that_ends_before_line_3_changes_nothing) {
+    for (std::size_t Zeile = 1; Zeile <= 2; ++Zeile) {
+        Satzprobe p = volle_Probe(4);
+        const Satzprobe vorher = p;
+        const Lesebefund b = lies(vor_Zeile(Satz, Zeile), Wirkstoff, p);
+        EXPECT_EQ(b.Ausgang, Leseausgang::abgebrochen);
+        EXPECT_EQ(b.Zeile, static_cast<int>(Zeile));
+        EXPECT_EQ(p, vorher);
+    }
+}
+
+TEST(Wirkstoff_lesen, file_that_ends_before_the_flags_is_not_one_with_few_flags) {
+    Satzprobe p;
+    EXPECT_EQ(Fehler_beim_Lesen(vor_Zeile(Satz, 3), Wirkstoff, p),
+              "File probe.che, line 3: the file ends before \"Output file name :\"");
+}
+
+TEST(Wirkstoff_lesen, file_that_ends_at_any_later_line_is_rejected_with_that_line) {
+    for (std::size_t Zeile = 3; Zeile <= 46; ++Zeile) {
+        Satzprobe p = volle_Probe(4);
+        const Satzprobe vorher = p;
+        const auto Fehler = Fehler_beim_Lesen(vor_Zeile(Satz, Zeile), Wirkstoff, p);
+        ASSERT_TRUE(Fehler) << Zeile;
+        EXPECT_THAT(*Fehler, HasSubstr("File probe.che, line " + std::to_string(Zeile) + ": the file ends before "));
+        EXPECT_EQ(p, vorher);
+    }
+}
+
+struct Unwert {
+    std::size_t Zeile;
+    const char* Text;
+    const char* Grund;
+};
+
+class Wirkstoff_Unwert : public ::testing::TestWithParam<Unwert> {};
+
+TEST_P(Wirkstoff_Unwert, value_that_its_place_cannot_hold_rejects_the_record_at_once) {
+    const auto& [Zeile, Text, Grund] = GetParam();
+    // What stands behind would let the reading go on at line 4, were this a fault for the repair.
+    const auto ganz = zerlegt(Satz);
+    const std::string Rest = verbunden({ganz.begin() + 3, ganz.end()});
+    Satzprobe p = volle_Probe(4);
+    const Satzprobe vorher = p;
+    const auto Fehler = Fehler_beim_Lesen(vor_Zeile(mit_Zeile(Satz, Zeile, Text), Zeile + 1) + Rest, Wirkstoff, p);
+    ASSERT_TRUE(Fehler);
+    EXPECT_EQ(*Fehler, "File probe.che, line " + std::to_string(Zeile) + ": " + Grund);
+    EXPECT_EQ(p, vorher);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    alle, Wirkstoff_Unwert,
+    ::testing::Values(Unwert{2, "Unit:\t7", "\"7\" is not valid for \"Unit:\" (0 to 1)"},
+                      Unwert{2, "Unit:\t1E400", "\"1E400\" is too large a number for \"Unit:\""},
+                      Unwert{3, "Output file name :\t1\t256\t1\t1\t0\t0\t0",
+                             "\"256\" is not valid for \"Output file name :\" (0 to 255)"},
+                      Unwert{3, "Output file name :\t-1\t1", "\"-1\" is not valid for \"Output file name :\" (0 to 255)"},
+                      Unwert{4, "Separate residues:\t3", "\"3\" is not valid for \"Separate residues:\" (0 to 2)"},
+                      Unwert{5, "TWA according to EU:\t2", "\"2\" is not valid for \"TWA according to EU:\" (0 to 1)"},
+                      Unwert{6, "Calculation mode:\t256", "\"256\" is not valid for \"Calculation mode:\" (0 to 255)"},
+                      Unwert{9, "Number of studies:\t0", "\"0\" is not valid for \"Number of studies:\" (1 to 6)"},
+                      Unwert{9, "Number of studies:\t7", "\"7\" is not valid for \"Number of studies:\" (1 to 6)"},
+                      Unwert{9, "Number of studies:\tmany", "\"many\" is not valid for \"Number of studies:\" (1 to 6)"},
+                      Unwert{11, "KOC (L/kg):\t1\t1E400\t1", "\"1E400\" is too large a number for \"KOC (L/kg):\""},
+                      Unwert{15, "Kinetics:\t4\t0\t0", "\"4\" is not valid for \"Kinetics:\" (0 to 3)"},
+                      Unwert{15, "Kinetics:\t0.5\t0\t0", "\"0.5\" is not valid for \"Kinetics:\" (0 to 3)"},
+                      Unwert{15, "Kinetics:\t0\t2\t0", "\"2\" is not valid for \"Kinetics:\" (0 to 1)"},
+                      Unwert{15, "Kinetics:\t0\t0\t-1", "\"-1\" is not valid for \"Kinetics:\" (0 to 1)"},
+                      Unwert{gezeigter_Stoff, "Compound shown:\t3", "\"3\" is not valid for \"Compound shown:\" (0 to 2)"},
+                      Unwert{Rechnungsart, "Type of calculation:\t4", "\"4\" is not valid for \"Type of calculation:\" (0 to 3)"},
+                      Unwert{Wirkstoffzeile, "Parent:\tA\t1E999", "\"1E999\" is too large a number for \"Parent:\""}));
+
+TEST(Wirkstoff_lesen, crop_rotation_and_pattern_are_left_alone) {
+    Satzprobe p;
+    p.Felder.Fruchtwechsel = 1;
+    p.Felder.Applikationsrate = "5";
+    lies(Satz, Wirkstoff, p);
+    EXPECT_EQ(p.Felder.Fruchtwechsel, 1);
+    EXPECT_EQ(p.Felder.Applikationsrate, "5");
+}
+
+}  // namespace
+}  // namespace varnok
