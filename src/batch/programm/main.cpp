@@ -1,0 +1,5 @@
+#include <iostream>
+
+#include "batch/varnok_batch.h"
+
+int main(int argc, char** argv) { return varnok::varnok_batch(argc, argv, std::cout, std::cerr); }

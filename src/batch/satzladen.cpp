@@ -1,0 +1,56 @@
+#include "batch/satzladen.h"
+
+#include <algorithm>
+
+#include "base/laufzeitfehler.h"
+#include "batch/dateipfad.h"
+#include "records/satz.h"
+
+namespace varnok {
+namespace {
+
+constexpr std::array<const char*, 4> Satzwoerter = {"", "compound record", "application pattern record", "scenario record"};
+
+// The compound brings the studies and the scheme; what else it needs of the screen comes after it.
+constexpr std::array Lesefolge = {Wirkstoff, Szenario, Applikation};
+
+// A selector finds a record only letter for letter, even where the file system would be content with less.
+void fordere_Satz(const Auftrag& a, const std::string& Simulationsname, const Simulationssatz& Satz, Satzart Art) {
+    const auto& Namen = a.Satznamen[Art];
+    const std::string& Name = Satz.Dateinamen[Art];
+    if (std::binary_search(Namen.begin(), Namen.end(), Name)) return;
+    // Line 1 of the summary file is the description, so the kinds of record stand on lines 2 to 4.
+    std::string Text =
+        Dateistelle(Simulationsname + Endungen[Simulation], Art + 1) + ": there is no " + Satzwoerter[Art] + " \"" + Name + "\"";
+    const auto aehnlich = a.Ordner.finde(Name, Endungen[Art]);
+    if (aehnlich && std::binary_search(Namen.begin(), Namen.end(), Satzname(*aehnlich))) {
+        Text += "; there is \"" + Satzname(*aehnlich) + "\", which differs in upper and lower case";
+    }
+    throw Laufzeitfehler(Text);
+}
+
+}  // namespace
+
+std::string Dateistelle(const std::string& Dateiname, int Zeile) {
+    return "file " + Dateiname + (Zeile > 0 ? ", line " + std::to_string(Zeile) : "");
+}
+
+std::string Satzdatei(const Simulationssatz& Satz, Satzart Art) { return Satz.Dateinamen[Art] + Endungen[Art]; }
+
+void lade_Saetze(const Auftrag& a, const std::string& Simulation, const Simulationssatz& Satz, Lauf& l,
+                 std::vector<std::string>& Bemerkungen) {
+    l.Felder.Beschreibung = Satz.Beschreibung;
+    l.Felder.Aktuelle_Dateinamen = Satz.Dateinamen;
+    l.Felder.Aktuelle_Dateinamen[0] = Simulation;
+    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) fordere_Satz(a, Simulation, Satz, Art);
+    for (const Satzart Art : Lesefolge) {
+        const std::string Datei = Satzdatei(Satz, Art);
+        const Lesebefund Befund = Satz_lesen(a.Ordner, Satz.Dateinamen[Art], Art, l.Parameter, l.Felder);
+        for (const Bemerkung& b : Befund.Bemerkungen) Bemerkungen.push_back(Dateistelle(Datei, b.Zeile) + ": " + b.Text);
+        if (Befund.Ausgang == Leseausgang::fehlt) throw Laufzeitfehler(Dateistelle(Datei) + " is missing");
+        if (Befund.Ausgang == Leseausgang::abgebrochen)
+            throw Laufzeitfehler(Dateistelle(Datei, Befund.Zeile) + ": " + Befund.Grund);
+    }
+}
+
+}  // namespace varnok

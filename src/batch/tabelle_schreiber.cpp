@@ -1,0 +1,111 @@
+#include <algorithm>
+#include <array>
+
+#include "base/zahlen.h"
+#include "base/zeichensatz.h"
+#include "batch/schreiber.h"
+#include "exposure/ergebnistabelle.h"
+
+namespace varnok {
+namespace {
+
+// Positions of the averaging windows that fit on a line: by default 7, 21, 28, 50, 100 days of the EU list, and
+// 30, 60, 90, 180, 360 days of the monthly one.
+constexpr std::array<std::array<std::size_t, 5>, 2> gezeigte_Fenster = {{{0, 1, 2, 5, 11}, {3, 5, 6, 8, 9}}};
+constexpr std::size_t Textspalten = 2;  // study and compound stand flush left, numbers flush right
+constexpr const char* ohne_Wert = "-";
+
+using Zellen = std::vector<std::string>;
+
+const std::array<std::size_t, 5>& Fenster(const Simulationsergebnis& r) { return gezeigte_Fenster[r.TWA_Zeiten == 0 ? 0 : 1]; }
+
+Zellen Kopfzeile(const Simulationsergebnis& r, const Endpunktergebnis& e) {
+    Zellen k = {"Study", "Compound", "Maximum", "Day", "Plateau", "Max+plateau"};
+    for (const std::size_t j : Fenster(r)) k.push_back("TWA " + allgemeine_Zahl(e.TWA[j].Tage) + " d");
+    k.emplace_back("Reached after 10 years");
+    return k;
+}
+
+Zellen Wertezeile(const Simulationsergebnis& r, const Studienergebnis& s, const Stoffergebnis& c, const Endpunktergebnis& e) {
+    constexpr int Akkumulation = 2;
+    constexpr int jedes_Jahr = 0;
+    const auto Text = [&](double Wert) { return Formatiere_Zahl(Wert, false, true, r.Einheit); };
+    // The closed series gives no plateau for pore water: a 0 would look like a result.
+    const bool Plateau = !e.Plateautext.empty();
+    Zellen z = {std::to_string(s.Nummer) + " " + druckbar(s.Name),
+                druckbar(c.Name),
+                Text(static_cast<double>(e.Maximum_Bodentiefe)),
+                std::to_string(e.Maximumtag_Bodentiefe),
+                Plateau ? Text(static_cast<double>(e.Plateauwert)) : ohne_Wert,
+                Plateau ? Text(Ansichtswert(e.Plateauwert, Akkumulation, jedes_Jahr, e.Maximum_Bodentiefe)) : ohne_Wert};
+    for (const std::size_t j : Fenster(r)) z.push_back(Text(static_cast<double>(e.TWA[j].Maximum)));
+    z.push_back(Plateau ? e.Plateautext : ohne_Wert);
+    return z;
+}
+
+std::string ausgerichtet(const std::vector<Zellen>& Zeilen) {
+    std::vector<std::size_t> Breiten(Zeilen.front().size(), 0);
+    for (const Zellen& z : Zeilen) {
+        for (std::size_t i = 0; i < z.size(); ++i) Breiten[i] = std::max(Breiten[i], Zeichenzahl(z[i]));
+    }
+    std::string Text;
+    for (const Zellen& z : Zeilen) {
+        std::string Zeile;
+        for (std::size_t i = 0; i < z.size(); ++i) {
+            const std::string Luft(Breiten[i] - Zeichenzahl(z[i]), ' ');
+            Zeile += "  " + (i < Textspalten ? z[i] + Luft : Luft + z[i]);
+        }
+        Zeile.erase(Zeile.find_last_not_of(' ') + 1);
+        Text += Zeile + "\n";
+    }
+    return Text;
+}
+
+std::string Endpunkttabelle(const Simulationsergebnis& r, std::size_t i_endpunkt) {
+    const Endpunktergebnis& erster = r.Studien.front().Stoffwerte.front().Endpunktwerte[i_endpunkt];
+    std::vector<Zellen> Zeilen = {Kopfzeile(r, erster)};
+    for (const Studienergebnis& s : r.Studien) {
+        for (const Stoffergebnis& c : s.Stoffwerte) Zeilen.push_back(Wertezeile(r, s, c, c.Endpunktwerte[i_endpunkt]));
+    }
+    return "\nConcentration in " + erster.Name + " (" + erster.Einheit + ")\n" + ausgerichtet(Zeilen);
+}
+
+std::string Simulationstext(const Simulationsergebnis& r) {
+    std::string Text = "Simulation:  " + druckbar(r.Name) + "\n";
+    if (!r.Beschreibung.empty()) Text += "Description: " + druckbar(r.Beschreibung) + "\n";
+    Text += "Records:     compound \"" + druckbar(r.Dateinamen[1]) + "\", application pattern \"" + druckbar(r.Dateinamen[2]) +
+            "\", scenario \"" + druckbar(r.Dateinamen[3]) + "\"\n";
+    for (std::size_t e = 0; e < Endpunkte; ++e) Text += Endpunkttabelle(r, e);
+    for (const Studienergebnis& s : r.Studien) {
+        for (const std::string& w : s.Warnungen)
+            Text += "\nWarning, study " + std::to_string(s.Nummer) + ": " + druckbar(w) + "\n";
+    }
+    return Text;
+}
+
+}  // namespace
+
+std::string druckbar(const std::string& Text) {
+    constexpr unsigned char erstes_von_C1 = 0xC2;  // C1 controls are 0xC2 and 0x80 to 0x9F in UTF-8
+    std::string sauber = Text;
+    for (std::size_t i = 0; i < sauber.size(); ++i) {
+        const auto z = static_cast<unsigned char>(sauber[i]);
+        if (z < 0x20 || z == 0x7F) sauber[i] = '?';
+        if (z != erstes_von_C1 || i + 1 == sauber.size()) continue;
+        const auto danach = static_cast<unsigned char>(sauber[i + 1]);
+        if (danach >= 0x80 && danach < 0xA0) sauber.replace(i, 2, "?");
+    }
+    return sauber;
+}
+
+std::string als_Tabelle(const std::vector<Simulationsausgang>& Ausgaenge) {
+    std::string Text;
+    for (const Simulationsausgang& a : Ausgaenge) {
+        if (a.Fehler) continue;
+        if (!Text.empty()) Text += '\n';
+        Text += Simulationstext(a.Ergebnis);
+    }
+    return Text;
+}
+
+}  // namespace varnok

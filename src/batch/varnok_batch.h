@@ -1,0 +1,29 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <iosfwd>
+
+namespace varnok {
+
+enum Beendigung {
+    alles_berechnet = 0,
+    Simulation_gescheitert = 1,  // at least one; the others are written
+    falscher_Aufruf = 2,         // or an output that cannot be written
+};
+
+// What the program asks of its surroundings.
+struct Umgebung {
+    std::function<bool()> Fehlerausgabe_ist_Terminal;
+    std::chrono::milliseconds Wartezeit_bis_Balken{1000};
+};
+
+// Whether standard error of the process is a terminal.
+Umgebung Umgebung_des_Prozesses();
+
+// The whole program: the call `argv`, results to `aus`, messages to `fehler`. Returns a `Beendigung`
+// as the exit status; throws nothing.
+int varnok_batch(int argc, const char* const* argv, std::ostream& aus, std::ostream& fehler,
+                 const Umgebung& Umwelt = Umgebung_des_Prozesses());
+
+}  // namespace varnok

@@ -1,0 +1,149 @@
+// Threads, shards and the progress bar.
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <thread>
+
+#include "batch/fortschrittsbalken.h"
+#include "batch/probeprojekt.h"
+#include "batch/schreiber.h"
+#include "batch/simulationslauf.h"
+
+namespace varnok {
+namespace {
+
+using JSON = nlohmann::ordered_json;
+using probe::Inhalt;
+using probe::Probe;
+using probe::Probeprojekt;
+using probe::rufe;
+using testing::HasSubstr;
+using testing::Not;
+
+// Ten simulations of all schemes and kinetics, one of them at fault.
+struct Viele : testing::Test {
+    static std::string Name(int i) { return std::string("s").append(std::to_string(i)); }
+
+    Probeprojekt Projekt;
+    Viele() {
+        for (int i = 0; i < 9; ++i) {
+            Probe p;
+            p.Felder.Berechnungsmodus = i % 4;
+            p.Parameter.Kinetik[0][0] = i % 4;
+            p.Parameter.Separate_Rueckstaende = static_cast<std::uint8_t>(i % 3);
+            p.Parameter.k_SFO[0][0] = 0.001 * (i + 1);
+            p.Felder.Applikationsmuster = regelmaessig;
+            waehle_Anzahl(p.Felder, 2 + i);
+            if (i % 2 == 0) fuege_Studie_an(p, "Second");
+            Projekt.schreibe(Name(i), p);
+        }
+        Projekt.schreibe_Bytes("bad.vnk", "");
+    }
+
+    // JSON, CSV, table and one file of series under a number of threads.
+    std::vector<std::string> alles(const std::string& Arbeiter) {
+        const std::string Tage = Projekt.daneben("days" + Arbeiter);
+        std::vector<std::string> Texte;
+        for (const std::vector<std::string>& Ausgabe :
+             {std::vector<std::string>{"--json", "-"}, {"--csv", "-"}, {}, {"--series", Tage}}) {
+            std::vector<std::string> Argumente = {"--all", "--jobs", Arbeiter};
+            Argumente.insert(Argumente.end(), Ausgabe.begin(), Ausgabe.end());
+            Argumente.push_back(Projekt.Pfad());
+            const auto r = rufe(Argumente);
+            EXPECT_EQ(r.Status, 1);
+            Texte.push_back(r.aus);
+            Texte.push_back(r.fehler);
+        }
+        for (int i = 0; i < 9; ++i) Texte.push_back(Inhalt(Tage + "/" + Name(i) + " - study 1.tab"));
+        return Texte;
+    }
+};
+
+TEST_F(Viele, any_number_of_threads_gives_equal_bytes) {
+    const auto einer = alles("1");
+    EXPECT_EQ(alles("2"), einer);
+    EXPECT_EQ(alles("8"), einer);
+    EXPECT_EQ(alles("0"), einer);
+}
+
+TEST_F(Viele, shards_joined_give_the_bytes_of_one_run) {
+    const JSON ganz = rufe({"--all", "--json", "-", Projekt.Pfad()}).JSON();
+    constexpr std::size_t Teile = 4;
+    std::vector<JSON> Simulationen(Teile);
+    JSON Fehler = JSON::array();
+    for (std::size_t i = 0; i < Teile; ++i) {
+        const JSON Teil = rufe({"--all", "--shard", std::to_string(i) + "/4", "--json", "-", Projekt.Pfad()}).JSON();
+        Simulationen[i] = Teil["simulations"];
+        for (const JSON& f : Teil["errors"]) Fehler.push_back(f);
+    }
+    EXPECT_EQ(Fehler.dump(), ganz["errors"].dump());
+    std::size_t gesamt = 0;
+    for (const JSON& Teil : Simulationen) gesamt += Teil.size();
+    EXPECT_EQ(gesamt, ganz["simulations"].size());
+    for (const JSON& s : ganz["simulations"]) {
+        bool gefunden = false;
+        for (const JSON& Teil : Simulationen)
+            gefunden = gefunden || std::any_of(Teil.begin(), Teil.end(), [&](const JSON& t) { return t.dump() == s.dump(); });
+        EXPECT_TRUE(gefunden) << s["simulation"];
+    }
+}
+
+TEST_F(Viele, simulation_does_not_depend_on_what_ran_before) {
+    const JSON alle = rufe({"--all", "--jobs", "1", "--json", "-", Projekt.Pfad()}).JSON();
+    for (const JSON& s : alle["simulations"]) {
+        const JSON allein = rufe({"--simulation", s["simulation"], "--json", "-", Projekt.Pfad()}).JSON();
+        EXPECT_EQ(allein["simulations"][0].dump(), s.dump());
+    }
+}
+
+// With threads of the standard library alone, whose order a thread sanitizer sees.
+TEST_F(Viele, runs_at_the_same_time_do_not_know_of_each_other) {
+    const Projektordner Ordner(Projekt.Pfad());
+    const Auftrag Arbeit(Ordner);
+    const std::vector<std::string> Namen = Ordner.Namen(Endungen[Simulation]);
+    const auto alle = [&] {
+        std::vector<Simulationsausgang> Ausgaenge;
+        for (const std::string& n : Namen) Ausgaenge.push_back(rechne_Simulation(Arbeit, n));
+        return als_JSON(Ausgaenge);
+    };
+    const std::string einzeln = alle();
+    std::vector<std::string> gleichzeitig(4);
+    {
+        std::vector<std::jthread> Faeden;
+        for (std::string& Text : gleichzeitig) Faeden.emplace_back([&] { Text = alle(); });
+    }
+    for (const std::string& Text : gleichzeitig) EXPECT_EQ(Text, einzeln);
+}
+
+Umgebung Terminal(bool ist_eines) {
+    return {[ist_eines] { return ist_eines; }, std::chrono::milliseconds(0)};
+}
+
+TEST_F(Viele, progress_bar_shows_on_a_terminal_and_is_wiped) {
+    const auto r = rufe({"--simulation", "s0", "--json", "-", Projekt.Pfad()}, Terminal(true));
+    EXPECT_EQ(r.Status, 0);
+    EXPECT_THAT(r.fehler, HasSubstr(" of 1 simulation"));
+    EXPECT_THAT(r.fehler, testing::EndsWith(" \r"));
+    EXPECT_EQ(r.JSON()["simulations"].size(), 1U);
+}
+
+TEST_F(Viele, progress_bar_does_not_show_without_a_terminal_or_with_quiet) {
+    EXPECT_EQ(rufe({"--simulation", "s0", Projekt.Pfad()}, Terminal(false)).fehler, "");
+    EXPECT_EQ(rufe({"--simulation", "s0", "--quiet", Projekt.Pfad()}, Terminal(true)).fehler, "");
+}
+
+TEST_F(Viele, progress_bar_does_not_show_for_short_work) {
+    const Umgebung Umwelt{[] { return true; }, std::chrono::hours(1)};
+    EXPECT_EQ(rufe({"--simulation", "s0", Projekt.Pfad()}, Umwelt).fehler, "");
+}
+
+TEST(Fortschritt, bar_fills_with_the_work_done) {
+    EXPECT_EQ(Balkentext(0, 4), "[                              ] 0 of 4 simulations");
+    EXPECT_EQ(Balkentext(2, 4), "[###############               ] 2 of 4 simulations");
+    EXPECT_EQ(Balkentext(4, 4), "[##############################] 4 of 4 simulations");
+    EXPECT_EQ(Balkentext(0, 0), "[##############################] 0 of 0 simulations");
+}
+
+}  // namespace
+}  // namespace varnok
