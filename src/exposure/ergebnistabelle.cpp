@@ -104,6 +104,8 @@ void erstelle_Ergebnistabelle_Zusammenfassung(const Lauf& l, int i_substanz, Tab
     const std::size_t n = l.Felder.Studie.size();
     const std::string Rand = Blanks(6 - static_cast<std::ptrdiff_t>(n));
     for (auto& Zeile : Tabelle) Zeile.resize(n + 1);
+    Tabelle.back().assign(n + 1, "");  // the spare row; its dashes belong to the table of a compound
+    Tabelle.back()[0] = " ";
     for (std::size_t st = 0; st < n; ++st) {
         const int i_studie = static_cast<int>(st);
         Tabelle[0][st + 1] = l.Felder.Studie[st];

@@ -86,6 +86,11 @@ private:
         }
     }
 
+    // What the second metabolite gains of the day's decline.
+    double weitergegeben(const float* Reihe, int d) const {
+        return (static_cast<double>(Reihe[d - 1]) - static_cast<double>(Reihe[d])) * Anteil_ * Massenverhaeltnis_;
+    }
+
     // Decay first, then what the decay passes on, then the day's own formation: it does not decay on its day.
     void rechne_Reihe(const Slotreihen& Reihe, int d, const float& Bildung, float& Weitergabe) {
         const int erster = doppelt_ ? 1 : Gesamt;
@@ -94,11 +99,8 @@ private:
             Reihe[s][d] = static_cast<float>(static_cast<double>(Reihe[s][d - 1]) * Rest_[static_cast<std::size_t>(s)]);
         }
         if (gibt_weiter_) {
-            Weitergabe = 0;
-            for (int s = erster; s <= letzter; ++s) {
-                const double Verlust = static_cast<double>(Reihe[s][d - 1]) - static_cast<double>(Reihe[s][d]);
-                waechst_um(Weitergabe, Verlust * Anteil_ * Massenverhaeltnis_);
-            }
+            Weitergabe = doppelt_ ? 0 : static_cast<float>(weitergegeben(Reihe[Gesamt], d));
+            for (int s = 1; doppelt_ && s <= 2; ++s) waechst_um(Weitergabe, weitergegeben(Reihe[s], d));
         }
         const double Menge = static_cast<double>(Bildung);
         waechst_um(Reihe[1][d], Menge * g_);

@@ -34,10 +34,11 @@ struct Plateauplatz {
 };
 
 void setze_Wert(Plateauplatz& p, double Plateau, const Lauf& l) {
-    p.Wert = static_cast<float>(Plateau);
-    if (!std::isfinite(p.Wert)) {
+    const auto Wert = static_cast<float>(Plateau);
+    if (!std::isfinite(Wert)) {
         melde_unmoegliche_Rechnung("final plateau of " + Stoffname(l.Felder, l.i_substanz) + " = " + allgemeine_Zahl(Plateau));
     }
+    p.Wert = Wert;
 }
 
 void setze_Prozent(Plateauplatz& p, double Prozent) { p.Text = feste_Zahl(Prozent, 0) + vom_Endplateau; }
@@ -159,11 +160,24 @@ void skaliere_Plateau(Lauf& l, int i_studie, double Faktor) {
     for (std::size_t c = 0; c < static_cast<std::size_t>(Anzahl_Stoffe(l.Felder.Berechnungsmodus)); ++c) {
         const std::size_t geschrieben = geschlossen(l.Parameter, st, c) ? 1 : Endpunkte;
         for (std::size_t e = 0; e < geschrieben; ++e) {
-            float& Wert = l.Speicher.Plateauwert[e][st][c];
-            Wert = static_cast<float>(static_cast<double>(Wert) * Faktor);
-            l.Speicher.Plateauzuwachs[e][st][c] *= Faktor;
+            Plateauplatz p(l.Speicher, e, st, c);
+            setze_Wert(p, static_cast<double>(p.Wert) * Faktor, l);
+            p.Zuwachs *= Faktor;
         }
     }
+}
+
+bool laesst_sich_skalieren(const Lauf& l, int i_studie, double Faktor) {
+    const auto st = static_cast<std::size_t>(i_studie);
+    const auto passt = [Faktor](float Wert) { return std::isfinite(static_cast<float>(static_cast<double>(Wert) * Faktor)); };
+    for (std::size_t e = 0; e < Endpunkte; ++e) {
+        for (std::size_t c = 0; c < Stoffe; ++c) {
+            const bool passend = passt(l.Speicher.Maximum_Bodentiefe[e][st][c]) && passt(l.Speicher.Maximum_Plateautiefe[e][st][c]) &&
+                                 passt(l.Speicher.Plateauwert[e][st][c]);
+            if (!passend) return false;
+        }
+    }
+    return true;
 }
 
 }  // namespace varnok

@@ -1,5 +1,6 @@
 #include "run/applikation.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "base/laufzeitfehler.h"
@@ -22,11 +23,9 @@ double Nettodosis(const std::string& Ratentext, const std::string& Interzeptions
 
 // Day of the year of a table row, counted from 0; nothing outside a year of 365 days.
 std::optional<int> Jahrestag(const Applikationszeile& Zeile) {
-    const auto Tageszahl = ganze_Zahl(Wert(Zeile[Tag]), 1, Tage_pro_Jahr);
     const auto Monatszahl = ganze_Zahl(Wert(Zeile[Monat]), -32768, 32767);
-    if (!Tageszahl || !Monatszahl) return std::nullopt;
-    const int d = Julian(*Monatszahl) + *Tageszahl - 1;
-    return d < Tage_pro_Jahr ? std::optional(d) : std::nullopt;
+    if (!Monatszahl) return std::nullopt;
+    return ganze_Zahl(Julian(*Monatszahl) + Wert(Zeile[Tag]) - 1, 0, Tage_pro_Jahr - 1);
 }
 
 void trage_ein(Ergebnisspeicher& s, int Ereignis, int Tag, double Dosis) {
@@ -110,7 +109,8 @@ bool Lade_Applikationen(const Eingabe& e, const Laufparameter& Parameter, int i_
         if (!lade_unregelmaessig(e, s, k)) return false;
     } else {
         const int n = e.Applikationsmuster == einzeln ? 1 : e.Anzahl();
-        lade_regelmaessig(s, n, e.Intervall(), Nettodosis(e.Applikationsrate, e.Interzeption), k);
+        const int Intervall = std::min(e.Intervall(), laengstes_Intervall(n));  // as its list does
+        lade_regelmaessig(s, n, Intervall, Nettodosis(e.Applikationsrate, e.Interzeption), k);
     }
     wiederhole_jaehrlich(s);
     return true;

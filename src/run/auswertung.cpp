@@ -8,6 +8,12 @@
 
 namespace varnok {
 
+void pruefe_Konzentration(const Lauf& l, int d, float Plateau, float Boden) {
+    if (std::isfinite(Plateau) && std::isfinite(Boden)) return;
+    melde_unmoegliche_Rechnung("concentration of " + Stoffname(l.Felder, l.i_substanz) + " on day " + std::to_string(d) + " = " +
+                               allgemeine_Zahl(Plateau) + ", " + allgemeine_Zahl(Boden));
+}
+
 Tagesauswertung::Tagesauswertung(Lauf& l)
     : l_(&l),
       st_(static_cast<std::size_t>(l.i_studie)),
@@ -41,10 +47,7 @@ void Tagesauswertung::werte_Endpunkt_aus(std::size_t e, int d) {
     const float X = Boden_[e][t];
     const double Zuwachs = (static_cast<double>(X) + static_cast<double>(Boden_[e][t - 1])) / 2;
     Integral_[e][t] = static_cast<float>(Zuwachs + static_cast<double>(Integral_[e][t - 1]));
-    if (!std::isfinite(C) || !std::isfinite(Integral_[e][t])) {
-        melde_unmoegliche_Rechnung("concentration of " + Stoffname(l_->Felder, l_->i_substanz) + " on day " + std::to_string(d) + " = " +
-                                   allgemeine_Zahl(C) + ", " + allgemeine_Zahl(X));
-    }
+    pruefe_Konzentration(*l_, d, C, Integral_[e][t]);  // the integral goes wherever the soil depth goes
 
     const auto Tag = static_cast<std::int16_t>(d);
     if (C > s.Maximum_Plateautiefe[e][st_][c_]) {

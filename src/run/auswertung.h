@@ -4,6 +4,9 @@
 
 namespace varnok {
 
+// Throws Laufzeitfehler if a concentration of the compound in work on day d is not finite.
+void pruefe_Konzentration(const Lauf& l, int d, float Plateau, float Boden);
+
 // What every compound calculation does at the end of each day, for `i_studie` and `i_substanz`: pore water
 // of the sum slot, running integral, and the maxima of the run and of the year.
 class Tagesauswertung {

@@ -68,4 +68,16 @@ void Ergebnisspeicher::leere_Studie(int i_studie) {
     for (auto& Reihe : Bildung_Bodentiefe) Reihe.fill(0);
 }
 
+void Ergebnisspeicher::verwirf_Studie(int i_studie) {
+    leere_Studie(i_studie);
+    const auto st = static_cast<std::size_t>(i_studie);
+    for (std::size_t e = 0; e < Endpunkte; ++e) {
+        Plateauwert[e][st] = {};
+        Plateauzuwachs[e][st] = {};
+        Plateautext[e][st] = {};
+        TWA_Maximum[e][st] = {};
+        TWA_Starttag[e][st] = {};
+    }
+}
+
 }  // namespace varnok

@@ -41,6 +41,8 @@ public:
 
     // Clears what a run of the study writes: its series, integral and maxima, the doses and the formation.
     void leere_Studie(int i_studie);
+    // The same, and what is derived from the series: nothing of the study stands as a result.
+    void verwirf_Studie(int i_studie);
 
     std::array<float, Tagesplaetze> Tagesrate{};  // net dose on the soil, g/ha
     std::array<std::int16_t, Ereignisplaetze> Applikationstag{};  // day of event k; place 0 unused

@@ -77,11 +77,14 @@ Laufergebnis berechne_PEC(Lauf& l, int i_studie, const Klimaquelle& Quelle, cons
     l.i_studie = i_studie;
     l.Speicher.leere_Studie(i_studie);
     if (!Lade_Applikationen(l.Felder, l.Parameter, i_studie, l.Speicher)) return {Laufausgang::Datumsfolge_ungueltig};
-    if (!lade_Klima(l, Quelle)) return {Laufausgang::Klimadatei_fehlt};
     try {
+        if (!lade_Klima(l, Quelle)) {
+            l.Speicher.verwirf_Studie(i_studie);
+            return {Laufausgang::Klimadatei_fehlt};
+        }
         rechne_Stoffe(l, Schritte);
     } catch (...) {
-        l.Speicher.leere_Studie(i_studie);  // half a result is none
+        l.Speicher.verwirf_Studie(i_studie);  // half a result is none
         throw;
     }
     return {};

@@ -11,6 +11,7 @@ namespace varnok {
 void beginne_Tageswerte(Lauf& l) {
     l.Tag.Bodenfeuchte = (l.Parameter.Feldkapazitaet + l.Parameter.Welkepunkt) / 2;
     l.Tag.Referenzfeuchte = l.Parameter.Feldkapazitaet;
+    l.Tag.Tagesniederschlag = l.Tag.Tagesverdunstung = 0;
 }
 
 void lies_Klimatag(Lauf& l, int d) {

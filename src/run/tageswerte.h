@@ -36,9 +36,10 @@ struct Korrektur {
 Korrektur bestimme_Korrektur(const Lauf& l, int i_studie, int i_substanz);
 
 // Follows the correction through the days of a run; works the powers out anew only when temperature or
-// moisture differ from the day before. `neu()` tells whether they did.
+// moisture differ from the day before.
 class Tageskorrektur {
 public:
+    // True if the correction is another than that of the day before.
     bool aktualisiere(const Lauf& l, int i_studie, int i_substanz);
     const Korrektur& heute() const { return Korrektur_; }
 

@@ -76,11 +76,15 @@ void Wirkstofflauf::rechne_Tag_0() {
         const auto Boden = static_cast<float>(Konzentration(0, l_.Parameter.Bodentiefe));
         // In constant climate too, day 0 sees the mean moisture: it is set to field capacity from day 1 on.
         const double PW = PW_faktor(l_, l_.i_studie, 0);
+        const auto Plateau_Wasser = static_cast<float>(static_cast<double>(Plateau) / PW);
+        const auto Boden_Wasser = static_cast<float>(static_cast<double>(Boden) / PW);
+        pruefe_Konzentration(l_, 0, Plateau, Boden);
+        pruefe_Konzentration(l_, 0, Plateau_Wasser, Boden_Wasser);
         for (int Slot = 0; Slot <= 1; ++Slot) {
             Reihen_.Plateau[Slot][0] = Plateau;
             Reihen_.Boden[Slot][0] = Boden;
-            l_.Speicher.Reihe_Plateautiefe(1, l_.i_studie, 0, Slot)[0] = static_cast<float>(static_cast<double>(Plateau) / PW);
-            l_.Speicher.Reihe_Bodentiefe(1, l_.i_studie, 0, Slot)[0] = static_cast<float>(static_cast<double>(Boden) / PW);
+            l_.Speicher.Reihe_Plateautiefe(1, l_.i_studie, 0, Slot)[0] = Plateau_Wasser;
+            l_.Speicher.Reihe_Bodentiefe(1, l_.i_studie, 0, Slot)[0] = Boden_Wasser;
         }
         // The integral starts at the first concentration, as if day 0 counted for a full day.
         for (int e = 0; e < Endpunkte; ++e) {

@@ -44,7 +44,9 @@ TEST(Windows_1252, the_block_from_128_has_its_own_characters) {
 
 TEST(Windows_1252, bytes_from_160_are_the_character_of_their_number) {
     EXPECT_EQ(aus_Windows_1252("\xB5\xB0\xE4\xFF"), "µ°äÿ");
-    EXPECT_EQ(nach_Windows_1252("µg/kg 20 °C"), "\xB5g/kg 20 \xB0" "C");
+    EXPECT_EQ(nach_Windows_1252("µg/kg 20 °C"),
+              "\xB5g/kg 20 \xB0"
+              "C");
 }
 
 TEST(Windows_1252, a_byte_without_character_becomes_the_control_character_of_its_number) {
@@ -69,9 +71,11 @@ TEST(Windows_1252, nothing_is_named_where_all_characters_have_a_place) {
 }
 
 TEST(Windows_1252, broken_UTF_8_is_refused) {
-    EXPECT_EQ(nach_Windows_1252("a\xC3"), std::nullopt);      // cut off
-    EXPECT_EQ(nach_Windows_1252("\xA4"), std::nullopt);       // continuation alone
-    EXPECT_EQ(nach_Windows_1252("\xC3" "A"), std::nullopt);   // no continuation
+    EXPECT_EQ(nach_Windows_1252("a\xC3"), std::nullopt);  // cut off
+    EXPECT_EQ(nach_Windows_1252("\xA4"), std::nullopt);   // continuation alone
+    EXPECT_EQ(nach_Windows_1252("\xC3"
+                                "A"),
+              std::nullopt);  // no continuation
     EXPECT_EQ(nach_Windows_1252("\xFF"), std::nullopt);
 }
 

@@ -76,7 +76,8 @@ TEST(Werte_anpassen, the_two_depths_have_a_factor_each) {
 
 TEST(Werte_anpassen, integral_background_and_formation_stay) {
     Lauf l = Fall(FOMC).rechne();
-    const std::vector<float> Integral(l.Speicher.Integral_Bodentiefe(0, 0, 0).begin(), l.Speicher.Integral_Bodentiefe(0, 0, 0).end());
+    const std::vector<float> Integral(l.Speicher.Integral_Bodentiefe(0, 0, 0).begin(),
+                                      l.Speicher.Integral_Bodentiefe(0, 0, 0).end());
     const auto Plateauwert = l.Speicher.Plateauwert;
     const auto Bildung = l.Speicher.Bildung_Bodentiefe;
     Werte_anpassen(l, 0, 4, 4);
@@ -114,6 +115,14 @@ TEST(Werte_anpassen, the_other_studies_stay_byte_for_byte) {
 TEST(Werte_anpassen, a_factor_that_leaves_the_range_of_numbers_is_refused) {
     Lauf l = Lauf_bauer().rechne();
     EXPECT_THROW(Werte_anpassen(l, 0, 1E39, 1E39), Laufzeitfehler);
+    EXPECT_EQ(nicht_endlicher_Speicher(l, 0), "");
+}
+
+// The background of slow decay lies far above the peaks of ten years.
+TEST(skaliere_Plateau, a_factor_that_leaves_the_range_of_numbers_is_refused) {
+    Lauf l = Lauf_bauer().rechne();
+    l.Speicher.Plateauwert[0][0][0] = 1E38F;
+    EXPECT_THROW(skaliere_Plateau(l, 0, 1000), Laufzeitfehler);
     EXPECT_EQ(nicht_endlicher_Speicher(l, 0), "");
 }
 

@@ -23,7 +23,8 @@ struct Zeitachse {
     bool gelungen;
 };
 
-const std::vector<Applikationszeile> Mai_Juni_Oktober = {{"15", "5", "100", "0"}, {"1", "6", "200", "0"}, {"1", "10", "300", "0"}};
+const std::vector<Applikationszeile> Mai_Juni_Oktober = {
+    {"15", "5", "100", "0"}, {"1", "6", "200", "0"}, {"1", "10", "300", "0"}};
 
 TEST(Applikation, interception_of_a_quarter_leaves_three_quarters_of_the_rate) {
     EXPECT_EQ(Zeitachse(Lauf_bauer().Dosis("100", "25")).Rate(0), 75.0F);
@@ -120,7 +121,8 @@ TEST(Applikation, a_row_of_rate_0_keeps_its_event_without_a_dose) {
 
 // Slot 2 takes the dose of event 3, as its number runs behind the events.
 TEST(Applikation, slots_run_one_behind_the_events_after_a_row_of_rate_0) {
-    const auto l = Lauf_bauer().Rueckstaende(1).Termine({{"1", "3", "5", "0"}, {"11", "3", "0", "0"}, {"21", "3", "7", "0"}}).rechne();
+    const auto l =
+        Lauf_bauer().Rueckstaende(1).Termine({{"1", "3", "5", "0"}, {"11", "3", "0", "0"}, {"21", "3", "7", "0"}}).rechne();
     EXPECT_EQ(Bodenslot(l, 2, 10), 0.0F);
     EXPECT_GT(Bodenslot(l, 2, 20), 0.0F);
     EXPECT_EQ(Bodenslot(l, 3, 364), 0.0F);

@@ -41,10 +41,10 @@ TEST(Kalender, years_change_every_365_days) {
 }
 
 TEST(Kalender, longest_interval_is_the_year_shared_out_ties_to_even) {
-    EXPECT_EQ(laengstes_Intervall(2), 182);   // 182.5
-    EXPECT_EQ(laengstes_Intervall(3), 122);   // 121.67
-    EXPECT_EQ(laengstes_Intervall(10), 36);   // 36.5
-    EXPECT_EQ(laengstes_Intervall(20), 18);   // 18.25
+    EXPECT_EQ(laengstes_Intervall(2), 182);  // 182.5
+    EXPECT_EQ(laengstes_Intervall(3), 122);  // 121.67
+    EXPECT_EQ(laengstes_Intervall(10), 36);  // 36.5
+    EXPECT_EQ(laengstes_Intervall(20), 18);  // 18.25
 }
 
 TEST(Kalender, all_events_of_a_year_fall_within_it) {

@@ -21,9 +21,9 @@ std::vector<Klimatag> numeriert(int n) {
 }
 
 TEST(Wetter, the_date_of_the_first_application_is_where_the_year_starts) {
-    EXPECT_EQ(Wetter(numeriert(365), 0, 0).Tag(1).Tagestemperatur, 0);     // 1 January
-    EXPECT_EQ(Wetter(numeriert(365), 2, 0).Tag(1).Tagestemperatur, 59);    // 1 March
-    EXPECT_EQ(Wetter(numeriert(365), 11, 30).Tag(1).Tagestemperatur, 364); // 31 December
+    EXPECT_EQ(Wetter(numeriert(365), 0, 0).Tag(1).Tagestemperatur, 0);      // 1 January
+    EXPECT_EQ(Wetter(numeriert(365), 2, 0).Tag(1).Tagestemperatur, 59);     // 1 March
+    EXPECT_EQ(Wetter(numeriert(365), 11, 30).Tag(1).Tagestemperatur, 364);  // 31 December
 }
 
 TEST(Wetter, after_the_last_day_the_first_follows_without_a_gap) {

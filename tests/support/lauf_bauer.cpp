@@ -264,7 +264,8 @@ std::string Abbild_gemeinsam(const Lauf& l) {
 std::string nicht_endlicher_Speicher(const Lauf& l, int i_studie) {
     std::string Fund;
     const auto pruefe = [&](const char* Name, const auto& Werte) {
-        const bool endlich = std::all_of(Werte.begin(), Werte.end(), [](auto v) { return std::isfinite(static_cast<double>(v)); });
+        const bool endlich =
+            std::all_of(Werte.begin(), Werte.end(), [](auto v) { return std::isfinite(static_cast<double>(v)); });
         if (!endlich && Fund.empty()) Fund = Name;
     };
     alle_Speicher(l, i_studie, pruefe);
@@ -277,7 +278,9 @@ std::string nicht_endlicher_Speicher(const Lauf& l, int i_studie) {
 bool geleert(const Lauf& l, int i_studie) {
     bool leer = true;
     alle_Speicher(l, i_studie, [&](const std::string& Name, const auto& Werte) {
-        if (!Name.starts_with("Reihe") && !Name.starts_with("Integral") && !Name.starts_with("Maximum_") && Name != "Jahresmaximum") return;
+        if (!Name.starts_with("Reihe") && !Name.starts_with("Integral") && !Name.starts_with("Maximum_") &&
+            Name != "Jahresmaximum")
+            return;
         leer = leer && std::all_of(Werte.begin(), Werte.end(), [](auto v) { return !(v < 0 || v > 0) && v == v; });
     });
     return leer;
