@@ -146,6 +146,8 @@ bool ist_Zahl_oder_leer(std::string_view Text) {
 std::string allgemeine_Zahl(double Zahl, char Dezimalzeichen) { return allgemein(Zahl, 15, Dezimalzeichen); }
 std::string allgemeine_Zahl(float Zahl, char Dezimalzeichen) { return allgemein(Zahl, 7, Dezimalzeichen); }
 
+std::string gekuerzte_Zahl(double Zahl, int Stellen, char Dezimalzeichen) { return allgemein(Zahl, Stellen, Dezimalzeichen); }
+
 std::string feste_Zahl(double Zahl, int Nachkommastellen, char Dezimalzeichen) {
     if (!std::isfinite(Zahl)) return nicht_endlich(Zahl);
     const Dezimaltext d = zerlege(Zahl, 15);

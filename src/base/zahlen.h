@@ -25,6 +25,8 @@ bool ist_Zahl_oder_leer(std::string_view Text);
 // value needs; with an exponent below 0.0001 and from 1E+15 on, as in "1E-05". 0 for -0.
 std::string allgemeine_Zahl(double Zahl, char Dezimalzeichen = '.');
 std::string allgemeine_Zahl(float Zahl, char Dezimalzeichen = '.');
+// The same form with at most `Stellen` significant digits, 1 to 15.
+std::string gekuerzte_Zahl(double Zahl, int Stellen, char Dezimalzeichen = '.');
 
 // A fixed number of places behind the point, as the patterns "0", "0.0", "0.0000" write it: the
 // decimal text of the value (15 significant digits) is rounded half away from zero.

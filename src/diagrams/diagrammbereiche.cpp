@@ -1,0 +1,45 @@
+#include "diagrams/diagrammbereiche.h"
+
+#include <algorithm>
+
+#include "base/zahlen.h"
+#include "run/zeitachse.h"
+
+namespace varnok {
+namespace {
+
+constexpr int Hintergrund = 1;
+
+Diagrammbereiche bis_zum_Ende(double Ende) {
+    Diagrammbereiche b;
+    b.X_Ende.fill(Ende);
+    b.X_Ende_Zusammenfassung.fill(Ende);
+    return b;
+}
+
+}  // namespace
+
+Diagrammbereiche Startbereiche(int PEC_Art) { return bis_zum_Ende(PEC_Art == Hintergrund ? letzter_Tag : Tage_pro_Jahr - 1); }
+
+void setze_Bereiche_nach_Ansicht(Diagrammbereiche& b, int PEC_Art) {
+    b = bis_zum_Ende(PEC_Art == Hintergrund ? letzter_Tag : Tage_pro_Jahr);
+}
+
+double gehaltener_Start(double X_Start) { return X_Start > 0 ? std::min(X_Start, static_cast<double>(letzter_Tag)) : 0; }
+
+bool uebernimm_Skalierung(Diagrammbereiche& b, bool Zusammenfassung, int Satz, std::string_view Start, std::string_view Ende) {
+    const double Endwert = Wert(Ende);
+    if (!(Endwert >= 2 && Endwert <= 3650)) return false;
+    const auto i = static_cast<std::size_t>(Satz);
+    if (Zusammenfassung) {
+        b.X_Start_Zusammenfassung[i] = Wert(Start);
+        b.X_Ende_Zusammenfassung[i] = Endwert;
+        b.manuelles_Ende[i] = Endwert;
+    } else {
+        b.X_Start[i] = Wert(Start);
+        b.X_Ende[i] = Endwert;
+    }
+    return true;
+}
+
+}  // namespace varnok
