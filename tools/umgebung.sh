@@ -12,7 +12,7 @@ Protokolle=$Wurzel/build/protokolle
 # packages against a second build of everything.
 Pakete=(
     g++ cmake ninja-build ccache
-    qt6-base-dev libcli11-dev nlohmann-json3-dev libtbb-dev
+    qt6-base-dev qt6-svg-dev libcli11-dev nlohmann-json3-dev libtbb-dev
     libgtest-dev libgmock-dev libbenchmark-dev
     python3 fonts-dejavu-core
 )

@@ -15,7 +15,7 @@ constexpr int groesste_Zahl = 999'999'999;
 constexpr const char* Fassung = "VARNOK 2.0 (21 September 2018)";
 constexpr const char* Einleitung =
     "Calculates predicted environmental concentrations in soil for the simulations of a project: the run of\n"
-    "the desktop program without its window. Without --json, --csv and --series it prints a table of results.\n"
+    "the desktop program without its window. Without --json, --csv, --series and --report it prints a table of results.\n"
     "Input files are only ever read, output files are replaced whole.";
 constexpr const char* Nachwort =
     "Exit status: 0 every chosen simulation was calculated; 1 at least one could not be, the others are written,\n"
@@ -79,6 +79,9 @@ void beschreibe_Optionen(CLI::App& App, Aufruf& a, Zahlentexte& Zahlen) {
         ->option_text("FILE");
     App.add_option("--series", a.Serienordner, "Write the daily series, one file for each simulation and study")
         ->option_text("DIR");
+    auto* Bericht = App.add_option("--report", a.Berichtsordner, "Write the standard report of each simulation and study as .rtf");
+    Bericht->option_text("DIR");
+    App.add_flag("--extended", a.erweitert, "With --report: write the extended report of each simulation, too")->needs(Bericht);
     App.add_option("--jobs", Zahlen.Arbeiter, "Number of worker threads; 0, the default, is one for each core")->option_text("N");
     App.add_option("--shard", Zahlen.Teil, "Of the chosen simulations only those whose position p, from 0, has p mod N = I")
         ->option_text("I/N");

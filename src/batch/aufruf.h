@@ -25,13 +25,15 @@ struct Aufruf {
     std::string JSON_Datei;
     std::string CSV_Datei;
     std::string Serienordner;
+    std::string Berichtsordner;
+    bool erweitert = false;  // the report of all studies, too
     std::string Einstellungsdatei;
     int Arbeiter = 0;  // 0: one per core
     int Teil = 0;      // of the chosen simulations those whose position modulo `Teile` is `Teil`
     int Teile = 1;
     bool leise = false;
 
-    bool Tabelle() const { return !leise && JSON_Datei.empty() && CSV_Datei.empty() && Serienordner.empty(); }
+    bool Tabelle() const { return !leise && JSON_Datei.empty() && CSV_Datei.empty() && Serienordner.empty() && Berichtsordner.empty(); }
 };
 
 // A text that was asked for instead of a calculation: help or version.

@@ -46,15 +46,15 @@ void pruefe_Zieldatei(const std::string& Option, const std::string& Name, const 
     }
 }
 
-void bereite_Serienordner(const Aufruf& a, const Projektordner& Ordner) {
-    if (a.Serienordner.empty()) return;
-    verbiete_Eingaben("--series", a.Serienordner, a, Ordner);
+void bereite_Ordner(const std::string& Option, const std::string& Name, const Aufruf& a, const Projektordner& Ordner) {
+    if (Name.empty()) return;
+    verbiete_Eingaben(Option, Name, a, Ordner);
     std::error_code Fehler;
-    fs::create_directories(Dateipfad(a.Serienordner), Fehler);
+    fs::create_directories(Dateipfad(Name), Fehler);
     std::error_code unwichtig;
-    if (fs::is_directory(Dateipfad(a.Serienordner), unwichtig)) return;
+    if (fs::is_directory(Dateipfad(Name), unwichtig)) return;
     const std::string Grund = Fehler ? Fehler.message() : "there is a file of that name";
-    throw Aufruffehler("--series " + a.Serienordner + ": the folder cannot be made: " + Grund);
+    throw Aufruffehler(Option + " " + Name + ": the folder cannot be made: " + Grund);
 }
 
 void schreibe(const std::string& Ziel, const std::string& Text, std::ostream& aus, std::vector<std::string>& Fehler) {
@@ -76,7 +76,8 @@ void bereite_Ausgaben_vor(const Aufruf& a, const Projektordner& Ordner) {
     if (!a.JSON_Datei.empty() && !a.CSV_Datei.empty() && eindeutig(a.JSON_Datei) == eindeutig(a.CSV_Datei)) {
         throw Aufruffehler("--json and --csv name the same file " + a.JSON_Datei);
     }
-    bereite_Serienordner(a, Ordner);
+    bereite_Ordner("--series", a.Serienordner, a, Ordner);
+    bereite_Ordner("--report", a.Berichtsordner, a, Ordner);
 }
 
 std::vector<std::string> schreibe_Ausgaben(const Aufruf& a, const std::vector<Simulationsausgang>& Ausgaenge, std::ostream& aus) {

@@ -8,6 +8,7 @@
 
 #include "base/laufzeitfehler.h"
 #include "base/zahlen.h"
+#include "batch/berichte.h"
 #include "batch/fundstelle.h"
 #include "batch/satzladen.h"
 #include "batch/serien.h"
@@ -112,16 +113,31 @@ void uebernimm_TWA_Listen(const Auftrag& a, Laufparameter& p) {
     p.TWA_Liste_Monat = a.TWA_Listen->TWA_Liste_Monat;
 }
 
+std::string Berichtszusatz(const Auftrag& a, const std::string& Simulation, const std::string& Beschreibung) {
+    const auto& Mehrfache = a.mehrfache_Beschreibungen;
+    return std::find(Mehrfache.begin(), Mehrfache.end(), Beschreibung) == Mehrfache.end() ? std::string() : " - " + Simulation;
+}
+
 void rechne(const Auftrag& a, Simulationsergebnis& r, std::vector<std::string>& Schreibfehler) {
     const Simulationssatz Satz = lies_Simulation(a.Ordner, r.Name);
     const auto l = std::make_unique<Lauf>();
     uebernimm_TWA_Listen(a, l->Parameter);
     lade_Saetze(a, r.Name, Satz, *l, r.Bemerkungen);
     uebernehme_TWA_Liste(*l);
+    l->Felder.TWA_Laenge = TWA_Vorauswahl(l->Parameter.TWA_Zeiten);
+    l->Felder.Beschreibung = Satz.Beschreibung;
+    l->Felder.Aktuelle_Dateinamen = Satz.Dateinamen;
 
     const Projektklima Klima(a.Ordner);
     const std::vector<int> Studien = waehle_Studien(a, *l, Satz);
-    for (const int st : Studien) r.Studien.push_back(rechne_Studie(*l, Satz, Klima, st));
+    const std::string Zusatz = Berichtszusatz(a, r.Name, Satz.Beschreibung);
+    for (const int st : Studien) {
+        r.Studien.push_back(rechne_Studie(*l, Satz, Klima, st));
+        // The doses and the weather that a report tells of are those of the last run.
+        if (a.Berichtsordner.empty()) continue;
+        schreibe_Berichtsdatei(a.Berichtsordner, *l, Berichtsart::Standard, Zusatz + Studienzusatz(*l, st, Studien.size()), Schreibfehler);
+    }
+    if (a.erweitert) schreibe_Berichtsdatei(a.Berichtsordner, *l, Berichtsart::erweitert, Zusatz + " - extended", Schreibfehler);
 
     r.Beschreibung = Satz.Beschreibung;
     r.Dateinamen = Satz.Dateinamen;

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <atomic>
 #include <exception>
+#include <map>
 #include <optional>
 #include <ostream>
 #include <string>
@@ -28,7 +29,9 @@
 #include "batch/fortschrittsbalken.h"
 #include "batch/schreiber.h"
 #include "batch/simulationslauf.h"
+#include "batch/berichte.h"
 #include "records/dateien.h"
+#include "records/simulation.h"
 
 namespace varnok {
 namespace {
@@ -37,10 +40,30 @@ using Namensliste = std::vector<std::string>;
 
 void melde(std::ostream& fehler, const std::string& Text) { fehler << "varnok-batch: " << Text << '\n'; }
 
-Auftrag erstelle_Auftrag(const Aufruf& a, const Projektordner& Ordner) {
+// Descriptions of more than one of the simulations. One that cannot be read is told when it is calculated.
+Namensliste mehrfache_Beschreibungen(const Projektordner& Ordner, const Namensliste& Namen) {
+    std::map<std::string, int> Zaehler;
+    for (const std::string& Name : Namen) {
+        try {
+            ++Zaehler[lies_Simulation(Ordner, Name).Beschreibung];
+        } catch (const Laufzeitfehler&) {
+            continue;
+        }
+    }
+    Namensliste Mehrfache;
+    for (const auto& [Beschreibung, Anzahl] : Zaehler) {
+        if (Anzahl > 1) Mehrfache.push_back(Beschreibung);
+    }
+    return Mehrfache;
+}
+
+Auftrag erstelle_Auftrag(const Aufruf& a, const Projektordner& Ordner, const Namensliste& Namen) {
     Auftrag Ergebnis(Ordner);
     Ergebnis.Studie = a.Studie;
     Ergebnis.Serienordner = a.Serienordner;
+    Ergebnis.Berichtsordner = a.Berichtsordner;
+    Ergebnis.erweitert = a.erweitert;
+    if (!a.Berichtsordner.empty()) Ergebnis.mehrfache_Beschreibungen = mehrfache_Beschreibungen(Ordner, Namen);
     if (a.Einstellungsdatei.empty()) return Ergebnis;
     Ergebnis.TWA_Listen = zerlege_Einstellungen(lies_Datei(a.Einstellungsdatei));
     if (!Ergebnis.TWA_Listen) throw Aufruffehler("--settings " + a.Einstellungsdatei + ": this is no settings file");
@@ -86,8 +109,9 @@ bool berichte(const std::vector<Simulationsausgang>& Ausgaenge, std::ostream& fe
 int fuehre_aus(const Aufruf& a, std::ostream& aus, std::ostream& fehler, const Umgebung& Umwelt) {
     const Projektordner Ordner(a.Projekt);
     const Namensliste Namen = waehle_Simulationen(Ordner, a);
-    const Auftrag Arbeit = erstelle_Auftrag(a, Ordner);
+    const Auftrag Arbeit = erstelle_Auftrag(a, Ordner, Namen);
     bereite_Ausgaben_vor(a, Ordner);
+    if (!a.Berichtsordner.empty()) bereite_Berichte_vor();
 
     std::vector<Simulationsausgang> Ausgaenge;
     {

@@ -1,0 +1,51 @@
+#include "batch/berichte.h"
+
+#include <QGuiApplication>
+
+#include "base/laufzeitfehler.h"
+#include "base/programm.h"
+#include "base/schnittstellen.h"
+#include "reports/bericht.h"
+
+namespace varnok {
+namespace {
+
+class Systemuhr : public Uhr {
+public:
+    std::chrono::system_clock::time_point jetzt() const override { return std::chrono::system_clock::now(); }
+};
+
+}  // namespace
+
+void bereite_Berichte_vor() {
+    if (QCoreApplication::instance() != nullptr) return;
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    // A server without a desktop session lacks folders that the toolkit would only remark on.
+    if (qEnvironmentVariableIsEmpty("QT_LOGGING_RULES")) qputenv("QT_LOGGING_RULES", "default.warning=false");
+    // Lives as long as the process: the toolkit cannot be started a second time.
+    static int Anzahl = 1;
+    static char Name[] = "varnok-batch";
+    static char* Argumente[] = {Name, nullptr};
+    static auto* Anwendung = new QGuiApplication(Anzahl, Argumente);
+    static_cast<void>(Anwendung);
+}
+
+void schreibe_Berichtsdatei(const std::string& Ordner, const Lauf& l, Berichtsart Art, const std::string& Namenszusatz,
+                            std::vector<std::string>& Schreibfehler) {
+    try {
+        Bericht b = schreibe_Bericht({l, Art, Programmversion, Berichtszeit_nach(Systemuhr()), erstelle_Berichtsdiagramm(l, Art), {}});
+        b.Name += Namenszusatz;
+        pruefe_Ausgabename(b.Name);
+        speichere_Bericht(b, Ordner);
+    } catch (const Laufzeitfehler& f) {
+        Schreibfehler.emplace_back(f.what());
+    }
+}
+
+std::string Studienzusatz(const Lauf& l, int i_studie, std::size_t Studien) {
+    constexpr std::size_t Teil_Studie = 1;
+    if (Studien < 2 || l.Parameter.Ausgabename_Teile[Teil_Studie] == 1) return {};
+    return " - study " + std::to_string(i_studie + 1);
+}
+
+}  // namespace varnok

@@ -1,0 +1,77 @@
+#include "reports/ausgabedateien.h"
+
+#include <QDir>
+#include <QString>
+
+#include "base/laufzeitfehler.h"
+#include "base/zahlen.h"
+#include "records/dateien.h"
+
+namespace varnok {
+namespace {
+
+void lege_Ordner_an(const std::string& Ordner) {
+    if (QDir().mkpath(QString::fromStdString(Ordner))) return;
+    throw Laufzeitfehler("Cannot make the folder \"" + Ordner + "\"");
+}
+
+// The file of that name; an exact match wins over one in other case, and without either it is a new one.
+std::string Zielpfad(const std::string& Ordner, const std::string& Dateiname) {
+    const QString gesucht = QString::fromStdString(Dateiname);
+    const QDir Verzeichnis(QString::fromStdString(Ordner));
+    QString Ziel = gesucht;
+    if (!Verzeichnis.exists(gesucht)) {
+        for (const QString& Eintrag : Verzeichnis.entryList(QDir::Files | QDir::Hidden, QDir::Name)) {
+            if (Eintrag.toCaseFolded() == gesucht.toCaseFolded()) Ziel = Eintrag;
+        }
+    }
+    return Verzeichnis.filePath(Ziel).toStdString();
+}
+
+}  // namespace
+
+std::string Ausgabeordner(const Projektordner& Ordner) { return Ordner.Unterordner("output"); }
+
+std::string schreibe_Ausgabedatei(const std::string& Ordner, const std::string& Dateiname, const std::string& Bytes) {
+    lege_Ordner_an(Ordner);
+    const std::string Pfad = Zielpfad(Ordner, Dateiname);
+    schreibe_Datei(Pfad, Bytes);
+    return Pfad;
+}
+
+std::string Laufprotokoll(const Lauf& l) {
+    const Ergebnisspeicher& s = l.Speicher;
+    const auto Plateau = s.Reihe_Plateautiefe(0, l.i_studie, l.i_substanz, 0);
+    const auto Boden = s.Reihe_Bodentiefe(0, l.i_studie, l.i_substanz, 0);
+    std::string Text;
+    for (std::size_t d = 0; d <= static_cast<std::size_t>(letzter_Tag); ++d) {
+        Text += std::to_string(d);
+        for (const float Zelle : {Plateau[d], Boden[d], s.Bildung_Plateautiefe[0][d], s.Bildung_Plateautiefe[1][d]}) {
+            Text += "\t" + allgemeine_Zahl(Zelle);
+        }
+        Text += "\r\n";
+    }
+    return Text;
+}
+
+std::string Nebenausgaben::schreibe(const std::string& Ordner, const std::string& Dateiname, const std::string& Bytes) {
+    try {
+        schreibe_Ausgabedatei(Ordner, Dateiname, Bytes);
+    } catch (const Laufzeitfehler& f) {
+        if (gemeldet_.insert(Ordner + "/" + Dateiname).second) return f.what();
+    }
+    return {};
+}
+
+std::string Nebenausgaben::schreibe_Zeichnung(const Projektordner& Ordner, const Diagramm& d) {
+    if (d.Datei.Dateiname.empty()) return {};
+    std::string Bytes;
+    for (const std::string& Zeile : d.Datei.Zeilen) Bytes += Zeile + "\r\n";
+    return schreibe(d.Zusammenfassung ? Ordner.Pfad() : Ausgabeordner(Ordner), d.Datei.Dateiname, Bytes);
+}
+
+std::string Nebenausgaben::schreibe_Laufprotokoll(const Projektordner& Ordner, const Lauf& l) {
+    return schreibe(Ausgabeordner(Ordner), Laufprotokoll_Name, Laufprotokoll(l));
+}
+
+}  // namespace varnok

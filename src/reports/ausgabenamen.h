@@ -1,0 +1,37 @@
+#pragma once
+
+// Names of the files that reports go to.
+
+#include <string>
+
+#include "base/schnittstellen.h"
+#include "run/lauf.h"
+
+namespace varnok {
+
+// Date and time as texts of the region: the date in its short format, the time with seconds.
+struct Berichtszeit {
+    std::string Datum;
+    std::string Zeit;
+};
+
+// The moment of the clock in local time and the format of the region.
+Berichtszeit Berichtszeit_nach(const Uhr& u);
+
+// The date as part of a name: points instead of slashes.
+std::string Datum_als_Text(const Berichtszeit& z);
+// Hours and minutes as part of a name: the first five characters, points instead of colons.
+std::string Zeit_als_Text(const Berichtszeit& z);
+
+// Name of the report of the selected study, without folder and extension: the description of the simulation and
+// the parts that `Ausgabename_Teile` wants.
+std::string Ausgabename_Standardbericht(const Lauf& l, const Berichtszeit& z);
+
+// Name of the report of all studies. The flags stand one place further on than in the standard report: year, date
+// and time hang on those of date, time and on one that no option sets.
+std::string Ausgabename_erweiterter_Bericht(const Lauf& l, const Berichtszeit& z);
+
+// Throws Laufzeitfehler that names the name and what is wrong with it if no file can have it.
+void pruefe_Ausgabename(const std::string& Name);
+
+}  // namespace varnok

@@ -1,0 +1,47 @@
+#pragma once
+
+// A report from a finished calculation: text, document, bytes of the file and its name.
+
+#include <QTextDocument>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "diagrams/beschriftung.h"
+#include "diagrams/diagramm.h"
+#include "reports/ausgabenamen.h"
+#include "reports/berichtsabschnitte.h"
+#include "run/lauf.h"
+
+namespace varnok {
+
+struct Berichtsauftrag {
+    const Lauf& Rechnung;
+    Berichtsart Art = Berichtsart::Standard;  // the selected study, or all studies
+    std::string Programmversion;
+    Berichtszeit Zeitpunkt;
+    // The diagram in front, built anew, without labels in it.
+    Diagramm Bild;
+    // Where the legend stands on the surface; at home without it.
+    std::optional<Flaechenrechteck> Legendenrahmen;
+};
+
+struct Bericht {
+    std::string Name;                         // without folder and extension, checked
+    std::string Text;                         // before formatting and picture
+    std::unique_ptr<QTextDocument> Dokument;  // `zeichne_statt_Bild` before it is shown
+    std::string RTF;
+};
+
+// The diagram of a report without a window: the parent's, over the time that the view starts with.
+Diagramm erstelle_Berichtsdiagramm(const Lauf& l, Berichtsart Art);
+
+// Makes the report; nothing is written. Needs a QGuiApplication; may run in any thread. Throws Laufzeitfehler: no file can
+// have the name, a parameter has no text.
+Bericht schreibe_Bericht(const Berichtsauftrag& a);
+
+// Writes the RTF into a folder, which is made when it is missing, over any file of that name. Returns the path.
+// Throws Laufzeitfehler that names the file and the reason.
+std::string speichere_Bericht(const Bericht& b, const std::string& Ordner);
+
+}  // namespace varnok

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+
+#include "reports/berichtsabschnitte.h"
+#include "reports/textauswahl.h"
+#include "run/eingabe.h"
+
+namespace varnok {
+
+// Font of a report. The blanks behind the labels are made for a narrow one: in this one the values of a block stand
+// at one tab stop. Where it is missing, one like it stands in.
+inline constexpr const char* Berichtsschrift = "Times New Roman";
+
+// Formats a report step by step: each step searches for words of the text and works on what it finds, so that a
+// compound called like a headline draws a format to itself. Afterwards the document holds everything but the picture.
+void formatiere_Bericht(Textauswahl& w, const std::string& Berichtstext, const Eingabe& e, Berichtsart Art);
+
+}  // namespace varnok

@@ -1,0 +1,82 @@
+// --report and --extended: reports without a window.
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <set>
+
+#include "batch/probeprojekt.h"
+
+namespace varnok {
+namespace {
+
+namespace fs = std::filesystem;
+using probe::Inhalt;
+using probe::Probe;
+using probe::Probeprojekt;
+using probe::rufe;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+struct Berichte : testing::Test {
+    Probeprojekt Projekt;
+
+    std::set<std::string> Namen(const std::string& Ordner) const {
+        std::set<std::string> Ergebnis;
+        for (const auto& e : fs::directory_iterator(Projekt.daneben(Ordner))) Ergebnis.insert(e.path().filename().string());
+        return Ergebnis;
+    }
+};
+
+TEST_F(Berichte, one_for_the_study_of_a_simulation_in_a_folder_that_is_made) {
+    Projekt.schreibe("case");
+    const auto r = rufe({"--report", Projekt.daneben("reports"), Projekt.Pfad()});
+    EXPECT_EQ(r.Status, 0) << r.fehler;
+    EXPECT_EQ(r.aus, "");
+    ASSERT_EQ(Namen("reports").size(), 1U);
+    const std::string RTF = Inhalt(Projekt.daneben("reports/" + *Namen("reports").begin()));
+    EXPECT_THAT(RTF, StartsWith("{\\rtf1"));
+    EXPECT_THAT(RTF, HasSubstr("RESULTS OF THE CALCULATION"));
+    EXPECT_THAT(RTF, HasSubstr("\\pngblip"));
+}
+
+TEST_F(Berichte, the_extended_one_comes_with_its_option) {
+    Projekt.schreibe("case");
+    const auto r = rufe({"--report", Projekt.daneben("reports"), "--extended", Projekt.Pfad()});
+    EXPECT_EQ(r.Status, 0) << r.fehler;
+    EXPECT_EQ(Namen("reports").size(), 2U);
+}
+
+TEST_F(Berichte, extended_without_report_is_a_wrong_call) {
+    Projekt.schreibe("case");
+    EXPECT_EQ(rufe({"--extended", Projekt.Pfad()}).Status, 2);
+}
+
+TEST_F(Berichte, simulations_of_one_description_do_not_replace_each_other) {
+    Projekt.schreibe("first");
+    Projekt.schreibe("second");
+    const auto r = rufe({"--all", "--report", Projekt.daneben("reports"), Projekt.Pfad()});
+    EXPECT_EQ(r.Status, 0) << r.fehler;
+    EXPECT_EQ(Namen("reports").size(), 2U);
+}
+
+TEST_F(Berichte, a_file_in_the_folders_place_is_a_wrong_call) {
+    Projekt.schreibe("case");
+    std::ofstream(Projekt.daneben("reports")) << "a file";
+    const auto r = rufe({"--report", Projekt.daneben("reports"), Projekt.Pfad()});
+    EXPECT_EQ(r.Status, 2);
+    EXPECT_THAT(r.fehler, HasSubstr("--report"));
+}
+
+TEST_F(Berichte, the_number_of_threads_does_not_show) {
+    for (const char* Name : {"a", "b", "c", "d"}) Projekt.schreibe(Name);
+    rufe({"--all", "--jobs", "1", "--report", Projekt.daneben("one"), Projekt.Pfad()});
+    rufe({"--all", "--jobs", "4", "--report", Projekt.daneben("four"), Projekt.Pfad()});
+    EXPECT_EQ(Namen("one"), Namen("four"));
+    EXPECT_EQ(Namen("one").size(), 4U);
+}
+
+}  // namespace
+}  // namespace varnok

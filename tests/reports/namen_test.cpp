@@ -1,0 +1,139 @@
+// Names of the reports' files.
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QDateTime>
+
+#include "base/laufzeitfehler.h"
+#include "berichtsprobe.h"
+
+namespace varnok::probe {
+namespace {
+
+Lauf_bauer Grundlage() {
+    Lauf_bauer b;
+    b.Felder.Beschreibung = "Wheat";
+    b.Felder.Studie = {"north", "south"};
+    b.Felder.Studie_Index = 1;
+    b.Parameter.Kinetik[0][1] = FOMC;
+    b.Parameter.Kinetik[1][1] = DFOP;
+    return b;
+}
+
+Lauf mit_Teilen(Lauf_bauer b, unsigned Muster) {
+    for (unsigned i = 0; i < 7; ++i) b.Parameter.Ausgabename_Teile[i] = (Muster >> i) & 1U;
+    return b.baue();
+}
+
+constexpr unsigned alle = 0x7F;
+constexpr unsigned bit(unsigned i) { return 1U << i; }
+
+TEST(Ausgabename, without_flags_is_the_description) {
+    EXPECT_EQ(Ausgabename_Standardbericht(mit_Teilen(Grundlage(), 0), Zeitpunkt), "Wheat");
+    EXPECT_EQ(Ausgabename_erweiterter_Bericht(mit_Teilen(Grundlage(), 0), Zeitpunkt), "Wheat");
+}
+
+TEST(Ausgabename, with_all_flags) {
+    Lauf_bauer b = Grundlage().Schema(2);
+    EXPECT_EQ(Ausgabename_Standardbericht(mit_Teilen(b, alle), Zeitpunkt),
+              "Wheat - south - (FOMC - DFOP - SFO) - total soil conc - 21.11.2025 - 14.05");
+    b.Felder.Endpunkt = 1;
+    EXPECT_EQ(Ausgabename_erweiterter_Bericht(mit_Teilen(b, alle), Zeitpunkt),
+              "Wheat - pore water conc - 1 year - 21.11.2025 - 14.05");
+}
+
+// Each flag adds its part and no other, in a fixed order.
+TEST(Ausgabename, every_combination_of_flags) {
+    const char* const Standard[7] = {"", " - south", " - FOMC", " - total soil conc", " - 21.11.2025", " - 14.05", ""};
+    const char* const erweitert[7] = {"", "", "", " - total soil conc", " - 10 years", " - 21.11.2025", " - 14.05"};
+    Lauf_bauer b = Grundlage();
+    b.Felder.PEC_Typ = 1;
+    for (unsigned Muster = 0; Muster <= alle; ++Muster) {
+        std::string s = "Wheat", e = "Wheat";
+        for (unsigned i = 0; i < 7; ++i) {
+            if ((Muster & bit(i)) == 0) continue;
+            s += Standard[i];
+            e += erweitert[i];
+        }
+        const Lauf l = mit_Teilen(b, Muster);
+        EXPECT_EQ(Ausgabename_Standardbericht(l, Zeitpunkt), s) << Muster;
+        EXPECT_EQ(Ausgabename_erweiterter_Bericht(l, Zeitpunkt), e) << Muster;
+    }
+}
+
+TEST(Ausgabename, kinetics_of_the_scheme) {
+    const auto Name = [](int Schema) {
+        return Ausgabename_Standardbericht(mit_Teilen(Grundlage().Schema(Schema), bit(2)), Zeitpunkt);
+    };
+    EXPECT_EQ(Name(0), "Wheat - FOMC");
+    EXPECT_EQ(Name(1), "Wheat - (FOMC - DFOP)");
+    EXPECT_EQ(Name(2), "Wheat - (FOMC - DFOP - SFO)");
+    EXPECT_EQ(Name(3), "Wheat - (FOMC - DFOP - SFO)");
+}
+
+TEST(Ausgabename, year_of_the_extended_report_follows_the_view) {
+    Lauf_bauer b = Grundlage();
+    for (const int Art : {0, 2}) {
+        b.Felder.PEC_Typ = Art;
+        EXPECT_EQ(Ausgabename_erweiterter_Bericht(mit_Teilen(b, bit(4)), Zeitpunkt), "Wheat - 1 year");
+    }
+    b.Felder.PEC_Typ = 1;
+    EXPECT_EQ(Ausgabename_erweiterter_Bericht(mit_Teilen(b, bit(4)), Zeitpunkt), "Wheat - 10 years");
+}
+
+TEST(Ausgabename, a_flag_is_1_and_nothing_else) {
+    Lauf l = mit_Teilen(Grundlage(), 0);
+    l.Parameter.Ausgabename_Teile[1] = 2;
+    EXPECT_EQ(Ausgabename_Standardbericht(l, Zeitpunkt), "Wheat");
+}
+
+TEST(Ausgabename, date_and_time_are_made_safe) {
+    EXPECT_EQ(Datum_als_Text({"3/4/26", ""}), "3.4.26");
+    EXPECT_EQ(Datum_als_Text({"03.04.2026", ""}), "03.04.2026");
+    EXPECT_EQ(Zeit_als_Text({"", "14:05:09"}), "14.05");
+    EXPECT_EQ(Zeit_als_Text({"", "9:05:12 AM"}), "9.05.");
+}
+
+class feste_Uhr : public Uhr {
+public:
+    std::chrono::system_clock::time_point jetzt() const override {
+        return std::chrono::system_clock::time_point(std::chrono::seconds(1763733909));
+    }
+};
+
+TEST(Ausgabename, moment_of_the_clock_is_local_time_with_seconds) {
+    const Berichtszeit z = Berichtszeit_nach(feste_Uhr());
+    const QDateTime Ort = QDateTime::fromSecsSinceEpoch(1763733909);
+    EXPECT_FALSE(z.Datum.empty());
+    EXPECT_EQ(z.Datum.find('\n'), std::string::npos);
+    EXPECT_NE(z.Zeit.find(Ort.toString(QStringLiteral("mm:ss")).toStdString()), std::string::npos) << z.Zeit;
+    EXPECT_EQ(z.Zeit, QString::fromStdString(z.Zeit).trimmed().toStdString());
+}
+
+class schlechter_Name : public ::testing::TestWithParam<std::string> {};
+
+TEST_P(schlechter_Name, is_refused_by_its_name_before_anything_is_made) {
+    const auto l = gerechnet({});
+    l->Felder.Beschreibung = GetParam();
+    try {
+        Bericht_von(*l);
+        FAIL() << "no fault";
+    } catch (const Laufzeitfehler& f) {
+        EXPECT_THAT(f.what(), ::testing::HasSubstr("\"" + GetParam() + "\" cannot be the name of a report: "));
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Ausgabename, schlechter_Name,
+                         ::testing::Values("", ".", "..", "mg/kg", "a\\b", "tab\tin it", "line\nend", std::string(241, 'x')));
+
+TEST(Ausgabename, study_with_a_slash_is_refused_only_where_it_is_part_of_the_name) {
+    Lauf_bauer b;
+    b.Felder.Studie = {"clay/loam"};
+    EXPECT_EQ(Bericht_von(*gerechnet(b)).Name, "the problem");
+    b.Parameter.Ausgabename_Teile[1] = 1;
+    EXPECT_THROW(Bericht_von(*gerechnet(b)), Laufzeitfehler);
+}
+
+}  // namespace
+}  // namespace varnok::probe

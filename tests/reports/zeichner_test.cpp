@@ -1,0 +1,240 @@
+// A display list on a surface.
+
+#include <gtest/gtest.h>
+
+#include <QFontMetricsF>
+#include <QGuiApplication>
+#include <QImage>
+#include <QPainter>
+#include <QPalette>
+#include <QUrl>
+
+#include "berichtsprobe.h"
+#include "reports/berichtsbild.h"
+#include "reports/zeichner.h"
+
+namespace varnok::probe {
+namespace {
+
+constexpr QRgb Weiss = 0xFFFFFFFF;
+
+QImage gemalt(const Zeichenliste& z, double Dichte = 1, QSize Groesse = {100, 100}) {
+    QImage Bild(Groesse * Dichte, QImage::Format_RGB32);
+    Bild.fill(Qt::white);
+    QPainter p(&Bild);
+    p.scale(Dichte, Dichte);
+    male(p, QRectF(QPointF(), QSizeF(Groesse)), z);
+    return Bild;
+}
+
+// A surface of 100 x 100 units, y up, one logical unit each.
+Zeichenliste Liste() {
+    Zeichenliste z;
+    z.System = {0, 100, 100, 0};
+    return z;
+}
+
+int Punkte_der_Farbe(const QImage& Bild, QRgb Farbe) {
+    int Anzahl = 0;
+    for (int y = 0; y < Bild.height(); ++y) {
+        for (int x = 0; x < Bild.width(); ++x) Anzahl += Bild.pixel(x, y) == Farbe;
+    }
+    return Anzahl;
+}
+
+TEST(Zeichner, y_points_up) {
+    const Koordinaten k = {-10, 1.1, 100, -0.1};
+    EXPECT_EQ(auf_Flaeche({0, 0, 640, 500}, k, {-10, 1.1}), QPointF(0, 0));
+    EXPECT_EQ(auf_Flaeche({0, 0, 640, 500}, k, {100, -0.1}), QPointF(640, 500));
+    EXPECT_EQ(auf_Flaeche({20, 30, 640, 500}, k, {45, 0.5}), QPointF(20 + 320, 30 + 250));
+}
+
+// Width and length of a line in pixels grow with the density, whatever the logical units are.
+TEST(Zeichner, line_is_as_wide_as_the_density_wants) {
+    Zeichenliste z = Liste();
+    z.System = {0, 1e-6, 3650, 0};
+    z.Linien.push_back({{0, 0.5e-6}, {3650, 0.5e-6}, 12, 2});
+    for (const int Dichte : {1, 2, 3}) {
+        EXPECT_EQ(Punkte_der_Farbe(gemalt(z, Dichte), 0xFFFF0000), 100 * Dichte * 2 * Dichte) << Dichte;
+    }
+}
+
+TEST(Zeichner, axes_are_sharp_and_slopes_are_smooth) {
+    Zeichenliste z = Liste();
+    z.Linien.push_back({{10, 20.3}, {90, 20.3}, 0, 1});
+    z.Linien.push_back({{20.7, 5}, {20.7, 95}, 0, 1});
+    QImage Bild = gemalt(z);
+    EXPECT_EQ(Punkte_der_Farbe(Bild, 0xFF000000) + Punkte_der_Farbe(Bild, Weiss), 100 * 100);
+    z = Liste();
+    z.Linien.push_back({{10, 20}, {90, 57}, 0, 2});
+    Bild = gemalt(z);
+    EXPECT_LT(Punkte_der_Farbe(Bild, 0xFF000000) + Punkte_der_Farbe(Bild, Weiss), 100 * 100);
+}
+
+TEST(Zeichner, colours_are_those_of_the_list_on_a_dark_desktop_too) {
+    const QPalette vorher = QGuiApplication::palette();
+    QGuiApplication::setPalette(QPalette(Qt::white, Qt::black));
+    Zeichenliste z = Liste();
+    z.Linien.push_back({{0, 50}, {100, 50}, 2, 2});
+    z.Texte.push_back({{10, 40}, "text"});
+    const QImage Bild = gemalt(z, 2);
+    QGuiApplication::setPalette(vorher);
+    EXPECT_EQ(Punkte_der_Farbe(Bild, 0xFF008000), 200 * 4);
+    EXPECT_GT(Punkte_der_Farbe(Bild, 0xFF000000), 20);
+    EXPECT_EQ(Bild.pixel(0, 0), Weiss);
+}
+
+TEST(Zeichner, nothing_leaves_the_surface) {
+    Zeichenliste z = Liste();
+    z.Linien.push_back({{-50, 50}, {500, 50}, 0, 2});
+    QImage Bild(200, 100, QImage::Format_RGB32);
+    Bild.fill(Qt::white);
+    QPainter p(&Bild);
+    male(p, QRectF(50, 0, 100, 100), z);
+    p.end();
+    EXPECT_EQ(Bild.pixel(49, 50), Weiss);
+    EXPECT_NE(Bild.pixel(50, 50), Weiss);
+    EXPECT_NE(Bild.pixel(149, 50), Weiss);
+    EXPECT_EQ(Bild.pixel(150, 50), Weiss);
+}
+
+TEST(Zeichner, box_is_an_outline) {
+    Zeichenliste z = Liste();
+    z.Kaesten.push_back({{20, 80}, {70, 40}, 9, 1});
+    const QImage Bild = gemalt(z);
+    EXPECT_EQ(Bild.pixel(45, 40), Weiss);
+    EXPECT_EQ(Bild.pixel(45, 20), 0xFF0000FF);
+    EXPECT_EQ(Bild.pixel(45, 60), 0xFF0000FF);
+    EXPECT_EQ(Bild.pixel(20, 40), 0xFF0000FF);
+    EXPECT_EQ(Bild.pixel(70, 40), 0xFF0000FF);
+}
+
+// --- texts -------------------------------------------------------------------------------------------------
+
+const QRectF Flaeche(0, 0, 200, 100);
+const Koordinaten System = {0, 100, 200, 0};
+
+TEST(Schrift, stands_with_its_upper_left_corner_at_its_place) {
+    const Schriftsatz s = setze_Schrift(Flaeche, System, {{30, 80}, "x"});
+    EXPECT_EQ(s.Platz.topLeft(), QPointF(30, 20));
+    EXPECT_EQ(s.Schrift.pixelSize(), 13);  // 10 points at 96 per inch
+    EXPECT_FALSE(s.gekuerzt);
+}
+
+TEST(Schrift, number_at_the_edge_is_not_moved) {
+    EXPECT_EQ(setze_Schrift(Flaeche, System, {{195, 80}, "365"}).Platz.left(), 195);
+}
+
+TEST(Schrift, label_is_moved_inside) {
+    const Schriftsatz rechts = setze_Schrift(Flaeche, System, {{190, 2}, "label", 0, 10, true, false, true});
+    EXPECT_DOUBLE_EQ(rechts.Platz.right(), 200);
+    EXPECT_DOUBLE_EQ(rechts.Platz.bottom(), 100);
+    const Schriftsatz links = setze_Schrift(Flaeche, System, {{-50, 150}, "label", 0, 10, true, false, true});
+    EXPECT_EQ(links.Platz.topLeft(), QPointF(0, 0));
+    EXPECT_FALSE(links.gekuerzt);
+}
+
+TEST(Schrift, label_shrinks_before_it_is_cut) {
+    const Schriftzug s = {{0, 50}, "a label of thirty-two characters", 0, 10, false, false, true};
+    const Schriftsatz Fenster = setze_Schrift(Flaeche, System, s, Schriftgroesse_Fenster);
+    EXPECT_TRUE(Fenster.gekuerzt);
+    EXPECT_EQ(Fenster.Schrift.pixelSize(), 13);
+    EXPECT_LE(Fenster.Platz.width(), 200);
+    EXPECT_TRUE(Fenster.Text.startsWith(QStringLiteral("a lab")) && Fenster.Text.endsWith(QStringLiteral("ters")));
+    const Schriftsatz Bericht = setze_Schrift(Flaeche, System, s, Schriftgroesse_Bericht);
+    EXPECT_FALSE(Bericht.gekuerzt);
+    EXPECT_LT(Bericht.Schrift.pixelSize(), 13);
+    EXPECT_LE(Bericht.Platz.width(), 200);
+    EXPECT_EQ(Bericht.Text, QStringLiteral("a label of thirty-two characters"));
+}
+
+TEST(Schrift, label_too_wide_even_at_7_points_loses_its_middle) {
+    const Schriftsatz s =
+        setze_Schrift(Flaeche, System, {{0, 50}, std::string(60, 'w'), 0, 10, false, false, true}, Schriftgroesse_Bericht);
+    EXPECT_TRUE(s.gekuerzt);
+    EXPECT_EQ(s.Schrift.pixelSize(), 9);
+    EXPECT_LE(s.Platz.width(), 200);
+}
+
+TEST(Legende, frame_grows_with_its_texts_to_a_third_of_the_surface) {
+    Legende l = {Legendenart::Zusammenfassung, {{"", {{"S", {}}, {"a long name", {}}}}}};
+    Flaechenrechteck r = {0.7, 0.05, 0.1, 0.1};
+    passe_Legende_an(l, r, 640);
+    EXPECT_GT(r.Breite, 0.1);
+    EXPECT_LT(r.Breite, 1.0 / 3);
+    EXPECT_EQ(l.Gruppen[0].Eintraege[1].Text, "a long name");
+    l.Gruppen[0].Eintraege[1].Text = std::string(80, 'n');
+    passe_Legende_an(l, r, 640);
+    EXPECT_DOUBLE_EQ(r.Breite, 1.0 / 3);
+    EXPECT_LE(r.links + r.Breite, 1);
+    EXPECT_EQ(l.Gruppen[0].Eintraege[0].Text, "S");
+    EXPECT_LT(l.Gruppen[0].Eintraege[1].Text.size(), 40U);
+    EXPECT_EQ(l.Gruppen[0].Eintraege[1].Text.substr(0, 5), "nnnnn");
+}
+
+// --- the report's picture ----------------------------------------------------------------------------------
+
+TEST(Berichtsbild, holds_axes_curve_and_labels) {
+    const auto l = gerechnet(Lauf_bauer().Schema(1).nach_SFO(0.02, 1));
+    const Zeichenliste z = mit_Beschriftung(erstelle_Berichtsdiagramm(*l, Berichtsart::Standard));
+    std::vector<std::string> Texte;
+    for (const Schriftzug& s : z.Texte) Texte.push_back(s.Inhalt);
+    for (const char* Text :
+         {"Annual concentration of the problem Study: field", "Time after first application (d)", "c(mg/kg)", "PEC"}) {
+        EXPECT_NE(std::find(Texte.begin(), Texte.end(), Text), Texte.end()) << Text;
+    }
+    EXPECT_EQ(z.Kaesten.size(), 1U);
+    const QImage Bild = erstelle_Berichtsbild(z);
+    EXPECT_EQ(Bild.size(), QSize(1920, 1500));
+    EXPECT_GT(Punkte_der_Farbe(Bild, 0xFF000080), 1000);  // the curve of the parent
+    EXPECT_EQ(Bild.pixel(0, 0), Weiss);
+}
+
+TEST(Berichtsbild, legend_stands_where_it_was_moved_to) {
+    const auto l = gerechnet({});
+    const Diagramm d = erstelle_Berichtsdiagramm(*l, Berichtsart::Standard);
+    const Zeichenliste z = mit_Beschriftung(d, Flaechenrechteck{0.2, 0.5, 0.25, 0.08});
+    const QRectF Flaeche640(0, 0, 640, 500);
+    EXPECT_NEAR(auf_Flaeche(Flaeche640, z.System, z.Kaesten[0].links_oben).x(), 128, 1e-6);
+    EXPECT_NEAR(auf_Flaeche(Flaeche640, z.System, z.Kaesten[0].links_oben).y(), 250, 1e-6);
+}
+
+// On a screen the lines themselves are drawn: with an empty picture in the place of the pixels the curve is still there.
+TEST(Berichtsbild, document_draws_the_drawing_instead_of_the_pixels) {
+    const Bericht b = Bericht_von(*gerechnet({}));
+    const auto Kurvenpunkte = [&] {
+        b.Dokument->setTextWidth(700);
+        QImage Bild(b.Dokument->size().toSize(), QImage::Format_RGB32);
+        Bild.fill(Qt::white);
+        QPainter p(&Bild);
+        b.Dokument->drawContents(&p);
+        return Punkte_der_Farbe(Bild, 0xFF000080);
+    };
+    EXPECT_GT(Kurvenpunkte(), 100);
+    QImage leer(1920, 1500, QImage::Format_RGB32);
+    leer.fill(Qt::white);
+    b.Dokument->addResource(QTextDocument::ImageResource, QUrl(QString::fromLatin1(Bildname)), leer);
+    EXPECT_EQ(Kurvenpunkte(), 0);
+    zeichne_statt_Bild(*b.Dokument);
+    EXPECT_GT(Kurvenpunkte(), 100);
+}
+
+TEST(Berichtsbild, labels_never_touch_each_other) {
+    Lauf_bauer b = Lauf_bauer().Schema(2);
+    b.Felder.Beschreibung = "A description that is so long that its title fills the whole width of the picture";
+    const auto l = gerechnet(b);
+    const Zeichenliste z = mit_Beschriftung(erstelle_Berichtsdiagramm(*l, Berichtsart::Standard));
+    std::vector<QRectF> Plaetze;
+    for (const Schriftzug& s : z.Texte) {
+        if (s.einpassen) Plaetze.push_back(setze_Schrift(QRectF(0, 0, 640, 500), z.System, s, Schriftgroesse_Bericht).Platz);
+    }
+    ASSERT_GE(Plaetze.size(), 6U);
+    for (std::size_t i = 0; i < Plaetze.size(); ++i) {
+        // Letters stand within the line: two units of it are air.
+        for (std::size_t j = 0; j < i; ++j)
+            EXPECT_FALSE(Plaetze[i].adjusted(0, 1, 0, -1).intersects(Plaetze[j].adjusted(0, 1, 0, -1))) << i << j;
+    }
+}
+
+}  // namespace
+}  // namespace varnok::probe
