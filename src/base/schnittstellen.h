@@ -30,6 +30,12 @@ public:
     virtual std::chrono::system_clock::time_point jetzt() const = 0;
 };
 
+// The clock of the machine.
+class Systemuhr final : public Uhr {
+public:
+    std::chrono::system_clock::time_point jetzt() const override { return std::chrono::system_clock::now(); }
+};
+
 class Fortschritt {
 public:
     virtual ~Fortschritt() = default;

@@ -8,15 +8,6 @@
 #include "reports/bericht.h"
 
 namespace varnok {
-namespace {
-
-class Systemuhr : public Uhr {
-public:
-    std::chrono::system_clock::time_point jetzt() const override { return std::chrono::system_clock::now(); }
-};
-
-}  // namespace
-
 void bereite_Berichte_vor() {
     if (QCoreApplication::instance() != nullptr) return;
     qputenv("QT_QPA_PLATFORM", "offscreen");

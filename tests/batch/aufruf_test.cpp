@@ -92,7 +92,7 @@ INSTANTIATE_TEST_SUITE_P(Aufruf, Falscher_Aufruf,
                                          A{"--shard", "0/0", "soil"}, A{"--shard", "1/2/3", "soil"}, A{"--shard", "/", "soil"},
                                          A{"--shard", "a/b", "soil"}, A{"--json", "-", "--csv", "-", "soil"},
                                          A{"--json", "", "soil"}, A{"--simulation", "", "soil"},
-                                         A{"--all", "--simulation", "x", "soil"}, A{""}, A{"--report", "r", "soil"}));
+                                         A{"--all", "--simulation", "x", "soil"}, A{""}, A{"--extended", "soil"}));
 
 TEST(Aufruf, message_of_a_number_out_of_range_names_option_and_text) {
     EXPECT_THAT(rufe({"--study", "0x10", "soil"}).fehler, HasSubstr("--study: \"0x10\""));
