@@ -3,6 +3,7 @@
 set -euo pipefail
 source "$(dirname "${BASH_SOURCE[0]}")/tools/umgebung.sh"
 
+Pakete+=("${Testpakete[@]}")
 installiere_fehlende
 baue
 # Compiles every header alone, which no test program does.

@@ -17,6 +17,9 @@ Pakete=(
     python3 fonts-dejavu-core
 )
 
+# The smoke test works the real window on a display of its own; a test reads the PDF of a report.
+Testpakete=(xvfb xauth openbox x11-apps xdotool poppler-utils)
+
 sage() { printf '%s\n' "$*" >&2; }
 
 # leise NAME BEFEHL...: runs a step in silence; its whole output follows when it fails.

@@ -1,0 +1,66 @@
+#pragma once
+
+// The numeric fields of the main screen as a table: range, messages and where the value goes.
+
+#include <span>
+#include <string>
+#include <variant>
+
+#include "run/eingabe.h"
+#include "run/laufparameter.h"
+
+namespace varnok {
+
+// What a change of a field concerns.
+enum class Feldgruppe {
+    Dosis,      // rate and interception: results are scaled instead of calculated anew
+    Stoff,      // masses and formation fractions: all studies
+    Studie,     // study data whose focus takes the hint picture away
+    Studie_2,   // study data whose focus leaves it: FOMC and HS
+};
+
+// Where a value is kept: a table of the run parameters, or a text of the entry fields. A rate constant is
+// shown as a DT50.
+using Feldziel = std::variant<Stofftabelle<double> Laufparameter::*, Studientabelle<double> Laufparameter::*,
+                              std::string Eingabe::*>;
+
+// The values that a field takes.
+struct Bereich {
+    double von;
+    bool von_gilt;  // the lower end itself is valid
+    double bis;
+    bool bis_gilt;
+};
+
+struct Feldbeschreibung {
+    const char* Name;  // object name, without the compound's index
+    const char* Beschriftung;
+    const char* Einheit;
+    int i_substanz;        // compound of the field, -1 in a line that stands for one field of each compound
+    Feldgruppe Gruppe;
+    bool DT50;  // shown as ln(2)/k
+    Bereich Grenzen;
+    const char* Meldung;
+    Feldziel Ziel;
+    const char* Meldung_Enter = nullptr;  // where Enter words it differently
+    bool Null_bei_Enter = false;          // Enter lets 0 through although leaving refuses it
+    bool je_Stoff = false;                // the object name carries the compound's index
+
+    std::string Objektname() const;
+    bool gilt(double v, bool Enter) const;
+};
+
+// All fields, in the order of the screen. A field is known by its place in this table.
+std::span<const Feldbeschreibung> Feldtabelle();
+
+// Place of the field of that object name, -1 without one.
+int Feld_mit_Namen(const std::string& Objektname);
+
+// DT50 of a rate constant and the other way round: ln(2)/v, 0 for what is not above 0.
+double Halbwertszeit(double v);
+
+// Text of the DT50 of a rate constant, with as few digits as the constant needs: 33 for the constant that a record keeps
+// of 33, although its 15 digits give back 33.0000000000001.
+std::string Text_der_Halbwertszeit(double k, char Dezimalzeichen);
+
+}  // namespace varnok

@@ -1,0 +1,42 @@
+#include "screens/handlers/programmende.h"
+
+#include "records/dateien.h"
+#include "records/voreinstellungen.h"
+#include "screens/handlers/texte.h"
+
+namespace varnok {
+
+std::string Einstellungspfad(const Zustand& z) { return z.Welt.Programmpfad + "/VARNOK.ini"; }
+
+void Einstellungen_schreiben(const Zustand& z) {
+    Einstellungen e = z.Einstellung;
+    e.Projektpfad = z.Projektpfad;
+    schreibe_Datei(Einstellungspfad(z), Einstellungen_als_Bytes(e));
+}
+
+void Voreinstellungen_laden(Zustand& z) {
+    stelle_Voreinstellungen_her(*z.Ordner, {z.Welt.installierte_Daten, z.Welt.Programmpfad});
+    z.beendet = true;
+    melde(z, "Default settings",
+          "The default parameters have been loaded and VARNOK will now quit.\n"
+          "The settings become available after the next program call.");
+}
+
+void beende_oder_stelle_her(Zustand& z, const std::string& Text) {
+    const Knopf Antwort = z.Welt.Fragen->frage({Texte::Datei_fehlt, Text, Symbol::Ausrufezeichen, {Knopf::Ja, Knopf::Nein}});
+    z.beendet = true;
+    if (Antwort == Knopf::Ja) Voreinstellungen_laden(z);
+}
+
+bool Ende(Zustand& z, Satzverwaltung& Saetze) {
+    if (!Saetze.frage_nach_Sicherung()) return false;
+    if (!Saetze.pruefe_Auswahl({Knopf::OK, Knopf::Abbrechen})) return false;
+    if (z.Geaendert[0] || z.Neu_berechnen) Saetze.schreibe_Zusammenfassungsdatei();
+    Einstellungen_schreiben(z);
+    z.beendet = true;
+    return true;
+}
+
+bool schliesse(Satzverwaltung& Saetze) { return Saetze.frage_nach_Sicherung(); }
+
+}  // namespace varnok

@@ -1,0 +1,182 @@
+#include "screens/handlers/satzverwaltung.h"
+
+#include <algorithm>
+
+#include "exposure/twa.h"
+#include "screens/handlers/programmende.h"
+#include "screens/handlers/texte.h"
+
+namespace varnok {
+namespace {
+
+int Position_von(const std::vector<std::string>& Liste, const std::string& Name) {
+    const auto Treffer = std::find(Liste.begin(), Liste.end(), Name);
+    return Treffer == Liste.end() ? -1 : static_cast<int>(Treffer - Liste.begin());
+}
+
+}  // namespace
+
+std::string Satzverwaltung::Name(std::size_t Art) const {
+    const int i = z_.Auswahl[Art];
+    return i < 0 ? std::string() : z_.Listen[Art][static_cast<std::size_t>(i)];
+}
+
+void Satzverwaltung::fuelle_Listen() {
+    for (std::size_t Art = 0; Art < z_.Listen.size(); ++Art) {
+        z_.Listen[Art] = z_.Ordner->Namen(Endungen[Art]);
+        z_.Auswahl[Art] = Position_von(z_.Listen[Art], z_.Felder().Aktuelle_Dateinamen[Art]);
+    }
+}
+
+// False if the record is missing and the user's answer ends the program.
+bool Satzverwaltung::lies_Satz(Satzart Art, const std::string& Satzname) {
+    const Lesebefund Befund = Satz_lesen(*z_.Ordner, Satzname, Art, z_.Parameter(), z_.Felder(), z_.Welt.Dezimalzeichen);
+    if (Befund.Ausgang == Leseausgang::fehlt) {
+        beende_oder_stelle_her(z_, "File " + Satzname + " is missing. Should the default settings be loaded ");
+        return false;
+    }
+    if (Befund.Ausgang == Leseausgang::gelesen) {
+        z_.Geaendert[Art] = false;
+    } else {
+        z_.Statuszeile = Satzname + Endungen[Art] + ", line " + std::to_string(Befund.Zeile) + ": " + Befund.Grund;
+    }
+    z_.nicht_gelesen[Art] = false;
+    Laeufe_.verwirf_alle();
+    if (Art == Wirkstoff) nach_Wirkstoff();
+    if (Art == Applikation) Diagramme_.setze_Bereiche_nach_Ansicht();
+    Diagramme_.bringe_nach_vorn(z_.Felder().Substanz);
+    return true;
+}
+
+void Satzverwaltung::nach_Wirkstoff() {
+    const auto alte_Liste = z_.Rechnung.Speicher.TWA_Tage;
+    uebernehme_TWA_Liste(z_.Rechnung);
+    if (alte_Liste != z_.Rechnung.Speicher.TWA_Tage) z_.Felder().TWA_Laenge = TWA_Vorauswahl(z_.Parameter().TWA_Zeiten);
+    if (z_.Studienzahl() <= 1) z_.Zusammenfassung_aktiv = false;
+    // A compound that the scheme does not have cannot stay in view.
+    if (z_.Felder().Substanz >= Anzahl_Stoffe(z_.Felder().Berechnungsmodus)) z_.Felder().Substanz = 0;
+    Felder_.fuelle();
+}
+
+void Satzverwaltung::waehle_Namen(const Simulationssatz& Satz) {
+    for (std::size_t Art = 1; Art <= 3; ++Art) {
+        z_.Auswahl[Art] = Position_von(z_.Listen[Art], Satz.Dateinamen[Art]);
+        z_.Felder().Aktuelle_Dateinamen[Art] = Name(Art);
+    }
+}
+
+bool Satzverwaltung::lade_Start(const std::string& Simulation) {
+    const Simulationssatz Satz = lies_Simulation(*z_.Ordner, Simulation);
+    z_.Felder().Beschreibung = Satz.Beschreibung;
+    z_.Felder().Aktuelle_Dateinamen = Satz.Dateinamen;
+    z_.Felder().Aktuelle_Dateinamen[0] = Simulation;
+    z_.Auswahl[0] = Position_von(z_.Listen[0], Simulation);
+    for (const Satzart Art : {Wirkstoff, Szenario, Applikation}) {
+        if (!lies_Satz(Art, Satz.Dateinamen[Art])) return false;
+    }
+    waehle_Namen(Satz);
+    Diagramme_.setze_Startbereiche();
+    z_.Geaendert.fill(false);
+    z_.Neu_berechnen = true;
+    return true;
+}
+
+void Satzverwaltung::waehle_Simulation(int Position) {
+    const std::string Simulation = z_.Listen[0].at(static_cast<std::size_t>(Position));
+    decke_ab(z_, Texte::Eingabe_geaendert);
+    const Simulationssatz Satz = lies_Simulation(*z_.Ordner, Simulation);
+    z_.Auswahl[0] = Position;
+    z_.Felder().Beschreibung = Satz.Beschreibung;
+    z_.Felder().Aktuelle_Dateinamen[0] = Simulation;
+    z_.Neu_berechnen = false;
+    waehle_Namen(Satz);
+    z_.nicht_gelesen = {false, true, true, true};
+    if (!z_.Gestartet) z_.nicht_gelesen.fill(false);
+    if (!lies_fehlende_Saetze()) return;
+    z_.Geaendert[0] = false;
+    z_.Simulation_markiert = false;
+    schliesse_Laden_ab();
+}
+
+// Reads the records that the selectors name and that were not read, up to the first selector without an entry.
+bool Satzverwaltung::lies_fehlende_Saetze() {
+    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) {
+        if (z_.Auswahl[Art] < 0) {
+            decke_ab(z_, Texte::Satz_fehlt);
+            z_.Neu_berechnen = false;
+            return false;
+        }
+        if (z_.nicht_gelesen[Art] && !lies_Satz(Art, Name(Art))) return false;
+    }
+    return true;
+}
+
+void Satzverwaltung::schliesse_Laden_ab() {
+    z_.Neu_berechnen = true;
+    Laeufe_.berechne();
+}
+
+void Satzverwaltung::merke_Kombination() {
+    if (!z_.Gestartet) return;
+    z_.Geaendert[0] = true;
+    z_.Simulation_markiert = true;
+}
+
+void Satzverwaltung::waehle_Satz(Satzart Art, int Position) {
+    z_.Auswahl[Art] = Position;
+    merke_Kombination();
+    // The selector already shows the record chosen, so Yes stores the values of the record left under the
+    // name of the one chosen.
+    if (z_.Geaendert[Art] && !frage_Sicherung(Art)) return;
+    z_.Geaendert[Art] = false;
+    z_.Felder().Aktuelle_Dateinamen[Art] = Name(Art);
+    z_.nicht_gelesen[Art] = true;
+    if (!lies_fehlende_Saetze()) return;
+    schliesse_Laden_ab();
+}
+
+bool Satzverwaltung::pruefe_Auswahl(const std::vector<Knopf>& Knoepfe) {
+    for (std::size_t Art = 1; Art <= 3; ++Art) {
+        if (z_.Auswahl[Art] >= 0) continue;
+        z_.Welt.Fragen->frage({Texte::Satz_nicht_gewaehlt, Texte::Satz_waehlen[Art], Symbol::Ausrufezeichen, Knoepfe});
+        return false;
+    }
+    return true;
+}
+
+void Satzverwaltung::schreibe_Zusammenfassungsdatei() {
+    Simulationssatz Satz{z_.Felder().Beschreibung, {}};
+    for (std::size_t Art = 1; Art <= 3; ++Art) Satz.Dateinamen[Art] = Name(Art);
+    schreibe_Simulation(*z_.Ordner, Name(0), Satz);
+}
+
+bool Satzverwaltung::speichere() {
+    if (!pruefe_Auswahl({Knopf::OK, Knopf::Abbrechen})) return false;
+    schreibe_Zusammenfassungsdatei();
+    for (std::size_t Art = 1; Art <= 3; ++Art) {
+        z_.Felder().Aktuelle_Dateinamen[Art] = Name(Art);
+        if (z_.nicht_gelesen[Art]) continue;
+        Satz_schreiben(*z_.Ordner, Name(Art), static_cast<Satzart>(Art), z_.Parameter(), z_.Felder(), z_.Welt.Dezimalzeichen);
+        z_.Geaendert[Art] = false;
+    }
+    z_.Simulation_markiert = false;
+    z_.Statuszeile = "All input data of \"" + Name(0) + "\" saved.";
+    return true;
+}
+
+// The question for one changed record; false if the save that it led to was refused.
+bool Satzverwaltung::frage_Sicherung(std::size_t Art) {
+    const std::string Text = std::string("You modified ") + Satzart_Namen[Art] + " input data! " +
+                             " Do you want to save the changes in your data base?";
+    const Knopf Antwort = z_.Welt.Fragen->frage({Texte::Aenderungen_sichern, Text, Symbol::Ausrufezeichen, {Knopf::Ja, Knopf::Nein}});
+    return Antwort != Knopf::Ja || speichere();
+}
+
+bool Satzverwaltung::frage_nach_Sicherung() {
+    for (std::size_t Art = 1; Art <= 3; ++Art) {
+        if (z_.Geaendert[Art] && !frage_Sicherung(Art)) return false;
+    }
+    return true;
+}
+
+}  // namespace varnok

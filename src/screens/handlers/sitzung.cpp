@@ -1,0 +1,256 @@
+#include "screens/handlers/sitzung.h"
+
+#include <algorithm>
+#include <exception>
+#include <utility>
+
+#include "run/kalender.h"
+#include "screens/handlers/programmende.h"
+#include "screens/handlers/startablauf.h"
+#include "screens/handlers/texte.h"
+
+namespace varnok {
+
+Sitzung::Sitzung(Umgebung Welt) { z_.Welt = std::move(Welt); }
+
+void Sitzung::melde_Fehler(const std::string& Text) {
+    decke_ab(z_, Texte::nicht_gueltig);
+    melde(z_, Texte::Laufzeitfehler, Text);
+    // A file that could not be written says nothing against the results.
+    const bool gueltig = z_.Gestartet && !z_.veraltet && Laeufe_.Saetze_vollstaendig() && Laeufe_.alles_Gezeigte_gueltig();
+    if (gueltig) z_.abgedeckt = false;
+}
+
+template <class Handlung>
+void Sitzung::tue(Handlung h) {
+    try {
+        h();
+    } catch (const std::exception& Fehler) {
+        melde_Fehler(Fehler.what());
+    }
+}
+
+template <class Handlung>
+void Sitzung::befolge(Handlung h, bool mit_Lauf) {
+    const bool Feld_offen = Felder_.aktives_Feld() >= 0;
+    if (!schliesse_Feld_ab(mit_Lauf)) return;
+    tue(h);
+    // A command that was to run and did not leaves the accepted value without results.
+    if (Feld_offen && !mit_Lauf && z_.veraltet && !z_.abgedeckt && !z_.beendet) tue([&] { Laeufe_.berechne(); });
+}
+
+bool Sitzung::starte() {
+    bool weiter = false;
+    tue([&] { weiter = starte_Programm(z_, Saetze_); });
+    return weiter && !z_.beendet;
+}
+
+int Sitzung::Tage_der_Liste() const { return Tage_im_Monat(z_.Felder().App_Monat + 1); }
+
+int Sitzung::Intervalle_der_Liste() const { return laengstes_Intervall(z_.Felder().Anzahl()); }
+
+Tabellentext Sitzung::Ergebnisse(int i_substanz) const {
+    Tabellentext Tabelle = Tabellenkopf(z_.Rechnung, z_.Welt.Dezimalzeichen);
+    erstelle_Ergebnistabelle(z_.Rechnung, z_.i_studie(), i_substanz, Tabelle);
+    return Tabelle;
+}
+
+Tabellentext Sitzung::Ergebnisse_Zusammenfassung(int i_substanz) const {
+    Tabellentext Tabelle = Tabellenkopf(z_.Rechnung, z_.Welt.Dezimalzeichen);
+    erstelle_Ergebnistabelle_Zusammenfassung(z_.Rechnung, i_substanz, Tabelle);
+    return Tabelle;
+}
+
+void Sitzung::betrete_Feld(int Feld) { Felder_.betrete(Feld); }
+
+void Sitzung::aendere_Feld(int Feld, const std::string& Text) { Felder_.aendere(Feld, Text); }
+
+bool Sitzung::bestaetige_Feld(int Feld) {
+    bool angenommen = true;
+    tue([&] { angenommen = Felder_.bestaetige(Feld); });
+    return angenommen;
+}
+
+bool Sitzung::verlasse_Feld(int Feld) {
+    bool angenommen = true;
+    tue([&] { angenommen = Felder_.verlasse(Feld); });
+    return angenommen;
+}
+
+void Sitzung::nimm_Feld_zurueck(int Feld) { Felder_.nimm_zurueck(Feld); }
+
+bool Sitzung::schliesse_Feld_ab(bool mit_Lauf) {
+    const int Feld = Felder_.aktives_Feld();
+    if (Feld < 0) return true;
+    bool angenommen = true;
+    tue([&] { angenommen = Felder_.verlasse(Feld, mit_Lauf); });
+    return angenommen;
+}
+
+void Sitzung::Starten() {
+    if (z_.Gestartet) return;
+    tue([&] {
+        z_.Gestartet = true;
+        // The handler of the pattern makes the first run; what it marks is no change of the user.
+        Auswahl_.fuehre_Muster_aus();
+    });
+    z_.Geaendert.fill(false);
+}
+
+void Sitzung::Aktualisieren() {
+    befolge([&] {
+        z_.Neu_berechnen = true;
+        Laeufe_.verwirf_alle();
+        Laeufe_.berechne(true);
+    }, false);
+}
+
+void Sitzung::Speichern() {
+    befolge([&] { Saetze_.speichere(); });
+}
+
+void Sitzung::Ende() {
+    befolge([&] { varnok::Ende(z_, Saetze_); });
+}
+
+void Sitzung::lade_Voreinstellungen() {
+    befolge([&] { Voreinstellungen_laden(z_); });
+}
+
+bool Sitzung::schliesse_Fenster() {
+    if (z_.beendet) return true;
+    Felder_.nimm_Ungueltiges_zurueck();
+    tue([&] { z_.beendet = schliesse(Saetze_); });
+    return z_.beendet;
+}
+
+void Sitzung::zeige_Studien() {
+    befolge([&] { Auswahl_.zeige_Studien(); });
+}
+void Sitzung::zeige_Zusammenfassung() {
+    befolge([&] { Auswahl_.zeige_Zusammenfassung(); });
+}
+
+void Sitzung::schalte_Diagramm_weiter() {
+    befolge([&] { Diagramme_.schalte_weiter(); });
+}
+
+bool Sitzung::skaliere_Diagramm(const std::string& Start, const std::string& Ende) { return Diagramme_.skaliere(Start, Ende); }
+
+void Sitzung::schliesse_Skalierung() {
+    befolge([&] {
+        if (z_.Zusammenfassung_aktiv) {
+            Laeufe_.zeichne_neu();
+        } else {
+            z_.Neu_berechnen = true;
+            Laeufe_.berechne();
+        }
+    }, false);
+}
+
+void Sitzung::erstelle_Bericht() {
+    befolge([&] {
+        if (z_.Gestartet) Berichte_.erstelle();
+    });
+}
+void Sitzung::schliesse_Bericht() { Berichte_.schliesse(); }
+void Sitzung::speichere_Bericht_als_PDF(const std::string& Pfad) {
+    tue([&] { Berichte_.speichere_PDF(Pfad); });
+}
+
+void Sitzung::waehle_Simulation(int Position) {
+    befolge([&] { Saetze_.waehle_Simulation(Position); }, false);
+}
+void Sitzung::waehle_Satz(Satzart Art, int Position) {
+    befolge([&] { Saetze_.waehle_Satz(Art, Position); }, false);
+}
+
+void Sitzung::oeffne_Beschreibung() {
+    alte_Beschreibung_ = z_.Felder().Beschreibung;
+    alte_Marke_ = z_.Geaendert[0];
+    z_.Beschreibung_offen = true;
+}
+
+void Sitzung::aendere_Beschreibung(const std::string& Text) {
+    std::string eine_Zeile = Text;
+    std::replace_if(eine_Zeile.begin(), eine_Zeile.end(), [](char c) { return c == '\n' || c == '\r'; }, ' ');
+    if (eine_Zeile == z_.Felder().Beschreibung) return;
+    z_.Felder().Beschreibung = eine_Zeile;
+    z_.Ergebnisdatei.clear();
+    z_.Geaendert[0] = true;
+}
+
+void Sitzung::schliesse_Beschreibung() { z_.Beschreibung_offen = false; }
+
+void Sitzung::nimm_Beschreibung_zurueck() {
+    if (z_.Beschreibung_offen) {
+        z_.Felder().Beschreibung = alte_Beschreibung_;
+        z_.Geaendert[0] = alte_Marke_;
+    }
+    z_.Beschreibung_offen = false;
+}
+
+void Sitzung::waehle_Substanz(int c) {
+    befolge([&] { Auswahl_.waehle_Substanz(c); });
+}
+void Sitzung::waehle_Kinetik(int c, int Code) {
+    befolge([&] { Auswahl_.waehle_Kinetik(c, Code); }, false);
+}
+void Sitzung::waehle_Studie(int i) {
+    befolge([&] { Auswahl_.waehle_Studie(i); });
+}
+void Sitzung::waehle_Berechnungsmodus(int m) {
+    befolge([&] { Auswahl_.waehle_Berechnungsmodus(m); }, false);
+}
+void Sitzung::aendere_Namen(int c, const std::string& Name) { Auswahl_.aendere_Namen(c, Name); }
+void Sitzung::verlasse_Namen() {
+    // A number that was refused has taken the focus back: it is told once, and the name waits.
+    if (Felder_.aktives_Feld() < 0) tue([&] { Auswahl_.verlasse_Namen(); });
+}
+
+void Sitzung::waehle_Muster(int m) {
+    befolge([&] { Auswahl_.waehle_Muster(m); }, false);
+}
+void Sitzung::waehle_Monat(int i) {
+    befolge([&] { Auswahl_.waehle_Monat(i); }, false);
+}
+void Sitzung::waehle_Tag(int i) {
+    befolge([&] { Auswahl_.waehle_Tag(i); }, false);
+}
+void Sitzung::waehle_Intervall(int i) {
+    befolge([&] { Auswahl_.waehle_Intervall(i); }, false);
+}
+void Sitzung::waehle_Anzahl(int i) {
+    befolge([&] { Auswahl_.waehle_Anzahl(i); }, false);
+}
+
+void Sitzung::waehle_Endpunkt(int e) {
+    befolge([&] { Auswahl_.waehle_Endpunkt(e); });
+}
+void Sitzung::waehle_PEC_Typ(int a) {
+    befolge([&] { Auswahl_.waehle_PEC_Typ(a); });
+}
+void Sitzung::waehle_Fruchtwechsel(int r) {
+    befolge([&] { Auswahl_.waehle_Fruchtwechsel(r); });
+}
+void Sitzung::waehle_TWA_Laenge(int j) {
+    befolge([&] { Auswahl_.waehle_TWA_Laenge(j); });
+}
+
+void Sitzung::haenge_an_Zelle(Zelle z, char Zeichen) {
+    tue([&] { Tabelle_.haenge_an(z, Zeichen); });
+}
+void Sitzung::nimm_letztes_Zeichen(Zelle z) {
+    tue([&] { Tabelle_.nimm_letztes(z); });
+}
+void Sitzung::leere_Zelle(Zelle z) {
+    tue([&] { Tabelle_.leere(z); });
+}
+void Sitzung::fuege_in_Tabelle_ein(Zelle z, const std::string& Text) {
+    tue([&] { Tabelle_.fuege_ein(z, Text); });
+}
+void Sitzung::bestaetige_Tabelle() {
+    befolge([&] { Tabelle_.bestaetige(); }, false);
+}
+
+}  // namespace varnok

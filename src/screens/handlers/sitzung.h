@@ -1,0 +1,127 @@
+#pragma once
+
+// The program behind the screen. Every user action comes in here, every decision is taken here or in one of
+// the parts; the widgets show `Zustand` and forward what the user does.
+
+#include <string>
+#include <vector>
+
+#include "exposure/ergebnistabelle.h"
+#include "exposure/twa.h"
+#include "screens/handlers/applikationstabelle.h"
+#include "screens/handlers/auswahl.h"
+#include "screens/handlers/berichtssteuerung.h"
+#include "screens/handlers/feldeingabe.h"
+#include "screens/handlers/laufsteuerung.h"
+#include "screens/handlers/satzverwaltung.h"
+#include "screens/handlers/zustand.h"
+
+namespace varnok {
+
+class Sitzung {
+public:
+    explicit Sitzung(Umgebung Welt);
+
+    // Reads settings, project and the simulation used last. False if the program ends at once.
+    bool starte();
+
+    const Zustand& Stand() const { return z_; }
+    const std::string& Feldtext(int Feld) const { return Felder_.Text(Feld); }
+    int aktives_Feld() const { return Felder_.aktives_Feld(); }
+    // Lists whose length depends on the input.
+    int Tage_der_Liste() const;
+    int Intervalle_der_Liste() const;
+    std::vector<std::string> TWA_Liste() const { return TWA_Eintraege(z_.Rechnung, z_.Welt.Dezimalzeichen); }
+    // Result grid of a compound for the selected study; the summary grid over all studies.
+    Tabellentext Ergebnisse(int i_substanz) const;
+    Tabellentext Ergebnisse_Zusammenfassung(int i_substanz) const;
+    // Diagrams of the view on display, and the one in front.
+    const Diagrammsteuerung& Diagramme() const { return Diagramme_; }
+    bool darf_Zusammenfassung() const { return z_.Gestartet && z_.Studienzahl() > 1; }
+
+    // Numeric fields. `bestaetige_Feld` and `verlasse_Feld` give false where the field keeps the focus.
+    void betrete_Feld(int Feld);
+    void aendere_Feld(int Feld, const std::string& Text);
+    bool bestaetige_Feld(int Feld);
+    bool verlasse_Feld(int Feld);
+    void nimm_Feld_zurueck(int Feld);
+    // Before every other command: accepts the field in work. False if it is invalid: the command is not done.
+    bool schliesse_Feld_ab(bool mit_Lauf = true);
+
+    // Buttons and menu entries.
+    void Starten();
+    void Aktualisieren();
+    void Speichern();
+    void Ende();
+    void lade_Voreinstellungen();
+    bool schliesse_Fenster();  // false: the window stays
+    void zeige_Studien();
+    void zeige_Zusammenfassung();
+    // A left click on a diagram.
+    void schalte_Diagramm_weiter();
+    // The scaling dialog's OK: false, and the message has been shown, for an end that is refused.
+    bool skaliere_Diagramm(const std::string& Start, const std::string& Ende);
+    // After the dialog has closed, also by Cancel: a run in the single view, a drawing in the summary.
+    void schliesse_Skalierung();
+
+    // Report: made, written, shown until it is closed.
+    void erstelle_Bericht();
+    void schliesse_Bericht();
+    void speichere_Bericht_als_PDF(const std::string& Pfad);
+    const Bericht* offener_Bericht() const { return Berichte_.offener(); }
+
+    // Records.
+    void waehle_Simulation(int Position);
+    void waehle_Satz(Satzart Art, int Position);
+    void oeffne_Beschreibung();
+    void aendere_Beschreibung(const std::string& Text);
+    void schliesse_Beschreibung();
+    void nimm_Beschreibung_zurueck();
+
+    // Compound data, application pattern, results: see `Auswahl`.
+    void waehle_Substanz(int c);
+    void waehle_Kinetik(int c, int Code);
+    void waehle_Studie(int i);
+    void waehle_Berechnungsmodus(int m);
+    void aendere_Namen(int c, const std::string& Name);
+    void verlasse_Namen();
+    void waehle_Muster(int m);
+    void waehle_Monat(int i);
+    void waehle_Tag(int i);
+    void waehle_Intervall(int i);
+    void waehle_Anzahl(int i);
+    void waehle_Endpunkt(int e);
+    void waehle_PEC_Typ(int a);
+    void waehle_Fruchtwechsel(int r);
+    void waehle_TWA_Laenge(int j);
+
+    // Table of irregular applications.
+    void haenge_an_Zelle(Zelle z, char Zeichen);
+    void nimm_letztes_Zeichen(Zelle z);
+    void leere_Zelle(Zelle z);
+    void fuege_in_Tabelle_ein(Zelle z, const std::string& Text);
+    void bestaetige_Tabelle();
+
+private:
+    // The one place that turns a fault into a message: results are covered, the action ends, what was
+    // entered stays, the program goes on.
+    template <class Handlung>
+    void tue(Handlung h);
+    // The same for a command: the field in work is accepted first.
+    template <class Handlung>
+    void befolge(Handlung h, bool mit_Lauf = true);
+    void melde_Fehler(const std::string& Text);
+
+    Zustand z_;
+    Diagrammsteuerung Diagramme_{z_};
+    Laufsteuerung Laeufe_{z_, Diagramme_};
+    Feldeingabe Felder_{z_, Laeufe_};
+    Satzverwaltung Saetze_{z_, Laeufe_, Felder_, Diagramme_};
+    Auswahl Auswahl_{z_, Laeufe_, Felder_, Diagramme_};
+    Applikationstabelle Tabelle_{z_, Laeufe_};
+    Berichtssteuerung Berichte_{z_, Laeufe_, Diagramme_};
+    std::string alte_Beschreibung_;
+    bool alte_Marke_ = false;  // of the simulation, before the description was opened
+};
+
+}  // namespace varnok

@@ -1,0 +1,25 @@
+#pragma once
+
+// Texts of messages and of the cover, spelled as users know them.
+
+#include <array>
+
+namespace varnok::Texte {
+
+inline constexpr const char* keine_gueltige_Eingabe = "No valid input!";
+inline constexpr const char* Datei_fehlt = "Data file missing";
+inline constexpr const char* Satz_nicht_gewaehlt = "Record not set";
+inline constexpr const char* kein_Endplateau = "No final plateau";
+inline constexpr const char* Laufzeitfehler = "Runtime error";
+inline constexpr const char* Aenderungen_sichern = "Save changes?";
+
+inline constexpr std::array<const char*, 4> Satz_waehlen = {"", "Pesticide record not set. Please select!",
+                                                            "Application record not set. Please select!",
+                                                            "Scenario record not set. Please select!"};
+
+// What the cover says over the results.
+inline constexpr const char* Eingabe_geaendert = "Input changed";
+inline constexpr const char* nicht_gueltig = "Not valid";
+inline constexpr const char* Satz_fehlt = "Record missing: choose one";
+
+}  // namespace varnok::Texte

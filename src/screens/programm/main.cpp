@@ -1,0 +1,63 @@
+// The desktop program.
+
+#include <QApplication>
+#include <QDir>
+#include <QLocale>
+#include <QStandardPaths>
+#include <QStyleFactory>
+#include <cstdio>
+#include <string_view>
+
+#include "screens/programm/programmordner.h"
+#include "screens/widgets/bilder.h"
+#include "screens/widgets/fensterfrage.h"
+#include "screens/widgets/hauptformular.h"
+#include "screens/widgets/qt_text.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Answered without a display. The program reads nothing else from its command line.
+bool beantworte(std::string_view Argument) {
+    if (Argument == "--version") {
+        std::fputs("VARNOK " VARNOK_VERSION "\n", stdout);
+    } else if (Argument == "--help") {
+        std::fputs(
+            "varnok: predicted environmental concentrations of plant protection products in soil.\n"
+            "Opens the window on the project of the current folder, else on that of the user. Takes no arguments.\n"
+            "Calculations without a window: varnok-batch --help\n",
+            stdout);
+    } else {
+        return false;
+    }
+    return true;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (argc > 1 && beantworte(argv[1])) return 0;
+
+    QApplication Anwendung(argc, argv);
+    QApplication::setApplicationName(u"varnok"_s);
+    QApplication::setApplicationVersion(QStringLiteral(VARNOK_VERSION));
+    QApplication::setDesktopFileName(u"varnok"_s);
+    QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
+    QApplication::setWindowIcon(varnok::Bild_aus_SVG(u"varnok"_s));
+    // Numbers that Qt writes follow no locale; records keep the decimal separator of the region.
+    const bool Komma = QLocale::system().decimalPoint() == u","_s;
+    QLocale::setDefault(QLocale::c());
+
+    const QString installiert = QStringLiteral(VARNOK_DATENORDNER);
+    const QString Datenordner = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    const QString Ordner = varnok::Programmordner(QDir::currentPath(), Datenordner, installiert);
+    const QString Fensterdatei = QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) + u"/window.ini"_s;
+
+    varnok::Fensterfrage Fragen;
+    varnok::Sitzung Programm({&Fragen, varnok::aus_Qt(Ordner), varnok::aus_Qt(installiert), Komma ? ',' : '.'});
+    if (!Programm.starte()) return 0;
+    varnok::Hauptformular Fenster(Programm, &Fragen, Fensterdatei);
+    Fenster.show();
+    return QApplication::exec();
+}

@@ -1,0 +1,140 @@
+#include "screens/widgets/berichtsansicht.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QEvent>
+#include <QFileDialog>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QTextDocumentFragment>
+#include <QVBoxLayout>
+
+#include "reports/berichtsbild.h"
+#include "reports/rtf_schreiber.h"
+#include "reports/seitenausgabe.h"
+#include "screens/widgets/bausteine.h"
+#include "screens/widgets/qt_text.h"
+
+namespace varnok {
+
+using namespace Qt::StringLiterals;
+
+Berichtsansicht::Berichtsansicht(Sitzung& Programm, QWidget* Flaeche, QWidget* parent)
+    : Rahmen(u"Berichtsansicht"_s, Rahmenart::schlicht, Programm, parent), Flaeche_(Flaeche) {
+    setAutoFillBackground(true);
+    Bericht_ = new QTextEdit(this);
+    Bericht_->setObjectName(u"Bericht"_s);
+    Bericht_->setAccessibleName(u"Report"_s);
+    Bericht_->setReadOnly(true);
+    // Paper is white on every desktop.
+    Bericht_->setStyleSheet(u"QTextEdit { background: white; color: black; }"_s);
+
+    auto* Blatt = new QVBoxLayout(this);
+    Blatt->setContentsMargins(8, 8, 8, 8);
+    Blatt->addWidget(Bericht_, 1);
+    auto* Zeile = new QHBoxLayout;
+    const struct { QString Name, Aufschrift; void (Berichtsansicht::*Befehl)(); } Knoepfe[] = {
+        {u"Bericht_drucken"_s, u"Print"_s, &Berichtsansicht::drucke},
+        {u"Bericht_PDF"_s, u"Save report as PDF"_s, &Berichtsansicht::speichere_PDF},
+        {u"Bericht_kopieren"_s, u"Copy report"_s, &Berichtsansicht::kopiere},
+        {u"Bericht_schliessen"_s, u"Close"_s, &Berichtsansicht::schliesse},
+    };
+    Zeile->addStretch(1);
+    for (const auto& k : Knoepfe) {
+        auto* Knopf = new Schaltflaeche(k.Name, k.Aufschrift, this);
+        connect(Knopf, &QPushButton::clicked, this, k.Befehl);
+        Zeile->addWidget(Knopf);
+    }
+    Blatt->addLayout(Zeile);
+    Flaeche_->installEventFilter(this);
+    connect(qApp, &QApplication::focusChanged, this, &Berichtsansicht::pruefe_Fokus);
+    hide();
+}
+
+void Berichtsansicht::zeige() {
+    const Bericht* b = Programm_.offener_Bericht();
+    setVisible(b != nullptr);
+    if (b == gezeigter_) return;
+    gezeigter_ = b;
+    fuelle();
+}
+
+void Berichtsansicht::fuelle() {
+    if (gezeigter_ == nullptr) {
+        Bericht_->clear();
+        Dokument_.reset();
+        return;
+    }
+    // The document stays the session's; what is shown, scrolled and selected is a copy.
+    std::unique_ptr<QTextDocument> neues(kopiere_Dokument(*gezeigter_->Dokument));
+    Bericht_->setDocument(neues.get());
+    Dokument_ = std::move(neues);
+    setGeometry(Flaeche_->geometry());
+    raise();
+    Bericht_->setFocus(Qt::OtherFocusReason);
+}
+
+void Berichtsansicht::schliesse() {
+    Programm_.schliesse_Bericht();
+    Q_EMIT gehandelt();
+}
+
+void Berichtsansicht::kopiere() {
+    if (gezeigter_ == nullptr) return;
+    auto* Inhalt = new QMimeData;
+    Inhalt->setData(u"text/rtf"_s, QByteArray::fromStdString(gezeigter_->RTF));
+    Inhalt->setHtml(Bericht_->toHtml());
+    Inhalt->setText(Bericht_->toPlainText());
+    QApplication::clipboard()->setMimeData(Inhalt);
+}
+
+void Berichtsansicht::speichere_PDF() {
+    const QString Vorschlag = in_Qt(Stand().Projektpfad) + u"/output/"_s + in_Qt(gezeigter_->Name) + u".pdf"_s;
+    QString Pfad = QFileDialog::getSaveFileName(window(), u"Save report as PDF"_s, Vorschlag, u"PDF (*.pdf)"_s);
+    if (Pfad.isEmpty()) return;
+    if (!Pfad.endsWith(u".pdf"_s, Qt::CaseInsensitive)) Pfad += u".pdf"_s;
+    handle([&] { Programm_.speichere_Bericht_als_PDF(aus_Qt(Pfad)); });
+}
+
+void Berichtsansicht::drucke() {
+    if (gezeigter_ == nullptr) return;
+    QPrinter Drucker(QPrinter::HighResolution);
+    QPrintDialog Dialog(&Drucker, window());
+    Dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
+    const bool ausgewaehlt = Bericht_->textCursor().hasSelection();
+    Dialog.setOption(QAbstractPrintDialog::PrintSelection, ausgewaehlt);
+    if (ausgewaehlt) Dialog.setPrintRange(QAbstractPrintDialog::Selection);
+    if (Dialog.exec() != QDialog::Accepted) return;
+    if (Dialog.printRange() != QAbstractPrintDialog::Selection) {
+        drucke_Dokument(*gezeigter_->Dokument, Drucker);
+        return;
+    }
+    QTextDocument Auswahl;
+    QTextCursor(&Auswahl).insertFragment(Bericht_->textCursor().selection());
+    drucke_Dokument(Auswahl, Drucker);
+}
+
+void Berichtsansicht::pruefe_Fokus(const QWidget* alt, const QWidget* neu) {
+    // A menu, a dialog or another window takes the focus for a while; the report stays.
+    const bool verlassen = isVisible() && alt != nullptr && isAncestorOf(alt) && neu != nullptr && neu->window() == window() &&
+                           !isAncestorOf(neu) && QApplication::activePopupWidget() == nullptr;
+    if (verlassen) QMetaObject::invokeMethod(this, &Berichtsansicht::schliesse, Qt::QueuedConnection);
+}
+
+bool Berichtsansicht::eventFilter(QObject* Objekt, QEvent* e) {
+    if (Objekt == Flaeche_ && (e->type() == QEvent::Resize || e->type() == QEvent::Move)) setGeometry(Flaeche_->geometry());
+    return Rahmen::eventFilter(Objekt, e);
+}
+
+void Berichtsansicht::keyPressEvent(QKeyEvent* e) {
+    if (e->key() == Qt::Key_Escape) {
+        schliesse();
+        return;
+    }
+    Rahmen::keyPressEvent(e);
+}
+
+}  // namespace varnok

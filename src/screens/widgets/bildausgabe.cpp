@@ -1,0 +1,117 @@
+#include "screens/widgets/bildausgabe.h"
+
+#include <QBuffer>
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QPageSize>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QSvgGenerator>
+#include <QtCore/QMimeData>
+#include <algorithm>
+#include <cmath>
+
+#include "reports/berichtsbild.h"
+#include "reports/zeichner.h"
+#include "screens/widgets/diagrammlage.h"
+#include "screens/widgets/qt_text.h"
+
+namespace varnok {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr int Einheiten_pro_Zoll = 96;
+constexpr int Aufloesung_Zwischenablage = 192;
+const QRectF Flaeche(0, 0, Bildbreite, Bildhoehe);
+
+}  // namespace
+
+Zeichenliste Bildzeichnung(const Diagramm& d, Flaechenort Legende) {
+    Diagramm Bild = d;
+    // Above the axes stand three lines: title, comment and the name of the y axis.
+    passe_an_Flaeche(Bild.Liste, Flaeche.size(), {44, 22});
+    Flaechenrechteck Rahmen = Heimatplaetze(d.Legendeninhalt).Legendenrahmen;
+    Rahmen.links = std::clamp(Legende.links, 0.0, 1 - Rahmen.Breite);
+    Rahmen.oben = std::clamp(Legende.oben, 0.0, 1 - Rahmen.Hoehe);
+    return mit_Beschriftung(Bild, Rahmen);
+}
+
+QSize Bildgroesse(int dpi) { return {Bildbreite * dpi / Einheiten_pro_Zoll, Bildhoehe * dpi / Einheiten_pro_Zoll}; }
+
+QImage Bild_als_Pixel(const Zeichenliste& z, int dpi) {
+    QImage Bild(Bildgroesse(dpi), QImage::Format_RGB32);
+    Bild.fill(Qt::white);
+    {
+        QPainter p(&Bild);
+        p.scale(Bild.width() / Flaeche.width(), Bild.height() / Flaeche.height());
+        male(p, Flaeche, z, Schriftgroesse_Bericht);
+    }
+    // Only now: letters are drawn in pixels.
+    const auto je_Meter = static_cast<int>(std::lround(dpi / 0.0254));
+    Bild.setDotsPerMeterX(je_Meter);
+    Bild.setDotsPerMeterY(je_Meter);
+    return Bild;
+}
+
+QByteArray Bild_als_PNG(const Zeichenliste& z, int dpi) {
+    QByteArray Inhalt;
+    QBuffer Puffer(&Inhalt);
+    Puffer.open(QIODevice::WriteOnly);
+    Bild_als_Pixel(z, dpi).save(&Puffer, "PNG", -1);
+    return Inhalt;
+}
+
+QByteArray Bild_als_SVG(const Zeichenliste& z, const QString& Titel) {
+    QByteArray Inhalt;
+    QBuffer Puffer(&Inhalt);
+    Puffer.open(QIODevice::WriteOnly);
+    QSvgGenerator Geraet;
+    Geraet.setOutputDevice(&Puffer);
+    Geraet.setSize(Flaeche.size().toSize());
+    Geraet.setViewBox(Flaeche);
+    Geraet.setResolution(Einheiten_pro_Zoll);
+    Geraet.setTitle(Titel);
+    Geraet.setDescription(u"VARNOK"_s);
+    QPainter p(&Geraet);
+    p.fillRect(Flaeche, Qt::white);
+    male(p, Flaeche, z, Schriftgroesse_Bericht);
+    p.end();
+    return Inhalt;
+}
+
+QByteArray Bild_als_PDF(const Zeichenliste& z, const QString& Titel) {
+    constexpr int Aufloesung = 1200;
+    constexpr double Punkte_pro_Einheit = 72.0 / Einheiten_pro_Zoll;
+    QByteArray Inhalt;
+    QBuffer Puffer(&Inhalt);
+    Puffer.open(QIODevice::WriteOnly);
+    QPdfWriter Geraet(&Puffer);
+    Geraet.setResolution(Aufloesung);
+    Geraet.setPageSize(QPageSize(Flaeche.size() * Punkte_pro_Einheit, QPageSize::Point, {}, QPageSize::ExactMatch));
+    Geraet.setPageMargins(QMarginsF());
+    Geraet.setTitle(Titel);
+    Geraet.setCreator(u"VARNOK"_s);
+    QPainter p(&Geraet);
+    p.scale(static_cast<double>(Aufloesung) / Einheiten_pro_Zoll, static_cast<double>(Aufloesung) / Einheiten_pro_Zoll);
+    male(p, Flaeche, z, Schriftgroesse_Bericht);
+    p.end();
+    return Inhalt;
+}
+
+void kopiere_Bild(const Zeichenliste& z, const QString& Titel) {
+    auto* Inhalt = new QMimeData;
+    Inhalt->setImageData(Bild_als_Pixel(z, Aufloesung_Zwischenablage));
+    Inhalt->setData(u"image/svg+xml"_s, Bild_als_SVG(z, Titel));
+    QGuiApplication::clipboard()->setMimeData(Inhalt);
+}
+
+QString Bilddateiname(const Diagramm& d) {
+    QString Name = in_Qt(d.Titel.Text).simplified();
+    for (QChar& c : Name) {
+        if (u"\\/:*?\"<>|"_s.contains(c) || c.unicode() < u' ') c = u'_';
+    }
+    return Name.left(80).trimmed();
+}
+
+}  // namespace varnok

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QScrollArea>
+
+namespace varnok {
+
+// The column of the inputs: as wide as its frames need in the present font, with room for the bar that appears
+// when the window is low.
+class Eingabespalte : public QScrollArea {
+    Q_OBJECT
+public:
+    Eingabespalte(QWidget* Inhalt, QWidget* parent);
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+};
+
+}  // namespace varnok

@@ -1,0 +1,31 @@
+#pragma once
+
+// The colours of the window. The frames of the input keep their light colours with dark text also on a dark desktop.
+
+#include <QColor>
+#include <QPalette>
+
+namespace varnok {
+
+enum class Rahmenart { schlicht, Wirkstoff, Applikation, Szenario };
+
+namespace Farben {
+
+inline constexpr QColor Wirkstoff{192, 255, 192};
+inline constexpr QColor Applikation{255, 255, 192};
+inline constexpr QColor Szenario{255, 192, 128};
+inline constexpr QColor Eingabe{255, 255, 0};       // a field in work
+inline constexpr QColor Markierung{192, 255, 255};  // the combination differs from the saved one
+inline constexpr QColor Beschreibung{0, 0, 255};
+inline constexpr QColor Text{28, 32, 36};
+inline constexpr QColor Linie{31, 95, 139};  // the blue of the program's own drawings
+
+}  // namespace Farben
+
+// The colour of a frame's surface. Not for `schlicht`, which has none of its own.
+QColor Rahmenfarbe(Rahmenart Art);
+
+// A light palette around a surface of that colour: white fields, dark text.
+QPalette helle_Palette(const QColor& Flaeche);
+
+}  // namespace varnok

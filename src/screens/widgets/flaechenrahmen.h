@@ -1,0 +1,64 @@
+#pragma once
+
+#include <QFrame>
+#include <optional>
+
+#include "diagrams/diagrammsaetze.h"
+
+class QMouseEvent;
+
+namespace varnok {
+
+// A frame that stands on a diagram: it can be dragged about with its children, hidden, and called home. Its place is kept
+// as fraction of the surface, so that redraws and other sizes of the window leave it where it is on the picture.
+class Flaechenrahmen : public QFrame {
+    Q_OBJECT
+public:
+    Flaechenrahmen(const QString& Name, Flaechenort Heimat, QWidget* Flaeche);
+
+    // To its place on the surface as it is now, wholly inside it; at home also between the labels, which take so many
+    // pixels at the upper and the lower edge.
+    void stelle_auf(int oben, int unten);
+    // Forgets where it was dragged to.
+    void kehre_heim();
+    // Upper left corner, in fractions of the surface.
+    Flaechenort Ort() const;
+
+    // Hidden by the user; whether it is seen depends on `erlaube` too.
+    void verbirg(bool verborgen);
+    void erlaube(bool erlaubt);
+
+Q_SIGNALS:
+    void betreten();
+
+protected:
+    // Mouse events of the child work as if they were the frame's own.
+    void reiche_weiter(QWidget* Kind);
+    // Shows that the frame is held, or no more.
+    virtual void zeige_Griff(bool gehalten) = 0;
+    // A child was pressed and released at a place of its own, without a move.
+    virtual void klicke(const QMouseEvent&) {}
+
+    bool eventFilter(QObject* Kind, QEvent* e) override;
+    bool event(QEvent* e) override;
+    void paintEvent(QPaintEvent* e) override;
+
+private:
+    bool behandle(QWidget* Quelle, QEvent* e);
+    void druecke(QMouseEvent* e);
+    void ziehe(const QMouseEvent* e);
+    void lasse_los(const QWidget* Quelle, const QMouseEvent* e);
+    void stelle(const QPoint& Ecke, const QMargins& Rand);
+    void stelle_auf();
+
+    Flaechenort Heimat_;
+    std::optional<Flaechenort> gezogen_;  // none: at home
+    std::optional<QPoint> Griff_;         // the grabbed point, while a button is down
+    QPoint Druckstelle_;                  // on the screen
+    bool bewegt_ = false;
+    QMargins Heimatrand_;                 // what a frame at home keeps free
+    bool verborgen_ = false;
+    bool erlaubt_ = true;
+};
+
+}  // namespace varnok

@@ -1,0 +1,173 @@
+#include "screens/widgets/hauptformular.h"
+
+#include <QHBoxLayout>
+#include <QScreen>
+#include <QSettings>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+#include <QtGui/QCloseEvent>
+
+#include "screens/widgets/applikationsrahmen.h"
+#include "screens/widgets/bausteine.h"
+#include "screens/widgets/bildbefehle.h"
+#include "screens/widgets/bilder.h"
+#include "screens/widgets/eingabespalte.h"
+#include "screens/widgets/ergebnisbereich.h"
+#include "screens/widgets/feldsteuerung.h"
+#include "screens/widgets/fensterfrage.h"
+#include "screens/widgets/frame2.h"
+#include "screens/widgets/intro.h"
+#include "screens/widgets/kinetikschema.h"
+#include "screens/widgets/menue.h"
+#include "screens/widgets/schalterrahmen.h"
+#include "screens/widgets/szenariorahmen.h"
+#include "screens/widgets/untere_zeile.h"
+
+namespace varnok {
+
+using namespace Qt::StringLiterals;
+
+Hauptformular::Hauptformular(Sitzung& Programm, Fensterfrage* Fragen, const QString& Fensterdatei, QWidget* parent)
+    : QMainWindow(parent),
+      Programm_(Programm),
+      Fragen_(Fragen),
+      Fensterdatei_(Fensterdatei),
+      Steuerung_(new Feldsteuerung(Programm, this)),
+      Menue_(new Menue(Programm, *this)) {
+    setObjectName(u"Hauptformular"_s);
+    setWindowTitle(u"VARNOK - Soil residue forecast tool"_s);
+    setWindowIcon(Bild_aus_SVG(u"varnok"_s));
+
+    Blaetter_ = new QStackedWidget(this);
+    Intro_ = new Intro(Blaetter_);
+    Arbeitsflaeche_ = erstelle_Arbeitsflaeche();
+    Bilder_ = new Bildbefehle(Programm, *Ergebnisse_, *this);
+    Blaetter_->addWidget(Intro_);
+    Blaetter_->addWidget(Arbeitsflaeche_);
+    setCentralWidget(Blaetter_);
+    setMinimumSize(900, 560);
+
+    connect(Intro_, &Intro::gestartet, this, &Hauptformular::starte);
+    connect(Menue_, &Menue::gehandelt, this, &Hauptformular::nach_Handlung);
+    connect(Steuerung_, &Feldsteuerung::gehandelt, this, &Hauptformular::zeige);
+    for (Rahmen* r : Rahmen_) {
+        connect(r, &Rahmen::gehandelt, this, &Hauptformular::nach_Handlung);
+        connect(r, &Rahmen::getippt, this, &Hauptformular::zeige);
+    }
+    if (Fragen_) Fragen_->setze_Fenster(this, [this] { zeige(); });
+    stelle_Fenster_her();
+    zeige();
+    Intro_->gib_Fokus();
+}
+
+Hauptformular::~Hauptformular() {
+    if (Fragen_) Fragen_->setze_Fenster(nullptr, {});
+}
+
+template <class R>
+R* Hauptformular::nimm_auf(R* Neuer) {
+    Rahmen_.push_back(Neuer);
+    return Neuer;
+}
+
+QWidget* Hauptformular::erstelle_Arbeitsflaeche() {
+    auto* Flaeche = new QWidget(Blaetter_);
+    Flaeche->setObjectName(u"Arbeitsflaeche"_s);
+    auto* Blatt = new QVBoxLayout(Flaeche);
+    Blatt->setContentsMargins(8, 8, 8, 8);
+    Blatt->setSpacing(8);
+    // Made in the order in which Tab walks through them.
+    Blatt->addWidget(nimm_auf(new Frame2(Programm_, Flaeche)));
+    auto* Mitte = new QHBoxLayout;
+    Mitte->setSpacing(8);
+    Mitte->addWidget(erstelle_Eingabespalte());
+    Mitte->addWidget(erstelle_Ergebnisspalte(), 1);
+    Blatt->addLayout(Mitte, 1);
+    Schalter_ = nimm_auf(new Schalterrahmen(Programm_, Flaeche));
+    Blatt->addWidget(Schalter_);
+    return Flaeche;
+}
+
+QWidget* Hauptformular::erstelle_Eingabespalte() {
+    auto* Spalte = new QWidget;
+    auto* Liste = new QVBoxLayout(Spalte);
+    Liste->setContentsMargins(0, 0, 0, 0);
+    Liste->setSpacing(8);
+    Liste->addWidget(nimm_auf(new Kinetikschema(Programm_, *Steuerung_, Spalte)));
+    Applikation_ = nimm_auf(new Applikationsrahmen(Programm_, *Steuerung_, Spalte));
+    Liste->addWidget(Applikation_);
+    Liste->addWidget(nimm_auf(new Szenariorahmen(Programm_, Spalte)));
+    Liste->addStretch(1);
+    return new Eingabespalte(Spalte, Blaetter_);
+}
+
+QWidget* Hauptformular::erstelle_Ergebnisspalte() {
+    auto* Spalte = new QWidget(Blaetter_);
+    auto* Liste = new QVBoxLayout(Spalte);
+    Liste->setContentsMargins(0, 0, 0, 0);
+    Liste->setSpacing(8);
+    Ergebnisse_ = nimm_auf(new Ergebnisbereich(Programm_, Spalte));
+    auto* Optionen = nimm_auf(new Untere_Zeile(Programm_, Spalte));
+    connect(Optionen, &Untere_Zeile::Ansicht_gewaehlt, Ergebnisse_, &Ergebnisbereich::hole_Ergebnisrahmen);
+    Liste->addWidget(Ergebnisse_, 1);
+    Liste->addWidget(Optionen);
+    return Spalte;
+}
+
+void Hauptformular::starte() {
+    {
+        const Wartezeiger warte;
+        Programm_.Starten();
+    }
+    nach_Handlung();
+    Schalter_->gib_Ende_den_Fokus();
+}
+
+void Hauptformular::zeige() {
+    Steuerung_->beginne_Zeigen();
+    Blaetter_->setCurrentWidget(Programm_.Stand().Gestartet ? Arbeitsflaeche_ : static_cast<QWidget*>(Intro_));
+    Menue_->zeige();
+    Bilder_->zeige();
+    for (Rahmen* r : Rahmen_) {
+        r->faerbe();
+        r->zeige();
+    }
+    Steuerung_->zeige();
+    Steuerung_->beende_Zeigen();
+}
+
+// The one place where an action of the user ends.
+void Hauptformular::nach_Handlung() {
+    if (Programm_.Stand().beendet) {
+        close();
+        return;
+    }
+    zeige();
+    waehle_Fehlerzelle();
+    // A field still in work refused its value: the command was not done.
+    Steuerung_->gib_Fokus_zurueck();
+}
+
+void Hauptformular::waehle_Fehlerzelle() {
+    const Zustand& z = Programm_.Stand();
+    if (z.Tabellenfehler && z.abgedeckt) Applikation_->waehle_Zelle(*z.Tabellenfehler);
+}
+
+void Hauptformular::closeEvent(QCloseEvent* e) {
+    if (!Programm_.schliesse_Fenster()) {
+        e->ignore();
+        zeige();
+        return;
+    }
+    if (!Fensterdatei_.isEmpty()) QSettings(Fensterdatei_, QSettings::IniFormat).setValue(u"geometry"_s, saveGeometry());
+    e->accept();
+}
+
+void Hauptformular::stelle_Fenster_her() {
+    resize(QSize(1280, 860).boundedTo(screen()->availableSize() * 0.95));
+    if (Fensterdatei_.isEmpty()) return;
+    const QByteArray Lage = QSettings(Fensterdatei_, QSettings::IniFormat).value(u"geometry"_s).toByteArray();
+    if (!Lage.isEmpty()) restoreGeometry(Lage);
+}
+
+}  // namespace varnok

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <QMainWindow>
+#include <vector>
+
+#include "screens/handlers/sitzung.h"
+
+class QStackedWidget;
+
+namespace varnok {
+
+class Applikationsrahmen;
+class Bildbefehle;
+class Ergebnisbereich;
+class Feldsteuerung;
+class Fensterfrage;
+class Intro;
+class Menue;
+class Rahmen;
+class Schalterrahmen;
+
+// The program's one window: the start page, then inputs on the left and results on the right.
+class Hauptformular : public QMainWindow {
+    Q_OBJECT
+public:
+    // `Fragen`: the session's way to ask; may be null where something else answers. `Fensterdatei`: file that
+    // remembers place and size of the window, none without a name.
+    Hauptformular(Sitzung& Programm, Fensterfrage* Fragen, const QString& Fensterdatei = {}, QWidget* parent = nullptr);
+    ~Hauptformular() override;
+
+    // Brings everything on the screen in line with the session.
+    void zeige();
+
+protected:
+    void closeEvent(QCloseEvent* e) override;
+
+private:
+    QWidget* erstelle_Arbeitsflaeche();
+    QWidget* erstelle_Eingabespalte();
+    QWidget* erstelle_Ergebnisspalte();
+    template <class R>
+    R* nimm_auf(R* Neuer);
+    void starte();
+    void nach_Handlung();
+    void waehle_Fehlerzelle();
+    void stelle_Fenster_her();
+
+    Sitzung& Programm_;
+    Fensterfrage* Fragen_;
+    QString Fensterdatei_;
+    Feldsteuerung* Steuerung_;
+    Menue* Menue_;
+    QStackedWidget* Blaetter_;
+    Intro* Intro_;
+    QWidget* Arbeitsflaeche_;
+    std::vector<Rahmen*> Rahmen_;
+    Applikationsrahmen* Applikation_ = nullptr;
+    Ergebnisbereich* Ergebnisse_ = nullptr;
+    Schalterrahmen* Schalter_ = nullptr;
+    Bildbefehle* Bilder_ = nullptr;
+};
+
+}  // namespace varnok

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "records/projektordner.h"
+#include "screens/widgets/bausteine.h"
+#include "screens/widgets/rahmen.h"
+
+namespace varnok {
+
+// The line of a record in its frame: the selector of its files with the buttons to copy and delete it.
+class Satzzeile : public Rahmen {
+    Q_OBJECT
+public:
+    // `Bedeutung`: accessible name of the list, the caption of its frame.
+    Satzzeile(Satzart Art, const QString& Bedeutung, Sitzung& Programm, QWidget* parent);
+    void zeige() override;
+    void haenge_an(QWidget* Taste);
+
+private:
+    Satzart Satz_;
+    Auswahlliste* Liste_;
+    Schaltflaeche* Copy_;
+    Schaltflaeche* Loeschen_;
+};
+
+}  // namespace varnok

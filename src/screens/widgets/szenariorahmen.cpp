@@ -1,0 +1,56 @@
+#include "screens/widgets/szenariorahmen.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "screens/widgets/qt_text.h"
+#include "screens/widgets/satzzeile.h"
+
+namespace varnok {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+// A text to be read and copied; Tab passes it by.
+Textfeld* Anzeigefeld(const QString& Name, QWidget* parent) {
+    auto* f = new Textfeld(Name, parent);
+    f->setReadOnly(true);
+    f->setFocusPolicy(Qt::ClickFocus);
+    return f;
+}
+
+}  // namespace
+
+Szenariorahmen::Szenariorahmen(Sitzung& Programm, QWidget* parent)
+    : Rahmen(u"Szenariorahmen"_s, Rahmenart::Szenario, Programm, parent) {
+    const QString Titel = u"Scenario:"_s;
+    auto* Spalte = new QVBoxLayout(this);
+    Spalte->setContentsMargins(10, 8, 10, 10);
+    Spalte->setSpacing(6);
+    Spalte->addWidget(Ueberschrift(Titel, this));
+    Satz_ = new Satzzeile(Szenario, Titel, Programm, this);
+    Edit_ = new Schaltflaeche(u"Edit"_s, u"Edit"_s, Satz_);
+    Satz_->haenge_an(Edit_);
+    Spalte->addWidget(Satz_);
+
+    Bodenszenario_ = Anzeigefeld(u"Bodenszenario"_s, this);
+    Klimaszenario_ = Anzeigefeld(u"Klimaszenario"_s, this);
+    auto* Zeile = new QHBoxLayout;
+    Zeile->setSpacing(5);
+    Zeile->addWidget(Schild(u"Soil:"_s, Bodenszenario_, this));
+    Zeile->addWidget(Bodenszenario_, 1);
+    Zeile->addSpacing(7);
+    Zeile->addWidget(Schild(u"Climate:"_s, Klimaszenario_, this));
+    Zeile->addWidget(Klimaszenario_, 1);
+    Spalte->addLayout(Zeile);
+    horche_auf(Satz_);
+}
+
+void Szenariorahmen::zeige() {
+    Satz_->zeige();
+    Edit_->setEnabled(false);
+    Bodenszenario_->zeige(in_Qt(Felder().Bodenszenario));
+    Klimaszenario_->zeige(in_Qt(Felder().Klimaszenario));
+}
+
+}  // namespace varnok

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "screens/widgets/rahmen.h"
+
+namespace varnok {
+
+class Satzzeile;
+class Schaltflaeche;
+class Textfeld;
+
+// The scenario record: which soil, which climate. Its values are changed in a dialog of their own.
+class Szenariorahmen : public Rahmen {
+    Q_OBJECT
+public:
+    Szenariorahmen(Sitzung& Programm, QWidget* parent);
+    void zeige() override;
+
+private:
+    Satzzeile* Satz_;
+    Schaltflaeche* Edit_;
+    Textfeld* Bodenszenario_;
+    Textfeld* Klimaszenario_;
+};
+
+}  // namespace varnok

@@ -1,0 +1,83 @@
+// The report command behind the window.
+
+#include <fstream>
+
+#include "screens/handlers/probesitzung.h"
+
+namespace varnok {
+namespace {
+
+using Berichtsprobe = Probesitzung;
+
+TEST_F(Berichtsprobe, of_the_selected_study_is_shown_and_written_to_output) {
+    gestartet();
+    s_->erstelle_Bericht();
+    ASSERT_NE(s_->offener_Bericht(), nullptr);
+    EXPECT_NE(s_->offener_Bericht()->Text.find("RESULTS OF THE CALCULATION"), std::string::npos);
+    EXPECT_EQ(s_->Stand().Ergebnisdatei, "A trial");  // all name parts off
+    EXPECT_TRUE(gibt_es("output/A trial.rtf"));
+}
+
+TEST_F(Berichtsprobe, in_the_summary_view_is_that_of_all_studies) {
+    gestartet();
+    s_->zeige_Zusammenfassung();
+    s_->erstelle_Bericht();
+    ASSERT_NE(s_->offener_Bericht(), nullptr);
+    EXPECT_NE(s_->offener_Bericht()->Text.find("Second soil"), std::string::npos);
+}
+
+TEST_F(Berichtsprobe, first_accepts_the_field_in_work_and_runs) {
+    gestartet();
+    const int f = Feld("S_DT50_0");
+    s_->betrete_Feld(f);
+    s_->aendere_Feld(f, "12");
+    s_->erstelle_Bericht();
+    ASSERT_NE(s_->offener_Bericht(), nullptr);
+    EXPECT_NE(s_->offener_Bericht()->Text.find("DT50 (d):\t12\r\n"), std::string::npos);
+}
+
+TEST_F(Berichtsprobe, out_of_an_invalid_field_there_is_none) {
+    gestartet();
+    const int f = Feld("S_DT50_0");
+    s_->betrete_Feld(f);
+    s_->aendere_Feld(f, "-1");
+    Fragen_.erwarte("No valid input!", "The DT50 is invalid. Please correct!");
+    s_->erstelle_Bericht();
+    EXPECT_EQ(s_->offener_Bericht(), nullptr);
+}
+
+TEST_F(Berichtsprobe, that_cannot_be_written_is_told_and_stays_on_the_screen) {
+    gestartet();
+    std::filesystem::remove_all(Wurzel_ / "output");
+    std::ofstream(Wurzel_ / "output") << "a file in the folder's place";
+    Fragen_.erwarte_Anfang("Runtime error", "");
+    s_->erstelle_Bericht();
+    EXPECT_NE(s_->offener_Bericht(), nullptr);
+    EXPECT_FALSE(s_->Stand().abgedeckt);
+}
+
+TEST_F(Berichtsprobe, with_a_description_that_no_file_can_be_called_by_is_refused) {
+    gestartet();
+    s_->aendere_Beschreibung("spring/autumn");
+    Fragen_.erwarte_Anfang("Runtime error", "");
+    s_->erstelle_Bericht();
+    EXPECT_EQ(s_->offener_Bericht(), nullptr);
+    EXPECT_FALSE(s_->Stand().abgedeckt);
+}
+
+TEST_F(Berichtsprobe, another_description_clears_the_name_of_the_output_file) {
+    gestartet();
+    s_->erstelle_Bericht();
+    s_->aendere_Beschreibung("Another");
+    EXPECT_EQ(s_->Stand().Ergebnisdatei, "");
+}
+
+TEST_F(Berichtsprobe, is_saved_as_a_PDF) {
+    gestartet();
+    s_->erstelle_Bericht();
+    s_->speichere_Bericht_als_PDF((Wurzel_ / "report.pdf").string());
+    EXPECT_EQ(Datei("report.pdf").substr(0, 5), "%PDF-");
+}
+
+}  // namespace
+}  // namespace varnok

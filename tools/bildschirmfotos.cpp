@@ -1,0 +1,233 @@
+// Takes the pictures of the window that the documentation shows. Walks through the program as a user would, on a copy of
+// the shipped data, without a display:
+//
+//     bildschirmfotos <folder for the pictures> [dark|large]
+//
+// "dark" takes them on a dark desktop, "large" with large letters.
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDialog>
+#include <QDir>
+#include <QLineEdit>
+#include <QLocale>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPainter>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QStyleFactory>
+#include <QTableWidget>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <functional>
+
+#include "screens/widgets/diagrammflaeche.h"
+#include "screens/widgets/fensterfrage.h"
+#include "screens/widgets/hauptformular.h"
+#include "screens/widgets/qt_text.h"
+
+using namespace Qt::StringLiterals;
+using namespace varnok;
+
+namespace {
+
+class Fotograf {
+public:
+    explicit Fotograf(const QString& Zielordner) : Ziel_(Zielordner) {
+        Ziel_.mkpath(u"."_s);
+        kopiere_Projekt();
+        Programm_ = std::make_unique<Sitzung>(Umgebung{&Fragen_, aus_Qt(Projekt_.path()), VARNOK_DATENORDNER, '.'});
+        if (!Programm_->starte()) qFatal("the shipped data cannot be loaded");
+        Fenster_ = std::make_unique<Hauptformular>(*Programm_, &Fragen_);
+        Fenster_->resize(1180, 760);
+        Fenster_->show();
+        aktiviere();
+    }
+
+    void gehe_durch() {
+        fotografiere(u"intro"_s);
+        Taste(u"Starten"_s);
+        fotografiere(u"single_parent_only"_s);
+        fotografiere(u"smallest_window"_s, {Fenster_->minimumSize()});
+        waehle_Simulation(u"Potatoes, Compound C"_s);
+        fotografiere(u"accumulated_one_metabolite"_s);
+        Option(u"PEC_Typ_1"_s);
+        fotografiere(u"background"_s);
+        waehle_Simulation(u"Vines, Compound D"_s);
+        Option(u"Substanz_1"_s);
+        fotografiere(u"single_metabolite_parallel"_s);
+        waehle_Simulation(u"Sugar beet, Compound E"_s);
+        Seite(2);
+        klicke_weiter(3);
+        fotografiere(u"multi_compound_background"_s);
+        Option(u"PEC_Typ_2"_s);
+        klicke_weiter(3);
+        fotografiere(u"multi_compound_accumulated"_s);
+        Option(u"PEC_Typ_0"_s);
+        klicke_weiter(3);
+        fotografiere(u"multi_compound_annual"_s);
+        zeige_Ablesung();
+        zeige_Skalierung();
+        Seite(1);
+        befehle(u"M_Zusammenfassung"_s);
+        fotografiere(u"summary"_s);
+        Option(u"PEC_Typ_1"_s);
+        fotografiere(u"summary_background"_s);
+        Option(u"PEC_Typ_0"_s);
+        befehle(u"M_Studien"_s);
+        Seite(0);
+        zeige_Eingabe();
+        zeige_Meldung();
+    }
+
+private:
+    void kopiere_Projekt() {
+        const QDir von(QStringLiteral(VARNOK_DATENORDNER "/input"));
+        QDir(Projekt_.path()).mkpath(u"input"_s);
+        for (const QFileInfo& Datei : von.entryInfoList(QDir::Files)) {
+            if (Datei.fileName() != u"Programcheck.vnk"_s)
+                QFile::copy(Datei.filePath(), Projekt_.filePath(u"input/"_s + Datei.fileName()));
+        }
+        // The newest simulation is the one that the program opens.
+        QTest::qWait(20);
+        QFile::copy(von.filePath(u"Programcheck.vnk"_s), Projekt_.filePath(u"input/Programcheck.vnk"_s));
+    }
+
+    template <class W>
+    W* Teil(const QString& Name) {
+        W* w = Fenster_->findChild<W*>(Name);
+        if (!w) qFatal("no control %s", qPrintable(Name));
+        return w;
+    }
+
+    void aktiviere() {
+        Fenster_->activateWindow();
+        if (!QTest::qWaitForWindowActive(Fenster_.get())) qFatal("the window does not become active");
+    }
+
+    void Taste(const QString& Name) { QTest::mouseClick(Teil<QPushButton>(Name), Qt::LeftButton); }
+    void Option(const QString& Name) { QTest::mouseClick(Teil<QRadioButton>(Name), Qt::LeftButton, {}, QPoint(8, 8)); }
+    void Seite(int i) { Teil<QTabWidget>(u"Wirkstoffdaten"_s)->setCurrentIndex(i); }
+    void befehle(const QString& Name) { Teil<QAction>(Name)->trigger(); }
+
+    void waehle_Simulation(const QString& Name) {
+        auto* Liste = Teil<QComboBox>(u"Simulationsliste"_s);
+        const int i = Liste->findText(Name);
+        if (i < 0) qFatal("no simulation %s", qPrintable(Name));
+        Liste->setCurrentIndex(i);
+        Q_EMIT Liste->activated(i);
+    }
+
+    // Left clicks on the diagram in front.
+    void klicke_weiter(int Anzahl) {
+        for (int i = 0; i < Anzahl; ++i) QTest::mouseClick(vorn(), Qt::LeftButton, {}, QPoint(5, vorn()->height() / 2));
+    }
+
+    Diagrammflaeche* vorn() {
+        for (auto* d : Fenster_->findChildren<Diagrammflaeche*>()) {
+            if (d->isVisible()) return d;
+        }
+        qFatal("no diagram is seen");
+    }
+
+    // The mouse over a curve.
+    void zeige_Ablesung() {
+        QTest::mouseMove(vorn(), QPoint(vorn()->width() / 3, vorn()->height() / 2));
+        QTest::qWait(30);
+        Fenster_->grab().save(Ziel_.filePath(u"reading_1180.png"_s), "PNG", -1);
+    }
+
+    void zeige_Skalierung() {
+        QTimer::singleShot(150, Fenster_.get(), [this] {
+            fotografiere(u"manual_scaling"_s);
+            if (auto* Dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) Dialog->reject();
+        });
+        QTest::mouseClick(vorn(), Qt::RightButton, {}, QPoint(5, vorn()->height() / 2));
+        QTest::qWait(900);
+        aktiviere();
+    }
+
+    void zeige_Eingabe() {
+        auto* Feld = Teil<QLineEdit>(u"S_DT50_0"_s);
+        if (!Feld->isVisible()) Feld = Teil<QLineEdit>(u"S_Q10_0"_s);
+        QTest::mouseClick(Feld, Qt::LeftButton);
+        Feld->selectAll();
+        QTest::keyClicks(Feld, u"2.2"_s);
+        QTest::qWait(30);
+        fotografiere(u"editing"_s);
+    }
+
+    // A value that is refused: the box stands over the window, the results are covered.
+    void zeige_Meldung() {
+        auto* Feld = Teil<QLineEdit>(u"S_Q10_0"_s);
+        QTest::mouseClick(Feld, Qt::LeftButton);
+        QTest::qWait(30);
+        Feld->selectAll();
+        QTest::keyClicks(Feld, u"0"_s);
+        QTimer::singleShot(150, Fenster_.get(), [this] {
+            fotografiere(u"message"_s);
+            if (auto* Kasten = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
+                Kasten->button(QMessageBox::Ok)->click();
+        });
+        QTest::keyClick(Feld, Qt::Key_Return);
+    }
+
+    // The box in front, under a bar with its title.
+    static void male_Kasten(QPixmap& Bild, QWidget& Kasten) {
+        const int Balken = Kasten.fontMetrics().height() + 12;
+        QRect Platz(QPoint(), Kasten.size() + QSize(2, Balken + 1));
+        Platz.moveCenter(Bild.rect().center());
+        QPainter p(&Bild);
+        p.fillRect(Platz.adjusted(-3, -3, 5, 6), QColor(0, 0, 0, 40));
+        p.fillRect(Platz, QColor(70, 78, 84));
+        p.setPen(Qt::white);
+        p.drawText(Platz.adjusted(10, 0, 0, 0).left(), Platz.top() + Balken - 9, Kasten.windowTitle());
+        p.drawPixmap(Platz.topLeft() + QPoint(1, Balken), Kasten.grab());
+    }
+
+    // Small and large; a dialog in front is drawn into the picture.
+    void fotografiere(const QString& Name, const QList<QSize>& Groessen = {QSize(1180, 760), QSize(2360, 1520)}) {
+        for (const QSize& Groesse : Groessen) {
+            Fenster_->resize(Groesse);
+            QTest::qWait(60);
+            QPixmap Bild = Fenster_->grab();
+            if (QWidget* Kasten = QApplication::activeModalWidget()) male_Kasten(Bild, *Kasten);
+            Bild.save(Ziel_.filePath(Name + u'_' + QString::number(Groesse.width()) + u".png"_s), "PNG", -1);
+        }
+        Fenster_->resize(1180, 760);
+        QTest::qWait(30);
+    }
+
+    QDir Ziel_;
+    QTemporaryDir Projekt_;
+    Fensterfrage Fragen_;
+    std::unique_ptr<Sitzung> Programm_;
+    std::unique_ptr<Hauptformular> Fenster_;
+};
+
+}  // namespace
+
+namespace {
+
+// A dark desktop, which the frames of the input and the surfaces of the diagrams do not follow.
+QPalette dunkle_Palette() {
+    QPalette p(QColor(56, 58, 62), QColor(45, 47, 50));
+    p.setColor(QPalette::Base, QColor(34, 35, 38));
+    return p;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    QApplication Anwendung(argc, argv);
+    const QStringList Argumente = QApplication::arguments();
+    if (argc < 2) qFatal("usage: bildschirmfotos <folder> [dark|large]");
+    QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
+    QApplication::setFont(QFont(u"DejaVu Sans"_s, Argumente.contains(u"large"_s) ? 14 : 9));
+    if (Argumente.contains(u"dark"_s)) QApplication::setPalette(dunkle_Palette());
+    QLocale::setDefault(QLocale::c());
+    Fotograf(Argumente[1]).gehe_durch();
+    return 0;
+}

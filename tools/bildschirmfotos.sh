@@ -1,0 +1,30 @@
+#!/usr/bin/env bash
+# Takes the pictures of the window in docs/bilder anew. Needs no display. Arguments are passed on:
+#
+#     tools/bildschirmfotos.sh          for the documentation
+#     tools/bildschirmfotos.sh dark     on a dark desktop, into build/bilder-dark
+#     tools/bildschirmfotos.sh large    with large letters, into build/bilder-large
+set -euo pipefail
+source "$(dirname "${BASH_SOURCE[0]}")/umgebung.sh"
+
+installiere_fehlende
+baue bildschirmfotos
+
+Programm=$(find "$Bauordner" -type f -name bildschirmfotos -perm -u+x -print -quit)
+Ziel=$Wurzel/docs/bilder
+[[ $# -eq 0 ]] || Ziel=$Wurzel/build/bilder-$1
+
+# A screen that the large pictures fit on.
+Bildschirm=$(mktemp)
+trap 'rm -f "$Bildschirm"' EXIT
+cat > "$Bildschirm" <<'JSON'
+{ "synchronousWindowSystemEvents": false, "windowFrameMargins": true,
+  "screens": [ { "name": "s", "x": 0, "y": 0, "width": 2560, "height": 1600,
+                 "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1 } ] }
+JSON
+export QT_QPA_PLATFORM=offscreen:configfile=$Bildschirm
+export XDG_RUNTIME_DIR=$Wurzel/build/laufzeit
+mkdir -p "$XDG_RUNTIME_DIR"
+chmod 700 "$XDG_RUNTIME_DIR"
+
+"$Programm" "$Ziel" "$@"
