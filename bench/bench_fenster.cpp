@@ -75,6 +75,24 @@ void Feld_verlassen(benchmark::State& Zustand, const char* Simulation, bool Zusa
     Zustand.counters["peak_MB"] = groesster_Speicher();
 }
 
+// All diagrams of the scheme built anew, with their files written; nothing is calculated.
+void Neuzeichnen(benchmark::State& Zustand, const char* Simulation, bool Zusammenfassung) {
+    Arbeitsplatz a(Simulation);
+    if (Zusammenfassung) a.Programm().zeige_Zusammenfassung();
+    int i = 0;
+    for (auto _ : Zustand) a.Programm().waehle_Endpunkt(++i % 2);
+}
+
+BENCHMARK_CAPTURE(Neuzeichnen, three_compounds, "Sugar beet, Compound E", false)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Neuzeichnen, six_studies_summary, "Sugar beet, Compound E", true)->Unit(benchmark::kMillisecond);
+
+// From the button to the report on the screen and its file.
+void Bericht_erstellen(benchmark::State& Zustand) {
+    Arbeitsplatz a("Sugar beet, Compound E");
+    for (auto _ : Zustand) a.Programm().erstelle_Bericht();
+}
+BENCHMARK(Bericht_erstellen)->Unit(benchmark::kMillisecond);
+
 BENCHMARK_CAPTURE(Feld_verlassen, one_compound, "Programcheck", false)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Feld_verlassen, twenty_treatments_two_metabolites, "Ornamentals, Compound D", false)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Feld_verlassen, six_studies_summary, "Sugar beet, Compound E", true)->Unit(benchmark::kMillisecond);

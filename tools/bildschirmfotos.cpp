@@ -23,9 +23,11 @@
 #include <QTimer>
 #include <functional>
 
+#include "screens/widgets/bildausgabe.h"
 #include "screens/widgets/diagrammflaeche.h"
 #include "screens/widgets/fensterfrage.h"
 #include "screens/widgets/hauptformular.h"
+#include "screens/widgets/legendenrahmen.h"
 #include "screens/widgets/qt_text.h"
 
 using namespace Qt::StringLiterals;
@@ -50,6 +52,7 @@ public:
         fotografiere(u"intro"_s);
         Taste(u"Starten"_s);
         fotografiere(u"single_parent_only"_s);
+        gib_aus(u"saved_picture_single"_s);
         fotografiere(u"smallest_window"_s, {Fenster_->minimumSize()});
         waehle_Simulation(u"Potatoes, Compound C"_s);
         fotografiere(u"accumulated_one_metabolite"_s);
@@ -68,11 +71,13 @@ public:
         Option(u"PEC_Typ_0"_s);
         klicke_weiter(3);
         fotografiere(u"multi_compound_annual"_s);
+        gib_aus(u"saved_picture_multi_compound"_s);
         zeige_Ablesung();
         zeige_Skalierung();
         Seite(1);
         befehle(u"M_Zusammenfassung"_s);
         fotografiere(u"summary"_s);
+        gib_aus(u"saved_picture_summary"_s);
         Option(u"PEC_Typ_1"_s);
         fotografiere(u"summary_background"_s);
         Option(u"PEC_Typ_0"_s);
@@ -130,6 +135,12 @@ private:
             if (d->isVisible()) return d;
         }
         qFatal("no diagram is seen");
+    }
+
+    // The picture that "Save picture as" makes of the diagram in front.
+    void gib_aus(const QString& Name) {
+        const Zeichenliste z = Bildzeichnung(*vorn()->Inhalt(), vorn()->Legende()->Ort());
+        Bild_als_Pixel(z, 150).save(Ziel_.filePath(Name + u".png"_s), "PNG", -1);
     }
 
     // The mouse over a curve.

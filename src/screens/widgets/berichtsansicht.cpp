@@ -6,6 +6,7 @@
 #include <QFileDialog>
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QMenuBar>
 #include <QMimeData>
 #include <QPrintDialog>
 #include <QPrinter>
@@ -119,7 +120,7 @@ void Berichtsansicht::drucke() {
 
 void Berichtsansicht::pruefe_Fokus(const QWidget* alt, const QWidget* neu) {
     // A menu, a dialog or another window takes the focus for a while; the report stays.
-    const bool verlassen = isVisible() && alt != nullptr && isAncestorOf(alt) && neu != nullptr && neu->window() == window() &&
+    const bool verlassen = isVisible() && alt != nullptr && isAncestorOf(alt) && neu != nullptr && neu->window() == window() && qobject_cast<const QMenuBar*>(neu) == nullptr &&
                            !isAncestorOf(neu) && QApplication::activePopupWidget() == nullptr;
     if (verlassen) QMetaObject::invokeMethod(this, &Berichtsansicht::schliesse, Qt::QueuedConnection);
 }

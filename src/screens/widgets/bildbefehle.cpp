@@ -47,7 +47,7 @@ Bildbefehle::Bildbefehle(Sitzung& Programm, Ergebnisbereich& Ergebnisse, QMainWi
     auto* Menue = Fenster.findChild<QMenu*>(u"M_Ansicht"_s);
     Menue->addSeparator();
     fuege_an(u"M_Rahmen_zeigen", u"Show &legend and table", [this] {
-        if (const Diagrammflaeche* d = Ergebnisse_.Flaeche_fuer_Befehl()) const_cast<Diagrammflaeche*>(d)->hole_Rahmen_heim();
+        if (Diagrammflaeche* d = Ergebnisse_.Flaeche_fuer_Befehl()) d->hole_Rahmen_heim();
     });
     Menue->addSeparator();
     fuege_an(u"M_Bild_kopieren", u"&Copy picture", [this] { kopiere(); })->setShortcut(QKeySequence(u"Ctrl+Shift+C"_s));

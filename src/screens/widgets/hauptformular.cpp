@@ -1,5 +1,6 @@
 #include "screens/widgets/hauptformular.h"
 
+#include <QAction>
 #include <QHBoxLayout>
 #include <QScreen>
 #include <QSettings>
@@ -9,6 +10,7 @@
 
 #include "screens/widgets/applikationsrahmen.h"
 #include "screens/widgets/bausteine.h"
+#include "screens/widgets/berichtsansicht.h"
 #include "screens/widgets/bildbefehle.h"
 #include "screens/widgets/bilder.h"
 #include "screens/widgets/eingabespalte.h"
@@ -49,6 +51,8 @@ Hauptformular::Hauptformular(Sitzung& Programm, Fensterfrage* Fragen, const QStr
 
     connect(Intro_, &Intro::gestartet, this, &Hauptformular::starte);
     connect(Menue_, &Menue::gehandelt, this, &Hauptformular::nach_Handlung);
+    Drucken_ = findChild<QAction*>(u"M_Drucken"_s);
+    connect(Drucken_, &QAction::triggered, Bericht_, &Berichtsansicht::drucke);
     connect(Steuerung_, &Feldsteuerung::gehandelt, this, &Hauptformular::zeige);
     for (Rahmen* r : Rahmen_) {
         connect(r, &Rahmen::gehandelt, this, &Hauptformular::nach_Handlung);
@@ -111,6 +115,7 @@ QWidget* Hauptformular::erstelle_Ergebnisspalte() {
     connect(Optionen, &Untere_Zeile::Ansicht_gewaehlt, Ergebnisse_, &Ergebnisbereich::hole_Ergebnisrahmen);
     Liste->addWidget(Ergebnisse_, 1);
     Liste->addWidget(Optionen);
+    Bericht_ = nimm_auf(new Berichtsansicht(Programm_, Ergebnisse_, Spalte));
     return Spalte;
 }
 
@@ -132,6 +137,7 @@ void Hauptformular::zeige() {
         r->faerbe();
         r->zeige();
     }
+    Drucken_->setEnabled(Programm_.offener_Bericht() != nullptr);
     Steuerung_->zeige();
     Steuerung_->beende_Zeigen();
 }

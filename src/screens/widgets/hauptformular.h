@@ -5,11 +5,13 @@
 
 #include "screens/handlers/sitzung.h"
 
+class QAction;
 class QStackedWidget;
 
 namespace varnok {
 
 class Applikationsrahmen;
+class Berichtsansicht;
 class Bildbefehle;
 class Ergebnisbereich;
 class Feldsteuerung;
@@ -58,6 +60,8 @@ private:
     Ergebnisbereich* Ergebnisse_ = nullptr;
     Schalterrahmen* Schalter_ = nullptr;
     Bildbefehle* Bilder_ = nullptr;
+    Berichtsansicht* Bericht_ = nullptr;
+    QAction* Drucken_ = nullptr;  // the report is the only thing to print
 };
 
 }  // namespace varnok

@@ -63,7 +63,8 @@ Menue::Menue(Sitzung& Programm, QMainWindow& Fenster) : QObject(&Fenster), Progr
             QAction* Bericht = Fenster.menuBar()->addAction(u"&Report"_s);
             Bericht->setObjectName(u"M_Bericht"_s);
             Bericht->setShortcut(QKeySequence(u"Ctrl+R"_s));
-            Eintraege_.push_back({Bericht, nullptr});
+            Eintraege_.push_back({Bericht, &Sitzung::erstelle_Bericht});
+            connect(Bericht, &QAction::triggered, this, [this] { fuehre_aus(&Sitzung::erstelle_Bericht); });
         }
         Menueliste[i] = Fenster.menuBar()->addMenu(QString::fromUtf16(Menues[i].Aufschrift));
         Menueliste[i]->setObjectName(QString::fromUtf16(Menues[i].Name));
@@ -94,7 +95,9 @@ void Menue::zeige() {
     for (QAction* m : nach_Start_) m->setEnabled(Programm_.Stand().Gestartet);
     for (const Eintrag& e : Eintraege_) {
         const bool Zusammenfassung = e.Befehl == &Sitzung::zeige_Zusammenfassung;
-        e.Aktion->setEnabled(e.Befehl && (!Zusammenfassung || Programm_.darf_Zusammenfassung()));
+        const bool Bericht = e.Befehl == &Sitzung::erstelle_Bericht;
+        e.Aktion->setEnabled(e.Befehl && (!Zusammenfassung || Programm_.darf_Zusammenfassung()) &&
+                             (!Bericht || Programm_.Stand().Gestartet));
     }
 }
 

@@ -34,6 +34,7 @@ Schalterrahmen::Schalterrahmen(Sitzung& Programm, QWidget* parent)
 
     connect(Aktualisieren_, &QPushButton::clicked, this, [this] { handle([&] { Programm_.Aktualisieren(); }); });
     connect(speichern_, &QPushButton::clicked, this, [this] { handle([&] { Programm_.Speichern(); }); });
+    connect(Bericht_erstellen_, &QPushButton::clicked, this, [this] { handle([&] { Programm_.erstelle_Bericht(); }); });
     connect(Ende_, &QPushButton::clicked, this, [this] { handle([&] { Programm_.Ende(); }); });
 }
 
@@ -49,7 +50,7 @@ QIcon Schalterrahmen::Hinweisbild() const {
 
 void Schalterrahmen::zeige() {
     if (Stand().Hinweis == Aktualisieren_->icon().isNull()) Aktualisieren_->setIcon(Stand().Hinweis ? Hinweisbild() : QIcon());
-    Bericht_erstellen_->setEnabled(false);
+    Bericht_erstellen_->setEnabled(Stand().Gestartet);
     Status_->setText(in_Qt(Stand().Statuszeile));
 }
 

@@ -73,6 +73,7 @@ void Untere_Zeile::zeige() {
     Endpunkt_->button(Option_zu_Endpunkt(Felder().Endpunkt))->setChecked(true);
     PEC_Typ_->button(Felder().PEC_Typ)->setChecked(true);
     TWA_Laenge_->zeige(Programm_.TWA_Liste(), Felder().TWA_Laenge);
+    Ergebnisdatei_->setText(in_Qt(Stand().Ergebnisdatei));
 }
 
 }  // namespace varnok

@@ -323,7 +323,7 @@ private Q_SLOTS:
             u"Liste_3"_s,
             u"Berechnungsmodus_Leiste Ergebnisse_0"_s,
             u"Endpunkt_1 PEC_Typ_0 TWA_Laenge"_s,
-            u"Aktualisieren speichern Ende"_s};
+            u"Aktualisieren speichern Bericht_erstellen Ende"_s};
         QCOMPARE(Weg, erwartet.join(u' ').split(u' '));
     }
 
