@@ -14,7 +14,7 @@ namespace {
 constexpr double Einheiten_pro_Punkt = 96.0 / 72.0;
 
 QPen Stift(int Farbe, int Breite) {
-    return {Palettenfarbe(Farbe), static_cast<double>(Breite), Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin};
+    return {Palettenfarbe(Farbe), static_cast<double>(Breite), Qt::SolidLine, Qt::FlatCap, Qt::BevelJoin};
 }
 
 // Lines along the axes are sharp without smoothing and blurred with it.
@@ -26,13 +26,23 @@ bool achsparallel(const std::vector<Punkt>& Punkte) {
     return gleich([](const Punkt& p) { return p.x; }) || gleich([](const Punkt& p) { return p.y; });
 }
 
+// A curve of thousands of days in pieces: the smoothing of one long path takes many times longer. The pieces share a
+// segment, so that no corner is left open.
+void male_Zug(QPainter& p, const QPolygonF& Vieleck) {
+    constexpr qsizetype Stueck = 48;
+    for (qsizetype i = 0; i == 0 || i + 2 < Vieleck.size(); i += Stueck) {
+        const qsizetype Anzahl = std::min(Stueck + 2, Vieleck.size() - i);
+        p.drawPolyline(Vieleck.constData() + i, static_cast<int>(Anzahl));
+    }
+}
+
 void male_Linien(QPainter& p, const QRectF& Flaeche, const Zeichenliste& z) {
     for (const Linienzug& Zug : verbinde_Linien(z.Linien)) {
         QPolygonF Vieleck;
         for (const Punkt& Ort : Zug.Punkte) Vieleck << auf_Flaeche(Flaeche, z.System, Ort);
         p.setRenderHint(QPainter::Antialiasing, !achsparallel(Zug.Punkte));
         p.setPen(Stift(Zug.Farbe, Zug.Breite));
-        p.drawPolyline(Vieleck);
+        male_Zug(p, Vieleck);
     }
 }
 
