@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <string_view>
 
+#include "base/programm.h"
 #include "base/zahlen.h"
 
 namespace varnok {
@@ -12,7 +13,7 @@ namespace {
 constexpr int meiste_Arbeiter = 1024;
 constexpr int groesste_Zahl = 999'999'999;
 
-constexpr const char* Fassung = "VARNOK 2.0 (21 September 2018)";
+const std::string Fassung = std::string("VARNOK ") + Programmversion;
 constexpr const char* Einleitung =
     "Calculates predicted environmental concentrations in soil for the simulations of a project: the run of\n"
     "the desktop program without its window. Without --json, --csv, --series and --report it prints a table of results.\n"
@@ -125,7 +126,7 @@ std::variant<Aufruf, Auskunft> lies_Aufruf(int argc, const char* const* argv) {
     } catch (const CLI::CallForHelp&) {
         return Auskunft{App.help()};
     } catch (const CLI::CallForVersion&) {
-        return Auskunft{std::string(Fassung) + "\n"};
+        return Auskunft{Fassung + "\n"};
     } catch (const CLI::ParseError& f) {
         throw Aufruffehler(std::string(f.what()) + "\nRun varnok-batch --help for the options.");
     }

@@ -1,6 +1,7 @@
 #include <cmath>
 #include <nlohmann/json.hpp>
 
+#include "base/programm.h"
 #include "batch/schreiber.h"
 
 namespace varnok {
@@ -93,7 +94,7 @@ std::string als_JSON(const std::vector<Simulationsausgang>& Ausgaenge) {
     }
     const JSON Dokument = {
         {"program", "VARNOK"},
-        {"version", "2.0 (21 September 2018)"},
+        {"version", Programmversion},
         {"simulations", std::move(Simulationen)},
         {"errors", std::move(Fehler)},
     };

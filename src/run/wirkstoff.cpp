@@ -1,6 +1,5 @@
 #include "run/wirkstoff.h"
 
-#include <cmath>
 #include <vector>
 
 #include "base/laufzeitfehler.h"
