@@ -4,6 +4,8 @@
 #include <QFileInfo>
 #include <QSaveFile>
 #include <array>
+#include <filesystem>
+#include <system_error>
 
 #include "base/laufzeitfehler.h"
 
@@ -13,6 +15,8 @@ namespace {
 [[noreturn]] void melde(const std::string& Vorgang, const std::string& Pfad, const std::string& Grund) {
     throw Laufzeitfehler("Cannot " + Vorgang + " the file \"" + Pfad + "\": " + Grund);
 }
+
+std::filesystem::path als_Pfad(const std::string& Utf8) { return {std::u8string(Utf8.begin(), Utf8.end())}; }
 
 QString als_QString(const std::string& Utf8) { return QString::fromStdString(Utf8); }
 
@@ -87,6 +91,19 @@ void schreibe_Datei(const std::string& Pfad, const std::string& Inhalt) {
     } else {
         ersetze(Pfad, Inhalt);
     }
+}
+
+void kopiere_Datei(const std::string& von, const std::string& nach) { schreibe_Datei(nach, lies_Datei(von)); }
+
+void benenne_Datei_um(const std::string& von, const std::string& nach) {
+    std::error_code Fehler;
+    std::filesystem::rename(als_Pfad(von), als_Pfad(nach), Fehler);
+    if (Fehler) melde("rename", von, "to \"" + nach + "\": " + Fehler.message());
+}
+
+void loesche_Datei(const std::string& Pfad) {
+    std::error_code Fehler;
+    if (!std::filesystem::remove(als_Pfad(Pfad), Fehler)) melde("delete", Pfad, Fehler ? Fehler.message() : "there is no such file");
 }
 
 }  // namespace varnok

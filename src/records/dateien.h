@@ -23,4 +23,14 @@ std::optional<std::string> lies_Datei_falls_moeglich(const std::string& Pfad);
 // is then untouched. What is no plain file (a device, a pipe) is written to as it stands.
 void schreibe_Datei(const std::string& Pfad, const std::string& Inhalt);
 
+// A copy with the present time as its stamp. Throws as reading and writing do.
+void kopiere_Datei(const std::string& von, const std::string& nach);
+
+// Gives a file another name in one step; a file of that name is replaced. Throws Laufzeitfehler that names both and the
+// reason; both files are then as they were.
+void benenne_Datei_um(const std::string& von, const std::string& nach);
+
+// Throws Laufzeitfehler that names the file and the reason.
+void loesche_Datei(const std::string& Pfad);
+
 }  // namespace varnok

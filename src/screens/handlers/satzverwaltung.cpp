@@ -1,30 +1,15 @@
 #include "screens/handlers/satzverwaltung.h"
 
-#include <algorithm>
-
 #include "exposure/twa.h"
 #include "screens/handlers/programmende.h"
 #include "screens/handlers/texte.h"
 
 namespace varnok {
-namespace {
-
-int Position_von(const std::vector<std::string>& Liste, const std::string& Name) {
-    const auto Treffer = std::find(Liste.begin(), Liste.end(), Name);
-    return Treffer == Liste.end() ? -1 : static_cast<int>(Treffer - Liste.begin());
-}
-
-}  // namespace
-
-std::string Satzverwaltung::Name(std::size_t Art) const {
-    const int i = z_.Auswahl[Art];
-    return i < 0 ? std::string() : z_.Listen[Art][static_cast<std::size_t>(i)];
-}
 
 void Satzverwaltung::fuelle_Listen() {
     for (std::size_t Art = 0; Art < z_.Listen.size(); ++Art) {
         z_.Listen[Art] = z_.Ordner->Namen(Endungen[Art]);
-        z_.Auswahl[Art] = Position_von(z_.Listen[Art], z_.Felder().Aktuelle_Dateinamen[Art]);
+        z_.waehle(Art, z_.Felder().Aktuelle_Dateinamen[Art]);
     }
 }
 
@@ -60,8 +45,8 @@ void Satzverwaltung::nach_Wirkstoff() {
 
 void Satzverwaltung::waehle_Namen(const Simulationssatz& Satz) {
     for (std::size_t Art = 1; Art <= 3; ++Art) {
-        z_.Auswahl[Art] = Position_von(z_.Listen[Art], Satz.Dateinamen[Art]);
-        z_.Felder().Aktuelle_Dateinamen[Art] = Name(Art);
+        z_.waehle(Art, Satz.Dateinamen[Art]);
+        z_.Felder().Aktuelle_Dateinamen[Art] = z_.gewaehlt(Art);
     }
 }
 
@@ -70,7 +55,7 @@ bool Satzverwaltung::lade_Start(const std::string& Simulation) {
     z_.Felder().Beschreibung = Satz.Beschreibung;
     z_.Felder().Aktuelle_Dateinamen = Satz.Dateinamen;
     z_.Felder().Aktuelle_Dateinamen[0] = Simulation;
-    z_.Auswahl[0] = Position_von(z_.Listen[0], Simulation);
+    z_.waehle(0, Simulation);
     for (const Satzart Art : {Wirkstoff, Szenario, Applikation}) {
         if (!lies_Satz(Art, Satz.Dateinamen[Art])) return false;
     }
@@ -106,7 +91,7 @@ bool Satzverwaltung::lies_fehlende_Saetze() {
             z_.Neu_berechnen = false;
             return false;
         }
-        if (z_.nicht_gelesen[Art] && !lies_Satz(Art, Name(Art))) return false;
+        if (z_.nicht_gelesen[Art] && !lies_Satz(Art, z_.gewaehlt(Art))) return false;
     }
     return true;
 }
@@ -129,7 +114,7 @@ void Satzverwaltung::waehle_Satz(Satzart Art, int Position) {
     // name of the one chosen.
     if (z_.Geaendert[Art] && !frage_Sicherung(Art)) return;
     z_.Geaendert[Art] = false;
-    z_.Felder().Aktuelle_Dateinamen[Art] = Name(Art);
+    z_.Felder().Aktuelle_Dateinamen[Art] = z_.gewaehlt(Art);
     z_.nicht_gelesen[Art] = true;
     if (!lies_fehlende_Saetze()) return;
     schliesse_Laden_ab();
@@ -146,21 +131,21 @@ bool Satzverwaltung::pruefe_Auswahl(const std::vector<Knopf>& Knoepfe) {
 
 void Satzverwaltung::schreibe_Zusammenfassungsdatei() {
     Simulationssatz Satz{z_.Felder().Beschreibung, {}};
-    for (std::size_t Art = 1; Art <= 3; ++Art) Satz.Dateinamen[Art] = Name(Art);
-    schreibe_Simulation(*z_.Ordner, Name(0), Satz);
+    for (std::size_t Art = 1; Art <= 3; ++Art) Satz.Dateinamen[Art] = z_.gewaehlt(Art);
+    schreibe_Simulation(*z_.Ordner, z_.gewaehlt(0), Satz);
 }
 
 bool Satzverwaltung::speichere() {
     if (!pruefe_Auswahl({Knopf::OK, Knopf::Abbrechen})) return false;
     schreibe_Zusammenfassungsdatei();
     for (std::size_t Art = 1; Art <= 3; ++Art) {
-        z_.Felder().Aktuelle_Dateinamen[Art] = Name(Art);
+        z_.Felder().Aktuelle_Dateinamen[Art] = z_.gewaehlt(Art);
         if (z_.nicht_gelesen[Art]) continue;
-        Satz_schreiben(*z_.Ordner, Name(Art), static_cast<Satzart>(Art), z_.Parameter(), z_.Felder(), z_.Welt.Dezimalzeichen);
+        Satz_schreiben(*z_.Ordner, z_.gewaehlt(Art), static_cast<Satzart>(Art), z_.Parameter(), z_.Felder(), z_.Welt.Dezimalzeichen);
         z_.Geaendert[Art] = false;
     }
     z_.Simulation_markiert = false;
-    z_.Statuszeile = "All input data of \"" + Name(0) + "\" saved.";
+    z_.Statuszeile = "All input data of \"" + z_.gewaehlt(0) + "\" saved.";
     return true;
 }
 

@@ -39,7 +39,6 @@ private:
     bool lies_fehlende_Saetze();
     void schliesse_Laden_ab();
     void merke_Kombination();
-    std::string Name(std::size_t Art) const;
 
     Zustand& z_;
     Laufsteuerung& Laeufe_;

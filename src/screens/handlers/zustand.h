@@ -2,6 +2,7 @@
 
 // What the program behind the screen knows, shared by the parts of `Sitzung`.
 
+#include <algorithm>
 #include <array>
 #include <optional>
 #include <string>
@@ -30,7 +31,23 @@ struct Zelle {
     int Spalte = 0;
 };
 
-struct Zustand {
+// Entries and positions of the selectors: simulation, compound, application pattern, scenario.
+struct Satzlisten {
+    std::array<std::vector<std::string>, 4> Listen;
+    std::array<int, 4> Auswahl = {-1, -1, -1, -1};
+
+    // The entry selected, empty without one.
+    std::string gewaehlt(std::size_t Art) const {
+        return Auswahl[Art] < 0 ? std::string() : Listen[Art][static_cast<std::size_t>(Auswahl[Art])];
+    }
+    // Selects the entry of that name; none where the list does not have it.
+    void waehle(std::size_t Art, const std::string& Name) {
+        const auto Treffer = std::find(Listen[Art].begin(), Listen[Art].end(), Name);
+        Auswahl[Art] = Treffer == Listen[Art].end() ? -1 : static_cast<int>(Treffer - Listen[Art].begin());
+    }
+};
+
+struct Zustand : Satzlisten {
     Umgebung Welt;
     Einstellungen Einstellung;
     std::string Projektpfad;
@@ -38,9 +55,6 @@ struct Zustand {
 
     Lauf Rechnung;
 
-    // Entries and positions of the selectors: simulation, compound, application pattern, scenario.
-    std::array<std::vector<std::string>, 4> Listen;
-    std::array<int, 4> Auswahl = {-1, -1, -1, -1};
     // A record that the selector names but that could not be read or was not read yet.
     std::array<bool, 4> nicht_gelesen{};
 

@@ -1,0 +1,119 @@
+#include "screens/handlers/satzbefehle.h"
+
+#include <array>
+
+#include "base/laufzeitfehler.h"
+#include "base/zeichensatz.h"
+#include "records/dateien.h"
+#include "records/sicherung.h"
+
+namespace varnok {
+namespace {
+
+constexpr std::array<const char*, 4> Grundnamen = {"", "new compound", "new application pattern", "new scenario"};
+constexpr const char* Vorlagenname = "do not delete this file";
+
+// Summary files name records in the code page, so a name must have a place in it.
+void pruefe_Namen(const std::string& Name) {
+    std::string Einwand = Einwand_gegen_Namen(Name);
+    if (Einwand.empty()) {
+        const std::string Zeichen = Zeichen_ohne_Platz(Name);
+        if (!Zeichen.empty()) Einwand = "the records have no character \"" + Zeichen + "\"";
+    }
+    if (!Einwand.empty()) throw Laufzeitfehler("\"" + Name + "\" cannot be the name of a record: " + Einwand);
+}
+
+// The typed name may carry the extension of its kind.
+std::string ohne_Endung(const std::string& Text, const std::string& Endung) {
+    if (Zeichenzahl(Text) > 3 && Text.ends_with(Endung)) return Text.substr(0, Text.size() - Endung.size());
+    return Text;
+}
+
+}  // namespace
+
+void Satzbefehle::lies_Liste(Satzart Art, const std::string& Auswahl) {
+    Listen_.Listen[Art] = z_.Ordner->Namen(Endungen[Art]);
+    Listen_.waehle(Art, Auswahl);
+}
+
+std::string Satzbefehle::Pfad_des_gewaehlten(Satzart Art) const {
+    const std::string Name = Listen_.gewaehlt(Art);
+    const auto Pfad = z_.Ordner->finde(Name, Endungen[Art]);
+    if (!Pfad) throw Laufzeitfehler("File " + Name + Endungen[Art] + " is missing in the folder \"" + z_.Ordner->Eingabeordner() + "\"");
+    return *Pfad;
+}
+
+bool Satzbefehle::darf_ersetzen(const std::string& Text) const {
+    const Frage f{"Replace existing record?", Text, Symbol::Ausrufezeichen, {Knopf::Ja, Knopf::Nein}};
+    return z_.Welt.Fragen->frage(f) == Knopf::Ja;
+}
+
+void Satzbefehle::sichere_Datei(const std::string& Pfad, const std::string& Dateiname) {
+    const Systemuhr Maschine;
+    const std::string Ort = sichere(*z_.Ordner, z_.Welt.Zeit ? *z_.Welt.Zeit : Maschine, {{Dateiname, lies_Datei(Pfad)}});
+    z_.Statuszeile = "\"" + Dateiname + "\" is kept in " + Ort + ".";
+}
+
+std::string Satzbefehle::lege_an(Satzart Art) {
+    const char* Endung = Endungen[Art + Simulation + 3];
+    const auto Vorlage = z_.Ordner->finde(Vorlagenname, Endung);
+    if (!Vorlage) {
+        throw Laufzeitfehler("The template \"" + std::string(Vorlagenname) + Endung + "\" is missing in the folder \"" +
+                             z_.Ordner->Eingabeordner() + "\"");
+    }
+    int n = 1;
+    while (z_.Ordner->finde(Grundnamen[Art] + std::to_string(n), Endungen[Art])) ++n;
+    const std::string Name = Grundnamen[Art] + std::to_string(n);
+    kopiere_Datei(*Vorlage, z_.Ordner->Zielpfad(Name, Endungen[Art]));
+    lies_Liste(Art, Name);
+    return Name;
+}
+
+bool Satzbefehle::kopiere(Satzart Art) {
+    const std::string alt = Listen_.gewaehlt(Art);
+    const std::string Quelle = Pfad_des_gewaehlten(Art);
+    const std::string neu = "copy of " + alt;
+    pruefe_Namen(neu);
+    if (const auto Ziel = z_.Ordner->finde(neu, Endungen[Art])) {
+        if (!darf_ersetzen("The record '" + neu + Endungen[Art] + "' already exists. Do you want to replace it?")) return false;
+        sichere_Datei(*Ziel, neu + Endungen[Art]);
+    }
+    kopiere_Datei(Quelle, z_.Ordner->Zielpfad(neu, Endungen[Art]));
+    lies_Liste(Art, neu);
+    return true;
+}
+
+bool Satzbefehle::loesche(Satzart Art) {
+    const Frage f{"Delete record", "Do you really want to delete this record?", Symbol::Frage, {Knopf::Ja, Knopf::Nein}};
+    const std::string Pfad = Pfad_des_gewaehlten(Art);
+    if (z_.Welt.Fragen->frage(f) != Knopf::Ja) return false;
+    const int Platz = Listen_.Auswahl[Art];
+    sichere_Datei(Pfad, Listen_.gewaehlt(Art) + Endungen[Art]);
+    loesche_Datei(Pfad);
+    lies_Liste(Art, {});
+    Listen_.Auswahl[Art] = std::min(Platz, static_cast<int>(Listen_.Listen[Art].size()) - 1);
+    return true;
+}
+
+std::optional<std::string> Satzbefehle::benenne_um(Satzart Art, const std::string& Text, bool mit_Frage) {
+    const std::string alt = Listen_.gewaehlt(Art);
+    const std::string neu = ohne_Endung(Text, Endungen[Art]);
+    if (neu == alt) return std::nullopt;
+    pruefe_Namen(neu);
+    const std::string Quelle = Pfad_des_gewaehlten(Art);
+    const auto vorhanden = z_.Ordner->finde(neu, Endungen[Art]);
+    if (vorhanden && *vorhanden != Quelle) {
+        if (!mit_Frage) throw Laufzeitfehler("The record \"" + neu + "\" already exists. \"" + alt + "\" keeps its name.");
+        if (!darf_ersetzen("The record ' " + neu + " ' already exists. Do you want to replace it?")) return std::nullopt;
+        sichere_Datei(*vorhanden, neu + Endungen[Art]);
+        benenne_Datei_um(Quelle, *vorhanden);
+    }
+    // Over the file replaced first, so that nothing is gone if a step fails; then to the case that was typed.
+    const std::string jetzt = vorhanden && *vorhanden != Quelle ? *vorhanden : Quelle;
+    const std::string Ziel = z_.Ordner->Eingabeordner() + "/" + neu + Endungen[Art];
+    if (jetzt != Ziel) benenne_Datei_um(jetzt, Ziel);
+    lies_Liste(Art, neu);
+    return neu;
+}
+
+}  // namespace varnok

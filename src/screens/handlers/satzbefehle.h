@@ -1,0 +1,41 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "screens/handlers/zustand.h"
+
+namespace varnok {
+
+// Making, copying, deleting and renaming the files behind a set of selectors: questions, files and lists. What
+// follows for the values on the screen is the caller's matter. A fault throws before any file is touched; what a command
+// overwrites or deletes is in `backup` before.
+class Satzbefehle {
+public:
+    // `Listen`: the selectors of the window, or those of a dialog.
+    Satzbefehle(Zustand& z, Satzlisten& Listen) : z_(z), Listen_(Listen) {}
+
+    // A copy of the template of a record, under the first free number; selected in the list. Gives its name.
+    std::string lege_an(Satzart Art);
+    // Copies the file selected to "copy of ..."; that is selected then. False if the user did not want to replace a file.
+    bool kopiere(Satzart Art);
+    // Deletes the file selected; the entry that moves into its place, or the last one, is selected. False after a No.
+    bool loesche(Satzart Art);
+    // Gives the file selected the typed name. Without `mit_Frage` a name that is taken is a fault. The new name; nothing where
+    // it is the old one or the user did not want to replace a file.
+    std::optional<std::string> benenne_um(Satzart Art, const std::string& Text, bool mit_Frage);
+
+    // Reads the entries anew from the project folder; the selection follows the name.
+    void lies_Liste(Satzart Art, const std::string& Auswahl);
+
+private:
+    std::string Pfad_des_gewaehlten(Satzart Art) const;
+    bool darf_ersetzen(const std::string& Text) const;
+    // Puts a file into `backup` and tells in the status line where.
+    void sichere_Datei(const std::string& Pfad, const std::string& Dateiname);
+
+    Zustand& z_;
+    Satzlisten& Listen_;
+};
+
+}  // namespace varnok
