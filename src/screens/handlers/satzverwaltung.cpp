@@ -120,6 +120,35 @@ void Satzverwaltung::waehle_Satz(Satzart Art, int Position) {
     schliesse_Laden_ab();
 }
 
+void Satzverwaltung::lege_an(Satzart Art) {
+    const std::string Name = Befehle_.lege_an(Art);
+    z_.Felder().Aktuelle_Dateinamen[Art] = Name;
+    merke_Kombination();
+    z_.nicht_gelesen[Art] = true;
+    if (!lies_fehlende_Saetze()) return;
+    schliesse_Laden_ab();
+}
+
+void Satzverwaltung::kopiere(Satzart Art) {
+    if (!Befehle_.kopiere(Art)) return;
+    z_.Felder().Aktuelle_Dateinamen[Art] = z_.gewaehlt(Art);
+    if (Art != Simulation) merke_Kombination();
+}
+
+void Satzverwaltung::loesche(Satzart Art) {
+    if (!Befehle_.loesche(Art)) return;
+    z_.nicht_gelesen[Art] = true;
+    z_.Geaendert[Art] = false;
+    decke_ab(z_, Texte::Satz_geloescht);
+}
+
+void Satzverwaltung::benenne_um(Satzart Art, const std::string& Text, bool mit_Frage) {
+    const auto Name = Befehle_.benenne_um(Art, Text, mit_Frage);
+    if (!Name) return;
+    z_.Felder().Aktuelle_Dateinamen[Art] = *Name;
+    merke_Kombination();
+}
+
 bool Satzverwaltung::pruefe_Auswahl(const std::vector<Knopf>& Knoepfe) {
     for (std::size_t Art = 1; Art <= 3; ++Art) {
         if (z_.Auswahl[Art] >= 0) continue;

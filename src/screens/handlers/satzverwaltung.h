@@ -4,6 +4,7 @@
 #include "records/simulation.h"
 #include "screens/handlers/feldeingabe.h"
 #include "screens/handlers/laufsteuerung.h"
+#include "screens/handlers/satzbefehle.h"
 
 namespace varnok {
 
@@ -11,7 +12,7 @@ namespace varnok {
 class Satzverwaltung {
 public:
     Satzverwaltung(Zustand& z, Laufsteuerung& Laeufe, Feldeingabe& Felder, Diagrammsteuerung& Diagramme)
-        : z_(z), Laeufe_(Laeufe), Felder_(Felder), Diagramme_(Diagramme) {}
+        : z_(z), Laeufe_(Laeufe), Felder_(Felder), Diagramme_(Diagramme), Befehle_(z, z) {}
 
     // Reads the entries of all four selectors from the project folder; the selections follow the names.
     void fuelle_Listen();
@@ -22,6 +23,12 @@ public:
     // The user chose an entry.
     void waehle_Simulation(int Position);
     void waehle_Satz(Satzart Art, int Position);
+
+    // Files behind a selector; see `Satzbefehle`.
+    void lege_an(Satzart Art);
+    void kopiere(Satzart Art);
+    void loesche(Satzart Art);
+    void benenne_um(Satzart Art, const std::string& Text, bool mit_Frage);
 
     // Summary file and all three records. False if it was refused; the message has been shown.
     bool speichere();
@@ -44,6 +51,7 @@ private:
     Laufsteuerung& Laeufe_;
     Feldeingabe& Felder_;
     Diagrammsteuerung& Diagramme_;
+    Satzbefehle Befehle_;
 };
 
 }  // namespace varnok

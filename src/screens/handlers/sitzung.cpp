@@ -165,6 +165,19 @@ void Sitzung::waehle_Satz(Satzart Art, int Position) {
     befolge([&] { Saetze_.waehle_Satz(Art, Position); }, false);
 }
 
+void Sitzung::lege_Satz_an(Satzart Art) {
+    befolge([&] { Saetze_.lege_an(Art); }, false);
+}
+void Sitzung::kopiere_Satz(Satzart Art) {
+    befolge([&] { Saetze_.kopiere(Art); });
+}
+void Sitzung::loesche_Satz(Satzart Art) {
+    befolge([&] { Saetze_.loesche(Art); });
+}
+void Sitzung::benenne_Satz_um(Satzart Art, const std::string& Text, bool mit_Frage) {
+    befolge([&] { Saetze_.benenne_um(Art, Text, mit_Frage); });
+}
+
 void Sitzung::oeffne_Beschreibung() {
     alte_Beschreibung_ = z_.Felder().Beschreibung;
     alte_Marke_ = z_.Geaendert[0];
@@ -202,6 +215,20 @@ void Sitzung::waehle_Studie(int i) {
 void Sitzung::waehle_Berechnungsmodus(int m) {
     befolge([&] { Auswahl_.waehle_Berechnungsmodus(m); }, false);
 }
+void Sitzung::addiere_Studie() {
+    befolge([&] { Studien_.addiere(); });
+}
+void Sitzung::loesche_Studie() {
+    befolge([&] { Studien_.loesche(); }, false);
+}
+void Sitzung::beginne_Studienname() {
+    befolge([&] { Studien_.beginne_Umbenennen(); });
+}
+void Sitzung::bestaetige_Studienname(const std::string& Name) {
+    tue([&] { Studien_.bestaetige(Name); });
+}
+void Sitzung::nimm_Studienname_zurueck() { Studien_.nimm_zurueck(); }
+
 void Sitzung::aendere_Namen(int c, const std::string& Name) { Auswahl_.aendere_Namen(c, Name); }
 void Sitzung::verlasse_Namen() {
     // A number that was refused has taken the focus back: it is told once, and the name waits.

@@ -14,6 +14,7 @@
 #include "screens/handlers/feldeingabe.h"
 #include "screens/handlers/laufsteuerung.h"
 #include "screens/handlers/satzverwaltung.h"
+#include "screens/handlers/studienverwaltung.h"
 #include "screens/handlers/zustand.h"
 
 namespace varnok {
@@ -37,7 +38,13 @@ public:
     Tabellentext Ergebnisse_Zusammenfassung(int i_substanz) const;
     // Diagrams of the view on display, and the one in front.
     const Diagrammsteuerung& Diagramme() const { return Diagramme_; }
+    // What can be done now.
+    bool ist_gestartet() const { return z_.Gestartet; }
     bool darf_Zusammenfassung() const { return z_.Gestartet && z_.Studienzahl() > 1; }
+    bool darf_Studie_addieren() const { return z_.Gestartet && Studien_.darf_addieren(); }
+    bool darf_Studie_loeschen() const { return z_.Gestartet && Studien_.darf_loeschen(); }
+    bool darf_loeschen(Satzart Art) const { return z_.Listen[Art].size() > 1 && z_.Auswahl[Art] >= 0; }
+    bool darf_kopieren(Satzart Art) const { return z_.Auswahl[Art] >= 0; }
 
     // Numeric fields. `bestaetige_Feld` and `verlasse_Feld` give false where the field keeps the focus.
     void betrete_Feld(int Feld);
@@ -73,6 +80,14 @@ public:
     // Records.
     void waehle_Simulation(int Position);
     void waehle_Satz(Satzart Art, int Position);
+    void neuer_Wirkstoff() { lege_Satz_an(Wirkstoff); }
+    void neue_Applikationsdatei() { lege_Satz_an(Applikation); }
+    void neues_Szenario() { lege_Satz_an(Szenario); }
+    void lege_Satz_an(Satzart Art);
+    void kopiere_Satz(Satzart Art);
+    void loesche_Satz(Satzart Art);
+    // The text of the rename box: with Enter a name that is taken is asked about, on leaving the box it is a fault.
+    void benenne_Satz_um(Satzart Art, const std::string& Text, bool mit_Frage);
     void oeffne_Beschreibung();
     void aendere_Beschreibung(const std::string& Text);
     void schliesse_Beschreibung();
@@ -83,6 +98,15 @@ public:
     void waehle_Kinetik(int c, int Code);
     void waehle_Studie(int i);
     void waehle_Berechnungsmodus(int m);
+
+    // Studies of the compound: see `Studienverwaltung`.
+    void addiere_Studie();
+    void loesche_Studie();
+    void beginne_Studienname();
+    void bestaetige_Studienname(const std::string& Name);
+    void nimm_Studienname_zurueck();
+    const Studienverwaltung& Studien() const { return Studien_; }
+
     void aendere_Namen(int c, const std::string& Name);
     void verlasse_Namen();
     void waehle_Muster(int m);
@@ -118,6 +142,7 @@ private:
     Feldeingabe Felder_{z_, Laeufe_};
     Satzverwaltung Saetze_{z_, Laeufe_, Felder_, Diagramme_};
     Auswahl Auswahl_{z_, Laeufe_, Felder_, Diagramme_};
+    Studienverwaltung Studien_{z_, Laeufe_, Felder_, Diagramme_};
     Applikationstabelle Tabelle_{z_, Laeufe_};
     Berichtssteuerung Berichte_{z_, Laeufe_, Diagramme_};
     std::string alte_Beschreibung_;

@@ -20,6 +20,7 @@ inline constexpr std::array<const char*, 4> Satz_waehlen = {"", "Pesticide recor
 // What the cover says over the results.
 inline constexpr const char* Eingabe_geaendert = "Input changed";
 inline constexpr const char* nicht_gueltig = "Not valid";
+inline constexpr const char* Satz_geloescht = "Record deleted: choose or refresh";
 inline constexpr const char* Satz_fehlt = "Record missing: choose one";
 
 }  // namespace varnok::Texte

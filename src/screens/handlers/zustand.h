@@ -70,6 +70,7 @@ struct Zustand : Satzlisten {
     std::string Abdeckungswort;
     bool Simulation_markiert = false;  // the combination on the screen differs from the saved one
     bool Beschreibung_offen = false;
+    bool Szenarioeditor_faellig = false;  // the scenario names a climate file that cannot be opened
     std::string Ergebnisdatei;  // name of the report file written last
     std::optional<Zelle> Tabellenfehler;  // the cell that a message spoke of, to be selected
     std::string Statuszeile;

@@ -30,24 +30,25 @@ struct Befehlszeile {
     Menuename Menue;
     const char16_t* Name;
     const char16_t* Aufschrift;
-    void (Sitzung::*Befehl)() = nullptr;
+    void (Sitzung::*Befehl)() = nullptr;  // none: the window opens a dialog for it
     const char16_t* Taste = u"";
     bool Strich_davor = false;
+    bool (Sitzung::*erlaubt)() const = nullptr;  // none: always
 };
 constexpr std::array<Befehlszeile, 16> Befehle = {{
-    {Datei, u"M_Neuer_Wirkstoff", u"New &Pesticide record"},
-    {Datei, u"M_Neue_Applikationsdatei", u"New &Application record"},
-    {Datei, u"M_Neues_Szenario", u"&New Scenario"},
+    {Datei, u"M_Neuer_Wirkstoff", u"New &Pesticide record", &Sitzung::neuer_Wirkstoff},
+    {Datei, u"M_Neue_Applikationsdatei", u"New &Application record", &Sitzung::neue_Applikationsdatei},
+    {Datei, u"M_Neues_Szenario", u"&New Scenario", &Sitzung::neues_Szenario},
     {Datei, u"M_Laden", u"&Load simulation", nullptr, u"", true},
     {Datei, u"M_Defaults", u"&Load program defaults", &Sitzung::lade_Voreinstellungen},
     {Datei, u"M_Drucken", u"&Print", nullptr, u"", true},
     {Datei, u"M_Speichern", u"&Save all input data", &Sitzung::Speichern, u"Ctrl+S"},
     {Datei, u"M_Ende", u"&Exit", &Sitzung::Ende, u"Ctrl+Q", true},
-    {editieren, u"M_Addiere", u"&Add study"},
-    {editieren, u"M_Loesche", u"&Delete study"},
+    {editieren, u"M_Addiere", u"&Add study", &Sitzung::addiere_Studie, u"", false, &Sitzung::darf_Studie_addieren},
+    {editieren, u"M_Loesche", u"&Delete study", &Sitzung::loesche_Studie, u"", false, &Sitzung::darf_Studie_loeschen},
     {editieren, u"M_Optionen", u"&Preferences", nullptr, u"", true},
     {Ansicht, u"M_Studien", u"&Individual studies", &Sitzung::zeige_Studien},
-    {Ansicht, u"M_Zusammenfassung", u"&Summary", &Sitzung::zeige_Zusammenfassung},
+    {Ansicht, u"M_Zusammenfassung", u"&Summary", &Sitzung::zeige_Zusammenfassung, u"", false, &Sitzung::darf_Zusammenfassung},
     {Hilfe, u"M_suche_nach_Update", u"&Onlinecheck for updates"},
     {Hilfe, u"M_Versionsinfo", u"&Release notes"},
     {Hilfe, u"M_ueber", u"&About", nullptr, u"", true},
@@ -63,7 +64,7 @@ Menue::Menue(Sitzung& Programm, QMainWindow& Fenster) : QObject(&Fenster), Progr
             QAction* Bericht = Fenster.menuBar()->addAction(u"&Report"_s);
             Bericht->setObjectName(u"M_Bericht"_s);
             Bericht->setShortcut(QKeySequence(u"Ctrl+R"_s));
-            Eintraege_.push_back({Bericht, &Sitzung::erstelle_Bericht});
+            Eintraege_.push_back({Bericht, &Sitzung::ist_gestartet});
             connect(Bericht, &QAction::triggered, this, [this] { fuehre_aus(&Sitzung::erstelle_Bericht); });
         }
         Menueliste[i] = Fenster.menuBar()->addMenu(QString::fromUtf16(Menues[i].Aufschrift));
@@ -78,7 +79,7 @@ Menue::Menue(Sitzung& Programm, QMainWindow& Fenster) : QObject(&Fenster), Progr
         Aktion->setShortcut(QKeySequence(QString::fromUtf16(b.Taste)));
         // Names like "Quit" would move entries to another menu on some desktops.
         Aktion->setMenuRole(QAction::NoRole);
-        Eintraege_.push_back({Aktion, b.Befehl});
+        Eintraege_.push_back({Aktion, b.erlaubt});
         if (b.Befehl) connect(Aktion, &QAction::triggered, this, [this, Befehl = b.Befehl] { fuehre_aus(Befehl); });
     }
 }
@@ -94,10 +95,7 @@ void Menue::fuehre_aus(void (Sitzung::*Befehl)()) {
 void Menue::zeige() {
     for (QAction* m : nach_Start_) m->setEnabled(Programm_.Stand().Gestartet);
     for (const Eintrag& e : Eintraege_) {
-        const bool Zusammenfassung = e.Befehl == &Sitzung::zeige_Zusammenfassung;
-        const bool Bericht = e.Befehl == &Sitzung::erstelle_Bericht;
-        e.Aktion->setEnabled(e.Befehl && (!Zusammenfassung || Programm_.darf_Zusammenfassung()) &&
-                             (!Bericht || Programm_.Stand().Gestartet));
+        if (e.erlaubt) e.Aktion->setEnabled((Programm_.*e.erlaubt)());
     }
 }
 

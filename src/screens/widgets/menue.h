@@ -25,7 +25,7 @@ Q_SIGNALS:
 private:
     struct Eintrag {
         QAction* Aktion;
-        void (Sitzung::*Befehl)();  // none: the command does not exist yet
+        bool (Sitzung::*erlaubt)() const;  // none: always
     };
 
     void fuehre_aus(void (Sitzung::*Befehl)());
