@@ -11,6 +11,7 @@
 #include "records/satzaufbau.h"
 #include "records/satzleser.h"
 #include "records/satzschreiber.h"
+#include "run/studientabellen.h"
 
 namespace varnok {
 namespace {
@@ -79,26 +80,6 @@ void lies_Wirkstoffdaten(Lesung& l, bool Flaggen_repariert) {
     }
 }
 
-template <class T>
-void gib_Startwerte(Studientabelle<T>& Tabelle, const Studientabelle<T>& Start, std::size_t ab) {
-    std::copy(Start.begin() + static_cast<std::ptrdiff_t>(ab), Start.end(), Tabelle.begin() + static_cast<std::ptrdiff_t>(ab));
-}
-
-// The places behind the last study: a study added later must not inherit what an earlier record left.
-void gib_Startwerte_hinter_den_Studien(Laufparameter& p) {
-    const Laufparameter Start;
-    const std::size_t ab = p.Anzahl_Studien;
-    for (const auto Tabelle :
-         {&Laufparameter::KOC, &Laufparameter::Q10, &Laufparameter::Walker, &Laufparameter::TRef, &Laufparameter::Kinetik,
-          &Laufparameter::k_SFO, &Laufparameter::k1_DFOP, &Laufparameter::k2_DFOP, &Laufparameter::g_DFOP}) {
-        for (std::size_t i = 0; i < (p.*Tabelle).size(); ++i) gib_Startwerte((p.*Tabelle)[i], (Start.*Tabelle)[i], ab);
-    }
-    for (const auto Tabelle : {&Laufparameter::alpha_FOMC, &Laufparameter::beta_FOMC, &Laufparameter::k1_HS,
-                               &Laufparameter::k2_HS, &Laufparameter::Tb_HS}) {
-        gib_Startwerte(p.*Tabelle, Start.*Tabelle, ab);
-    }
-}
-
 Lesebefund lies_Wirkstoff(Lesung& l) {
     try {
         gehe_durch_Wirkstoffkopf(l.Leser, l.Parameter);
@@ -112,7 +93,7 @@ Lesebefund lies_Wirkstoff(Lesung& l) {
         verwirf(l, f);
     }
     l.Felder.Studie_Index = 0;
-    gib_Startwerte_hinter_den_Studien(l.Parameter);
+    setze_Startwerte(l.Parameter, l.Parameter.Anzahl_Studien);
     return {};
 }
 

@@ -34,6 +34,8 @@ template <class Handlung>
 void Sitzung::befolge(Handlung h, bool mit_Lauf) {
     const bool Feld_offen = Felder_.aktives_Feld() >= 0;
     if (!schliesse_Feld_ab(mit_Lauf)) return;
+    // What a command finds is complete: a name in the box counts as typed.
+    if (Studien_.Name_offen()) bestaetige_Studienname(false);
     tue(h);
     // A command that was to run and did not leaves the accepted value without results.
     if (Feld_offen && !mit_Lauf && z_.veraltet && !z_.abgedeckt && !z_.beendet) tue([&] { Laeufe_.berechne(); });
@@ -224,8 +226,8 @@ void Sitzung::loesche_Studie() {
 void Sitzung::beginne_Studienname() {
     befolge([&] { Studien_.beginne_Umbenennen(); });
 }
-void Sitzung::bestaetige_Studienname(const std::string& Name) {
-    tue([&] { Studien_.bestaetige(Name); });
+void Sitzung::bestaetige_Studienname(bool Enter) {
+    tue([&] { Studien_.bestaetige(Enter); });
 }
 void Sitzung::nimm_Studienname_zurueck() { Studien_.nimm_zurueck(); }
 

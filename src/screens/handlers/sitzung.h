@@ -103,7 +103,8 @@ public:
     void addiere_Studie();
     void loesche_Studie();
     void beginne_Studienname();
-    void bestaetige_Studienname(const std::string& Name);
+    void aendere_Studienname(const std::string& Name) { Studien_.aendere(Name); }
+    void bestaetige_Studienname(bool Enter);
     void nimm_Studienname_zurueck();
     const Studienverwaltung& Studien() const { return Studien_; }
 

@@ -24,13 +24,20 @@ public:
 
     void addiere();
     void beginne_Umbenennen();
-    // Enter, or leaving the box.
-    void bestaetige(const std::string& Name);
+    // The text in the box, as far as it is typed.
+    void aendere(const std::string& Name) { Entwurf_ = Name; }
+    // Enter, or leaving the box: a new study is added and run, a name is replaced. A name that no record can hold is told:
+    // with Enter the box stays open, else the name that it opened with stands.
+    void bestaetige(bool Enter);
     // Esc: everything is as before the box was opened.
     void nimm_zurueck();
     void loesche();
 
 private:
+    void oeffne(const std::string& Vorschlag, bool neu);
+    void fuege_an(const std::string& Name);
+    void benenne_um(const std::string& Name);
+
     Zustand& z_;
     Laufsteuerung& Laeufe_;
     Feldeingabe& Felder_;
@@ -38,6 +45,7 @@ private:
     bool Name_offen_ = false;
     bool neu_ = false;
     std::string Vorschlag_;
+    std::string Entwurf_;
 };
 
 }  // namespace varnok
