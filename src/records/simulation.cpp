@@ -37,13 +37,16 @@ Simulationssatz lies_Simulation(const Projektordner& Ordner, const std::string& 
     return Satz;
 }
 
-void schreibe_Simulation(const Projektordner& Ordner, const std::string& Name, const Simulationssatz& Satz) {
-    const std::string Pfad = Ordner.Zielpfad(Name, Endungen[Simulation]);
+std::string Simulation_als_Bytes(const Simulationssatz& Satz) {
     std::string Bytes;
     for (std::size_t i = 0; i < Zeilennamen.size(); ++i) {
         Bytes += als_Satztext(i == 0 ? Satz.Beschreibung : Satz.Dateinamen[i], Zeilennamen[i]) + "\r\n";
     }
-    schreibe_Datei(Pfad, Bytes);
+    return Bytes;
+}
+
+void schreibe_Simulation(const Projektordner& Ordner, const std::string& Name, const Simulationssatz& Satz) {
+    schreibe_Datei(Ordner.Zielpfad(Name, Endungen[Simulation]), Simulation_als_Bytes(Satz));
 }
 
 std::vector<std::string> Simulationen_nach_Alter(const Projektordner& Ordner) {

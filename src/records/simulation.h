@@ -22,6 +22,9 @@ struct Simulationssatz {
 // Throws Laufzeitfehler that names the file: missing, unreadable, fewer than four lines.
 Simulationssatz lies_Simulation(const Projektordner& Ordner, const std::string& Name);
 
+// The four lines as they stand in the file. Throws Laufzeitfehler that names a text with a character that has no place there.
+std::string Simulation_als_Bytes(const Simulationssatz& Satz);
+
 // Throws Laufzeitfehler as `Satz_schreiben` does.
 void schreibe_Simulation(const Projektordner& Ordner, const std::string& Name, const Simulationssatz& Satz);
 

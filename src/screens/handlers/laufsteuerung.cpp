@@ -21,7 +21,7 @@ bool Laufsteuerung::Saetze_vollstaendig() const {
     for (std::size_t t = 1; t <= 3; ++t) {
         if (z_.Auswahl[t] < 0 || z_.nicht_gelesen[t]) return false;
     }
-    return true;
+    return !z_.nicht_gelesen[0];  // a simulation in the place of a deleted one
 }
 
 bool Laufsteuerung::alles_Gezeigte_gueltig() const {
@@ -39,7 +39,8 @@ bool Laufsteuerung::berechne_alle_Studien() { return fuehre_aus(0, z_.Studienzah
 bool Laufsteuerung::fuehre_aus(int erste, int letzte, bool vom_Benutzer) {
     if (!z_.Gestartet) return false;
     if (!Saetze_vollstaendig()) {
-        decke_ab(z_, Texte::Satz_fehlt);
+        const bool geloescht = std::find(z_.nicht_gelesen.begin(), z_.nicht_gelesen.end(), true) != z_.nicht_gelesen.end();
+        decke_ab(z_, geloescht ? Texte::Satz_geloescht : Texte::Satz_fehlt);
         if (vom_Benutzer) melde_fehlenden_Satz();
         return false;
     }

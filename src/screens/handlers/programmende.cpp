@@ -14,7 +14,23 @@ void Einstellungen_schreiben(const Zustand& z) {
     schreibe_Datei(Einstellungspfad(z), Einstellungen_als_Bytes(e));
 }
 
-void Voreinstellungen_laden(Zustand& z) {
+namespace {
+
+// The files of the start simulation, as far as they are there.
+std::vector<Sicherungsstueck> Dateien_der_Startsimulation(const Zustand& z) {
+    std::vector<Sicherungsstueck> Stuecke;
+    for (const Satzart Art : {Simulation, Wirkstoff, Applikation, Szenario}) {
+        const auto Pfad = z.Ordner->finde(Startsimulation, Endungen[Art]);
+        const auto Bytes = Pfad ? lies_Datei_falls_moeglich(*Pfad) : std::nullopt;
+        if (Bytes) Stuecke.push_back({std::string(Startsimulation) + Endungen[Art], *Bytes});
+    }
+    return Stuecke;
+}
+
+}  // namespace
+
+void Voreinstellungen_laden(Zustand& z, Satzverwaltung& Saetze) {
+    Saetze.sichere_Ungesichertes(Dateien_der_Startsimulation(z));
     stelle_Voreinstellungen_her(*z.Ordner, {z.Welt.installierte_Daten, z.Welt.Programmpfad});
     z.beendet = true;
     melde(z, "Default settings",
@@ -22,10 +38,14 @@ void Voreinstellungen_laden(Zustand& z) {
           "The settings become available after the next program call.");
 }
 
-void beende_oder_stelle_her(Zustand& z, const std::string& Text) {
+void beende_oder_stelle_her(Zustand& z, Satzverwaltung& Saetze, const std::string& Text) {
     const Knopf Antwort = z.Welt.Fragen->frage({Texte::Datei_fehlt, Text, Symbol::Ausrufezeichen, {Knopf::Ja, Knopf::Nein}});
     z.beendet = true;
-    if (Antwort == Knopf::Ja) Voreinstellungen_laden(z);
+    if (Antwort == Knopf::Ja) {
+        Voreinstellungen_laden(z, Saetze);
+    } else {
+        Saetze.sichere_Ungesichertes();
+    }
 }
 
 bool Ende(Zustand& z, Satzverwaltung& Saetze) {

@@ -9,11 +9,11 @@ namespace varnok {
 std::string Einstellungspfad(const Zustand& z);
 void Einstellungen_schreiben(const Zustand& z);
 
-// Makes the start simulation anew, says so, and ends the program.
-void Voreinstellungen_laden(Zustand& z);
+// Makes the start simulation anew, says so, and ends the program. What it replaces and what no file holds is in `backup` before.
+void Voreinstellungen_laden(Zustand& z, Satzverwaltung& Saetze);
 
 // "Data file missing": Yes restores the defaults, both answers end the program.
-void beende_oder_stelle_her(Zustand& z, const std::string& Text);
+void beende_oder_stelle_her(Zustand& z, Satzverwaltung& Saetze, const std::string& Text);
 
 // The button `Ende`: offers to save, writes summary file and settings. False if the program goes on.
 bool Ende(Zustand& z, Satzverwaltung& Saetze);

@@ -5,7 +5,8 @@
 #include "base/laufzeitfehler.h"
 #include "base/zeichensatz.h"
 #include "records/dateien.h"
-#include "records/sicherung.h"
+#include "screens/handlers/satzwaechter.h"
+#include "screens/handlers/texte.h"
 
 namespace varnok {
 namespace {
@@ -36,22 +37,21 @@ void Satzbefehle::lies_Liste(Satzart Art, const std::string& Auswahl) {
     Listen_.waehle(Art, Auswahl);
 }
 
-std::string Satzbefehle::Pfad_des_gewaehlten(Satzart Art) const {
+std::string Satzbefehle::Pfad_des_gewaehlten(Satzart Art) {
     const std::string Name = Listen_.gewaehlt(Art);
     const auto Pfad = z_.Ordner->finde(Name, Endungen[Art]);
-    if (!Pfad) throw Laufzeitfehler("File " + Name + Endungen[Art] + " is missing in the folder \"" + z_.Ordner->Eingabeordner() + "\"");
-    return *Pfad;
+    if (Pfad) return *Pfad;
+    lies_Liste(Art, Name);
+    throw Laufzeitfehler("File " + Name + Endungen[Art] + " is missing in the folder \"" + z_.Ordner->Eingabeordner() + "\"");
 }
 
 bool Satzbefehle::darf_ersetzen(const std::string& Text) const {
-    const Frage f{"Replace existing record?", Text, Symbol::Ausrufezeichen, {Knopf::Ja, Knopf::Nein}};
+    const Frage f{Texte::Satz_ersetzen, Text, Symbol::Ausrufezeichen, {Knopf::Ja, Knopf::Nein}};
     return z_.Welt.Fragen->frage(f) == Knopf::Ja;
 }
 
 void Satzbefehle::sichere_Datei(const std::string& Pfad, const std::string& Dateiname) {
-    const Systemuhr Maschine;
-    const std::string Ort = sichere(*z_.Ordner, z_.Welt.Zeit ? *z_.Welt.Zeit : Maschine, {{Dateiname, lies_Datei(Pfad)}});
-    z_.Statuszeile = "\"" + Dateiname + "\" is kept in " + Ort + ".";
+    sichere(z_, {{Dateiname, lies_Datei(Pfad)}});
 }
 
 std::string Satzbefehle::lege_an(Satzart Art) {

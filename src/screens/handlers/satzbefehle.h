@@ -29,7 +29,8 @@ public:
     void lies_Liste(Satzart Art, const std::string& Auswahl);
 
 private:
-    std::string Pfad_des_gewaehlten(Satzart Art) const;
+    // A file that another program took away loses its entry, too.
+    std::string Pfad_des_gewaehlten(Satzart Art);
     bool darf_ersetzen(const std::string& Text) const;
     // Puts a file into `backup` and tells in the status line where.
     void sichere_Datei(const std::string& Pfad, const std::string& Dateiname);

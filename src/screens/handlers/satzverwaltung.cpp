@@ -1,6 +1,10 @@
 #include "screens/handlers/satzverwaltung.h"
 
+#include <utility>
+
+#include "base/laufzeitfehler.h"
 #include "exposure/twa.h"
+#include "records/dateien.h"
 #include "screens/handlers/programmende.h"
 #include "screens/handlers/texte.h"
 
@@ -17,7 +21,7 @@ void Satzverwaltung::fuelle_Listen() {
 bool Satzverwaltung::lies_Satz(Satzart Art, const std::string& Satzname) {
     const Lesebefund Befund = Satz_lesen(*z_.Ordner, Satzname, Art, z_.Parameter(), z_.Felder(), z_.Welt.Dezimalzeichen);
     if (Befund.Ausgang == Leseausgang::fehlt) {
-        beende_oder_stelle_her(z_, "File " + Satzname + " is missing. Should the default settings be loaded ");
+        beende_oder_stelle_her(z_, *this, "File " + Satzname + " is missing. Should the default settings be loaded ");
         return false;
     }
     if (Befund.Ausgang == Leseausgang::gelesen) {
@@ -26,6 +30,7 @@ bool Satzverwaltung::lies_Satz(Satzart Art, const std::string& Satzname) {
         z_.Statuszeile = Satzname + Endungen[Art] + ", line " + std::to_string(Befund.Zeile) + ": " + Befund.Grund;
     }
     z_.nicht_gelesen[Art] = false;
+    Waechter_.merke(Art, Satzname);
     Laeufe_.verwirf_alle();
     if (Art == Wirkstoff) nach_Wirkstoff();
     if (Art == Applikation) Diagramme_.setze_Bereiche_nach_Ansicht();
@@ -56,6 +61,7 @@ bool Satzverwaltung::lade_Start(const std::string& Simulation) {
     z_.Felder().Aktuelle_Dateinamen = Satz.Dateinamen;
     z_.Felder().Aktuelle_Dateinamen[0] = Simulation;
     z_.waehle(0, Simulation);
+    Waechter_.merke(varnok::Simulation, Simulation);
     for (const Satzart Art : {Wirkstoff, Szenario, Applikation}) {
         if (!lies_Satz(Art, Satz.Dateinamen[Art])) return false;
     }
@@ -70,6 +76,8 @@ void Satzverwaltung::waehle_Simulation(int Position) {
     const std::string Simulation = z_.Listen[0].at(static_cast<std::size_t>(Position));
     decke_ab(z_, Texte::Eingabe_geaendert);
     const Simulationssatz Satz = lies_Simulation(*z_.Ordner, Simulation);
+    sichere_Ungesichertes();
+    Waechter_.merke(varnok::Simulation, Simulation);
     z_.Auswahl[0] = Position;
     z_.Felder().Beschreibung = Satz.Beschreibung;
     z_.Felder().Aktuelle_Dateinamen[0] = Simulation;
@@ -108,11 +116,16 @@ void Satzverwaltung::merke_Kombination() {
 }
 
 void Satzverwaltung::waehle_Satz(Satzart Art, int Position) {
+    const std::string verlassen = z_.Dateistaende[Art].Name;
     z_.Auswahl[Art] = Position;
     merke_Kombination();
     // The selector already shows the record chosen, so Yes stores the values of the record left under the
     // name of the one chosen.
-    if (z_.Geaendert[Art] && !frage_Sicherung(Art)) return;
+    if (z_.Geaendert[Art] && !frage_Sicherung(Art)) {
+        z_.waehle(Art, verlassen);  // nothing was saved: the values on the screen keep their record
+        return;
+    }
+    Waechter_.sichere_Ungesichertes({Art});
     z_.Geaendert[Art] = false;
     z_.Felder().Aktuelle_Dateinamen[Art] = z_.gewaehlt(Art);
     z_.nicht_gelesen[Art] = true;
@@ -121,7 +134,9 @@ void Satzverwaltung::waehle_Satz(Satzart Art, int Position) {
 }
 
 void Satzverwaltung::lege_an(Satzart Art) {
+    Waechter_.sichere_Ungesichertes({Art});
     const std::string Name = Befehle_.lege_an(Art);
+    z_.Geaendert[Art] = false;
     z_.Felder().Aktuelle_Dateinamen[Art] = Name;
     merke_Kombination();
     z_.nicht_gelesen[Art] = true;
@@ -132,21 +147,52 @@ void Satzverwaltung::lege_an(Satzart Art) {
 void Satzverwaltung::kopiere(Satzart Art) {
     if (!Befehle_.kopiere(Art)) return;
     z_.Felder().Aktuelle_Dateinamen[Art] = z_.gewaehlt(Art);
+    Waechter_.merke(Art, z_.gewaehlt(Art));
     if (Art != Simulation) merke_Kombination();
 }
 
 void Satzverwaltung::loesche(Satzart Art) {
     if (!Befehle_.loesche(Art)) return;
+    z_.Felder().Aktuelle_Dateinamen[Art] = z_.gewaehlt(Art);
     z_.nicht_gelesen[Art] = true;
     z_.Geaendert[Art] = false;
+    z_.Neu_berechnen = true;
     decke_ab(z_, Texte::Satz_geloescht);
 }
 
 void Satzverwaltung::benenne_um(Satzart Art, const std::string& Text, bool mit_Frage) {
+    const std::string alt = z_.gewaehlt(Art);
     const auto Name = Befehle_.benenne_um(Art, Text, mit_Frage);
     if (!Name) return;
     z_.Felder().Aktuelle_Dateinamen[Art] = *Name;
+    Waechter_.merke_Namen(Art, *Name);
     merke_Kombination();
+    const std::string Betroffene = Simulationen_mit(Art, alt);
+    if (!Betroffene.empty()) z_.Statuszeile = "Simulations that still name \"" + alt + "\": " + Betroffene;
+}
+
+// Renaming a record leaves the summary files as they are.
+std::string Satzverwaltung::Simulationen_mit(Satzart Art, const std::string& Name) const {
+    std::string Namen;
+    for (const std::string& s : z_.Listen[Simulation]) {
+        if (Art == Simulation || s == z_.gewaehlt(Simulation)) continue;  // the one on the screen is saved with the new name
+        try {
+            if (lies_Simulation(*z_.Ordner, s).Dateinamen[Art] == Name) Namen += (Namen.empty() ? "\"" : ", \"") + s + "\"";
+        } catch (const Laufzeitfehler&) {
+            continue;  // a summary file that cannot be read names nothing
+        }
+    }
+    return Namen;
+}
+
+bool Satzverwaltung::lies_nach() {
+    if (z_.nicht_gelesen[Simulation] && z_.Auswahl[Simulation] >= 0) {
+        waehle_Simulation(z_.Auswahl[Simulation]);
+        return true;
+    }
+    if (Laeufe_.Saetze_vollstaendig() || !lies_fehlende_Saetze()) return false;
+    schliesse_Laden_ab();
+    return true;
 }
 
 bool Satzverwaltung::pruefe_Auswahl(const std::vector<Knopf>& Knoepfe) {
@@ -159,22 +205,28 @@ bool Satzverwaltung::pruefe_Auswahl(const std::vector<Knopf>& Knoepfe) {
 }
 
 void Satzverwaltung::schreibe_Zusammenfassungsdatei() {
-    Simulationssatz Satz{z_.Felder().Beschreibung, {}};
-    for (std::size_t Art = 1; Art <= 3; ++Art) Satz.Dateinamen[Art] = z_.gewaehlt(Art);
-    schreibe_Simulation(*z_.Ordner, z_.gewaehlt(0), Satz);
+    if (z_.Auswahl[Simulation] < 0) return;
+    if (!z_.nicht_gelesen[Simulation]) {
+        Waechter_.schreibe({Simulation});
+    } else if (const auto Pfad = z_.Ordner->finde(z_.gewaehlt(Simulation), Endungen[Simulation])) {
+        kopiere_Datei(*Pfad, *Pfad);
+    }
+}
+
+void Satzverwaltung::sichere_Ungesichertes(std::vector<Sicherungsstueck> dazu) {
+    Waechter_.sichere_Ungesichertes({Simulation, Wirkstoff, Applikation, Szenario}, std::move(dazu));
 }
 
 bool Satzverwaltung::speichere() {
     if (!pruefe_Auswahl({Knopf::OK, Knopf::Abbrechen})) return false;
-    schreibe_Zusammenfassungsdatei();
+    z_.Statuszeile.clear();
+    if (!Waechter_.schreibe({Simulation, Wirkstoff, Applikation, Szenario})) return false;
     for (std::size_t Art = 1; Art <= 3; ++Art) {
         z_.Felder().Aktuelle_Dateinamen[Art] = z_.gewaehlt(Art);
-        if (z_.nicht_gelesen[Art]) continue;
-        Satz_schreiben(*z_.Ordner, z_.gewaehlt(Art), static_cast<Satzart>(Art), z_.Parameter(), z_.Felder(), z_.Welt.Dezimalzeichen);
         z_.Geaendert[Art] = false;
     }
     z_.Simulation_markiert = false;
-    z_.Statuszeile = "All input data of \"" + z_.gewaehlt(0) + "\" saved.";
+    z_.Statuszeile = "All input data of \"" + z_.gewaehlt(0) + "\" saved. " + z_.Statuszeile;
     return true;
 }
 

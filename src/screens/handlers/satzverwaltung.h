@@ -5,6 +5,7 @@
 #include "screens/handlers/feldeingabe.h"
 #include "screens/handlers/laufsteuerung.h"
 #include "screens/handlers/satzbefehle.h"
+#include "screens/handlers/satzwaechter.h"
 
 namespace varnok {
 
@@ -12,7 +13,7 @@ namespace varnok {
 class Satzverwaltung {
 public:
     Satzverwaltung(Zustand& z, Laufsteuerung& Laeufe, Feldeingabe& Felder, Diagrammsteuerung& Diagramme)
-        : z_(z), Laeufe_(Laeufe), Felder_(Felder), Diagramme_(Diagramme), Befehle_(z, z) {}
+        : z_(z), Laeufe_(Laeufe), Felder_(Felder), Diagramme_(Diagramme) {}
 
     // Reads the entries of all four selectors from the project folder; the selections follow the names.
     void fuelle_Listen();
@@ -30,10 +31,15 @@ public:
     void loesche(Satzart Art);
     void benenne_um(Satzart Art, const std::string& Text, bool mit_Frage);
 
+    // Reads what the selectors name and was not read, after a deletion: a simulation is loaded. True if there was something.
+    bool lies_nach();
+
     // Summary file and all three records. False if it was refused; the message has been shown.
     bool speichere();
-    // Writes the summary file of the simulation shown.
+    // At the end of the program: the summary file of the simulation shown. One that was not read only gets the present time.
     void schreibe_Zusammenfassungsdatei();
+    // Values that no file holds go into `backup`.
+    void sichere_Ungesichertes(std::vector<Sicherungsstueck> dazu = {});
     // Asks for each changed record whether to save; Yes saves all. False if a save was refused.
     bool frage_nach_Sicherung();
     bool pruefe_Auswahl(const std::vector<Knopf>& Knoepfe);
@@ -44,6 +50,7 @@ private:
     bool frage_Sicherung(std::size_t Art);
     void waehle_Namen(const Simulationssatz& Satz);
     bool lies_fehlende_Saetze();
+    std::string Simulationen_mit(Satzart Art, const std::string& Name) const;
     void schliesse_Laden_ab();
     void merke_Kombination();
 
@@ -51,7 +58,8 @@ private:
     Laufsteuerung& Laeufe_;
     Feldeingabe& Felder_;
     Diagrammsteuerung& Diagramme_;
-    Satzbefehle Befehle_;
+    Satzbefehle Befehle_{z_, z_};
+    Satzwaechter Waechter_{z_};
 };
 
 }  // namespace varnok

@@ -101,6 +101,7 @@ void Sitzung::Starten() {
 
 void Sitzung::Aktualisieren() {
     befolge([&] {
+        if (Saetze_.lies_nach()) return;
         z_.Neu_berechnen = true;
         Laeufe_.verwirf_alle();
         Laeufe_.berechne(true);
@@ -116,7 +117,7 @@ void Sitzung::Ende() {
 }
 
 void Sitzung::lade_Voreinstellungen() {
-    befolge([&] { Voreinstellungen_laden(z_); });
+    befolge([&] { Voreinstellungen_laden(z_, Saetze_); });
 }
 
 bool Sitzung::schliesse_Fenster() {

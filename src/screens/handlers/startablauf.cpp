@@ -48,7 +48,7 @@ bool lade_neueste(Zustand& z, Satzverwaltung& Saetze) {
             melde(z, Texte::Laufzeitfehler, f.what());
         }
     }
-    beende_oder_stelle_her(z, "Input files are missing. Should the default settings be loaded ");
+    beende_oder_stelle_her(z, Saetze, "Input files are missing. Should the default settings be loaded ");
     return false;
 }
 
@@ -58,6 +58,8 @@ bool starte_Programm(Zustand& z, Satzverwaltung& Saetze) {
     z.Felder().Aktuelle_Dateinamen[0] = Startsimulation;
     lade_Einstellungen(z);
     oeffne_Projekt(z);
+    z.Sperre = std::make_shared<Projektsperre>(*z.Ordner);
+    if (z.Sperre->von_anderem_gehalten()) melde(z, Texte::Ordner_in_Gebrauch, Texte::zweites_Fenster);
     Saetze.fuelle_Listen();
     uebernehme_TWA_Liste(z.Rechnung);
     z.Felder().TWA_Laenge = TWA_Vorauswahl(z.Parameter().TWA_Zeiten);

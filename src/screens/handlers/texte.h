@@ -13,6 +13,15 @@ inline constexpr const char* kein_Endplateau = "No final plateau";
 inline constexpr const char* Laufzeitfehler = "Runtime error";
 inline constexpr const char* Aenderungen_sichern = "Save changes?";
 
+inline constexpr const char* Satz_ersetzen = "Replace existing record?";
+
+inline constexpr const char* Ordner_in_Gebrauch = "Project folder in use";
+inline constexpr const char* zweites_Fenster =
+    "Another window of VARNOK works on this project folder. What both save replaces each other: "
+    "this window asks before it saves.";
+inline constexpr const char* zweites_Fenster_sichert =
+    "Another window of VARNOK works on this project folder. Do you want to save all the same?";
+
 inline constexpr std::array<const char*, 4> Satz_waehlen = {"", "Pesticide record not set. Please select!",
                                                             "Application record not set. Please select!",
                                                             "Scenario record not set. Please select!"};

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -12,6 +13,7 @@
 #include "records/einstellungen.h"
 #include "records/klimadatei.h"
 #include "records/projektordner.h"
+#include "records/projektsperre.h"
 #include "run/lauf.h"
 
 namespace varnok {
@@ -47,16 +49,24 @@ struct Satzlisten {
     }
 };
 
+// A file as this program last read or wrote it.
+struct Dateistand {
+    std::string Name;
+    std::string Bytes;
+};
+
 struct Zustand : Satzlisten {
     Umgebung Welt;
     Einstellungen Einstellung;
     std::string Projektpfad;
     std::optional<Projektordner> Ordner;
+    std::shared_ptr<Projektsperre> Sperre;  // on that folder, for the time of the session
 
     Lauf Rechnung;
 
     // A record that the selector names but that could not be read or was not read yet.
     std::array<bool, 4> nicht_gelesen{};
+    std::array<Dateistand, 4> Dateistaende;
 
     bool Gestartet = false;
     bool Neu_berechnen = false;  // the input is valid and runs are allowed

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "records/sicherung.h"
+#include "screens/handlers/zustand.h"
+
+namespace varnok {
+
+// Stands between the values on the screen and the files: nothing that another program or another window wrote is replaced
+// without a question, and what is replaced or dropped is in `backup` before.
+class Satzwaechter {
+public:
+    explicit Satzwaechter(Zustand& z) : z_(z) {}
+
+    // The file of that name was just read or written: its content is known.
+    void merke(Satzart Art, const std::string& Name);
+    // A file that was read got another name, with its content.
+    void merke_Namen(Satzart Art, const std::string& Name) { z_.Dateistaende[Art].Name = Name; }
+
+    // Writes the files that the selectors name from the values on the screen: all of them, or none and false where the user
+    // does not want one replaced. A type that was not read is left out.
+    bool schreibe(const std::vector<Satzart>& Arten);
+
+    // Puts values that no file holds into `backup`, of the types given, with further pieces of the same command.
+    void sichere_Ungesichertes(const std::vector<Satzart>& Arten, std::vector<Sicherungsstueck> dazu = {});
+
+private:
+    struct Auftrag {
+        Satzart Art;
+        std::string Name;
+        std::string Pfad;
+        std::string Bytes;
+    };
+
+    Auftrag stelle_zusammen(Satzart Art) const;
+    bool darf_speichern() const;
+    bool darf_ersetzen(const Auftrag& a, const std::string& vorhanden) const;
+    std::string Dateibytes(Satzart Art) const;
+
+    Zustand& z_;
+};
+
+// Puts pieces into `backup`; the status line names the place.
+void sichere(Zustand& z, const std::vector<Sicherungsstueck>& Stuecke);
+
+}  // namespace varnok
