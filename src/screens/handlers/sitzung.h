@@ -3,11 +3,13 @@
 // The program behind the screen. Every user action comes in here, every decision is taken here or in one of
 // the parts; the widgets show `Zustand` and forward what the user does.
 
+#include <functional>
 #include <string>
 #include <vector>
 
 #include "exposure/ergebnistabelle.h"
 #include "exposure/twa.h"
+#include "screens/handlers/aktualisierungssteuerung.h"
 #include "screens/handlers/applikationstabelle.h"
 #include "screens/handlers/auswahl.h"
 #include "screens/handlers/berichtssteuerung.h"
@@ -54,6 +56,9 @@ public:
     void Speichern();
     void Ende();
     void lade_Voreinstellungen();
+    void suche_nach_Update();
+    // Once after the start; see `Aktualisierungssteuerung`. `fuehre_aus` runs the action that a usable answer asks for.
+    void suche_beim_Start(std::function<void(const std::function<void()>&)> fuehre_aus);
     bool schliesse_Fenster();  // false: the window stays
     void zeige_Studien();
     void zeige_Zusammenfassung();
@@ -120,6 +125,7 @@ private:
     Auswahl Auswahl_{z_, Laeufe_, Felder_, Diagramme_};
     Applikationstabelle Tabelle_{z_, Laeufe_};
     Berichtssteuerung Berichte_{z_, Laeufe_, Diagramme_};
+    Aktualisierungssteuerung Update_{z_, {}};
     std::string alte_Beschreibung_;
     bool alte_Marke_ = false;  // of the simulation, before the description was opened
 };

@@ -48,7 +48,7 @@ constexpr std::array<Befehlszeile, 16> Befehle = {{
     {editieren, u"M_Optionen", u"&Preferences", nullptr, u"", true},
     {Ansicht, u"M_Studien", u"&Individual studies", &Sitzung::zeige_Studien},
     {Ansicht, u"M_Zusammenfassung", u"&Summary", &Sitzung::zeige_Zusammenfassung},
-    {Hilfe, u"M_suche_nach_Update", u"&Onlinecheck for updates"},
+    {Hilfe, u"M_suche_nach_Update", u"&Onlinecheck for updates", &Sitzung::suche_nach_Update},
     {Hilfe, u"M_Versionsinfo", u"&Release notes"},
     {Hilfe, u"M_ueber", u"&About", nullptr, u"", true},
 }};
@@ -86,6 +86,9 @@ Menue::Menue(Sitzung& Programm, QMainWindow& Fenster) : QObject(&Fenster), Progr
 void Menue::fuehre_aus(void (Sitzung::*Befehl)()) {
     {
         const Wartezeiger warte;
+        for (const Eintrag& e : Eintraege_) {
+            if (e.Befehl == Befehl && Befehl == &Sitzung::suche_nach_Update) e.Aktion->setEnabled(false);
+        }
         (Programm_.*Befehl)();
     }
     Q_EMIT gehandelt();
@@ -96,8 +99,10 @@ void Menue::zeige() {
     for (const Eintrag& e : Eintraege_) {
         const bool Zusammenfassung = e.Befehl == &Sitzung::zeige_Zusammenfassung;
         const bool Bericht = e.Befehl == &Sitzung::erstelle_Bericht;
+        const bool Update = e.Befehl == &Sitzung::suche_nach_Update;
         e.Aktion->setEnabled(e.Befehl && (!Zusammenfassung || Programm_.darf_Zusammenfassung()) &&
-                             (!Bericht || Programm_.Stand().Gestartet));
+                             (!Bericht || Programm_.Stand().Gestartet) &&
+                             (!Update || !Programm_.Stand().Aktualisierung_laeuft));
     }
 }
 
