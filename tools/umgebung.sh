@@ -12,13 +12,13 @@ Protokolle=$Wurzel/build/protokolle
 # packages against a second build of everything.
 Pakete=(
     g++ cmake ninja-build ccache
-    qt6-base-dev qt6-svg-dev libcli11-dev nlohmann-json3-dev libtbb-dev
+    qt6-base-dev qt6-svg-dev libcli11-dev nlohmann-json3-dev libtbb-dev libsodium-dev
     libgtest-dev libgmock-dev libbenchmark-dev
     python3 fonts-dejavu-core
 )
 
-# The smoke test works the real window on a display of its own; a test reads the PDF of a report.
-Testpakete=(xvfb xauth openbox x11-apps xdotool poppler-utils)
+# The smoke tests work the real window on a display of its own, one under a trace; a test reads the PDF of a report.
+Testpakete=(xvfb xauth openbox x11-apps xdotool strace poppler-utils)
 
 sage() { printf '%s\n' "$*" >&2; }
 

@@ -120,6 +120,16 @@ void Sitzung::lade_Voreinstellungen() {
     befolge([&] { Voreinstellungen_laden(z_, Saetze_); });
 }
 
+void Sitzung::suche_nach_Update() {
+    befolge([&] { Update_.suche(); });
+}
+
+void Sitzung::suche_beim_Start(std::function<void(const std::function<void()>&)> fuehre_aus) {
+    Update_.suche_beim_Start([this, fuehre_aus](const std::string& Seite) {
+        fuehre_aus([&] { tue([&] { Update_.melde(Seite); }); });
+    });
+}
+
 bool Sitzung::schliesse_Fenster() {
     if (z_.beendet) return true;
     Felder_.nimm_Ungueltiges_zurueck();

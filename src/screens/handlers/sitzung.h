@@ -3,11 +3,13 @@
 // The program behind the screen. Every user action comes in here, every decision is taken here or in one of
 // the parts; the widgets show `Zustand` and forward what the user does.
 
+#include <functional>
 #include <string>
 #include <vector>
 
 #include "exposure/ergebnistabelle.h"
 #include "exposure/twa.h"
+#include "screens/handlers/aktualisierungssteuerung.h"
 #include "screens/handlers/applikationstabelle.h"
 #include "screens/handlers/auswahl.h"
 #include "screens/handlers/berichtssteuerung.h"
@@ -39,6 +41,7 @@ public:
     // Diagrams of the view on display, and the one in front.
     const Diagrammsteuerung& Diagramme() const { return Diagramme_; }
     // What can be done now.
+    bool darf_nach_Update_suchen() const { return !z_.Aktualisierung_laeuft; }
     bool ist_gestartet() const { return z_.Gestartet; }
     bool darf_Zusammenfassung() const { return z_.Gestartet && z_.Studienzahl() > 1; }
     bool darf_Studie_addieren() const { return z_.Gestartet && Studien_.darf_addieren(); }
@@ -61,6 +64,9 @@ public:
     void Speichern();
     void Ende();
     void lade_Voreinstellungen();
+    void suche_nach_Update();
+    // Once after the start; see `Aktualisierungssteuerung`. `fuehre_aus` runs the action that a usable answer asks for.
+    void suche_beim_Start(std::function<void(const std::function<void()>&)> fuehre_aus);
     bool schliesse_Fenster();  // false: the window stays
     void zeige_Studien();
     void zeige_Zusammenfassung();
@@ -146,6 +152,7 @@ private:
     Studienverwaltung Studien_{z_, Laeufe_, Felder_, Diagramme_};
     Applikationstabelle Tabelle_{z_, Laeufe_};
     Berichtssteuerung Berichte_{z_, Laeufe_, Diagramme_};
+    Aktualisierungssteuerung Update_{z_, [this] { Saetze_.sichere_Ungesichertes(); }};
     std::string alte_Beschreibung_;
     bool alte_Marke_ = false;  // of the simulation, before the description was opened
 };

@@ -11,6 +11,8 @@ inline constexpr const char* Datei_fehlt = "Data file missing";
 inline constexpr const char* Satz_nicht_gewaehlt = "Record not set";
 inline constexpr const char* kein_Endplateau = "No final plateau";
 inline constexpr const char* Laufzeitfehler = "Runtime error";
+inline constexpr const char* keine_Verbindung = "Connection error";
+inline constexpr const char* Updateserver_antwortet_nicht = "Varnok could not connect to the update server";
 inline constexpr const char* Aenderungen_sichern = "Save changes?";
 
 inline constexpr const char* Satz_ersetzen = "Replace existing record?";

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "base/schnittstellen.h"
+#include "extras/aktualisierung.h"
 #include "records/einstellungen.h"
 #include "records/klimadatei.h"
 #include "records/projektordner.h"
@@ -25,6 +26,7 @@ struct Umgebung {
     std::string installierte_Daten;  // second source of the templates, may be empty
     char Dezimalzeichen = '.';       // of the region, for records and fields
     const Uhr* Zeit = nullptr;       // the machine's without one
+    Aktualisierungswelt Update = {};
 };
 
 // A cell of the table of applications, row and column counted from 0.
@@ -85,6 +87,8 @@ struct Zustand : Satzlisten {
     std::optional<Zelle> Tabellenfehler;  // the cell that a message spoke of, to be selected
     std::string Statuszeile;
     int Zeichnung = 0;  // counts the redraws of the results
+    bool Aktualisierungsfehler = false;  // the last check for a newer version received no usable answer
+    bool Aktualisierung_laeuft = false;
     bool beendet = false;  // the program ends as soon as the action in work is over
 
     Eingabe& Felder() { return Rechnung.Felder; }

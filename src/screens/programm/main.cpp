@@ -5,9 +5,11 @@
 #include <QLocale>
 #include <QStandardPaths>
 #include <QStyleFactory>
+#include <QTimer>
 #include <cstdio>
 #include <string_view>
 
+#include "extras/netzabruf.h"
 #include "screens/programm/programmordner.h"
 #include "screens/widgets/bilder.h"
 #include "screens/widgets/fensterfrage.h"
@@ -55,9 +57,14 @@ int main(int argc, char** argv) {
     const QString Fensterdatei = QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) + u"/window.ini"_s;
 
     varnok::Fensterfrage Fragen;
-    varnok::Sitzung Programm({&Fragen, varnok::aus_Qt(Ordner), varnok::aus_Qt(installiert), Komma ? ',' : '.'});
+    varnok::Netzabruf Netz;
+    varnok::Dateitausch Tausch(varnok::aus_Qt(QApplication::applicationFilePath()), varnok::aus_Qt(QDir::currentPath()),
+                               QApplication::applicationPid());
+    varnok::Sitzung Programm({&Fragen, varnok::aus_Qt(Ordner), varnok::aus_Qt(installiert), Komma ? ',' : '.', nullptr,
+                              {varnok::Ziel_der_Auslieferung(), &Netz, &Tausch}});
     if (!Programm.starte()) return 0;
     varnok::Hauptformular Fenster(Programm, &Fragen, Fensterdatei);
     Fenster.show();
+    QTimer::singleShot(0, &Fenster, &varnok::Hauptformular::suche_beim_Start);
     return QApplication::exec();
 }

@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QHBoxLayout>
+#include <QPointer>
 #include <QScreen>
 #include <QSettings>
 #include <QStackedWidget>
@@ -154,13 +155,25 @@ void Hauptformular::nach_Handlung() {
     Steuerung_->gib_Fokus_zurueck();
 }
 
+void Hauptformular::suche_beim_Start() {
+    Programm_.suche_beim_Start([Fenster = QPointer(this)](const std::function<void()>& Handlung) {
+        if (!Fenster) return;
+        {
+            const Wartezeiger warte;
+            Handlung();
+        }
+        Fenster->nach_Handlung();
+    });
+}
+
 void Hauptformular::waehle_Fehlerzelle() {
     const Zustand& z = Programm_.Stand();
     if (z.Tabellenfehler && z.abgedeckt) Applikation_->waehle_Zelle(*z.Tabellenfehler);
 }
 
 void Hauptformular::closeEvent(QCloseEvent* e) {
-    if (!Programm_.schliesse_Fenster()) {
+    // What waits for the server would go on without its window.
+    if (Programm_.Stand().Aktualisierung_laeuft || !Programm_.schliesse_Fenster()) {
         e->ignore();
         zeige();
         return;

@@ -32,6 +32,8 @@ public:
 
     // Brings everything on the screen in line with the session.
     void zeige();
+    // Asks for a newer version, once, while the start page is on the screen.
+    void suche_beim_Start();
 
 protected:
     void closeEvent(QCloseEvent* e) override;

@@ -49,7 +49,8 @@ constexpr std::array<Befehlszeile, 16> Befehle = {{
     {editieren, u"M_Optionen", u"&Preferences", nullptr, u"", true},
     {Ansicht, u"M_Studien", u"&Individual studies", &Sitzung::zeige_Studien},
     {Ansicht, u"M_Zusammenfassung", u"&Summary", &Sitzung::zeige_Zusammenfassung, u"", false, &Sitzung::darf_Zusammenfassung},
-    {Hilfe, u"M_suche_nach_Update", u"&Onlinecheck for updates"},
+    {Hilfe, u"M_suche_nach_Update", u"&Onlinecheck for updates", &Sitzung::suche_nach_Update, u"", false,
+     &Sitzung::darf_nach_Update_suchen},
     {Hilfe, u"M_Versionsinfo", u"&Release notes"},
     {Hilfe, u"M_ueber", u"&About", nullptr, u"", true},
 }};
@@ -87,6 +88,9 @@ Menue::Menue(Sitzung& Programm, QMainWindow& Fenster) : QObject(&Fenster), Progr
 void Menue::fuehre_aus(void (Sitzung::*Befehl)()) {
     {
         const Wartezeiger warte;
+        for (const Eintrag& e : Eintraege_) {
+            if (e.Befehl == Befehl && Befehl == &Sitzung::suche_nach_Update) e.Aktion->setEnabled(false);
+        }
         (Programm_.*Befehl)();
     }
     Q_EMIT gehandelt();

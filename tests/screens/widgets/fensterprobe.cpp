@@ -36,11 +36,12 @@ void kopiere_Daten(const QString& Ziel) {
 
 }  // namespace
 
-Fensterprobe::Fensterprobe(Rueckfrage* Fragen, const std::function<void(const QString&)>& Projekt) {
+Fensterprobe::Fensterprobe(Rueckfrage* Fragen, const std::function<void(const QString&)>& Projekt,
+                           const Aktualisierungswelt& Update) {
     kopiere_Daten(Ordner_.path());
     if (Projekt) Projekt(Ordner_.path());
     Programm_ = std::make_unique<Sitzung>(
-        Umgebung{Fragen ? Fragen : &Fragen_, aus_Qt(Ordner_.path()), VARNOK_DATENORDNER, '.'});
+        Umgebung{Fragen ? Fragen : &Fragen_, aus_Qt(Ordner_.path()), VARNOK_DATENORDNER, '.', nullptr, Update});
     if (!Programm_->starte()) qFatal("the project cannot be loaded");
     Fenster_ = std::make_unique<Hauptformular>(*Programm_, &Fragen_);
     Fenster_->resize(1180, 760);

@@ -15,7 +15,8 @@ namespace varnok {
 class Fensterprobe {
 public:
     // `Fragen`: answers the questions instead of a user at the boxes. `Projekt`: what is done to the copy before the start.
-    explicit Fensterprobe(Rueckfrage* Fragen = nullptr, const std::function<void(const QString&)>& Projekt = {});
+    explicit Fensterprobe(Rueckfrage* Fragen = nullptr, const std::function<void(const QString&)>& Projekt = {},
+                          const Aktualisierungswelt& Update = {});
 
     Sitzung& Programm() { return *Programm_; }
     Hauptformular& Fenster() { return *Fenster_; }
