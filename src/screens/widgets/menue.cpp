@@ -66,7 +66,7 @@ Menue::Menue(Sitzung& Programm, QMainWindow& Fenster) : QObject(&Fenster), Progr
             Bericht->setObjectName(u"M_Bericht"_s);
             Bericht->setShortcut(QKeySequence(u"Ctrl+R"_s));
             Eintraege_.push_back({Bericht, &Sitzung::ist_gestartet});
-            connect(Bericht, &QAction::triggered, this, [this] { fuehre_aus(&Sitzung::erstelle_Bericht); });
+            connect(Bericht, &QAction::triggered, this, [this, Bericht] { fuehre_aus(Bericht, &Sitzung::erstelle_Bericht); });
         }
         Menueliste[i] = Fenster.menuBar()->addMenu(QString::fromUtf16(Menues[i].Aufschrift));
         Menueliste[i]->setObjectName(QString::fromUtf16(Menues[i].Name));
@@ -81,17 +81,17 @@ Menue::Menue(Sitzung& Programm, QMainWindow& Fenster) : QObject(&Fenster), Progr
         // Names like "Quit" would move entries to another menu on some desktops.
         Aktion->setMenuRole(QAction::NoRole);
         Eintraege_.push_back({Aktion, b.erlaubt});
-        if (b.Befehl) connect(Aktion, &QAction::triggered, this, [this, Befehl = b.Befehl] { fuehre_aus(Befehl); });
+        if (b.Befehl) connect(Aktion, &QAction::triggered, this, [this, Aktion, Befehl = b.Befehl] { fuehre_aus(Aktion, Befehl); });
     }
 }
 
-void Menue::fuehre_aus(void (Sitzung::*Befehl)()) {
+// A command that waits for an answer from outside is not started again meanwhile.
+void Menue::fuehre_aus(QAction* Aktion, void (Sitzung::*Befehl)()) {
     {
         const Wartezeiger warte;
-        for (const Eintrag& e : Eintraege_) {
-            if (e.Befehl == Befehl && Befehl == &Sitzung::suche_nach_Update) e.Aktion->setEnabled(false);
-        }
+        Aktion->setEnabled(false);
         (Programm_.*Befehl)();
+        Aktion->setEnabled(true);
     }
     Q_EMIT gehandelt();
 }

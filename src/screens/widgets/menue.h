@@ -28,7 +28,7 @@ private:
         bool (Sitzung::*erlaubt)() const;  // none: always
     };
 
-    void fuehre_aus(void (Sitzung::*Befehl)());
+    void fuehre_aus(QAction* Aktion, void (Sitzung::*Befehl)());
 
     Sitzung& Programm_;
     std::vector<QAction*> nach_Start_;  // enabled once the start page is left
