@@ -95,16 +95,16 @@ bool Satzbefehle::loesche(Satzart Art) {
     return true;
 }
 
-std::optional<std::string> Satzbefehle::benenne_um(Satzart Art, const std::string& Text, bool mit_Frage) {
+Umbenennung Satzbefehle::benenne_um(Satzart Art, const std::string& Text, bool mit_Frage) {
     const std::string alt = Listen_.gewaehlt(Art);
     const std::string neu = ohne_Endung(Text, Endungen[Art]);
-    if (neu == alt) return std::nullopt;
+    if (neu == alt) return Umbenennung::unveraendert;
     pruefe_Namen(neu);
     const std::string Quelle = Pfad_des_gewaehlten(Art);
     const auto vorhanden = z_.Ordner->finde(neu, Endungen[Art]);
     if (vorhanden && *vorhanden != Quelle) {
         if (!mit_Frage) throw Laufzeitfehler("The record \"" + neu + "\" already exists. \"" + alt + "\" keeps its name.");
-        if (!darf_ersetzen("The record ' " + neu + " ' already exists. Do you want to replace it?")) return std::nullopt;
+        if (!darf_ersetzen("The record ' " + neu + " ' already exists. Do you want to replace it?")) return Umbenennung::abgelehnt;
         sichere_Datei(*vorhanden, neu + Endungen[Art]);
         benenne_Datei_um(Quelle, *vorhanden);
     }
@@ -113,7 +113,7 @@ std::optional<std::string> Satzbefehle::benenne_um(Satzart Art, const std::strin
     const std::string Ziel = z_.Ordner->Eingabeordner() + "/" + neu + Endungen[Art];
     if (jetzt != Ziel) benenne_Datei_um(jetzt, Ziel);
     lies_Liste(Art, neu);
-    return neu;
+    return Umbenennung::erfolgt;
 }
 
 }  // namespace varnok

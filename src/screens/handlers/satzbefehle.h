@@ -1,11 +1,12 @@
 #pragma once
 
-#include <optional>
 #include <string>
 
 #include "screens/handlers/zustand.h"
 
 namespace varnok {
+
+enum class Umbenennung { erfolgt, unveraendert, abgelehnt };
 
 // Making, copying, deleting and renaming the files behind a set of selectors: questions, files and lists. What
 // follows for the values on the screen is the caller's matter. A fault throws before any file is touched; what a command
@@ -21,9 +22,8 @@ public:
     bool kopiere(Satzart Art);
     // Deletes the file selected; the entry that moves into its place, or the last one, is selected. False after a No.
     bool loesche(Satzart Art);
-    // Gives the file selected the typed name. Without `mit_Frage` a name that is taken is a fault. The new name; nothing where
-    // it is the old one or the user did not want to replace a file.
-    std::optional<std::string> benenne_um(Satzart Art, const std::string& Text, bool mit_Frage);
+    // Gives the file selected the typed name. Without `mit_Frage` a name that is taken is a fault.
+    Umbenennung benenne_um(Satzart Art, const std::string& Text, bool mit_Frage);
 
     // Reads the entries anew from the project folder; the selection follows the name.
     void lies_Liste(Satzart Art, const std::string& Auswahl);

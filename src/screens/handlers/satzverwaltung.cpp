@@ -160,15 +160,16 @@ void Satzverwaltung::loesche(Satzart Art) {
     decke_ab(z_, Texte::Satz_geloescht);
 }
 
-void Satzverwaltung::benenne_um(Satzart Art, const std::string& Text, bool mit_Frage) {
+bool Satzverwaltung::benenne_um(Satzart Art, const std::string& Text, bool mit_Frage) {
     const std::string alt = z_.gewaehlt(Art);
-    const auto Name = Befehle_.benenne_um(Art, Text, mit_Frage);
-    if (!Name) return;
-    z_.Felder().Aktuelle_Dateinamen[Art] = *Name;
-    Waechter_.merke_Namen(Art, *Name);
+    const Umbenennung Ausgang = Befehle_.benenne_um(Art, Text, mit_Frage);
+    if (Ausgang != Umbenennung::erfolgt) return Ausgang == Umbenennung::unveraendert;
+    z_.Felder().Aktuelle_Dateinamen[Art] = z_.gewaehlt(Art);
+    Waechter_.merke_Namen(Art, z_.gewaehlt(Art));
     merke_Kombination();
     const std::string Betroffene = Simulationen_mit(Art, alt);
     if (!Betroffene.empty()) z_.Statuszeile = "Simulations that still name \"" + alt + "\": " + Betroffene;
+    return true;
 }
 
 // Renaming a record leaves the summary files as they are.

@@ -29,7 +29,8 @@ public:
     void lege_an(Satzart Art);
     void kopiere(Satzart Art);
     void loesche(Satzart Art);
-    void benenne_um(Satzart Art, const std::string& Text, bool mit_Frage);
+    // False if the user did not want to replace a file.
+    bool benenne_um(Satzart Art, const std::string& Text, bool mit_Frage);
 
     // Reads what the selectors name and was not read, after a deletion: a simulation is loaded. True if there was something.
     bool lies_nach();

@@ -187,8 +187,10 @@ void Sitzung::kopiere_Satz(Satzart Art) {
 void Sitzung::loesche_Satz(Satzart Art) {
     befolge([&] { Saetze_.loesche(Art); });
 }
-void Sitzung::benenne_Satz_um(Satzart Art, const std::string& Text, bool mit_Frage) {
-    befolge([&] { Saetze_.benenne_um(Art, Text, mit_Frage); });
+bool Sitzung::benenne_Satz_um(Satzart Art, const std::string& Text, bool mit_Frage) {
+    bool fertig = false;
+    befolge([&] { fertig = Saetze_.benenne_um(Art, Text, mit_Frage); });
+    return fertig;
 }
 
 void Sitzung::oeffne_Beschreibung() {

@@ -93,7 +93,8 @@ public:
     void kopiere_Satz(Satzart Art);
     void loesche_Satz(Satzart Art);
     // The text of the rename box: with Enter a name that is taken is asked about, on leaving the box it is a fault.
-    void benenne_Satz_um(Satzart Art, const std::string& Text, bool mit_Frage);
+    // True if the box may close.
+    bool benenne_Satz_um(Satzart Art, const std::string& Text, bool mit_Frage);
     void oeffne_Beschreibung();
     void aendere_Beschreibung(const std::string& Text);
     void schliesse_Beschreibung();

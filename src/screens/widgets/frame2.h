@@ -4,9 +4,8 @@
 
 namespace varnok {
 
-class Auswahlliste;
 class Beschreibungsfeld;
-class Schaltflaeche;
+class Satzliste;
 
 // The simulation and its line of description, at the top of the window.
 class Frame2 : public Rahmen {
@@ -16,9 +15,7 @@ public:
     void zeige() override;
 
 private:
-    Auswahlliste* Simulationsliste_;
-    Schaltflaeche* Copy_;
-    Schaltflaeche* Loeschen_;
+    Satzliste* Simulation_;
     Beschreibungsfeld* Beschreibung_;
 };
 

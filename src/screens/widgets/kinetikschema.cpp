@@ -7,9 +7,11 @@
 #include <QVBoxLayout>
 
 #include "screens/widgets/kinetikparameter.h"
+#include "screens/widgets/listenbedienung.h"
 #include "screens/widgets/qt_text.h"
 #include "screens/widgets/satzzeile.h"
 #include "screens/widgets/stoffseite.h"
+#include "screens/widgets/umbenennfeld.h"
 
 namespace varnok {
 namespace {
@@ -33,6 +35,7 @@ Kinetikschema::Kinetikschema(Sitzung& Programm, Feldsteuerung& Steuerung, QWidge
     Spalte->addWidget(Satz_);
 
     Studie_ = new Auswahlliste(u"Studie"_s, 12, this);
+    Studienname_ = new Umbenennfeld(u"Studienname"_s, *Studie_);
     Addiere_Studie_ = new Schaltflaeche(u"Addiere_Studie"_s, u"Add study"_s, this);
     auto* Zeile = new QHBoxLayout;
     Zeile->setSpacing(5);
@@ -48,7 +51,7 @@ Kinetikschema::Kinetikschema(Sitzung& Programm, Feldsteuerung& Steuerung, QWidge
     Spalte->addSpacing(2);
     Spalte->addWidget(Wirkstoffdaten_);
 
-    connect(Studie_, &QComboBox::activated, this, [this](int i) { handle([&] { Programm_.waehle_Studie(i); }); });
+    verbinde_Studien();
     Wirkstoffdaten_->Leiste()->darf_wechseln = [this] {
         bool frei = true;
         if (Programm_.aktives_Feld() >= 0) handle([&] { frei = Programm_.schliesse_Feld_ab(); });
@@ -57,6 +60,32 @@ Kinetikschema::Kinetikschema(Sitzung& Programm, Feldsteuerung& Steuerung, QWidge
     connect(Wirkstoffdaten_, &QTabWidget::currentChanged, this, &Kinetikschema::wechsle_Seite);
     horche_auf(Satz_);
     for (Rahmen* r : Seiten_) horche_auf(r);
+}
+
+void Kinetikschema::verbinde_Studien() {
+    connect(Studie_, &QComboBox::activated, this, [this](int i) { handle([&] { Programm_.waehle_Studie(i); }); });
+    connect(Addiere_Studie_, &QPushButton::clicked, this, [this] { handle([&] { Programm_.addiere_Studie(); }); });
+    auto* Bedienung = new Listenbedienung(*Studie_, [this] {
+        return Listenbedienung::Rechte{Programm_.darf_Studie_addieren(), false, true, Programm_.darf_Studie_loeschen()};
+    });
+    connect(Bedienung, &Listenbedienung::anlegen, this, [this] { handle([&] { Programm_.addiere_Studie(); }); });
+    connect(Bedienung, &Listenbedienung::umbenennen, this, [this] { handle([&] { Programm_.beginne_Studienname(); }); });
+    connect(Bedienung, &Listenbedienung::loeschen, this, [this] { handle([&] { Programm_.loesche_Studie(); }); });
+    connect(Studienname_, &QLineEdit::textEdited, this,
+            [this](const QString& Text) { Programm_.aendere_Studienname(aus_Qt(Text)); });
+    connect(Studienname_, &Umbenennfeld::bestaetigt, this,
+            [this](bool Enter) { handle([&] { Programm_.bestaetige_Studienname(Enter); }); });
+    connect(Studienname_, &Umbenennfeld::zurueckgenommen, this, [this] { handle([&] { Programm_.nimm_Studienname_zurueck(); }); });
+}
+
+void Kinetikschema::zeige_Studien() {
+    const Studienverwaltung& Studien = Programm_.Studien();
+    Studie_->zeige(Felder().Studie, Stand().i_studie());
+    Addiere_Studie_->setEnabled(Programm_.darf_Studie_addieren());
+    if (Studien.Name_offen() && !Studienname_->isVisible()) Studienname_->oeffne(in_Qt(Studien.Vorschlag()));
+    if (!Studien.Name_offen() && Studienname_->isVisible()) Studienname_->schliesse();
+    // The fields still hold the values of the study before.
+    Kinetikfelder_->setEnabled(!(Studien.Name_offen() && Studien.neu()));
 }
 
 // A page of the tab strip with the room around its content that all pages have.
@@ -114,8 +143,7 @@ void Kinetikschema::wechsle_Seite(int i) {
 
 void Kinetikschema::zeige() {
     Satz_->zeige();
-    Studie_->zeige(Felder().Studie, Stand().i_studie());
-    Addiere_Studie_->setEnabled(false);
+    zeige_Studien();
     for (Rahmen* r : Seiten_) r->zeige();
 
     const int m = Felder().Berechnungsmodus;

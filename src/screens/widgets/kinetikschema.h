@@ -16,6 +16,7 @@ class Feldsteuerung;
 class Reiter;
 class Satzzeile;
 class Schaltflaeche;
+class Umbenennfeld;
 
 // The compound record: its studies, and the pages degradation, sorption and metabolism.
 class Kinetikschema : public Rahmen {
@@ -27,11 +28,14 @@ public:
 private:
     QWidget* erstelle_Abbaudaten(Feldsteuerung& Steuerung);
     QWidget* erstelle_Seite(Rahmen* Inhalt);
+    void verbinde_Studien();
+    void zeige_Studien();
     void wechsle_Seite(int i);
     void faerbe_Reiter();
 
     Satzzeile* Satz_;
     Auswahlliste* Studie_;
+    Umbenennfeld* Studienname_;
     Schaltflaeche* Addiere_Studie_;
     Reiter* Wirkstoffdaten_;
     QButtonGroup* Substanz_;

@@ -1,10 +1,11 @@
 #pragma once
 
 #include "records/projektordner.h"
-#include "screens/widgets/bausteine.h"
 #include "screens/widgets/rahmen.h"
 
 namespace varnok {
+
+class Satzliste;
 
 // The line of a record in its frame: the selector of its files with the buttons to copy and delete it.
 class Satzzeile : public Rahmen {
@@ -16,10 +17,7 @@ public:
     void haenge_an(QWidget* Taste);
 
 private:
-    Satzart Satz_;
-    Auswahlliste* Liste_;
-    Schaltflaeche* Copy_;
-    Schaltflaeche* Loeschen_;
+    Satzliste* Satz_;
 };
 
 }  // namespace varnok

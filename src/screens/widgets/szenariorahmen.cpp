@@ -3,6 +3,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include "screens/widgets/bausteine.h"
 #include "screens/widgets/qt_text.h"
 #include "screens/widgets/satzzeile.h"
 
