@@ -8,7 +8,7 @@
 
 namespace varnok {
 
-enum class Symbol { keines, Ausrufezeichen, Frage };
+enum class Symbol { keines, Ausrufezeichen, Frage, Hinweis };
 enum class Knopf { OK, Abbrechen, Ja, Nein };
 
 struct Frage {

@@ -78,6 +78,7 @@ bool Laufsteuerung::rechne_Studie(int i_studie) {
     z_.Neu_berechnen = Ergebnis.Ausgang == Laufausgang::Tabelle_ungueltig;
     if (Ergebnis.Ausgang == Laufausgang::Tabelle_ungueltig) z_.Tabellenfehler = Zelle{Ergebnis.Zeile, Ergebnis.Spalte};
     const bool Datei = Ergebnis.Ausgang == Laufausgang::Klimadatei_fehlt;
+    z_.Szenarioeditor_faellig = Datei;
     melde(z_, Datei ? Texte::Datei_fehlt : Texte::keine_gueltige_Eingabe, Meldung(Ergebnis.Ausgang));
     return false;
 }

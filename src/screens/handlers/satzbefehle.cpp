@@ -5,6 +5,7 @@
 #include "base/laufzeitfehler.h"
 #include "base/zeichensatz.h"
 #include "records/dateien.h"
+#include "records/satztext.h"
 #include "screens/handlers/satzwaechter.h"
 #include "screens/handlers/texte.h"
 
@@ -17,10 +18,7 @@ constexpr const char* Vorlagenname = "do not delete this file";
 // Summary files name records in the code page, so a name must have a place in it.
 void pruefe_Namen(const std::string& Name) {
     std::string Einwand = Einwand_gegen_Namen(Name);
-    if (Einwand.empty()) {
-        const std::string Zeichen = Zeichen_ohne_Platz(Name);
-        if (!Zeichen.empty()) Einwand = "the records have no character \"" + Zeichen + "\"";
-    }
+    if (Einwand.empty()) Einwand = Einwand_gegen_Text(Name);
     if (!Einwand.empty()) throw Laufzeitfehler("\"" + Name + "\" cannot be the name of a record: " + Einwand);
 }
 

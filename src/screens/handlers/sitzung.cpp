@@ -230,6 +230,25 @@ void Sitzung::waehle_Studie(int i) {
 void Sitzung::waehle_Berechnungsmodus(int m) {
     befolge([&] { Auswahl_.waehle_Berechnungsmodus(m); }, false);
 }
+bool Sitzung::oeffne_Szenarioeditor() {
+    bool offen = false;
+    befolge([&] {
+        Editor_.oeffne();
+        offen = true;
+    });
+    return offen;
+}
+
+bool Sitzung::schliesse_Szenarioeditor() {
+    bool fertig = false;
+    tue([&] {
+        Editor_.pruefe();
+        fertig = true;
+        Editor_.uebernimm();
+    });
+    return fertig;
+}
+
 void Sitzung::addiere_Studie() {
     befolge([&] { Studien_.addiere(); });
 }

@@ -17,6 +17,7 @@
 #include "screens/handlers/laufsteuerung.h"
 #include "screens/handlers/satzverwaltung.h"
 #include "screens/handlers/studienverwaltung.h"
+#include "screens/handlers/szenarioeditor.h"
 #include "screens/handlers/zustand.h"
 
 namespace varnok {
@@ -106,6 +107,12 @@ public:
     void waehle_Studie(int i);
     void waehle_Berechnungsmodus(int m);
 
+    // The scenario editor: opened, changed, closed by "Done" (true if it may close) or "Cancel".
+    bool oeffne_Szenarioeditor();
+    bool schliesse_Szenarioeditor();
+    Szenarioeditor& Editor() { return Editor_; }
+    void vergiss_Szenarioeditor() { z_.Szenarioeditor_faellig = false; }
+
     // Studies of the compound: see `Studienverwaltung`.
     void addiere_Studie();
     void loesche_Studie();
@@ -151,6 +158,7 @@ private:
     Satzverwaltung Saetze_{z_, Laeufe_, Felder_, Diagramme_};
     Auswahl Auswahl_{z_, Laeufe_, Felder_, Diagramme_};
     Studienverwaltung Studien_{z_, Laeufe_, Felder_, Diagramme_};
+    Szenarioeditor Editor_{z_, Laeufe_};
     Applikationstabelle Tabelle_{z_, Laeufe_};
     Berichtssteuerung Berichte_{z_, Laeufe_, Diagramme_};
     Aktualisierungssteuerung Update_{z_, [this] { Saetze_.sichere_Ungesichertes(); }};

@@ -2,24 +2,11 @@
 
 #include <algorithm>
 
-#include "base/laufzeitfehler.h"
-#include "base/zeichensatz.h"
+#include "records/satztext.h"
 #include "run/studientabellen.h"
 #include "screens/handlers/texte.h"
 
 namespace varnok {
-namespace {
-
-// A name stands in one line of the record, between tabs.
-std::string Einwand_gegen_Studienname(const std::string& Name) {
-    const auto ist_Steuerzeichen = [](char z) { return static_cast<unsigned char>(z) < 0x20 || z == 0x7F; };
-    if (std::any_of(Name.begin(), Name.end(), ist_Steuerzeichen)) return "it holds a control character";
-    const std::string Zeichen = Zeichen_ohne_Platz(Name);
-    return Zeichen.empty() ? std::string() : "the records have no character \"" + Zeichen + "\"";
-}
-
-}  // namespace
-
 void Studienverwaltung::oeffne(const std::string& Vorschlag, bool neu) {
     Name_offen_ = true;
     neu_ = neu;
@@ -39,7 +26,7 @@ void Studienverwaltung::nimm_zurueck() { Name_offen_ = false; }
 void Studienverwaltung::bestaetige(bool Enter) {
     if (!Name_offen_) return;
     std::string Name = Entwurf_.empty() ? Vorschlag_ : Entwurf_;
-    const std::string Einwand = Einwand_gegen_Studienname(Name);
+    const std::string Einwand = Einwand_gegen_Text(Name);
     if (!Einwand.empty()) {
         // Closed before the message: the box must not be left a second time by it.
         Name_offen_ = Enter;

@@ -23,6 +23,7 @@
 #include "screens/widgets/kinetikschema.h"
 #include "screens/widgets/menue.h"
 #include "screens/widgets/schalterrahmen.h"
+#include "screens/widgets/szenario_form.h"
 #include "screens/widgets/szenariorahmen.h"
 #include "screens/widgets/untere_zeile.h"
 
@@ -150,6 +151,12 @@ void Hauptformular::nach_Handlung() {
         return;
     }
     zeige();
+    if (Programm_.Stand().Szenarioeditor_faellig) {
+        // Once: what fails again after it is told, and the user decides.
+        zeige_Szenarioeditor(Programm_, this);
+        Programm_.vergiss_Szenarioeditor();
+        zeige();
+    }
     waehle_Fehlerzelle();
     // A field still in work refused its value: the command was not done.
     Steuerung_->gib_Fokus_zurueck();

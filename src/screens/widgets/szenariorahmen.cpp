@@ -1,11 +1,13 @@
 #include "screens/widgets/szenariorahmen.h"
 
 #include <QHBoxLayout>
+#include <QMouseEvent>
 #include <QVBoxLayout>
 
 #include "screens/widgets/bausteine.h"
 #include "screens/widgets/qt_text.h"
 #include "screens/widgets/satzzeile.h"
+#include "screens/widgets/szenario_form.h"
 
 namespace varnok {
 namespace {
@@ -45,11 +47,29 @@ Szenariorahmen::Szenariorahmen(Sitzung& Programm, QWidget* parent)
     Zeile->addWidget(Klimaszenario_, 1);
     Spalte->addLayout(Zeile);
     horche_auf(Satz_);
+    connect(Edit_, &QPushButton::clicked, this, &Szenariorahmen::oeffne_Editor);
+    for (Textfeld* f : {Bodenszenario_, Klimaszenario_}) f->installEventFilter(this);
+}
+
+void Szenariorahmen::oeffne_Editor() {
+    zeige_Szenarioeditor(Programm_, window());
+    Q_EMIT gehandelt();
+}
+
+void Szenariorahmen::mousePressEvent(QMouseEvent* e) {
+    const QWidget* Ziel = childAt(e->position().toPoint());
+    // A press on a button that can do nothing now falls through to the frame.
+    if (e->button() == Qt::LeftButton && (!Ziel || qobject_cast<const QLabel*>(Ziel))) oeffne_Editor();
+}
+
+bool Szenariorahmen::eventFilter(QObject* Quelle, QEvent* e) {
+    if (e->type() != QEvent::MouseButtonDblClick) return Rahmen::eventFilter(Quelle, e);
+    oeffne_Editor();
+    return true;
 }
 
 void Szenariorahmen::zeige() {
     Satz_->zeige();
-    Edit_->setEnabled(false);
     Bodenszenario_->zeige(in_Qt(Felder().Bodenszenario));
     Klimaszenario_->zeige(in_Qt(Felder().Klimaszenario));
 }

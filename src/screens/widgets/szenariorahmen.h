@@ -15,7 +15,14 @@ public:
     Szenariorahmen(Sitzung& Programm, QWidget* parent);
     void zeige() override;
 
+protected:
+    // A click on the surface or on a label opens the editor, like the button.
+    void mousePressEvent(QMouseEvent* e) override;
+    bool eventFilter(QObject* Quelle, QEvent* e) override;
+
 private:
+    void oeffne_Editor();
+
     Satzzeile* Satz_;
     Schaltflaeche* Edit_;
     Textfeld* Bodenszenario_;

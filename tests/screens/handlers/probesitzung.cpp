@@ -43,7 +43,10 @@ Probesitzung::Probesitzung() : Wurzel_(neuer_Ordner()) {
     schreibe_Probe();
 }
 
-Probesitzung::~Probesitzung() { std::filesystem::remove_all(Wurzel_); }
+Probesitzung::~Probesitzung() {
+    s_.reset();
+    std::filesystem::remove_all(Wurzel_);
+}
 
 void Probesitzung::schreibe_Probe() {
     const Projektordner Ordner(Wurzel_.string());
@@ -52,6 +55,7 @@ void Probesitzung::schreibe_Probe() {
 }
 
 Sitzung& Probesitzung::nur_geladen() {
+    s_.reset();  // of two windows on one folder the second would ask
     s_ = std::make_unique<Sitzung>(Umgebung{&Fragen_, Wurzel_.string(), "", '.'});
     EXPECT_TRUE(s_->starte());
     return *s_;
