@@ -21,7 +21,9 @@ QString Zeitname(const Uhr& Zeit) {
 // Two commands in one second have folders of their own, in the order of their names.
 QString lege_an(const QDir& Alle, const QString& Zeitpunkt) {
     QString Name = Zeitpunkt;
-    for (char16_t Zusatz = u'b'; Alle.exists(Name) && Zusatz <= u'z'; ++Zusatz) Name = Zeitpunkt + QChar(Zusatz);
+    for (int n = 2; Alle.exists(Name); ++n) {
+        Name = Zeitpunkt + u' ' + QString::fromStdString(std::to_string(n)).rightJustified(4, u'0');
+    }
     if (!Alle.mkpath(Name)) throw Laufzeitfehler("Cannot make the folder \"" + Alle.filePath(Name).toStdString() + "\"");
     return Name;
 }

@@ -13,26 +13,35 @@ namespace {
 
 constexpr const char* Vorlagenname = "Do not delete this file";
 
-// The template that comes last wins: that of the program's own folder over that of the project.
-std::optional<std::string> finde_Vorlage(const Projektordner& Ordner, const std::vector<std::string>& Quellen, const char* Endung) {
-    std::optional<std::string> Pfad = Ordner.finde(Vorlagenname, Endung);
+// The templates of one kind in the folders of `Quellen`.
+std::vector<std::string> Vorlagen_der(const std::vector<std::string>& Quellen, Satzart Vorlage) {
+    std::vector<std::string> Pfade;
     for (const std::string& Quelle : Quellen) {
         try {
-            if (auto Treffer = Projektordner(Quelle).finde(Vorlagenname, Endung)) Pfad = std::move(Treffer);
+            if (auto Treffer = Projektordner(Quelle).finde(Vorlagenname, Endungen[Vorlage])) Pfade.push_back(std::move(*Treffer));
         } catch (const Laufzeitfehler&) {
             continue;  // a source that does not exist has no templates
         }
     }
-    return Pfad;
+    return Pfade;
 }
 
 }  // namespace
 
+std::optional<std::string> finde_Vorlage(const Projektordner& Ordner, const std::vector<std::string>& Quellen, Satzart Vorlage) {
+    if (auto eigene = Ordner.finde(Vorlagenname, Endungen[Vorlage])) return eigene;
+    const auto andere = Vorlagen_der(Quellen, Vorlage);
+    return andere.empty() ? std::nullopt : std::optional(andere.front());
+}
+
 void stelle_Voreinstellungen_her(const Projektordner& Ordner, const std::vector<std::string>& Quellen) {
     std::array<std::string, 3> Inhalte;
     for (std::size_t i = 0; i < Inhalte.size(); ++i) {
-        const char* Endung = Endungen[Vorlage_Wirkstoff + i];
-        const auto Pfad = finde_Vorlage(Ordner, Quellen, Endung);
+        const auto Vorlage = static_cast<Satzart>(Vorlage_Wirkstoff + i);
+        const char* Endung = Endungen[Vorlage];
+        // The last source wins: the program's own template over that of the project.
+        const auto andere = Vorlagen_der(Quellen, Vorlage);
+        const auto Pfad = andere.empty() ? Ordner.finde(Vorlagenname, Endung) : std::optional(andere.back());
         if (!Pfad) throw Laufzeitfehler("The template \"" + std::string(Vorlagenname) + Endung + "\" is missing in " + Ordner.Eingabeordner());
         Inhalte[i] = lies_Datei(*Pfad);
     }

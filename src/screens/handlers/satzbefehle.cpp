@@ -6,6 +6,7 @@
 #include "base/zeichensatz.h"
 #include "records/dateien.h"
 #include "records/satztext.h"
+#include "records/voreinstellungen.h"
 #include "screens/handlers/satzwaechter.h"
 #include "screens/handlers/texte.h"
 
@@ -53,10 +54,10 @@ void Satzbefehle::sichere_Datei(const std::string& Pfad, const std::string& Date
 }
 
 std::string Satzbefehle::lege_an(Satzart Art) {
-    const char* Endung = Endungen[Art + Simulation + 3];
-    const auto Vorlage = z_.Ordner->finde(Vorlagenname, Endung);
+    const auto Vorlagenart = static_cast<Satzart>(Art + Vorlage_Wirkstoff - Wirkstoff);
+    const auto Vorlage = finde_Vorlage(*z_.Ordner, {z_.Welt.Programmpfad, z_.Welt.installierte_Daten}, Vorlagenart);
     if (!Vorlage) {
-        throw Laufzeitfehler("The template \"" + std::string(Vorlagenname) + Endung + "\" is missing in the folder \"" +
+        throw Laufzeitfehler("The template \"" + std::string(Vorlagenname) + Endungen[Vorlagenart] + "\" is missing in the folder \"" +
                              z_.Ordner->Eingabeordner() + "\"");
     }
     int n = 1;
