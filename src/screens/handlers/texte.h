@@ -12,6 +12,8 @@ inline constexpr const char* Satz_nicht_gewaehlt = "Record not set";
 inline constexpr const char* kein_Endplateau = "No final plateau";
 inline constexpr const char* Laufzeitfehler = "Runtime error";
 inline constexpr const char* Aenderungen_sichern = "Save changes?";
+inline constexpr const char* Projektpfad = "Project path";
+inline constexpr const char* Ordner_anlegen = "Make folder";
 
 inline constexpr std::array<const char*, 4> Satz_waehlen = {"", "Pesticide record not set. Please select!",
                                                             "Application record not set. Please select!",

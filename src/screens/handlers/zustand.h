@@ -51,7 +51,8 @@ struct Zustand : Satzlisten {
     Umgebung Welt;
     Einstellungen Einstellung;
     std::string Projektpfad;
-    std::optional<Projektordner> Ordner;
+    std::optional<Projektordner> Ordner;  // of everything behind the selectors, until the program ends
+    std::optional<Projektordner> Ausgabeprojekt;  // the present project path, for all output
 
     Lauf Rechnung;
 
