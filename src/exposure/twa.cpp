@@ -40,6 +40,11 @@ void uebernehme_TWA_Liste(Lauf& l) {
     }
 }
 
+void TWA_Listbox_initialisieren(Lauf& l) {
+    uebernehme_TWA_Liste(l);
+    l.Felder.TWA_Laenge = TWA_Vorauswahl(l.Parameter.TWA_Zeiten);
+}
+
 std::vector<std::string> TWA_Eintraege(const Lauf& l, char Dezimalzeichen) {
     std::vector<std::string> Eintraege;
     for (int j = 1; j <= Anzahl_TWA(l.Parameter.TWA_Zeiten); ++j) {

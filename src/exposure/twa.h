@@ -10,6 +10,9 @@ namespace varnok {
 // Copies the list of averaging windows in force into `TWA_Tage`.
 void uebernehme_TWA_Liste(Lauf& l);
 
+// The same, and the entry that the selector of windows then begins with.
+void TWA_Listbox_initialisieren(Lauf& l);
+
 // Entries of the selector of windows, "TWA (21 d)", shortest list place first.
 std::vector<std::string> TWA_Eintraege(const Lauf& l, char Dezimalzeichen = '.');
 

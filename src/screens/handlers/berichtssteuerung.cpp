@@ -16,7 +16,7 @@ void Berichtssteuerung::erstelle() {
     if (Bild == nullptr) return;
     try {
         stelle_her(*Bild);
-        const std::string Pfad = speichere_Bericht(*Bericht_, Ausgabeordner(*z_.Ordner));
+        const std::string Pfad = speichere_Bericht(*Bericht_, Ausgabeordner(*z_.Ausgabeprojekt));
         z_.Ergebnisdatei = Bericht_->Name;
         z_.Statuszeile = "Report written: " + Pfad;
     } catch (const Laufzeitfehler& f) {

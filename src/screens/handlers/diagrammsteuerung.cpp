@@ -22,7 +22,7 @@ void Diagrammsteuerung::zeichne() {
                                           : erstelle_Diagramme(z_.Rechnung, Bereiche_, z_.i_studie());
     std::string Fehler;
     for (const Diagramm& d : Diagramme_) {
-        const std::string Text = Nebenausgaben_.schreibe_Zeichnung(*z_.Ordner, d);
+        const std::string Text = Nebenausgaben_.schreibe_Zeichnung(*z_.Ausgabeprojekt, d);
         if (!Text.empty()) Fehler += (Fehler.empty() ? "" : "\n") + Text;
     }
     // One message for a drawing, and the drawing stands.

@@ -17,8 +17,8 @@ void Satzverwaltung::fuelle_Listen() {
     }
 }
 
-// False if the record is missing and the user's answer ends the program.
 bool Satzverwaltung::lies_Satz(Satzart Art, const std::string& Satzname) {
+    const int alte_TWA_Zeiten = z_.Parameter().TWA_Zeiten;
     const Lesebefund Befund = Satz_lesen(*z_.Ordner, Satzname, Art, z_.Parameter(), z_.Felder(), z_.Welt.Dezimalzeichen);
     if (Befund.Ausgang == Leseausgang::fehlt) {
         beende_oder_stelle_her(z_, *this, "File " + Satzname + " is missing. Should the default settings be loaded ");
@@ -32,16 +32,14 @@ bool Satzverwaltung::lies_Satz(Satzart Art, const std::string& Satzname) {
     z_.nicht_gelesen[Art] = false;
     Waechter_.merke(Art, Satzname);
     Laeufe_.verwirf_alle();
-    if (Art == Wirkstoff) nach_Wirkstoff();
+    if (Art == Wirkstoff) nach_Wirkstoff(alte_TWA_Zeiten);
     if (Art == Applikation) Diagramme_.setze_Bereiche_nach_Ansicht();
     Diagramme_.bringe_nach_vorn(z_.Felder().Substanz);
     return true;
 }
 
-void Satzverwaltung::nach_Wirkstoff() {
-    const auto alte_Liste = z_.Rechnung.Speicher.TWA_Tage;
-    uebernehme_TWA_Liste(z_.Rechnung);
-    if (alte_Liste != z_.Rechnung.Speicher.TWA_Tage) z_.Felder().TWA_Laenge = TWA_Vorauswahl(z_.Parameter().TWA_Zeiten);
+void Satzverwaltung::nach_Wirkstoff(int alte_TWA_Zeiten) {
+    if (z_.Parameter().TWA_Zeiten != alte_TWA_Zeiten) TWA_Listbox_initialisieren(z_.Rechnung);
     if (z_.Studienzahl() <= 1) z_.Zusammenfassung_aktiv = false;
     // A compound that the scheme does not have cannot stay in view.
     if (z_.Felder().Substanz >= Anzahl_Stoffe(z_.Felder().Berechnungsmodus)) z_.Felder().Substanz = 0;

@@ -45,9 +45,11 @@ public:
     bool frage_nach_Sicherung();
     bool pruefe_Auswahl(const std::vector<Knopf>& Knoepfe);
 
-private:
+    // Reads a record into parameters and fields; no run. False if it is missing and the user's answer ends the program.
     bool lies_Satz(Satzart Art, const std::string& Name);
-    void nach_Wirkstoff();
+
+private:
+    void nach_Wirkstoff(int alte_TWA_Zeiten);
     bool frage_Sicherung(std::size_t Art);
     void waehle_Namen(const Simulationssatz& Satz);
     bool lies_fehlende_Saetze();

@@ -298,6 +298,37 @@ void Sitzung::waehle_TWA_Laenge(int j) {
     befolge([&] { Auswahl_.waehle_TWA_Laenge(j); });
 }
 
+bool Sitzung::uebernimm_Optionen(const Optionsentwurf& Neue) {
+    bool angenommen = false;
+    tue([&] { angenommen = Optionen_.uebernimm(Neue); });
+    return angenommen;
+}
+bool Sitzung::schliesse_Optionen() {
+    bool Tips = false;
+    befolge([&] { Tips = Optionen_.schliesse(); }, false);
+    return Tips;
+}
+std::optional<std::string> Sitzung::lege_Ordner_an(const std::string& darin, const std::string& Name) {
+    return Optionen_.lege_Ordner_an(darin, Name);
+}
+
+bool Sitzung::lade_Eingabedaten(const std::string& Dateiname) {
+    bool gelungen = false;
+    tue([&] {
+        Dateien_.lade(Dateiname);
+        gelungen = true;
+    });
+    return gelungen;
+}
+bool Sitzung::speichere_Eingabedaten_unter(const std::string& Dateiname) {
+    bool gelungen = false;
+    tue([&] { gelungen = Dateien_.speichere(Dateiname); });
+    return gelungen;
+}
+void Sitzung::loesche_Eingabedatei(const std::string& Ordner, const std::string& Dateiname) {
+    tue([&] { Dateien_.loesche(Ordner, Dateiname); });
+}
+
 void Sitzung::haenge_an_Zelle(Zelle z, char Zeichen) {
     tue([&] { Tabelle_.haenge_an(z, Zeichen); });
 }

@@ -13,8 +13,10 @@
 #include "screens/handlers/applikationstabelle.h"
 #include "screens/handlers/auswahl.h"
 #include "screens/handlers/berichtssteuerung.h"
+#include "screens/handlers/dateidialoge.h"
 #include "screens/handlers/feldeingabe.h"
 #include "screens/handlers/laufsteuerung.h"
+#include "screens/handlers/optionensteuerung.h"
 #include "screens/handlers/satzverwaltung.h"
 #include "screens/handlers/studienverwaltung.h"
 #include "screens/handlers/szenarioeditor.h"
@@ -134,6 +136,18 @@ public:
     void waehle_Fruchtwechsel(int r);
     void waehle_TWA_Laenge(int j);
 
+    // The options dialog: see `Optionensteuerung`.
+    Optionsentwurf oeffne_Optionen() { return Optionen_.oeffne(); }
+    bool uebernimm_Optionen(const Optionsentwurf& Neue);
+    bool schliesse_Optionen();  // true: the tooltips have been switched on
+    std::optional<std::string> lege_Ordner_an(const std::string& darin, const std::string& Name);
+
+    // The file dialogs in reserve: see `Dateidialoge`. False: the message has been shown, the dialog stays.
+    bool lade_Eingabedaten(const std::string& Dateiname);
+    bool speichere_Eingabedaten_unter(const std::string& Dateiname);
+    void loesche_Eingabedatei(const std::string& Ordner, const std::string& Dateiname);
+    bool darf_Eingabedatei_loeschen(const std::string& Ordner) const { return Dateien_.darf_loeschen(Ordner); }
+
     // Table of irregular applications.
     void haenge_an_Zelle(Zelle z, char Zeichen);
     void nimm_letztes_Zeichen(Zelle z);
@@ -162,6 +176,8 @@ private:
     Applikationstabelle Tabelle_{z_, Laeufe_};
     Berichtssteuerung Berichte_{z_, Laeufe_, Diagramme_};
     Aktualisierungssteuerung Update_{z_, [this] { Saetze_.sichere_Ungesichertes(); }};
+    Optionensteuerung Optionen_{z_, Laeufe_, Auswahl_};
+    Dateidialoge Dateien_{z_, Saetze_};
     std::string alte_Beschreibung_;
     bool alte_Marke_ = false;  // of the simulation, before the description was opened
 };

@@ -37,6 +37,7 @@ void oeffne_Projekt(Zustand& z) {
         z.Projektpfad = z.Welt.Programmpfad;
         z.Ordner.emplace(z.Projektpfad);
     }
+    z.Ausgabeprojekt = z.Ordner;
 }
 
 // Loads the newest simulation whose summary file can be read. False without any, or if the program ends.
@@ -61,8 +62,7 @@ bool starte_Programm(Zustand& z, Satzverwaltung& Saetze) {
     z.Sperre = std::make_shared<Projektsperre>(*z.Ordner);
     if (z.Sperre->von_anderem_gehalten()) melde(z, Texte::Ordner_in_Gebrauch, Texte::zweites_Fenster);
     Saetze.fuelle_Listen();
-    uebernehme_TWA_Liste(z.Rechnung);
-    z.Felder().TWA_Laenge = TWA_Vorauswahl(z.Parameter().TWA_Zeiten);
+    TWA_Listbox_initialisieren(z.Rechnung);
     return lade_neueste(z, Saetze) && !z.beendet;
 }
 

@@ -61,8 +61,9 @@ struct Zustand : Satzlisten {
     Umgebung Welt;
     Einstellungen Einstellung;
     std::string Projektpfad;
-    std::optional<Projektordner> Ordner;
+    std::optional<Projektordner> Ordner;  // of everything behind the selectors, until the program ends
     std::shared_ptr<Projektsperre> Sperre;  // on that folder, for the time of the session
+    std::optional<Projektordner> Ausgabeprojekt;  // the present project path, for all output
 
     Lauf Rechnung;
 

@@ -1,11 +1,24 @@
 #include "screens/widgets/farben.h"
 
+#include <QVariant>
+#include <QWidget>
+
+#include "records/einstellungen.h"
+
 namespace varnok {
 namespace {
 
 QColor gemischt(const QColor& a, const QColor& b, double Anteil_b) {
     const auto Mitte = [&](int x, int y) { return static_cast<int>(x + (y - x) * Anteil_b); };
     return {Mitte(a.red(), b.red()), Mitte(a.green(), b.green()), Mitte(a.blue(), b.blue())};
+}
+
+constexpr const char* Eigenschaft = "Rahmenart";
+
+void faerbe(QWidget& Teil, bool farbig) {
+    const auto Art = static_cast<Rahmenart>(Teil.property(Eigenschaft).toInt());
+    if (Art == Rahmenart::schlicht || farbig == Teil.testAttribute(Qt::WA_SetPalette)) return;
+    Teil.setPalette(farbig ? helle_Palette(Rahmenfarbe(Art)) : QPalette());
 }
 
 }  // namespace
@@ -40,6 +53,14 @@ QPalette helle_Palette(const QColor& Flaeche) {
     for (const auto Rolle : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         p.setColor(QPalette::Disabled, Rolle, blass);
     return p;
+}
+
+void setze_Rahmenart(QWidget& Teil, Rahmenart Art) { Teil.setProperty(Eigenschaft, static_cast<int>(Art)); }
+
+void farbe_einstellen(QWidget& Formular, const Einstellungen& e) {
+    const bool farbig = e.Farbeinstellung == 0;
+    faerbe(Formular, farbig);
+    for (QWidget* Teil : Formular.findChildren<QWidget*>()) faerbe(*Teil, farbig);
 }
 
 }  // namespace varnok

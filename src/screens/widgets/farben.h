@@ -5,7 +5,11 @@
 #include <QColor>
 #include <QPalette>
 
+class QWidget;
+
 namespace varnok {
+
+struct Einstellungen;
 
 enum class Rahmenart { schlicht, Wirkstoff, Applikation, Szenario };
 
@@ -27,5 +31,11 @@ QColor Rahmenfarbe(Rahmenart Art);
 
 // A light palette around a surface of that colour: white fields, dark text.
 QPalette helle_Palette(const QColor& Flaeche);
+
+// Makes a part of a form one that `farbe_einstellen` gives the colour of its kind, with all that stands on it.
+void setze_Rahmenart(QWidget& Teil, Rahmenart Art);
+
+// Gives a form and its parts the colours of their kinds, or the desktop's, as `Farbeinstellung` says.
+void farbe_einstellen(QWidget& Formular, const Einstellungen& e);
 
 }  // namespace varnok

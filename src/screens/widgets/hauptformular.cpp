@@ -22,6 +22,7 @@
 #include "screens/widgets/intro.h"
 #include "screens/widgets/kinetikschema.h"
 #include "screens/widgets/menue.h"
+#include "screens/widgets/optionen.h"
 #include "screens/widgets/schalterrahmen.h"
 #include "screens/widgets/szenario_form.h"
 #include "screens/widgets/szenariorahmen.h"
@@ -55,6 +56,7 @@ Hauptformular::Hauptformular(Sitzung& Programm, Fensterfrage* Fragen, const QStr
     connect(Menue_, &Menue::gehandelt, this, &Hauptformular::nach_Handlung);
     Drucken_ = findChild<QAction*>(u"M_Drucken"_s);
     connect(Drucken_, &QAction::triggered, Bericht_, &Berichtsansicht::drucke);
+    connect(findChild<QAction*>(u"M_Optionen"_s), &QAction::triggered, this, &Hauptformular::oeffne_Optionen);
     connect(Steuerung_, &Feldsteuerung::gehandelt, this, &Hauptformular::zeige);
     for (Rahmen* r : Rahmen_) {
         connect(r, &Rahmen::gehandelt, this, &Hauptformular::nach_Handlung);
@@ -135,10 +137,7 @@ void Hauptformular::zeige() {
     Blaetter_->setCurrentWidget(Programm_.Stand().Gestartet ? Arbeitsflaeche_ : static_cast<QWidget*>(Intro_));
     Menue_->zeige();
     Bilder_->zeige();
-    for (Rahmen* r : Rahmen_) {
-        r->faerbe();
-        r->zeige();
-    }
+    for (Rahmen* r : Rahmen_) r->zeige();
     Drucken_->setEnabled(Programm_.offener_Bericht() != nullptr);
     Steuerung_->zeige();
     Steuerung_->beende_Zeigen();
@@ -171,6 +170,28 @@ void Hauptformular::suche_beim_Start() {
         }
         Fenster->nach_Handlung();
     });
+}
+
+void Hauptformular::oeffne_Optionen() {
+    bool frei = false;
+    {
+        const Wartezeiger warte;
+        frei = Programm_.schliesse_Feld_ab();
+    }
+    nach_Handlung();
+    if (!frei) return;
+    Optionen Dialog(Programm_, this);
+    Dialog.exec();
+    nach_Optionen();
+}
+
+void Hauptformular::nach_Optionen() {
+    farbe_einstellen(*this, Programm_.Stand().Einstellung);
+    {
+        const Wartezeiger warte;
+        Programm_.schliesse_Optionen();
+    }
+    nach_Handlung();
 }
 
 void Hauptformular::waehle_Fehlerzelle() {

@@ -46,6 +46,8 @@ private:
     R* nimm_auf(R* Neuer);
     void starte();
     void nach_Handlung();
+    void oeffne_Optionen();
+    void nach_Optionen();
     void waehle_Fehlerzelle();
     void stelle_Fenster_her();
 

@@ -10,15 +10,11 @@ namespace varnok {
 Rahmen::Rahmen(const QString& Name, Rahmenart Art, Sitzung& Programm, QWidget* parent)
     : QFrame(parent), Programm_(Programm), Art_(Art) {
     setObjectName(Name);
+    setze_Rahmenart(*this, Art);
     faerbe();
 }
 
-void Rahmen::faerbe() {
-    if (Art_ == Rahmenart::schlicht) return;
-    const bool gefaerbt = testAttribute(Qt::WA_SetPalette);
-    if (farbig() == gefaerbt) return;
-    setPalette(farbig() ? helle_Palette(Rahmenfarbe(Art_)) : QPalette());
-}
+void Rahmen::faerbe() { farbe_einstellen(*this, Stand().Einstellung); }
 
 void Rahmen::horche_auf(Rahmen* Teil) {
     connect(Teil, &Rahmen::gehandelt, this, &Rahmen::gehandelt);

@@ -42,7 +42,8 @@ QGridLayout* neues_Raster(QWidget* Traeger) {
 Szenario_Form::Szenario_Form(Sitzung& Programm, QWidget* parent) : QDialog(parent), Programm_(Programm) {
     setObjectName(u"Szenario_Form"_s);
     setWindowTitle(u"Scenario"_s);
-    faerbe();
+    setze_Rahmenart(*this, Rahmenart::Szenario);
+    farbe_einstellen(*this, Programm_.Stand().Einstellung);
     auto* Blatt = new QVBoxLayout(this);
     Blatt->setContentsMargins(14, 14, 14, 12);
     Blatt->setSpacing(12);
@@ -52,11 +53,6 @@ Szenario_Form::Szenario_Form(Sitzung& Programm, QWidget* parent) : QDialog(paren
     Blatt->setSizeConstraint(QLayout::SetFixedSize);
     zeige();
     Szenarioliste_->setFocus();
-}
-
-void Szenario_Form::faerbe() {
-    if (Programm_.Stand().Einstellung.Farbeinstellung != 0) return;
-    setPalette(helle_Palette(Farben::Szenario));
 }
 
 template <class Handlung>

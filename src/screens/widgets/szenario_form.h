@@ -32,7 +32,6 @@ private:
     QWidget* erstelle_Tasten();
     void erstelle_Textzeile(QGridLayout& Raster, int Zeile, Szenarioentwurf::Feld f);
     Tiefenfeld* erstelle_Tiefe(QGridLayout& Raster, int Zeile, bool Boden);
-    void faerbe();
     void zeige();
     template <class Handlung>
     void tue(Handlung h);

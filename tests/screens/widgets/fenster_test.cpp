@@ -322,7 +322,7 @@ private Q_SLOTS:
             u"S_Kinetik_0 S_DT50_0 S_Q10_0 S_Walker_0 S_TRef_0"_s,
             u"Liste_2 Copy_2 Loeschen_2 Applikationsmuster_1"_s,
             u"Applikationsrate Anzahl Interzeption Intervall App_Tag App_Monat Fruchtwechsel"_s,
-            u"Liste_3 Copy_3 Loeschen_3"_s,
+            u"Liste_3 Copy_3 Loeschen_3 Edit"_s,
             u"Berechnungsmodus_Leiste Ergebnisse_0"_s,
             u"Endpunkt_1 PEC_Typ_0 TWA_Laenge"_s,
             u"Aktualisieren speichern Bericht_erstellen Ende"_s};
