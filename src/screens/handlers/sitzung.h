@@ -12,6 +12,7 @@
 #include "screens/handlers/auswahl.h"
 #include "screens/handlers/berichtssteuerung.h"
 #include "screens/handlers/feldeingabe.h"
+#include "screens/handlers/hilfetexte.h"
 #include "screens/handlers/laufsteuerung.h"
 #include "screens/handlers/satzverwaltung.h"
 #include "screens/handlers/zustand.h"
@@ -70,6 +71,10 @@ public:
     void speichere_Bericht_als_PDF(const std::string& Pfad);
     const Bericht* offener_Bericht() const { return Berichte_.offener(); }
 
+    // Help: the tips of the controls, see `Hilfetexte`; who developed the program.
+    std::vector<std::string> Tooltips() { return Hilfe_.Tooltips(); }
+    std::string Programmangaben() const { return Hilfe_.Programmangaben(); }
+
     // Records.
     void waehle_Simulation(int Position);
     void waehle_Satz(Satzart Art, int Position);
@@ -120,6 +125,7 @@ private:
     Auswahl Auswahl_{z_, Laeufe_, Felder_, Diagramme_};
     Applikationstabelle Tabelle_{z_, Laeufe_};
     Berichtssteuerung Berichte_{z_, Laeufe_, Diagramme_};
+    Hilfetexte Hilfe_{z_};
     std::string alte_Beschreibung_;
     bool alte_Marke_ = false;  // of the simulation, before the description was opened
 };

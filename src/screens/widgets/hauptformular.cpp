@@ -5,14 +5,18 @@
 #include <QScreen>
 #include <QSettings>
 #include <QStackedWidget>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <QtGui/QCloseEvent>
+#include <chrono>
 
+#include "extras/versionstexte.h"
 #include "screens/widgets/applikationsrahmen.h"
 #include "screens/widgets/bausteine.h"
 #include "screens/widgets/berichtsansicht.h"
 #include "screens/widgets/bildbefehle.h"
 #include "screens/widgets/bilder.h"
+#include "screens/widgets/ctooltip.h"
 #include "screens/widgets/eingabespalte.h"
 #include "screens/widgets/ergebnisbereich.h"
 #include "screens/widgets/feldsteuerung.h"
@@ -21,13 +25,17 @@
 #include "screens/widgets/intro.h"
 #include "screens/widgets/kinetikschema.h"
 #include "screens/widgets/menue.h"
+#include "screens/widgets/qt_text.h"
 #include "screens/widgets/schalterrahmen.h"
 #include "screens/widgets/szenariorahmen.h"
+#include "screens/widgets/textfenster.h"
+#include "screens/widgets/tooltips.h"
 #include "screens/widgets/untere_zeile.h"
 
 namespace varnok {
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 Hauptformular::Hauptformular(Sitzung& Programm, Fensterfrage* Fragen, const QString& Fensterdatei, QWidget* parent)
     : QMainWindow(parent),
@@ -53,6 +61,9 @@ Hauptformular::Hauptformular(Sitzung& Programm, Fensterfrage* Fragen, const QStr
     connect(Menue_, &Menue::gehandelt, this, &Hauptformular::nach_Handlung);
     Drucken_ = findChild<QAction*>(u"M_Drucken"_s);
     connect(Drucken_, &QAction::triggered, Bericht_, &Berichtsansicht::drucke);
+    Texteintraege_ = {findChild<QAction*>(u"M_ueber"_s), findChild<QAction*>(u"M_Versionsinfo"_s)};
+    connect(Texteintraege_[0], &QAction::triggered, this, &Hauptformular::zeige_Info);
+    connect(Texteintraege_[1], &QAction::triggered, this, &Hauptformular::zeige_Versionsinfo);
     connect(Steuerung_, &Feldsteuerung::gehandelt, this, &Hauptformular::zeige);
     for (Rahmen* r : Rahmen_) {
         connect(r, &Rahmen::gehandelt, this, &Hauptformular::nach_Handlung);
@@ -62,6 +73,8 @@ Hauptformular::Hauptformular(Sitzung& Programm, Fensterfrage* Fragen, const QStr
     stelle_Fenster_her();
     zeige();
     Intro_->gib_Fokus();
+    // When the window is on the screen: what there may be to say about the tips stands over it.
+    if (Programm_.Stand().Einstellung.Tips_anzeigen == 1) QTimer::singleShot(0ms, this, &Hauptformular::erstelle_tooltips);
 }
 
 Hauptformular::~Hauptformular() {
@@ -138,8 +151,24 @@ void Hauptformular::zeige() {
         r->zeige();
     }
     Drucken_->setEnabled(Programm_.offener_Bericht() != nullptr);
+    for (QAction* a : Texteintraege_) a->setEnabled(true);
     Steuerung_->zeige();
     Steuerung_->beende_Zeigen();
+}
+
+void Hauptformular::erstelle_tooltips() {
+    if (!Tooltips_) Tooltips_ = new cTooltip(this);
+    varnok::erstelle_tooltips(*Tooltips_, *this, Programm_.Tooltips());
+}
+
+void Hauptformular::zeige_Info() {
+    Textfenster Fenster(u"Info"_s, u"About VARNOK"_s, in_Qt(Programm_.Programmangaben()), this);
+    Fenster.exec();
+}
+
+void Hauptformular::zeige_Versionsinfo() {
+    Textfenster Fenster(u"Versionsinfo"_s, u"Release notes"_s, in_Qt(Versionstext()), this);
+    Fenster.exec();
 }
 
 // The one place where an action of the user ends.

@@ -20,6 +20,7 @@ class Intro;
 class Menue;
 class Rahmen;
 class Schalterrahmen;
+class cTooltip;
 
 // The program's one window: the start page, then inputs on the left and results on the right.
 class Hauptformular : public QMainWindow {
@@ -32,6 +33,8 @@ public:
 
     // Brings everything on the screen in line with the session.
     void zeige();
+    // Gives the controls their tips, or anew; they stay until the program ends.
+    void erstelle_tooltips();
 
 protected:
     void closeEvent(QCloseEvent* e) override;
@@ -46,6 +49,8 @@ private:
     void nach_Handlung();
     void waehle_Fehlerzelle();
     void stelle_Fenster_her();
+    void zeige_Info();
+    void zeige_Versionsinfo();
 
     Sitzung& Programm_;
     Fensterfrage* Fragen_;
@@ -62,6 +67,8 @@ private:
     Bildbefehle* Bilder_ = nullptr;
     Berichtsansicht* Bericht_ = nullptr;
     QAction* Drucken_ = nullptr;  // the report is the only thing to print
+    std::vector<QAction*> Texteintraege_;  // of the help menu
+    cTooltip* Tooltips_ = nullptr;         // none until tips are wanted
 };
 
 }  // namespace varnok
