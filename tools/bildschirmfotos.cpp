@@ -21,7 +21,10 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <QToolTip>
+#include <QtGui/QHelpEvent>
 #include <functional>
+#include <utility>
 
 #include "screens/widgets/bildausgabe.h"
 #include "screens/widgets/diagrammflaeche.h"
@@ -83,6 +86,8 @@ public:
         Option(u"PEC_Typ_0"_s);
         befehle(u"M_Studien"_s);
         Seite(0);
+        zeige_Texte();
+        zeige_Tip();
         zeige_Eingabe();
         zeige_Meldung();
     }
@@ -158,6 +163,38 @@ private:
         QTest::mouseClick(vorn(), Qt::RightButton, {}, QPoint(5, vorn()->height() / 2));
         QTest::qWait(900);
         aktiviere();
+    }
+
+    // The dialogs of the help menu, each by itself.
+    void zeige_Texte() {
+        const std::pair<QString, QString> Dialoge[] = {{u"M_ueber"_s, u"dialog_info"_s},
+                                                       {u"M_Versionsinfo"_s, u"dialog_versionsinfo"_s}};
+        for (const auto& [Eintrag, Name] : Dialoge) {
+            QTimer::singleShot(150, Fenster_.get(), [this, Bild = Name] {
+                auto* Dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+                if (!Dialog) qFatal("no dialog");
+                Dialog->grab().save(Ziel_.filePath(Bild + u".png"_s), "PNG", -1);
+                Dialog->reject();
+            });
+            befehle(Eintrag);
+            aktiviere();
+        }
+    }
+
+    // The pointer rests on a field.
+    void zeige_Tip() {
+        Fenster_->erstelle_tooltips();
+        auto* Feld = Teil<QLineEdit>(u"S_Q10_0"_s);
+        QHelpEvent e(QEvent::ToolTip, Feld->rect().center(), Feld->mapToGlobal(Feld->rect().center()));
+        QApplication::sendEvent(Feld, &e);
+        QTest::qWait(300);
+        QPixmap Bild = Fenster_->grab();
+        for (QWidget* w : QApplication::topLevelWidgets()) {
+            if (w->inherits("QTipLabel") && w->isVisible())
+                QPainter(&Bild).drawPixmap(Fenster_->mapFromGlobal(w->pos()), w->grab());
+        }
+        Bild.save(Ziel_.filePath(u"tooltip_1180.png"_s), "PNG", -1);
+        QToolTip::hideText();
     }
 
     void zeige_Eingabe() {

@@ -456,9 +456,9 @@ def alle_dateien():
 
 
 def abweichungen(ordner):
-    """What in the folder differs from the tables; climate files belong to another tool."""
+    """What in the folder differs from the tables; climate files belong to another tool, tips are written by hand."""
     soll = alle_dateien()
-    ist = {pfad.name: pfad.read_bytes() for pfad in ordner.glob("*") if pfad.suffix != ".cli"}
+    ist = {pfad.name: pfad.read_bytes() for pfad in ordner.glob("*") if pfad.suffix not in (".cli", ".uk")}
     return (
         [f"missing: {name}" for name in sorted(soll.keys() - ist.keys())]
         + [f"not in the tables: {name}" for name in sorted(ist.keys() - soll.keys())]

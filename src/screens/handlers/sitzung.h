@@ -15,6 +15,7 @@
 #include "screens/handlers/berichtssteuerung.h"
 #include "screens/handlers/dateidialoge.h"
 #include "screens/handlers/feldeingabe.h"
+#include "screens/handlers/hilfetexte.h"
 #include "screens/handlers/laufsteuerung.h"
 #include "screens/handlers/optionensteuerung.h"
 #include "screens/handlers/satzverwaltung.h"
@@ -85,6 +86,10 @@ public:
     void schliesse_Bericht();
     void speichere_Bericht_als_PDF(const std::string& Pfad);
     const Bericht* offener_Bericht() const { return Berichte_.offener(); }
+
+    // Help: the tips of the controls, see `Hilfetexte`; who developed the program.
+    std::vector<std::string> Tooltips() { return Hilfe_.Tooltips(); }
+    std::string Programmangaben() const { return Hilfe_.Programmangaben(); }
 
     // Records.
     void waehle_Simulation(int Position);
@@ -178,6 +183,7 @@ private:
     Aktualisierungssteuerung Update_{z_, [this] { Saetze_.sichere_Ungesichertes(); }};
     Optionensteuerung Optionen_{z_, Laeufe_, Auswahl_};
     Dateidialoge Dateien_{z_, Saetze_};
+    Hilfetexte Hilfe_{z_};
     std::string alte_Beschreibung_;
     bool alte_Marke_ = false;  // of the simulation, before the description was opened
 };

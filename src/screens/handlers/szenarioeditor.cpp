@@ -47,7 +47,8 @@ void Szenarioeditor::oeffne() {
     for (int t = 0; t <= hoechste_Temperatur; ++t) e_.Temperaturen.push_back(std::to_string(t));
     e_.Temperatur = z_.Parameter().Szenariotemperatur;
     if (e_.Temperatur > hoechste_Temperatur) {
-        e_.Temperaturen.push_back(std::to_string(e_.Temperatur));
+        const int Grad = e_.Temperatur;
+        e_.Temperaturen.push_back(std::to_string(Grad));
         e_.Temperatur = hoechste_Temperatur + 1;
     }
     e_.Klimamodus = z_.Parameter().Klimamodus;

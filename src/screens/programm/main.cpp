@@ -7,8 +7,10 @@
 #include <QStyleFactory>
 #include <QTimer>
 #include <cstdio>
+#include <string>
 #include <string_view>
 
+#include "base/programm.h"
 #include "extras/netzabruf.h"
 #include "screens/programm/programmordner.h"
 #include "screens/widgets/bilder.h"
@@ -23,7 +25,7 @@ namespace {
 // Answered without a display. The program reads nothing else from its command line.
 bool beantworte(std::string_view Argument) {
     if (Argument == "--version") {
-        std::fputs("VARNOK " VARNOK_VERSION "\n", stdout);
+        std::puts((std::string("VARNOK ") + varnok::Programmversion).c_str());
     } else if (Argument == "--help") {
         std::fputs(
             "varnok: predicted environmental concentrations of plant protection products in soil.\n"
@@ -43,7 +45,7 @@ int main(int argc, char** argv) {
 
     QApplication Anwendung(argc, argv);
     QApplication::setApplicationName(u"varnok"_s);
-    QApplication::setApplicationVersion(QStringLiteral(VARNOK_VERSION));
+    QApplication::setApplicationVersion(QString::fromLatin1(varnok::Programmversion));
     QApplication::setDesktopFileName(u"varnok"_s);
     QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
     QApplication::setWindowIcon(varnok::Bild_aus_SVG(u"varnok"_s));

@@ -196,6 +196,20 @@ QLabel* Einheitsschild(const QString& Text, QWidget* parent) {
     return l;
 }
 
+QLabel* Titelzeile(const QString& Text, double Groesse, QFont::Weight Gewicht, const QColor& Farbe, QWidget* parent) {
+    auto* l = new QLabel(Text, parent);
+    l->setTextFormat(Qt::PlainText);
+    l->setWordWrap(true);
+    QFont Schrift = l->font();
+    Schrift.setPointSizeF(Schrift.pointSizeF() * Groesse);
+    Schrift.setWeight(Gewicht);
+    l->setFont(Schrift);
+    QPalette p = l->palette();
+    p.setColor(QPalette::WindowText, Farbe);
+    l->setPalette(p);
+    return l;
+}
+
 QLabel* Ueberschrift(const QString& Text, QWidget* parent) {
     auto* l = new QLabel(Text, parent);
     l->setTextFormat(Qt::PlainText);

@@ -122,6 +122,8 @@ private:
 QLabel* Schild(const QString& Text, QWidget* Ziel, QWidget* parent);
 // The unit behind a field.
 QLabel* Einheitsschild(const QString& Text, QWidget* parent);
+// Letters of another size and weight, in a colour of their own, wrapped where they find no room.
+QLabel* Titelzeile(const QString& Text, double Groesse, QFont::Weight Gewicht, const QColor& Farbe, QWidget* parent);
 // A heading.
 QLabel* Ueberschrift(const QString& Text, QWidget* parent);
 

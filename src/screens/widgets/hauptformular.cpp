@@ -6,14 +6,18 @@
 #include <QScreen>
 #include <QSettings>
 #include <QStackedWidget>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <QtGui/QCloseEvent>
+#include <chrono>
 
+#include "extras/versionstexte.h"
 #include "screens/widgets/applikationsrahmen.h"
 #include "screens/widgets/bausteine.h"
 #include "screens/widgets/berichtsansicht.h"
 #include "screens/widgets/bildbefehle.h"
 #include "screens/widgets/bilder.h"
+#include "screens/widgets/ctooltip.h"
 #include "screens/widgets/eingabespalte.h"
 #include "screens/widgets/ergebnisbereich.h"
 #include "screens/widgets/feldsteuerung.h"
@@ -23,14 +27,18 @@
 #include "screens/widgets/kinetikschema.h"
 #include "screens/widgets/menue.h"
 #include "screens/widgets/optionen.h"
+#include "screens/widgets/qt_text.h"
 #include "screens/widgets/schalterrahmen.h"
 #include "screens/widgets/szenario_form.h"
 #include "screens/widgets/szenariorahmen.h"
+#include "screens/widgets/textfenster.h"
+#include "screens/widgets/tooltips.h"
 #include "screens/widgets/untere_zeile.h"
 
 namespace varnok {
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 Hauptformular::Hauptformular(Sitzung& Programm, Fensterfrage* Fragen, const QString& Fensterdatei, QWidget* parent)
     : QMainWindow(parent),
@@ -57,6 +65,8 @@ Hauptformular::Hauptformular(Sitzung& Programm, Fensterfrage* Fragen, const QStr
     Drucken_ = findChild<QAction*>(u"M_Drucken"_s);
     connect(Drucken_, &QAction::triggered, Bericht_, &Berichtsansicht::drucke);
     connect(findChild<QAction*>(u"M_Optionen"_s), &QAction::triggered, this, &Hauptformular::oeffne_Optionen);
+    connect(findChild<QAction*>(u"M_ueber"_s), &QAction::triggered, this, &Hauptformular::zeige_Info);
+    connect(findChild<QAction*>(u"M_Versionsinfo"_s), &QAction::triggered, this, &Hauptformular::zeige_Versionsinfo);
     connect(Steuerung_, &Feldsteuerung::gehandelt, this, &Hauptformular::zeige);
     for (Rahmen* r : Rahmen_) {
         connect(r, &Rahmen::gehandelt, this, &Hauptformular::nach_Handlung);
@@ -66,6 +76,8 @@ Hauptformular::Hauptformular(Sitzung& Programm, Fensterfrage* Fragen, const QStr
     stelle_Fenster_her();
     zeige();
     Intro_->gib_Fokus();
+    // When the window is on the screen: what there may be to say about the tips stands over it.
+    if (Programm_.Stand().Einstellung.Tips_anzeigen == 1) QTimer::singleShot(0ms, this, &Hauptformular::erstelle_tooltips);
 }
 
 Hauptformular::~Hauptformular() {
@@ -143,6 +155,21 @@ void Hauptformular::zeige() {
     Steuerung_->beende_Zeigen();
 }
 
+void Hauptformular::erstelle_tooltips() {
+    if (!Tooltips_) Tooltips_ = new cTooltip(this);
+    varnok::erstelle_tooltips(*Tooltips_, *this, Programm_.Tooltips());
+}
+
+void Hauptformular::zeige_Info() {
+    Textfenster Fenster(u"Info"_s, u"About VARNOK"_s, in_Qt(Programm_.Programmangaben()), this);
+    Fenster.exec();
+}
+
+void Hauptformular::zeige_Versionsinfo() {
+    Textfenster Fenster(u"Versionsinfo"_s, u"Release notes"_s, in_Qt(Versionstext()), this);
+    Fenster.exec();
+}
+
 // The one place where an action of the user ends.
 void Hauptformular::nach_Handlung() {
     if (Programm_.Stand().beendet) {
@@ -189,7 +216,7 @@ void Hauptformular::nach_Optionen() {
     farbe_einstellen(*this, Programm_.Stand().Einstellung);
     {
         const Wartezeiger warte;
-        Programm_.schliesse_Optionen();
+        if (Programm_.schliesse_Optionen()) erstelle_tooltips();
     }
     nach_Handlung();
 }

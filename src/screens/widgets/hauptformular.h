@@ -20,6 +20,7 @@ class Intro;
 class Menue;
 class Rahmen;
 class Schalterrahmen;
+class cTooltip;
 
 // The program's one window: the start page, then inputs on the left and results on the right.
 class Hauptformular : public QMainWindow {
@@ -34,6 +35,8 @@ public:
     void zeige();
     // Asks for a newer version, once, while the start page is on the screen.
     void suche_beim_Start();
+    // Gives the controls their tips, or anew; they stay until the program ends.
+    void erstelle_tooltips();
 
 protected:
     void closeEvent(QCloseEvent* e) override;
@@ -50,6 +53,8 @@ private:
     void nach_Optionen();
     void waehle_Fehlerzelle();
     void stelle_Fenster_her();
+    void zeige_Info();
+    void zeige_Versionsinfo();
 
     Sitzung& Programm_;
     Fensterfrage* Fragen_;
@@ -66,6 +71,7 @@ private:
     Bildbefehle* Bilder_ = nullptr;
     Berichtsansicht* Bericht_ = nullptr;
     QAction* Drucken_ = nullptr;  // the report is the only thing to print
+    cTooltip* Tooltips_ = nullptr;         // none until tips are wanted
 };
 
 }  // namespace varnok

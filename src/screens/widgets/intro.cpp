@@ -13,8 +13,6 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr QColor Papier{247, 246, 241};
-
 // The drawing, as large as its place allows.
 class Bodensaeule : public QWidget {
 public:
@@ -34,26 +32,12 @@ protected:
     }
 };
 
-QLabel* Zeile(const QString& Text, double Groesse, int Gewicht, const QColor& Farbe, QWidget* parent) {
-    auto* l = new QLabel(Text, parent);
-    l->setTextFormat(Qt::PlainText);
-    l->setWordWrap(true);
-    QFont Schrift = l->font();
-    Schrift.setPointSizeF(Schrift.pointSizeF() * Groesse);
-    Schrift.setWeight(static_cast<QFont::Weight>(Gewicht));
-    l->setFont(Schrift);
-    QPalette p = l->palette();
-    p.setColor(QPalette::WindowText, Farbe);
-    l->setPalette(p);
-    return l;
-}
-
 }  // namespace
 
 Intro::Intro(QWidget* parent) : QWidget(parent) {
     setObjectName(u"Intro"_s);
-    setPalette(helle_Palette(Papier));
-    auto* Name = Zeile(u"VARNOK"_s, 4.2, QFont::DemiBold, QColor(52, 44, 36), this);
+    setPalette(helle_Palette(Farben::Papier));
+    auto* Name = Titelzeile(u"VARNOK"_s, 4.2, QFont::DemiBold, QColor(52, 44, 36), this);
     QFont Schrift = Name->font();
     Schrift.setLetterSpacing(QFont::PercentageSpacing, 108);
     Name->setFont(Schrift);
@@ -65,11 +49,11 @@ Intro::Intro(QWidget* parent) : QWidget(parent) {
     Text->addStretch(5);
     Text->addWidget(Name);
     Text->addSpacing(4);
-    Text->addWidget(Zeile(u"Soil residue forecast tool"_s, 1.6, QFont::Normal, QColor(70, 62, 54), this));
+    Text->addWidget(Titelzeile(u"Soil residue forecast tool"_s, 1.6, QFont::Normal, QColor(70, 62, 54), this));
     Text->addSpacing(22);
     Text->addWidget(
-        Zeile(u"Concentrations of plant protection products and their metabolites in soil, day by day over ten years."_s, 1.1,
-              QFont::Normal, QColor(92, 84, 76), this));
+        Titelzeile(u"Concentrations of plant protection products and their metabolites in soil, day by day over ten years."_s,
+                   1.1, QFont::Normal, QColor(92, 84, 76), this));
     Text->addSpacing(34);
     Text->addWidget(Starten_, 0, Qt::AlignLeft);
     Text->addStretch(6);
@@ -94,7 +78,7 @@ void Intro::gib_Fokus() { Starten_->setFocus(Qt::OtherFocusReason); }
 
 void Intro::paintEvent(QPaintEvent*) {
     QPainter p(this);
-    p.fillRect(rect(), Papier);
+    p.fillRect(rect(), Farben::Papier);
 }
 
 }  // namespace varnok
