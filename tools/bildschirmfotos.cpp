@@ -88,6 +88,7 @@ public:
         Seite(0);
         zeige_Texte();
         zeige_Tip();
+        zeige_Organiser();
         zeige_Eingabe();
         zeige_Meldung();
     }
@@ -195,6 +196,24 @@ private:
         }
         Bild.save(Ziel_.filePath(u"tooltip_1180.png"_s), "PNG", -1);
         QToolTip::hideText();
+    }
+
+    // With another simulation picked; its description stands on the main screen at once.
+    void zeige_Organiser() {
+        QTimer::singleShot(150, Fenster_.get(), [this] {
+            auto* Dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            if (!Dialog) qFatal("the simulation organiser does not open");
+            auto* Liste = Dialog->findChild<QComboBox*>(u"Simulationsliste"_s);
+            Liste->setCurrentIndex(Liste->findText(u"Potatoes, Compound C"_s));
+            Q_EMIT Liste->activated(Liste->currentIndex());
+            QTest::qWait(30);
+            QPixmap Bild = Fenster_->grab();
+            male_Kasten(Bild, *Dialog);
+            Bild.save(Ziel_.filePath(u"dialog_simulationen.png"_s), "PNG", -1);
+            Dialog->reject();
+        });
+        befehle(u"M_Laden"_s);
+        aktiviere();
     }
 
     void zeige_Eingabe() {

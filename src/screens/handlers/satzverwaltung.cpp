@@ -165,23 +165,22 @@ bool Satzverwaltung::benenne_um(Satzart Art, const std::string& Text, bool mit_F
     z_.Felder().Aktuelle_Dateinamen[Art] = z_.gewaehlt(Art);
     Waechter_.merke_Namen(Art, z_.gewaehlt(Art));
     merke_Kombination();
-    const std::string Betroffene = Simulationen_mit(Art, alt);
-    if (!Betroffene.empty()) z_.Statuszeile = "Simulations that still name \"" + alt + "\": " + Betroffene;
+    nenne_Simulationen_mit(Art, alt, z_);
     return true;
 }
 
 // Renaming a record leaves the summary files as they are.
-std::string Satzverwaltung::Simulationen_mit(Satzart Art, const std::string& Name) const {
+void Satzverwaltung::nenne_Simulationen_mit(Satzart Art, const std::string& Name, const Satzlisten& Listen) {
     std::string Namen;
-    for (const std::string& s : z_.Listen[Simulation]) {
-        if (Art == Simulation || s == z_.gewaehlt(Simulation)) continue;  // the one on the screen is saved with the new name
+    for (const std::string& s : Listen.Listen[Simulation]) {
+        if (Art == Simulation || s == Listen.gewaehlt(Simulation)) continue;  // the one on the screen is saved with the new name
         try {
             if (lies_Simulation(*z_.Ordner, s).Dateinamen[Art] == Name) Namen += (Namen.empty() ? "\"" : ", \"") + s + "\"";
         } catch (const Laufzeitfehler&) {
             continue;  // a summary file that cannot be read names nothing
         }
     }
-    return Namen;
+    if (!Namen.empty()) z_.Statuszeile = "Simulations that still name \"" + Name + "\": " + Namen;
 }
 
 bool Satzverwaltung::lies_nach() {

@@ -32,6 +32,9 @@ public:
     // False if the user did not want to replace a file.
     bool benenne_um(Satzart Art, const std::string& Text, bool mit_Frage);
 
+    // Tells in the status line which simulations of the list still name a record that was renamed.
+    void nenne_Simulationen_mit(Satzart Art, const std::string& Name, const Satzlisten& Listen);
+
     // Reads what the selectors name and was not read, after a deletion: a simulation is loaded. True if there was something.
     bool lies_nach();
 
@@ -53,7 +56,6 @@ private:
     bool frage_Sicherung(std::size_t Art);
     void waehle_Namen(const Simulationssatz& Satz);
     bool lies_fehlende_Saetze();
-    std::string Simulationen_mit(Satzart Art, const std::string& Name) const;
     void schliesse_Laden_ab();
     void merke_Kombination();
 

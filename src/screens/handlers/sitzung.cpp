@@ -329,6 +329,21 @@ void Sitzung::loesche_Eingabedatei(const std::string& Ordner, const std::string&
     tue([&] { Dateien_.loesche(Ordner, Dateiname); });
 }
 
+bool Sitzung::oeffne_Organiser() {
+    bool offen = false;
+    befolge([&] {
+        offen = true;
+        Organiser_.oeffne();
+    });
+    return offen;
+}
+void Sitzung::organisiere(const std::function<void(Organiser&)>& Befehl) {
+    tue([&] { Befehl(Organiser_); });
+}
+void Sitzung::schliesse_Organiser() {
+    tue([&] { Organiser_.schliesse_ab(); });
+}
+
 void Sitzung::haenge_an_Zelle(Zelle z, char Zeichen) {
     tue([&] { Tabelle_.haenge_an(z, Zeichen); });
 }

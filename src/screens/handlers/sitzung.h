@@ -18,6 +18,7 @@
 #include "screens/handlers/hilfetexte.h"
 #include "screens/handlers/laufsteuerung.h"
 #include "screens/handlers/optionensteuerung.h"
+#include "screens/handlers/organiser.h"
 #include "screens/handlers/satzverwaltung.h"
 #include "screens/handlers/studienverwaltung.h"
 #include "screens/handlers/szenarioeditor.h"
@@ -153,6 +154,13 @@ public:
     void loesche_Eingabedatei(const std::string& Ordner, const std::string& Dateiname);
     bool darf_Eingabedatei_loeschen(const std::string& Ordner) const { return Dateien_.darf_loeschen(Ordner); }
 
+    // The simulation organiser: see `Organiser`. False: the field in work refused its value, the dialog does not open.
+    bool oeffne_Organiser();
+    const Organiser& Organisation() const { return Organiser_; }
+    // A command of the dialog, and what follows when it has closed.
+    void organisiere(const std::function<void(Organiser&)>& Befehl);
+    void schliesse_Organiser();
+
     // Table of irregular applications.
     void haenge_an_Zelle(Zelle z, char Zeichen);
     void nimm_letztes_Zeichen(Zelle z);
@@ -175,6 +183,7 @@ private:
     Laufsteuerung Laeufe_{z_, Diagramme_};
     Feldeingabe Felder_{z_, Laeufe_};
     Satzverwaltung Saetze_{z_, Laeufe_, Felder_, Diagramme_};
+    Organiser Organiser_{z_, Saetze_};
     Auswahl Auswahl_{z_, Laeufe_, Felder_, Diagramme_};
     Studienverwaltung Studien_{z_, Laeufe_, Felder_, Diagramme_};
     Szenarioeditor Editor_{z_, Laeufe_};

@@ -30,6 +30,8 @@ inline constexpr std::array<const char*, 4> Satz_waehlen = {"", "Pesticide recor
                                                             "Application record not set. Please select!",
                                                             "Scenario record not set. Please select!"};
 
+inline constexpr const char* Simulation_waehlen = "Simulation not set. Please select!";
+
 // What the cover says over the results.
 inline constexpr const char* Eingabe_geaendert = "Input changed";
 inline constexpr const char* nicht_gueltig = "Not valid";

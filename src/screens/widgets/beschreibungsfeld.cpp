@@ -41,6 +41,14 @@ void Beschreibungsfeld::mousePressEvent(QMouseEvent* e) {
     QLineEdit::mousePressEvent(e);
 }
 
+void Beschreibungsfeld::mouseDoubleClickEvent(QMouseEvent* e) {
+    if (e->button() == Qt::LeftButton && isReadOnly()) {
+        Q_EMIT doppelt_geklickt();
+        return;
+    }
+    QLineEdit::mouseDoubleClickEvent(e);  // marks a word of what is typed in
+}
+
 void Beschreibungsfeld::keyPressEvent(QKeyEvent* e) {
     const bool Enter = e->key() == Qt::Key_Return || e->key() == Qt::Key_Enter;
     if (isReadOnly()) {

@@ -16,9 +16,11 @@ Q_SIGNALS:
     void aufgeschlossen();
     void abgeschlossen();
     void zurueckgenommen();
+    void doppelt_geklickt();  // while it is locked
 
 protected:
     void mousePressEvent(QMouseEvent* e) override;
+    void mouseDoubleClickEvent(QMouseEvent* e) override;
     void keyPressEvent(QKeyEvent* e) override;
     void focusOutEvent(QFocusEvent* e) override;
 };

@@ -34,6 +34,8 @@ Frame2::Frame2(Sitzung& Programm, QWidget* parent) : Rahmen(u"Frame2"_s, Rahmena
 
     connect(Simulation_->Liste, &QComboBox::activated, this, [this](int i) { handle([&] { Programm_.waehle_Simulation(i); }); });
     connect(Simulation_, &Satzliste::gehandelt, this, &Rahmen::gehandelt);
+    // The dialog opens when the press is over.
+    connect(Beschreibung_, &Beschreibungsfeld::doppelt_geklickt, this, &Frame2::Organiser_verlangt, Qt::QueuedConnection);
     connect(Beschreibung_, &Beschreibungsfeld::aufgeschlossen, this,
             [this] { handle([&] { Programm_.oeffne_Beschreibung(); }); });
     connect(Beschreibung_, &QLineEdit::textEdited, this,

@@ -14,6 +14,9 @@ public:
     Frame2(Sitzung& Programm, QWidget* parent);
     void zeige() override;
 
+Q_SIGNALS:
+    void Organiser_verlangt();
+
 private:
     Satzliste* Simulation_;
     Beschreibungsfeld* Beschreibung_;

@@ -29,6 +29,7 @@
 #include "screens/widgets/optionen.h"
 #include "screens/widgets/qt_text.h"
 #include "screens/widgets/schalterrahmen.h"
+#include "screens/widgets/simulationen.h"
 #include "screens/widgets/szenario_form.h"
 #include "screens/widgets/szenariorahmen.h"
 #include "screens/widgets/textfenster.h"
@@ -67,6 +68,7 @@ Hauptformular::Hauptformular(Sitzung& Programm, Fensterfrage* Fragen, const QStr
     connect(findChild<QAction*>(u"M_Optionen"_s), &QAction::triggered, this, &Hauptformular::oeffne_Optionen);
     connect(findChild<QAction*>(u"M_ueber"_s), &QAction::triggered, this, &Hauptformular::zeige_Info);
     connect(findChild<QAction*>(u"M_Versionsinfo"_s), &QAction::triggered, this, &Hauptformular::zeige_Versionsinfo);
+    connect(findChild<QAction*>(u"M_Laden"_s), &QAction::triggered, this, &Hauptformular::oeffne_Organiser);
     connect(Steuerung_, &Feldsteuerung::gehandelt, this, &Hauptformular::zeige);
     for (Rahmen* r : Rahmen_) {
         connect(r, &Rahmen::gehandelt, this, &Hauptformular::nach_Handlung);
@@ -97,7 +99,9 @@ QWidget* Hauptformular::erstelle_Arbeitsflaeche() {
     Blatt->setContentsMargins(8, 8, 8, 8);
     Blatt->setSpacing(8);
     // Made in the order in which Tab walks through them.
-    Blatt->addWidget(nimm_auf(new Frame2(Programm_, Flaeche)));
+    auto* Kopf = nimm_auf(new Frame2(Programm_, Flaeche));
+    connect(Kopf, &Frame2::Organiser_verlangt, this, &Hauptformular::oeffne_Organiser);
+    Blatt->addWidget(Kopf);
     auto* Mitte = new QHBoxLayout;
     Mitte->setSpacing(8);
     Mitte->addWidget(erstelle_Eingabespalte());
@@ -217,6 +221,24 @@ void Hauptformular::nach_Optionen() {
     {
         const Wartezeiger warte;
         if (Programm_.schliesse_Optionen()) erstelle_tooltips();
+    }
+    nach_Handlung();
+}
+
+void Hauptformular::oeffne_Organiser() {
+    const bool offen = Programm_.oeffne_Organiser();
+    nach_Handlung();
+    if (!offen) return;
+    {
+        Simulationen Dialog(Programm_, [this](QWidget* w) { zeige_Szenarioeditor(Programm_, w); }, this);
+        connect(&Dialog, &Simulationen::gehandelt, this, &Hauptformular::zeige);
+        Dialog.exec();
+    }
+    // The dialog is gone from the screen before records are read and a run is made.
+    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    {
+        const Wartezeiger warte;
+        Programm_.schliesse_Organiser();
     }
     nach_Handlung();
 }

@@ -48,6 +48,7 @@ private:
     template <class R>
     R* nimm_auf(R* Neuer);
     void starte();
+    void oeffne_Organiser();
     void nach_Handlung();
     void oeffne_Optionen();
     void nach_Optionen();
