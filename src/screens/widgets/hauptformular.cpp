@@ -1,13 +1,16 @@
 #include "screens/widgets/hauptformular.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QPointer>
 #include <QScreen>
 #include <QSettings>
 #include <QStackedWidget>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <QtGui/QCloseEvent>
+#include <chrono>
 
 #include "screens/widgets/applikationsrahmen.h"
 #include "screens/widgets/bausteine.h"
@@ -30,6 +33,7 @@
 namespace varnok {
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 Hauptformular::Hauptformular(Sitzung& Programm, Fensterfrage* Fragen, const QString& Fensterdatei, QWidget* parent)
     : QMainWindow(parent),
@@ -142,6 +146,15 @@ void Hauptformular::zeige() {
     Drucken_->setEnabled(Programm_.offener_Bericht() != nullptr);
     Steuerung_->zeige();
     Steuerung_->beende_Zeigen();
+    // Whatever action the run belonged to is over first.
+    if (Programm_.Stand().Szenarioeditor_faellig) QTimer::singleShot(0ms, this, &Hauptformular::oeffne_faelligen_Editor);
+}
+
+void Hauptformular::oeffne_faelligen_Editor() {
+    const Zustand& z = Programm_.Stand();
+    if (!z.Szenarioeditor_faellig || z.beendet || QApplication::activeModalWidget()) return;
+    zeige_Szenarioeditor(Programm_, this);
+    nach_Handlung();
 }
 
 // The one place where an action of the user ends.
@@ -151,12 +164,6 @@ void Hauptformular::nach_Handlung() {
         return;
     }
     zeige();
-    if (Programm_.Stand().Szenarioeditor_faellig) {
-        // Once: what fails again after it is told, and the user decides.
-        zeige_Szenarioeditor(Programm_, this);
-        Programm_.vergiss_Szenarioeditor();
-        zeige();
-    }
     waehle_Fehlerzelle();
     // A field still in work refused its value: the command was not done.
     Steuerung_->gib_Fokus_zurueck();

@@ -46,6 +46,8 @@ private:
     R* nimm_auf(R* Neuer);
     void starte();
     void nach_Handlung();
+    // After a run that found no climate file.
+    void oeffne_faelligen_Editor();
     void waehle_Fehlerzelle();
     void stelle_Fenster_her();
 
