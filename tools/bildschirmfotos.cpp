@@ -89,6 +89,7 @@ public:
         zeige_Texte();
         zeige_Tip();
         zeige_Organiser();
+        zeige_Szenario();
         zeige_Eingabe();
         zeige_Meldung();
     }
@@ -214,6 +215,35 @@ private:
         });
         befehle(u"M_Laden"_s);
         aktiviere();
+    }
+
+    // As it opens, and with a depth of its own and a climate file.
+    void zeige_Szenario() {
+        QTimer::singleShot(150, Fenster_.get(), [this] {
+            auto* Dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            if (!Dialog) qFatal("no dialog for the scenario");
+            const auto klicke = [Dialog](const QString& Name) {
+                QTest::mouseClick(Dialog->findChild<QRadioButton*>(Name), Qt::LeftButton, {}, QPoint(8, 8));
+            };
+            nimm_Dialog_auf(*Dialog, u"dialog_szenario"_s);
+            klicke(u"Einstellung_Bodentiefe_2"_s);
+            auto* Tiefe = Dialog->findChild<QComboBox*>(u"S_Bodentiefe"_s);
+            Tiefe->setFocus();
+            QTest::keyClicks(Tiefe, u"7.5"_s);
+            klicke(u"Klimabedingungen_1"_s);
+            nimm_Dialog_auf(*Dialog, u"dialog_szenario_individual"_s);
+            Dialog->reject();
+        });
+        Taste(u"Edit"_s);
+        aktiviere();
+    }
+
+    // The dialog in front over the window.
+    void nimm_Dialog_auf(QWidget& Dialog, const QString& Name) {
+        QTest::qWait(60);
+        QPixmap Bild = Fenster_->grab();
+        male_Kasten(Bild, Dialog);
+        Bild.save(Ziel_.filePath(Name + u".png"_s), "PNG", -1);
     }
 
     void zeige_Eingabe() {

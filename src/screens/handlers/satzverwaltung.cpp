@@ -193,6 +193,11 @@ bool Satzverwaltung::lies_nach() {
     return true;
 }
 
+void Satzverwaltung::lies_Szenario_nach() {
+    if (!z_.nicht_gelesen[Szenario] || z_.Auswahl[Szenario] < 0 || !lies_Satz(Szenario, z_.gewaehlt(Szenario))) return;
+    if (Laeufe_.Saetze_vollstaendig()) schliesse_Laden_ab();
+}
+
 bool Satzverwaltung::pruefe_Auswahl(const std::vector<Knopf>& Knoepfe) {
     for (std::size_t Art = 1; Art <= 3; ++Art) {
         if (z_.Auswahl[Art] >= 0) continue;

@@ -37,6 +37,8 @@ public:
 
     // Reads what the selectors name and was not read, after a deletion: a simulation is loaded. True if there was something.
     bool lies_nach();
+    // Reads the scenario alone, if the selector names one that was not read. A run follows once all three are there.
+    void lies_Szenario_nach();
 
     // Summary file and all three records. False if it was refused; the message has been shown.
     bool speichere();

@@ -232,21 +232,23 @@ void Sitzung::waehle_Berechnungsmodus(int m) {
 }
 bool Sitzung::oeffne_Szenarioeditor() {
     bool offen = false;
-    befolge([&] {
+    const auto oeffne = [&] {
         Editor_.oeffne();
-        offen = true;
-    });
+        offen = !z_.beendet;
+    };
+    // A run that found no climate file has told of it: the field that it came from is not accepted a second time.
+    if (z_.Szenarioeditor_faellig) {
+        tue(oeffne);
+    } else {
+        befolge(oeffne);
+    }
     return offen;
 }
-
-bool Sitzung::schliesse_Szenarioeditor() {
-    bool fertig = false;
-    tue([&] {
-        Editor_.pruefe();
-        fertig = true;
-        Editor_.uebernimm();
-    });
-    return fertig;
+void Sitzung::uebernimm_Szenario() {
+    tue([&] { Editor_.uebernimm(); });
+}
+void Sitzung::schliesse_Szenarioeditor() {
+    tue([&] { Editor_.schliesse(); });
 }
 
 void Sitzung::addiere_Studie() {

@@ -115,11 +115,12 @@ public:
     void waehle_Studie(int i);
     void waehle_Berechnungsmodus(int m);
 
-    // The scenario editor: opened, changed, closed by "Done" (true if it may close) or "Cancel".
+    // The scenario editor: opened (false: not now), changed, left by "Done" or "Cancel", and what follows once its dialog has
+    // closed, whichever way.
     bool oeffne_Szenarioeditor();
-    bool schliesse_Szenarioeditor();
     Szenarioeditor& Editor() { return Editor_; }
-    void vergiss_Szenarioeditor() { z_.Szenarioeditor_faellig = false; }
+    void uebernimm_Szenario();
+    void schliesse_Szenarioeditor();
 
     // Studies of the compound: see `Studienverwaltung`.
     void addiere_Studie();
@@ -186,7 +187,7 @@ private:
     Organiser Organiser_{z_, Saetze_};
     Auswahl Auswahl_{z_, Laeufe_, Felder_, Diagramme_};
     Studienverwaltung Studien_{z_, Laeufe_, Felder_, Diagramme_};
-    Szenarioeditor Editor_{z_, Laeufe_};
+    Szenarioeditor Editor_{z_, Laeufe_, Saetze_};
     Applikationstabelle Tabelle_{z_, Laeufe_};
     Berichtssteuerung Berichte_{z_, Laeufe_, Diagramme_};
     Aktualisierungssteuerung Update_{z_, [this] { Saetze_.sichere_Ungesichertes(); }};

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "screens/handlers/laufsteuerung.h"
+#include "screens/handlers/satzverwaltung.h"
 
 namespace varnok {
 
@@ -37,36 +38,43 @@ struct Szenarioentwurf {
 // The scenario editor: soil and climate of the scenario on the screen. It writes no file.
 class Szenarioeditor {
 public:
-    Szenarioeditor(Zustand& z, Laufsteuerung& Laeufe) : z_(z), Laeufe_(Laeufe) {}
+    Szenarioeditor(Zustand& z, Laufsteuerung& Laeufe, Satzverwaltung& Saetze) : z_(z), Laeufe_(Laeufe), Saetze_(Saetze) {}
 
     const Szenarioentwurf& Entwurf() const { return e_; }
-    // Without a climate file there is nothing to choose.
-    bool darf_variabel() const { return !e_.Klimadateien.empty() || e_.Klimamodus == 1; }
+    // Without a climate file there is nothing to choose; a record that is variable can stay so.
+    bool darf_variabel() const { return !e_.Klimadateien.empty() || gezeigt_.Klimamodus == 1; }
 
+    // Shows the scenario on the screen. One that the selector names and that was not read is read before.
     void oeffne();
     // Another name for the same values: no record is read, what was typed goes.
     void waehle_Szenario(int i);
-    void aendere(Szenarioentwurf::Feld f, const std::string& Text) { e_.Texte[f] = Text; }
+    // False for a soil name that no record can hold, after the user was told: the text before it stands.
+    bool aendere(Szenarioentwurf::Feld f, const std::string& Text);
     void waehle_Bodentiefe_Option(int o) { waehle_Option(e_.Boden, o); }
     void waehle_Plateautiefe_Option(int o) { waehle_Option(e_.Plateau, o); }
     void waehle_Bodentiefe(int i) { waehle_Tiefe(e_.Boden, i); }
     void waehle_Plateautiefe(int i) { waehle_Tiefe(e_.Plateau, i); }
+    // Keys or the wheel walk through the closed list: at a preset it stays until it is left.
+    void blaettere_Bodentiefe(int i) { blaettere(e_.Boden, i); }
+    void blaettere_Plateautiefe(int i) { blaettere(e_.Plateau, i); }
     void verlasse_Bodentiefe() { waehle_Tiefe(e_.Boden, e_.Boden.Position); }
     void verlasse_Plateautiefe() { waehle_Tiefe(e_.Plateau, e_.Plateau.Position); }
     void waehle_Klimabedingungen(int m) { e_.Klimamodus = m; }
     void waehle_Temperatur(int i) { e_.Temperatur = i; }
     void waehle_Klimaszenario(int i);
 
-    // Throws Laufzeitfehler for a soil name that no record can hold.
-    void pruefe() const;
-    // "Done": stores what the user changed and runs if that is due.
+    // "Done": stores what the user changed.
     void uebernimm();
     // "Cancel".
-    void verwirf() { Lauf_faellig_ = false; }
+    void verwirf();
+    // Once the dialog has closed: runs if that is due. A run that fails does not ask for the editor again.
+    void schliesse();
 
 private:
     static void waehle_Option(Tiefenwahl& t, int o);
     static void waehle_Tiefe(Tiefenwahl& t, int i);
+    static void blaettere(Tiefenwahl& t, int i);
+    void fuelle_Listen();
     void zeige_Werte();
     bool uebernimm_Wert(const std::string& Text, const std::string& gezeigt, double& Parameter);
     void uebernimm_Werte();
@@ -77,9 +85,11 @@ private:
 
     Zustand& z_;
     Laufsteuerung& Laeufe_;
+    Satzverwaltung& Saetze_;
     Szenarioentwurf e_;
     Szenarioentwurf gezeigt_;  // on opening: what the user does not touch is never stored
     bool Klima_gewaehlt_ = false;
+    bool geaendert_ = false;  // "Done" stored something
     bool Lauf_faellig_ = false;
 };
 

@@ -1,6 +1,7 @@
 #include "screens/widgets/hauptformular.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QPointer>
 #include <QScreen>
@@ -157,6 +158,15 @@ void Hauptformular::zeige() {
     Drucken_->setEnabled(Programm_.offener_Bericht() != nullptr);
     Steuerung_->zeige();
     Steuerung_->beende_Zeigen();
+    // Whatever action the run belonged to is over first.
+    if (Programm_.Stand().Szenarioeditor_faellig) QTimer::singleShot(0ms, this, &Hauptformular::oeffne_faelligen_Editor);
+}
+
+void Hauptformular::oeffne_faelligen_Editor() {
+    const Zustand& z = Programm_.Stand();
+    if (!z.Szenarioeditor_faellig || z.beendet || QApplication::activeModalWidget()) return;
+    zeige_Szenarioeditor(Programm_, this);
+    nach_Handlung();
 }
 
 void Hauptformular::erstelle_tooltips() {
@@ -181,12 +191,6 @@ void Hauptformular::nach_Handlung() {
         return;
     }
     zeige();
-    if (Programm_.Stand().Szenarioeditor_faellig) {
-        // Once: what fails again after it is told, and the user decides.
-        zeige_Szenarioeditor(Programm_, this);
-        Programm_.vergiss_Szenarioeditor();
-        zeige();
-    }
     waehle_Fehlerzelle();
     // A field still in work refused its value: the command was not done.
     Steuerung_->gib_Fokus_zurueck();

@@ -52,6 +52,8 @@ private:
     void nach_Handlung();
     void oeffne_Optionen();
     void nach_Optionen();
+    // After a run that found no climate file.
+    void oeffne_faelligen_Editor();
     void waehle_Fehlerzelle();
     void stelle_Fenster_her();
     void zeige_Info();

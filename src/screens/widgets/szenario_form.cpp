@@ -7,6 +7,8 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
+#include <algorithm>
+#include <initializer_list>
 
 #include "screens/widgets/bausteine.h"
 #include "screens/widgets/qt_text.h"
@@ -29,11 +31,20 @@ constexpr std::array<Textzeile, E::Anzahl_Felder> Textzeilen = {{{u"Bodenszenari
                                                                  {u"S_Feldkapazitaet", u"Field capactiy (Vol %):"},
                                                                  {u"S_Welkepunkt", u"Wilting point (%):"}}};
 
-QGridLayout* neues_Raster(QWidget* Traeger) {
+constexpr int laengster_Wert = 255;  // characters that are read back from a line of a record
+
+// The columns of both grids: label, three options, the list of depths. The last one grows.
+constexpr int Feldspalte = 1;
+constexpr int Feldspalten = 4;
+constexpr int Rand_im_Kasten = 12;
+
+QGridLayout* neues_Raster(QWidget* Traeger, int Einzug) {
     auto* r = new QGridLayout(Traeger);
-    r->setHorizontalSpacing(8);
+    r->setHorizontalSpacing(10);
     r->setVerticalSpacing(6);
-    r->setColumnStretch(1, 1);
+    // A little more than the longest label, so that it is the same in both.
+    r->setColumnMinimumWidth(0, Traeger->fontMetrics().horizontalAdvance(u"Organic carbon content (%):"_s) + 4 - Einzug);
+    r->setColumnStretch(Feldspalten, 1);
     return r;
 }
 
@@ -52,7 +63,9 @@ Szenario_Form::Szenario_Form(Sitzung& Programm, QWidget* parent) : QDialog(paren
     Blatt->addWidget(erstelle_Tasten());
     Blatt->setSizeConstraint(QLayout::SetFixedSize);
     zeige();
-    Szenarioliste_->setFocus();
+    // Not in the first list, where a stray key would take another record's name.
+    Texte_[E::Bodendichte]->setFocus();
+    Texte_[E::Bodendichte]->selectAll();
 }
 
 template <class Handlung>
@@ -63,19 +76,16 @@ void Szenario_Form::tue(Handlung h) {
 
 QWidget* Szenario_Form::erstelle_Boden() {
     auto* Flaeche = new QWidget(this);
-    QGridLayout* r = neues_Raster(Flaeche);
+    QGridLayout* r = neues_Raster(Flaeche, 0);
     r->setContentsMargins(0, 0, 0, 0);
     Szenarioliste_ = new Auswahlliste(u"Szenarioliste"_s, 34, Flaeche);
     r->addWidget(Schild(u"Scenario:"_s, Szenarioliste_, Flaeche), 0, 0);
-    r->addWidget(Szenarioliste_, 0, 1);
-    connect(Szenarioliste_, &QComboBox::activated, this, [this](int i) { tue([i](Szenarioeditor& e) { e.waehle_Szenario(i); }); });
-    erstelle_Textzeile(*r, 1, E::Bodenszenario);
-    erstelle_Textzeile(*r, 2, E::Bodendichte);
-    Bodentiefe_ = erstelle_Tiefe(*r, 3, true);
-    Plateautiefe_ = erstelle_Tiefe(*r, 4, false);
-    erstelle_Textzeile(*r, 5, E::Kohlenstoffgehalt);
-    erstelle_Textzeile(*r, 6, E::Feldkapazitaet);
-    erstelle_Textzeile(*r, 7, E::Welkepunkt);
+    r->addWidget(Szenarioliste_, 0, Feldspalte, 1, Feldspalten);
+    connect(Szenarioliste_, &QComboBox::activated, this,
+            [this](int i) { tue([i](Szenarioeditor& e) { e.waehle_Szenario(i); }); });
+    for (int f = 0; f < E::Anzahl_Felder; ++f) erstelle_Textzeile(*r, 1 + f, static_cast<E::Feld>(f));
+    Bodentiefe_ = erstelle_Tiefe(*r, 1 + E::Anzahl_Felder, true);
+    Plateautiefe_ = erstelle_Tiefe(*r, 2 + E::Anzahl_Felder, false);
     return Flaeche;
 }
 
@@ -84,23 +94,41 @@ void Szenario_Form::erstelle_Textzeile(QGridLayout& Raster, int Zeile, Szenarioe
     Texte_[f] = Feld;
     Raster.addWidget(Schild(QString::fromUtf16(Textzeilen[f].Aufschrift), Feld, this), Zeile, 0);
     if (f == E::Bodenszenario) {
-        Raster.addWidget(Feld, Zeile, 1);
+        Feld->setMaxLength(laengster_Wert);
+        Raster.addWidget(Feld, Zeile, Feldspalte, 1, Feldspalten);
     } else {
         Feld->setFixedWidth(Ziffern(*this, 11));
         Feld->setAlignment(Qt::AlignRight);
-        Raster.addWidget(Feld, Zeile, 1, Qt::AlignLeft);
+        Raster.addWidget(Feld, Zeile, Feldspalte, 1, Feldspalten, Qt::AlignLeft);
     }
-    connect(Feld, &QLineEdit::textEdited, this, [this, f](const QString& Text) { Programm_.Editor().aendere(f, aus_Qt(Text)); });
+    connect(Feld, &QLineEdit::textEdited, this, [this, f](const QString& Text) { tippe(f, Text); });
+}
+
+// What was refused goes, and the cursor stands where it stood before.
+void Szenario_Form::tippe(Szenarioentwurf::Feld f, const QString& Text) {
+    if (Programm_.Editor().aendere(f, aus_Qt(Text))) return;
+    QLineEdit* Feld = Texte_[f];
+    const QString angenommen = in_Qt(Programm_.Editor().Entwurf().Texte[f]);
+    const auto zuviel = Text.size() - angenommen.size();
+    const int Stelle = Feld->cursorPosition();
+    Feld->setText(angenommen);
+    Feld->setCursorPosition(static_cast<int>(std::clamp<qsizetype>(Stelle - zuviel, 0, angenommen.size())));
+    Feld->setFocus(Qt::OtherFocusReason);
 }
 
 Tiefenfeld* Szenario_Form::erstelle_Tiefe(QGridLayout& Raster, int Zeile, bool Boden) {
-    auto* Feld = Boden ? new Tiefenfeld(u"Bodentiefe"_s, {u"Soil depth (cm):"_s, {u" 5"_s, u"2.5"_s, u"Individual"_s}}, this, Raster, Zeile)
-                       : new Tiefenfeld(u"Plateautiefe"_s, {u"Tillage depth(cm):"_s, {u"5"_s, u"20"_s, u"Individual"_s}}, this, Raster, Zeile);
+    const Tiefenfeld::Beschriftung Bodentext = {u"Soil depth (cm):"_s, {u" 5"_s, u"2.5"_s, u"Individual"_s}};
+    const Tiefenfeld::Beschriftung Plateautext = {u"Tillage depth(cm):"_s, {u"5"_s, u"20"_s, u"Individual"_s}};
+    const QString Groesse = Boden ? u"Bodentiefe"_s : u"Plateautiefe"_s;
+    auto* Feld = new Tiefenfeld(Groesse, Boden ? Bodentext : Plateautext, this, Raster, Zeile);
     connect(Feld, &Tiefenfeld::Option_gewaehlt, this, [this, Boden](int o) {
         tue([=](Szenarioeditor& e) { Boden ? e.waehle_Bodentiefe_Option(o) : e.waehle_Plateautiefe_Option(o); });
     });
     connect(Feld, &Tiefenfeld::Tiefe_gewaehlt, this, [this, Boden](int i) {
         tue([=](Szenarioeditor& e) { Boden ? e.waehle_Bodentiefe(i) : e.waehle_Plateautiefe(i); });
+    });
+    connect(Feld, &Tiefenfeld::geblaettert, this, [this, Boden](int i) {
+        tue([=](Szenarioeditor& e) { Boden ? e.blaettere_Bodentiefe(i) : e.blaettere_Plateautiefe(i); });
     });
     connect(Feld, &Tiefenfeld::verlassen, this, [this, Boden] {
         tue([=](Szenarioeditor& e) { Boden ? e.verlasse_Bodentiefe() : e.verlasse_Plateautiefe(); });
@@ -110,32 +138,30 @@ Tiefenfeld* Szenario_Form::erstelle_Tiefe(QGridLayout& Raster, int Zeile, bool B
 
 QWidget* Szenario_Form::erstelle_Klima() {
     auto* Kasten = new QGroupBox(u"Climatic conditions"_s, this);
-    QGridLayout* r = neues_Raster(Kasten);
+    // Its fields stand under those above it.
+    QGridLayout* r = neues_Raster(Kasten, Kasten->contentsMargins().left() + Rand_im_Kasten);
+    r->setContentsMargins(Rand_im_Kasten, 8, Rand_im_Kasten, 10);
     Klimabedingungen_ = new QButtonGroup(this);
     auto* Reihe = new QHBoxLayout;
     Reihe->setSpacing(16);
     for (int m = 0; m < 2; ++m) {
         auto* Option = new QRadioButton(m == 0 ? u"Constant"_s : u"Variable"_s, Kasten);
         Option->setObjectName(u"Klimabedingungen_"_s + in_Qt(m));
+        Option->setAccessibleDescription(Kasten->title());
         Klimabedingungen_->addButton(Option, m);
         Reihe->addWidget(Option);
     }
     Reihe->addStretch(1);
-    r->addLayout(Reihe, 0, 0, 1, 2);
-    Temperatur_ = new Auswahlliste(u"S_Szenariotemperatur"_s, 5, Kasten);
-    Klimaszenario_ = new Auswahlliste(u"Klimaszenario"_s, 34, Kasten);
-    Klimaszenario_->setAccessibleName(u"Climate file"_s);
-    Temperaturschild_ = Schild(u"Temperature (\u00B0C):"_s, Temperatur_, Kasten);
+    r->addLayout(Reihe, 0, Feldspalte, 1, Feldspalten);
     // Both ways to tell the climate have the same place.
-    auto* Platz = new QWidget(Kasten);
-    auto* Zeile = new QHBoxLayout(Platz);
-    Zeile->setContentsMargins(0, 0, 0, 0);
-    Zeile->addWidget(Temperaturschild_);
-    Zeile->addWidget(Temperatur_);
-    Zeile->addWidget(Klimaszenario_, 1);
-    Zeile->addStretch(0);
-    Platz->setMinimumHeight(Zeilenhoehe(*this));
-    r->addWidget(Platz, 1, 0, 1, 2, Qt::AlignLeft);
+    Temperatur_ = new Auswahlliste(u"S_Szenariotemperatur"_s, 5, Kasten);
+    Temperaturschild_ = Schild(u"Temperature (°C):"_s, Temperatur_, Kasten);
+    Klimaszenario_ = new Auswahlliste(u"Klimaszenario"_s, 30, Kasten);
+    Klimaszenario_->setAccessibleName(u"Climate file"_s);
+    for (QWidget* w : std::initializer_list<QWidget*>{Temperatur_, Temperaturschild_, Klimaszenario_}) behalte_Platz(*w);
+    r->addWidget(Temperaturschild_, 1, 0);
+    r->addWidget(Temperatur_, 1, Feldspalte, 1, Feldspalten, Qt::AlignLeft);
+    r->addWidget(Klimaszenario_, 1, Feldspalte, 1, Feldspalten);
     connect(Klimabedingungen_, &QButtonGroup::idClicked, this,
             [this](int m) { tue([m](Szenarioeditor& e) { e.waehle_Klimabedingungen(m); }); });
     connect(Temperatur_, &QComboBox::activated, this, [this](int i) { tue([i](Szenarioeditor& e) { e.waehle_Temperatur(i); }); });
@@ -164,21 +190,17 @@ void Szenario_Form::zeige() {
     }
     Bodentiefe_->zeige(e.Boden);
     Plateautiefe_->zeige(e.Plateau);
-    Klimabedingungen_->button(e.Klimamodus)->setChecked(true);
+    zeige_Option(*Klimabedingungen_, e.Klimamodus);
     Klimabedingungen_->button(1)->setEnabled(Editor.darf_variabel());
     Temperatur_->zeige(e.Temperaturen, e.Temperatur);
     Klimaszenario_->zeige(e.Klimadateien, e.Klima);
-    for (QWidget* w : {static_cast<QWidget*>(Temperaturschild_), static_cast<QWidget*>(Temperatur_)}) w->setVisible(e.Klimamodus == 0);
+    for (QWidget* w : std::initializer_list<QWidget*>{Temperaturschild_, Temperatur_}) w->setVisible(e.Klimamodus == 0);
     Klimaszenario_->setVisible(e.Klimamodus == 1);
 }
 
 void Szenario_Form::accept() {
-    bool fertig = false;
-    {
-        const Wartezeiger warte;
-        fertig = Programm_.schliesse_Szenarioeditor();
-    }
-    if (fertig) QDialog::accept();
+    Programm_.uebernimm_Szenario();
+    QDialog::accept();
 }
 
 // Cancel, Esc and the close box.
@@ -188,9 +210,14 @@ void Szenario_Form::reject() {
 }
 
 bool zeige_Szenarioeditor(Sitzung& Programm, QWidget* Fenster) {
-    if (!Programm.oeffne_Szenarioeditor()) return false;
-    Szenario_Form(Programm, Fenster).exec();
-    return true;
+    {
+        const Wartezeiger warte;
+        if (!Programm.oeffne_Szenarioeditor()) return false;
+    }
+    const bool fertig = Szenario_Form(Programm, Fenster).exec() == QDialog::Accepted;
+    const Wartezeiger warte;
+    Programm.schliesse_Szenarioeditor();
+    return fertig;
 }
 
 }  // namespace varnok

@@ -31,6 +31,7 @@ private:
     QWidget* erstelle_Klima();
     QWidget* erstelle_Tasten();
     void erstelle_Textzeile(QGridLayout& Raster, int Zeile, Szenarioentwurf::Feld f);
+    void tippe(Szenarioentwurf::Feld f, const QString& Text);
     Tiefenfeld* erstelle_Tiefe(QGridLayout& Raster, int Zeile, bool Boden);
     void zeige();
     template <class Handlung>
@@ -47,7 +48,7 @@ private:
     Auswahlliste* Klimaszenario_;
 };
 
-// Opens the editor over a window. False where the field in work refused its value.
+// Opens the editor over a window, waits until it has closed and does what follows. True if it was left by "Done".
 bool zeige_Szenarioeditor(Sitzung& Programm, QWidget* Fenster);
 
 }  // namespace varnok

@@ -2,7 +2,10 @@
 
 #include <QHBoxLayout>
 #include <QMouseEvent>
+#include <QTimer>
 #include <QVBoxLayout>
+#include <chrono>
+#include <utility>
 
 #include "screens/widgets/bausteine.h"
 #include "screens/widgets/qt_text.h"
@@ -13,6 +16,7 @@ namespace varnok {
 namespace {
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 // A text to be read and copied; Tab passes it by.
 Textfeld* Anzeigefeld(const QString& Name, QWidget* parent) {
@@ -52,20 +56,33 @@ Szenariorahmen::Szenariorahmen(Sitzung& Programm, QWidget* parent)
 }
 
 void Szenariorahmen::oeffne_Editor() {
+    bool frei = true;
+    if (Programm_.aktives_Feld() >= 0) handle([&] { frei = Programm_.schliesse_Feld_ab(); });
+    if (!frei || QApplication::activeModalWidget()) return;
     zeige_Szenarioeditor(Programm_, window());
     Q_EMIT gehandelt();
 }
 
-void Szenariorahmen::mousePressEvent(QMouseEvent* e) {
-    const QWidget* Ziel = childAt(e->position().toPoint());
-    // A press on a button that can do nothing now falls through to the frame.
-    if (e->button() == Qt::LeftButton && (!Ziel || qobject_cast<const QLabel*>(Ziel))) oeffne_Editor();
+// The surface and the labels on it. A press on a button that can do nothing now falls through to the frame, too.
+bool Szenariorahmen::ist_Flaeche(const QMouseEvent* e) const {
+    const QPoint Ort = e->position().toPoint();
+    const QWidget* Ziel = childAt(Ort);
+    return e->button() == Qt::LeftButton && rect().contains(Ort) && (!Ziel || qobject_cast<const QLabel*>(Ziel));
+}
+
+void Szenariorahmen::mousePressEvent(QMouseEvent* e) { gedrueckt_ = ist_Flaeche(e); }
+
+void Szenariorahmen::mouseReleaseEvent(QMouseEvent* e) {
+    if (std::exchange(gedrueckt_, false) && ist_Flaeche(e)) oeffne_Editor();
 }
 
 bool Szenariorahmen::eventFilter(QObject* Quelle, QEvent* e) {
-    if (e->type() != QEvent::MouseButtonDblClick) return Rahmen::eventFilter(Quelle, e);
-    oeffne_Editor();
-    return true;
+    const bool doppelt = e->type() == QEvent::MouseButtonDblClick;
+    // Once the field is done with the event.
+    if (doppelt && static_cast<QMouseEvent*>(e)->button() == Qt::LeftButton) {
+        QTimer::singleShot(0ms, this, &Szenariorahmen::oeffne_Editor);
+    }
+    return Rahmen::eventFilter(Quelle, e);
 }
 
 void Szenariorahmen::zeige() {

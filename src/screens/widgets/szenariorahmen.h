@@ -18,15 +18,18 @@ public:
 protected:
     // A click on the surface or on a label opens the editor, like the button.
     void mousePressEvent(QMouseEvent* e) override;
+    void mouseReleaseEvent(QMouseEvent* e) override;
     bool eventFilter(QObject* Quelle, QEvent* e) override;
 
 private:
     void oeffne_Editor();
+    bool ist_Flaeche(const QMouseEvent* e) const;
 
     Satzzeile* Satz_;
     Schaltflaeche* Edit_;
     Textfeld* Bodenszenario_;
     Textfeld* Klimaszenario_;
+    bool gedrueckt_ = false;  // the left button, on the surface
 };
 
 }  // namespace varnok
