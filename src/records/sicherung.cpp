@@ -2,6 +2,7 @@
 
 #include <QDateTime>
 #include <QDir>
+#include <QRegularExpression>
 #include <QString>
 #include <QStringList>
 
@@ -28,10 +29,25 @@ QString lege_an(const QDir& Alle, const QString& Zeitpunkt) {
     return Name;
 }
 
-// Names begin with the date, so the order of names is that of time.
-void raeume_auf(const QDir& Alle) {
-    QStringList Namen = Alle.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
-    while (static_cast<std::size_t>(Namen.size()) > Hoechstzahl_Sicherungen) {
+// File systems take 255 bytes, and some are for the file written beside the target: a name at that limit is cut before its
+// extension.
+std::string passend(const std::string& Dateiname) {
+    constexpr std::size_t Hoechstlaenge = 240;
+    if (Dateiname.size() <= Hoechstlaenge) return Dateiname;
+    const std::string Endung = Dateiname.substr(Dateiname.size() - 4);
+    std::size_t Ende = Hoechstlaenge - Endung.size();
+    const auto mitten_im_Zeichen = [&] { return (static_cast<unsigned char>(Dateiname[Ende]) & 0xC0) == 0x80; };
+    while (mitten_im_Zeichen()) --Ende;
+    return Dateiname.substr(0, Ende) + Endung;
+}
+
+// Names begin with the date, so the order of names is that of time. A folder of another name is the user's; the one just made
+// stays also where the clock was put back.
+void raeume_auf(const QDir& Alle, const QString& neu) {
+    static const QRegularExpression eigene(u"^\\d{4}-\\d\\d-\\d\\d \\d\\d-\\d\\d-\\d\\d( \\d+)?$"_s);
+    QStringList Namen = Alle.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name).filter(eigene);
+    Namen.removeAll(neu);
+    while (static_cast<std::size_t>(Namen.size()) >= Hoechstzahl_Sicherungen) {
         QDir(Alle.filePath(Namen.takeFirst())).removeRecursively();
     }
 }
@@ -42,8 +58,9 @@ std::string sichere(const Projektordner& Ordner, const Uhr& Zeit, const std::vec
     if (Stuecke.empty()) return {};
     const QDir Alle(QString::fromStdString(Ordner.Unterordner("backup")));
     const QString Name = lege_an(Alle, Zeitname(Zeit));
-    for (const Sicherungsstueck& s : Stuecke) schreibe_Datei(Alle.filePath(Name).toStdString() + "/" + s.Dateiname, s.Bytes);
-    raeume_auf(Alle);
+    const std::string Ort = Alle.filePath(Name).toStdString();
+    for (const Sicherungsstueck& s : Stuecke) schreibe_Datei(Ort + "/" + passend(s.Dateiname), s.Bytes);
+    raeume_auf(Alle, Name);
     return "backup/" + Name.toStdString();
 }
 

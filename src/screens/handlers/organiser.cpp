@@ -121,6 +121,7 @@ void Organiser::loesche(Satzart Art) {
 
 bool Organiser::benenne_um(Satzart Art, const std::string& Text, bool mit_Frage) {
     const std::string alt = Listen_.gewaehlt(Art);
+    z_.Statuszeile.clear();
     const Umbenennung Ausgang = Befehle_.benenne_um(Art, Text, mit_Frage);
     if (Ausgang != Umbenennung::erfolgt) return Ausgang == Umbenennung::unveraendert;
     umbenannt_ = true;

@@ -40,23 +40,26 @@ void Voreinstellungen_laden(Zustand& z, Satzverwaltung& Saetze) {
 
 void beende_oder_stelle_her(Zustand& z, Satzverwaltung& Saetze, const std::string& Text) {
     const Knopf Antwort = z.Welt.Fragen->frage({Texte::Datei_fehlt, Text, Symbol::Ausrufezeichen, {Knopf::Ja, Knopf::Nein}});
-    z.beendet = true;
     if (Antwort == Knopf::Ja) {
         Voreinstellungen_laden(z, Saetze);
     } else {
         Saetze.sichere_Ungesichertes();
     }
+    z.beendet = true;  // not where something unsaved could not be kept
 }
 
 bool Ende(Zustand& z, Satzverwaltung& Saetze) {
-    if (!Saetze.frage_nach_Sicherung()) return false;
+    const auto Ausgang = Saetze.frage_nach_Sicherung();
+    if (Ausgang == Satzverwaltung::Sicherung::verweigert) return false;
     if (!Saetze.pruefe_Auswahl({Knopf::OK, Knopf::Abbrechen})) return false;
-    if (z.Geaendert[0] || z.Neu_berechnen) Saetze.schreibe_Zusammenfassungsdatei();
+    // A save has just written the summary file, unless it was not read: then its time is what is missing.
+    const bool geschrieben = Ausgang == Satzverwaltung::Sicherung::erfolgt && !z.nicht_gelesen[Simulation];
+    if (!geschrieben && (z.Geaendert[0] || z.Neu_berechnen)) Saetze.schreibe_Zusammenfassungsdatei();
     Einstellungen_schreiben(z);
     z.beendet = true;
     return true;
 }
 
-bool schliesse(Satzverwaltung& Saetze) { return Saetze.frage_nach_Sicherung(); }
+bool schliesse(Satzverwaltung& Saetze) { return Saetze.frage_nach_Sicherung() != Satzverwaltung::Sicherung::verweigert; }
 
 }  // namespace varnok

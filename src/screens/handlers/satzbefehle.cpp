@@ -1,6 +1,8 @@
 #include "screens/handlers/satzbefehle.h"
 
+#include <algorithm>
 #include <array>
+#include <utility>
 
 #include "base/laufzeitfehler.h"
 #include "base/zeichensatz.h"
@@ -29,6 +31,12 @@ std::string ohne_Endung(const std::string& Text, const std::string& Endung) {
     return Text;
 }
 
+// The entry of a selector behind a path.
+std::string Eintrag_von(const std::string& Pfad, const std::string& Endung) {
+    const std::string Datei = Pfad.substr(Pfad.rfind('/') + 1);
+    return Datei.substr(0, Datei.size() - Endung.size());
+}
+
 }  // namespace
 
 void Satzbefehle::lies_Liste(Satzart Art, const std::string& Auswahl) {
@@ -38,6 +46,7 @@ void Satzbefehle::lies_Liste(Satzart Art, const std::string& Auswahl) {
 
 std::string Satzbefehle::Pfad_des_gewaehlten(Satzart Art) {
     const std::string Name = Listen_.gewaehlt(Art);
+    if (Listen_.Auswahl[Art] < 0) throw Laufzeitfehler(Texte::kein_Eintrag);
     const auto Pfad = z_.Ordner->finde(Name, Endungen[Art]);
     if (Pfad) return *Pfad;
     lies_Liste(Art, Name);
@@ -53,17 +62,22 @@ void Satzbefehle::sichere_Datei(const std::string& Pfad, const std::string& Date
     sichere(z_, {{Dateiname, lies_Datei(Pfad)}});
 }
 
-std::string Satzbefehle::lege_an(Satzart Art) {
+std::string Satzbefehle::Vorlage(Satzart Art) const {
     const auto Vorlagenart = static_cast<Satzart>(Art + Vorlage_Wirkstoff - Wirkstoff);
-    const auto Vorlage = finde_Vorlage(*z_.Ordner, {z_.Welt.Programmpfad, z_.Welt.installierte_Daten}, Vorlagenart);
-    if (!Vorlage) {
-        throw Laufzeitfehler("The template \"" + std::string(Vorlagenname) + Endungen[Vorlagenart] + "\" is missing in the folder \"" +
-                             z_.Ordner->Eingabeordner() + "\"");
+    const auto Pfad = finde_Vorlage(*z_.Ordner, {z_.Welt.Programmpfad, z_.Welt.installierte_Daten}, Vorlagenart);
+    if (!Pfad) {
+        const std::string Datei = std::string(Vorlagenname) + Endungen[Vorlagenart];
+        throw Laufzeitfehler("The template \"" + Datei + "\" is missing in the folder \"" + z_.Ordner->Eingabeordner() + "\"");
     }
+    return *Pfad;
+}
+
+std::string Satzbefehle::lege_an(Satzart Art) {
+    const std::string Muster = Vorlage(Art);
     int n = 1;
     while (z_.Ordner->finde(Grundnamen[Art] + std::to_string(n), Endungen[Art])) ++n;
     const std::string Name = Grundnamen[Art] + std::to_string(n);
-    kopiere_Datei(*Vorlage, z_.Ordner->Zielpfad(Name, Endungen[Art]));
+    kopiere_Datei(Muster, z_.Ordner->Zielpfad(Name, Endungen[Art]));
     lies_Liste(Art, Name);
     return Name;
 }
@@ -73,21 +87,28 @@ bool Satzbefehle::kopiere(Satzart Art) {
     const std::string Quelle = Pfad_des_gewaehlten(Art);
     const std::string neu = "copy of " + alt;
     pruefe_Namen(neu);
-    if (const auto Ziel = z_.Ordner->finde(neu, Endungen[Art])) {
+    const auto vorhanden = z_.Ordner->finde(neu, Endungen[Art]);
+    if (vorhanden) {
         if (!darf_ersetzen("The record '" + neu + Endungen[Art] + "' already exists. Do you want to replace it?")) return false;
-        sichere_Datei(*Ziel, neu + Endungen[Art]);
+        sichere_Datei(*vorhanden, neu + Endungen[Art]);
     }
-    kopiere_Datei(Quelle, z_.Ordner->Zielpfad(neu, Endungen[Art]));
-    lies_Liste(Art, neu);
+    const std::string Ziel = z_.Ordner->Zielpfad(neu, Endungen[Art]);
+    kopiere_Datei(Quelle, Ziel);
+    lies_Liste(Art, Eintrag_von(Ziel, Endungen[Art]));  // a file replaced may differ in case, and keeps its entry
     return true;
 }
 
-bool Satzbefehle::loesche(Satzart Art) {
+bool Satzbefehle::loesche(Satzart Art, std::vector<Sicherungsstueck> dazu) {
     const Frage f{"Delete record", "Do you really want to delete this record?", Symbol::Frage, {Knopf::Ja, Knopf::Nein}};
     const std::string Pfad = Pfad_des_gewaehlten(Art);
+    const std::string Name = Listen_.gewaehlt(Art);
+    lies_Liste(Art, Name);  // the last one counts in the folder, whatever the list has shown
+    const bool letzte = Listen_.Listen[Art].size() < 2;
+    if (letzte) throw Laufzeitfehler("\"" + Name + Endungen[Art] + "\" is the last of its kind and stays.");
     if (z_.Welt.Fragen->frage(f) != Knopf::Ja) return false;
     const int Platz = Listen_.Auswahl[Art];
-    sichere_Datei(Pfad, Listen_.gewaehlt(Art) + Endungen[Art]);
+    dazu.insert(dazu.begin(), {Name + Endungen[Art], lies_Datei(Pfad)});
+    sichere(z_, dazu);
     loesche_Datei(Pfad);
     lies_Liste(Art, {});
     Listen_.Auswahl[Art] = std::min(Platz, static_cast<int>(Listen_.Listen[Art].size()) - 1);
@@ -97,7 +118,7 @@ bool Satzbefehle::loesche(Satzart Art) {
 Umbenennung Satzbefehle::benenne_um(Satzart Art, const std::string& Text, bool mit_Frage) {
     const std::string alt = Listen_.gewaehlt(Art);
     const std::string neu = ohne_Endung(Text, Endungen[Art]);
-    if (neu == alt) return Umbenennung::unveraendert;
+    if (Text == alt || neu == alt) return Umbenennung::unveraendert;
     pruefe_Namen(neu);
     const std::string Quelle = Pfad_des_gewaehlten(Art);
     const auto vorhanden = z_.Ordner->finde(neu, Endungen[Art]);

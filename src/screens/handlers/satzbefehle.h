@@ -1,7 +1,9 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
+#include "records/sicherung.h"
 #include "screens/handlers/zustand.h"
 
 namespace varnok {
@@ -16,13 +18,16 @@ public:
     // `Listen`: the selectors of the window, or those of a dialog.
     Satzbefehle(Zustand& z, Satzlisten& Listen) : z_(z), Listen_(Listen) {}
 
+    // Path of the template of a record. A missing one is a fault that names it.
+    std::string Vorlage(Satzart Art) const;
     // A copy of the template of a record, under the first free number; selected in the list. Gives its name.
     std::string lege_an(Satzart Art);
     // Copies the file selected to "copy of ..."; that is selected then. False if the user did not want to replace a file.
     bool kopiere(Satzart Art);
-    // Deletes the file selected; the entry that moves into its place, or the last one, is selected. False after a No.
-    bool loesche(Satzart Art);
-    // Gives the file selected the typed name. Without `mit_Frage` a name that is taken is a fault.
+    // Deletes the file selected; the entry that moves into its place, or the last one, is selected. False after a No. The last
+    // file of a kind stays. `dazu`: what goes into `backup` together with the file.
+    bool loesche(Satzart Art, std::vector<Sicherungsstueck> dazu = {});
+    // Gives the file selected the typed name, with or without the extension. Without `mit_Frage` a name that is taken is a fault.
     Umbenennung benenne_um(Satzart Art, const std::string& Text, bool mit_Frage);
 
     // Reads the entries anew from the project folder; the selection follows the name.

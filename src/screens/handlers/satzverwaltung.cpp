@@ -1,5 +1,7 @@
 #include "screens/handlers/satzverwaltung.h"
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "base/laufzeitfehler.h"
@@ -9,6 +11,11 @@
 #include "screens/handlers/texte.h"
 
 namespace varnok {
+namespace {
+
+const std::vector<Satzart> alle_Arten = {Simulation, Wirkstoff, Applikation, Szenario};
+
+}  // namespace
 
 void Satzverwaltung::fuelle_Listen() {
     for (std::size_t Art = 0; Art < z_.Listen.size(); ++Art) {
@@ -72,14 +79,19 @@ bool Satzverwaltung::lade_Start(const std::string& Simulation) {
 
 void Satzverwaltung::waehle_Simulation(int Position) {
     const std::string Simulation = z_.Listen[0].at(static_cast<std::size_t>(Position));
+    const std::string Fremdes = Waechter_.Fremdes(alle_Arten);
     decke_ab(z_, Texte::Eingabe_geaendert);
+    if (!z_.Ordner->finde(Simulation, Endungen[0])) Befehle_.lies_Liste(varnok::Simulation, z_.gewaehlt(0));
     const Simulationssatz Satz = lies_Simulation(*z_.Ordner, Simulation);
+    z_.Statuszeile.clear();
     sichere_Ungesichertes();
+    stelle_voran(Fremdes);
     Waechter_.merke(varnok::Simulation, Simulation);
     z_.Auswahl[0] = Position;
     z_.Felder().Beschreibung = Satz.Beschreibung;
     z_.Felder().Aktuelle_Dateinamen[0] = Simulation;
     z_.Neu_berechnen = false;
+    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) Befehle_.lies_Liste(Art, {});  // a record that went is not found
     waehle_Namen(Satz);
     z_.nicht_gelesen = {false, true, true, true};
     if (!z_.Gestartet) z_.nicht_gelesen.fill(false);
@@ -113,17 +125,34 @@ void Satzverwaltung::merke_Kombination() {
     z_.Simulation_markiert = true;
 }
 
+// False if a save was refused; the values on the screen then keep their record.
+bool Satzverwaltung::verlasse_Satz(Satzart Art) {
+    if (z_.Geaendert[Art] && frage_Sicherung(Art) == Sicherung::verweigert) return false;
+    sichere_vor_dem_Lesen(Art);
+    return true;
+}
+
 void Satzverwaltung::waehle_Satz(Satzart Art, int Position) {
-    const std::string verlassen = z_.Dateistaende[Art].Name;
+    const std::string Fremdes = Waechter_.Fremdes({Art});
+    const int Platz = z_.Auswahl[Art];
+    const bool geaendert = z_.Geaendert[Simulation];
+    const bool markiert = z_.Simulation_markiert;
+    const auto kehre_zurueck = [&] {
+        z_.Auswahl[Art] = Platz;
+        z_.Geaendert[Simulation] = geaendert;
+        z_.Simulation_markiert = markiert;
+    };
+    z_.Statuszeile.clear();
+    // The selector shows the record chosen already, so Yes stores the values of the record left under the name of the one chosen.
     z_.Auswahl[Art] = Position;
     merke_Kombination();
-    // The selector already shows the record chosen, so Yes stores the values of the record left under the
-    // name of the one chosen.
-    if (z_.Geaendert[Art] && !frage_Sicherung(Art)) {
-        z_.waehle(Art, verlassen);  // nothing was saved: the values on the screen keep their record
-        return;
+    try {
+        if (!verlasse_Satz(Art)) return kehre_zurueck();
+    } catch (...) {
+        kehre_zurueck();
+        throw;
     }
-    Waechter_.sichere_Ungesichertes({Art});
+    stelle_voran(Fremdes);
     z_.Geaendert[Art] = false;
     z_.Felder().Aktuelle_Dateinamen[Art] = z_.gewaehlt(Art);
     z_.nicht_gelesen[Art] = true;
@@ -132,8 +161,12 @@ void Satzverwaltung::waehle_Satz(Satzart Art, int Position) {
 }
 
 void Satzverwaltung::lege_an(Satzart Art) {
-    Waechter_.sichere_Ungesichertes({Art});
+    const std::string Fremdes = Waechter_.Fremdes({Art});
+    Befehle_.Vorlage(Art);
+    z_.Statuszeile.clear();
+    sichere_vor_dem_Lesen(Art);
     const std::string Name = Befehle_.lege_an(Art);
+    stelle_voran(Fremdes);
     z_.Geaendert[Art] = false;
     z_.Felder().Aktuelle_Dateinamen[Art] = Name;
     merke_Kombination();
@@ -143,14 +176,21 @@ void Satzverwaltung::lege_an(Satzart Art) {
 }
 
 void Satzverwaltung::kopiere(Satzart Art) {
+    const std::string Fremdes = Waechter_.Fremdes({Art});
+    z_.Statuszeile.clear();
     if (!Befehle_.kopiere(Art)) return;
+    stelle_voran(Fremdes);
     z_.Felder().Aktuelle_Dateinamen[Art] = z_.gewaehlt(Art);
-    Waechter_.merke(Art, z_.gewaehlt(Art));
+    // What the user knows of the copy is what was read of the original.
+    Waechter_.merke_Namen(Art, z_.gewaehlt(Art));
     if (Art != Simulation) merke_Kombination();
 }
 
 void Satzverwaltung::loesche(Satzart Art) {
-    if (!Befehle_.loesche(Art)) return;
+    const std::string Fremdes = Waechter_.Fremdes({Art});
+    z_.Statuszeile.clear();
+    if (!Befehle_.loesche(Art, Waechter_.Ungesichertes({Art}))) return;
+    stelle_voran(Fremdes);
     z_.Felder().Aktuelle_Dateinamen[Art] = z_.gewaehlt(Art);
     z_.nicht_gelesen[Art] = true;
     z_.Geaendert[Art] = false;
@@ -160,12 +200,15 @@ void Satzverwaltung::loesche(Satzart Art) {
 
 bool Satzverwaltung::benenne_um(Satzart Art, const std::string& Text, bool mit_Frage) {
     const std::string alt = z_.gewaehlt(Art);
+    const std::string Fremdes = Waechter_.Fremdes({Art});
+    z_.Statuszeile.clear();
     const Umbenennung Ausgang = Befehle_.benenne_um(Art, Text, mit_Frage);
     if (Ausgang != Umbenennung::erfolgt) return Ausgang == Umbenennung::unveraendert;
     z_.Felder().Aktuelle_Dateinamen[Art] = z_.gewaehlt(Art);
     Waechter_.merke_Namen(Art, z_.gewaehlt(Art));
     merke_Kombination();
     nenne_Simulationen_mit(Art, alt, z_);
+    stelle_voran(Fremdes);
     return true;
 }
 
@@ -180,7 +223,22 @@ void Satzverwaltung::nenne_Simulationen_mit(Satzart Art, const std::string& Name
             continue;  // a summary file that cannot be read names nothing
         }
     }
-    if (!Namen.empty()) z_.Statuszeile = "Simulations that still name \"" + Name + "\": " + Namen;
+    if (!Namen.empty()) stelle_voran("Simulations that still name \"" + Name + "\": " + Namen);
+}
+
+// The record of this kind, and those that were not read yet, are about to be read over what the screen shows. A simulation is read
+// by loading it.
+void Satzverwaltung::sichere_vor_dem_Lesen(Satzart Art) {
+    std::vector<Satzart> Arten;
+    for (const Satzart a : {Wirkstoff, Applikation, Szenario}) {
+        if (a == Art || z_.nicht_gelesen[a]) Arten.push_back(a);
+    }
+    Waechter_.sichere_Ungesichertes(Arten);
+}
+
+void Satzverwaltung::stelle_voran(const std::string& Hinweis) {
+    if (Hinweis.empty()) return;
+    z_.Statuszeile = z_.Statuszeile.empty() ? Hinweis : Hinweis + " " + z_.Statuszeile;
 }
 
 bool Satzverwaltung::lies_nach() {
@@ -190,6 +248,17 @@ bool Satzverwaltung::lies_nach() {
     }
     if (Laeufe_.Saetze_vollstaendig() || !lies_fehlende_Saetze()) return false;
     schliesse_Laden_ab();
+    return true;
+}
+
+bool Satzverwaltung::aktualisiere() {
+    if (z_.nicht_gelesen[Simulation] && z_.Auswahl[Simulation] >= 0) return lies_nach();
+    const std::string Fremdes = Waechter_.Fremdes(alle_Arten);
+    z_.Statuszeile.clear();
+    if (!Laeufe_.Saetze_vollstaendig()) sichere_vor_dem_Lesen(Simulation);
+    stelle_voran(Fremdes);
+    if (!lies_nach()) return false;
+    merke_Kombination();
     return true;
 }
 
@@ -208,44 +277,54 @@ bool Satzverwaltung::pruefe_Auswahl(const std::vector<Knopf>& Knoepfe) {
 }
 
 void Satzverwaltung::schreibe_Zusammenfassungsdatei() {
-    if (z_.Auswahl[Simulation] < 0) return;
     if (!z_.nicht_gelesen[Simulation]) {
-        Waechter_.schreibe({Simulation});
-    } else if (const auto Pfad = z_.Ordner->finde(z_.gewaehlt(Simulation), Endungen[Simulation])) {
+        if (!Waechter_.schreibe({Simulation})) Waechter_.sichere_Ungesichertes({Simulation});
+        return;
+    }
+    Waechter_.sichere_Ungesichertes({Simulation});
+    if (const auto Pfad = z_.Ordner->finde(z_.gewaehlt(Simulation), Endungen[Simulation])) {
         kopiere_Datei(*Pfad, *Pfad);
     }
 }
 
 void Satzverwaltung::sichere_Ungesichertes(std::vector<Sicherungsstueck> dazu) {
-    Waechter_.sichere_Ungesichertes({Simulation, Wirkstoff, Applikation, Szenario}, std::move(dazu));
+    Waechter_.sichere_Ungesichertes(alle_Arten, std::move(dazu));
 }
 
 bool Satzverwaltung::speichere() {
     if (!pruefe_Auswahl({Knopf::OK, Knopf::Abbrechen})) return false;
+    const std::string Fremdes = Waechter_.Fremdes(alle_Arten);
     z_.Statuszeile.clear();
-    if (!Waechter_.schreibe({Simulation, Wirkstoff, Applikation, Szenario})) return false;
+    if (!Waechter_.schreibe(alle_Arten)) return false;
+    if (z_.Auswahl[Simulation] < 0) Befehle_.lies_Liste(Simulation, z_.Felder().Aktuelle_Dateinamen[Simulation]);
     for (std::size_t Art = 1; Art <= 3; ++Art) {
         z_.Felder().Aktuelle_Dateinamen[Art] = z_.gewaehlt(Art);
         z_.Geaendert[Art] = false;
     }
     z_.Simulation_markiert = false;
-    z_.Statuszeile = "All input data of \"" + z_.gewaehlt(0) + "\" saved. " + z_.Statuszeile;
+    for (const Satzart Art : alle_Arten) {
+        if (z_.nicht_gelesen[Art]) stelle_voran("\"" + z_.gewaehlt(Art) + Endungen[Art] + "\" was not read and stays.");
+    }
+    stelle_voran(Fremdes);
+    stelle_voran("All input data of \"" + z_.gewaehlt(0) + "\" saved.");
     return true;
 }
 
-// The question for one changed record; false if the save that it led to was refused.
-bool Satzverwaltung::frage_Sicherung(std::size_t Art) {
+// The question for one changed record.
+Satzverwaltung::Sicherung Satzverwaltung::frage_Sicherung(std::size_t Art) {
     const std::string Text = std::string("You modified ") + Satzart_Namen[Art] + " input data! " +
                              " Do you want to save the changes in your data base?";
     const Knopf Antwort = z_.Welt.Fragen->frage({Texte::Aenderungen_sichern, Text, Symbol::Ausrufezeichen, {Knopf::Ja, Knopf::Nein}});
-    return Antwort != Knopf::Ja || speichere();
+    if (Antwort != Knopf::Ja) return Sicherung::keine;
+    return speichere() ? Sicherung::erfolgt : Sicherung::verweigert;
 }
 
-bool Satzverwaltung::frage_nach_Sicherung() {
+Satzverwaltung::Sicherung Satzverwaltung::frage_nach_Sicherung() {
     for (std::size_t Art = 1; Art <= 3; ++Art) {
-        if (z_.Geaendert[Art] && !frage_Sicherung(Art)) return false;
+        const Sicherung Ausgang = z_.Geaendert[Art] ? frage_Sicherung(Art) : Sicherung::keine;
+        if (Ausgang != Sicherung::keine) return Ausgang;  // a Yes has saved all of them
     }
-    return true;
+    return Sicherung::keine;
 }
 
 }  // namespace varnok

@@ -37,17 +37,21 @@ public:
 
     // Reads what the selectors name and was not read, after a deletion: a simulation is loaded. True if there was something.
     bool lies_nach();
+    // The same on the user's wish: what is read over is in `backup` before, and what another program did is told.
+    bool aktualisiere();
     // Reads the scenario alone, if the selector names one that was not read. A run follows once all three are there.
     void lies_Szenario_nach();
 
     // Summary file and all three records. False if it was refused; the message has been shown.
     bool speichere();
-    // At the end of the program: the summary file of the simulation shown. One that was not read only gets the present time.
+    // At the end of the program: the summary file of the simulation shown. One that was not read only gets the present time; one
+    // that the user does not want replaced stays, and the combination on the screen goes into `backup`.
     void schreibe_Zusammenfassungsdatei();
     // Values that no file holds go into `backup`.
     void sichere_Ungesichertes(std::vector<Sicherungsstueck> dazu = {});
-    // Asks for each changed record whether to save; Yes saves all. False if a save was refused.
-    bool frage_nach_Sicherung();
+    // Asks for each changed record whether to save; Yes saves all.
+    enum class Sicherung { keine, erfolgt, verweigert };
+    Sicherung frage_nach_Sicherung();
     bool pruefe_Auswahl(const std::vector<Knopf>& Knoepfe);
 
     // Reads a record into parameters and fields; no run. False if it is missing and the user's answer ends the program.
@@ -55,7 +59,10 @@ public:
 
 private:
     void nach_Wirkstoff(int alte_TWA_Zeiten);
-    bool frage_Sicherung(std::size_t Art);
+    Sicherung frage_Sicherung(std::size_t Art);
+    bool verlasse_Satz(Satzart Art);
+    void sichere_vor_dem_Lesen(Satzart Art);
+    void stelle_voran(const std::string& Hinweis);
     void waehle_Namen(const Simulationssatz& Satz);
     bool lies_fehlende_Saetze();
     void schliesse_Laden_ab();

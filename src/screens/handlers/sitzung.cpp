@@ -101,7 +101,7 @@ void Sitzung::Starten() {
 
 void Sitzung::Aktualisieren() {
     befolge([&] {
-        if (Saetze_.lies_nach()) return;
+        if (Saetze_.aktualisiere()) return;
         z_.Neu_berechnen = true;
         Laeufe_.verwirf_alle();
         Laeufe_.berechne(true);

@@ -17,6 +17,7 @@ inline constexpr const char* Aenderungen_sichern = "Save changes?";
 inline constexpr const char* Projektpfad = "Project path";
 inline constexpr const char* Ordner_anlegen = "Make folder";
 
+inline constexpr const char* kein_Eintrag = "No entry is selected. Please select!";
 inline constexpr const char* Satz_ersetzen = "Replace existing record?";
 
 inline constexpr const char* Ordner_in_Gebrauch = "Project folder in use";

@@ -1,0 +1,210 @@
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <map>
+#include <sstream>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "records/projektordner.h"
+
+namespace varnok {
+
+using Textliste = std::vector<std::string>;
+using Dateien = std::map<std::string, std::string>;  // bytes by name
+
+inline constexpr std::array<Satzart, 3> Saetze = {Wirkstoff, Applikation, Szenario};
+
+// What the user would expect: files, names, values on the screen in the form of records.
+struct Modell {
+    Dateien Platte;
+    std::array<std::string, 4> Name;     // shown by the selectors, empty without a selection
+    std::array<std::string, 4> gelesen;  // the record that the values came from
+    std::array<std::string, 4> Schirm;   // bytes of the records; [0] is the description
+    std::array<bool, 4> neu{};           // the selector names what was not read
+    std::array<bool, 4> geaendert{};
+
+    // Of the command in work.
+    bool ja = false;
+    Textliste Fragen;
+    Dateien gesichert;
+
+    static std::string Datei(Satzart t, const std::string& n) { return n + Endungen[t]; }
+    bool gibt_es(Satzart t, const std::string& n) const { return Platte.contains(Datei(t, n)); }
+
+    Textliste Liste(Satzart t) const {
+        Textliste Namen;
+        for (const auto& [d, Bytes] : Platte) {
+            if (d.ends_with(Endungen[t])) Namen.push_back(d.substr(0, d.size() - 4));
+        }
+        std::sort(Namen.begin(), Namen.end());
+        return Namen;
+    }
+
+    bool vollstaendig() const {
+        const bool gewaehlt = std::all_of(Saetze.begin(), Saetze.end(), [&](Satzart t) { return !Name[t].empty(); });
+        return gewaehlt && std::find(neu.begin(), neu.end(), true) == neu.end();
+    }
+
+    std::string Bytes_des_Schirms(Satzart t) const {
+        if (t != Simulation) return Schirm[t];
+        return Schirm[0] + "\r\n" + Name[1] + "\r\n" + Name[2] + "\r\n" + Name[3] + "\r\n";
+    }
+
+    void frage(const std::string& Titel) { Fragen.push_back(Titel); }
+    void Fehler() { frage("Runtime error"); }
+
+    void sichere_Werte(Satzart t) {
+        if (geaendert[t]) gesichert["unsaved " + Datei(t, gelesen[t])] = Bytes_des_Schirms(t);
+    }
+    void sichere_ungelesene() {
+        for (const Satzart t : Saetze) {
+            if (neu[t]) sichere_Werte(t);
+        }
+    }
+
+    void lies(Satzart t) {
+        Schirm[t] = Platte.at(Datei(t, Name[t]));
+        gelesen[t] = Name[t];
+        neu[t] = geaendert[t] = false;
+    }
+    bool lies_fehlende() {
+        for (const Satzart t : Saetze) {
+            if (Name[t].empty()) return false;
+            if (neu[t]) lies(t);
+        }
+        return true;
+    }
+
+    void schreibe(Satzart t) {
+        if (neu[t]) {
+            if (t != Simulation) sichere_Werte(t);
+            return;
+        }
+        std::string& Ziel = Platte[Datei(t, Name[t])];
+        const std::string Bytes = Bytes_des_Schirms(t);
+        if (!Ziel.empty() && Ziel != Bytes && Name[t] != gelesen[t]) gesichert[Datei(t, Name[t])] = Ziel;
+        Ziel = Bytes;
+        gelesen[t] = Name[t];
+    }
+    bool speichere() {
+        for (const Satzart t : Saetze) {
+            if (Name[t].empty()) return frage("Record not set"), false;
+        }
+        schreibe(Simulation);
+        for (const Satzart t : Saetze) {
+            schreibe(t);
+            geaendert[t] = false;
+        }
+        return true;
+    }
+
+    void lege_an(Satzart t) {
+        constexpr std::array<const char*, 4> Grundnamen = {"", "new compound", "new application pattern", "new scenario"};
+        if (!neu[t]) sichere_Werte(t);
+        sichere_ungelesene();
+        int n = 1;
+        while (gibt_es(t, Grundnamen[t] + std::to_string(n))) ++n;
+        Name[t] = Grundnamen[t] + std::to_string(n);
+        Platte[Datei(t, Name[t])] = Platte.at(std::string("do not delete this file") + Endungen[t + 3]);
+        geaendert[0] = neu[t] = true;
+        geaendert[t] = false;
+        lies_fehlende();
+    }
+
+    void kopiere(Satzart t) {
+        if (Name[t].empty()) return Fehler();
+        const std::string Kopie = "copy of " + Name[t];
+        if (gibt_es(t, Kopie)) {
+            frage("Replace existing record?");
+            if (!ja) return;
+            gesichert[Datei(t, Kopie)] = Platte[Datei(t, Kopie)];
+        }
+        Platte[Datei(t, Kopie)] = Platte.at(Datei(t, Name[t]));
+        Name[t] = Kopie;
+        if (!neu[t]) gelesen[t] = Kopie;
+        if (t != Simulation) geaendert[0] = true;
+    }
+
+    void loesche(Satzart t) {
+        if (Name[t].empty() || Liste(t).size() < 2) return Fehler();
+        frage("Delete record");
+        if (!ja) return;
+        const Textliste vorher = Liste(t);
+        const auto Platz = static_cast<std::size_t>(std::find(vorher.begin(), vorher.end(), Name[t]) - vorher.begin());
+        gesichert[Datei(t, Name[t])] = Platte.at(Datei(t, Name[t]));
+        sichere_Werte(t);
+        Platte.erase(Datei(t, Name[t]));
+        const Textliste nachher = Liste(t);
+        Name[t] = nachher[std::min(Platz, nachher.size() - 1)];
+        neu[t] = true;
+        geaendert[t] = false;
+    }
+
+    void benenne_um(Satzart t, const std::string& n, bool Enter) {
+        if (Name[t] == n) return;
+        if (Name[t].empty()) return Fehler();
+        if (gibt_es(t, n)) {
+            if (!Enter) return Fehler();
+            frage("Replace existing record?");
+            if (!ja) return;
+            gesichert[Datei(t, n)] = Platte[Datei(t, n)];
+        }
+        Platte[Datei(t, n)] = Platte.at(Datei(t, Name[t]));
+        Platte.erase(Datei(t, Name[t]));
+        Name[t] = n;
+        if (!neu[t]) gelesen[t] = n;
+        geaendert[0] = true;
+    }
+
+    void waehle(Satzart t, const std::string& n) {
+        const std::string vorher = std::exchange(Name[t], n);
+        const bool Marke = std::exchange(geaendert[0], true);
+        if (geaendert[t]) {
+            frage("Save changes?");
+            if (ja && !speichere()) {
+                Name[t] = vorher;
+                geaendert[0] = Marke;
+                return;
+            }
+        }
+        if (!neu[t]) sichere_Werte(t);
+        sichere_ungelesene();
+        neu[t] = true;
+        geaendert[t] = false;
+        lies_fehlende();
+    }
+
+    void waehle_Simulation(const std::string& n) {
+        for (const Satzart t : {Simulation, Wirkstoff, Applikation, Szenario}) sichere_Werte(t);
+        std::istringstream Zeilen(Platte.at(Datei(Simulation, n)));
+        std::array<std::string, 4> Text;
+        for (std::string& Zeile : Text) {
+            std::getline(Zeilen, Zeile);
+            Zeile.pop_back();
+        }
+        Name[0] = gelesen[0] = n;
+        Schirm[0] = Text[0];
+        neu[0] = false;
+        for (const Satzart t : Saetze) {
+            Name[t] = gibt_es(t, Text[t]) ? Text[t] : "";
+            neu[t] = true;
+        }
+        if (lies_fehlende()) geaendert[0] = false;
+    }
+
+    void aktualisiere() {
+        if (neu[0]) return waehle_Simulation(Name[0]);
+        if (vollstaendig()) return;
+        sichere_ungelesene();
+        if (lies_fehlende()) {
+            geaendert[0] = true;
+        } else {
+            frage("Record not set");
+        }
+    }
+};
+
+}  // namespace varnok
