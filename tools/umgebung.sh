@@ -17,8 +17,8 @@ Pakete=(
     python3 fonts-dejavu-core
 )
 
-# The smoke test works the real window on a display of its own; a test reads the PDF of a report.
-Testpakete=(xvfb xauth openbox x11-apps xdotool poppler-utils)
+# The smoke test works the real window on a display of its own; tests read the PDF and the rich text of a report.
+Testpakete=(xvfb xauth openbox x11-apps xdotool poppler-utils unrtf)
 
 sage() { printf '%s\n' "$*" >&2; }
 

@@ -17,6 +17,8 @@ inline constexpr std::array<const char*, 4> Satz_waehlen = {"", "Pesticide recor
                                                             "Application record not set. Please select!",
                                                             "Scenario record not set. Please select!"};
 
+inline constexpr const char* nicht_gedruckt = "The report could not be printed.";
+
 // What the cover says over the results.
 inline constexpr const char* Eingabe_geaendert = "Input changed";
 inline constexpr const char* nicht_gueltig = "Not valid";
