@@ -26,6 +26,7 @@
 #include <functional>
 #include <utility>
 
+#include "reports/berichtsbild.h"
 #include "screens/widgets/bildausgabe.h"
 #include "screens/widgets/diagrammflaeche.h"
 #include "screens/widgets/fensterfrage.h"
@@ -146,7 +147,7 @@ private:
 
     // The picture that "Save picture as" makes of the diagram in front.
     void gib_aus(const QString& Name) {
-        const Zeichenliste z = Bildzeichnung(*vorn()->Inhalt(), vorn()->Legende()->Ort());
+        const Zeichenliste z = mit_Beschriftung(*vorn()->Inhalt(), vorn()->Legende()->gezogen());
         Bild_als_Pixel(z, 150).save(Ziel_.filePath(Name + u".png"_s), "PNG", -1);
     }
 

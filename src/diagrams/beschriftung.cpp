@@ -34,9 +34,10 @@ void schreibe_Beschriftung(Zeichenliste& z, const Beschriftung& b, Flaechenort O
     schreibe(z, p, b.Text, Farbe, s);
 }
 
-void zeichne_Legende(Zeichenliste& z, const Legende& l, const Flaechenrechteck& r) {
+void zeichne_Legende(Zeichenliste& z, const Legende& l, const Beschriftungsplaetze& p) {
+    const Flaechenrechteck& r = p.Legendenrahmen;
     z.Kaesten.push_back({logisch(z.System, {r.links, r.oben}), logisch(z.System, {r.links + r.Breite, r.oben + r.Hoehe})});
-    for (const Legendenzeile& Zeile : Legendenzeilen(l)) {
+    for (const Legendenzeile& Zeile : Legendenzeilen(l, p.Musterlinie_links)) {
         schreibe(z, logisch(z.System, im_Rahmen(r, Zeile.Textort)), Zeile.Text, Schwarz, Schnitt::normal);
         if (Zeile.Ueberschrift) continue;
         z.Linien.push_back({logisch(z.System, im_Rahmen(r, {Zeile.Linie_links, Zeile.Linie_oben})),
@@ -47,13 +48,14 @@ void zeichne_Legende(Zeichenliste& z, const Legende& l, const Flaechenrechteck& 
 
 }  // namespace
 
-std::vector<Legendenzeile> Legendenzeilen(const Legende& l) {
+std::vector<Legendenzeile> Legendenzeilen(const Legende& l, double Musterlinie_links) {
     std::vector<Legendenzeile> Zeilen;
     const double Anteil = 1.0 / Zeilenzahl(l);
     const auto fuege_an = [&](const std::string& Text, bool Ueberschrift, const Musterlinie& Linie) {
         const double oben = static_cast<double>(Zeilen.size()) * Anteil;
         const double Einzug = hat_Titel(l) && !Ueberschrift ? 0.12 : 0.04;
-        Zeilen.push_back({Text, Ueberschrift, Linie, {Einzug, oben + 0.1 * Anteil}, 0.66, 0.95, oben + 0.5 * Anteil});
+        const Flaechenort Textort = {Einzug, oben + 0.1 * Anteil};
+        Zeilen.push_back({Text, Ueberschrift, Linie, Textort, Musterlinie_links, 0.95, oben + 0.5 * Anteil});
     };
     for (const Legendengruppe& g : l.Gruppen) {
         if (hat_Titel(l)) fuege_an(g.Titel, true, {});
@@ -81,7 +83,7 @@ void erstelle_Diagramm_kopiere_Beschriftung(Diagramm& d, const Beschriftungsplae
     schreibe_Beschriftung(z, d.Name_x_Achse, p.Name_x_Achse, d.Titel.Farbe, Schnitt::fett);  // in the title's colour
     schreibe_Beschriftung(z, d.Name_y_Achse, p.Name_y_Achse, d.Titel.Farbe, Schnitt::fett);
     schreibe_Beschriftung(z, d.Kommentar, {0, p.Kommentar_oben}, d.Kommentar.Farbe, Schnitt::kursiv);
-    zeichne_Legende(z, d.Legendeninhalt, p.Legendenrahmen);
+    zeichne_Legende(z, d.Legendeninhalt, p);
 }
 
 void erstelle_Diagramm_zusammenfassung_kopiere_Beschriftung(Diagramm& d, const Beschriftungsplaetze& p) {

@@ -26,6 +26,7 @@ struct Beschriftungsplaetze {
     Flaechenort Name_x_Achse = {0.390, 0.955};
     Flaechenort Name_y_Achse = {0.005, 0.010};
     Flaechenrechteck Legendenrahmen;
+    double Musterlinie_links = 0.66;  // where sample lines begin, in fractions of the legend's frame
 };
 
 // A row of a legend, its places in fractions of the legend's frame from the upper left corner.
@@ -40,7 +41,7 @@ struct Legendenzeile {
 };
 
 // The rows of a legend from top to bottom, evenly over its frame.
-std::vector<Legendenzeile> Legendenzeilen(const Legende& l);
+std::vector<Legendenzeile> Legendenzeilen(const Legende& l, double Musterlinie_links = Beschriftungsplaetze().Musterlinie_links);
 
 // Rows of the frame at its full height: six in a summary, whose frame shrinks to the number of studies.
 int volle_Zeilenzahl(const Legende& l);

@@ -5,6 +5,7 @@
 
 #include "base/laufzeitfehler.h"
 #include "base/zahlen.h"
+#include "run/anpassung.h"
 #include "run/tageswerte.h"
 
 namespace varnok {
@@ -169,12 +170,10 @@ void skaliere_Plateau(Lauf& l, int i_studie, double Faktor) {
 
 bool laesst_sich_skalieren(const Lauf& l, int i_studie, double Faktor) {
     const auto st = static_cast<std::size_t>(i_studie);
-    const auto passt = [Faktor](float Wert) { return std::isfinite(static_cast<float>(static_cast<double>(Wert) * Faktor)); };
+    if (!lassen_sich_anpassen(l.Speicher, i_studie, Faktor, Faktor)) return false;
     for (std::size_t e = 0; e < Endpunkte; ++e) {
         for (std::size_t c = 0; c < Stoffe; ++c) {
-            const bool passend = passt(l.Speicher.Maximum_Bodentiefe[e][st][c]) && passt(l.Speicher.Maximum_Plateautiefe[e][st][c]) &&
-                                 passt(l.Speicher.Plateauwert[e][st][c]);
-            if (!passend) return false;
+            if (!bleibt_im_Bereich(l.Speicher.Plateauwert[e][st][c], Faktor)) return false;
         }
     }
     return true;

@@ -12,7 +12,7 @@ void berechne_Plateau(Lauf& l);
 
 // Scales what the last run of the study wrote to another dose: the background is linear in it as the series are.
 // Pore water of a parent on the closed route was not written and stays. Throws Laufzeitfehler for a factor that
-// leaves the range of the stores; `laesst_sich_skalieren` tells beforehand.
+// leaves the range of the stores; `laesst_sich_skalieren` tells beforehand, of the plateau and of all other results.
 void skaliere_Plateau(Lauf& l, int i_studie, double Faktor);
 bool laesst_sich_skalieren(const Lauf& l, int i_studie, double Faktor);
 

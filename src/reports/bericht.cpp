@@ -53,9 +53,10 @@ Bericht schreibe_Bericht(const Berichtsauftrag& a) {
     Textauswahl w(*b.Dokument, QString::fromStdString(b.Text));
     formatiere_Bericht(w, b.Text, a.Rechnung.Felder, a.Art);
 
-    const Zeichenliste Bild = mit_Beschriftung(a.Bild, a.Legendenrahmen);
+    const Zeichenliste Bild = mit_Beschriftung(a.Bild, a.Legende);
     merke_Zeichnung(*b.Dokument, Bild);
     w.suche(QString::fromLatin1(Berichtswort::Bildplatz));
+    w.halte_beisammen();
     w.ersetze_durch_Bild(QString::fromLatin1(Bildname), erstelle_Berichtsbild(Bild), Bildbreite_Twips, Bildhoehe_Twips);
     b.RTF = als_RTF(*b.Dokument);
     return b;

@@ -22,8 +22,8 @@ struct Berichtsauftrag {
     Berichtszeit Zeitpunkt;
     // The diagram in front, built anew, without labels in it.
     Diagramm Bild;
-    // Where the legend stands on the surface; at home without it.
-    std::optional<Flaechenrechteck> Legendenrahmen;
+    // Where the legend was dragged to; at home without it.
+    std::optional<Flaechenort> Legende;
 };
 
 struct Bericht {

@@ -3,12 +3,50 @@
 #include <QAbstractTextDocumentLayout>
 #include <QObject>
 #include <QPainter>
+#include <QTextBlock>
+#include <QTextDocumentFragment>
 #include <QTextImageFormat>
+#include <algorithm>
 
+#include "reports/diagrammlage.h"
 #include "reports/twips.h"
 #include "reports/zeichner.h"
 
 namespace varnok {
+namespace {
+
+constexpr double Zeile = 16;  // units that a line of a label takes
+const QRectF Flaeche(0, 0, Bildbreite, Bildhoehe);
+
+double Textbreite(const Beschriftung& b, const Koordinaten& System, bool fett) {
+    return setze_Schrift(Flaeche, System, {{0, 0}, b.Text, Schwarz, 10, fett, !fett, true}, Schriftgroesse_Bericht).Platz.width();
+}
+
+// The middle of the time axis, in units.
+double Achsenmitte(const Koordinaten& System, const Koordinaten& Achsen) {
+    return auf_Flaeche(Flaeche, System, {(Achsen.links + Achsen.rechts) / 2, 0}).x();
+}
+
+// The formula of the left edge takes letters for a share of the axis; where that is more than they need, the text is
+// centred by its true width.
+void rueck_zur_Mitte(Beschriftung& b, const Koordinaten& System, const Koordinaten& Achsen, bool fett) {
+    const double Mitte = (Achsen.links + Achsen.rechts) / 2;
+    const double mittig = Mitte - Textbreite(b, System, fett) / 2 / Bildbreite * System.Breite();
+    b.links = std::max(b.links.value_or(mittig), mittig);
+}
+
+// Title and comment in two close lines, each over the whole width; under them the name of the y axis at the top of its
+// axis, that of the time axis in the middle below its numbers.
+void ordne_Namen(Beschriftungsplaetze& p, const Diagramm& d, const Koordinaten& Achsen) {
+    const Koordinaten& System = d.Liste.System;
+    p.Titel_oben = 1.0 / Bildhoehe;
+    p.Kommentar_oben = (1 + Zeile) / Bildhoehe;
+    p.Name_y_Achse = {(auf_Flaeche(Flaeche, System, {Achsen.links, 0}).x() + 5) / Bildbreite, 2 * Zeile / Bildhoehe};
+    p.Name_x_Achse = {(Achsenmitte(System, Achsen) - Textbreite(d.Name_x_Achse, System, true) / 2) / Bildbreite,
+                      (Bildhoehe - Zeile - 6) / Bildhoehe};
+}
+
+}  // namespace
 
 // Draws the pictures of a document from a display list; lives as a child of the document.
 class Bildobjekt : public QObject, public QTextObjectInterface {
@@ -31,22 +69,27 @@ public:
         p->fillRect(Rechteck, Qt::white);
         p->translate(Rechteck.topLeft());
         p->scale(Rechteck.width() / Bildbreite, Rechteck.height() / Bildhoehe);
-        male(*p, QRectF(0, 0, Bildbreite, Bildhoehe), Liste, Schriftgroesse_Bericht);
+        male(*p, Flaeche, Liste, Schriftgroesse_Bericht);
         p->restore();
     }
 
     const Zeichenliste Liste;
 };
 
-Zeichenliste mit_Beschriftung(Diagramm d, const std::optional<Flaechenrechteck>& Legendenrahmen) {
+Zeichenliste mit_Beschriftung(Diagramm d, const std::optional<Flaechenort>& Legende) {
+    const Koordinaten Achsen = passe_an_Flaeche(d.Liste, Flaeche.size(), {3 * Zeile - 4, Zeile + 6});
     Beschriftungsplaetze p = Heimatplaetze(d.Legendeninhalt);
-    // Title and comment in two close lines above the legend, each over the whole width; the axis name stands under
-    // them at the top of its axis.
-    p.Titel_oben = 0.002;
-    p.Kommentar_oben = 0.034;
-    p.Name_y_Achse = {0.097, 0.064};
-    if (Legendenrahmen) p.Legendenrahmen = *Legendenrahmen;
-    passe_Legende_an(d.Legendeninhalt, p.Legendenrahmen, Bildbreite);
+    ordne_Namen(p, d, Achsen);
+    rueck_zur_Mitte(d.Titel, d.Liste.System, Achsen, true);
+    rueck_zur_Mitte(d.Kommentar, d.Liste.System, Achsen, false);
+    if (Legende) {
+        p.Legendenrahmen.links = Legende->links;
+        p.Legendenrahmen.oben = Legende->oben;
+    } else {
+        p.Legendenrahmen.oben = std::max(p.Legendenrahmen.oben, p.Kommentar_oben + (Zeile + 4) / Bildhoehe);
+    }
+    p.Legendenrahmen.oben = std::max(0.0, std::min(p.Legendenrahmen.oben, 1 - p.Legendenrahmen.Hoehe - 1.0 / Bildhoehe));
+    passe_Legende_an(d.Legendeninhalt, p, Bildbreite);
     if (d.Zusammenfassung) {
         erstelle_Diagramm_zusammenfassung_kopiere_Beschriftung(d, p);
     } else {
@@ -60,7 +103,7 @@ QImage erstelle_Berichtsbild(const Zeichenliste& z) {
     Bild.fill(Qt::white);
     QPainter p(&Bild);
     p.scale(Bildpunkte_pro_Einheit, Bildpunkte_pro_Einheit);
-    male(p, QRectF(0, 0, Bildbreite, Bildhoehe), z, Schriftgroesse_Bericht);
+    male(p, Flaeche, z, Schriftgroesse_Bericht);
     return Bild;
 }
 
@@ -77,6 +120,17 @@ QTextDocument* kopiere_Dokument(const QTextDocument& Dokument) {
     if (const auto* Objekt = Dokument.findChild<Bildobjekt*>()) merke_Zeichnung(*Kopie, Objekt->Liste);
     zeichne_statt_Bild(*Kopie);
     return Kopie;
+}
+
+std::unique_ptr<QTextDocument> Auswahl_als_Dokument(const QTextCursor& Auswahl) {
+    const QTextDocument& ganzes = *Auswahl.document();
+    auto Dokument = std::make_unique<QTextDocument>();
+    Dokument->setDefaultFont(ganzes.defaultFont());
+    QTextCursor(Dokument.get()).insertFragment(Auswahl.selection());
+    // The first paragraph comes without its format.
+    QTextCursor(Dokument.get()).setBlockFormat(ganzes.findBlock(Auswahl.selectionStart()).blockFormat());
+    if (const auto* Objekt = ganzes.findChild<Bildobjekt*>()) merke_Zeichnung(*Dokument, Objekt->Liste);
+    return Dokument;
 }
 
 }  // namespace varnok

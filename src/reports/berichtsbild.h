@@ -3,7 +3,9 @@
 // The picture of a report. It does not depend on any window: the surface has always the same size.
 
 #include <QImage>
+#include <QTextCursor>
 #include <QTextDocument>
+#include <memory>
 #include <optional>
 
 #include "diagrams/beschriftung.h"
@@ -21,8 +23,9 @@ inline constexpr int Bildhoehe_Twips = 6750;
 
 inline constexpr const char* Bildname = "varnok:diagram";
 
-// A drawing with its labels and legend in it. The legend stands at home unless its frame is given.
-Zeichenliste mit_Beschriftung(Diagramm d, const std::optional<Flaechenrechteck>& Legendenrahmen = std::nullopt);
+// The drawing fitted to the surface, with its labels and legend in it. `Legende` is the place that the legend was dragged
+// to, its upper left corner; without it it stands at home.
+Zeichenliste mit_Beschriftung(Diagramm d, const std::optional<Flaechenort>& Legende = std::nullopt);
 
 // Paints a drawing on white, 1920 x 1500 pixels.
 QImage erstelle_Berichtsbild(const Zeichenliste& z);
@@ -36,5 +39,8 @@ void zeichne_statt_Bild(QTextDocument& Dokument);
 
 // A copy of the document for a device of its own, with all that; the caller owns it.
 QTextDocument* kopiere_Dokument(const QTextDocument& Dokument);
+
+// The same of what is selected in a document.
+std::unique_ptr<QTextDocument> Auswahl_als_Dokument(const QTextCursor& Auswahl);
 
 }  // namespace varnok

@@ -18,6 +18,7 @@
 #include <vector>
 
 #include "base/zeichensatz.h"
+#include "reports/textauswahl.h"
 #include "reports/twips.h"
 
 namespace varnok {
@@ -155,6 +156,7 @@ private:
         for (const auto& [Ausrichtung, Wort] : Ausrichtungen) {
             if (f.alignment() & Ausrichtung) Text += Wort;
         }
+        if (f.boolProperty(bleibt_beim_naechsten)) Text += "\\keepn";
         if (f.leftMargin() > 0) Text += Befehl("li", Pixel_in_Twips(f.leftMargin()));
         if (f.rightMargin() > 0) Text += Befehl("ri", Pixel_in_Twips(f.rightMargin()));
         // Tab stops count from the page margin here, from the indent in the document.

@@ -6,8 +6,8 @@
 namespace varnok {
 
 // The document as rich text that text processors open, pure ASCII: fonts, sizes, colours, bold, italic, alignment,
-// indents, tab stops and pictures (PNG). Paper A4 with margins of 2 cm. Tables, lists and links are not written
-// as such, their text is.
+// indents, tab stops, paragraphs that stay together and pictures (PNG). Paper A4 with margins of 2 cm. Tables, lists and
+// links are not written as such, their text is.
 std::string als_RTF(const QTextDocument& Dokument);
 
 // A text as it stands inside rich text: characters of Windows-1252 by their code, others by their number

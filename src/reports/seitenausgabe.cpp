@@ -13,7 +13,7 @@
 #include <memory>
 
 #include "reports/berichtsbild.h"
-#include "reports/berichtswoerter.h"
+#include "reports/textauswahl.h"
 #include "reports/twips.h"
 
 namespace varnok {
@@ -25,8 +25,8 @@ constexpr double Seitenfuss = 2.5;  // height of the foot in lines of its font
 // The empty lines in front of the headline are left out, lest they make a page of their own.
 void beginne_Seite_mit_Bildkopf(QTextDocument& Dokument) {
     QTextBlock Kopf = Dokument.begin();
-    while (Kopf.isValid() && Kopf.text() != QLatin1String(Berichtswort::Bildkopf)) Kopf = Kopf.next();
-    if (!Kopf.isValid()) return;
+    while (Kopf.isValid() && !Kopf.blockFormat().boolProperty(bleibt_beim_naechsten)) Kopf = Kopf.next();
+    if (!Kopf.isValid() || Kopf == Dokument.begin()) return;
     QTextBlockFormat f = Kopf.blockFormat();
     f.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
     QTextBlock leer = Kopf.previous();

@@ -112,6 +112,18 @@ void Textauswahl::Tabulatoren(std::initializer_list<int> Stellen) {
     });
 }
 
+void Textauswahl::halte_beisammen() {
+    QTextBlockFormat f;
+    f.setProperty(bleibt_beim_naechsten, true);
+    const QTextBlock Mitte = Zeiger().block();
+    bool Text = false;
+    for (QTextBlock b = Mitte.previous(); b.isValid() && !Text; b = b.previous()) {
+        QTextCursor(b).mergeBlockFormat(f);
+        Text = !b.text().isEmpty();
+    }
+    for (QTextBlock b = Mitte; b.next().isValid() && b.next().text().isEmpty(); b = b.next()) QTextCursor(b).mergeBlockFormat(f);
+}
+
 void Textauswahl::ersetze_durch_Bild(const QString& Name, const QImage& Bild, int Breite, int Hoehe) {
     Dokument_->addResource(QTextDocument::ImageResource, QUrl(Name), QVariant::fromValue(Bild));
     QTextImageFormat f;

@@ -11,6 +11,9 @@
 
 namespace varnok {
 
+// Property of the format of a paragraph: it stands on the page of the one behind it.
+inline constexpr int bleibt_beim_naechsten = QTextFormat::UserProperty + 1;
+
 // Positions count the characters of the plain text, a line end (CR LF) as two, whatever the document makes of it.
 class Textauswahl {
 public:
@@ -38,6 +41,10 @@ public:
     void zentriert();
     void Einzug(int links, int rechts);
     void Tabulatoren(std::initializer_list<int> Stellen);
+
+    // The last paragraph with text in front of the selection, the selection and the empty lines behind it stay on one
+    // page, so that none of them is alone on another.
+    void halte_beisammen();
 
     // Puts a picture of that width and height (twips) in the place of the selection; it is to be the last step,
     // since the positions behind it no longer hold. The document keeps the image under `Name`.

@@ -73,6 +73,7 @@ QFont Diagrammschrift(int Punkte, bool fett, bool kursiv) {
     QFont f;
     f.setFamilies({QStringLiteral("DejaVu Sans"), QStringLiteral("Sans Serif")});
     f.setStyleHint(QFont::SansSerif);
+    f.setHintingPreference(QFont::PreferNoHinting);  // a text is as wide as measured at every scale, on every desktop
     f.setPixelSize(static_cast<int>(std::lround(Punkte * Einheiten_pro_Punkt)));
     f.setBold(fett);
     f.setItalic(kursiv);
@@ -102,28 +103,34 @@ Schriftsatz setze_Schrift(const QRectF& Flaeche, const Koordinaten& System, cons
     return Satz;
 }
 
-void passe_Legende_an(Legende& l, Flaechenrechteck& Rahmen, double Flaechenbreite) {
+void passe_Legende_an(Legende& l, Beschriftungsplaetze& p, double Flaechenbreite) {
     constexpr double Hoechstbreite = 1.0 / 3;
-    constexpr double Luecke = 4;  // units between text and sample line
+    constexpr double kuerzeste_Musterlinie = 0.87;  // its left end
+    constexpr double Luecke = 4;                     // units between text and sample line
+    constexpr double Rand = 6;                       // units
     const QFontMetricsF Masse(Diagrammschrift(Schriftgroesse_Fenster));
+    const auto noetig = [&](const Legendenzeile& z) { return Masse.horizontalAdvance(QString::fromStdString(z.Text)) + Luecke; };
     // Share of the frame from the start of a row's text to what stands behind it.
     const auto Anteil = [](const Legendenzeile& z) { return (z.Ueberschrift ? 1.0 : z.Linie_links) - z.Textort.links; };
-    for (const Legendenzeile& z : Legendenzeilen(l)) {
-        const double noetig = (Masse.horizontalAdvance(QString::fromStdString(z.Text)) + Luecke) / Anteil(z) / Flaechenbreite;
-        Rahmen.Breite = std::max(Rahmen.Breite, std::min(noetig, Hoechstbreite));
+    double& Breite = p.Legendenrahmen.Breite;
+    for (const Legendenzeile& z : Legendenzeilen(l, p.Musterlinie_links)) {
+        Breite = std::max(Breite, std::min(noetig(z) / Anteil(z) / Flaechenbreite, Hoechstbreite));
     }
-    const auto kuerze = [&](std::string& Text, double Breite) {
-        Text = Masse.elidedText(QString::fromStdString(Text), Qt::ElideRight, Breite).toStdString();
-    };
-    const std::vector<Legendenzeile> Zeilen = Legendenzeilen(l);
+    for (const Legendenzeile& z : Legendenzeilen(l, p.Musterlinie_links)) {
+        const double Textende = z.Textort.links + noetig(z) / (Breite * Flaechenbreite);
+        if (!z.Ueberschrift) p.Musterlinie_links = std::max(p.Musterlinie_links, std::min(Textende, kuerzeste_Musterlinie));
+    }
+    const std::vector<Legendenzeile> Zeilen = Legendenzeilen(l, p.Musterlinie_links);
     auto Zeile = Zeilen.begin();
-    const auto Textbreite = [&] { return Anteil(*Zeile++) * Rahmen.Breite * Flaechenbreite - Luecke; };
+    const auto kuerze = [&](std::string& Text) {
+        const double Platz = Anteil(*Zeile++) * Breite * Flaechenbreite - Luecke;
+        Text = Masse.elidedText(QString::fromStdString(Text), Qt::ElideRight, std::ceil(Platz)).toStdString();
+    };
     for (Legendengruppe& g : l.Gruppen) {
-        if (!g.Titel.empty()) kuerze(g.Titel, Textbreite());
-        for (Legendeneintrag& e : g.Eintraege) kuerze(e.Text, Textbreite());
+        if (l.Art == Legendenart::mehrfach) kuerze(g.Titel);
+        for (Legendeneintrag& e : g.Eintraege) kuerze(e.Text);
     }
-    constexpr double Rand = 6;  // units
-    Rahmen.links = std::max(0.0, std::min(Rahmen.links, 1 - Rahmen.Breite - Rand / Flaechenbreite));
+    p.Legendenrahmen.links = std::max(0.0, std::min(p.Legendenrahmen.links, 1 - Breite - Rand / Flaechenbreite));
 }
 
 void male(QPainter& p, const QRectF& Flaeche, const Zeichenliste& z, int kleinste_Groesse) {

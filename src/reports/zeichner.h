@@ -37,8 +37,8 @@ QPointF auf_Flaeche(const QRectF& Flaeche, const Koordinaten& System, Punkt p);
 QFont Diagrammschrift(int Punkte, bool fett = false, bool kursiv = false);
 
 // Makes the frame of a legend as wide as its texts need, up to a third of a surface of that width (units), and
-// keeps it on the surface; what is still too long is cut at its end.
-void passe_Legende_an(Legende& l, Flaechenrechteck& Rahmen, double Flaechenbreite);
+// keeps it on the surface. Then texts are worth more than long sample lines; what is still too long is cut at its end.
+void passe_Legende_an(Legende& l, Beschriftungsplaetze& p, double Flaechenbreite);
 
 // Paints lines, boxes and texts, clipped to the surface. The background is left as it is. Colours are those of the
 // list, whatever the desktop's palette.

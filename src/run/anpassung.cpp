@@ -9,19 +9,6 @@
 namespace varnok {
 namespace {
 
-// No value of a study is above the maxima of its sums.
-void pruefe_Bereich(const Ergebnisspeicher& s, std::size_t st, double faktor_Boden, double faktor_Plateau) {
-    for (std::size_t e = 0; e < Endpunkte; ++e) {
-        for (std::size_t c = 0; c < Stoffe; ++c) {
-            const auto Boden = static_cast<float>(static_cast<double>(s.Maximum_Bodentiefe[e][st][c]) * faktor_Boden);
-            const auto Plateau = static_cast<float>(static_cast<double>(s.Maximum_Plateautiefe[e][st][c]) * faktor_Plateau);
-            if (!std::isfinite(Boden) || !std::isfinite(Plateau)) {
-                melde_unmoegliche_Rechnung("change of the dose by the factor " + allgemeine_Zahl(std::max(faktor_Boden, faktor_Plateau)));
-            }
-        }
-    }
-}
-
 void skaliere(float& Wert, double Faktor) { Wert = static_cast<float>(static_cast<double>(Wert) * Faktor); }
 
 template <class Bereich>
@@ -49,8 +36,26 @@ void skaliere_Stoff(Lauf& l, int i_endpunkt, int i_studie, int i_substanz, doubl
 
 }  // namespace
 
+bool bleibt_im_Bereich(float Wert, double Faktor) {
+    return std::isfinite(static_cast<float>(static_cast<double>(Wert) * Faktor));
+}
+
+// No value of a study is above the maxima of its sums.
+bool lassen_sich_anpassen(const Ergebnisspeicher& s, int i_studie, double faktor_Boden, double faktor_Plateau) {
+    const auto st = static_cast<std::size_t>(i_studie);
+    for (std::size_t e = 0; e < Endpunkte; ++e) {
+        for (std::size_t c = 0; c < Stoffe; ++c) {
+            if (!bleibt_im_Bereich(s.Maximum_Bodentiefe[e][st][c], faktor_Boden)) return false;
+            if (!bleibt_im_Bereich(s.Maximum_Plateautiefe[e][st][c], faktor_Plateau)) return false;
+        }
+    }
+    return true;
+}
+
 void Werte_anpassen(Lauf& l, int i_studie, double faktor_Boden, double faktor_Plateau) {
-    pruefe_Bereich(l.Speicher, static_cast<std::size_t>(i_studie), faktor_Boden, faktor_Plateau);
+    if (!lassen_sich_anpassen(l.Speicher, i_studie, faktor_Boden, faktor_Plateau)) {
+        melde_unmoegliche_Rechnung("change of the dose by the factor " + allgemeine_Zahl(std::max(faktor_Boden, faktor_Plateau)));
+    }
     for (int e = 0; e < Endpunkte; ++e) {
         for (int c = 0; c < Stoffe; ++c) skaliere_Stoff(l, e, i_studie, c, faktor_Boden, faktor_Plateau);
     }

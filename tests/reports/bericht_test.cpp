@@ -3,45 +3,23 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <QProcess>
-#include <QStandardPaths>
 #include <QTemporaryDir>
+#include <QTextBlock>
 #include <QTextDocument>
 
 #include <atomic>
 #include <thread>
 
 #include "berichtsprobe.h"
+#include "fremdprogramm.h"
 #include "records/dateien.h"
+#include "reports/berichtsbild.h"
 #include "reports/seitenausgabe.h"
 
 namespace varnok::probe {
 namespace {
 
 using ::testing::HasSubstr;
-
-// Standard output of a program, nothing if it is not installed.
-std::optional<std::string> rufe(const char* Programm, const QStringList& Argumente) {
-    const QString Pfad = QStandardPaths::findExecutable(QString::fromLatin1(Programm));
-    if (Pfad.isEmpty()) return std::nullopt;
-    QProcess p;
-    p.start(Pfad, Argumente);
-    EXPECT_TRUE(p.waitForFinished(100000)) << Programm;
-    EXPECT_EQ(p.exitCode(), 0) << p.readAllStandardError().toStdString();
-    return p.readAllStandardOutput().toStdString();
-}
-
-std::string ersetzt(std::string Text, const std::string& Was, const std::string& Womit) {
-    for (std::size_t i = Text.find(Was); i != std::string::npos; i = Text.find(Was, i + Womit.size()))
-        Text.replace(i, Was.size(), Womit);
-    return Text;
-}
-
-// Blanks, tabs and line ends fall as the width of a page wants it.
-std::string ohne_Luecken(std::string Text) {
-    std::erase_if(Text, [](char z) { return z == ' ' || z == '\t' || z == '\r' || z == '\n'; });
-    return Text;
-}
 
 // Pages of a PDF as text with letters for ligatures, nothing where no tool can read one.
 std::optional<std::vector<std::string>> Seiten(const std::string& PDF) {
@@ -147,6 +125,31 @@ TEST(PDF, no_line_is_on_two_pages) {
     }
 }
 
+// The words found up to the end of the report.
+QTextCursor ab(const Bericht& b, const char* Wort) {
+    QTextCursor c = b.Dokument->find(QString::fromLatin1(Wort));
+    c.setPosition(c.selectionStart());
+    c.movePosition(QTextCursor::End, QTextCursor::KeepAnchor);
+    return c;
+}
+
+TEST(PDF, of_a_selection_holds_that_and_the_picture_in_it) {
+    const Bericht b = Bericht_von(*gerechnet({}));
+    const auto Text = Seiten(als_PDF(*Auswahl_als_Dokument(ab(b, "GRAPHIC REPRESENTATION")), "x"));
+    if (!Text) GTEST_SKIP() << "pdftotext is not installed";
+    ASSERT_EQ(Text->size(), 1U);
+    EXPECT_EQ(Text->front().find("GRAPHIC"), 0U);
+    EXPECT_THAT(Text->front(), HasSubstr("Time after first application (d)"));
+    EXPECT_THAT(Text->front(), HasSubstr("page 1 of 1"));
+}
+
+TEST(PDF, of_a_selection_has_font_and_indent_of_the_report) {
+    const Bericht b = Bericht_von(*gerechnet({}));
+    const auto d = Auswahl_als_Dokument(ab(b, "Soil density"));
+    EXPECT_EQ(d->defaultFont(), b.Dokument->defaultFont());
+    EXPECT_EQ(d->begin().blockFormat(), b.Dokument->findBlock(ab(b, "Soil density").selectionStart()).blockFormat());
+}
+
 TEST(PDF, document_stays_as_it_was) {
     const Bericht b = Bericht_von(*gerechnet({}));
     const QString vorher = b.Dokument->toHtml();
@@ -154,39 +157,6 @@ TEST(PDF, document_stays_as_it_was) {
     als_PDF(*b.Dokument, "x");
     EXPECT_EQ(b.Dokument->toHtml(), vorher);
     EXPECT_EQ(b.Dokument->size(), Groesse);
-}
-
-// The witness for the rich text: a text processor opens it and tells the same lines.
-TEST(LibreOffice, opens_the_rich_text) {
-    if (QStandardPaths::findExecutable(QStringLiteral("soffice")).isEmpty()) GTEST_SKIP() << "soffice is not installed";
-    Lauf_bauer l = Lauf_bauer().Schema(1).Einheit(1);
-    l.Felder.Name_Met_1 = "Met {1} \\ ≥ µ жито";
-    const Bericht b = Bericht_von(*gerechnet(l));
-    QTemporaryDir Ordner;
-    const std::string RTF = speichere_Bericht(b, Ordner.path().toStdString());
-    const auto wandle = [&](const char* Format) {
-        return rufe("soffice", {QStringLiteral("--headless"),
-                                QStringLiteral("-env:UserInstallation=file://") + Ordner.filePath(QStringLiteral("profile")),
-                                QStringLiteral("--convert-to"), QString::fromLatin1(Format), QStringLiteral("--outdir"),
-                                Ordner.path(), QString::fromStdString(RTF)});
-    };
-    ASSERT_TRUE(wandle("txt:Text (encoded):UTF8"));
-    std::string Text = lies_Datei(Ordner.filePath(QStringLiteral("the problem.txt")).toStdString());
-    if (Text.starts_with("\xEF\xBB\xBF")) Text.erase(0, 3);
-    std::string erwartet = b.Text;
-    const std::string Platz = "A diagram should appear here!";
-    erwartet.replace(erwartet.find(Platz), Platz.size(), "");
-    std::erase(erwartet, '\r');
-    std::erase(Text, '\r');
-    while (Text.ends_with('\n')) Text.pop_back();
-    while (erwartet.ends_with('\n')) erwartet.pop_back();
-    EXPECT_EQ(Text, erwartet);
-
-    ASSERT_TRUE(wandle("pdf"));
-    const QString PDF = Ordner.filePath(QStringLiteral("the problem.pdf"));
-    const auto Bilder = rufe("pdfimages", {QStringLiteral("-list"), PDF});
-    if (!Bilder) GTEST_SKIP() << "pdfimages is not installed";
-    EXPECT_THAT(*Bilder, HasSubstr(" image "));
 }
 
 }  // namespace

@@ -156,10 +156,11 @@ private:
             {"plain", [](Leser& l, int) { l.s_ = {l.s_.Ziel, 0, 24, 0, l.s_.uc, false, false}; }},
             {"pard",
              [](Leser& l, int) {
-                 l.Absatz() = {std::move(l.Absatz().Laeufe), false, 0, 0, {}};
+                 l.Absatz() = {std::move(l.Absatz().Laeufe), false, false, 0, 0, {}};
              }},
             {"par", [](Leser& l, int) { l.naechster_Absatz(); }},
             {"qc", [](Leser& l, int) { l.Absatz().zentriert = true; }},
+            {"keepn", [](Leser& l, int) { l.Absatz().beim_naechsten = true; }},
             {"li", [](Leser& l, int Wert) { l.Absatz().links = Wert; }},
             {"ri", [](Leser& l, int Wert) { l.Absatz().rechts = Wert; }},
             {"tx", [](Leser& l, int Wert) { l.Absatz().Tabulatoren.push_back(Wert); }},

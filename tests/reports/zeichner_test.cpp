@@ -8,8 +8,11 @@
 #include <QPainter>
 #include <QPalette>
 #include <QUrl>
+#include <algorithm>
+#include <stdexcept>
 
 #include "berichtsprobe.h"
+#include "diagrams/diagrammbau.h"
 #include "reports/berichtsbild.h"
 #include "reports/zeichner.h"
 
@@ -158,21 +161,53 @@ TEST(Schrift, label_too_wide_even_at_7_points_loses_its_middle) {
 
 TEST(Legende, frame_grows_with_its_texts_to_a_third_of_the_surface) {
     Legende l = {Legendenart::Zusammenfassung, {{"", {{"S", {}}, {"a long name", {}}}}}};
-    Flaechenrechteck r = {0.7, 0.05, 0.1, 0.1};
-    passe_Legende_an(l, r, 640);
-    EXPECT_GT(r.Breite, 0.1);
-    EXPECT_LT(r.Breite, 1.0 / 3);
+    Beschriftungsplaetze p;
+    p.Legendenrahmen = {0.7, 0.05, 0.1, 0.1};
+    passe_Legende_an(l, p, 640);
+    EXPECT_GT(p.Legendenrahmen.Breite, 0.1);
+    EXPECT_LT(p.Legendenrahmen.Breite, 1.0 / 3);
+    EXPECT_DOUBLE_EQ(p.Musterlinie_links, Beschriftungsplaetze().Musterlinie_links);
     EXPECT_EQ(l.Gruppen[0].Eintraege[1].Text, "a long name");
     l.Gruppen[0].Eintraege[1].Text = std::string(80, 'n');
-    passe_Legende_an(l, r, 640);
-    EXPECT_DOUBLE_EQ(r.Breite, 1.0 / 3);
-    EXPECT_LE(r.links + r.Breite, 1);
+    passe_Legende_an(l, p, 640);
+    EXPECT_DOUBLE_EQ(p.Legendenrahmen.Breite, 1.0 / 3);
+    EXPECT_LE(p.Legendenrahmen.links + p.Legendenrahmen.Breite, 1);
     EXPECT_EQ(l.Gruppen[0].Eintraege[0].Text, "S");
     EXPECT_LT(l.Gruppen[0].Eintraege[1].Text.size(), 40U);
     EXPECT_EQ(l.Gruppen[0].Eintraege[1].Text.substr(0, 5), "nnnnn");
 }
 
+TEST(Legende, sample_lines_give_way_before_a_text_is_cut) {
+    Legende l = {Legendenart::Zusammenfassung, {{"", {{"S", {}}, {"a name of some length", {}}}}}};
+    Beschriftungsplaetze p;
+    p.Legendenrahmen = {0.7, 0.05, 0.25, 0.1};
+    passe_Legende_an(l, p, 640);
+    EXPECT_EQ(l.Gruppen[0].Eintraege[1].Text, "a name of some length");
+    EXPECT_GT(p.Musterlinie_links, Beschriftungsplaetze().Musterlinie_links);
+    for (const Legendenzeile& z : Legendenzeilen(l, p.Musterlinie_links)) EXPECT_GT(z.Linie_rechts - z.Linie_links, 0.07);
+}
+
 // --- the report's picture ----------------------------------------------------------------------------------
+
+const QRectF Bildflaeche(0, 0, 640, 500);
+
+QRectF Platz(const Zeichenliste& z, const Schriftzug& s) {
+    return setze_Schrift(Bildflaeche, z.System, s, Schriftgroesse_Bericht).Platz;
+}
+
+// Letters stand within the line: two units of it are air.
+QRectF Tinte(const Zeichenliste& z, const Schriftzug& s) { return Platz(z, s).adjusted(0, 1, 0, -1); }
+
+QRectF Legendenkasten(const Zeichenliste& z) {
+    const Kasten& k = z.Kaesten.at(0);
+    return QRectF(auf_Flaeche(Bildflaeche, z.System, k.links_oben), auf_Flaeche(Bildflaeche, z.System, k.rechts_unten));
+}
+
+const Schriftzug& Text(const Zeichenliste& z, const std::string& Inhalt) {
+    const auto Treffer = std::find_if(z.Texte.begin(), z.Texte.end(), [&](const Schriftzug& s) { return s.Inhalt == Inhalt; });
+    if (Treffer == z.Texte.end()) throw std::logic_error("no text " + Inhalt);
+    return *Treffer;
+}
 
 TEST(Berichtsbild, holds_axes_curve_and_labels) {
     const auto l = gerechnet(Lauf_bauer().Schema(1).nach_SFO(0.02, 1));
@@ -193,10 +228,65 @@ TEST(Berichtsbild, holds_axes_curve_and_labels) {
 TEST(Berichtsbild, legend_stands_where_it_was_moved_to) {
     const auto l = gerechnet({});
     const Diagramm d = erstelle_Berichtsdiagramm(*l, Berichtsart::Standard);
-    const Zeichenliste z = mit_Beschriftung(d, Flaechenrechteck{0.2, 0.5, 0.25, 0.08});
-    const QRectF Flaeche640(0, 0, 640, 500);
-    EXPECT_NEAR(auf_Flaeche(Flaeche640, z.System, z.Kaesten[0].links_oben).x(), 128, 1e-6);
-    EXPECT_NEAR(auf_Flaeche(Flaeche640, z.System, z.Kaesten[0].links_oben).y(), 250, 1e-6);
+    const QRectF Kasten = Legendenkasten(mit_Beschriftung(d, Flaechenort{0.2, 0.5}));
+    EXPECT_NEAR(Kasten.left(), 128, 1e-6);
+    EXPECT_NEAR(Kasten.top(), 250, 1e-6);
+}
+
+// The fractions of a window of another shape are kept inside.
+TEST(Berichtsbild, legend_stays_on_the_picture_wherever_it_was_moved_to) {
+    const auto l = gerechnet({});
+    const Diagramm d = erstelle_Berichtsdiagramm(*l, Berichtsart::Standard);
+    for (const Flaechenort Ort : {Flaechenort{0.99, 0.99}, {0, 0}, {0.9, 0}}) {
+        const QRectF Kasten = Legendenkasten(mit_Beschriftung(d, Ort));
+        EXPECT_TRUE(Bildflaeche.contains(Kasten)) << Ort.links << ' ' << Ort.oben;
+    }
+}
+
+TEST(Berichtsbild, legend_at_home_stands_right_below_title_and_comment) {
+    const auto l = gerechnet({});
+    const Zeichenliste z = mit_Beschriftung(erstelle_Berichtsdiagramm(*l, Berichtsart::Standard));
+    const QRectF Kasten = Legendenkasten(z);
+    EXPECT_NEAR(Kasten.left(), 7000 / 15.0, 1e-6);
+    EXPECT_NEAR(Kasten.top(), 500 / 15.0, 6);
+    for (const Schriftzug& s : z.Texte) {
+        EXPECT_FALSE((s.fett || s.kursiv) && Platz(z, s).intersects(Kasten)) << s.Inhalt;
+    }
+}
+
+// Numbers of any length, at the smallest steps that a range can have.
+TEST(Berichtsbild, numbers_touch_neither_each_other_nor_the_names_of_their_axes) {
+    struct Fall { double Ende; const char* Rate; int Einheit; };
+    for (const Fall& f : {Fall{365, "1000", 0}, {3649, "1000", 0}, {1580, "0.0149", 0}, {11, "3.1", 0}, {100, "999000", 1}}) {
+        const auto l = gerechnet(Lauf_bauer().Dosis(f.Rate, "0").Einheit(f.Einheit));
+        Diagrammbereiche b = Startbereiche(0);
+        b.X_Ende.fill(f.Ende);
+        l->Felder.TWA_Laenge = 0;
+        const Zeichenliste z = mit_Beschriftung(erstelle_Diagramm(*l, b, 0, 0));
+        std::vector<const Schriftzug*> Zahlen, Namen;
+        for (const Schriftzug& s : z.Texte) (s.einpassen ? Namen : Zahlen).push_back(&s);
+        ASSERT_GT(Zahlen.size(), 6U);
+        for (const Schriftzug* s : Zahlen) {
+            EXPECT_TRUE(Bildflaeche.contains(Platz(z, *s))) << s->Inhalt;
+            const auto beruehrt = [&](const Schriftzug* t) { return s != t && Tinte(z, *s).intersects(Tinte(z, *t)); };
+            for (const Schriftzug* t : Zahlen) EXPECT_FALSE(beruehrt(t)) << s->Inhalt << ' ' << t->Inhalt;
+            for (const Schriftzug* t : Namen) EXPECT_FALSE(beruehrt(t)) << s->Inhalt << ' ' << t->Inhalt;
+        }
+    }
+}
+
+TEST(Berichtsbild, names_of_the_axes_stand_in_the_middle_of_one_and_on_top_of_the_other) {
+    const auto l = gerechnet({});
+    const Zeichenliste z = mit_Beschriftung(erstelle_Berichtsdiagramm(*l, Berichtsart::Standard));
+    const QPointF Anfang = auf_Flaeche(Bildflaeche, z.System, z.Linien[0].von);
+    const QPointF Ende = auf_Flaeche(Bildflaeche, z.System, z.Linien[0].bis);
+    const QRectF Zeit = Platz(z, Text(z, "Time after first application (d)"));
+    EXPECT_NEAR(Zeit.center().x(), (Anfang.x() + Ende.x()) / 2, 1);
+    EXPECT_GT(Zeit.top(), Anfang.y());
+    const QRectF Gehalt = Platz(z, Text(z, "c(mg/kg)"));
+    EXPECT_GT(Gehalt.left(), Anfang.x());
+    EXPECT_LT(Gehalt.left(), Anfang.x() + 10);
+    EXPECT_LT(Gehalt.bottom(), auf_Flaeche(Bildflaeche, z.System, z.Linien[1].bis).y());
 }
 
 // On a screen the lines themselves are drawn: with an empty picture in the place of the pixels the curve is still there.
@@ -225,14 +315,12 @@ TEST(Berichtsbild, labels_never_touch_each_other) {
     const auto l = gerechnet(b);
     const Zeichenliste z = mit_Beschriftung(erstelle_Berichtsdiagramm(*l, Berichtsart::Standard));
     std::vector<QRectF> Plaetze;
-    for (const Schriftzug& s : z.Texte) {
-        if (s.einpassen) Plaetze.push_back(setze_Schrift(QRectF(0, 0, 640, 500), z.System, s, Schriftgroesse_Bericht).Platz);
+    for (const Schriftzug& t : z.Texte) {
+        if (t.einpassen) Plaetze.push_back(Tinte(z, t));
     }
     ASSERT_GE(Plaetze.size(), 6U);
     for (std::size_t i = 0; i < Plaetze.size(); ++i) {
-        // Letters stand within the line: two units of it are air.
-        for (std::size_t j = 0; j < i; ++j)
-            EXPECT_FALSE(Plaetze[i].adjusted(0, 1, 0, -1).intersects(Plaetze[j].adjusted(0, 1, 0, -1))) << i << j;
+        for (std::size_t j = 0; j < i; ++j) EXPECT_FALSE(Plaetze[i].intersects(Plaetze[j])) << i << ' ' << j;
     }
 }
 

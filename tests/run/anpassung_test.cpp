@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 #include "base/laufzeitfehler.h"
 #include "exposure/plateau.h"
 #include "support/lauf_bauer.h"
@@ -114,14 +116,21 @@ TEST(Werte_anpassen, the_other_studies_stay_byte_for_byte) {
 // A run with such a dose is refused; the short way must not let it through either.
 TEST(Werte_anpassen, a_factor_that_leaves_the_range_of_numbers_is_refused) {
     Lauf l = Lauf_bauer().rechne();
-    EXPECT_THROW(Werte_anpassen(l, 0, 1E39, 1E39), Laufzeitfehler);
+    EXPECT_TRUE(lassen_sich_anpassen(l.Speicher, 0, 1E30, 1E30));
+    for (const auto& [Boden, Plateau] : {std::pair{1E39, 1E39}, {1E39, 1.0}, {1.0, 1E39}}) {
+        EXPECT_FALSE(lassen_sich_anpassen(l.Speicher, 0, Boden, Plateau));
+        EXPECT_THROW(Werte_anpassen(l, 0, Boden, Plateau), Laufzeitfehler);
+    }
     EXPECT_EQ(nicht_endlicher_Speicher(l, 0), "");
 }
 
 // The background of slow decay lies far above the peaks of ten years.
 TEST(skaliere_Plateau, a_factor_that_leaves_the_range_of_numbers_is_refused) {
     Lauf l = Lauf_bauer().rechne();
+    EXPECT_TRUE(laesst_sich_skalieren(l, 0, 1000));
+    EXPECT_FALSE(laesst_sich_skalieren(l, 0, 1E39));  // for the peaks
     l.Speicher.Plateauwert[0][0][0] = 1E38F;
+    EXPECT_FALSE(laesst_sich_skalieren(l, 0, 1000));
     EXPECT_THROW(skaliere_Plateau(l, 0, 1000), Laufzeitfehler);
     EXPECT_EQ(nicht_endlicher_Speicher(l, 0), "");
 }

@@ -17,14 +17,16 @@ void Diagrammsteuerung::setze_Startbereiche() { Bereiche_ = Startbereiche(z_.Fel
 
 void Diagrammsteuerung::setze_Bereiche_nach_Ansicht() { varnok::setze_Bereiche_nach_Ansicht(Bereiche_, z_.Felder().PEC_Typ); }
 
-void Diagrammsteuerung::zeichne() {
+void Diagrammsteuerung::zeichne(bool nach_Lauf) {
     Diagramme_ = z_.Zusammenfassung_aktiv ? erstelle_Diagramme_Zusammenfassung(z_.Rechnung, Bereiche_, z_.i_studie())
                                           : erstelle_Diagramme(z_.Rechnung, Bereiche_, z_.i_studie());
     std::string Fehler;
-    for (const Diagramm& d : Diagramme_) {
-        const std::string Text = Nebenausgaben_.schreibe_Zeichnung(*z_.Ausgabeprojekt, d);
-        if (!Text.empty()) Fehler += (Fehler.empty() ? "" : "\n") + Text;
-    }
+    // Files that fail for one reason are told in one line.
+    const auto sammle = [&](const std::string& Text) {
+        if (Fehler.find(Text) == std::string::npos) Fehler += (Fehler.empty() ? "" : "\n") + Text;
+    };
+    if (nach_Lauf) sammle(Nebenausgaben_.schreibe_Laufprotokoll(*z_.Ausgabeprojekt, z_.Rechnung));
+    for (const Diagramm& d : Diagramme_) sammle(Nebenausgaben_.schreibe_Zeichnung(*z_.Ausgabeprojekt, d));
     // One message for a drawing, and the drawing stands.
     if (!Fehler.empty()) melde(z_, Texte::Laufzeitfehler, Fehler);
 }
@@ -68,6 +70,16 @@ double Diagrammsteuerung::X_Start() const {
 double Diagrammsteuerung::X_Ende() const {
     const auto i = static_cast<std::size_t>(vorne());
     return z_.Zusammenfassung_aktiv ? Bereiche_.X_Ende_Zusammenfassung[i] : Bereiche_.X_Ende[i];
+}
+
+void Diagrammsteuerung::merke_Legende(bool Zusammenfassung, int Satz, const std::optional<Flaechenort>& Ort) {
+    const auto i = static_cast<std::size_t>(Satz);
+    (Zusammenfassung ? Legenden_Zusammenfassung_.at(i) : Legenden_.at(i)) = Ort;
+}
+
+const std::optional<Flaechenort>& Diagrammsteuerung::Legende() const {
+    const auto i = static_cast<std::size_t>(vorne());
+    return z_.Zusammenfassung_aktiv ? Legenden_Zusammenfassung_[i] : Legenden_[i];
 }
 
 }  // namespace varnok

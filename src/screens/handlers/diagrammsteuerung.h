@@ -1,5 +1,8 @@
 #pragma once
 
+#include <array>
+#include <optional>
+#include <string>
 #include <vector>
 
 #include "diagrams/diagrammbau.h"
@@ -19,8 +22,9 @@ public:
     // A view was chosen, by click or with an application pattern.
     void setze_Bereiche_nach_Ansicht();
 
-    // Draws all diagrams of the scheme, or all summary diagrams, from the stores, and writes their files.
-    void zeichne();
+    // Draws all diagrams of the scheme, or all summary diagrams, from the stores, and writes their files; after a run
+    // also what it leaves for diagnosis.
+    void zeichne(bool nach_Lauf);
 
     // In the order of the scheme: its compounds, then the multi-compound diagram.
     const std::vector<Diagramm>& Diagramme() const { return Diagramme_; }
@@ -37,6 +41,11 @@ public:
     double X_Start() const;
     double X_Ende() const;
 
+    // Where the user has dragged the legend of a diagram to, in fractions of its surface; none is at home.
+    void merke_Legende(bool Zusammenfassung, int Satz, const std::optional<Flaechenort>& Ort);
+    // That of the diagram in front.
+    const std::optional<Flaechenort>& Legende() const;
+
 private:
     int& Platz_vorne();
 
@@ -45,6 +54,8 @@ private:
     std::vector<Diagramm> Diagramme_;
     std::array<int, 4> vorne_{};                  // `Diagrammsatz` of each scheme
     std::array<int, 4> vorne_Zusammenfassung_{};  // `Zusammenfassungssatz` of each scheme
+    std::array<std::optional<Flaechenort>, Diagrammzahl> Legenden_;
+    std::array<std::optional<Flaechenort>, Zusammenfassungszahl> Legenden_Zusammenfassung_;
     Nebenausgaben Nebenausgaben_;
 };
 

@@ -46,12 +46,14 @@ bool Laufsteuerung::fuehre_aus(int erste, int letzte, bool vom_Benutzer) {
     }
     z_.Hinweis = false;
     Warnungen_.clear();
+    bool gelaufen = false;
     for (int st = erste; st <= letzte; ++st) {
         // A study whose results are of this input needs no run, unless it is the one asked for.
         if (erste != letzte && z_.gueltig[static_cast<std::size_t>(st)]) continue;
         if (!rechne_Studie(st)) return false;
+        gelaufen = true;
     }
-    beende_mit_Erfolg();
+    beende_mit_Erfolg(gelaufen);
     return true;
 }
 
@@ -89,9 +91,9 @@ void Laufsteuerung::sammle_Warnungen() {
     }
 }
 
-void Laufsteuerung::beende_mit_Erfolg() {
+void Laufsteuerung::beende_mit_Erfolg(bool gelaufen) {
     z_.veraltet = false;
-    zeichne_neu();
+    zeichne(gelaufen);
     zeige_Warnungen();
 }
 
@@ -102,9 +104,9 @@ void Laufsteuerung::zeige_Warnungen() {
     melde(z_, Texte::kein_Endplateau, Text);
 }
 
-void Laufsteuerung::zeichne_neu() {
+void Laufsteuerung::zeichne(bool nach_Lauf) {
     if (!z_.Gestartet || !alles_Gezeigte_gueltig() || !Saetze_vollstaendig()) return;
-    Diagramme_.zeichne();
+    Diagramme_.zeichne(nach_Lauf);
     ++z_.Zeichnung;
     z_.abgedeckt = false;
 }

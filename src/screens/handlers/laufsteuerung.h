@@ -24,7 +24,7 @@ public:
     bool berechne_alle_Studien();
 
     // A view selector has changed: the results are drawn anew and uncovered if all that is shown is valid.
-    void zeichne_neu();
+    void zeichne_neu() { zeichne(false); }
 
     bool alles_Gezeigte_gueltig() const;
     // Whether each of the three selectors names a record that was read.
@@ -36,7 +36,8 @@ private:
     void sammle_Warnungen();
     void zeige_Warnungen();
     void melde_fehlenden_Satz();
-    void beende_mit_Erfolg();
+    void beende_mit_Erfolg(bool gelaufen);
+    void zeichne(bool nach_Lauf);
 
     Zustand& z_;
     Diagrammsteuerung& Diagramme_;

@@ -161,6 +161,10 @@ void Sitzung::schliesse_Skalierung() {
     }, false);
 }
 
+void Sitzung::merke_Legende(bool Zusammenfassung, int Satz, const std::optional<Flaechenort>& Ort) {
+    Diagramme_.merke_Legende(Zusammenfassung, Satz, Ort);
+}
+
 void Sitzung::erstelle_Bericht() {
     befolge([&] {
         if (z_.Gestartet) Berichte_.erstelle();

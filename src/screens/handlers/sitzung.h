@@ -82,6 +82,9 @@ public:
     // After the dialog has closed, also by Cancel: a run in the single view, a drawing in the summary.
     void schliesse_Skalierung();
 
+    // The legend of a diagram was dragged to a place of its surface, or called home.
+    void merke_Legende(bool Zusammenfassung, int Satz, const std::optional<Flaechenort>& Ort);
+
     // Report: made, written, shown until it is closed.
     void erstelle_Bericht();
     void schliesse_Bericht();

@@ -32,6 +32,7 @@ inline constexpr std::array<const char*, 4> Satz_waehlen = {"", "Pesticide recor
                                                             "Scenario record not set. Please select!"};
 
 inline constexpr const char* Simulation_waehlen = "Simulation not set. Please select!";
+inline constexpr const char* nicht_gedruckt = "The report could not be printed.";
 
 // What the cover says over the results.
 inline constexpr const char* Eingabe_geaendert = "Input changed";

@@ -96,7 +96,8 @@ void Applikationsrahmen::erstelle_Termine(QWidget* Werte) {
     App_Monat_ = new Auswahlliste(u"App_Monat"_s, 3, Werte);
     QLabel* L_Datum = Schild(u"Date"_s, App_Tag_, Werte);
     L_Datum->setObjectName(u"L_Datum"_s);
-    App_Monat_->setAccessibleName(u"Date"_s);
+    App_Tag_->setAccessibleName(u"Date, day"_s);
+    App_Monat_->setAccessibleName(u"Date, month"_s);
     Gitter_->addWidget(L_Datum, 2, Raster::Schild);
     Gitter_->addWidget(App_Tag_, 2, Raster::Feld);
     Gitter_->addWidget(App_Monat_, 2, Raster::Einheit, 1, 2, Qt::AlignLeft);

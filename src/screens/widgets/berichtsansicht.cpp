@@ -8,14 +8,15 @@
 #include <QKeyEvent>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QPointer>
 #include <QPrintDialog>
 #include <QPrinter>
-#include <QTextDocumentFragment>
 #include <QVBoxLayout>
 
 #include "reports/berichtsbild.h"
 #include "reports/rtf_schreiber.h"
 #include "reports/seitenausgabe.h"
+#include "screens/handlers/texte.h"
 #include "screens/widgets/bausteine.h"
 #include "screens/widgets/qt_text.h"
 
@@ -64,15 +65,14 @@ void Berichtsansicht::zeige() {
 }
 
 void Berichtsansicht::fuelle() {
-    if (gezeigter_ == nullptr) {
-        Bericht_->clear();
-        Dokument_.reset();
-        return;
-    }
-    // The document stays the session's; what is shown, scrolled and selected is a copy.
-    std::unique_ptr<QTextDocument> neues(kopiere_Dokument(*gezeigter_->Dokument));
-    Bericht_->setDocument(neues.get());
-    Dokument_ = std::move(neues);
+    // The document stays the session's; what is shown, scrolled and selected is a copy. The editor keeps using its document
+    // to the end, so the old one goes after it has taken the new one.
+    auto* neues = gezeigter_ == nullptr ? new QTextDocument : kopiere_Dokument(*gezeigter_->Dokument);
+    neues->setParent(Bericht_);
+    const QPointer<QTextDocument> altes(Bericht_->document());
+    Bericht_->setDocument(neues);
+    delete altes;
+    if (gezeigter_ == nullptr) return;
     setGeometry(Flaeche_->geometry());
     raise();
     Bericht_->setFocus(Qt::OtherFocusReason);
@@ -109,20 +109,27 @@ void Berichtsansicht::drucke() {
     Dialog.setOption(QAbstractPrintDialog::PrintSelection, ausgewaehlt);
     if (ausgewaehlt) Dialog.setPrintRange(QAbstractPrintDialog::Selection);
     if (Dialog.exec() != QDialog::Accepted) return;
+    bool gedruckt = false;
     if (Dialog.printRange() != QAbstractPrintDialog::Selection) {
-        drucke_Dokument(*gezeigter_->Dokument, Drucker);
-        return;
+        gedruckt = drucke_Dokument(*gezeigter_->Dokument, Drucker);
+    } else {
+        gedruckt = drucke_Dokument(*Auswahl_als_Dokument(Bericht_->textCursor()), Drucker);
     }
-    QTextDocument Auswahl;
-    QTextCursor(&Auswahl).insertFragment(Bericht_->textCursor().selection());
-    drucke_Dokument(Auswahl, Drucker);
+    if (gedruckt) return;
+    Stand().Welt.Fragen->frage({Texte::Laufzeitfehler, Texte::nicht_gedruckt, Symbol::Ausrufezeichen, {Knopf::OK}});
 }
 
 void Berichtsansicht::pruefe_Fokus(const QWidget* alt, const QWidget* neu) {
     // A menu, a dialog or another window takes the focus for a while; the report stays.
-    const bool verlassen = isVisible() && alt != nullptr && isAncestorOf(alt) && neu != nullptr && neu->window() == window() && qobject_cast<const QMenuBar*>(neu) == nullptr &&
-                           !isAncestorOf(neu) && QApplication::activePopupWidget() == nullptr;
-    if (verlassen) QMetaObject::invokeMethod(this, &Berichtsansicht::schliesse, Qt::QueuedConnection);
+    const bool verlassen = isVisible() && alt != nullptr && isAncestorOf(alt) && neu != nullptr && neu->window() == window() &&
+                           qobject_cast<const QMenuBar*>(neu) == nullptr && !isAncestorOf(neu) &&
+                           QApplication::activePopupWidget() == nullptr;
+    if (!verlassen) return;
+    // The control that has the focus now may be the one that makes the next report: that stays.
+    const auto schliesse_diesen = [this, verlassener = gezeigter_] {
+        if (gezeigter_ == verlassener) schliesse();
+    };
+    QMetaObject::invokeMethod(this, schliesse_diesen, Qt::QueuedConnection);
 }
 
 bool Berichtsansicht::eventFilter(QObject* Objekt, QEvent* e) {

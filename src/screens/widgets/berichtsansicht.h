@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QTextEdit>
-#include <memory>
 
 #include "screens/widgets/rahmen.h"
 
@@ -32,7 +31,6 @@ private:
     QWidget* Flaeche_;
     QTextEdit* Bericht_;
     const Bericht* gezeigter_ = nullptr;
-    std::unique_ptr<QTextDocument> Dokument_;
 };
 
 }  // namespace varnok

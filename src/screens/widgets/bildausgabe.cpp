@@ -8,12 +8,10 @@
 #include <QPdfWriter>
 #include <QSvgGenerator>
 #include <QtCore/QMimeData>
-#include <algorithm>
 #include <cmath>
 
 #include "reports/berichtsbild.h"
 #include "reports/zeichner.h"
-#include "screens/widgets/diagrammlage.h"
 #include "screens/widgets/qt_text.h"
 
 namespace varnok {
@@ -26,16 +24,6 @@ constexpr int Aufloesung_Zwischenablage = 192;
 const QRectF Flaeche(0, 0, Bildbreite, Bildhoehe);
 
 }  // namespace
-
-Zeichenliste Bildzeichnung(const Diagramm& d, Flaechenort Legende) {
-    Diagramm Bild = d;
-    // Above the axes stand three lines: title, comment and the name of the y axis.
-    passe_an_Flaeche(Bild.Liste, Flaeche.size(), {44, 22});
-    Flaechenrechteck Rahmen = Heimatplaetze(d.Legendeninhalt).Legendenrahmen;
-    Rahmen.links = std::clamp(Legende.links, 0.0, 1 - Rahmen.Breite);
-    Rahmen.oben = std::clamp(Legende.oben, 0.0, 1 - Rahmen.Hoehe);
-    return mit_Beschriftung(Bild, Rahmen);
-}
 
 QSize Bildgroesse(int dpi) { return {Bildbreite * dpi / Einheiten_pro_Zoll, Bildhoehe * dpi / Einheiten_pro_Zoll}; }
 

@@ -8,15 +8,11 @@
 #include <array>
 
 #include "diagrams/diagramm.h"
-#include "diagrams/diagrammsaetze.h"
 
 namespace varnok {
 
 // Resolutions of a saved picture, per inch.
 inline constexpr std::array<int, 4> Bildaufloesungen = {96, 150, 300, 600};
-
-// The drawing with everything in it; the upper left corner of the legend at that fraction of the surface.
-Zeichenliste Bildzeichnung(const Diagramm& d, Flaechenort Legende);
 
 QSize Bildgroesse(int dpi);
 QImage Bild_als_Pixel(const Zeichenliste& z, int dpi);

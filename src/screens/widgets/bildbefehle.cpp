@@ -8,6 +8,7 @@
 #include <exception>
 
 #include "records/dateien.h"
+#include "reports/berichtsbild.h"
 #include "screens/handlers/sitzung.h"
 #include "screens/handlers/texte.h"
 #include "screens/widgets/bildausgabe.h"
@@ -63,7 +64,7 @@ void Bildbefehle::zeige() {
 
 void Bildbefehle::kopiere() {
     const Diagrammflaeche* d = Ergebnisse_.Flaeche_fuer_Befehl();
-    if (d) kopiere_Bild(Bildzeichnung(*d->Inhalt(), d->Legende()->Ort()), Titel_von(*d->Inhalt()));
+    if (d) kopiere_Bild(mit_Beschriftung(*d->Inhalt(), d->Legende()->gezogen()), Titel_von(*d->Inhalt()));
 }
 
 void Bildbefehle::speichere(Dateiart Art) {
@@ -92,7 +93,7 @@ void Bildbefehle::speichere(Dateiart Art) {
     if (Dialog.exec() != QDialog::Accepted || Dialog.selectedFiles().isEmpty()) return;
     const QString Pfad = Dialog.selectedFiles().front();
     Ordner_ = QFileInfo(Pfad).absolutePath();
-    const Zeichenliste z = Bildzeichnung(*d->Inhalt(), d->Legende()->Ort());
+    const Zeichenliste z = mit_Beschriftung(*d->Inhalt(), d->Legende()->gezogen());
     if (Art == Dateiart::PNG) {
         const auto i = Filter.indexOf(Dialog.selectedNameFilter());
         if (i >= 0) Aufloesung_ = Bildaufloesungen.at(static_cast<std::size_t>(i));

@@ -8,9 +8,9 @@
 #include <cmath>
 
 #include "exposure/ergebnistabelle.h"
+#include "reports/diagrammlage.h"
 #include "reports/farben.h"
 #include "reports/zeichner.h"
-#include "screens/widgets/diagrammlage.h"
 #include "screens/widgets/ergebnisrahmen.h"
 #include "screens/widgets/farben.h"
 #include "screens/widgets/legendenrahmen.h"

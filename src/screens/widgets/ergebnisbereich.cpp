@@ -9,6 +9,7 @@
 #include "screens/widgets/bausteine.h"
 #include "screens/widgets/diagrammflaeche.h"
 #include "screens/widgets/ergebnisrahmen.h"
+#include "screens/widgets/legendenrahmen.h"
 #include "screens/widgets/manuelle_skalierung.h"
 #include "screens/widgets/qt_text.h"
 
@@ -69,6 +70,8 @@ Diagrammflaeche* Ergebnisbereich::erstelle_Flaeche(bool Zusammenfassung, int Sat
     connect(d, &Diagrammflaeche::weiterzuschalten, this, [this] { handle([&] { Programm_.schalte_Diagramm_weiter(); }); });
     // The press ends before the dialog takes over.
     connect(d, &Diagrammflaeche::zu_skalieren, this, &Ergebnisbereich::skaliere, Qt::QueuedConnection);
+    connect(d->Legende(), &Flaechenrahmen::umgestellt, this,
+            [this, d, Zusammenfassung] { Programm_.merke_Legende(Zusammenfassung, d->Satz(), d->Legende()->gezogen()); });
     return d;
 }
 

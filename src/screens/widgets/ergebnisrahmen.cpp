@@ -19,6 +19,16 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
+// Pixels around the grid.
+struct Abstaende {
+    int Rand;  // above and below
+    int unter_Titel;
+
+    constexpr int ganz() const { return 2 * Rand + unter_Titel; }
+};
+constexpr Abstaende weit = {6, 4};
+constexpr Abstaende eng = {3, 2};
+
 // Blanks around a text serve other fonts; here the columns align by themselves.
 class Zellenschrift : public QStyledItemDelegate {
 public:
@@ -74,8 +84,8 @@ Ergebnisrahmen::Ergebnisrahmen(const QString& Endung, const QString& Titel, QWid
     Tafel_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
 
     auto* Spalte = new QVBoxLayout(this);
-    Spalte->setContentsMargins(8, 6, 8, 6);
-    Spalte->setSpacing(4);
+    Spalte->setContentsMargins(8, weit.Rand, 8, weit.Rand);
+    Spalte->setSpacing(weit.unter_Titel);
     Spalte->addWidget(Titel_);
     Spalte->addWidget(Tafel_);
     reiche_weiter(Titel_);
@@ -110,7 +120,6 @@ void Ergebnisrahmen::zeige(const Tabellentext& Tabelle) {
 
 void Ergebnisrahmen::ordne(const QSize& Flaeche, int Achsenhoehe) {
     const int n = std::max(1, Tafel_->columnCount());
-    const int Zeilen = std::max(1, Tafel_->rowCount());
     const QMargins Rand = layout()->contentsMargins();
     // The grid of many studies takes no more than two thirds of the surface, as far as its numbers let it.
     const int schmal = std::max(Ziffern(*this, 8), Flaeche.width() * 2 / 3 / n);
@@ -124,15 +133,37 @@ void Ergebnisrahmen::ordne(const QSize& Flaeche, int Achsenhoehe) {
     }
     const int Breite = Spalte * n;
     const int Titelhoehe = Titel_->fontMetrics().boundingRect(QRect(0, 0, Breite, 1000), Qt::TextWordWrap, Titel_->text()).height();
-    // Rows as close as it takes to stand above the time axis at home.
-    const int darueber = Rand.top() + Rand.bottom() + layout()->spacing() + Titelhoehe;
-    const int Platz = Achsenhoehe - static_cast<int>(Heimat_Ergebnis.oben * Flaeche.height()) - darueber - 4;
-    const int Schrift = fontMetrics().height();
-    const int Zeile = std::max(Schrift, std::min(Platz / (Zeilen - 1 + Kopfzeilen), Schrift + 3));
-    for (int i = 0; i < Tafel_->rowCount(); ++i) Tafel_->setRowHeight(i, i == 0 ? Kopfzeilen * Schrift + Zeile - Schrift : Zeile);
+    ordne_Zeilen(Achsenhoehe - static_cast<int>(Heimat_Ergebnis.oben * Flaeche.height()) - Titelhoehe - 4, Kopfzeilen);
     Titel_->setFixedSize(Breite, Titelhoehe);
     Tafel_->setFixedSize(Breite, Tafel_->verticalHeader()->length());
     adjustSize();
+}
+
+bool Ergebnisrahmen::letzte_Zeile_leer() const {
+    for (int j = 0; j < Tafel_->columnCount(); ++j) {
+        const QTableWidgetItem* Zelle = Tafel_->item(Tafel_->rowCount() - 1, j);
+        if (Zelle && !Zelle->text().trimmed().isEmpty()) return false;
+    }
+    return true;
+}
+
+// To stand above the time axis at home, the rows move as close as their letters let them, with less room around them. A spare
+// row without a text gives its own away before that.
+void Ergebnisrahmen::ordne_Zeilen(int Platz, int Kopfzeilen) {
+    constexpr int leere_Zeile = 2;
+    const int Schrift = fontMetrics().height();
+    const int Zeilen = Tafel_->rowCount();
+    const int Textzeilen = std::max(1, Zeilen - 1 + Kopfzeilen);
+    const bool zu_hoch = Textzeilen * Schrift > Platz - weit.ganz();
+    const bool ohne_letzte = zu_hoch && Zeilen > 1 && letzte_Zeile_leer();
+    const Abstaende& a = zu_hoch ? eng : weit;
+    const int fuer_Zeilen = Platz - a.ganz() - (ohne_letzte ? leere_Zeile : 0);
+    // Numbers reach less far down than letters, so a pixel less is enough for them.
+    const int Zeile = std::clamp(fuer_Zeilen / (Textzeilen - (ohne_letzte ? 1 : 0)), Schrift - 1, Schrift + 3);
+    layout()->setContentsMargins(8, a.Rand, 8, a.Rand);
+    layout()->setSpacing(a.unter_Titel);
+    for (int i = 0; i < Zeilen; ++i) Tafel_->setRowHeight(i, i == 0 ? (Kopfzeilen - 1) * Schrift + Zeile : Zeile);
+    if (ohne_letzte) Tafel_->setRowHeight(Zeilen - 1, leere_Zeile);
 }
 
 void Ergebnisrahmen::zeige_Griff(bool gehalten) {

@@ -25,6 +25,10 @@ protected:
     void klicke(const QMouseEvent& e) override;
 
 private:
+    bool letzte_Zeile_leer() const;
+    // Heights of the rows, of which the first has so many lines, for that room between title and time axis.
+    void ordne_Zeilen(int Platz, int Kopfzeilen);
+
     QLabel* Titel_;
     QTableWidget* Tafel_;
 };

@@ -32,7 +32,7 @@ void Flaechenrahmen::stelle_auf(int oben, int unten) {
 }
 
 void Flaechenrahmen::stelle_auf() {
-    const Flaechenort Platz = Ort();
+    const Flaechenort Platz = gezogen_.value_or(Heimat_);
     const QSize Flaeche = parentWidget()->size();
     stelle(QPoint(static_cast<int>(std::lround(Platz.links * Flaeche.width())),
                   static_cast<int>(std::lround(Platz.oben * Flaeche.height()))),
@@ -42,9 +42,8 @@ void Flaechenrahmen::stelle_auf() {
 void Flaechenrahmen::kehre_heim() {
     gezogen_.reset();
     stelle_auf();
+    Q_EMIT umgestellt();
 }
-
-Flaechenort Flaechenrahmen::Ort() const { return gezogen_.value_or(Heimat_); }
 
 void Flaechenrahmen::verbirg(bool verborgen) {
     verborgen_ = verborgen;
@@ -79,6 +78,7 @@ void Flaechenrahmen::ziehe(const QMouseEvent* e) {
     const QSize Flaeche = parentWidget()->size();
     gezogen_ = Flaechenort{static_cast<double>(x()) / std::max(1, Flaeche.width()),
                            static_cast<double>(y()) / std::max(1, Flaeche.height())};
+    Q_EMIT umgestellt();
 }
 
 void Flaechenrahmen::lasse_los(const QWidget* Quelle, const QMouseEvent* e) {

@@ -21,8 +21,8 @@ public:
     void stelle_auf(int oben, int unten);
     // Forgets where it was dragged to.
     void kehre_heim();
-    // Upper left corner, in fractions of the surface.
-    Flaechenort Ort() const;
+    // Where it was dragged to: upper left corner, in fractions of the surface. None: it is at home.
+    const std::optional<Flaechenort>& gezogen() const { return gezogen_; }
 
     // Hidden by the user; whether it is seen depends on `erlaube` too.
     void verbirg(bool verborgen);
@@ -30,6 +30,8 @@ public:
 
 Q_SIGNALS:
     void betreten();
+    // It was dragged, or called home.
+    void umgestellt();
 
 protected:
     // Mouse events of the child work as if they were the frame's own.

@@ -9,6 +9,7 @@
 
 #include "screens/widgets/bausteine.h"
 #include "screens/widgets/qt_text.h"
+#include "screens/widgets/zwei_gruppen.h"
 
 namespace varnok {
 namespace {
@@ -17,14 +18,17 @@ using namespace Qt::StringLiterals;
 
 using Optionen = std::vector<std::pair<int, QString>>;  // index of the control, caption
 
-QButtonGroup* erstelle_Optionen(const QString& Name, const Optionen& Liste, QHBoxLayout& Zeile, QWidget* parent) {
+QButtonGroup* erstelle_Optionen(const QString& Name, const Optionen& Liste, QLayout& Blatt, QWidget* parent) {
     auto* Gruppe = new QButtonGroup(parent);
+    auto* Zeile = new QHBoxLayout;
+    Zeile->setSpacing(14);
     for (const auto& [Index, Aufschrift] : Liste) {
         auto* Option = new QRadioButton(Aufschrift, parent);
         Option->setObjectName(Name + u'_' + in_Qt(Index));
         Gruppe->addButton(Option, Index);
-        Zeile.addWidget(Option);
+        Zeile->addWidget(Option);
     }
+    Blatt.addItem(Zeile);
     return Gruppe;
 }
 
@@ -35,14 +39,12 @@ constexpr int Option_zu_Endpunkt(int e) { return 1 - e; }
 
 Untere_Zeile::Untere_Zeile(Sitzung& Programm, QWidget* parent)
     : Rahmen(u"untere_Zeile"_s, Rahmenart::schlicht, Programm, parent) {
-    auto* oben = new QHBoxLayout;
-    oben->setSpacing(14);
+    auto* oben = new Zwei_Gruppen;
     Endpunkt_ = erstelle_Optionen(u"Endpunkt"_s, {{1, u"Total content"_s}, {0, u"Porewater concentration"_s}}, *oben, this);
     auto* Strich = new QFrame(this);
     Strich->setFrameStyle(QFrame::VLine | QFrame::Sunken);
     oben->addWidget(Strich);
     PEC_Typ_ = erstelle_Optionen(u"PEC_Typ"_s, {{0, u"Annual"_s}, {1, u"Background"_s}, {2, u"Accum."_s}}, *oben, this);
-    oben->addStretch(1);
 
     TWA_Laenge_ = new Auswahlliste(u"TWA_Laenge"_s, 12, this);
     Ergebnisdatei_ = new Kurztext(u"Ergebnisdatei"_s, this);

@@ -1,13 +1,26 @@
 // The report command behind the window.
 
+#include <QImage>
+#include <QUrl>
 #include <fstream>
 
+#include "reports/berichtsbild.h"
 #include "screens/handlers/probesitzung.h"
 
 namespace varnok {
 namespace {
 
-using Berichtsprobe = Probesitzung;
+class Berichtsprobe : public Probesitzung {
+protected:
+    // The picture of the open report.
+    QImage Bild() const {
+        const QTextDocument& d = *s_->offener_Bericht()->Dokument;
+        return d.resource(QTextDocument::ImageResource, QUrl(QString::fromLatin1(Bildname))).value<QImage>();
+    }
+    QImage Bild_mit_Legende(const std::optional<Flaechenort>& Ort) const {
+        return erstelle_Berichtsbild(mit_Beschriftung(*s_->Diagramme().vorderes(), Ort));
+    }
+};
 
 TEST_F(Berichtsprobe, of_the_selected_study_is_shown_and_written_to_output) {
     gestartet();
@@ -70,6 +83,47 @@ TEST_F(Berichtsprobe, another_description_clears_the_name_of_the_output_file) {
     s_->erstelle_Bericht();
     s_->aendere_Beschreibung("Another");
     EXPECT_EQ(s_->Stand().Ergebnisdatei, "");
+}
+
+TEST_F(Berichtsprobe, has_the_legend_where_it_was_dragged_to_in_the_diagram_in_front) {
+    constexpr Flaechenort Ort = {0.3, 0.6};
+    gestartet();
+    s_->waehle_Berechnungsmodus(1);
+    s_->merke_Legende(false, 1, Ort);
+    s_->erstelle_Bericht();
+    EXPECT_EQ(Bild(), Bild_mit_Legende(Ort));
+    EXPECT_NE(Bild(), Bild_mit_Legende({}));
+    s_->schalte_Diagramm_weiter();  // the legend of the metabolite's diagram is still at home
+    s_->erstelle_Bericht();
+    EXPECT_EQ(Bild(), Bild_mit_Legende({}));
+}
+
+TEST_F(Berichtsprobe, of_all_studies_goes_by_the_legend_of_the_summary_diagram) {
+    constexpr Flaechenort Ort = {0.1, 0.4};
+    gestartet();
+    s_->merke_Legende(false, 0, Flaechenort{0.5, 0.5});
+    s_->merke_Legende(true, 0, Ort);
+    s_->zeige_Zusammenfassung();
+    s_->erstelle_Bericht();
+    EXPECT_EQ(Bild(), Bild_mit_Legende(Ort));
+}
+
+TEST_F(Berichtsprobe, has_a_legend_that_was_called_home_at_home) {
+    gestartet();
+    s_->merke_Legende(false, 0, Flaechenort{0.5, 0.5});
+    s_->merke_Legende(false, 0, std::nullopt);
+    s_->erstelle_Bericht();
+    EXPECT_EQ(Bild(), Bild_mit_Legende({}));
+}
+
+TEST_F(Berichtsprobe, shows_the_diagram_in_front) {
+    gestartet();
+    s_->waehle_Berechnungsmodus(2);
+    for (int i = 0; i < 4; ++i) {
+        s_->erstelle_Bericht();
+        EXPECT_EQ(Bild(), Bild_mit_Legende({})) << s_->Diagramme().vorne();
+        s_->schalte_Diagramm_weiter();
+    }
 }
 
 TEST_F(Berichtsprobe, is_saved_as_a_PDF) {

@@ -290,6 +290,31 @@ private Q_SLOTS:
         Fragen_.nimm();
     }
 
+    // The options of the view stand in one row, in the smallest window in two, and never in part only.
+    void options_of_the_view_are_never_cut() {
+        const auto Hoehe = [&](const char* Name) { return p_->Teil<QWidget>(Name)->y(); };
+        for (const int Breite : {900, 1000, 1100, 1280, 1600}) {
+            p_->Fenster().resize(Breite, 760);
+            QTest::qWait(30);
+            const auto* Zeile = p_->Teil<QWidget>("untere_Zeile");
+            QList<QRect> belegt;
+            for (const char* Name : {"Endpunkt_1", "Endpunkt_0", "PEC_Typ_0", "PEC_Typ_1", "PEC_Typ_2", "TWA_Laenge"}) {
+                const auto* w = p_->Teil<QWidget>(Name);
+                QVERIFY2(w->width() >= w->sizeHint().width(), Name);
+                QVERIFY2(w->height() >= w->minimumSizeHint().height(), Name);
+                QVERIFY2(Zeile->rect().contains(w->geometry()), Name);
+                for (const QRect& r : belegt) QVERIFY2(!r.intersects(w->geometry()), Name);
+                belegt << w->geometry();
+            }
+            QCOMPARE(Hoehe("Endpunkt_0") < Hoehe("PEC_Typ_0"), Breite == 900 || Breite == 1000);
+        }
+    }
+
+    void day_and_month_have_names_of_their_own() {
+        QCOMPARE(p_->Teil<QComboBox>("App_Tag")->accessibleName(), u"Date, day"_s);
+        QCOMPARE(p_->Teil<QComboBox>("App_Monat")->accessibleName(), u"Date, month"_s);
+    }
+
     void every_control_in_focus_has_a_name_for_screen_readers() {
         p_->waehle_Simulation("Sugar beet, Compound E");
         int gesehen = 0;

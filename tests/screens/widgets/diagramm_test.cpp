@@ -7,7 +7,10 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTableWidget>
+#include <QTextDocument>
+#include <QUrl>
 
+#include "reports/berichtsbild.h"
 #include "screens/widgets/anmeldung.h"
 #include "screens/widgets/diagrammprobe.h"
 #include "screens/widgets/qt_text.h"
@@ -52,9 +55,12 @@ private Q_SLOTS:
         QCOMPARE(p_->vorn()->objectName(), u"Diagramm_10"_s);
     }
 
-    void the_only_diagram_of_a_scheme_stays() {
+    void the_only_diagram_of_a_scheme_stays_and_there_is_nothing_to_print() {
+        p_->klicke("Bericht_erstellen");
+        p_->klicke("Bericht_schliessen");
         p_->klicke_Diagramm();
         QCOMPARE(p_->vorn()->objectName(), u"Diagramm_0"_s);
+        QVERIFY(!p_->Teil<QAction>("M_Drucken")->isEnabled());
     }
 
     void a_left_click_with_a_key_does_nothing() {
@@ -146,6 +152,13 @@ private Q_SLOTS:
         for (const char* Griff : {"Ergebnisrahmen_0", "Ergebnistitel_0"}) pruefe_Zug(p_->Teil<QWidget>(Griff), -25);
         pruefe_Zug(p_->Teil<QTableWidget>("Ergebnisse_0")->viewport(), -25);
         QVERIFY(p_->Teil<QTableWidget>("Ergebnisse_0")->selectedItems().isEmpty());
+    }
+
+    void in_the_background_view_the_legend_can_be_moved_and_there_is_no_grid() {
+        p_->waehle("PEC_Typ_1");
+        QVERIFY(!p_->sichtbar("Ergebnisrahmen_0"));
+        pruefe_Zug(p_->Teil<QWidget>("Legendenrahmen_0"), 25);
+        QVERIFY(!p_->sichtbar("Ergebnisrahmen_0"));
     }
 
     void a_frame_cannot_leave_the_surface() {
@@ -249,6 +262,51 @@ private Q_SLOTS:
         QVERIFY(!Tafel.intersects(p_->Teil<QWidget>("Legendenrahmen_0")->geometry()));
     }
 
+    // The numbers of the time axis stay in sight, also under the grid of six studies.
+    void a_grid_at_home_ends_above_the_time_axis() {
+        const auto pruefe = [&](const char* Name) {
+            const QRect Tafel = p_->Teil<QWidget>(Name)->geometry();
+            QCOMPARE(Tafel.top(), static_cast<int>(std::lround(4000.0 / 7500 * p_->vorn()->height())));
+            QVERIFY2(Tafel.bottom() < Zeitachse(), Name);
+        };
+        pruefe("Ergebnisrahmen_0");
+        p_->waehle_Simulation("Sugar beet, Compound E");
+        p_->waehle("PEC_Typ_0");
+        pruefe("Ergebnisrahmen_8");
+        p_->Teil<QAction>("M_Zusammenfassung")->trigger();
+        pruefe("Ergebnisrahmen_Zusammenfassung_6");
+        auto* Grid = p_->Teil<QTableWidget>("Ergebnisse_Zusammenfassung_6");
+        QCOMPARE(Grid->rowCount(), 13);
+        for (int i = 0; i < 12; ++i) QVERIFY(Grid->rowHeight(i) >= Grid->fontMetrics().ascent() + 1);
+    }
+
+    void the_report_takes_the_legend_from_where_it_was_dragged_to() {
+        const auto Ort = [&] { return p_->Programm().Diagramme().Legende(); };
+        QVERIFY(!Ort());
+        auto* Legende = p_->Teil<QWidget>("Legendenrahmen_0");
+        ziehe(Legende, QPoint(5, 5), QPoint(-200, 150));
+        QVERIFY(Ort());
+        QVERIFY(std::abs(Ort()->links * p_->vorn()->width() - Legende->x()) < 1);
+        QVERIFY(std::abs(Ort()->oben * p_->vorn()->height() - Legende->y()) < 1);
+        const QImage dort = erstelle_Berichtsbild(mit_Beschriftung(*p_->vorn()->Inhalt(), Ort()));
+        const QImage daheim = erstelle_Berichtsbild(mit_Beschriftung(*p_->vorn()->Inhalt()));
+        QVERIFY(dort != daheim);
+        QVERIFY(Berichtsbild_bei([&] { p_->klicke("Bericht_erstellen"); }) == dort);
+        QVERIFY(Berichtsbild_bei([&] { p_->Teil<QAction>("M_Bericht")->trigger(); }) == dort);
+        QVERIFY(Berichtsbild_bei([&] { QTest::keyClick(&p_->Fenster(), Qt::Key_R, Qt::ControlModifier); }) == dort);
+        p_->Teil<QAction>("M_Rahmen_zeigen")->trigger();
+        QVERIFY(!Ort());
+        QVERIFY(Berichtsbild_bei([&] { p_->klicke("Bericht_erstellen"); }) == daheim);
+    }
+
+    void a_hidden_legend_is_in_the_report_all_the_same() {
+        const QImage Bild = erstelle_Berichtsbild(mit_Beschriftung(*p_->vorn()->Inhalt()));
+        QTest::mouseClick(p_->Teil<QWidget>("Legendenrahmen_0"), Qt::LeftButton, Qt::ControlModifier);
+        QVERIFY(!p_->sichtbar("Legendenrahmen_0"));
+        QVERIFY(Berichtsbild_bei([&] { p_->klicke("Bericht_erstellen"); }) == Bild);
+        QVERIFY(!p_->sichtbar("Legendenrahmen_0"));
+    }
+
     void the_legend_of_a_summary_has_a_row_for_each_study() {
         p_->waehle_Simulation("Sugar beet, Compound E");
         p_->Teil<QAction>("M_Zusammenfassung")->trigger();
@@ -261,6 +319,27 @@ private Q_SLOTS:
     }
 
 private:
+    // The picture of the report that comes of it; none without one.
+    QImage Berichtsbild_bei(const std::function<void()>& Handlung) {
+        Handlung();
+        const Bericht* b = p_->Programm().offener_Bericht();
+        if (!b) return {};
+        const QVariant Bild = b->Dokument->resource(QTextDocument::ImageResource, QUrl(QString::fromLatin1(Bildname)));
+        p_->klicke("Bericht_schliessen");
+        return Bild.value<QImage>();
+    }
+
+    // Height of the time axis on the surface in front: the lowest row with many pixels drawn; curves may lie on it.
+    int Zeitachse() {
+        const QImage b = p_->Bild();
+        for (int y = b.height() - 1; y > 0; --y) {
+            int Anzahl = 0;
+            for (int x = 0; x < b.width(); ++x) Anzahl += (b.pixel(x, y) | 0xff000000) != 0xffffffff;
+            if (Anzahl > b.width() / 2) return y;
+        }
+        qFatal("no time axis");
+    }
+
     static QComboBox* Liste(QDialog& d, const char* Name) { return d.findChild<QComboBox*>(QString::fromLatin1(Name)); }
 
     template <class H>

@@ -1,4 +1,4 @@
-#include "screens/widgets/diagrammlage.h"
+#include "reports/diagrammlage.h"
 
 #include <QFontMetricsF>
 #include <algorithm>
