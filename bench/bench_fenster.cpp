@@ -94,7 +94,8 @@ void Bericht_erstellen(benchmark::State& Zustand) {
 BENCHMARK(Bericht_erstellen)->Unit(benchmark::kMillisecond);
 
 BENCHMARK_CAPTURE(Feld_verlassen, one_compound, "Programcheck", false)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(Feld_verlassen, twenty_treatments_two_metabolites, "Ornamentals, Compound D", false)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Feld_verlassen, twenty_treatments_two_metabolites, "Ornamentals, Compound D", false)
+    ->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Feld_verlassen, six_studies_summary, "Sugar beet, Compound E", true)->Unit(benchmark::kMillisecond);
 
 }  // namespace

@@ -87,7 +87,9 @@ void zweihundert_Slots(benchmark::State& Zustand) {
     rechne(Zustand, *schlimmster_Lauf(static_cast<int>(Zustand.range(0)), static_cast<int>(Zustand.range(1)),
                                       static_cast<double>(Zustand.range(2))));
 }
-BENCHMARK(zweihundert_Slots)->ArgsProduct({{0, 1, 2, 3}, {0, 1}, {5, 100}})->ArgNames({"kinetics", "climate", "DT50"})
+BENCHMARK(zweihundert_Slots)
+    ->ArgsProduct({{0, 1, 2, 3}, {0, 1}, {5, 100}})
+    ->ArgNames({"kinetics", "climate", "DT50"})
     ->Unit(benchmark::kMillisecond);
 
 // Peaks of years 9 and 10 in a ratio of 1 + 10^-n: the plain iteration would turn up to ten million times.

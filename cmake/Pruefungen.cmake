@@ -8,6 +8,7 @@ function(varnok_pruefung Name)
 endfunction()
 
 varnok_pruefung(pruefe_includes tools/pruefe_includes.py)
+varnok_pruefung(pruefe_format tools/pruefe_format.py)
 varnok_pruefung(pruefe_zahlentext tools/pruefe_zahlentext.py)
 varnok_pruefung(pruefungen_selbsttest -m unittest discover -s tests/tools -p "*_test.py")
 

@@ -17,8 +17,9 @@ Pakete=(
     python3 fonts-dejavu-core
 )
 
-# The smoke tests work the real window on a display of its own, one under a trace; tests read the PDF and the rich text of a report.
-Testpakete=(xvfb xauth openbox x11-apps xdotool strace poppler-utils unrtf)
+# The format of the sources is checked; the smoke tests work the real window on a display of its own, one under a trace; tests read
+# the PDF and the rich text of a report.
+Testpakete=(clang-format xvfb xauth openbox x11-apps xdotool strace poppler-utils unrtf)
 
 sage() { printf '%s\n' "$*" >&2; }
 

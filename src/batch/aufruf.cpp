@@ -80,7 +80,8 @@ void beschreibe_Optionen(CLI::App& App, Aufruf& a, Zahlentexte& Zahlen) {
         ->option_text("FILE");
     App.add_option("--series", a.Serienordner, "Write the daily series, one file for each simulation and study")
         ->option_text("DIR");
-    auto* Bericht = App.add_option("--report", a.Berichtsordner, "Write the standard report of each simulation and study as .rtf");
+    auto* Bericht =
+        App.add_option("--report", a.Berichtsordner, "Write the standard report of each simulation and study as .rtf");
     Bericht->option_text("DIR");
     App.add_flag("--extended", a.erweitert, "With --report: write the extended report of each simulation, too")->needs(Bericht);
     App.add_option("--jobs", Zahlen.Arbeiter, "Number of worker threads; 0, the default, is one for each core")->option_text("N");

@@ -33,7 +33,9 @@ struct Aufruf {
     int Teile = 1;
     bool leise = false;
 
-    bool Tabelle() const { return !leise && JSON_Datei.empty() && CSV_Datei.empty() && Serienordner.empty() && Berichtsordner.empty(); }
+    bool Tabelle() const {
+        return !leise && JSON_Datei.empty() && CSV_Datei.empty() && Serienordner.empty() && Berichtsordner.empty();
+    }
 };
 
 // A text that was asked for instead of a calculation: help or version.

@@ -24,7 +24,8 @@ void bereite_Berichte_vor() {
 void schreibe_Berichtsdatei(const std::string& Ordner, const Lauf& l, Berichtsart Art, const std::string& Namenszusatz,
                             std::vector<std::string>& Schreibfehler) {
     try {
-        Bericht b = schreibe_Bericht({l, Art, Programmversion, Berichtszeit_nach(Systemuhr()), erstelle_Berichtsdiagramm(l, Art), {}});
+        Bericht b =
+            schreibe_Bericht({l, Art, Programmversion, Berichtszeit_nach(Systemuhr()), erstelle_Berichtsdiagramm(l, Art), {}});
         b.Name += Namenszusatz;
         pruefe_Ausgabename(b.Name);
         speichere_Bericht(b, Ordner);

@@ -135,7 +135,8 @@ void rechne(const Auftrag& a, Simulationsergebnis& r, std::vector<std::string>& 
         r.Studien.push_back(rechne_Studie(*l, Satz, Klima, st));
         // The doses and the weather that a report tells of are those of the last run.
         if (a.Berichtsordner.empty()) continue;
-        schreibe_Berichtsdatei(a.Berichtsordner, *l, Berichtsart::Standard, Zusatz + Studienzusatz(*l, st, Studien.size()), Schreibfehler);
+        schreibe_Berichtsdatei(a.Berichtsordner, *l, Berichtsart::Standard, Zusatz + Studienzusatz(*l, st, Studien.size()),
+                               Schreibfehler);
     }
     if (a.erweitert) schreibe_Berichtsdatei(a.Berichtsordner, *l, Berichtsart::erweitert, Zusatz + " - extended", Schreibfehler);
 

@@ -26,10 +26,10 @@
 #include "batch/aufruf.h"
 #include "batch/ausgaben.h"
 #include "batch/auswahl.h"
+#include "batch/berichte.h"
 #include "batch/fortschrittsbalken.h"
 #include "batch/schreiber.h"
 #include "batch/simulationslauf.h"
-#include "batch/berichte.h"
 #include "records/dateien.h"
 #include "records/simulation.h"
 

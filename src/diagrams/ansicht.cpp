@@ -15,7 +15,7 @@ constexpr std::array<std::string_view, 4> Schematexte = {
     "Parent only", "Parent with 1 metabolite", "Parent and 2 metabolites (parallel)", "Parent and 2 metabolites (sequence)"};
 constexpr std::array<std::string_view, 4> Kinetiktexte = {"SFO", "DFOP", "FOMC", "HS"};
 constexpr std::array<std::string_view, 3> Titelanfaenge = {"Annual concentration of ", "Background concentration of ",
-                                                          "PEC acumumlation for "};
+                                                           "PEC acumumlation for "};
 // [unit][endpoint]
 constexpr std::array<std::array<std::string_view, 2>, 2> Einheiten = {{{"mg/kg", "mg/L"}, {"µg/kg", "µg/L"}}};
 constexpr std::array<std::string_view, 2> Ergebnisworte = {"Total soil concentrations (", "Pore water concentrations ("};
@@ -94,8 +94,9 @@ std::string_view Kinetiktext(const Lauf& l, int i_substanz, int i_studie) {
 std::string_view Schematext(int Berechnungsmodus) { return Eintrag(Schematexte, Berechnungsmodus); }
 
 std::string Stoffkommentar(const Lauf& l, int i_substanz, int i_studie) {
-    return "Mode: " + std::string(Schematext(l.Felder.Berechnungsmodus)) + "  - presented substance: " +
-           Stoffname(l.Felder, i_substanz) + " (kinetics: " + std::string(Kinetiktext(l, i_substanz, i_studie)) + " )";
+    return "Mode: " + std::string(Schematext(l.Felder.Berechnungsmodus)) +
+           "  - presented substance: " + Stoffname(l.Felder, i_substanz) +
+           " (kinetics: " + std::string(Kinetiktext(l, i_substanz, i_studie)) + " )";
 }
 
 }  // namespace varnok

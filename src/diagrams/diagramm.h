@@ -67,7 +67,7 @@ struct Nebenprodukt {
 };
 
 struct Diagramm {
-    int Satz = 0;                 // `Diagrammsatz`, or `Zusammenfassungssatz` in a summary
+    int Satz = 0;  // `Diagrammsatz`, or `Zusammenfassungssatz` in a summary
     bool Zusammenfassung = false;
     Zeichenliste Liste;
     Beschriftung Titel;

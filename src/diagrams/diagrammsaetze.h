@@ -7,7 +7,7 @@
 
 namespace varnok {
 
-inline constexpr int Diagrammzahl = 12;        // indices `Diagrammsatz`
+inline constexpr int Diagrammzahl = 12;         // indices `Diagrammsatz`
 inline constexpr int Zusammenfassungszahl = 9;  // indices `Zusammenfassungssatz`
 inline constexpr int kein_Satz = -1;
 
@@ -21,13 +21,29 @@ struct Satzplatz {
 
 inline constexpr std::array<Satzplatz, Diagrammzahl> Diagrammplaetze = {{
     {0, 0},
-    {1, 0}, {1, 1}, {1, alle_Stoffe},
-    {2, 0}, {2, 1}, {2, 2}, {2, alle_Stoffe},
-    {3, 0}, {3, 1}, {3, 2}, {3, alle_Stoffe},
+    {1, 0},
+    {1, 1},
+    {1, alle_Stoffe},
+    {2, 0},
+    {2, 1},
+    {2, 2},
+    {2, alle_Stoffe},
+    {3, 0},
+    {3, 1},
+    {3, 2},
+    {3, alle_Stoffe},
 }};
 
 inline constexpr std::array<Satzplatz, Zusammenfassungszahl> Zusammenfassungsplaetze = {{
-    {0, 0}, {1, 0}, {1, 1}, {2, 0}, {2, 1}, {2, 2}, {3, 0}, {3, 1}, {3, 2},
+    {0, 0},
+    {1, 0},
+    {1, 1},
+    {2, 0},
+    {2, 1},
+    {2, 2},
+    {3, 0},
+    {3, 1},
+    {3, 2},
 }};
 
 template <std::size_t Anzahl>
@@ -69,13 +85,29 @@ struct Ringziel {
 
 inline constexpr std::array<Ringziel, Diagrammzahl> Diagrammring = {{
     {0, 0, true},
-    {2, 1}, {3, 0}, {1, 0},
-    {5, 1}, {6, 2}, {7, 0}, {4, 0},
-    {9, 1}, {10, 2}, {11, 0}, {8, 0},
+    {2, 1},
+    {3, 0},
+    {1, 0},
+    {5, 1},
+    {6, 2},
+    {7, 0},
+    {4, 0},
+    {9, 1},
+    {10, 2},
+    {11, 0},
+    {8, 0},
 }};
 
 inline constexpr std::array<Ringziel, Zusammenfassungszahl> Zusammenfassungsring = {{
-    {0, 0, true}, {2, 1}, {1, 0}, {4, 1}, {5, 2}, {3, 0}, {7, 1}, {8, 2}, {6, 0},
+    {0, 0, true},
+    {2, 1},
+    {1, 0},
+    {4, 1},
+    {5, 2},
+    {3, 0},
+    {7, 1},
+    {8, 2},
+    {6, 0},
 }};
 
 // A place on the surface in fractions of its width and height, measured from the upper left corner.

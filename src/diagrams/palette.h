@@ -19,10 +19,22 @@ inline constexpr int Schwarz = 0;
 
 // Index -> red, green, blue.
 inline constexpr std::array<Farbwert, 16> Palette = {{
-    {0, 0, 0},       {0, 0, 128},   {0, 128, 0},   {0, 128, 128},  // black, blue, green, cyan
-    {128, 0, 0},     {128, 0, 128}, {128, 128, 0}, {192, 192, 192},  // red, magenta, brown, light grey
-    {128, 128, 128}, {0, 0, 255},   {0, 255, 0},   {0, 255, 255},  // dark grey, light blue, light green, light cyan
-    {255, 0, 0},     {255, 0, 255}, {255, 255, 0}, {255, 255, 255},  // light red, light magenta, yellow, white
+    {0, 0, 0},
+    {0, 0, 128},
+    {0, 128, 0},
+    {0, 128, 128},  // black, blue, green, cyan
+    {128, 0, 0},
+    {128, 0, 128},
+    {128, 128, 0},
+    {192, 192, 192},  // red, magenta, brown, light grey
+    {128, 128, 128},
+    {0, 0, 255},
+    {0, 255, 0},
+    {0, 255, 255},  // dark grey, light blue, light green, light cyan
+    {255, 0, 0},
+    {255, 0, 255},
+    {255, 255, 0},
+    {255, 255, 255},  // light red, light magenta, yellow, white
 }};
 
 // A compound's curve is dark, its averaging window the same colour in light; a study has one light colour for both.

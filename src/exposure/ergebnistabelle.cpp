@@ -24,13 +24,16 @@ void schneide_Nullen(std::string& Text) {
     Text.resize(Text.find_last_not_of('0') + 1);
 }
 
-std::string Blanks(std::ptrdiff_t Anzahl) { return std::string(static_cast<std::size_t>(std::max<std::ptrdiff_t>(0, Anzahl)), ' '); }
+std::string Blanks(std::ptrdiff_t Anzahl) {
+    return std::string(static_cast<std::size_t>(std::max<std::ptrdiff_t>(0, Anzahl)), ' ');
+}
 
 // Text of a stored value in the view and rotation of the entry fields.
 std::string Zellentext(const Lauf& l, int i_studie, int i_substanz, float gespeichert) {
     const auto e = static_cast<std::size_t>(l.Felder.Endpunkt);
     const float Plateau = l.Speicher.Plateauwert[e][static_cast<std::size_t>(i_studie)][static_cast<std::size_t>(i_substanz)];
-    return Formatiere_Zahl(Ansichtswert(Plateau, l.Felder.PEC_Typ, l.Felder.Fruchtwechsel, gespeichert), false, true, l.Parameter.Einheit);
+    return Formatiere_Zahl(Ansichtswert(Plateau, l.Felder.PEC_Typ, l.Felder.Fruchtwechsel, gespeichert), false, true,
+                           l.Parameter.Einheit);
 }
 
 }  // namespace
@@ -63,7 +66,8 @@ int PECactual_Tag(const Lauf& l, int i_endpunkt, int i_studie, int i_substanz, i
 
 float PECactual(const Lauf& l, int i_endpunkt, int i_studie, int i_substanz, int Fenster) {
     const auto e = static_cast<std::size_t>(i_endpunkt);
-    const bool nie_vorhanden = l.Speicher.Maximumtag_Bodentiefe[e][static_cast<std::size_t>(i_studie)][static_cast<std::size_t>(i_substanz)] < 0;
+    const bool nie_vorhanden =
+        l.Speicher.Maximumtag_Bodentiefe[e][static_cast<std::size_t>(i_studie)][static_cast<std::size_t>(i_substanz)] < 0;
     if (nie_vorhanden) return 0;
     const int d = PECactual_Tag(l, i_endpunkt, i_studie, i_substanz, Fenster);
     return l.Speicher.Reihe_Bodentiefe(i_endpunkt, i_studie, i_substanz, 0)[static_cast<std::size_t>(d)];

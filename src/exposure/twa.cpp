@@ -59,7 +59,8 @@ void berechne_TWA(Lauf& l) {
     const auto c = static_cast<std::size_t>(l.i_substanz);
     for (std::size_t j = 1; j <= static_cast<std::size_t>(Anzahl_TWA(l.Parameter.TWA_Zeiten)); ++j) {
         const auto Laenge = static_cast<double>(s.TWA_Tage[j]);
-        if (!(Laenge > 0) || !std::isfinite(Laenge)) melde_unmoegliche_Rechnung("length of TWA window " + std::to_string(j) + " (d) = " + allgemeine_Zahl(Laenge));
+        if (!(Laenge > 0) || !std::isfinite(Laenge))
+            melde_unmoegliche_Rechnung("length of TWA window " + std::to_string(j) + " (d) = " + allgemeine_Zahl(Laenge));
         for (std::size_t e = 0; e < Endpunkte; ++e) {
             const Fenstermaximum m = suche(s.Integral_Bodentiefe(static_cast<int>(e), l.i_studie, l.i_substanz), Laenge);
             if (!std::isfinite(m.Mittel)) melde_unmoegliche_Rechnung("length of TWA window (d) = " + allgemeine_Zahl(Laenge));

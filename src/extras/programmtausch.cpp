@@ -44,25 +44,38 @@ std::string Tauschskript(const Skriptangaben& a) {
     const std::string neu = Shellwort("New_" + a.Programm);
     const std::string Teil = Shellwort("New_" + a.Programm + ".part");
     return "#!/bin/sh\n"
-           "cd " + Shellwort(a.Ordner) + " || exit 1\n"
+           "cd " +
+           Shellwort(a.Ordner) +
+           " || exit 1\n"
            "Runden=0\n"
-           "while kill -0 " + std::to_string(a.Prozess) + " 2>/dev/null; do\n"
+           "while kill -0 " +
+           std::to_string(a.Prozess) +
+           " 2>/dev/null; do\n"
            "    Runden=$((Runden + 1))\n"
            "    if [ $Runden -gt 600 ]; then\n"
-           "        rm -f " + neu + " update.sh\n"
+           "        rm -f " +
+           neu +
+           " update.sh\n"
            "        exit 1\n"
            "    fi\n"
            "    sleep 0.1\n"
            "done\n"
-           "cp -p " + neu + " " + Teil + " && mv -f " + Teil + " " + alt + "\n"
-           "rm -f " + neu + " " + Teil + " update.sh\n"
-           "cd " + Shellwort(a.Startordner) + "\n"
-           "exec " + Shellwort(a.Ordner + "/" + a.Programm) + "\n";
+           "cp -p " +
+           neu + " " + Teil + " && mv -f " + Teil + " " + alt +
+           "\n"
+           "rm -f " +
+           neu + " " + Teil +
+           " update.sh\n"
+           "cd " +
+           Shellwort(a.Startordner) +
+           "\n"
+           "exec " +
+           Shellwort(a.Ordner + "/" + a.Programm) + "\n";
 }
 
 std::string Tauschstapel() {
-    constexpr std::array Zeilen = {"Echo on",    "Pause",          "copy New_Varnok.exe Varnok.exe", "del New_Varnok.exe",
-                                   "Varnok.exe", "del update.bat", "exit"};
+    constexpr std::array Zeilen = {
+        "Echo on", "Pause", "copy New_Varnok.exe Varnok.exe", "del New_Varnok.exe", "Varnok.exe", "del update.bat", "exit"};
     std::string Text;
     for (const char* Zeile : Zeilen) Text.append(Zeile).append("\r\n");
     return Text;

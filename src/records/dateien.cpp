@@ -103,7 +103,8 @@ void benenne_Datei_um(const std::string& von, const std::string& nach) {
 
 void loesche_Datei(const std::string& Pfad) {
     std::error_code Fehler;
-    if (!std::filesystem::remove(als_Pfad(Pfad), Fehler)) melde("delete", Pfad, Fehler ? Fehler.message() : "there is no such file");
+    if (!std::filesystem::remove(als_Pfad(Pfad), Fehler))
+        melde("delete", Pfad, Fehler ? Fehler.message() : "there is no such file");
 }
 
 }  // namespace varnok

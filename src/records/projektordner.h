@@ -8,8 +8,15 @@
 namespace varnok {
 
 // Kinds of record; the number indexes `Endungen`.
-enum Satzart { Simulation = 0, Wirkstoff = 1, Applikation = 2, Szenario = 3,
-               Vorlage_Wirkstoff = 4, Vorlage_Applikation = 5, Vorlage_Szenario = 6 };
+enum Satzart {
+    Simulation = 0,
+    Wirkstoff = 1,
+    Applikation = 2,
+    Szenario = 3,
+    Vorlage_Wirkstoff = 4,
+    Vorlage_Applikation = 5,
+    Vorlage_Szenario = 6
+};
 
 inline constexpr std::array<const char*, 7> Endungen = {".vnk", ".che", ".app", ".sce", ".chn", ".apn", ".scn"};
 inline constexpr const char* Klima_Endung = ".cli";

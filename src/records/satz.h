@@ -14,7 +14,7 @@ namespace varnok {
 
 // Something in a record that was read in a way its author may not have meant.
 struct Bemerkung {
-    int Zeile = 0;  // counted from 1
+    int Zeile = 0;     // counted from 1
     std::string Text;  // e.g. "abc" is no number and was read as 0
 };
 
@@ -26,8 +26,8 @@ enum class Leseausgang {
 
 struct Lesebefund {
     Leseausgang Ausgang = Leseausgang::gelesen;
-    int Zeile = 0;       // of the end of an early stop, counted from 1
-    std::string Grund;   // why reading stopped
+    int Zeile = 0;      // of the end of an early stop, counted from 1
+    std::string Grund;  // why reading stopped
     std::vector<Bemerkung> Bemerkungen;
 };
 

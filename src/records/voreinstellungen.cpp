@@ -42,10 +42,13 @@ void stelle_Voreinstellungen_her(const Projektordner& Ordner, const std::vector<
         // The last source wins: the program's own template over that of the project.
         const auto andere = Vorlagen_der(Quellen, Vorlage);
         const auto Pfad = andere.empty() ? Ordner.finde(Vorlagenname, Endung) : std::optional(andere.back());
-        if (!Pfad) throw Laufzeitfehler("The template \"" + std::string(Vorlagenname) + Endung + "\" is missing in " + Ordner.Eingabeordner());
+        if (!Pfad)
+            throw Laufzeitfehler("The template \"" + std::string(Vorlagenname) + Endung + "\" is missing in " +
+                                 Ordner.Eingabeordner());
         Inhalte[i] = lies_Datei(*Pfad);
     }
-    for (std::size_t i = 0; i < Inhalte.size(); ++i) schreibe_Datei(Ordner.Zielpfad(Startsimulation, Endungen[Wirkstoff + i]), Inhalte[i]);
+    for (std::size_t i = 0; i < Inhalte.size(); ++i)
+        schreibe_Datei(Ordner.Zielpfad(Startsimulation, Endungen[Wirkstoff + i]), Inhalte[i]);
     schreibe_Simulation(Ordner, Startsimulation, {Startsimulation, {"", Startsimulation, Startsimulation, Startsimulation}});
 }
 

@@ -13,8 +13,7 @@ constexpr double Luecke = 4;  // between a number and its tick, and between two 
 
 // The axes as the drawing has them: margins in shares of the axis lengths.
 struct Achsen {
-    explicit Achsen(const Koordinaten& k)
-        : Laenge_x(k.Breite() / 1.13), Start(k.links + Laenge_x / 10), Laenge_y(k.oben / 1.1) {}
+    explicit Achsen(const Koordinaten& k) : Laenge_x(k.Breite() / 1.13), Start(k.links + Laenge_x / 10), Laenge_y(k.oben / 1.1) {}
 
     bool an_x_Achse(const Schriftzug& s) const { return s.Ort.y < 0; }
     bool an_y_Achse(const Schriftzug& s) const { return s.Ort.x < Start - Laenge_x / 20; }
@@ -78,10 +77,12 @@ Koordinaten passe_an_Flaeche(Zeichenliste& z, const QSizeF& Flaeche, const Diagr
             s.Ort.x = a.Start - a.Laenge_x / 50 - (Luecke + Textbreite(s)) * x;
         }
     }
-    lichte(z.Texte, [&](const Schriftzug& s) { return a.an_x_Achse(s); },
-           [&](const Schriftzug& s) { return std::pair(s.Ort.x, s.Ort.x + (Textbreite(s) + Luecke) * x); });
-    lichte(z.Texte, [&](const Schriftzug& s) { return !a.an_x_Achse(s) && s.Ort.x < a.Start; },
-           [&](const Schriftzug& s) { return std::pair(s.Ort.y, s.Ort.y + 0.8 * Zeile * y); });
+    lichte(
+        z.Texte, [&](const Schriftzug& s) { return a.an_x_Achse(s); },
+        [&](const Schriftzug& s) { return std::pair(s.Ort.x, s.Ort.x + (Textbreite(s) + Luecke) * x); });
+    lichte(
+        z.Texte, [&](const Schriftzug& s) { return !a.an_x_Achse(s) && s.Ort.x < a.Start; },
+        [&](const Schriftzug& s) { return std::pair(s.Ort.y, s.Ort.y + 0.8 * Zeile * y); });
     return {a.Start, a.Laenge_y, a.Start + a.Laenge_x, 0};
 }
 

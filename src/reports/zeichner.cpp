@@ -106,8 +106,8 @@ Schriftsatz setze_Schrift(const QRectF& Flaeche, const Koordinaten& System, cons
 void passe_Legende_an(Legende& l, Beschriftungsplaetze& p, double Flaechenbreite) {
     constexpr double Hoechstbreite = 1.0 / 3;
     constexpr double kuerzeste_Musterlinie = 0.87;  // its left end
-    constexpr double Luecke = 4;                     // units between text and sample line
-    constexpr double Rand = 6;                       // units
+    constexpr double Luecke = 4;                    // units between text and sample line
+    constexpr double Rand = 6;                      // units
     const QFontMetricsF Masse(Diagrammschrift(Schriftgroesse_Fenster));
     const auto noetig = [&](const Legendenzeile& z) { return Masse.horizontalAdvance(QString::fromStdString(z.Text)) + Luecke; };
     // Share of the frame from the start of a row's text to what stands behind it.

@@ -32,7 +32,8 @@ public:
     explicit Abbau_DFOP(Lauf& l) : Abbau(l), g_(l.Parameter.g_DFOP[0][Studie()]) {}
 
     void korrigiere(const Korrektur& k) override {
-        Rest_ = {std::exp(-k.korrigiert(l_.Parameter.k1_DFOP[0][Studie()])), std::exp(-k.korrigiert(l_.Parameter.k2_DFOP[0][Studie()]))};
+        Rest_ = {std::exp(-k.korrigiert(l_.Parameter.k1_DFOP[0][Studie()])),
+                 std::exp(-k.korrigiert(l_.Parameter.k2_DFOP[0][Studie()]))};
     }
 
     void baue_ab(int d, int Anzahl) override {
@@ -48,7 +49,8 @@ public:
     void dosiere(int Slot, int d, double C) override {
         const auto s = static_cast<std::size_t>(Slot);
         const Phasen Teile = teile(C);
-        const Phasen Plateauteile = {Teile.schnell * Tiefe_Boden_ / Tiefe_Plateau_, Teile.langsam * Tiefe_Boden_ / Tiefe_Plateau_};
+        const Phasen Plateauteile = {Teile.schnell * Tiefe_Boden_ / Tiefe_Plateau_,
+                                     Teile.langsam * Tiefe_Boden_ / Tiefe_Plateau_};
         Reihen_.Plateau[Slot][d] = addiere(Phase_Plateau_[s], Plateauteile);
         if (Jahr_von(d) == 1) Reihen_.Boden[Slot][d] = addiere(Phase_Boden_[s], Teile);
     }

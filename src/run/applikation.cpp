@@ -72,7 +72,8 @@ bool lade_unregelmaessig(const Eingabe& e, Ergebnisspeicher& s, double k) {
     }
     s.Anzahl_pro_Jahr = static_cast<std::int16_t>(n);
     const int letzter = s.Applikationstag[static_cast<std::size_t>(n)];
-    s.Wirksame_Rate = wirksame_Rate(s, n, k, [&](int i) { return -k * (letzter - s.Applikationstag[static_cast<std::size_t>(i)]); });
+    s.Wirksame_Rate =
+        wirksame_Rate(s, n, k, [&](int i) { return -k * (letzter - s.Applikationstag[static_cast<std::size_t>(i)]); });
     return true;
 }
 
@@ -81,7 +82,8 @@ void wiederhole_jaehrlich(Ergebnisspeicher& s) {
     const auto n = static_cast<std::size_t>(s.Anzahl_pro_Jahr);
     for (std::size_t Jahr = 1; Jahr <= Jahre; ++Jahr) {
         for (std::size_t j = 1; j <= n; ++j) {
-            s.Applikationstag[Jahr * n + j] = static_cast<std::int16_t>(s.Applikationstag[j] + Tage_pro_Jahr * static_cast<int>(Jahr));
+            s.Applikationstag[Jahr * n + j] =
+                static_cast<std::int16_t>(s.Applikationstag[j] + Tage_pro_Jahr * static_cast<int>(Jahr));
         }
         for (std::size_t j = 0; j < Tage_pro_Jahr; ++j) s.Tagesrate[Tage_pro_Jahr * (Jahr - 1) + j] = s.Tagesrate[j];
     }

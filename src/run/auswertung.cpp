@@ -18,9 +18,12 @@ Tagesauswertung::Tagesauswertung(Lauf& l)
     : l_(&l),
       st_(static_cast<std::size_t>(l.i_studie)),
       c_(static_cast<std::size_t>(l.i_substanz)),
-      Plateau_{l.Speicher.Reihe_Plateautiefe(0, l.i_studie, l.i_substanz, 0), l.Speicher.Reihe_Plateautiefe(1, l.i_studie, l.i_substanz, 0)},
-      Boden_{l.Speicher.Reihe_Bodentiefe(0, l.i_studie, l.i_substanz, 0), l.Speicher.Reihe_Bodentiefe(1, l.i_studie, l.i_substanz, 0)},
-      Integral_{l.Speicher.Integral_Bodentiefe(0, l.i_studie, l.i_substanz), l.Speicher.Integral_Bodentiefe(1, l.i_studie, l.i_substanz)} {}
+      Plateau_{l.Speicher.Reihe_Plateautiefe(0, l.i_studie, l.i_substanz, 0),
+               l.Speicher.Reihe_Plateautiefe(1, l.i_studie, l.i_substanz, 0)},
+      Boden_{l.Speicher.Reihe_Bodentiefe(0, l.i_studie, l.i_substanz, 0),
+             l.Speicher.Reihe_Bodentiefe(1, l.i_studie, l.i_substanz, 0)},
+      Integral_{l.Speicher.Integral_Bodentiefe(0, l.i_studie, l.i_substanz),
+                l.Speicher.Integral_Bodentiefe(1, l.i_studie, l.i_substanz)} {}
 
 void Tagesauswertung::beginne() {
     Ergebnisspeicher& s = l_->Speicher;

@@ -32,9 +32,9 @@ struct Eingabe {
 
     // application pattern record
     int Applikationsmuster = einzeln;
-    int PEC_Typ = 0;   // 0 annual, 1 background, 2 accumulation
-    int App_Monat = 0;  // month less one
-    int App_Tag = 0;    // day of the month less one
+    int PEC_Typ = 0;                        // 0 annual, 1 background, 2 accumulation
+    int App_Monat = 0;                      // month less one
+    int App_Tag = 0;                        // day of the month less one
     std::string Applikationsrate = "1000";  // g/ha
     std::string Interzeption = "0";         // %
     int Intervall_Index = 364;              // days less one; the list is full before a record is read

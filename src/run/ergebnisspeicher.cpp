@@ -12,7 +12,9 @@ constexpr std::size_t Tage = Tagesplaetze;
 // The study stands in front, so that the section of a run is one piece.
 std::size_t Platz(int i_endpunkt, int i_studie, int i_substanz, int Slot, int Slots) {
     const auto Reihe = ((static_cast<std::size_t>(i_studie) * Endpunkte + static_cast<std::size_t>(i_endpunkt)) * Stoffe +
-                        static_cast<std::size_t>(i_substanz)) * static_cast<std::size_t>(Slots) + static_cast<std::size_t>(Slot);
+                        static_cast<std::size_t>(i_substanz)) *
+                           static_cast<std::size_t>(Slots) +
+                       static_cast<std::size_t>(Slot);
     return Reihe * Tage;
 }
 

@@ -44,7 +44,7 @@ public:
     // The same, and what is derived from the series: nothing of the study stands as a result.
     void verwirf_Studie(int i_studie);
 
-    std::array<float, Tagesplaetze> Tagesrate{};  // net dose on the soil, g/ha
+    std::array<float, Tagesplaetze> Tagesrate{};                  // net dose on the soil, g/ha
     std::array<std::int16_t, Ereignisplaetze> Applikationstag{};  // day of event k; place 0 unused
     std::int16_t Anzahl_pro_Jahr = 0;
     double Wirksame_Rate = 0;  // the year's doses, each decayed to the last one, g/ha

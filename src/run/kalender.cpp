@@ -12,17 +12,13 @@ constexpr std::array<int, 13> Tage_davor = {0, 31, 59, 90, 120, 151, 181, 212, 2
 
 }  // namespace
 
-int Julian(int Monat) {
-    return Monat >= 1 && Monat <= 12 ? Tage_davor[static_cast<std::size_t>(Monat - 1)] : 0;
-}
+int Julian(int Monat) { return Monat >= 1 && Monat <= 12 ? Tage_davor[static_cast<std::size_t>(Monat - 1)] : 0; }
 
 int Tage_im_Monat(int Monat) {
     const auto i = static_cast<std::size_t>(Monat);
     return Tage_davor.at(i) - Tage_davor.at(i - 1);
 }
 
-int laengstes_Intervall(int Anzahl) {
-    return static_cast<int>(std::nearbyint(static_cast<double>(Tage_pro_Jahr) / Anzahl));
-}
+int laengstes_Intervall(int Anzahl) { return static_cast<int>(std::nearbyint(static_cast<double>(Tage_pro_Jahr) / Anzahl)); }
 
 }  // namespace varnok

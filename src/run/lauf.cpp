@@ -59,10 +59,14 @@ bool lade_Klima(Lauf& l, const Klimaquelle& Quelle) {
 
 std::string Meldung(Laufausgang Ausgang) {
     switch (Ausgang) {
-        case Laufausgang::berechnet: return {};
-        case Laufausgang::Tabelle_ungueltig: return "You entered application dates that are not valid. Please correct!";
-        case Laufausgang::Datumsfolge_ungueltig: return "The sequence of application dates that is not valid. Please correct!";
-        case Laufausgang::Klimadatei_fehlt: return "Cannot load climate data file. Please correct!";
+        case Laufausgang::berechnet:
+            return {};
+        case Laufausgang::Tabelle_ungueltig:
+            return "You entered application dates that are not valid. Please correct!";
+        case Laufausgang::Datumsfolge_ungueltig:
+            return "The sequence of application dates that is not valid. Please correct!";
+        case Laufausgang::Klimadatei_fehlt:
+            return "Cannot load climate data file. Please correct!";
     }
     return {};
 }

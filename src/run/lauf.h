@@ -12,9 +12,9 @@ namespace varnok {
 
 // Values of the day in work. Every compound calculation rewrites them; after it they keep the last day's.
 struct Tageswerte {
-    double Tagestemperatur = 20;  // degrees C
-    double Bodenfeuchte = 0;      // Vol%
-    double Referenzfeuchte = 0;   // Vol%, moisture at which the correction factor is 1
+    double Tagestemperatur = 20;   // degrees C
+    double Bodenfeuchte = 0;       // Vol%
+    double Referenzfeuchte = 0;    // Vol%, moisture at which the correction factor is 1
     double Tagesniederschlag = 0;  // mm
     double Tagesverdunstung = 0;   // mm
     double Summe_Temperatur = 0;   // sums of what was read from the climate file
@@ -47,14 +47,14 @@ struct Rechenschritte {
 
 enum class Laufausgang {
     berechnet,
-    Tabelle_ungueltig,       // a day or month cell of the table converts to 0; the stores are untouched
-    Datumsfolge_ungueltig,   // irregular dates do not ascend; the study's stores are cleared
-    Klimadatei_fehlt,        // the climate file cannot be opened; the study's stores are cleared
+    Tabelle_ungueltig,      // a day or month cell of the table converts to 0; the stores are untouched
+    Datumsfolge_ungueltig,  // irregular dates do not ascend; the study's stores are cleared
+    Klimadatei_fehlt,       // the climate file cannot be opened; the study's stores are cleared
 };
 
 struct Laufergebnis {
     Laufausgang Ausgang = Laufausgang::berechnet;
-    int Zeile = 0;   // cell at fault of the table, counted from 0
+    int Zeile = 0;  // cell at fault of the table, counted from 0
     int Spalte = 0;
 
     bool gelungen() const { return Ausgang == Laufausgang::berechnet; }

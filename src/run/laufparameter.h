@@ -40,25 +40,25 @@ inline constexpr int HS = 3;    // parent only
 // program that has read no record yet.
 struct Laufparameter {
     // scenario
-    double Bodendichte = 0;        // kg/L
-    double Bodentiefe = 0;         // cm
-    double Plateautiefe = 0;       // cm
-    double Kohlenstoffgehalt = 0;  // %
-    double Feldkapazitaet = 0;     // Vol%
-    double Welkepunkt = 0;         // Vol%
-    std::uint8_t Klimamodus = 0;   // 0 constant temperature, 1 climate file
+    double Bodendichte = 0;                // kg/L
+    double Bodentiefe = 0;                 // cm
+    double Plateautiefe = 0;               // cm
+    double Kohlenstoffgehalt = 0;          // %
+    double Feldkapazitaet = 0;             // Vol%
+    double Welkepunkt = 0;                 // Vol%
+    std::uint8_t Klimamodus = 0;           // 0 constant temperature, 1 climate file
     std::uint8_t Szenariotemperatur = 20;  // degrees C
 
     // options
-    std::uint8_t Einheit = 0;                // 0 mg, 1 microgram
-    std::uint8_t Separate_Rueckstaende = 0;  // 0 no, 1 yes, 2 within a year
-    std::uint8_t TWA_Zeiten = 1;             // 0 monthly list, 1 EU list
+    std::uint8_t Einheit = 0;                         // 0 mg, 1 microgram
+    std::uint8_t Separate_Rueckstaende = 0;           // 0 no, 1 yes, 2 within a year
+    std::uint8_t TWA_Zeiten = 1;                      // 0 monthly list, 1 EU list
     std::array<std::uint8_t, 7> Ausgabename_Teile{};  // product, study, kinetics, endpoint, date, time, unused
-    std::uint8_t Rechenmodus = 0;            // carried through the record
+    std::uint8_t Rechenmodus = 0;                     // carried through the record
 
     // compounds
     std::uint8_t Anzahl_Studien = 1;
-    Stofftabelle<double> KOC = fuer_alle(0.0);      // L/kg
+    Stofftabelle<double> KOC = fuer_alle(0.0);  // L/kg
     Stofftabelle<double> Q10 = fuer_alle(1.0);
     Stofftabelle<double> Walker = fuer_alle(0.0);
     Stofftabelle<double> TRef = fuer_alle(20.0);    // degrees C
@@ -71,7 +71,7 @@ struct Laufparameter {
     Studientabelle<double> beta_FOMC = ueberall(1.0);  // d
     Studientabelle<double> k1_HS = ueberall(0.01);     // 1/d
     Studientabelle<double> k2_HS = ueberall(0.01);
-    Studientabelle<double> Tb_HS = ueberall(10.0);     // d
+    Studientabelle<double> Tb_HS = ueberall(10.0);  // d
 
     // averaging windows, days; places count from 0
     std::array<double, 10> TWA_Liste_EU = {1, 2, 4, 7, 14, 21, 28, 42, 50, 100};

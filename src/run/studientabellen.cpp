@@ -11,10 +11,10 @@ using Studienwert = Studientabelle<double> Laufparameter::*;
 
 constexpr std::array<Stoffwert, 5> ortsfest = {&Laufparameter::KOC, &Laufparameter::Q10, &Laufparameter::Walker,
                                                &Laufparameter::TRef, &Laufparameter::Kinetik};
-constexpr std::array<Stoffwert, 4> Konstanten_je_Stoff = {&Laufparameter::k_SFO, &Laufparameter::k1_DFOP,
-                                                          &Laufparameter::k2_DFOP, &Laufparameter::g_DFOP};
-constexpr std::array<Studienwert, 5> Konstanten = {&Laufparameter::alpha_FOMC, &Laufparameter::beta_FOMC,
-                                                   &Laufparameter::k1_HS, &Laufparameter::k2_HS, &Laufparameter::Tb_HS};
+constexpr std::array<Stoffwert, 4> Konstanten_je_Stoff = {&Laufparameter::k_SFO, &Laufparameter::k1_DFOP, &Laufparameter::k2_DFOP,
+                                                          &Laufparameter::g_DFOP};
+constexpr std::array<Studienwert, 5> Konstanten = {&Laufparameter::alpha_FOMC, &Laufparameter::beta_FOMC, &Laufparameter::k1_HS,
+                                                   &Laufparameter::k2_HS, &Laufparameter::Tb_HS};
 
 void uebernimm(Studientabelle<double>& Tabelle, const Studientabelle<double>& Start, std::size_t ab) {
     std::copy(Start.begin() + static_cast<std::ptrdiff_t>(ab), Start.end(), Tabelle.begin() + static_cast<std::ptrdiff_t>(ab));

@@ -33,7 +33,8 @@ double PW_faktor(const Lauf& l, int i_studie, int i_substanz) {
     const double KOC = l.Parameter.KOC[static_cast<std::size_t>(i_substanz)][static_cast<std::size_t>(i_studie)];
     const double Faktor = (l.Parameter.Kohlenstoffgehalt * KOC) / 100 + (l.Tag.Bodenfeuchte / 100) / l.Parameter.Bodendichte;
     if (Faktor == 0 || !std::isfinite(Faktor)) {
-        melde_unmoegliche_Rechnung("KOC (L/kg) = " + allgemeine_Zahl(KOC) + ", soil moisture (Vol%) = " + allgemeine_Zahl(l.Tag.Bodenfeuchte));
+        melde_unmoegliche_Rechnung("KOC (L/kg) = " + allgemeine_Zahl(KOC) +
+                                   ", soil moisture (Vol%) = " + allgemeine_Zahl(l.Tag.Bodenfeuchte));
     }
     return Faktor;
 }
@@ -46,8 +47,9 @@ Korrektur bestimme_Korrektur(const Lauf& l, int i_studie, int i_substanz) {
     k.Temperatur = std::pow(p.Q10[c][st], (l.Tag.Tagestemperatur - p.TRef[c][st]) / 10);
     k.Feuchte = std::pow(l.Tag.Bodenfeuchte / l.Tag.Referenzfeuchte, p.Walker[c][st]);
     if (!std::isfinite(k.Faktor())) {
-        melde_unmoegliche_Rechnung("Q10-factor = " + allgemeine_Zahl(p.Q10[c][st]) + ", Walker-exponent = " +
-                                   allgemeine_Zahl(p.Walker[c][st]) + ", temperature (°C) = " + allgemeine_Zahl(l.Tag.Tagestemperatur) +
+        melde_unmoegliche_Rechnung("Q10-factor = " + allgemeine_Zahl(p.Q10[c][st]) +
+                                   ", Walker-exponent = " + allgemeine_Zahl(p.Walker[c][st]) +
+                                   ", temperature (°C) = " + allgemeine_Zahl(l.Tag.Tagestemperatur) +
                                    ", soil moisture (Vol%) = " + allgemeine_Zahl(l.Tag.Bodenfeuchte));
     }
     return k;
@@ -63,7 +65,10 @@ bool Tageskorrektur::aktualisiere(const Lauf& l, int i_studie, int i_substanz) {
 }
 
 void pruefe_Boden(const Laufparameter& p) {
-    const struct { const char* Name; double Wert; } Nenner[] = {
+    const struct {
+        const char* Name;
+        double Wert;
+    } Nenner[] = {
         {"Soil density (kg/L)", p.Bodendichte},
         {"Soil depth (cm)", p.Bodentiefe},
         {"Plateaudepth (cm)", p.Plateautiefe},

@@ -29,7 +29,8 @@ std::vector<Bildungsweg> lies_Bildungswege(const Eingabe& e) {
 
 class Wirkstofflauf {
 public:
-    explicit Wirkstofflauf(Lauf& l) : l_(l), Reihen_(l), Abbau_(erstelle_Abbau(l)), Wege_(lies_Bildungswege(l.Felder)), Auswertung_(l) {}
+    explicit Wirkstofflauf(Lauf& l)
+        : l_(l), Reihen_(l), Abbau_(erstelle_Abbau(l)), Wege_(lies_Bildungswege(l.Felder)), Auswertung_(l) {}
 
     void rechne() {
         beginne_Tageswerte(l_);
@@ -136,7 +137,8 @@ void Wirkstofflauf::baue_ab(int d) {
 // What the parent lost on this day feeds the metabolite, in the metabolite's own mass.
 void Wirkstofflauf::bilde(int d, std::size_t Weg) {
     const auto [Anteil, Massenverhaeltnis] = Wege_[Weg];
-    const auto bilde_Reihe = [&, Anteil = Anteil, Massenverhaeltnis = Massenverhaeltnis](const Slotreihen& Reihe, int Slots, float& Bildung) {
+    const auto bilde_Reihe = [&, Anteil = Anteil, Massenverhaeltnis = Massenverhaeltnis](const Slotreihen& Reihe, int Slots,
+                                                                                         float& Bildung) {
         for (int s = 1; s <= Slots; ++s) {
             const double Verlust = static_cast<double>(Reihe[s][d - 1]) - static_cast<double>(Reihe[s][d]);
             waechst_um(Bildung, Verlust * Anteil * Massenverhaeltnis);
@@ -160,7 +162,8 @@ void Wirkstofflauf::appliziere(int d) {
 
 void Wirkstofflauf::summiere(int d) {
     for (int s = 1; s <= Anzahl_Slots_; ++s) waechst_um(Reihen_.Plateau[0][d], static_cast<double>(Reihen_.Plateau[s][d]));
-    for (int s = 1; s <= Bodenslots(Anzahl_Slots_); ++s) waechst_um(Reihen_.Boden[0][d], static_cast<double>(Reihen_.Boden[s][d]));
+    for (int s = 1; s <= Bodenslots(Anzahl_Slots_); ++s)
+        waechst_um(Reihen_.Boden[0][d], static_cast<double>(Reihen_.Boden[s][d]));
 }
 
 }  // namespace

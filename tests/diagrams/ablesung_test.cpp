@@ -92,9 +92,8 @@ TEST(Linienzuege, a_curve_is_one_pull) {
 }
 
 TEST(Linienzuege, colour_width_and_gaps_part_them) {
-    const std::vector<Linie> Linien = {{{0, 0}, {1, 1}, 1, 2}, {{1, 1}, {2, 0}, 1, 2},
-                                       {{2, 0}, {3, 0}, 2, 2}, {{3, 0}, {4, 0}, 2, 1},
-                                       {{5, 0}, {6, 0}, 2, 1}};
+    const std::vector<Linie> Linien = {
+        {{0, 0}, {1, 1}, 1, 2}, {{1, 1}, {2, 0}, 1, 2}, {{2, 0}, {3, 0}, 2, 2}, {{3, 0}, {4, 0}, 2, 1}, {{5, 0}, {6, 0}, 2, 1}};
     const std::vector<Linienzug> Zuege = verbinde_Linien(Linien);
     ASSERT_EQ(Zuege.size(), 4U);
     EXPECT_EQ(Zuege[0].Punkte, (std::vector<Punkt>{{0, 0}, {1, 1}, {2, 0}}));

@@ -29,8 +29,10 @@ TEST(Achsenmaximum, the_examples) {
 }
 
 TEST(Achsenmaximum, steps_are_halves_up_to_3_and_wholes_above) {
-    const struct { double Wert, Ende; } Faelle[] = {{1.2, 1.5}, {1.6, 2}, {2.2, 2.5}, {2.7, 3}, {3.3, 4}, {3.6, 4}, {4.2, 5},
-                                                    {5.7, 6}, {7.1, 8}, {8.6, 9}, {9.02, 10}, {9.7, 10}};
+    const struct {
+        double Wert, Ende;
+    } Faelle[] = {{1.2, 1.5}, {1.6, 2}, {2.2, 2.5}, {2.7, 3}, {3.3, 4},   {3.6, 4},
+                  {4.2, 5},   {5.7, 6}, {7.1, 8},   {8.6, 9}, {9.02, 10}, {9.7, 10}};
     for (const auto& f : Faelle) {
         EXPECT_DOUBLE_EQ(runde_Achsenmaximum(f.Wert), f.Ende) << f.Wert;
         EXPECT_DOUBLE_EQ(runde_Achsenmaximum(f.Wert * 1000), f.Ende * 1000) << f.Wert;
@@ -80,8 +82,9 @@ TEST(Achsenmaximum, a_value_that_is_no_number_never_makes_an_axis) {
 }
 
 TEST(Teilstrichabstand, the_table) {
-    const struct { double x, Haupt, Mitte, Fein; } Faelle[] = {
-        {100, 10, 5, 1}, {365, 50, 10, 5}, {3649, 500, 100, 50}, {1, 0.1, 0.05, 0.01}, {0.5, 0.1, 0.05, 0.01}};
+    const struct {
+        double x, Haupt, Mitte, Fein;
+    } Faelle[] = {{100, 10, 5, 1}, {365, 50, 10, 5}, {3649, 500, 100, 50}, {1, 0.1, 0.05, 0.01}, {0.5, 0.1, 0.05, 0.01}};
     for (const auto& f : Faelle) {
         const Teilstriche t = bestimme_Teilstriche(f.x);
         EXPECT_DOUBLE_EQ(t.Haupt, f.Haupt) << f.x;

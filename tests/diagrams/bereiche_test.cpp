@@ -118,8 +118,10 @@ TEST(Diagrammsaetze, the_index_gives_the_compound_of_name_and_kinetics) {
 }
 
 TEST(Diagrammring, a_left_click_leads_to_the_next_diagram_of_the_scheme) {
-    const struct { int i, naechstes, Stoff; } Schritte[] = {{1, 2, 1}, {2, 3, 0}, {3, 1, 0}, {4, 5, 1}, {5, 6, 2}, {6, 7, 0},
-                                                            {7, 4, 0}, {8, 9, 1}, {9, 10, 2}, {10, 11, 0}, {11, 8, 0}};
+    const struct {
+        int i, naechstes, Stoff;
+    } Schritte[] = {{1, 2, 1}, {2, 3, 0}, {3, 1, 0},  {4, 5, 1},   {5, 6, 2}, {6, 7, 0},
+                    {7, 4, 0}, {8, 9, 1}, {9, 10, 2}, {10, 11, 0}, {11, 8, 0}};
     for (const auto& s : Schritte) {
         const Ringziel z = Diagrammring[static_cast<std::size_t>(s.i)];
         EXPECT_EQ(z.Satz, s.naechstes) << s.i;
@@ -136,8 +138,9 @@ TEST(Diagrammring, the_parent_only_scheme_stays_where_it_is) {
 }
 
 TEST(Diagrammring, the_summary_has_its_own_ring) {
-    const struct { int z, naechstes, Stoff; } Schritte[] = {{1, 2, 1}, {2, 1, 0}, {3, 4, 1}, {4, 5, 2}, {5, 3, 0},
-                                                            {6, 7, 1}, {7, 8, 2}, {8, 6, 0}};
+    const struct {
+        int z, naechstes, Stoff;
+    } Schritte[] = {{1, 2, 1}, {2, 1, 0}, {3, 4, 1}, {4, 5, 2}, {5, 3, 0}, {6, 7, 1}, {7, 8, 2}, {8, 6, 0}};
     for (const auto& s : Schritte) {
         const Ringziel z = Zusammenfassungsring[static_cast<std::size_t>(s.z)];
         EXPECT_EQ(z.Satz, s.naechstes) << s.z;
@@ -156,9 +159,11 @@ TEST(Heimat, is_a_share_of_a_surface_of_640_by_500_pixels) {
 }
 
 TEST(Farben, the_colours_in_use) {
-    const struct { std::size_t i; Farbwert Farbe; } Faelle[] = {
-        {0, {0, 0, 0}},   {1, {0, 0, 128}},  {2, {0, 128, 0}},  {4, {128, 0, 0}},
-        {9, {0, 0, 255}}, {10, {0, 255, 0}}, {12, {255, 0, 0}}, {15, {255, 255, 255}}};
+    const struct {
+        std::size_t i;
+        Farbwert Farbe;
+    } Faelle[] = {{0, {0, 0, 0}},   {1, {0, 0, 128}},  {2, {0, 128, 0}},  {4, {128, 0, 0}},
+                  {9, {0, 0, 255}}, {10, {0, 255, 0}}, {12, {255, 0, 0}}, {15, {255, 255, 255}}};
     for (const auto& f : Faelle) EXPECT_EQ(Palette[f.i], f.Farbe) << f.i;
     EXPECT_EQ(Palette[11], (Farbwert{0, 255, 255}));
     EXPECT_EQ(Palette[13], (Farbwert{255, 0, 255}));

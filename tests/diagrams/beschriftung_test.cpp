@@ -43,7 +43,10 @@ TEST(Beschriftung, comment_of_each_diagram) {
     Lauf l = Handspeicher();
     l.Parameter.Kinetik[0][0] = 3;
     l.Parameter.Kinetik[2][0] = 1;
-    const struct { int d, Schema; const char* Text; } Faelle[] = {
+    const struct {
+        int d, Schema;
+        const char* Text;
+    } Faelle[] = {
         {0, 0, "Mode: Parent only  - presented substance: parent (kinetics: HS )"},
         {1, 1, "Mode: Parent with 1 metabolite  - presented substance: parent (kinetics: HS )"},
         {2, 1, "Mode: Parent with 1 metabolite  - presented substance: first metabolite (kinetics: SFO )"},
@@ -66,9 +69,12 @@ TEST(Beschriftung, comment_of_each_diagram) {
 
 TEST(Beschriftung, multi_compound_comment_is_black_bold_and_short) {
     Lauf l = Handspeicher();
-    const struct { int d, Schema; const char* Text; } Faelle[] = {{3, 1, "Mode: Parent with 1 metabolite"},
-                                                                  {7, 2, "Mode: Parent and 2 metabolites (parallel)"},
-                                                                  {11, 3, "Mode: Parent and 2 metabolites (sequence)"}};
+    const struct {
+        int d, Schema;
+        const char* Text;
+    } Faelle[] = {{3, 1, "Mode: Parent with 1 metabolite"},
+                  {7, 2, "Mode: Parent and 2 metabolites (parallel)"},
+                  {11, 3, "Mode: Parent and 2 metabolites (sequence)"}};
     for (const auto& f : Faelle) {
         l.Felder.Berechnungsmodus = f.Schema;
         Diagrammbereiche b = Startbereiche(0);
@@ -122,11 +128,13 @@ TEST(Beschriftung, a_long_title_starts_left_of_the_surface) {
 }
 
 TEST(Beschriftung, axis_names_and_table_titles_by_unit_and_endpoint) {
-    const struct { int Einheit, Endpunkt; const char *Achse, *Tabelle; } Faelle[] = {
-        {0, 0, "c(mg/kg)", "Total soil concentrations (mg/kg) incl. crop rotation"},
-        {0, 1, "c(mg/L)", "Pore water concentrations (mg/L) incl. crop rotation"},
-        {1, 0, "c(µg/kg)", "Total soil concentrations (µg/kg) incl. crop rotation"},
-        {1, 1, "c(µg/L)", "Pore water concentrations (µg/L) incl. crop rotation"}};
+    const struct {
+        int Einheit, Endpunkt;
+        const char *Achse, *Tabelle;
+    } Faelle[] = {{0, 0, "c(mg/kg)", "Total soil concentrations (mg/kg) incl. crop rotation"},
+                  {0, 1, "c(mg/L)", "Pore water concentrations (mg/L) incl. crop rotation"},
+                  {1, 0, "c(µg/kg)", "Total soil concentrations (µg/kg) incl. crop rotation"},
+                  {1, 1, "c(µg/L)", "Pore water concentrations (µg/L) incl. crop rotation"}};
     for (const auto& f : Faelle) {
         Lauf l = Handspeicher();
         l.Parameter.Einheit = static_cast<std::uint8_t>(f.Einheit);
@@ -157,8 +165,7 @@ TEST(Beschriftung, the_window_in_the_legend_has_two_blanks) {
 
 TEST(Legendenzeilen, headings_stand_over_the_entries_of_a_compound) {
     const Legende L = {Legendenart::mehrfach,
-                       {{"a", {{"PEC", {1, 2}}, {"TWA", {9, 1}}}},
-                        {"", {{"PEC", {2, 2}}, {"TWA", {10, 1}}}}}};  // without a name
+                       {{"a", {{"PEC", {1, 2}}, {"TWA", {9, 1}}}}, {"", {{"PEC", {2, 2}}, {"TWA", {10, 1}}}}}};  // without a name
     std::vector<std::string> Texte;
     for (const Legendenzeile& z : Legendenzeilen(L)) Texte.push_back((z.Ueberschrift ? "# " : "") + z.Text);
     EXPECT_EQ(Texte, (std::vector<std::string>{"# a", "PEC", "TWA", "# ", "PEC", "TWA"}));

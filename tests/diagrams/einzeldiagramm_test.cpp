@@ -303,9 +303,10 @@ TEST(Einzeldiagramm_Kurve, is_that_of_endpoint_and_study) {
 
 TEST(Einzeldiagramm_Kurve, has_the_colour_of_the_compound) {
     Lauf l = Handspeicher();
-    const struct { int d, Schema, Kurve, TWA; } Faelle[] = {
-        {0, 0, 1, 9}, {1, 1, 1, 9}, {2, 1, 2, 10}, {4, 2, 1, 9}, {5, 2, 2, 10}, {6, 2, 4, 12},
-        {8, 3, 1, 9}, {9, 3, 2, 10}, {10, 3, 4, 12}};
+    const struct {
+        int d, Schema, Kurve, TWA;
+    } Faelle[] = {{0, 0, 1, 9},  {1, 1, 1, 9}, {2, 1, 2, 10}, {4, 2, 1, 9},  {5, 2, 2, 10},
+                  {6, 2, 4, 12}, {8, 3, 1, 9}, {9, 3, 2, 10}, {10, 3, 4, 12}};
     for (const auto& f : Faelle) {
         l.Felder.Berechnungsmodus = f.Schema;
         Diagrammbereiche b = Startbereiche(0);

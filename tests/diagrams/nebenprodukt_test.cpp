@@ -35,9 +35,13 @@ TEST(Tagesreihe, follows_the_range_of_the_diagram) {
 }
 
 TEST(Tagesreihe, head_by_unit_and_endpoint) {
-    const struct { int Einheit, Endpunkt; const char* Kopf; } Faelle[] = {
-        {0, 0, "Time (d)\tPEC (mg/kg)"}, {0, 1, "Time (d)\tPEC (mg/L)"},
-        {1, 0, "Time (d)\tPEC (µg/kg)"}, {1, 1, "Time (d)\tPEC (µg/L)"}};
+    const struct {
+        int Einheit, Endpunkt;
+        const char* Kopf;
+    } Faelle[] = {{0, 0, "Time (d)\tPEC (mg/kg)"},
+                  {0, 1, "Time (d)\tPEC (mg/L)"},
+                  {1, 0, "Time (d)\tPEC (µg/kg)"},
+                  {1, 1, "Time (d)\tPEC (µg/L)"}};
     for (const auto& f : Faelle) {
         Lauf l = Handspeicher();
         l.Parameter.Einheit = static_cast<std::uint8_t>(f.Einheit);
@@ -62,9 +66,9 @@ TEST(Tagesreihe, is_that_of_the_view) {
 TEST(Tagesreihe, the_file_has_the_name_of_the_compound) {
     Lauf l = Handspeicher();
     Diagrammbereiche b = Startbereiche(0);
-    const std::pair<int, const char*> Faelle[] = {{0, "parent"}, {1, "parent"}, {2, "first metabolite"}, {4, "parent"},
-                                                  {5, "first metabolite"}, {6, "second metabolite"}, {8, "parent"},
-                                                  {9, "first metabolite"}, {10, "second metabolite"}};
+    const std::pair<int, const char*> Faelle[] = {{0, "parent"}, {1, "parent"},           {2, "first metabolite"},
+                                                  {4, "parent"}, {5, "first metabolite"}, {6, "second metabolite"},
+                                                  {8, "parent"}, {9, "first metabolite"}, {10, "second metabolite"}};
     for (const auto& [d, Name] : Faelle) {
         EXPECT_EQ(erstelle_Diagramm(l, b, d, 0).Datei.Dateiname, "Detailed Results - " + std::string(Name) + ".tab") << d;
     }

@@ -197,9 +197,9 @@ TEST(Tauschstapel, has_these_lines_in_this_order) {
 TEST(Tauschskript, waits_then_copies_deletes_and_restarts) {
     const std::string Text = Tauschskript({"/opt/it's", "varnok", "/home/user", 4711});
     std::size_t Stelle = 0;
-    for (const char* Teil : {"cd '/opt/it'\\''s'", "kill -0 4711", "cp -p 'New_varnok'",
-                             "rm -f 'New_varnok' 'New_varnok.part' update.sh\n", "cd '/home/user'\n",
-                             "exec '/opt/it'\\''s/varnok'\n"}) {
+    for (const char* Teil :
+         {"cd '/opt/it'\\''s'", "kill -0 4711", "cp -p 'New_varnok'", "rm -f 'New_varnok' 'New_varnok.part' update.sh\n",
+          "cd '/home/user'\n", "exec '/opt/it'\\''s/varnok'\n"}) {
         const std::size_t hier = Text.find(Teil, Stelle);
         ASSERT_NE(hier, std::string::npos) << Teil << "\n" << Text;
         Stelle = hier;

@@ -122,24 +122,15 @@ TEST(Tooltipauslieferung, the_numbers_to_type_have_unit_and_range) {
         const char* Bereich;
     };
     const Feld Felder[] = {
-        {18, "g/ha", "Above 0"},
-        {19, "%", "0 (bare soil) to below 100"},
-        {23, "no unit", "Above 0"},
-        {24, "no unit", "0 or above"},
-        {25, "L/kg", "0 or above"},
-        {36, "in days", "0 or above"},
-        {37, "in days", "0 or above"},
-        {38, "in days", "0 or above"},
-        {39, "no unit", "0 to 1"},
-        {40, "no unit", "0 or above"},
-        {41, "in days", "Above 0"},
-        {42, "in days", "0 or above"},
-        {43, "in days", "0 or above"},
-        {44, "day", "0 or above"},
-        {49, "g/mol", "above 0"},
-        {50, "g/mol", "above 0"},
-        {51, "g/mol", "above 0"},
-        {52, "%", "0 to 100"},
+        {18, "g/ha", "Above 0"},       {19, "%", "0 (bare soil) to below 100"},
+        {23, "no unit", "Above 0"},    {24, "no unit", "0 or above"},
+        {25, "L/kg", "0 or above"},    {36, "in days", "0 or above"},
+        {37, "in days", "0 or above"}, {38, "in days", "0 or above"},
+        {39, "no unit", "0 to 1"},     {40, "no unit", "0 or above"},
+        {41, "in days", "Above 0"},    {42, "in days", "0 or above"},
+        {43, "in days", "0 or above"}, {44, "day", "0 or above"},
+        {49, "g/mol", "above 0"},      {50, "g/mol", "above 0"},
+        {51, "g/mol", "above 0"},      {52, "%", "0 to 100"},
         {53, "%", "0 to 100"},
     };
     for (const Feld& f : Felder) {

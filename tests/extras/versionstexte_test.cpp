@@ -43,10 +43,10 @@ TEST(Versionstexte, has_20_releases_the_newest_first) {
     for (const std::string& z : alle_Zeilen()) {
         if (z.starts_with("Version 2.0 (")) Koepfe.push_back(z.substr(13, z.size() - 14));
     }
-    EXPECT_THAT(Koepfe, ElementsAre("21 September 2018", "5 September 2017", "18 November 2016", "5 November 2015", "28 July 2015",
-                                    "26 June 2015", "23 Feb 2015", "28 Jan 2014", "14 Jan 2014", "27 Nov 2012", "29 Aug 2012",
-                                    "08 Oct 2011", "10 Jan 2011", "27 Oct 2010", "11 May 2010", "20 Apr 2010", "6 Nov 2009",
-                                    "21 Oct 2009", "06 Oct 2009", "06 Aug 2009"));
+    EXPECT_THAT(Koepfe, ElementsAre("21 September 2018", "5 September 2017", "18 November 2016", "5 November 2015",
+                                    "28 July 2015", "26 June 2015", "23 Feb 2015", "28 Jan 2014", "14 Jan 2014", "27 Nov 2012",
+                                    "29 Aug 2012", "08 Oct 2011", "10 Jan 2011", "27 Oct 2010", "11 May 2010", "20 Apr 2010",
+                                    "6 Nov 2009", "21 Oct 2009", "06 Oct 2009", "06 Aug 2009"));
 }
 
 TEST(Versionstexte, begins_with_the_newest_heading) {
@@ -64,7 +64,8 @@ TEST(Versionstexte, keeps_the_wording_of_the_published_notes) {
          {"In the new version the time dependent concentrations in soil are additionally written in an ASCII-file.", Strich,
           "The consideration of daily weather data was disabled due to accuracy problems.", Strich}},
         {"18 November 2016",
-         {"In the previous version sometimes a wrong warning was shown that the final plateau wasn't reached though the substance "
+         {"In the previous version sometimes a wrong warning was shown that the final plateau wasn't reached though the "
+          "substance "
           "degraded fast.",
           Strich}},
         {"5 November 2015",
@@ -72,7 +73,8 @@ TEST(Versionstexte, keeps_the_wording_of_the_published_notes) {
         {"28 July 2015",
          {"In rare situations negative plateau concentrations could be simulationed due to rounding errors.", Strich}},
         {"26 June 2015",
-         {"If steady state conditions were not reached after 10 years the estimation of the fraction of the plateau was sometimes "
+         {"If steady state conditions were not reached after 10 years the estimation of the fraction of the plateau was "
+          "sometimes "
           "estimated wrongly.",
           Strich}},
         {"27 Nov 2012",
@@ -81,23 +83,22 @@ TEST(Versionstexte, keeps_the_wording_of_the_published_notes) {
           "instead of estimations based on the accumulation in the first 10 years.", Strich}},
         {"29 Aug 2012",
          {"There was a problem for substances with short half lives ",
-          "in combination with SFO-kintics without temperature and soil moisture correction",
-          "which ended in an overflow-error.", Strich}},
+          "in combination with SFO-kintics without temperature and soil moisture correction", "which ended in an overflow-error.",
+          Strich}},
         {"27 Oct 2010",
          {"A new list box has been added which allows the user to consider crop rotation.",
           "A linear reduction factor was introduced to correct the background concentration",
           "Please notice that the effect of crop rotation is only shown in the tabular output.",
           "The graphical output is still related to applications every year.", Strich}},
-        {"06 Oct 2009",
-         {"In the previous versions the soil moisture correction for metabolites was done wrongly. ", Strich}},
+        {"06 Oct 2009", {"In the previous versions the soil moisture correction for metabolites was done wrongly. ", Strich}},
     };
     for (const auto& [Datum, Text] : Notizen) EXPECT_THAT(Block(Datum), ElementsAreArray(Text)) << Datum;
 }
 
 TEST(Versionstexte, tells_the_subject_of_the_other_releases) {
     const std::map<std::string, const char*> Woerter = {
-        {"23 Feb 2015", "folder"},    {"28 Jan 2014", "crash"},       {"14 Jan 2014", "twice"},
-        {"08 Oct 2011", "Windows 7"}, {"10 Jan 2011", "server"},      {"11 May 2010", "program defaults"},
+        {"23 Feb 2015", "folder"},    {"28 Jan 2014", "crash"},      {"14 Jan 2014", "twice"},
+        {"08 Oct 2011", "Windows 7"}, {"10 Jan 2011", "server"},     {"11 May 2010", "program defaults"},
         {"20 Apr 2010", "reloads"},   {"6 Nov 2009", "simulations"}, {"21 Oct 2009", "DFOP"},
     };
     for (const auto& [Datum, Wort] : Woerter) {

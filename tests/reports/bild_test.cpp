@@ -154,8 +154,10 @@ TEST_F(Bildtoleranzprobe, sees_that_a_label_is_missing) {
 }
 
 TEST_F(Bildtoleranzprobe, sees_that_the_numbers_of_an_axis_are_missing) {
-    EXPECT_FALSE(besteht([](Zeichenliste& z) { std::erase_if(z.Texte, [](const auto& s) { return !s.einpassen && s.Ort.y < 0; }); }));
-    EXPECT_FALSE(besteht([](Zeichenliste& z) { std::erase_if(z.Texte, [](const auto& s) { return !s.einpassen && s.Ort.y > 0; }); }));
+    EXPECT_FALSE(
+        besteht([](Zeichenliste& z) { std::erase_if(z.Texte, [](const auto& s) { return !s.einpassen && s.Ort.y < 0; }); }));
+    EXPECT_FALSE(
+        besteht([](Zeichenliste& z) { std::erase_if(z.Texte, [](const auto& s) { return !s.einpassen && s.Ort.y > 0; }); }));
 }
 
 }  // namespace

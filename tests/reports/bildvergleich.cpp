@@ -47,7 +47,8 @@ int fremde_Punkte(const QImage& Bild, const QImage& Vorlage, const Bildtoleranz&
     const int zu_viel = fremde_Punkte(Bild, Vorlage, t);
     const int zu_wenig = fremde_Punkte(Vorlage, Bild, t);
     const auto Urteil = zu_viel <= erlaubt && zu_wenig <= erlaubt ? ::testing::AssertionSuccess() : ::testing::AssertionFailure();
-    return ::testing::AssertionResult(Urteil) << zu_viel << " pixels too many, " << zu_wenig << " missing, allowed are " << erlaubt;
+    return ::testing::AssertionResult(Urteil)
+           << zu_viel << " pixels too many, " << zu_wenig << " missing, allowed are " << erlaubt;
 }
 
 ::testing::AssertionResult aehnlich_der_Datei(const QImage& Bild, const std::string& Datei, Goldenmodus Modus) {

@@ -154,10 +154,7 @@ private:
             {"i", [](Leser& l, int Wert) { l.s_.kursiv = Wert != 0; }},
             {"uc", [](Leser& l, int Wert) { l.s_.uc = Wert; }},
             {"plain", [](Leser& l, int) { l.s_ = {l.s_.Ziel, 0, 24, 0, l.s_.uc, false, false}; }},
-            {"pard",
-             [](Leser& l, int) {
-                 l.Absatz() = {std::move(l.Absatz().Laeufe), false, false, 0, 0, {}};
-             }},
+            {"pard", [](Leser& l, int) { l.Absatz() = {std::move(l.Absatz().Laeufe), false, false, 0, 0, {}}; }},
             {"par", [](Leser& l, int) { l.naechster_Absatz(); }},
             {"qc", [](Leser& l, int) { l.Absatz().zentriert = true; }},
             {"keepn", [](Leser& l, int) { l.Absatz().beim_naechsten = true; }},

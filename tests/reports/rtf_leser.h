@@ -21,7 +21,7 @@ struct RTF_Absatz {
     std::vector<RTF_Lauf> Laeufe;
     bool zentriert = false;
     bool beim_naechsten = false;  // stays on the page of the next paragraph
-    int links = 0, rechts = 0;  // twips
+    int links = 0, rechts = 0;    // twips
     std::vector<int> Tabulatoren;
 
     std::string Text() const;

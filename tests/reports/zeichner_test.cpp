@@ -256,7 +256,11 @@ TEST(Berichtsbild, legend_at_home_stands_right_below_title_and_comment) {
 
 // Numbers of any length, at the smallest steps that a range can have.
 TEST(Berichtsbild, numbers_touch_neither_each_other_nor_the_names_of_their_axes) {
-    struct Fall { double Ende; const char* Rate; int Einheit; };
+    struct Fall {
+        double Ende;
+        const char* Rate;
+        int Einheit;
+    };
     for (const Fall& f : {Fall{365, "1000", 0}, {3649, "1000", 0}, {1580, "0.0149", 0}, {11, "3.1", 0}, {100, "999000", 1}}) {
         const auto l = gerechnet(Lauf_bauer().Dosis(f.Rate, "0").Einheit(f.Einheit));
         Diagrammbereiche b = Startbereiche(0);

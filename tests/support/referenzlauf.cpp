@@ -135,16 +135,22 @@ void Lade_Applikationen(Lage& l) {
     const double k = l.von(l.p.k_SFO, 0);
     if (l.e.Applikationsmuster != einzeln && (l.e.Anzahl() < 2 || l.e.Anzahl() > 20)) unmoeglich("number of applications");
     switch (l.e.Applikationsmuster) {
-        case einzeln: einzelne_Applikation(l); break;
-        case regelmaessig: regelmaessige_Applikationen(l, k); break;
-        case unregelmaessig: unregelmaessige_Applikationen(l, k); break;
-        default: unmoeglich("unknown application pattern");
+        case einzeln:
+            einzelne_Applikation(l);
+            break;
+        case regelmaessig:
+            regelmaessige_Applikationen(l, k);
+            break;
+        case unregelmaessig:
+            unregelmaessige_Applikationen(l, k);
+            break;
+        default:
+            unmoeglich("unknown application pattern");
     }
     endlich(r.Wirksame_Rate, "effective rate");
     const std::size_t n = static_cast<std::size_t>(r.Anzahl_pro_Jahr);
     for (std::size_t y = 1; y <= 10; ++y) {
-        for (std::size_t j = 1; j <= n; ++j)
-            r.Applikationstag[y * n + j] = r.Applikationstag[j] + 365 * static_cast<int>(y);
+        for (std::size_t j = 1; j <= n; ++j) r.Applikationstag[y * n + j] = r.Applikationstag[j] + 365 * static_cast<int>(y);
         for (std::size_t j = 0; j <= 364; ++j) r.Tagesrate[365 * (y - 1) + j] = r.Tagesrate[j];
     }
 }
@@ -245,8 +251,7 @@ Studienergebnis rechne(const Laufparameter& p, const Eingabe& e, int i_studie, c
     const int letzte_Substanz = e.Berechnungsmodus == 0 ? 0 : (e.Berechnungsmodus == 1 ? 1 : 2);
     for (int i_substanz = 0; i_substanz <= letzte_Substanz; ++i_substanz) {
         const bool zweiter_der_Folge = i_substanz == 2 && e.Berechnungsmodus == 3;
-        Stoffergebnis s =
-            i_substanz == 0 ? Berechnung_Wirkstoff(l) : Berechnung_Metabolit(l, i_substanz, zweiter_der_Folge);
+        Stoffergebnis s = i_substanz == 0 ? Berechnung_Wirkstoff(l) : Berechnung_Metabolit(l, i_substanz, zweiter_der_Folge);
         berechne_Plateau(l, s, i_substanz);
         berechne_TWA(l, s);
         Ergebnis.Stoffe.push_back(std::move(s));

@@ -16,8 +16,8 @@ namespace varnok::referenz {
 
 // One compound of one study. The first place of every pair is the endpoint: total soil, pore water.
 struct Stoffergebnis {
-    std::array<std::vector<float>, 2> Boden, Plateau, Integral;    // sum slot, 3752 days
-    std::vector<std::vector<float>> Slots_Boden, Slots_Plateau;    // total soil, [slot 0..22 / 0..220][day]
+    std::array<std::vector<float>, 2> Boden, Plateau, Integral;  // sum slot, 3752 days
+    std::vector<std::vector<float>> Slots_Boden, Slots_Plateau;  // total soil, [slot 0..22 / 0..220][day]
     std::array<float, 2> Maximum_Bodentiefe{}, Maximum_Plateautiefe{}, Plateauwert{}, Plateaujahr{};
     std::array<int, 2> Maximumtag_Bodentiefe{}, Maximumtag_Plateautiefe{};
     std::array<std::array<float, 11>, 2> Jahresmaximum{};  // years 1..10
@@ -32,9 +32,9 @@ struct Studienergebnis {
     // [metabolite 0..1][day]; in the sequential scheme place 1 ends up with what the first metabolite fed
     std::array<std::vector<float>, 2> Bildung_Boden, Bildung_Plateau;
     int Anzahl_pro_Jahr = 0;
-    double Wirksame_Rate = 0;           // g/ha
-    std::vector<int> Applikationstag;   // events 1..220
-    std::vector<float> Tagesrate;       // g/ha, 3752 days
+    double Wirksame_Rate = 0;             // g/ha
+    std::vector<int> Applikationstag;     // events 1..220
+    std::vector<float> Tagesrate;         // g/ha, 3752 days
     std::array<double, 3> Klimasummen{};  // temperature, rainfall, evapotranspiration
     std::vector<std::string> Warnungen;   // texts, in the order of the compounds
 };

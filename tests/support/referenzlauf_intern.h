@@ -37,8 +37,8 @@ struct Lage {
     // Value of this study in a table with one value for each study.
     double von(const Studientabelle<double>& Tabelle) const;
 
-    void Klima_oeffnen();      // stands before the line of the first application's date
-    void Klimazeile_lesen();   // the next day; behind the last one comes the first
+    void Klima_oeffnen();     // stands before the line of the first application's date
+    void Klimazeile_lesen();  // the next day; behind the last one comes the first
     double Temperaturpotenz(int i_substanz) const;
     double Feuchtepotenz(int i_substanz) const;
     double korrigiert(double k, int i_substanz) const;  // rate constant of the day, 1/d

@@ -93,8 +93,8 @@ void Plateaujahr(Stoffergebnis& s, std::size_t e) {
 
 // Total soil only: pore water keeps the zeros that the stores started with.
 bool geschlossen(const Lage& l, Stoffergebnis& s) {
-    const double F = (l.Ergebnis.Wirksame_Rate / 1000) / (l.p.Bodendichte * l.p.Plateautiefe / 10) *
-                     std::pow(10.0, 3.0 * l.p.Einheit);
+    const double F =
+        (l.Ergebnis.Wirksame_Rate / 1000) / (l.p.Bodendichte * l.p.Plateautiefe / 10) * std::pow(10.0, 3.0 * l.p.Einheit);
     const double k = l.von(l.p.k_SFO, 0) * std::pow(l.von(l.p.Q10, 0), (l.p.Szenariotemperatur - l.von(l.p.TRef, 0)) / 10);
     const double x = Maximum(std::exp(-365 * k), 1e-30);
     bool begrenzt = true;
@@ -105,8 +105,7 @@ bool geschlossen(const Lage& l, Stoffergebnis& s) {
         const double Plateau = endlich(F == 0 ? 0.0 : F * x / (1 - x), "final plateau");
         if (s.Plateauzuwachs[0] == 0) s.Plateauzuwachs[0] = Plateau;
         s.Plateauwert[0] = einfach(Plateau);
-        const double Anteil =
-            s.Plateauwert[0] == 0 ? 100.0 : Minimum(100, 100 * s.Plateauzuwachs[0] / weit(s.Plateauwert[0]));
+        const double Anteil = s.Plateauwert[0] == 0 ? 100.0 : Minimum(100, 100 * s.Plateauzuwachs[0] / weit(s.Plateauwert[0]));
         s.Plateautext[0] = feste_Zahl(Anteil, 0) + Textende;
     }
     Plateaujahr(s, 0);

@@ -171,11 +171,9 @@ void Wirkstofflauf::Zerfall_DFOP(std::size_t Slot, std::size_t d) {
 
 void Wirkstofflauf::Zerfall_FOMC(std::size_t Slot, std::size_t d) {
     Zeit[Slot] = endlich(Zeit[Slot] + l.Temperaturpotenz(0) * l.Feuchtepotenz(0), "biological time");
-    s.Slots_Plateau[Slot][d] =
-        einfach(weit(s.Slots_Plateau[Slot][Bezugstag_Plateau]) / std::pow(Zeit[Slot] / beta + 1, alpha));
+    s.Slots_Plateau[Slot][d] = einfach(weit(s.Slots_Plateau[Slot][Bezugstag_Plateau]) / std::pow(Zeit[Slot] / beta + 1, alpha));
     if (Slot < 23)
-        s.Slots_Boden[Slot][d] =
-            einfach(weit(s.Slots_Boden[Slot][Bezugstag_Boden]) / std::pow(Zeit[Slot] / beta + 1, alpha));
+        s.Slots_Boden[Slot][d] = einfach(weit(s.Slots_Boden[Slot][Bezugstag_Boden]) / std::pow(Zeit[Slot] / beta + 1, alpha));
 }
 
 void Wirkstofflauf::Zerfall_HS(std::size_t Slot, std::size_t d) {

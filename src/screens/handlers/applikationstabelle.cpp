@@ -16,11 +16,13 @@ void Applikationstabelle::setze(Zelle z, std::string Text) {
 }
 
 void Applikationstabelle::haenge_an(Zelle z, char Zeichen) {
-    setze(z, z_.Felder().Applikationsschema.at(static_cast<std::size_t>(z.Zeile)).at(static_cast<std::size_t>(z.Spalte)) + Zeichen);
+    setze(z,
+          z_.Felder().Applikationsschema.at(static_cast<std::size_t>(z.Zeile)).at(static_cast<std::size_t>(z.Spalte)) + Zeichen);
 }
 
 void Applikationstabelle::nimm_letztes(Zelle z) {
-    std::string Text = z_.Felder().Applikationsschema.at(static_cast<std::size_t>(z.Zeile)).at(static_cast<std::size_t>(z.Spalte));
+    std::string Text =
+        z_.Felder().Applikationsschema.at(static_cast<std::size_t>(z.Zeile)).at(static_cast<std::size_t>(z.Spalte));
     if (Text.empty()) return;
     Text.pop_back();
     setze(z, Text);

@@ -12,7 +12,8 @@ namespace varnok {
 // The report command: the standard report of the selected study, or in the summary view the extended one.
 class Berichtssteuerung {
 public:
-    Berichtssteuerung(Zustand& z, Laufsteuerung& Laeufe, Diagrammsteuerung& Diagramme) : z_(z), Laeufe_(Laeufe), Diagramme_(Diagramme) {}
+    Berichtssteuerung(Zustand& z, Laufsteuerung& Laeufe, Diagrammsteuerung& Diagramme)
+        : z_(z), Laeufe_(Laeufe), Diagramme_(Diagramme) {}
 
     // Makes the report of what is shown, after a run where something entered is not in the results, and writes it to
     // the folder `output`. Without valid results there is none. A file that cannot be written is told; the report

@@ -51,7 +51,8 @@ void Dateidialoge::lade(const std::string& Dateiname) {
     pruefe_Namen(Name);
     const std::string Satz = z_.Felder().Aktuelle_Dateinamen[Wirkstoff];
     if (z_.Geaendert[Wirkstoff]) {
-        sichere(z_, {{Satz + Endungen[Wirkstoff], Satz_als_Bytes(Wirkstoff, z_.Parameter(), z_.Felder(), z_.Welt.Dezimalzeichen)}});
+        sichere(z_,
+                {{Satz + Endungen[Wirkstoff], Satz_als_Bytes(Wirkstoff, z_.Parameter(), z_.Felder(), z_.Welt.Dezimalzeichen)}});
     }
     zeige_als_Simulation(Name);
     if (Saetze_.lies_Satz(Wirkstoff, Satz)) decke_ab(z_, Texte::Eingabe_geaendert);

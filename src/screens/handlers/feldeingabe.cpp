@@ -41,9 +41,9 @@ const std::string& Feldeingabe::Text(int Feld) const { return const_cast<Feldein
 std::string Feldeingabe::gespeicherter_Text(const Feldbeschreibung& f) const {
     const auto c = static_cast<std::size_t>(f.i_substanz);
     const auto st = static_cast<std::size_t>(z_.i_studie());
-    const double v = std::visit(je_Ziel{[&](Stofftabelle<double> Laufparameter::* t) { return (z_.Parameter().*t)[c][st]; },
-                                        [&](Studientabelle<double> Laufparameter::* t) { return (z_.Parameter().*t)[st]; },
-                                        [&](std::string Eingabe::* t) { return Wert(z_.Felder().*t); }},
+    const double v = std::visit(je_Ziel{[&](Stofftabelle<double> Laufparameter::*t) { return (z_.Parameter().*t)[c][st]; },
+                                        [&](Studientabelle<double> Laufparameter::*t) { return (z_.Parameter().*t)[st]; },
+                                        [&](std::string Eingabe::*t) { return Wert(z_.Felder().*t); }},
                                 f.Ziel);
     return f.DT50 ? Text_der_Halbwertszeit(v, z_.Welt.Dezimalzeichen) : allgemeine_Zahl(v, z_.Welt.Dezimalzeichen);
 }
@@ -71,9 +71,9 @@ void Feldeingabe::uebernimm(int Feld, const std::string& Text) {
     const double v = Wert(Text);
     const double gueltiger = !Text.empty() && f.gilt(v, false) ? v : 0;
     const double Ziel = f.DT50 ? Halbwertszeit(gueltiger) : gueltiger;
-    std::visit(je_Ziel{[&](Stofftabelle<double> Laufparameter::* t) { (z_.Parameter().*t)[c][st] = Ziel; },
-                       [&](Studientabelle<double> Laufparameter::* t) { (z_.Parameter().*t)[st] = Ziel; },
-                       [&](std::string Eingabe::* t) { z_.Felder().*t = Text; }},
+    std::visit(je_Ziel{[&](Stofftabelle<double> Laufparameter::*t) { (z_.Parameter().*t)[c][st] = Ziel; },
+                       [&](Studientabelle<double> Laufparameter::*t) { (z_.Parameter().*t)[st] = Ziel; },
+                       [&](std::string Eingabe::*t) { z_.Felder().*t = Text; }},
                f.Ziel);
 }
 

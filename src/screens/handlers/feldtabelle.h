@@ -13,16 +13,16 @@ namespace varnok {
 
 // What a change of a field concerns.
 enum class Feldgruppe {
-    Dosis,      // rate and interception: results are scaled instead of calculated anew
-    Stoff,      // masses and formation fractions: all studies
-    Studie,     // study data whose focus takes the hint picture away
-    Studie_2,   // study data whose focus leaves it: FOMC and HS
+    Dosis,     // rate and interception: results are scaled instead of calculated anew
+    Stoff,     // masses and formation fractions: all studies
+    Studie,    // study data whose focus takes the hint picture away
+    Studie_2,  // study data whose focus leaves it: FOMC and HS
 };
 
 // Where a value is kept: a table of the run parameters, or a text of the entry fields. A rate constant is
 // shown as a DT50.
-using Feldziel = std::variant<Stofftabelle<double> Laufparameter::*, Studientabelle<double> Laufparameter::*,
-                              std::string Eingabe::*>;
+using Feldziel =
+    std::variant<Stofftabelle<double> Laufparameter::*, Studientabelle<double> Laufparameter::*, std::string Eingabe::*>;
 
 // The values that a field takes.
 struct Bereich {
@@ -36,7 +36,7 @@ struct Feldbeschreibung {
     const char* Name;  // object name, without the compound's index
     const char* Beschriftung;
     const char* Einheit;
-    int i_substanz;        // compound of the field, -1 in a line that stands for one field of each compound
+    int i_substanz;  // compound of the field, -1 in a line that stands for one field of each compound
     Feldgruppe Gruppe;
     bool DT50;  // shown as ln(2)/k
     Bereich Grenzen;

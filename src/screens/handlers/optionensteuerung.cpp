@@ -129,9 +129,9 @@ std::optional<std::string> Optionensteuerung::lege_Ordner_an(const std::string& 
     const std::string Pfad = darin + (darin.ends_with('/') ? "" : "/") + Name;
     std::error_code Fehler;
     if (std::filesystem::create_directory(als_Pfad(Pfad), Fehler)) return Pfad;
-    melde(z_, Texte::Ordner_anlegen,
-          Fehler ? "Cannot make the folder \"" + Pfad + "\": " + Fehler.message()
-                 : "The folder \"" + Pfad + "\" already exists.");
+    melde(
+        z_, Texte::Ordner_anlegen,
+        Fehler ? "Cannot make the folder \"" + Pfad + "\": " + Fehler.message() : "The folder \"" + Pfad + "\" already exists.");
     return std::nullopt;
 }
 

@@ -89,7 +89,8 @@ void Organiser::waehle_Satz(Satzart Art, int Position) {
 
 void Organiser::aendere_Projektname(const std::string& Text) {
     Projektname_ = Text;
-    std::replace_if(Projektname_.begin(), Projektname_.end(), [](char c) { return c == '\n' || c == '\r'; }, ' ');
+    std::replace_if(
+        Projektname_.begin(), Projektname_.end(), [](char c) { return c == '\n' || c == '\r'; }, ' ');
 }
 
 // What a command has selected acts as if the user had chosen it.

@@ -75,7 +75,7 @@ private:
     bool umbenannt_ = false;         // the summary file may name a record that is called otherwise now
     bool Szenario_bearbeitet_ = false;
     std::string Szenario_vorher_;  // the values on the screen as a record, before the editor
-    bool Lauf_ = false;  // `schliesse_ab` reads and runs
+    bool Lauf_ = false;            // `schliesse_ab` reads and runs
 };
 
 }  // namespace varnok

@@ -124,7 +124,8 @@ Umbenennung Satzbefehle::benenne_um(Satzart Art, const std::string& Text, bool m
     const auto vorhanden = z_.Ordner->finde(neu, Endungen[Art]);
     if (vorhanden && *vorhanden != Quelle) {
         if (!mit_Frage) throw Laufzeitfehler("The record \"" + neu + "\" already exists. \"" + alt + "\" keeps its name.");
-        if (!darf_ersetzen("The record ' " + neu + " ' already exists. Do you want to replace it?")) return Umbenennung::abgelehnt;
+        if (!darf_ersetzen("The record ' " + neu + " ' already exists. Do you want to replace it?"))
+            return Umbenennung::abgelehnt;
         sichere_Datei(*vorhanden, neu + Endungen[Art]);
         benenne_Datei_um(Quelle, *vorhanden);
     }

@@ -226,8 +226,8 @@ void Satzverwaltung::nenne_Simulationen_mit(Satzart Art, const std::string& Name
     if (!Namen.empty()) stelle_voran("Simulations that still name \"" + Name + "\": " + Namen);
 }
 
-// The record of this kind, and those that were not read yet, are about to be read over what the screen shows. A simulation is read
-// by loading it.
+// The record of this kind, and those that were not read yet, are about to be read over what the screen shows. A simulation is
+// read by loading it.
 void Satzverwaltung::sichere_vor_dem_Lesen(Satzart Art) {
     std::vector<Satzart> Arten;
     for (const Satzart a : {Wirkstoff, Applikation, Szenario}) {
@@ -314,7 +314,8 @@ bool Satzverwaltung::speichere() {
 Satzverwaltung::Sicherung Satzverwaltung::frage_Sicherung(std::size_t Art) {
     const std::string Text = std::string("You modified ") + Satzart_Namen[Art] + " input data! " +
                              " Do you want to save the changes in your data base?";
-    const Knopf Antwort = z_.Welt.Fragen->frage({Texte::Aenderungen_sichern, Text, Symbol::Ausrufezeichen, {Knopf::Ja, Knopf::Nein}});
+    const Knopf Antwort =
+        z_.Welt.Fragen->frage({Texte::Aenderungen_sichern, Text, Symbol::Ausrufezeichen, {Knopf::Ja, Knopf::Nein}});
     if (Antwort != Knopf::Ja) return Sicherung::keine;
     return speichere() ? Sicherung::erfolgt : Sicherung::verweigert;
 }

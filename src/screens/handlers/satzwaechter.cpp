@@ -66,8 +66,9 @@ Satzwaechter::Auftrag Satzwaechter::stelle_zusammen(Satzart Art) const {
 
 bool Satzwaechter::darf_speichern() const {
     if (!z_.Sperre || !z_.Sperre->von_anderem_gehalten()) return true;
-    return z_.Welt.Fragen->frage({Texte::Aenderungen_sichern, Texte::zweites_Fenster_sichert, Symbol::Ausrufezeichen,
-                                  {Knopf::Ja, Knopf::Nein}}) == Knopf::Ja;
+    return z_.Welt.Fragen->frage(
+               {Texte::Aenderungen_sichern, Texte::zweites_Fenster_sichert, Symbol::Ausrufezeichen, {Knopf::Ja, Knopf::Nein}}) ==
+           Knopf::Ja;
 }
 
 bool Satzwaechter::darf_ersetzen(const Auftrag& a, const std::string& vorhanden) const {

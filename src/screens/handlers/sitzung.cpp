@@ -100,12 +100,14 @@ void Sitzung::Starten() {
 }
 
 void Sitzung::Aktualisieren() {
-    befolge([&] {
-        if (Saetze_.aktualisiere()) return;
-        z_.Neu_berechnen = true;
-        Laeufe_.verwirf_alle();
-        Laeufe_.berechne(true);
-    }, false);
+    befolge(
+        [&] {
+            if (Saetze_.aktualisiere()) return;
+            z_.Neu_berechnen = true;
+            Laeufe_.verwirf_alle();
+            Laeufe_.berechne(true);
+        },
+        false);
 }
 
 void Sitzung::Speichern() {
@@ -125,9 +127,8 @@ void Sitzung::suche_nach_Update() {
 }
 
 void Sitzung::suche_beim_Start(std::function<void(const std::function<void()>&)> fuehre_aus) {
-    Update_.suche_beim_Start([this, fuehre_aus](const std::string& Seite) {
-        fuehre_aus([&] { tue([&] { Update_.melde(Seite); }); });
-    });
+    Update_.suche_beim_Start(
+        [this, fuehre_aus](const std::string& Seite) { fuehre_aus([&] { tue([&] { Update_.melde(Seite); }); }); });
 }
 
 bool Sitzung::schliesse_Fenster() {
@@ -151,14 +152,16 @@ void Sitzung::schalte_Diagramm_weiter() {
 bool Sitzung::skaliere_Diagramm(const std::string& Start, const std::string& Ende) { return Diagramme_.skaliere(Start, Ende); }
 
 void Sitzung::schliesse_Skalierung() {
-    befolge([&] {
-        if (z_.Zusammenfassung_aktiv) {
-            Laeufe_.zeichne_neu();
-        } else {
-            z_.Neu_berechnen = true;
-            Laeufe_.berechne();
-        }
-    }, false);
+    befolge(
+        [&] {
+            if (z_.Zusammenfassung_aktiv) {
+                Laeufe_.zeichne_neu();
+            } else {
+                z_.Neu_berechnen = true;
+                Laeufe_.berechne();
+            }
+        },
+        false);
 }
 
 void Sitzung::merke_Legende(bool Zusammenfassung, int Satz, const std::optional<Flaechenort>& Ort) {
@@ -205,7 +208,8 @@ void Sitzung::oeffne_Beschreibung() {
 
 void Sitzung::aendere_Beschreibung(const std::string& Text) {
     std::string eine_Zeile = Text;
-    std::replace_if(eine_Zeile.begin(), eine_Zeile.end(), [](char c) { return c == '\n' || c == '\r'; }, ' ');
+    std::replace_if(
+        eine_Zeile.begin(), eine_Zeile.end(), [](char c) { return c == '\n' || c == '\r'; }, ' ');
     if (eine_Zeile == z_.Felder().Beschreibung) return;
     z_.Felder().Beschreibung = eine_Zeile;
     z_.Ergebnisdatei.clear();

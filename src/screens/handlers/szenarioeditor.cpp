@@ -154,7 +154,8 @@ void Szenarioeditor::uebernimm_Werte() {
     Text(E::Bodendichte, p.Bodendichte);
     Tiefe(e_.Boden, gezeigt_.Boden, p.Bodentiefe);
     if (Tiefe(e_.Plateau, gezeigt_.Plateau, p.Plateautiefe) && p.Plateautiefe < p.Bodentiefe) {
-        const std::string Meldung = "A plateau depth was defined smaller than the current soil depth.\nThe problem was corrected.";
+        const std::string Meldung =
+            "A plateau depth was defined smaller than the current soil depth.\nThe problem was corrected.";
         z_.Welt.Fragen->frage({"Problem!", Meldung, Symbol::Hinweis, {Knopf::OK}});
     }
     Text(E::Kohlenstoffgehalt, p.Kohlenstoffgehalt);

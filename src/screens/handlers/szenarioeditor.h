@@ -13,8 +13,8 @@ namespace varnok {
 struct Tiefenwahl {
     std::vector<std::string> Eintraege;  // cm
     int Position = 0;
-    int Option = 2;             // two presets, then "Individual"
-    bool Liste_sichtbar = true;  // with "Individual" only
+    int Option = 2;                 // two presets, then "Individual"
+    bool Liste_sichtbar = true;     // with "Individual" only
     std::array<int, 2> Vorgaben{};  // positions of the presets
 };
 

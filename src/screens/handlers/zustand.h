@@ -61,8 +61,8 @@ struct Zustand : Satzlisten {
     Umgebung Welt;
     Einstellungen Einstellung;
     std::string Projektpfad;
-    std::optional<Projektordner> Ordner;  // of everything behind the selectors, until the program ends
-    std::shared_ptr<Projektsperre> Sperre;  // on that folder, for the time of the session
+    std::optional<Projektordner> Ordner;          // of everything behind the selectors, until the program ends
+    std::shared_ptr<Projektsperre> Sperre;        // on that folder, for the time of the session
     std::optional<Projektordner> Ausgabeprojekt;  // the present project path, for all output
 
     Lauf Rechnung;
@@ -84,10 +84,10 @@ struct Zustand : Satzlisten {
     bool Simulation_markiert = false;  // the combination on the screen differs from the saved one
     bool Beschreibung_offen = false;
     bool Szenarioeditor_faellig = false;  // the scenario names a climate file that cannot be opened
-    std::string Ergebnisdatei;  // name of the report file written last
+    std::string Ergebnisdatei;            // name of the report file written last
     std::optional<Zelle> Tabellenfehler;  // the cell that a message spoke of, to be selected
     std::string Statuszeile;
-    int Zeichnung = 0;  // counts the redraws of the results
+    int Zeichnung = 0;                   // counts the redraws of the results
     bool Aktualisierungsfehler = false;  // the last check for a newer version received no usable answer
     bool Aktualisierung_laeuft = false;
     bool beendet = false;  // the program ends as soon as the action in work is over

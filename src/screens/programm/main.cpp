@@ -62,7 +62,11 @@ int main(int argc, char** argv) {
     varnok::Netzabruf Netz;
     varnok::Dateitausch Tausch(varnok::aus_Qt(QApplication::applicationFilePath()), varnok::aus_Qt(QDir::currentPath()),
                                QApplication::applicationPid());
-    varnok::Sitzung Programm({&Fragen, varnok::aus_Qt(Ordner), varnok::aus_Qt(installiert), Komma ? ',' : '.', nullptr,
+    varnok::Sitzung Programm({&Fragen,
+                              varnok::aus_Qt(Ordner),
+                              varnok::aus_Qt(installiert),
+                              Komma ? ',' : '.',
+                              nullptr,
                               {varnok::Ziel_der_Auslieferung(), &Netz, &Tausch}});
     if (!Programm.starte()) return 0;
     varnok::Hauptformular Fenster(Programm, &Fragen, Fensterdatei);

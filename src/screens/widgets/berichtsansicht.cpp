@@ -38,7 +38,10 @@ Berichtsansicht::Berichtsansicht(Sitzung& Programm, QWidget* Flaeche, QWidget* p
     Blatt->setContentsMargins(8, 8, 8, 8);
     Blatt->addWidget(Bericht_, 1);
     auto* Zeile = new QHBoxLayout;
-    const struct { QString Name, Aufschrift; void (Berichtsansicht::*Befehl)(); } Knoepfe[] = {
+    const struct {
+        QString Name, Aufschrift;
+        void (Berichtsansicht::*Befehl)();
+    } Knoepfe[] = {
         {u"Bericht_drucken"_s, u"Print"_s, &Berichtsansicht::drucke},
         {u"Bericht_PDF"_s, u"Save report as PDF"_s, &Berichtsansicht::speichere_PDF},
         {u"Bericht_kopieren"_s, u"Copy report"_s, &Berichtsansicht::kopiere},

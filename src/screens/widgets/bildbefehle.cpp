@@ -99,7 +99,8 @@ void Bildbefehle::speichere(Dateiart Art) {
         if (i >= 0) Aufloesung_ = Bildaufloesungen.at(static_cast<std::size_t>(i));
         schreibe(Pfad, Bild_als_PNG(z, Aufloesung_));
     } else {
-        schreibe(Pfad, Art == Dateiart::SVG ? Bild_als_SVG(z, Titel_von(*d->Inhalt())) : Bild_als_PDF(z, Titel_von(*d->Inhalt())));
+        schreibe(Pfad,
+                 Art == Dateiart::SVG ? Bild_als_SVG(z, Titel_von(*d->Inhalt())) : Bild_als_PDF(z, Titel_von(*d->Inhalt())));
     }
 }
 

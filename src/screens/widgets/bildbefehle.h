@@ -33,7 +33,7 @@ private:
     Ergebnisbereich& Ergebnisse_;
     QMainWindow& Fenster_;
     std::vector<QAction*> Eintraege_;
-    QString Ordner_;           // of the picture saved last
+    QString Ordner_;  // of the picture saved last
     int Aufloesung_ = 300;
 };
 

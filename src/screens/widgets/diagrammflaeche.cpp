@@ -251,8 +251,7 @@ void Diagrammflaeche::zeige_Ablesung(const QPointF& Ort) {
     const int Einheitszahl = Einheit.startsWith(u'm') ? 0 : 1;
     const std::string Wert = Formatiere_Zahl(static_cast<double>(a->Wert), false, true, Einheitszahl);
     const QString Text = u"day "_s + in_Qt(a->Tag) + u": "_s + in_Qt(Wert) + u' ' + Einheit + u", "_s + in_Qt(a->Name);
-    Ablesungsschild_->setText(
-        Ablesungsschild_->fontMetrics().elidedText(Text, Qt::ElideRight, Ablesungsschild_->width()));
+    Ablesungsschild_->setText(Ablesungsschild_->fontMetrics().elidedText(Text, Qt::ElideRight, Ablesungsschild_->width()));
     Ablesungsschild_->show();
     Ablesefarbe_ = a->Farbe;
     Ablesepunkt_ = auf_Flaeche(rect(), k, {static_cast<double>(a->Tag), static_cast<double>(a->Wert)});

@@ -65,8 +65,8 @@ private:
 
     int Satz_;
     std::optional<Diagramm> Inhalt_;
-    Zeichenliste Liste_;   // fitted to the size
-    Koordinaten Achsen_;   // the rectangle between the axes
+    Zeichenliste Liste_;  // fitted to the size
+    Koordinaten Achsen_;  // the rectangle between the axes
     double Massstab_ = 1;
     QPixmap Bild_;
     std::array<QLabel*, 4> Schilder_{};

@@ -132,7 +132,8 @@ void Ergebnisrahmen::ordne(const QSize& Flaeche, int Achsenhoehe) {
         if (Kopf && fontMetrics().horizontalAdvance(Kopf->text().trimmed()) > Spalte - 8) Kopfzeilen = 2;
     }
     const int Breite = Spalte * n;
-    const int Titelhoehe = Titel_->fontMetrics().boundingRect(QRect(0, 0, Breite, 1000), Qt::TextWordWrap, Titel_->text()).height();
+    const int Titelhoehe =
+        Titel_->fontMetrics().boundingRect(QRect(0, 0, Breite, 1000), Qt::TextWordWrap, Titel_->text()).height();
     ordne_Zeilen(Achsenhoehe - static_cast<int>(Heimat_Ergebnis.oben * Flaeche.height()) - Titelhoehe - 4, Kopfzeilen);
     Titel_->setFixedSize(Breite, Titelhoehe);
     Tafel_->setFixedSize(Breite, Tafel_->verticalHeader()->length());
@@ -186,7 +187,8 @@ void Ergebnisrahmen::klicke(const QMouseEvent& e) {
         return;
     }
     Tafel_->clearSelection();
-    const QRect r = QRect(QPoint(Anfang.column(), Anfang.row()), QSize(1, 1)) | QRect(QPoint(Zelle.column(), Zelle.row()), QSize(1, 1));
+    const QRect r =
+        QRect(QPoint(Anfang.column(), Anfang.row()), QSize(1, 1)) | QRect(QPoint(Zelle.column(), Zelle.row()), QSize(1, 1));
     Tafel_->setRangeSelected(QTableWidgetSelectionRange(r.top(), r.left(), r.bottom(), r.right()), true);
 }
 

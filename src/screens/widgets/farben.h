@@ -22,8 +22,8 @@ inline constexpr QColor Eingabe{255, 255, 0};       // a field in work
 inline constexpr QColor Markierung{192, 255, 255};  // the combination differs from the saved one
 inline constexpr QColor Beschreibung{0, 0, 255};
 inline constexpr QColor Text{28, 32, 36};
-inline constexpr QColor Papier{247, 246, 241};      // of the pages that present the program
-inline constexpr QColor Linie{31, 95, 139};  // the blue of the program's own drawings
+inline constexpr QColor Papier{247, 246, 241};  // of the pages that present the program
+inline constexpr QColor Linie{31, 95, 139};     // the blue of the program's own drawings
 
 }  // namespace Farben
 

@@ -35,10 +35,14 @@ Knopf harmloser_Knopf(const Frage& f) {
 
 QMessageBox::Icon Bild_von(Symbol s) {
     switch (s) {
-        case Symbol::Ausrufezeichen: return QMessageBox::Warning;
-        case Symbol::Frage: return QMessageBox::Question;
-        case Symbol::Hinweis: return QMessageBox::Information;
-        case Symbol::keines: break;
+        case Symbol::Ausrufezeichen:
+            return QMessageBox::Warning;
+        case Symbol::Frage:
+            return QMessageBox::Question;
+        case Symbol::Hinweis:
+            return QMessageBox::Information;
+        case Symbol::keines:
+            break;
     }
     return QMessageBox::NoIcon;
 }
@@ -59,8 +63,7 @@ Knopf Fensterfrage::frage(const Frage& f) {
     if (vorher_) vorher_();
 
     QWidget* Dialog = QApplication::activeModalWidget();  // the box stands over the dialog that it belongs to
-    QMessageBox Kasten(Bild_von(f.Zeichen), in_Qt(f.Titel), in_Qt(f.Text), QMessageBox::NoButton,
-                       Dialog ? Dialog : Fenster_);
+    QMessageBox Kasten(Bild_von(f.Zeichen), in_Qt(f.Titel), in_Qt(f.Text), QMessageBox::NoButton, Dialog ? Dialog : Fenster_);
     Kasten.setTextFormat(Qt::PlainText);
     for (const Knopf k : f.Knoepfe) Kasten.addButton(Taste_von(k));
     Kasten.setDefaultButton(Taste_von(f.Knoepfe.front()));

@@ -58,7 +58,7 @@ private:
     std::optional<QPoint> Griff_;         // the grabbed point, while a button is down
     QPoint Druckstelle_;                  // on the screen
     bool bewegt_ = false;
-    QMargins Heimatrand_;                 // what a frame at home keeps free
+    QMargins Heimatrand_;  // what a frame at home keeps free
     bool verborgen_ = false;
     bool erlaubt_ = true;
 };

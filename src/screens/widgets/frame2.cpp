@@ -12,8 +12,8 @@ namespace varnok {
 using namespace Qt::StringLiterals;
 
 Frame2::Frame2(Sitzung& Programm, QWidget* parent) : Rahmen(u"Frame2"_s, Rahmenart::schlicht, Programm, parent) {
-    Simulation_ = new Satzliste(Simulation, {u"Simulationsliste"_s, u"Copy_Simulation"_s, u"Loeschen_Simulation"_s}, 30, Programm,
-                                *this);
+    Simulation_ =
+        new Satzliste(Simulation, {u"Simulationsliste"_s, u"Copy_Simulation"_s, u"Loeschen_Simulation"_s}, 30, Programm, *this);
     Beschreibung_ = new Beschreibungsfeld(this);
 
     QLabel* Schild_Simulation = Schild(u"Current  Simulation:"_s, Simulation_->Liste, this);

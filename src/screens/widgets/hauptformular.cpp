@@ -234,7 +234,8 @@ void Hauptformular::oeffne_Organiser() {
     nach_Handlung();
     if (!offen) return;
     {
-        Simulationen Dialog(Programm_, [this](QWidget* w) { zeige_Szenarioeditor(Programm_, w); }, this);
+        Simulationen Dialog(
+            Programm_, [this](QWidget* w) { zeige_Szenarioeditor(Programm_, w); }, this);
         connect(&Dialog, &Simulationen::gehandelt, this, &Hauptformular::zeige);
         Dialog.exec();
     }

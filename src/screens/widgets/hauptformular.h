@@ -73,8 +73,8 @@ private:
     Schalterrahmen* Schalter_ = nullptr;
     Bildbefehle* Bilder_ = nullptr;
     Berichtsansicht* Bericht_ = nullptr;
-    QAction* Drucken_ = nullptr;  // the report is the only thing to print
-    cTooltip* Tooltips_ = nullptr;         // none until tips are wanted
+    QAction* Drucken_ = nullptr;    // the report is the only thing to print
+    cTooltip* Tooltips_ = nullptr;  // none until tips are wanted
 };
 
 }  // namespace varnok

@@ -75,7 +75,8 @@ void Kinetikschema::verbinde_Studien() {
             [this](const QString& Text) { Programm_.aendere_Studienname(aus_Qt(Text)); });
     connect(Studienname_, &Umbenennfeld::bestaetigt, this,
             [this](bool Enter) { handle([&] { Programm_.bestaetige_Studienname(Enter); }); });
-    connect(Studienname_, &Umbenennfeld::zurueckgenommen, this, [this] { handle([&] { Programm_.nimm_Studienname_zurueck(); }); });
+    connect(Studienname_, &Umbenennfeld::zurueckgenommen, this,
+            [this] { handle([&] { Programm_.nimm_Studienname_zurueck(); }); });
 }
 
 void Kinetikschema::zeige_Studien() {

@@ -59,7 +59,7 @@ bool Listenbedienung::eventFilter(QObject* Quelle, QEvent* e) {
 }
 
 bool Listenbedienung::fuehre_aus(bool erlaubt, Signal s) {
-    if (erlaubt) Q_EMIT (this->*s)();
+    if (erlaubt) Q_EMIT(this->*s)();
     return true;
 }
 
@@ -90,7 +90,13 @@ void Listenbedienung::zeige_Menue() {
         Eintrag->setShortcutContext(Qt::WidgetShortcut);
         Eintrag->setEnabled(erlaubt.*z.Recht);
         // After the menu is gone: the command may ask or take the focus.
-        connect(Eintrag, &QAction::triggered, this, [this, Befehl = z.Befehl] { Q_EMIT (this->*Befehl)(); }, Qt::QueuedConnection);
+        connect(
+            Eintrag, &QAction::triggered, this,
+            [this, Befehl = z.Befehl] {
+                Q_EMIT(this->*Befehl)
+                ();
+            },
+            Qt::QueuedConnection);
     }
     Menue->popup(Liste_.mapToGlobal(Liste_.rect().bottomLeft()));
 }

@@ -81,7 +81,8 @@ Menue::Menue(Sitzung& Programm, QMainWindow& Fenster) : QObject(&Fenster), Progr
         // Names like "Quit" would move entries to another menu on some desktops.
         Aktion->setMenuRole(QAction::NoRole);
         Eintraege_.push_back({Aktion, b.erlaubt});
-        if (b.Befehl) connect(Aktion, &QAction::triggered, this, [this, Aktion, Befehl = b.Befehl] { fuehre_aus(Aktion, Befehl); });
+        if (b.Befehl)
+            connect(Aktion, &QAction::triggered, this, [this, Aktion, Befehl = b.Befehl] { fuehre_aus(Aktion, Befehl); });
     }
 }
 

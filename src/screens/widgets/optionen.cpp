@@ -114,8 +114,8 @@ QGroupBox* Optionen::erstelle_Namensteile(const Optionsentwurf& o) {
 }
 
 QVBoxLayout* Optionen::erstelle_Programmspalte(const Optionsentwurf& o) {
-    const Auswahlkasten Tips = erstelle_Auswahl(u"Tips_anzeigen"_s, u"Show tooltips"_s, {u"No"_s, u"Yes"_s}, o.Tips_anzeigen,
-                                                Lage::nebeneinander, this);
+    const Auswahlkasten Tips =
+        erstelle_Auswahl(u"Tips_anzeigen"_s, u"Show tooltips"_s, {u"No"_s, u"Yes"_s}, o.Tips_anzeigen, Lage::nebeneinander, this);
     const Auswahlkasten Farben =
         erstelle_Auswahl(u"Farbeinstellung"_s, u"Appearance:"_s, {u"Coloured forms"_s, u"Standard windows forms"_s},
                          o.Farbeinstellung, Lage::nebeneinander, this);

@@ -124,15 +124,13 @@ Tiefenfeld* Szenario_Form::erstelle_Tiefe(QGridLayout& Raster, int Zeile, bool B
     connect(Feld, &Tiefenfeld::Option_gewaehlt, this, [this, Boden](int o) {
         tue([=](Szenarioeditor& e) { Boden ? e.waehle_Bodentiefe_Option(o) : e.waehle_Plateautiefe_Option(o); });
     });
-    connect(Feld, &Tiefenfeld::Tiefe_gewaehlt, this, [this, Boden](int i) {
-        tue([=](Szenarioeditor& e) { Boden ? e.waehle_Bodentiefe(i) : e.waehle_Plateautiefe(i); });
-    });
+    connect(Feld, &Tiefenfeld::Tiefe_gewaehlt, this,
+            [this, Boden](int i) { tue([=](Szenarioeditor& e) { Boden ? e.waehle_Bodentiefe(i) : e.waehle_Plateautiefe(i); }); });
     connect(Feld, &Tiefenfeld::geblaettert, this, [this, Boden](int i) {
         tue([=](Szenarioeditor& e) { Boden ? e.blaettere_Bodentiefe(i) : e.blaettere_Plateautiefe(i); });
     });
-    connect(Feld, &Tiefenfeld::verlassen, this, [this, Boden] {
-        tue([=](Szenarioeditor& e) { Boden ? e.verlasse_Bodentiefe() : e.verlasse_Plateautiefe(); });
-    });
+    connect(Feld, &Tiefenfeld::verlassen, this,
+            [this, Boden] { tue([=](Szenarioeditor& e) { Boden ? e.verlasse_Bodentiefe() : e.verlasse_Plateautiefe(); }); });
     return Feld;
 }
 

@@ -5,7 +5,7 @@
 namespace varnok {
 namespace {
 
-constexpr int Luecke = 14;       // beside the line
+constexpr int Luecke = 14;  // beside the line
 constexpr int Zeilenabstand = 4;
 
 }  // namespace
@@ -15,7 +15,9 @@ void Zwei_Gruppen::addItem(QLayoutItem* Stueck) {
     Stuecke_.emplace_back(Stueck);
 }
 
-QLayoutItem* Zwei_Gruppen::itemAt(int i) const { return i >= 0 && i < count() ? Stuecke_[static_cast<std::size_t>(i)].get() : nullptr; }
+QLayoutItem* Zwei_Gruppen::itemAt(int i) const {
+    return i >= 0 && i < count() ? Stuecke_[static_cast<std::size_t>(i)].get() : nullptr;
+}
 
 QLayoutItem* Zwei_Gruppen::takeAt(int i) {
     if (i < 0 || i >= count()) return nullptr;

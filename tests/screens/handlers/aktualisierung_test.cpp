@@ -40,9 +40,7 @@ protected:
             Handlung();
         });
     }
-    void erwarte_keine_Verbindung() {
-        Fragen_.erwarte("Connection error", "Varnok could not connect to the update server");
-    }
+    void erwarte_keine_Verbindung() { Fragen_.erwarte("Connection error", "Varnok could not connect to the update server"); }
 
     Aktualisierungsziel Ziel_;
     Scheinnetz Netz_;

@@ -11,14 +11,13 @@ namespace {
 class Fremdes : public Befehlsprobe {
 protected:
     std::string Pfad(const std::string& Datei) const { return (Wurzel_ / "input" / Datei).string(); }
-    void aendere_von_aussen(const std::string& Datei) const {
-        schreibe_Datei(Pfad(Datei), lies_Datei(Pfad(Datei)) + "theirs");
-    }
+    void aendere_von_aussen(const std::string& Datei) const { schreibe_Datei(Pfad(Datei), lies_Datei(Pfad(Datei)) + "theirs"); }
     void entferne_von_aussen(const std::string& Datei) const { std::filesystem::remove(Pfad(Datei)); }
     bool Status_nennt(const std::string& Text) const { return z().Statuszeile.find(Text) != std::string::npos; }
     void erwarte_Ersatzfrage(const std::string& Datei, Knopf Antwort) {
         Fragen_.erwarte("Replace existing record?",
-                        "The record '" + Datei + "' was changed by another program since it was read. Do you want to replace it?", Antwort);
+                        "The record '" + Datei + "' was changed by another program since it was read. Do you want to replace it?",
+                        Antwort);
     }
     void erwarte_Sicherungsfrage(Knopf Antwort) { Fragen_.erwarte_Anfang("Save changes?", "You modified pesticide", Antwort); }
 };

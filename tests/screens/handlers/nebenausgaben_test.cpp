@@ -67,7 +67,8 @@ TEST_F(Nebenausgabenprobe, a_run_that_fails_writes_nothing) {
 TEST_F(Nebenausgabenprobe, a_run_dump_that_cannot_be_written_is_told_once_and_the_results_stand) {
     versperre("test.txt");
     nur_geladen();
-    Fragen_.erwarte("Runtime error", "Cannot write the file \"" + (Wurzel_ / "output" / "test.txt").string() + "\": it is a folder");
+    Fragen_.erwarte("Runtime error",
+                    "Cannot write the file \"" + (Wurzel_ / "output" / "test.txt").string() + "\": it is a folder");
     s_->Starten();
     EXPECT_FALSE(s_->Stand().abgedeckt);
     EXPECT_FALSE(s_->Stand().Hinweis);

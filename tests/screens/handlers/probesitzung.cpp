@@ -13,7 +13,8 @@ namespace {
 
 std::filesystem::path neuer_Ordner() {
     static int Nummer = 0;
-    auto Pfad = std::filesystem::temp_directory_path() / ("varnok-" + std::to_string(::getpid()) + "-" + std::to_string(Nummer++));
+    auto Pfad =
+        std::filesystem::temp_directory_path() / ("varnok-" + std::to_string(::getpid()) + "-" + std::to_string(Nummer++));
     std::filesystem::create_directories(Pfad / "input");
     return Pfad;
 }
@@ -83,7 +84,8 @@ bool Probesitzung::tippe(const std::string& Objektname, const std::string& Text)
 }
 
 float Probesitzung::Maximum(int i_studie, int i_substanz) const {
-    return s_->Stand().Rechnung.Speicher.Maximum_Bodentiefe[0][static_cast<std::size_t>(i_studie)][static_cast<std::size_t>(i_substanz)];
+    return s_->Stand()
+        .Rechnung.Speicher.Maximum_Bodentiefe[0][static_cast<std::size_t>(i_studie)][static_cast<std::size_t>(i_substanz)];
 }
 
 }  // namespace varnok

@@ -28,7 +28,8 @@ protected:
     void simulation(const std::string& Name, const std::string& Stoff, const std::string& Muster, const std::string& Boden) {
         schreibe_Simulation(Projektordner(Wurzel_.string()), Name, {Name, {"", Stoff, Muster, Boden}});
         const auto Pfad = Wurzel_ / "input" / (Name + ".vnk");
-        std::filesystem::last_write_time(Pfad, std::filesystem::last_write_time(Wurzel_ / "input/Probe.vnk") - std::chrono::hours(1));
+        std::filesystem::last_write_time(Pfad,
+                                         std::filesystem::last_write_time(Wurzel_ / "input/Probe.vnk") - std::chrono::hours(1));
     }
 
     int Platz(std::size_t Art, const std::string& Name) const {
@@ -111,7 +112,8 @@ TEST_F(Satzprobe, yes_on_choosing_stores_the_values_left_in_the_record_chosen) {
     gestartet();
     ASSERT_TRUE(tippe("S_DT50_0", "12"));
     const std::string links = Datei("input/Probe.che");
-    Fragen_.erwarte("Save changes?", "You modified pesticide input data!  Do you want to save the changes in your data base?", Knopf::Ja);
+    Fragen_.erwarte("Save changes?", "You modified pesticide input data!  Do you want to save the changes in your data base?",
+                    Knopf::Ja);
     s_->waehle_Satz(Wirkstoff, Platz(1, "Second"));
     EXPECT_EQ(Datei("input/Probe.che"), links);
     EXPECT_EQ(s_->Stand().Felder().Name_Wirkstoff, "Parent P");

@@ -90,7 +90,8 @@ TEST_F(Befehlsprobe, a_copy_over_an_existing_file_with_yes_adds_no_second_entry_
     schreibe_Datei((Wurzel_ / "input/copy of Probe.che").string(), "old");
     gestartet();
     const std::size_t Zahl = z().Listen[Wirkstoff].size();
-    Fragen_.erwarte("Replace existing record?", "The record 'copy of Probe.che' already exists. Do you want to replace it?", Knopf::Ja);
+    Fragen_.erwarte("Replace existing record?", "The record 'copy of Probe.che' already exists. Do you want to replace it?",
+                    Knopf::Ja);
     s_->kopiere_Satz(Wirkstoff);
     EXPECT_EQ(z().Listen[Wirkstoff].size(), Zahl);
     EXPECT_EQ(Datei("input/copy of Probe.che"), Datei("input/Probe.che"));
@@ -100,7 +101,8 @@ TEST_F(Befehlsprobe, a_copy_over_an_existing_file_with_yes_adds_no_second_entry_
 TEST_F(Befehlsprobe, a_copy_over_an_existing_file_with_no_changes_nothing) {
     schreibe_Datei((Wurzel_ / "input/copy of Probe.che").string(), "old");
     gestartet();
-    Fragen_.erwarte("Replace existing record?", "The record 'copy of Probe.che' already exists. Do you want to replace it?", Knopf::Nein);
+    Fragen_.erwarte("Replace existing record?", "The record 'copy of Probe.che' already exists. Do you want to replace it?",
+                    Knopf::Nein);
     s_->kopiere_Satz(Wirkstoff);
     EXPECT_EQ(z().gewaehlt(Wirkstoff), "Probe");
     EXPECT_EQ(Datei("input/copy of Probe.che"), "old");
@@ -176,7 +178,8 @@ TEST_F(Befehlsprobe, after_deleting_a_simulation_exit_only_renews_the_stamp_of_i
     s_->Ende();
     EXPECT_TRUE(z().beendet);
     EXPECT_EQ(Datei("input/Second.vnk"), Nachbar);
-    const auto Alter = std::filesystem::file_time_type::clock::now() - std::filesystem::last_write_time(Wurzel_ / "input/Second.vnk");
+    const auto Alter =
+        std::filesystem::file_time_type::clock::now() - std::filesystem::last_write_time(Wurzel_ / "input/Second.vnk");
     EXPECT_LT(Alter, std::chrono::minutes(10));
 }
 
@@ -285,15 +288,17 @@ TEST_P(Unnamen, are_refused_before_a_file_is_touched) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Names, Unnamen,
-                         ::testing::Values(Unname{"empty", ""}, Unname{"dots", ".."}, Unname{"slash", "a/b"}, Unname{"backslash", "a\\b"},
-                                           Unname{"control", "a\nb"}, Unname{"long", std::string(300, 'x')}, Unname{"greek", "\xCE\xB1"}),
+                         ::testing::Values(Unname{"empty", ""}, Unname{"dots", ".."}, Unname{"slash", "a/b"},
+                                           Unname{"backslash", "a\\b"}, Unname{"control", "a\nb"},
+                                           Unname{"long", std::string(300, 'x')}, Unname{"greek", "\xCE\xB1"}),
                          [](const auto& i) { return std::string(i.param.Fall); });
 
 TEST_F(Befehlsprobe, choosing_with_yes_stores_the_values_left_under_the_name_chosen_and_keeps_that_file_in_backup) {
     gestartet();
     tippe("S_DT50_0", "12");
     const std::string alt = Datei("input/Second.che");
-    Fragen_.erwarte("Save changes?", "You modified pesticide input data!  Do you want to save the changes in your data base?", Knopf::Ja);
+    Fragen_.erwarte("Save changes?", "You modified pesticide input data!  Do you want to save the changes in your data base?",
+                    Knopf::Ja);
     waehle(Wirkstoff, "Second");
     EXPECT_NE(Datei("input/Second.che"), alt);
     EXPECT_EQ(s_->Feldtext(Feld("S_DT50_0")), "12");
@@ -303,7 +308,8 @@ TEST_F(Befehlsprobe, choosing_with_yes_stores_the_values_left_under_the_name_cho
 TEST_F(Befehlsprobe, choosing_with_no_reads_the_record_and_keeps_the_dropped_values_in_backup) {
     gestartet();
     tippe("S_DT50_0", "12");
-    Fragen_.erwarte("Save changes?", "You modified pesticide input data!  Do you want to save the changes in your data base?", Knopf::Nein);
+    Fragen_.erwarte("Save changes?", "You modified pesticide input data!  Do you want to save the changes in your data base?",
+                    Knopf::Nein);
     waehle(Wirkstoff, "Second");
     EXPECT_NE(s_->Feldtext(Feld("S_DT50_0")), "12");
     EXPECT_EQ(gesichert(), Namen{"unsaved Probe.che"});
@@ -343,7 +349,8 @@ TEST_F(Befehlsprobe, a_record_changed_by_another_program_is_not_saved_over_witho
     gestartet();
     tippe("S_DT50_0", "12");
     schreibe_Datei((Wurzel_ / "input/Probe.che").string(), "theirs");
-    const std::string Text = "The record 'Probe.che' was changed by another program since it was read. Do you want to replace it?";
+    const std::string Text =
+        "The record 'Probe.che' was changed by another program since it was read. Do you want to replace it?";
     Fragen_.erwarte("Replace existing record?", Text, Knopf::Nein);
     s_->Speichern();
     EXPECT_EQ(Datei("input/Probe.che"), "theirs");

@@ -58,35 +58,46 @@ void erwarte_Fehler(Drehbuch& d, const std::string& Vorgang) {
     d.erwarte_Anfang("Runtime error", "Cannot " + Vorgang + " the file");
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Commands, OhneSchreibrecht,
-    ::testing::Values(Befehl{"new_record", [](Sitzung& s, Drehbuch& d) { erwarte_Fehler(d, "write"); s.neuer_Wirkstoff(); }},
-                      Befehl{"copy", [](Sitzung& s, Drehbuch& d) { erwarte_Fehler(d, "write"); s.kopiere_Satz(Wirkstoff); }},
-                      Befehl{"deletion",
-                             [](Sitzung& s, Drehbuch& d) {
-                                 d.erwarte_Anfang("Delete record", "", Knopf::Ja);
-                                 erwarte_Fehler(d, "delete");
-                                 s.loesche_Satz(Wirkstoff);
-                             }},
-                      Befehl{"rename",
-                             [](Sitzung& s, Drehbuch& d) {
-                                 erwarte_Fehler(d, "rename");
-                                 s.benenne_Satz_um(Wirkstoff, "x", true);
-                             }},
-                      Befehl{"rename_over_a_record",
-                             [](Sitzung& s, Drehbuch& d) {
-                                 d.erwarte_Anfang("Replace existing record?", "", Knopf::Ja);
-                                 erwarte_Fehler(d, "rename");
-                                 s.benenne_Satz_um(Wirkstoff, "Second", true);
-                             }},
-                      Befehl{"save", [](Sitzung& s, Drehbuch& d) { erwarte_Fehler(d, "write"); s.Speichern(); }},
-                      Befehl{"choice_with_yes",
-                             [](Sitzung& s, Drehbuch& d) {
-                                 d.erwarte_Anfang("Save changes?", "", Knopf::Ja);
-                                 erwarte_Fehler(d, "write");
-                                 s.waehle_Satz(Wirkstoff, 1);
-                             }}),
-    [](const auto& i) { return std::string(i.param.Fall); });
+INSTANTIATE_TEST_SUITE_P(Commands, OhneSchreibrecht,
+                         ::testing::Values(Befehl{"new_record",
+                                                  [](Sitzung& s, Drehbuch& d) {
+                                                      erwarte_Fehler(d, "write");
+                                                      s.neuer_Wirkstoff();
+                                                  }},
+                                           Befehl{"copy",
+                                                  [](Sitzung& s, Drehbuch& d) {
+                                                      erwarte_Fehler(d, "write");
+                                                      s.kopiere_Satz(Wirkstoff);
+                                                  }},
+                                           Befehl{"deletion",
+                                                  [](Sitzung& s, Drehbuch& d) {
+                                                      d.erwarte_Anfang("Delete record", "", Knopf::Ja);
+                                                      erwarte_Fehler(d, "delete");
+                                                      s.loesche_Satz(Wirkstoff);
+                                                  }},
+                                           Befehl{"rename",
+                                                  [](Sitzung& s, Drehbuch& d) {
+                                                      erwarte_Fehler(d, "rename");
+                                                      s.benenne_Satz_um(Wirkstoff, "x", true);
+                                                  }},
+                                           Befehl{"rename_over_a_record",
+                                                  [](Sitzung& s, Drehbuch& d) {
+                                                      d.erwarte_Anfang("Replace existing record?", "", Knopf::Ja);
+                                                      erwarte_Fehler(d, "rename");
+                                                      s.benenne_Satz_um(Wirkstoff, "Second", true);
+                                                  }},
+                                           Befehl{"save",
+                                                  [](Sitzung& s, Drehbuch& d) {
+                                                      erwarte_Fehler(d, "write");
+                                                      s.Speichern();
+                                                  }},
+                                           Befehl{"choice_with_yes",
+                                                  [](Sitzung& s, Drehbuch& d) {
+                                                      d.erwarte_Anfang("Save changes?", "", Knopf::Ja);
+                                                      erwarte_Fehler(d, "write");
+                                                      s.waehle_Satz(Wirkstoff, 1);
+                                                  }}),
+                         [](const auto& i) { return std::string(i.param.Fall); });
 
 TEST_F(Satzrand, a_folder_in_the_place_of_the_copy_is_told_and_stays) {
     std::filesystem::create_directory(Wurzel_ / "input/copy of Probe.che");
@@ -184,8 +195,8 @@ TEST_F(Satzrand, deletion_keeps_the_file_and_the_unsaved_values_in_one_backup) {
     EXPECT_FALSE(z().Geaendert[1]);
     const auto Ort = std::filesystem::directory_iterator(Wurzel_ / "backup")->path();
     EXPECT_EQ(lies_Datei((Ort / "Probe.che").string()), alt);
-    EXPECT_EQ(z().Statuszeile, "What was there before is kept in backup/" + Ort.filename().string() +
-                                   ": \"Probe.che\", \"unsaved Probe.che\"");
+    EXPECT_EQ(z().Statuszeile,
+              "What was there before is kept in backup/" + Ort.filename().string() + ": \"Probe.che\", \"unsaved Probe.che\"");
 }
 
 TEST_F(Satzrand, what_is_typed_after_a_deletion_is_in_backup_before_the_neighbour_is_read) {

@@ -115,8 +115,7 @@ TEST_F(Szenarioprobe, changed_values_are_stored_mark_the_scenario_and_lead_to_on
 
 TEST_F(Szenarioprobe, a_tillage_depth_below_the_soil_depth_is_told_and_corrected) {
     offen().waehle_Plateautiefe(24);
-    Fragen_.erwarte("Problem!",
-                    "A plateau depth was defined smaller than the current soil depth.\nThe problem was corrected.");
+    Fragen_.erwarte("Problem!", "A plateau depth was defined smaller than the current soil depth.\nThe problem was corrected.");
     fertig();
     EXPECT_EQ(p().Plateautiefe, 5);
     EXPECT_TRUE(s_->Stand().Geaendert[3]);

@@ -53,8 +53,9 @@ TEST_F(Szenarioprobe, a_soil_name_is_copied_and_marks_the_scenario_without_a_run
 TEST_F(Szenarioprobe, a_soil_name_that_no_record_can_hold_is_refused_where_it_is_typed) {
     Szenarioeditor& e = offen();
     EXPECT_TRUE(e.aendere(E::Bodenszenario, "Loam \xC3\xA4"));  // a character of the code page
-    Fragen_.erwarte("No valid input!", "\"Loam \xE2\x89\xA5\" cannot be the name of a soil: "
-                                       "the records have no character \"\xE2\x89\xA5\"");
+    Fragen_.erwarte("No valid input!",
+                    "\"Loam \xE2\x89\xA5\" cannot be the name of a soil: "
+                    "the records have no character \"\xE2\x89\xA5\"");
     EXPECT_FALSE(e.aendere(E::Bodenszenario, "Loam \xE2\x89\xA5"));
     Fragen_.erwarte("No valid input!", "\"a\tb\" cannot be the name of a soil: it holds a control character");
     EXPECT_FALSE(e.aendere(E::Bodenszenario, "a\tb"));

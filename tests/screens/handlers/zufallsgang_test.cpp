@@ -52,7 +52,9 @@ protected:
         const Projektordner Ordner(Wurzel_.string());
         // Values that reading leaves as they are: an interval that two applications a year allow, the text of a constant climate.
         Felder_.Intervall_Index = 181;
-        Felder_.Klimaszenario = "20 \xC2\xB0""C constant";
+        Felder_.Klimaszenario =
+            "20 \xC2\xB0"
+            "C constant";
         for (const std::string Name : {"alpha", "beta", "gamma"}) {
             Felder_.Name_Wirkstoff = "Compound " + Name;
             Felder_.Bodenszenario = "Soil " + Name;
@@ -113,7 +115,7 @@ protected:
     Modell m_;
     std::mt19937 Zufall_{20180921};
     std::map<std::string, int> Zaehler_;  // of commands
-    int letzte_Zahl_ = 0;  // what is typed is never what stood there
+    int letzte_Zahl_ = 0;                 // what is typed is never what stood there
 };
 
 std::string Zufallsgang::tippe_etwas(int Wahl) {

@@ -41,26 +41,41 @@ private Q_SLOTS:
     // Letter for letter, oddities included.
     void captions_are_as_users_know_them() {
         QCOMPARE(p_->Fenster().windowTitle(), u"VARNOK - Soil residue forecast tool"_s);
-        for (const auto& [Name, Text] : {Aufschrift{"Starten", "OK"}, {"Copy_Simulation", "Copy"}, {"Loeschen_Simulation", "Del"},
-                                         {"Copy_1", "Copy"}, {"Copy_2", "Copy"}, {"Copy_3", "Copy"}, {"Loeschen_1", "Del"},
-                                         {"Loeschen_2", "Del"}, {"Loeschen_3", "Del"}, {"Addiere_Studie", "Add study"},
-                                         {"Edit", "Edit"}, {"Aktualisieren", "Refresh"}, {"speichern", "Save input"},
-                                         {"Bericht_erstellen", "Report"}, {"Ende", "Exit"}})
+        for (const auto& [Name, Text] : {Aufschrift{"Starten", "OK"},
+                                         {"Copy_Simulation", "Copy"},
+                                         {"Loeschen_Simulation", "Del"},
+                                         {"Copy_1", "Copy"},
+                                         {"Copy_2", "Copy"},
+                                         {"Copy_3", "Copy"},
+                                         {"Loeschen_1", "Del"},
+                                         {"Loeschen_2", "Del"},
+                                         {"Loeschen_3", "Del"},
+                                         {"Addiere_Studie", "Add study"},
+                                         {"Edit", "Edit"},
+                                         {"Aktualisieren", "Refresh"},
+                                         {"speichern", "Save input"},
+                                         {"Bericht_erstellen", "Report"},
+                                         {"Ende", "Exit"}})
             QCOMPARE(p_->Teil<QPushButton>(Name)->text(), QString::fromLatin1(Text));
-        for (const auto& [Name, Text] :
-             {Aufschrift{"Applikationsmuster_0", "single"}, {"Applikationsmuster_1", "regular"},
-              {"Applikationsmuster_2", "irregular"}, {"Substanz_0", "Parent"}, {"Substanz_1", "Metab. 1"},
-              {"Substanz_2", "Metab. 2"}, {"Endpunkt_1", "Total content"},
-              {"Endpunkt_0", "Porewater concentration"}, {"PEC_Typ_0", "Annual"}, {"PEC_Typ_1", "Background"},
-              {"PEC_Typ_2", "Accum."}})
+        for (const auto& [Name, Text] : {Aufschrift{"Applikationsmuster_0", "single"},
+                                         {"Applikationsmuster_1", "regular"},
+                                         {"Applikationsmuster_2", "irregular"},
+                                         {"Substanz_0", "Parent"},
+                                         {"Substanz_1", "Metab. 1"},
+                                         {"Substanz_2", "Metab. 2"},
+                                         {"Endpunkt_1", "Total content"},
+                                         {"Endpunkt_0", "Porewater concentration"},
+                                         {"PEC_Typ_0", "Annual"},
+                                         {"PEC_Typ_1", "Background"},
+                                         {"PEC_Typ_2", "Accum."}})
             QCOMPARE(p_->Teil<QRadioButton>(Name)->text(), QString::fromLatin1(Text));
         QCOMPARE(p_->Teil<QLabel>("Label1")->text(), u"Current  Simulation:"_s);
         QStringList Schilder;
         for (const QLabel* l : p_->Fenster().findChildren<QLabel*>()) Schilder << l->text();
-        for (const char* Text : {"Description:", "Compound data", "Soil:", "Application pattern", "Crop rotation: ", "Scenario:",
-                                 "Climate:", "TWA in graph:", "Current Outputfile:", "Koc (L/kgl):", "Name:",
-                                 "Mol. Mass (g/mol):", "Formation fraction (%):", "Q10:", "Walker:", "To:", "Parent",
-                                 "Metabolite 1", "Metabolite 2"})
+        for (const char* Text :
+             {"Description:", "Compound data", "Soil:", "Application pattern", "Crop rotation: ", "Scenario:", "Climate:",
+              "TWA in graph:", "Current Outputfile:", "Koc (L/kgl):", "Name:", "Mol. Mass (g/mol):", "Formation fraction (%):",
+              "Q10:", "Walker:", "To:", "Parent", "Metabolite 1", "Metabolite 2"})
             QVERIFY2(Schilder.contains(QString::fromLatin1(Text)), Text);
     }
 
@@ -72,8 +87,10 @@ private Q_SLOTS:
     }
 
     void menus_are_named() {
-        for (const auto& [Name, Text] : {Aufschrift{"M_Datei", "&File"}, {"M_editieren", "&Edit pesticide data"},
-                                         {"M_Ansicht", "&View"}, {"M_Hilfe", "&Help"}})
+        for (const auto& [Name, Text] : {Aufschrift{"M_Datei", "&File"},
+                                         {"M_editieren", "&Edit pesticide data"},
+                                         {"M_Ansicht", "&View"},
+                                         {"M_Hilfe", "&Help"}})
             QCOMPARE(p_->Teil<QMenu>(Name)->title(), QString::fromLatin1(Text));
         for (const auto& [Name, Text] : {Aufschrift{"M_Neuer_Wirkstoff", "New &Pesticide record"},
                                          {"M_Neue_Applikationsdatei", "New &Application record"},
@@ -121,9 +138,10 @@ private Q_SLOTS:
         for (const int vorher : {0, 1, 2}) {
             p_->waehle(("Applikationsmuster_" + QByteArray::number(vorher)).constData());
             p_->waehle(("Applikationsmuster_" + QByteArray::number(Muster)).constData());
-            pruefe(u"Applikationsrate L_Applikationsrate Interzeption L_Interzeption App_Tag App_Monat L_Datum Anzahl L_Anzahl "
-                   "Intervall L_Intervall Applikationsschema"_s,
-                   sichtbar);
+            pruefe(
+                u"Applikationsrate L_Applikationsrate Interzeption L_Interzeption App_Tag App_Monat L_Datum Anzahl L_Anzahl "
+                "Intervall L_Intervall Applikationsschema"_s,
+                sichtbar);
         }
         QVERIFY(p_->sichtbar("Fruchtwechsel"));
     }
@@ -368,8 +386,8 @@ private:
     }
 
     static QString Rahmen_von(const QWidget* w) {
-        static const QStringList Namen = {u"Frame2"_s,          u"Kinetikschema"_s,  u"Applikationsrahmen"_s, u"Szenariorahmen"_s,
-                                          u"Ergebnisbereich"_s, u"untere_Zeile"_s, u"Schalterrahmen"_s};
+        static const QStringList Namen = {u"Frame2"_s,          u"Kinetikschema"_s, u"Applikationsrahmen"_s, u"Szenariorahmen"_s,
+                                          u"Ergebnisbereich"_s, u"untere_Zeile"_s,  u"Schalterrahmen"_s};
         for (; w; w = w->parentWidget()) {
             if (Namen.contains(w->objectName())) return w->objectName();
         }

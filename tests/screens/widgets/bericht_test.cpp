@@ -72,8 +72,9 @@ private Q_SLOTS:
         QCOMPARE(Fragen_.nimm(), QStringList());
         const QString Text = Inhalt_von(PDF);
         if (Text.isEmpty()) QSKIP("pdftotext is not installed");
-        for (const QString& s : {u"PROGRAM SETTINGS"_s, u"RESULTS OF THE CALCULATION"_s, u"GRAPHIC REPRESENTATION OF THE CALCULATION"_s,
-                                 u"Time after first application (d)"_s, u"page 1 of "_s})
+        for (const QString& s :
+             {u"PROGRAM SETTINGS"_s, u"RESULTS OF THE CALCULATION"_s, u"GRAPHIC REPRESENTATION OF THE CALCULATION"_s,
+              u"Time after first application (d)"_s, u"page 1 of "_s})
             QVERIFY2(Text.contains(s), qPrintable(s));
     }
 

@@ -28,8 +28,8 @@ private Q_SLOTS:
     // Compound by compound, then all of them, then the parent again.
     void a_left_click_walks_through_the_diagrams_of_the_scheme() {
         p_->waehle_Simulation("Sugar beet, Compound E");
-        for (const auto& [Name, Metabolit] : {std::pair("Diagramm_8", 0), {"Diagramm_9", 0}, {"Diagramm_10", 0},
-                                              {"Diagramm_11", 0}, {"Diagramm_8", 0}}) {
+        for (const auto& [Name, Metabolit] :
+             {std::pair("Diagramm_8", 0), {"Diagramm_9", 0}, {"Diagramm_10", 0}, {"Diagramm_11", 0}, {"Diagramm_8", 0}}) {
             QCOMPARE(p_->vorn()->objectName(), QString::fromLatin1(Name));
             QCOMPARE(p_->Programm().Diagramme().vorne(), p_->vorn()->Satz());
             p_->klicke_Diagramm();

@@ -179,7 +179,8 @@ private:
             }
             if (Anzahl < b.width() / 2) continue;
             const double Tageslaenge = (rechts - links) / 364.0 / 1.02;
-            return {static_cast<int>(std::lround((rechts - (364 - Tag) * Tageslaenge) / Dichte)), static_cast<int>(y / Dichte) - 40};
+            return {static_cast<int>(std::lround((rechts - (364 - Tag) * Tageslaenge) / Dichte)),
+                    static_cast<int>(y / Dichte) - 40};
         }
         qFatal("no time axis");
     }

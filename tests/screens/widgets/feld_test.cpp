@@ -57,9 +57,19 @@ const Feldfall Faelle[] = {
     {"Molmasse_Met_2", Metabolismus, egal, {"112.4"}, bis_0, Masse},
     {"Bildungsanteil_Met_1", Metabolismus, egal, {"55", "0", "100"}, {"-0.1", "100.1"}, Bildung},
     {"Bildungsanteil_Met_2", Metabolismus, egal, {"25", "0", "100"}, {"-0.1", "100.1"}, Bildung},
-    {"Applikationsrate", Applikationen, egal, {"750", "0.5"}, {"-1"}, "The applikations rate is invalid. Please correct!",
-     nullptr, "0"},
-    {"Interzeption", Applikationen, egal, {"50", "0", "99.9"}, {"-1", "100", "100.5"},
+    {"Applikationsrate",
+     Applikationen,
+     egal,
+     {"750", "0.5"},
+     {"-1"},
+     "The applikations rate is invalid. Please correct!",
+     nullptr,
+     "0"},
+    {"Interzeption",
+     Applikationen,
+     egal,
+     {"50", "0", "99.9"},
+     {"-1", "100", "100.5"},
      "The crop interception is invalid. Please correct!"},
 };
 
@@ -122,9 +132,7 @@ private:
     bool Hinweis() { return !p_->Teil<QPushButton>("Aktualisieren")->icon().isNull(); }
     // Messages about the value; a compound that does not degrade is also told to have no plateau.
     // Which it is, not how often it comes.
-    QStringList Ablehnungen() {
-        return Fragen_.nimm().filter(QLatin1StringView(Titel));
-    }
+    QStringList Ablehnungen() { return Fragen_.nimm().filter(QLatin1StringView(Titel)); }
 
     void pruefe(bool Enter) {
         QFETCH(int, Fall);

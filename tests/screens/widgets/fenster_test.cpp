@@ -316,16 +316,15 @@ private Q_SLOTS:
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
             QTest::qWait(1);
         } while (!Weg.contains(QApplication::focusWidget()->objectName()) && Weg.size() < 60);
-        const QStringList erwartet = {
-            u"Simulationsliste Copy_Simulation Loeschen_Simulation Beschreibung"_s,
-            u"Liste_1 Copy_1 Loeschen_1 Studie Addiere_Studie Wirkstoffdaten_Leiste"_s,
-            u"S_Kinetik_0 S_DT50_0 S_Q10_0 S_Walker_0 S_TRef_0"_s,
-            u"Liste_2 Copy_2 Loeschen_2 Applikationsmuster_1"_s,
-            u"Applikationsrate Anzahl Interzeption Intervall App_Tag App_Monat Fruchtwechsel"_s,
-            u"Liste_3 Copy_3 Loeschen_3 Edit"_s,
-            u"Berechnungsmodus_Leiste Ergebnisse_0"_s,
-            u"Endpunkt_1 PEC_Typ_0 TWA_Laenge"_s,
-            u"Aktualisieren speichern Bericht_erstellen Ende"_s};
+        const QStringList erwartet = {u"Simulationsliste Copy_Simulation Loeschen_Simulation Beschreibung"_s,
+                                      u"Liste_1 Copy_1 Loeschen_1 Studie Addiere_Studie Wirkstoffdaten_Leiste"_s,
+                                      u"S_Kinetik_0 S_DT50_0 S_Q10_0 S_Walker_0 S_TRef_0"_s,
+                                      u"Liste_2 Copy_2 Loeschen_2 Applikationsmuster_1"_s,
+                                      u"Applikationsrate Anzahl Interzeption Intervall App_Tag App_Monat Fruchtwechsel"_s,
+                                      u"Liste_3 Copy_3 Loeschen_3 Edit"_s,
+                                      u"Berechnungsmodus_Leiste Ergebnisse_0"_s,
+                                      u"Endpunkt_1 PEC_Typ_0 TWA_Laenge"_s,
+                                      u"Aktualisieren speichern Bericht_erstellen Ende"_s};
         QCOMPARE(Weg, erwartet.join(u' ').split(u' '));
     }
 

@@ -38,14 +38,26 @@ private Q_SLOTS:
                                          u"Separate consideration of  residues from different applications:"_s,
                                          u"TWA durations according to:"_s, u"Name of output files contains:"_s,
                                          u"Show tooltips"_s, u"Appearance:"_s}));
-            for (const auto& [Name, Text] :
-                 {std::pair("Einheit_0", u"mg"_s), {"Einheit_1", u"\u00B5g"_s}, {"Separate_Rueckstaende_0", u"No"_s},
-                  {"Separate_Rueckstaende_1", u"Yes"_s}, {"Separate_Rueckstaende_2", u"Yes, but only within a year"_s},
-                  {"TWA_Zeiten_0", u"TWA according to JKI"_s}, {"TWA_Zeiten_1", u"EU-Regulation"_s}, {"Check1_0", u"Product"_s},
-                  {"Check1_1", u"Soil Study"_s}, {"Check1_2", u"Kinetics"_s}, {"Check1_3", u"Endpoint"_s},
-                  {"Check1_4", u"Date"_s}, {"Check1_5", u"Time"_s}, {"Tips_anzeigen_0", u"No"_s}, {"Tips_anzeigen_1", u"Yes"_s},
-                  {"Farbeinstellung_0", u"Coloured forms"_s}, {"Farbeinstellung_1", u"Standard windows forms"_s},
-                  {"OK", u"OK"_s}, {"Abbrechen", u"Cancel"_s}, {"Ordner_anlegen", u"Make folder"_s}})
+            for (const auto& [Name, Text] : {std::pair("Einheit_0", u"mg"_s),
+                                             {"Einheit_1", u"\u00B5g"_s},
+                                             {"Separate_Rueckstaende_0", u"No"_s},
+                                             {"Separate_Rueckstaende_1", u"Yes"_s},
+                                             {"Separate_Rueckstaende_2", u"Yes, but only within a year"_s},
+                                             {"TWA_Zeiten_0", u"TWA according to JKI"_s},
+                                             {"TWA_Zeiten_1", u"EU-Regulation"_s},
+                                             {"Check1_0", u"Product"_s},
+                                             {"Check1_1", u"Soil Study"_s},
+                                             {"Check1_2", u"Kinetics"_s},
+                                             {"Check1_3", u"Endpoint"_s},
+                                             {"Check1_4", u"Date"_s},
+                                             {"Check1_5", u"Time"_s},
+                                             {"Tips_anzeigen_0", u"No"_s},
+                                             {"Tips_anzeigen_1", u"Yes"_s},
+                                             {"Farbeinstellung_0", u"Coloured forms"_s},
+                                             {"Farbeinstellung_1", u"Standard windows forms"_s},
+                                             {"OK", u"OK"_s},
+                                             {"Abbrechen", u"Cancel"_s},
+                                             {"Ordner_anlegen", u"Make folder"_s}})
                 QCOMPARE(Teil_von<QAbstractButton>(d, Name)->text(), Text);
             QCOMPARE(Teil_von<QLabel>(d, "L_Sprache")->text(), u"Language:"_s);
             QCOMPARE(Teil_von<QLabel>(d, "L_Dir1")->text(), u"Project path:"_s);
@@ -128,8 +140,8 @@ private Q_SLOTS:
         const Laufparameter vorher = p_->Programm().Stand().Parameter();
         const int Zeichnung = p_->Programm().Stand().Zeichnung;
         mit_Dialog([](QDialog& d) {
-            for (const char* Name : {"Einheit_1", "Separate_Rueckstaende_2", "TWA_Zeiten_0", "Check1_4", "Tips_anzeigen_1",
-                                     "Farbeinstellung_1"})
+            for (const char* Name :
+                 {"Einheit_1", "Separate_Rueckstaende_2", "TWA_Zeiten_0", "Check1_4", "Tips_anzeigen_1", "Farbeinstellung_1"})
                 klicke_auf(d, Name);
             waehle_Ordner(d, u"/"_s);
             klicke_auf(d, "Abbrechen");
@@ -143,8 +155,8 @@ private Q_SLOTS:
     void OK_hands_over_every_option() {
         starte();
         mit_Dialog([](QDialog& d) {
-            for (const char* Name : {"Einheit_1", "Separate_Rueckstaende_2", "TWA_Zeiten_0", "Check1_0", "Check1_4",
-                                     "Tips_anzeigen_1"})
+            for (const char* Name :
+                 {"Einheit_1", "Separate_Rueckstaende_2", "TWA_Zeiten_0", "Check1_0", "Check1_4", "Tips_anzeigen_1"})
                 klicke_auf(d, Name);
             klicke_auf(d, "OK");
         });

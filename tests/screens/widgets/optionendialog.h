@@ -76,9 +76,10 @@ protected:
     }
     void bestaetige(const char* Option) {
         QCOMPARE(mit_Dialog([&](QDialog& d) {
-            klicke_auf(d, Option);
-            klicke_auf(d, "OK");
-        }), 1);
+                     klicke_auf(d, Option);
+                     klicke_auf(d, "OK");
+                 }),
+                 1);
     }
     QColor rahmenfarbe(const char* Name) const { return p_->Teil<QWidget>(Name)->palette().color(QPalette::Window); }
     QColor Schriftfarbe(const char* Name) const { return p_->Teil<QWidget>(Name)->palette().color(QPalette::Text); }

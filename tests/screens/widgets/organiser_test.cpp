@@ -40,10 +40,11 @@ private Q_SLOTS:
     void a_double_click_on_the_description_opens_it_while_it_is_locked() {
         p_->starte();
         auto* Feld = p_->Teil<QLineEdit>("Beschreibung");
-        im_Dialog([](Dialogprobe d) { QVERIFY(d.offen()); }, [&] {
-            QTest::mouseDClick(Feld, Qt::LeftButton);
-            QTest::qWait(20);
-        });
+        im_Dialog([](Dialogprobe d) { QVERIFY(d.offen()); },
+                  [&] {
+                      QTest::mouseDClick(Feld, Qt::LeftButton);
+                      QTest::qWait(20);
+                  });
         QTest::mouseClick(Feld, Qt::RightButton);
         QTest::mouseDClick(Feld, Qt::LeftButton);
         QTest::qWait(20);
@@ -124,11 +125,24 @@ private Q_SLOTS:
         p_->starte();
         im_Dialog([](Dialogprobe d) {
             QCOMPARE(QApplication::focusWidget(), d.Teil("Simulationsliste"));
-            const QStringList Weg = {u"Copy_Simulation"_s, u"Loeschen_Simulation"_s, u"Umbenennen_Simulation"_s, u"Projektname"_s,
-                                     u"Liste_1"_s, u"Copy_1"_s, u"Loeschen_1"_s, u"Umbenennen_1"_s,
-                                     u"Liste_2"_s, u"Copy_2"_s, u"Loeschen_2"_s, u"Umbenennen_2"_s,
-                                     u"Liste_3"_s, u"Lade_Szenariodaten"_s, u"Copy_3"_s, u"Loeschen_3"_s,
-                                     u"Umbenennen_3"_s, u"Ende"_s};
+            const QStringList Weg = {u"Copy_Simulation"_s,
+                                     u"Loeschen_Simulation"_s,
+                                     u"Umbenennen_Simulation"_s,
+                                     u"Projektname"_s,
+                                     u"Liste_1"_s,
+                                     u"Copy_1"_s,
+                                     u"Loeschen_1"_s,
+                                     u"Umbenennen_1"_s,
+                                     u"Liste_2"_s,
+                                     u"Copy_2"_s,
+                                     u"Loeschen_2"_s,
+                                     u"Umbenennen_2"_s,
+                                     u"Liste_3"_s,
+                                     u"Lade_Szenariodaten"_s,
+                                     u"Copy_3"_s,
+                                     u"Loeschen_3"_s,
+                                     u"Umbenennen_3"_s,
+                                     u"Ende"_s};
             for (const QString& Name : Weg) {
                 QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
                 QCOMPARE(QApplication::focusWidget()->objectName(), Name);

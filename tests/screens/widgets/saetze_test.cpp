@@ -33,8 +33,8 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("Copy");
         QTest::addColumn<QByteArray>("Loeschen");
         QTest::addColumn<QString>("Endung");
-        QTest::newRow("simulation") << QByteArray("Simulationsliste") << QByteArray("Copy_Simulation") << QByteArray("Loeschen_Simulation")
-                                    << u".vnk"_s;
+        QTest::newRow("simulation") << QByteArray("Simulationsliste") << QByteArray("Copy_Simulation")
+                                    << QByteArray("Loeschen_Simulation") << u".vnk"_s;
         QTest::newRow("compound") << QByteArray("Liste_1") << QByteArray("Copy_1") << QByteArray("Loeschen_1") << u".che"_s;
         QTest::newRow("pattern") << QByteArray("Liste_2") << QByteArray("Copy_2") << QByteArray("Loeschen_2") << u".app"_s;
         QTest::newRow("scenario") << QByteArray("Liste_3") << QByteArray("Copy_3") << QByteArray("Loeschen_3") << u".sce"_s;

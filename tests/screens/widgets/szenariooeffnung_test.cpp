@@ -130,10 +130,11 @@ private Q_SLOTS:
 
     void it_stands_over_the_middle_of_the_window() {
         p_->Fenster().resize(900, 700);  // the whole of it on the screen
-        bei([&] { p_->klicke("Edit"); }, [&](Szenario_Form& f) {
-            const QPoint Abstand = f.frameGeometry().center() - p_->Fenster().frameGeometry().center();
-            QVERIFY2(Abstand.manhattanLength() <= 4, qPrintable(u"%1 px"_s.arg(Abstand.manhattanLength())));
-        });
+        bei([&] { p_->klicke("Edit"); },
+            [&](Szenario_Form& f) {
+                const QPoint Abstand = f.frameGeometry().center() - p_->Fenster().frameGeometry().center();
+                QVERIFY2(Abstand.manhattanLength() <= 4, qPrintable(u"%1 px"_s.arg(Abstand.manhattanLength())));
+            });
     }
 };
 

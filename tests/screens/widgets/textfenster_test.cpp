@@ -52,9 +52,7 @@ private:
     }
 
 private Q_SLOTS:
-    void init() {
-        p_ = std::make_unique<Fensterprobe>(&Fragen_);
-    }
+    void init() { p_ = std::make_unique<Fensterprobe>(&Fragen_); }
     void cleanup() { p_.reset(); }
 
     void both_present_the_program_data() {

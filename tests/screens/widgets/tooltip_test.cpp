@@ -103,9 +103,9 @@ std::map<QString, int> erwartete_Tips() {
 
 // Names of the table that the window does not have: the diagrams of all compounds have no grid and a legend of another name.
 bool fehlt_mit_Recht(const QString& Name) {
-    static const QStringList ohne_Tafel = {
-        u"Ergebnisse_3"_s,      u"Ergebnisse_7"_s,     u"Ergebnisse_11"_s,    u"Ergebnisrahmen_3"_s, u"Ergebnisrahmen_7"_s,
-        u"Ergebnisrahmen_11"_s, u"Legendenrahmen_3"_s, u"Legendenrahmen_7"_s, u"Legendenrahmen_11"_s};
+    static const QStringList ohne_Tafel = {u"Ergebnisse_3"_s,     u"Ergebnisse_7"_s,     u"Ergebnisse_11"_s,
+                                           u"Ergebnisrahmen_3"_s, u"Ergebnisrahmen_7"_s, u"Ergebnisrahmen_11"_s,
+                                           u"Legendenrahmen_3"_s, u"Legendenrahmen_7"_s, u"Legendenrahmen_11"_s};
     if (Name.startsWith(u"Legendenrahmen_mehrfach_")) {
         const QString Index = Name.section(u'_', -1);
         return Index != u"3" && Index != u"7" && Index != u"11";
@@ -290,7 +290,8 @@ private Q_SLOTS:
         oeffne(Tipdatei(23));
         const QStringList Meldungen = Fragen_.nimm();
         QCOMPARE(Meldungen.size(), 1);
-        QVERIFY2(Meldungen[0].startsWith(u"Runtime error: File \""_s + p_->Pfad(u"input/tooltips.uk"_s)), qPrintable(Meldungen[0]));
+        QVERIFY2(Meldungen[0].startsWith(u"Runtime error: File \""_s + p_->Pfad(u"input/tooltips.uk"_s)),
+                 qPrintable(Meldungen[0]));
         QCOMPARE(Text(u"S_Q10_0"_s), Tiptext(23));
         QCOMPARE(Text(u"S_Walker_0"_s), QString());
         p_->Fenster().erstelle_tooltips();
