@@ -24,6 +24,6 @@ fi
 
 if (($# == 0)) && [[ -n ${DISPLAY:-}${WAYLAND_DISPLAY:-} ]]; then
     cd "$Projekt"
-    exec "$Bauordner/src/screens/varnok"
+    exec "$Bauordner/src/window/varnok"
 fi
 exec "$Bauordner/src/batch/varnok-batch" "$@" "$Projekt"

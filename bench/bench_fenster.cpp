@@ -12,9 +12,9 @@
 #include <filesystem>
 #include <memory>
 
-#include "screens/handlers/sitzung.h"
-#include "screens/widgets/fensterfrage.h"
-#include "screens/widgets/hauptformular.h"
+#include "session/kern/sitzung.h"
+#include "window/kern/fensterfrage.h"
+#include "window/programm/hauptformular.h"
 
 namespace {
 

@@ -26,13 +26,13 @@
 #include <functional>
 #include <utility>
 
-#include "reports/berichtsbild.h"
-#include "screens/widgets/bildausgabe.h"
-#include "screens/widgets/diagrammflaeche.h"
-#include "screens/widgets/fensterfrage.h"
-#include "screens/widgets/hauptformular.h"
-#include "screens/widgets/legendenrahmen.h"
-#include "screens/widgets/qt_text.h"
+#include "painting/bildausgabe.h"
+#include "painting/bildflaeche.h"
+#include "painting/qt_text.h"
+#include "window/ergebnis/diagrammflaeche.h"
+#include "window/ergebnis/legendenrahmen.h"
+#include "window/kern/fensterfrage.h"
+#include "window/programm/hauptformular.h"
 
 using namespace Qt::StringLiterals;
 using namespace varnok;

@@ -5,7 +5,8 @@
 
 A folder includes its own headers, those of the folders that its row allows, the C++ library, and what
 its row allows of other libraries. The check fails for any other include, for headers that include each
-other in a circle, and for an entry of "ausnahmen" that nothing needs any more. An exception is
+other in a circle, for two files of one name (main.cpp apart), and for an entry of "ausnahmen" that nothing
+needs any more. An exception is
 {"datei": "src/...", "include": "...", "grund": "..."}.
 """
 
@@ -77,6 +78,15 @@ def kreise(graph):
     return gefunden
 
 
+def gleichnamige(dateien):
+    """Files that share their name with another one; who looks for a name shall find one file."""
+    orte = {}
+    for datei in dateien:
+        if datei.name != "main.cpp":
+            orte.setdefault(datei.name, []).append(f"src/{datei}")
+    return [f"{name}: two files of one name: {', '.join(o)}" for name, o in orte.items() if len(o) > 1]
+
+
 def pruefe(wurzel):
     """All objections against the tree, as lines of text."""
     tabelle = json.loads((wurzel / "tools/schichten.json").read_text(encoding="utf-8"))
@@ -84,7 +94,7 @@ def pruefe(wurzel):
     dateien = quelldateien(wurzel)
     unbenutzt = {(a["datei"], a["include"]) for a in tabelle["ausnahmen"]}
     ausnahmen = frozenset(unbenutzt)
-    befunde, graph = [], {}
+    befunde, graph = gleichnamige(dateien), {}
 
     for datei in dateien:
         ordner = ordner_von(datei, schichten)

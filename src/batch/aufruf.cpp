@@ -7,7 +7,7 @@
 #include "base/programm.h"
 #include "base/zahlen.h"
 
-namespace varnok {
+namespace varnok::batch {
 namespace {
 
 constexpr int meiste_Arbeiter = 1024;
@@ -134,4 +134,4 @@ std::variant<Aufruf, Auskunft> lies_Aufruf(int argc, const char* const* argv) {
     return a;
 }
 
-}  // namespace varnok
+}  // namespace varnok::batch

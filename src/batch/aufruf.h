@@ -6,7 +6,7 @@
 #include <variant>
 #include <vector>
 
-namespace varnok {
+namespace varnok::batch {
 
 // The call itself is wrong, or an output cannot be written: exit status 2. The text is shown as it stands.
 class Aufruffehler : public std::runtime_error {
@@ -46,4 +46,4 @@ struct Auskunft {
 // Throws Aufruffehler for options that are unknown, incomplete, out of range or contradict each other.
 std::variant<Aufruf, Auskunft> lies_Aufruf(int argc, const char* const* argv);
 
-}  // namespace varnok
+}  // namespace varnok::batch

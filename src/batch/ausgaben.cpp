@@ -10,7 +10,7 @@
 #include "batch/schreiber.h"
 #include "records/dateien.h"
 
-namespace varnok {
+namespace varnok::batch {
 namespace {
 
 namespace fs = std::filesystem;
@@ -89,4 +89,4 @@ std::vector<std::string> schreibe_Ausgaben(const Aufruf& a, const std::vector<Si
     return Fehler;
 }
 
-}  // namespace varnok
+}  // namespace varnok::batch

@@ -7,7 +7,7 @@
 #include "base/schnittstellen.h"
 #include "reports/bericht.h"
 
-namespace varnok {
+namespace varnok::batch {
 void bereite_Berichte_vor() {
     if (QCoreApplication::instance() != nullptr) return;
     qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -40,4 +40,4 @@ std::string Studienzusatz(const Lauf& l, int i_studie, std::size_t Studien) {
     return " - study " + std::to_string(i_studie + 1);
 }
 
-}  // namespace varnok
+}  // namespace varnok::batch

@@ -6,7 +6,7 @@
 #include "reports/berichtsabschnitte.h"
 #include "run/lauf.h"
 
-namespace varnok {
+namespace varnok::batch {
 
 // Fonts and pictures need the toolkit's application, not a display; to be called once before the first report, from
 // the main thread.
@@ -21,4 +21,4 @@ void schreibe_Berichtsdatei(const std::string& Ordner, const Lauf& l, Berichtsar
 // What tells the reports of several studies apart whose names leave the study out; empty where nothing is needed.
 std::string Studienzusatz(const Lauf& l, int i_studie, std::size_t Studien);
 
-}  // namespace varnok
+}  // namespace varnok::batch

@@ -1,7 +1,7 @@
 #include "base/zahlen.h"
 #include "batch/schreiber.h"
 
-namespace varnok {
+namespace varnok::batch {
 namespace {
 
 constexpr std::size_t meiste_Fenster = 12;
@@ -81,4 +81,4 @@ std::string als_CSV(const std::vector<Simulationsausgang>& Ausgaenge) {
     return Text;
 }
 
-}  // namespace varnok
+}  // namespace varnok::batch

@@ -5,7 +5,7 @@
 #include <filesystem>
 #include <string>
 
-namespace varnok {
+namespace varnok::batch {
 
 // A path of the program's texts, which are UTF-8, for the file system.
 inline std::filesystem::path Dateipfad(const std::string& Utf8) {
@@ -19,4 +19,4 @@ inline std::string Satzname(const std::string& Pfad) {
     return std::string(Datei.begin(), Datei.end() - static_cast<std::ptrdiff_t>(std::min(Endung, Datei.size())));
 }
 
-}  // namespace varnok
+}  // namespace varnok::batch

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <ostream>
 
-namespace varnok {
+namespace varnok::batch {
 namespace {
 
 constexpr std::size_t Balkenlaenge = 30;
@@ -47,4 +47,4 @@ void Fortschrittsbalken::zeichne_bis(const std::stop_token& Ende, std::chrono::m
     *Terminal_ << '\r' << std::string(Breite, ' ') << '\r' << std::flush;
 }
 
-}  // namespace varnok
+}  // namespace varnok::batch

@@ -11,7 +11,7 @@
 
 #include "base/schnittstellen.h"
 
-namespace varnok {
+namespace varnok::batch {
 
 // A line on a terminal that tells how far the work is. It appears after the waiting time, is renewed a
 // few times a second by a thread of its own, and is wiped when the object ends.
@@ -36,4 +36,4 @@ private:
 // "[#####               ] 25 of 100 simulations"
 std::string Balkentext(std::size_t fertig, std::size_t gesamt);
 
-}  // namespace varnok
+}  // namespace varnok::batch

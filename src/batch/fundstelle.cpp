@@ -6,7 +6,7 @@
 #include "batch/satzladen.h"
 #include "records/projektordner.h"
 
-namespace varnok {
+namespace varnok::batch {
 namespace {
 
 // Lines of a compound record in front of the first study, of one study, and the line behind the last study
@@ -95,4 +95,4 @@ std::string Fundstelle(const std::string& Meldung, const Lauf& l, const Simulati
     return "files " + Satzdatei(Satz, Wirkstoff) + ", " + Satzdatei(Satz, Applikation) + ", " + Satzdatei(Satz, Szenario);
 }
 
-}  // namespace varnok
+}  // namespace varnok::batch

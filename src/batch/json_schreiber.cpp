@@ -4,7 +4,7 @@
 #include "base/programm.h"
 #include "batch/schreiber.h"
 
-namespace varnok {
+namespace varnok::batch {
 namespace {
 
 using JSON = nlohmann::ordered_json;
@@ -102,4 +102,4 @@ std::string als_JSON(const std::vector<Simulationsausgang>& Ausgaenge) {
     return Dokument.dump(2, ' ', false, JSON::error_handler_t::replace) + "\n";
 }
 
-}  // namespace varnok
+}  // namespace varnok::batch

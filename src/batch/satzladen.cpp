@@ -6,7 +6,7 @@
 #include "batch/dateipfad.h"
 #include "records/satz.h"
 
-namespace varnok {
+namespace varnok::batch {
 namespace {
 
 constexpr std::array<const char*, 4> Satzwoerter = {"", "compound record", "application pattern record", "scenario record"};
@@ -53,4 +53,4 @@ void lade_Saetze(const Auftrag& a, const std::string& Simulation, const Simulati
     }
 }
 
-}  // namespace varnok
+}  // namespace varnok::batch

@@ -7,7 +7,7 @@
 #include "records/simulation.h"
 #include "run/lauf.h"
 
-namespace varnok {
+namespace varnok::batch {
 
 // "file X.che" or "file X.che, line 12", as messages begin.
 std::string Dateistelle(const std::string& Dateiname, int Zeile = 0);
@@ -21,4 +21,4 @@ std::string Satzdatei(const Simulationssatz& Satz, Satzart Art);
 void lade_Saetze(const Auftrag& a, const std::string& Simulation, const Simulationssatz& Satz, Lauf& l,
                  std::vector<std::string>& Bemerkungen);
 
-}  // namespace varnok
+}  // namespace varnok::batch

@@ -7,7 +7,7 @@
 
 #include "batch/simulationsergebnis.h"
 
-namespace varnok {
+namespace varnok::batch {
 
 // UTF-8; calculated simulations under "simulations", the others under "errors". A single precision value is
 // written as the double that it widens to, so it reads back unchanged.
@@ -23,4 +23,4 @@ std::string als_Tabelle(const std::vector<Simulationsausgang>& Ausgaenge);
 // Control characters replaced by "?": a name out of a file shall not steer a terminal.
 std::string druckbar(const std::string& Text);
 
-}  // namespace varnok
+}  // namespace varnok::batch

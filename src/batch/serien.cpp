@@ -4,7 +4,7 @@
 #include "base/zahlen.h"
 #include "records/dateien.h"
 
-namespace varnok {
+namespace varnok::batch {
 namespace {
 
 struct Spalte {
@@ -55,4 +55,4 @@ void schreibe_Serien(const std::string& Ordner, const std::string& Simulation, c
     }
 }
 
-}  // namespace varnok
+}  // namespace varnok::batch

@@ -5,7 +5,7 @@
 
 #include "run/lauf.h"
 
-namespace varnok {
+namespace varnok::batch {
 
 // The daily series of a calculated study (from 0) as text: a header line, then days 0 to 3649, tab separated, each
 // number in the shortest form that reads back as the same single precision value.
@@ -18,4 +18,4 @@ std::string Serienname(const std::string& Simulation, int Studie);
 void schreibe_Serien(const std::string& Ordner, const std::string& Simulation, const Lauf& l, const std::vector<int>& Studien,
                      std::vector<std::string>& Schreibfehler);
 
-}  // namespace varnok
+}  // namespace varnok::batch

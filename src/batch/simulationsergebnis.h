@@ -7,7 +7,7 @@
 
 #include "run/zeitachse.h"
 
-namespace varnok {
+namespace varnok::batch {
 
 // The results of one simulation as plain values, taken from the stores when its run is over; every
 // writer reads these and nothing else. Concentrations are in `Endpunktergebnis::Einheit`.
@@ -68,4 +68,4 @@ struct Simulationsausgang {
     std::vector<std::string> Schreibfehler;  // series that could not be written
 };
 
-}  // namespace varnok
+}  // namespace varnok::batch

@@ -19,7 +19,7 @@
 #include "records/simulation.h"
 #include "run/lauf.h"
 
-namespace varnok {
+namespace varnok::batch {
 namespace {
 
 constexpr std::array<const char*, Endpunkte> Endpunktnamen = {"total soil", "pore water"};
@@ -88,7 +88,7 @@ Studienergebnis rechne_Studie(Lauf& l, const Simulationssatz& Satz, const Klimaq
         Ergebnis = berechne_PEC(l, st, Klima, alle_Rechenschritte);
         if (Ergebnis.gelungen()) return entnimm_Studie(l, st);
     } catch (const Laufzeitfehler& f) {
-        const std::string Ort = Fundstelle(f.what(), l, Satz, st);
+        const std::string Ort = batch::Fundstelle(f.what(), l, Satz, st);
         throw Laufzeitfehler(davor + (Ort.empty() ? "" : Ort + ": ") + f.what());
     }
     throw Laufzeitfehler(davor + Fundstelle(Ergebnis, l, Satz) + ": " + Meldung(Ergebnis.Ausgang));
@@ -174,4 +174,4 @@ Simulationsausgang rechne_Simulation(const Auftrag& a, const std::string& Name) 
     return Ausgang;
 }
 
-}  // namespace varnok
+}  // namespace varnok::batch

@@ -9,7 +9,7 @@
 #include "records/einstellungen.h"
 #include "records/projektordner.h"
 
-namespace varnok {
+namespace varnok::batch {
 
 // What all simulations of a call have in common. Read by several threads at once.
 struct Auftrag {
@@ -32,4 +32,4 @@ struct Auftrag {
 // simulation. Throws nothing but what naming a fault itself may throw.
 Simulationsausgang rechne_Simulation(const Auftrag& a, const std::string& Name);
 
-}  // namespace varnok
+}  // namespace varnok::batch

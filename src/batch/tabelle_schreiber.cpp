@@ -6,7 +6,7 @@
 #include "batch/schreiber.h"
 #include "exposure/ergebnistabelle.h"
 
-namespace varnok {
+namespace varnok::batch {
 namespace {
 
 // Positions of the averaging windows that fit on a line: by default 7, 21, 28, 50, 100 days of the EU list, and
@@ -108,4 +108,4 @@ std::string als_Tabelle(const std::vector<Simulationsausgang>& Ausgaenge) {
     return Text;
 }
 
-}  // namespace varnok
+}  // namespace varnok::batch

@@ -25,15 +25,15 @@
 #include "base/laufzeitfehler.h"
 #include "batch/aufruf.h"
 #include "batch/ausgaben.h"
-#include "batch/auswahl.h"
 #include "batch/berichte.h"
 #include "batch/fortschrittsbalken.h"
 #include "batch/schreiber.h"
 #include "batch/simulationslauf.h"
+#include "batch/simulationswahl.h"
 #include "records/dateien.h"
 #include "records/simulation.h"
 
-namespace varnok {
+namespace varnok::batch {
 namespace {
 
 using Namensliste = std::vector<std::string>;
@@ -149,4 +149,4 @@ int varnok_batch(int argc, const char* const* argv, std::ostream& aus, std::ostr
     }
 }
 
-}  // namespace varnok
+}  // namespace varnok::batch

@@ -4,7 +4,7 @@
 #include <functional>
 #include <iosfwd>
 
-namespace varnok {
+namespace varnok::batch {
 
 enum Beendigung {
     alles_berechnet = 0,
@@ -26,4 +26,4 @@ Umgebung Umgebung_des_Prozesses();
 int varnok_batch(int argc, const char* const* argv, std::ostream& aus, std::ostream& fehler,
                  const Umgebung& Umwelt = Umgebung_des_Prozesses());
 
-}  // namespace varnok
+}  // namespace varnok::batch

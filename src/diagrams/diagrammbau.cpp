@@ -5,7 +5,7 @@
 #include "base/zahlen.h"
 #include "base/zeichensatz.h"
 #include "diagrams/achsen.h"
-#include "diagrams/zeichner.h"
+#include "diagrams/striche.h"
 
 namespace varnok {
 namespace {

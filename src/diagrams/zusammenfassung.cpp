@@ -4,7 +4,7 @@
 #include "base/zahlen.h"
 #include "diagrams/achsen.h"
 #include "diagrams/diagrammbau.h"
-#include "diagrams/zeichner.h"
+#include "diagrams/striche.h"
 
 namespace varnok {
 namespace {

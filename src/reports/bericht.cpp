@@ -4,8 +4,8 @@
 
 #include "diagrams/diagrammbau.h"
 #include "reports/ausgabedateien.h"
-#include "reports/berichtsbild.h"
 #include "reports/berichtswoerter.h"
+#include "reports/dokumentbild.h"
 #include "reports/formatierung.h"
 #include "reports/rtf_schreiber.h"
 

@@ -12,7 +12,7 @@
 #include <QTextLayout>
 #include <memory>
 
-#include "reports/berichtsbild.h"
+#include "reports/dokumentbild.h"
 #include "reports/textauswahl.h"
 #include "reports/twips.h"
 

@@ -8,7 +8,7 @@
 #include <QVariant>
 #include <algorithm>
 
-#include "reports/farben.h"
+#include "painting/farben.h"
 #include "reports/twips.h"
 
 namespace varnok {

@@ -10,7 +10,7 @@
 #include "batch/schreiber.h"
 #include "batch/simulationslauf.h"
 
-namespace varnok {
+namespace varnok::batch {
 namespace {
 
 using JSON = nlohmann::ordered_json;
@@ -146,4 +146,4 @@ TEST(Fortschritt, bar_fills_with_the_work_done) {
 }
 
 }  // namespace
-}  // namespace varnok
+}  // namespace varnok::batch

@@ -5,7 +5,7 @@
 
 #include "batch/probeprojekt.h"
 
-namespace varnok {
+namespace varnok::batch {
 namespace {
 
 using probe::rufe;
@@ -126,4 +126,4 @@ TEST(Aufruf, no_arguments_at_all_not_even_a_program_name) {
 }
 
 }  // namespace
-}  // namespace varnok
+}  // namespace varnok::batch

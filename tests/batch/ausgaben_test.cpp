@@ -9,7 +9,7 @@
 
 #include "batch/probeprojekt.h"
 
-namespace varnok {
+namespace varnok::batch {
 namespace {
 
 namespace fs = std::filesystem;
@@ -207,4 +207,4 @@ TEST_F(Ausgaben, quiet_prints_nothing) {
 }
 
 }  // namespace
-}  // namespace varnok
+}  // namespace varnok::batch

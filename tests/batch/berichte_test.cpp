@@ -9,7 +9,7 @@
 
 #include "batch/probeprojekt.h"
 
-namespace varnok {
+namespace varnok::batch {
 namespace {
 
 namespace fs = std::filesystem;
@@ -79,4 +79,4 @@ TEST_F(Berichte, the_number_of_threads_does_not_show) {
 }
 
 }  // namespace
-}  // namespace varnok
+}  // namespace varnok::batch

@@ -5,7 +5,7 @@
 #include "batch/probeprojekt.h"
 #include "batch/schreiber.h"
 
-namespace varnok {
+namespace varnok::batch {
 namespace {
 
 using probe::Probe;
@@ -146,4 +146,4 @@ TEST(Batch_CSV, simulation_at_fault_has_no_row) {
 }
 
 }  // namespace
-}  // namespace varnok
+}  // namespace varnok::batch

@@ -10,7 +10,7 @@
 
 #include "batch/probeprojekt.h"
 
-namespace varnok {
+namespace varnok::batch {
 namespace {
 
 namespace fs = std::filesystem;
@@ -80,4 +80,4 @@ TEST(Toleranz, value_that_is_not_finite_is_never_within_it) {
 }
 
 }  // namespace
-}  // namespace varnok
+}  // namespace varnok::batch

@@ -9,7 +9,7 @@
 #include "batch/probeprojekt.h"
 #include "batch/schreiber.h"
 
-namespace varnok {
+namespace varnok::batch {
 namespace {
 
 namespace fs = std::filesystem;
@@ -322,4 +322,4 @@ TEST_F(Fehler, faults_are_told_with_quiet_too) {
 }
 
 }  // namespace
-}  // namespace varnok
+}  // namespace varnok::batch

@@ -12,7 +12,7 @@
 #include "batch/probeprojekt.h"
 #include "support/golden.h"
 
-namespace varnok {
+namespace varnok::batch {
 namespace {
 
 using probe::Probeprojekt;
@@ -48,4 +48,4 @@ TEST_F(Batch_Golden, series) {
 TEST_F(Batch_Golden, help) { EXPECT_TRUE(Erwartet().gleich("help.txt", rufe({"--help"}).aus)); }
 
 }  // namespace
-}  // namespace varnok
+}  // namespace varnok::batch

@@ -8,7 +8,7 @@
 #include "batch/schreiber.h"
 #include "records/einstellungen.h"
 
-namespace varnok {
+namespace varnok::batch {
 namespace {
 
 using JSON = nlohmann::ordered_json;
@@ -209,4 +209,4 @@ TEST(Batch_JSON, no_simulation_gives_empty_lists) {
 }
 
 }  // namespace
-}  // namespace varnok
+}  // namespace varnok::batch

@@ -4,7 +4,7 @@
 #include "base/zahlen.h"
 #include "batch/probeprojekt.h"
 
-namespace varnok {
+namespace varnok::batch {
 namespace {
 
 namespace fs = std::filesystem;
@@ -106,4 +106,4 @@ TEST_F(Serien, folder_is_made_and_old_files_are_replaced) {
 }
 
 }  // namespace
-}  // namespace varnok
+}  // namespace varnok::batch

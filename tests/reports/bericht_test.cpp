@@ -13,7 +13,7 @@
 #include "berichtsprobe.h"
 #include "fremdprogramm.h"
 #include "records/dateien.h"
-#include "reports/berichtsbild.h"
+#include "reports/dokumentbild.h"
 #include "reports/seitenausgabe.h"
 
 namespace varnok::probe {

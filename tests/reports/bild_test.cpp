@@ -8,8 +8,8 @@
 #include "berichtsprobe.h"
 #include "bildvergleich.h"
 #include "diagrams/diagrammbau.h"
-#include "reports/berichtsbild.h"
-#include "reports/zeichner.h"
+#include "painting/bildflaeche.h"
+#include "painting/zeichner.h"
 
 namespace varnok::probe {
 namespace {

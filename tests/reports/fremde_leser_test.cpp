@@ -10,8 +10,8 @@
 
 #include "berichtsprobe.h"
 #include "fremdprogramm.h"
+#include "painting/bildflaeche.h"
 #include "records/dateien.h"
-#include "reports/berichtsbild.h"
 
 namespace varnok::probe {
 namespace {

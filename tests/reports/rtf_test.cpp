@@ -8,7 +8,7 @@
 #include <QTextCursor>
 
 #include "berichtsprobe.h"
-#include "reports/berichtsbild.h"
+#include "reports/dokumentbild.h"
 #include "reports/rtf_schreiber.h"
 #include "reports/textauswahl.h"
 #include "rtf_leser.h"

@@ -13,8 +13,8 @@
 
 #include "berichtsprobe.h"
 #include "diagrams/diagrammbau.h"
-#include "reports/berichtsbild.h"
-#include "reports/zeichner.h"
+#include "painting/zeichner.h"
+#include "reports/dokumentbild.h"
 
 namespace varnok::probe {
 namespace {

@@ -14,7 +14,7 @@ class Includes(Baumtest):
                 "base": {"darf": [], "fremd": []},
                 "run": {"darf": ["base"], "fremd": []},
                 "records": {"darf": ["base", "run"], "fremd": ["Qt Core"]},
-                "screens/handlers": {"darf": ["base", "records"], "fremd": []},
+                "session/kern": {"darf": ["base", "records"], "fremd": []},
             },
             "ueberall": ["C++"],
             "fremd": {"C++": ["vector", "string"], "Qt Core": ["QString", "QtCore/*"], "Qt Gui": ["QFont*"]},
@@ -37,6 +37,15 @@ class Includes(Baumtest):
         self.schreibe("src/base/text.h", '#pragma once\n\n#include "run/lauf.h"\n')
         self.assertEqual(self.befunde(), ['src/base/text.h:3: base may not include run ("run/lauf.h")'])
 
+    def test_two_files_of_one_name_fail(self):
+        self.schreibe("src/run/zahlen.h", "")
+        self.assertEqual(self.befunde(), ["zahlen.h: two files of one name: src/base/zahlen.h, src/run/zahlen.h"])
+
+    def test_every_program_may_have_its_main(self):
+        self.schreibe("src/run/main.cpp", "")
+        self.schreibe("src/base/main.cpp", "")
+        self.assertEqual(self.befunde(), [])
+
     def test_spaces_in_the_directive_hide_nothing(self):
         self.schreibe("src/base/text.h", '  #  include   "run/lauf.h"\n')
         self.assertEqual(len(self.befunde()), 1)
@@ -46,9 +55,9 @@ class Includes(Baumtest):
         self.assertEqual(self.befunde(), [])
 
     def test_nested_folder_has_its_own_row(self):
-        self.schreibe("src/screens/handlers/sitzung.h", '#include "run/lauf.h"\n')
+        self.schreibe("src/session/kern/sitzung.h", '#include "run/lauf.h"\n')
         self.assertEqual(
-            self.befunde(), ['src/screens/handlers/sitzung.h:1: screens/handlers may not include run ("run/lauf.h")']
+            self.befunde(), ['src/session/kern/sitzung.h:1: session/kern may not include run ("run/lauf.h")']
         )
 
     def test_folder_without_a_row_fails(self):

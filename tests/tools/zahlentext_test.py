@@ -34,7 +34,7 @@ class Zahlentext(Baumtest):
         self.verboten('setlocale(LC_ALL, "");', "setlocale")
         self.verboten('std::locale l("");', "std::locale")
         self.verboten("#include <clocale>\n", "clocale")
-        self.verboten("QLocale l;", "QLocale", "src/screens/widgets/a.cpp")
+        self.verboten("QLocale l;", "QLocale", "src/window/kern/a.cpp")
 
     def test_conversions_of_the_toolkit(self):
         for code, was in (
@@ -101,8 +101,8 @@ class Zahlentext(Baumtest):
         self.erlaubt("void g(int Tag) { std::to_string(Tag); }")
 
     def test_arg_of_a_floating_value_fails(self):
-        self.verboten("double d; t = t.arg(d);", "arg", "src/screens/widgets/a.cpp")
-        self.erlaubt("int n; t = t.arg(n);", "src/screens/widgets/a.cpp")
+        self.verboten("double d; t = t.arg(d);", "arg", "src/window/kern/a.cpp")
+        self.erlaubt("int n; t = t.arg(n);", "src/window/kern/a.cpp")
 
     def test_comments_texts_and_longer_names_do_not_count(self):
         self.erlaubt(

@@ -1,0 +1,63 @@
+#include "batch/simulationswahl.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <system_error>
+#include <unordered_set>
+
+#include "batch/dateipfad.h"
+#include "records/simulation.h"
+
+namespace varnok::batch {
+namespace {
+
+using Namensliste = std::vector<std::string>;
+
+bool enthaelt(const Namensliste& Namen, const std::string& Name) {
+    return std::find(Namen.begin(), Namen.end(), Name) != Namen.end();
+}
+
+std::string vorhandener_Name(const Namensliste& Namen, const std::string& Name, const Projektordner& Ordner) {
+    if (enthaelt(Namen, Name)) return Name;
+    if (const auto Pfad = Ordner.finde(Name, Endungen[Simulation])) {
+        const std::string anders_geschrieben = Satzname(*Pfad);
+        if (enthaelt(Namen, anders_geschrieben)) return anders_geschrieben;
+    }
+    throw Aufruffehler("there is no simulation \"" + Name + "\" in " + Ordner.Eingabeordner());
+}
+
+Namensliste Auswahl_vor_Teilung(const Projektordner& Ordner, const Aufruf& a, const Namensliste& Namen) {
+    if (a.alle) return Namen;
+    Namensliste Auswahl;
+    for (const std::string& Name : a.Simulationen) Auswahl.push_back(vorhandener_Name(Namen, Name, Ordner));
+    if (!a.Simulationen.empty()) return Auswahl;
+    return {neueste_Simulation(Ordner).value_or(Namen.front())};
+}
+
+Namensliste jeden_einmal(const Namensliste& Namen) {
+    std::unordered_set<std::string> gesehen;
+    Namensliste einmal;
+    std::copy_if(Namen.begin(), Namen.end(), std::back_inserter(einmal),
+                 [&](const std::string& Name) { return gesehen.insert(Name).second; });
+    return einmal;
+}
+
+}  // namespace
+
+Namensliste waehle_Simulationen(const Projektordner& Ordner, const Aufruf& a) {
+    std::error_code Fehler;
+    if (!std::filesystem::is_directory(Dateipfad(Ordner.Eingabeordner()), Fehler)) {
+        throw Aufruffehler(Ordner.Pfad() + ": there is no folder \"input\" in this project");
+    }
+    const Namensliste Namen = Ordner.Namen(Endungen[Simulation]);
+    if (Namen.empty()) throw Aufruffehler(Ordner.Eingabeordner() + ": there is no simulation (*.vnk) in this project");
+
+    const Namensliste Auswahl = jeden_einmal(Auswahl_vor_Teilung(Ordner, a, Namen));
+    Namensliste Teil;
+    for (std::size_t p = 0; p < Auswahl.size(); ++p) {
+        if (p % static_cast<std::size_t>(a.Teile) == static_cast<std::size_t>(a.Teil)) Teil.push_back(Auswahl[p]);
+    }
+    return Teil;
+}
+
+}  // namespace varnok::batch

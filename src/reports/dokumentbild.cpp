@@ -1,0 +1,71 @@
+#include "reports/dokumentbild.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QObject>
+#include <QPainter>
+#include <QTextBlock>
+#include <QTextDocumentFragment>
+#include <QTextImageFormat>
+
+#include "painting/zeichner.h"
+#include "reports/twips.h"
+
+namespace varnok {
+
+// Draws the pictures of a document from a display list; lives as a child of the document.
+class Bildobjekt : public QObject, public QTextObjectInterface {
+    Q_OBJECT
+    Q_INTERFACES(QTextObjectInterface)
+
+public:
+    Bildobjekt(QTextDocument* Dokument, const Zeichenliste& z) : QObject(Dokument), Liste(z) {}
+
+    QSizeF intrinsicSize(QTextDocument* Dokument, int, const QTextFormat& f) override {
+        const QTextImageFormat Bild = f.toImageFormat();
+        const QPaintDevice* Geraet = Dokument->documentLayout()->paintDevice();
+        const double Pixel_pro_Zoll = Twips_in_Pixel(Twips_pro_Zoll);
+        const double Massstab = Geraet == nullptr ? 1 : Geraet->logicalDpiY() / Pixel_pro_Zoll;
+        return QSizeF(Bild.width(), Bild.height()) * Massstab;
+    }
+
+    void drawObject(QPainter* p, const QRectF& Rechteck, QTextDocument*, int, const QTextFormat&) override {
+        p->save();
+        p->fillRect(Rechteck, Qt::white);
+        p->translate(Rechteck.topLeft());
+        p->scale(Rechteck.width() / Bildbreite, Rechteck.height() / Bildhoehe);
+        male(*p, Bildflaeche, Liste, Schriftgroesse_Bericht);
+        p->restore();
+    }
+
+    const Zeichenliste Liste;
+};
+
+void merke_Zeichnung(QTextDocument& Dokument, const Zeichenliste& z) { new Bildobjekt(&Dokument, z); }
+
+void zeichne_statt_Bild(QTextDocument& Dokument) {
+    if (auto* Objekt = Dokument.findChild<Bildobjekt*>()) {
+        Dokument.documentLayout()->registerHandler(QTextFormat::ImageObject, Objekt);
+    }
+}
+
+QTextDocument* kopiere_Dokument(const QTextDocument& Dokument) {
+    QTextDocument* Kopie = Dokument.clone();
+    if (const auto* Objekt = Dokument.findChild<Bildobjekt*>()) merke_Zeichnung(*Kopie, Objekt->Liste);
+    zeichne_statt_Bild(*Kopie);
+    return Kopie;
+}
+
+std::unique_ptr<QTextDocument> Auswahl_als_Dokument(const QTextCursor& Auswahl) {
+    const QTextDocument& ganzes = *Auswahl.document();
+    auto Dokument = std::make_unique<QTextDocument>();
+    Dokument->setDefaultFont(ganzes.defaultFont());
+    QTextCursor(Dokument.get()).insertFragment(Auswahl.selection());
+    // The first paragraph comes without its format.
+    QTextCursor(Dokument.get()).setBlockFormat(ganzes.findBlock(Auswahl.selectionStart()).blockFormat());
+    if (const auto* Objekt = ganzes.findChild<Bildobjekt*>()) merke_Zeichnung(*Dokument, Objekt->Liste);
+    return Dokument;
+}
+
+}  // namespace varnok
+
+#include "dokumentbild.moc"

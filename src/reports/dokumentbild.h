@@ -1,0 +1,32 @@
+#pragma once
+
+// The picture of a report as part of its document.
+
+#include <QTextCursor>
+#include <QTextDocument>
+#include <memory>
+
+#include "painting/bildflaeche.h"
+
+namespace varnok {
+
+// Size in the document: 6 inches wide, between the indents of an A4 page.
+inline constexpr int Bildbreite_Twips = 8640;
+inline constexpr int Bildhoehe_Twips = 6750;
+
+inline constexpr const char* Bildname = "varnok:diagram";
+
+// Keeps the drawing of its picture with the document.
+void merke_Zeichnung(QTextDocument& Dokument, const Zeichenliste& z);
+
+// Makes a document with a drawing show it instead of the pixels: sharp at every scale of a screen, and as lines and
+// text in print. It lays the document out, so it belongs into the thread of the window.
+void zeichne_statt_Bild(QTextDocument& Dokument);
+
+// A copy of the document for a device of its own, with all that; the caller owns it.
+QTextDocument* kopiere_Dokument(const QTextDocument& Dokument);
+
+// The same of what is selected in a document.
+std::unique_ptr<QTextDocument> Auswahl_als_Dokument(const QTextCursor& Auswahl);
+
+}  // namespace varnok

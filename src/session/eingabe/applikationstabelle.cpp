@@ -1,0 +1,50 @@
+#include "session/eingabe/applikationstabelle.h"
+
+#include "base/text.h"
+
+namespace varnok {
+
+void Applikationstabelle::setze(Zelle z, std::string Text) {
+    auto& Tabelle = z_.Felder().Applikationsschema;
+    if (z.Zeile < 0 || z.Spalte < 0 || z.Zeile >= static_cast<int>(Tabelle.size()) || z.Spalte >= 4) return;
+    std::string& Ziel = Tabelle[static_cast<std::size_t>(z.Zeile)][static_cast<std::size_t>(z.Spalte)];
+    if (Ziel == Text) return;
+    Ziel = std::move(Text);
+    z_.Geaendert[2] = true;
+    Laeufe_.verwirf_alle();
+    Laeufe_.markiere_veraltet();
+}
+
+void Applikationstabelle::haenge_an(Zelle z, char Zeichen) {
+    setze(z,
+          z_.Felder().Applikationsschema.at(static_cast<std::size_t>(z.Zeile)).at(static_cast<std::size_t>(z.Spalte)) + Zeichen);
+}
+
+void Applikationstabelle::nimm_letztes(Zelle z) {
+    std::string Text =
+        z_.Felder().Applikationsschema.at(static_cast<std::size_t>(z.Zeile)).at(static_cast<std::size_t>(z.Spalte));
+    if (Text.empty()) return;
+    Text.pop_back();
+    setze(z, Text);
+}
+
+void Applikationstabelle::leere(Zelle z) { setze(z, ""); }
+
+void Applikationstabelle::fuege_ein(Zelle z, const std::string& Text) {
+    int i = z.Zeile;
+    for (std::string_view Zeile : zerlege_an(Text, '\n')) {
+        if (!Zeile.empty() && Zeile.back() == '\r') Zeile.remove_suffix(1);
+        if (Zeile.empty()) continue;
+        int j = z.Spalte;
+        for (const std::string_view Wert : zerlege_an(Zeile, '\t')) setze({i, j++}, std::string(ohne_Randblanks(Wert)));
+        ++i;
+    }
+}
+
+void Applikationstabelle::bestaetige() {
+    z_.Zusammenfassung_aktiv = false;
+    z_.Neu_berechnen = true;
+    Laeufe_.berechne(true);
+}
+
+}  // namespace varnok

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "session/eingabe/feldtabelle.h"
+#include "session/ergebnis/laufsteuerung.h"
+
+namespace varnok {
+
+// The numeric fields: what happens when one gets the focus, is typed in, is confirmed with Enter and is
+// left. A wrong value never reaches a run, and no key starts one.
+class Feldeingabe {
+public:
+    Feldeingabe(Zustand& z, Laufsteuerung& Laeufe) : z_(z), Laeufe_(Laeufe), Texte_(Feldtabelle().size()) {}
+
+    const std::string& Text(int Feld) const;
+    // The field that has the focus, -1 without one.
+    int aktives_Feld() const { return aktiv_; }
+
+    void betrete(int Feld);
+    void aendere(int Feld, const std::string& Text);
+    // False if the value was refused: the message has been shown, the field keeps the focus.
+    bool bestaetige(int Feld);
+    // `mit_Lauf` false: a command that runs anyway follows.
+    bool verlasse(int Feld, bool mit_Lauf = true);
+    // Esc: the last accepted text comes back.
+    void nimm_zurueck(int Feld);
+
+    // The same for a field whose value would be refused.
+    void nimm_Ungueltiges_zurueck();
+
+    // Shows the values of the selected study and of the entry fields; nothing is written back, no run.
+    void fuelle();
+
+private:
+    bool pruefe(int Feld, bool Enter);
+    void uebernimm(int Feld, const std::string& Text);
+    void nimm_an(int Feld, bool mit_Lauf);
+    void passe_Dosis_an(int Feld);
+    bool skaliere(int Feld, double alt, double neu);
+    std::vector<int> betroffene_Studien() const;
+    std::string gespeicherter_Text(const Feldbeschreibung& f) const;
+    std::string& Textplatz(int Feld);
+
+    Zustand& z_;
+    Laufsteuerung& Laeufe_;
+    std::vector<std::string> Texte_;  // of the study fields; the other texts stand in `Eingabe`
+    int aktiv_ = -1;
+    std::string Alter_Wert_;  // last accepted text of the active field
+    bool geaendert_ = false;  // typed in since the field got the focus
+    double Skalierung_ = 1;   // product of the factors since the last run
+};
+
+}  // namespace varnok

@@ -1,0 +1,162 @@
+#include "session/eingabe/listenwahl.h"
+
+#include <algorithm>
+
+#include "run/kalender.h"
+#include "session/kern/texte.h"
+
+namespace varnok {
+
+void Listenwahl::rechne_nach_Aenderung() {
+    Laeufe_.verwirf_alle();
+    Laeufe_.markiere_veraltet();
+    z_.Neu_berechnen = true;
+    Laeufe_.berechne();
+}
+
+void Listenwahl::merke_Applikation() { z_.Geaendert[2] = true; }
+
+void Listenwahl::waehle_Substanz(int c) {
+    z_.Felder().Substanz = c;
+    Diagramme_.bringe_nach_vorn(c);
+}
+
+void Listenwahl::waehle_Kinetik(int c, int Code) {
+    double& Kinetik = z_.Parameter().Kinetik[static_cast<std::size_t>(c)][static_cast<std::size_t>(z_.i_studie())];
+    if (Kinetik == Code) return;
+    Kinetik = Code;
+    z_.Geaendert[1] = true;
+    Laeufe_.verwirf_Studie(z_.i_studie());
+    Laeufe_.markiere_veraltet();
+    z_.Neu_berechnen = true;
+    Laeufe_.berechne();
+}
+
+void Listenwahl::waehle_Studie(int i) {
+    if (i == z_.i_studie()) return;
+    z_.Felder().Studie_Index = i;
+    Felder_.fuelle();
+    Laeufe_.verwirf_Studie(i);
+    z_.Neu_berechnen = true;
+    Laeufe_.berechne();
+}
+
+void Listenwahl::waehle_Berechnungsmodus(int m) {
+    if (m == z_.Felder().Berechnungsmodus) return;
+    z_.Felder().Berechnungsmodus = m;
+    if (z_.Felder().Substanz >= Anzahl_Stoffe(m)) z_.Felder().Substanz = 0;
+    if (!z_.Gestartet) return;
+    z_.Geaendert[1] = true;
+    decke_ab(z_, Texte::Eingabe_geaendert);
+    // Nothing valid stands for the new scheme: the summary ends and every study is run.
+    z_.Zusammenfassung_aktiv = false;
+    Laeufe_.verwirf_alle();
+    Laeufe_.markiere_veraltet();
+    z_.Neu_berechnen = true;
+    Laeufe_.berechne_alle_Studien();
+}
+
+void Listenwahl::aendere_Namen(int c, const std::string& Name) {
+    std::string& Platz = c == 0 ? z_.Felder().Name_Wirkstoff : c == 1 ? z_.Felder().Name_Met_1 : z_.Felder().Name_Met_2;
+    if (Platz == Name) return;
+    Platz = Name;
+    Name_geaendert_ = true;
+    z_.Geaendert[1] = true;
+}
+
+void Listenwahl::verlasse_Namen() {
+    if (!Name_geaendert_) return;
+    Name_geaendert_ = false;
+    Laeufe_.berechne();  // the names go into the diagrams
+}
+
+void Listenwahl::waehle_Muster(int m) {
+    if (m == z_.Felder().Applikationsmuster) return;
+    z_.Felder().Applikationsmuster = m;
+    if (!z_.Gestartet) return;
+    fuehre_Muster_aus();
+}
+
+void Listenwahl::fuehre_Muster_aus() {
+    merke_Applikation();
+    rechne_nach_Aenderung();
+}
+
+void Listenwahl::waehle_Monat(int i) {
+    if (i == z_.Felder().App_Monat) return;
+    z_.Felder().App_Monat = i;
+    z_.Felder().App_Tag = std::min(z_.Felder().App_Tag, Tage_im_Monat(i + 1) - 1);
+    merke_Applikation();
+    rechne_nach_Aenderung();
+}
+
+void Listenwahl::waehle_Tag(int i) {
+    if (i == z_.Felder().App_Tag) return;
+    z_.Felder().App_Tag = i;
+    merke_Applikation();
+    rechne_nach_Aenderung();
+}
+
+void Listenwahl::waehle_Intervall(int i) {
+    if (i == z_.Felder().Intervall_Index) return;
+    z_.Felder().Intervall_Index = i;
+    z_.Zusammenfassung_aktiv = false;
+    merke_Applikation();
+    rechne_nach_Aenderung();
+}
+
+void Listenwahl::waehle_Anzahl(int i) {
+    Eingabe& e = z_.Felder();
+    if (i == e.Anzahl_Index) return;
+    const std::size_t bisher = e.Applikationsschema.size();
+    Zeilenvorrat_.resize(max_Applikationen);
+    std::copy(e.Applikationsschema.begin(), e.Applikationsschema.end(), Zeilenvorrat_.begin());
+    varnok::waehle_Anzahl(e, i + 2);
+    for (std::size_t k = bisher; k < e.Applikationsschema.size(); ++k) e.Applikationsschema[k] = Zeilenvorrat_[k];
+    Laeufe_.verwirf_alle();
+    Laeufe_.markiere_veraltet();
+    if (e.Applikationsmuster == unregelmaessig) return;  // the table takes effect with its Enter key
+    z_.Neu_berechnen = true;
+    Laeufe_.berechne();
+}
+
+void Listenwahl::waehle_Endpunkt(int e) {
+    if (e == z_.Felder().Endpunkt) return;
+    z_.Felder().Endpunkt = e;
+    Laeufe_.zeichne_neu();
+}
+
+void Listenwahl::waehle_PEC_Typ(int a) {
+    if (a == z_.Felder().PEC_Typ) return;
+    z_.Felder().PEC_Typ = a;
+    Diagramme_.setze_Bereiche_nach_Ansicht();
+    Laeufe_.zeichne_neu();
+    Diagramme_.bringe_nach_vorn(z_.Felder().Substanz);
+}
+
+void Listenwahl::waehle_Fruchtwechsel(int r) {
+    if (r == z_.Felder().Fruchtwechsel) return;
+    z_.Felder().Fruchtwechsel = r;
+    Laeufe_.zeichne_neu();
+}
+
+void Listenwahl::waehle_TWA_Laenge(int j) {
+    if (j == z_.Felder().TWA_Laenge) return;
+    z_.Felder().TWA_Laenge = j;
+    Laeufe_.zeichne_neu();
+}
+
+void Listenwahl::zeige_Studien() {
+    z_.Zusammenfassung_aktiv = false;
+    Laeufe_.zeichne_neu();
+}
+
+void Listenwahl::zeige_Zusammenfassung() {
+    if (z_.Studienzahl() <= 1) return;
+    z_.Zusammenfassung_aktiv = true;
+    decke_ab(z_, Texte::Eingabe_geaendert);
+    z_.Neu_berechnen = true;
+    Laeufe_.berechne();
+}
+
+}  // namespace varnok

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "session/eingabe/feldeingabe.h"
+#include "session/ergebnis/laufsteuerung.h"
+
+namespace varnok {
+
+// The lists, options and tabs of the main screen: what a choice of the user stores, marks and runs. A choice
+// of what is already chosen does nothing.
+class Listenwahl {
+public:
+    Listenwahl(Zustand& z, Laufsteuerung& Laeufe, Feldeingabe& Felder, Diagrammsteuerung& Diagramme)
+        : z_(z), Laeufe_(Laeufe), Felder_(Felder), Diagramme_(Diagramme) {}
+
+    // compound data
+    void waehle_Substanz(int c);
+    void waehle_Kinetik(int c, int Code);
+    void waehle_Studie(int i);
+    void waehle_Berechnungsmodus(int m);
+    void aendere_Namen(int c, const std::string& Name);
+    void verlasse_Namen();
+
+    // application pattern
+    void waehle_Muster(int m);
+    void fuehre_Muster_aus();
+    void waehle_Monat(int i);
+    void waehle_Tag(int i);
+    void waehle_Intervall(int i);
+    void waehle_Anzahl(int i);
+
+    // results
+    void waehle_Endpunkt(int e);
+    void waehle_PEC_Typ(int a);
+    void waehle_Fruchtwechsel(int r);
+    void waehle_TWA_Laenge(int j);
+    void zeige_Studien();
+    void zeige_Zusammenfassung();
+
+private:
+    // A changed input of all studies leads to a run.
+    void rechne_nach_Aenderung();
+    void merke_Applikation();
+
+    Zustand& z_;
+    Laufsteuerung& Laeufe_;
+    Feldeingabe& Felder_;
+    Diagrammsteuerung& Diagramme_;
+    bool Name_geaendert_ = false;
+    std::vector<Applikationszeile> Zeilenvorrat_;  // rows cut off by a smaller number, while the record stands
+};
+
+}  // namespace varnok

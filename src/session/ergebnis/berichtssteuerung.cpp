@@ -1,0 +1,39 @@
+#include "session/ergebnis/berichtssteuerung.h"
+
+#include "base/laufzeitfehler.h"
+#include "base/programm.h"
+#include "records/dateien.h"
+#include "reports/ausgabedateien.h"
+#include "reports/seitenausgabe.h"
+#include "session/kern/texte.h"
+
+namespace varnok {
+
+void Berichtssteuerung::erstelle() {
+    const bool aktuell = !z_.veraltet && !z_.abgedeckt;
+    if (!aktuell && !Laeufe_.berechne(true)) return;
+    const Diagramm* Bild = Diagramme_.vorderes();
+    if (Bild == nullptr) return;
+    try {
+        stelle_her(*Bild);
+        const std::string Pfad = speichere_Bericht(*Bericht_, Ausgabeordner(*z_.Ausgabeprojekt));
+        z_.Ergebnisdatei = Bericht_->Name;
+        z_.Statuszeile = "Report written: " + Pfad;
+    } catch (const Laufzeitfehler& f) {
+        melde(z_, Texte::Laufzeitfehler, f.what());  // the results stay valid and in sight
+    }
+}
+
+void Berichtssteuerung::stelle_her(const Diagramm& Bild) {
+    const Systemuhr Maschine;
+    const Uhr& Zeit = z_.Welt.Zeit ? *z_.Welt.Zeit : Maschine;
+    const Berichtsart Art = z_.Zusammenfassung_aktiv ? Berichtsart::erweitert : Berichtsart::Standard;
+    Bericht_ = std::make_unique<Bericht>(
+        schreibe_Bericht({z_.Rechnung, Art, Programmversion, Berichtszeit_nach(Zeit), Bild, Diagramme_.Legende()}));
+}
+
+void Berichtssteuerung::speichere_PDF(const std::string& Pfad) const {
+    if (Bericht_) schreibe_Datei(Pfad, als_PDF(*Bericht_->Dokument, Bericht_->Name));
+}
+
+}  // namespace varnok

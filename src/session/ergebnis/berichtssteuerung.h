@@ -1,0 +1,39 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "reports/bericht.h"
+#include "session/ergebnis/diagrammsteuerung.h"
+#include "session/ergebnis/laufsteuerung.h"
+
+namespace varnok {
+
+// The report command: the standard report of the selected study, or in the summary view the extended one.
+class Berichtssteuerung {
+public:
+    Berichtssteuerung(Zustand& z, Laufsteuerung& Laeufe, Diagrammsteuerung& Diagramme)
+        : z_(z), Laeufe_(Laeufe), Diagramme_(Diagramme) {}
+
+    // Makes the report of what is shown, after a run where something entered is not in the results, and writes it to
+    // the folder `output`. Without valid results there is none. A file that cannot be written is told; the report
+    // stands on the screen all the same.
+    void erstelle();
+    void schliesse() { Bericht_.reset(); }
+
+    // The report on the screen, null without one.
+    const Bericht* offener() const { return Bericht_.get(); }
+
+    // PDF of the open report; throws Laufzeitfehler where the file cannot be written.
+    void speichere_PDF(const std::string& Pfad) const;
+
+private:
+    void stelle_her(const Diagramm& Bild);
+
+    Zustand& z_;
+    Laufsteuerung& Laeufe_;
+    Diagrammsteuerung& Diagramme_;
+    std::unique_ptr<Bericht> Bericht_;
+};
+
+}  // namespace varnok

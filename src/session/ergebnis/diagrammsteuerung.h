@@ -1,0 +1,62 @@
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "diagrams/diagrammbau.h"
+#include "reports/ausgabedateien.h"
+#include "session/kern/zustand.h"
+
+namespace varnok {
+
+// The diagrams of the view on display: what is drawn, over which time, and which of them stands in front. Each page
+// of a scheme remembers its own.
+class Diagrammsteuerung {
+public:
+    explicit Diagrammsteuerung(Zustand& z);
+
+    // The program has read its first records.
+    void setze_Startbereiche();
+    // A view was chosen, by click or with an application pattern.
+    void setze_Bereiche_nach_Ansicht();
+
+    // Draws all diagrams of the scheme, or all summary diagrams, from the stores, and writes their files; after a run
+    // also what it leaves for diagnosis.
+    void zeichne(bool nach_Lauf);
+
+    // In the order of the scheme: its compounds, then the multi-compound diagram.
+    const std::vector<Diagramm>& Diagramme() const { return Diagramme_; }
+    // Index of the diagram in front in the view on display, and the diagram itself (null before the first drawing).
+    int vorne() const;
+    const Diagramm* vorderes() const;
+
+    void bringe_nach_vorn(int i_substanz);
+    // A left click: the next diagram of the scheme comes to the front.
+    void schalte_weiter();
+
+    // The dialog's values for the diagram in front. False, with a message, for an end that is refused.
+    bool skaliere(const std::string& Start, const std::string& Ende);
+    double X_Start() const;
+    double X_Ende() const;
+
+    // Where the user has dragged the legend of a diagram to, in fractions of its surface; none is at home.
+    void merke_Legende(bool Zusammenfassung, int Satz, const std::optional<Flaechenort>& Ort);
+    // That of the diagram in front.
+    const std::optional<Flaechenort>& Legende() const;
+
+private:
+    int& Platz_vorne();
+
+    Zustand& z_;
+    Diagrammbereiche Bereiche_;
+    std::vector<Diagramm> Diagramme_;
+    std::array<int, 4> vorne_{};                  // `Diagrammsatz` of each scheme
+    std::array<int, 4> vorne_Zusammenfassung_{};  // `Zusammenfassungssatz` of each scheme
+    std::array<std::optional<Flaechenort>, Diagrammzahl> Legenden_;
+    std::array<std::optional<Flaechenort>, Zusammenfassungszahl> Legenden_Zusammenfassung_;
+    Nebenausgaben Nebenausgaben_;
+};
+
+}  // namespace varnok

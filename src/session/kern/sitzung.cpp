@@ -1,0 +1,373 @@
+#include "session/kern/sitzung.h"
+
+#include <algorithm>
+#include <exception>
+#include <utility>
+
+#include "run/kalender.h"
+#include "session/kern/texte.h"
+#include "session/programm/programmende.h"
+#include "session/programm/startablauf.h"
+
+namespace varnok {
+
+Sitzung::Sitzung(Umgebung Welt) { z_.Welt = std::move(Welt); }
+
+void Sitzung::melde_Fehler(const std::string& Text) {
+    decke_ab(z_, Texte::nicht_gueltig);
+    melde(z_, Texte::Laufzeitfehler, Text);
+    // A file that could not be written says nothing against the results.
+    const bool gueltig = z_.Gestartet && !z_.veraltet && Laeufe_.Saetze_vollstaendig() && Laeufe_.alles_Gezeigte_gueltig();
+    if (gueltig) z_.abgedeckt = false;
+}
+
+template <class Handlung>
+void Sitzung::tue(Handlung h) {
+    try {
+        h();
+    } catch (const std::exception& Fehler) {
+        melde_Fehler(Fehler.what());
+    }
+}
+
+template <class Handlung>
+void Sitzung::befolge(Handlung h, bool mit_Lauf) {
+    const bool Feld_offen = Felder_.aktives_Feld() >= 0;
+    if (!schliesse_Feld_ab(mit_Lauf)) return;
+    // What a command finds is complete: a name in the box counts as typed.
+    if (Studien_.Name_offen()) bestaetige_Studienname(false);
+    tue(h);
+    // A command that was to run and did not leaves the accepted value without results.
+    if (Feld_offen && !mit_Lauf && z_.veraltet && !z_.abgedeckt && !z_.beendet) tue([&] { Laeufe_.berechne(); });
+}
+
+bool Sitzung::starte() {
+    bool weiter = false;
+    tue([&] { weiter = starte_Programm(z_, Saetze_); });
+    return weiter && !z_.beendet;
+}
+
+int Sitzung::Tage_der_Liste() const { return Tage_im_Monat(z_.Felder().App_Monat + 1); }
+
+int Sitzung::Intervalle_der_Liste() const { return laengstes_Intervall(z_.Felder().Anzahl()); }
+
+Tabellentext Sitzung::Ergebnisse(int i_substanz) const {
+    Tabellentext Tabelle = Tabellenkopf(z_.Rechnung, z_.Welt.Dezimalzeichen);
+    erstelle_Ergebnistabelle(z_.Rechnung, z_.i_studie(), i_substanz, Tabelle);
+    return Tabelle;
+}
+
+Tabellentext Sitzung::Ergebnisse_Zusammenfassung(int i_substanz) const {
+    Tabellentext Tabelle = Tabellenkopf(z_.Rechnung, z_.Welt.Dezimalzeichen);
+    erstelle_Ergebnistabelle_Zusammenfassung(z_.Rechnung, i_substanz, Tabelle);
+    return Tabelle;
+}
+
+void Sitzung::betrete_Feld(int Feld) { Felder_.betrete(Feld); }
+
+void Sitzung::aendere_Feld(int Feld, const std::string& Text) { Felder_.aendere(Feld, Text); }
+
+bool Sitzung::bestaetige_Feld(int Feld) {
+    bool angenommen = true;
+    tue([&] { angenommen = Felder_.bestaetige(Feld); });
+    return angenommen;
+}
+
+bool Sitzung::verlasse_Feld(int Feld) {
+    bool angenommen = true;
+    tue([&] { angenommen = Felder_.verlasse(Feld); });
+    return angenommen;
+}
+
+void Sitzung::nimm_Feld_zurueck(int Feld) { Felder_.nimm_zurueck(Feld); }
+
+bool Sitzung::schliesse_Feld_ab(bool mit_Lauf) {
+    const int Feld = Felder_.aktives_Feld();
+    if (Feld < 0) return true;
+    bool angenommen = true;
+    tue([&] { angenommen = Felder_.verlasse(Feld, mit_Lauf); });
+    return angenommen;
+}
+
+void Sitzung::Starten() {
+    if (z_.Gestartet) return;
+    tue([&] {
+        z_.Gestartet = true;
+        // The handler of the pattern makes the first run; what it marks is no change of the user.
+        Listen_.fuehre_Muster_aus();
+    });
+    z_.Geaendert.fill(false);
+}
+
+void Sitzung::Aktualisieren() {
+    befolge(
+        [&] {
+            if (Saetze_.aktualisiere()) return;
+            z_.Neu_berechnen = true;
+            Laeufe_.verwirf_alle();
+            Laeufe_.berechne(true);
+        },
+        false);
+}
+
+void Sitzung::Speichern() {
+    befolge([&] { Saetze_.speichere(); });
+}
+
+void Sitzung::Ende() {
+    befolge([&] { varnok::Ende(z_, Saetze_); });
+}
+
+void Sitzung::lade_Voreinstellungen() {
+    befolge([&] { Voreinstellungen_laden(z_, Saetze_); });
+}
+
+void Sitzung::suche_nach_Update() {
+    befolge([&] { Update_.suche(); });
+}
+
+void Sitzung::suche_beim_Start(std::function<void(const std::function<void()>&)> fuehre_aus) {
+    Update_.suche_beim_Start(
+        [this, fuehre_aus](const std::string& Seite) { fuehre_aus([&] { tue([&] { Update_.melde(Seite); }); }); });
+}
+
+bool Sitzung::schliesse_Fenster() {
+    if (z_.beendet) return true;
+    Felder_.nimm_Ungueltiges_zurueck();
+    tue([&] { z_.beendet = schliesse(Saetze_); });
+    return z_.beendet;
+}
+
+void Sitzung::zeige_Studien() {
+    befolge([&] { Listen_.zeige_Studien(); });
+}
+void Sitzung::zeige_Zusammenfassung() {
+    befolge([&] { Listen_.zeige_Zusammenfassung(); });
+}
+
+void Sitzung::schalte_Diagramm_weiter() {
+    befolge([&] { Diagramme_.schalte_weiter(); });
+}
+
+bool Sitzung::skaliere_Diagramm(const std::string& Start, const std::string& Ende) { return Diagramme_.skaliere(Start, Ende); }
+
+void Sitzung::schliesse_Skalierung() {
+    befolge(
+        [&] {
+            if (z_.Zusammenfassung_aktiv) {
+                Laeufe_.zeichne_neu();
+            } else {
+                z_.Neu_berechnen = true;
+                Laeufe_.berechne();
+            }
+        },
+        false);
+}
+
+void Sitzung::merke_Legende(bool Zusammenfassung, int Satz, const std::optional<Flaechenort>& Ort) {
+    Diagramme_.merke_Legende(Zusammenfassung, Satz, Ort);
+}
+
+void Sitzung::erstelle_Bericht() {
+    befolge([&] {
+        if (z_.Gestartet) Berichte_.erstelle();
+    });
+}
+void Sitzung::schliesse_Bericht() { Berichte_.schliesse(); }
+void Sitzung::speichere_Bericht_als_PDF(const std::string& Pfad) {
+    tue([&] { Berichte_.speichere_PDF(Pfad); });
+}
+
+void Sitzung::waehle_Simulation(int Position) {
+    befolge([&] { Saetze_.waehle_Simulation(Position); }, false);
+}
+void Sitzung::waehle_Satz(Satzart Art, int Position) {
+    befolge([&] { Saetze_.waehle_Satz(Art, Position); }, false);
+}
+
+void Sitzung::lege_Satz_an(Satzart Art) {
+    befolge([&] { Saetze_.lege_an(Art); }, false);
+}
+void Sitzung::kopiere_Satz(Satzart Art) {
+    befolge([&] { Saetze_.kopiere(Art); });
+}
+void Sitzung::loesche_Satz(Satzart Art) {
+    befolge([&] { Saetze_.loesche(Art); });
+}
+bool Sitzung::benenne_Satz_um(Satzart Art, const std::string& Text, bool mit_Frage) {
+    bool fertig = false;
+    befolge([&] { fertig = Saetze_.benenne_um(Art, Text, mit_Frage); });
+    return fertig;
+}
+
+void Sitzung::oeffne_Beschreibung() {
+    alte_Beschreibung_ = z_.Felder().Beschreibung;
+    alte_Marke_ = z_.Geaendert[0];
+    z_.Beschreibung_offen = true;
+}
+
+void Sitzung::aendere_Beschreibung(const std::string& Text) {
+    std::string eine_Zeile = Text;
+    std::replace_if(
+        eine_Zeile.begin(), eine_Zeile.end(), [](char c) { return c == '\n' || c == '\r'; }, ' ');
+    if (eine_Zeile == z_.Felder().Beschreibung) return;
+    z_.Felder().Beschreibung = eine_Zeile;
+    z_.Ergebnisdatei.clear();
+    z_.Geaendert[0] = true;
+}
+
+void Sitzung::schliesse_Beschreibung() { z_.Beschreibung_offen = false; }
+
+void Sitzung::nimm_Beschreibung_zurueck() {
+    if (z_.Beschreibung_offen) {
+        z_.Felder().Beschreibung = alte_Beschreibung_;
+        z_.Geaendert[0] = alte_Marke_;
+    }
+    z_.Beschreibung_offen = false;
+}
+
+void Sitzung::waehle_Substanz(int c) {
+    befolge([&] { Listen_.waehle_Substanz(c); });
+}
+void Sitzung::waehle_Kinetik(int c, int Code) {
+    befolge([&] { Listen_.waehle_Kinetik(c, Code); }, false);
+}
+void Sitzung::waehle_Studie(int i) {
+    befolge([&] { Listen_.waehle_Studie(i); });
+}
+void Sitzung::waehle_Berechnungsmodus(int m) {
+    befolge([&] { Listen_.waehle_Berechnungsmodus(m); }, false);
+}
+bool Sitzung::oeffne_Szenarioeditor() {
+    bool offen = false;
+    const auto oeffne = [&] {
+        Editor_.oeffne();
+        offen = !z_.beendet;
+    };
+    // A run that found no climate file has told of it: the field that it came from is not accepted a second time.
+    if (z_.Szenarioeditor_faellig) {
+        tue(oeffne);
+    } else {
+        befolge(oeffne);
+    }
+    return offen;
+}
+void Sitzung::uebernimm_Szenario() {
+    tue([&] { Editor_.uebernimm(); });
+}
+void Sitzung::schliesse_Szenarioeditor() {
+    tue([&] { Editor_.schliesse(); });
+}
+
+void Sitzung::addiere_Studie() {
+    befolge([&] { Studien_.addiere(); });
+}
+void Sitzung::loesche_Studie() {
+    befolge([&] { Studien_.loesche(); }, false);
+}
+void Sitzung::beginne_Studienname() {
+    befolge([&] { Studien_.beginne_Umbenennen(); });
+}
+void Sitzung::bestaetige_Studienname(bool Enter) {
+    tue([&] { Studien_.bestaetige(Enter); });
+}
+void Sitzung::nimm_Studienname_zurueck() { Studien_.nimm_zurueck(); }
+
+void Sitzung::aendere_Namen(int c, const std::string& Name) { Listen_.aendere_Namen(c, Name); }
+void Sitzung::verlasse_Namen() {
+    // A number that was refused has taken the focus back: it is told once, and the name waits.
+    if (Felder_.aktives_Feld() < 0) tue([&] { Listen_.verlasse_Namen(); });
+}
+
+void Sitzung::waehle_Muster(int m) {
+    befolge([&] { Listen_.waehle_Muster(m); }, false);
+}
+void Sitzung::waehle_Monat(int i) {
+    befolge([&] { Listen_.waehle_Monat(i); }, false);
+}
+void Sitzung::waehle_Tag(int i) {
+    befolge([&] { Listen_.waehle_Tag(i); }, false);
+}
+void Sitzung::waehle_Intervall(int i) {
+    befolge([&] { Listen_.waehle_Intervall(i); }, false);
+}
+void Sitzung::waehle_Anzahl(int i) {
+    befolge([&] { Listen_.waehle_Anzahl(i); }, false);
+}
+
+void Sitzung::waehle_Endpunkt(int e) {
+    befolge([&] { Listen_.waehle_Endpunkt(e); });
+}
+void Sitzung::waehle_PEC_Typ(int a) {
+    befolge([&] { Listen_.waehle_PEC_Typ(a); });
+}
+void Sitzung::waehle_Fruchtwechsel(int r) {
+    befolge([&] { Listen_.waehle_Fruchtwechsel(r); });
+}
+void Sitzung::waehle_TWA_Laenge(int j) {
+    befolge([&] { Listen_.waehle_TWA_Laenge(j); });
+}
+
+bool Sitzung::uebernimm_Optionen(const Optionsentwurf& Neue) {
+    bool angenommen = false;
+    tue([&] { angenommen = Optionen_.uebernimm(Neue); });
+    return angenommen;
+}
+bool Sitzung::schliesse_Optionen() {
+    bool Tips = false;
+    befolge([&] { Tips = Optionen_.schliesse(); }, false);
+    return Tips;
+}
+std::optional<std::string> Sitzung::lege_Ordner_an(const std::string& darin, const std::string& Name) {
+    return Optionen_.lege_Ordner_an(darin, Name);
+}
+
+bool Sitzung::lade_Eingabedaten(const std::string& Dateiname) {
+    bool gelungen = false;
+    tue([&] {
+        Dateien_.lade(Dateiname);
+        gelungen = true;
+    });
+    return gelungen;
+}
+bool Sitzung::speichere_Eingabedaten_unter(const std::string& Dateiname) {
+    bool gelungen = false;
+    tue([&] { gelungen = Dateien_.speichere(Dateiname); });
+    return gelungen;
+}
+void Sitzung::loesche_Eingabedatei(const std::string& Ordner, const std::string& Dateiname) {
+    tue([&] { Dateien_.loesche(Ordner, Dateiname); });
+}
+
+bool Sitzung::oeffne_Organiser() {
+    bool offen = false;
+    befolge([&] {
+        offen = true;
+        Organiser_.oeffne();
+    });
+    return offen;
+}
+void Sitzung::organisiere(const std::function<void(Organiser&)>& Befehl) {
+    tue([&] { Befehl(Organiser_); });
+}
+void Sitzung::schliesse_Organiser() {
+    tue([&] { Organiser_.schliesse_ab(); });
+}
+
+void Sitzung::haenge_an_Zelle(Zelle z, char Zeichen) {
+    tue([&] { Tabelle_.haenge_an(z, Zeichen); });
+}
+void Sitzung::nimm_letztes_Zeichen(Zelle z) {
+    tue([&] { Tabelle_.nimm_letztes(z); });
+}
+void Sitzung::leere_Zelle(Zelle z) {
+    tue([&] { Tabelle_.leere(z); });
+}
+void Sitzung::fuege_in_Tabelle_ein(Zelle z, const std::string& Text) {
+    tue([&] { Tabelle_.fuege_ein(z, Text); });
+}
+void Sitzung::bestaetige_Tabelle() {
+    befolge([&] { Tabelle_.bestaetige(); }, false);
+}
+
+}  // namespace varnok

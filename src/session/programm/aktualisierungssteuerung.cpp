@@ -1,0 +1,56 @@
+#include "session/programm/aktualisierungssteuerung.h"
+
+#include "session/kern/texte.h"
+
+namespace varnok {
+
+using Ausgang = Aktualisierungsausgang;
+
+Aktualisierungssteuerung::~Aktualisierungssteuerung() { brich_ab(); }
+
+void Aktualisierungssteuerung::brich_ab() {
+    if (sucht_beim_Start_) z_.Welt.Update.Netz->brich_ab();
+    sucht_beim_Start_ = false;
+}
+
+template <class Suche>
+Ausgang Aktualisierungssteuerung::fuehre(Suche s) {
+    // Also an exception ends the check.
+    struct Merker {
+        bool& laeuft;
+        ~Merker() { laeuft = false; }
+    } const Ende{z_.Aktualisierung_laeuft};
+    z_.Aktualisierung_laeuft = true;
+    z_.Aktualisierungsfehler = false;
+    Aktualisierung a(*z_.Welt.Fragen, z_.Welt.Update, vor_dem_Ende_);
+    const Ausgang Ergebnis = s(a);
+    z_.Aktualisierungsfehler = ist_Aktualisierungsfehler(Ergebnis);
+    if (Ergebnis == Ausgang::Programmende) z_.beendet = true;
+    return Ergebnis;
+}
+
+void Aktualisierungssteuerung::suche() {
+    brich_ab();
+    const Ausgang Ergebnis = fuehre([](Aktualisierung& a) { return a.Suche_nach_Update(); });
+    const bool zu_sagen = Ergebnis == Ausgang::keine_Antwort || Ergebnis == Ausgang::nicht_geladen;
+    if (zu_sagen && !z_.beendet) varnok::melde(z_, Texte::keine_Verbindung, Texte::Updateserver_antwortet_nicht);
+}
+
+void Aktualisierungssteuerung::suche_beim_Start(std::function<void(const std::string& Seite)> antwortet) {
+    const Aktualisierungswelt& Welt = z_.Welt.Update;
+    if (!Welt.vorhanden()) return;
+    sucht_beim_Start_ = true;
+    Welt.Netz->hole_nebenher(Welt.Ziel.Versionsseite(), Startgrenze, [this, antwortet](const Abrufantwort& Seite) {
+        sucht_beim_Start_ = false;
+        z_.Aktualisierungsfehler = !Seite || !Version_der_Seite(*Seite);
+        if (!z_.Aktualisierungsfehler && !z_.Gestartet && !z_.beendet) antwortet(*Seite);
+    });
+}
+
+void Aktualisierungssteuerung::melde(const std::string& Seite) {
+    const Ausgang Ergebnis = fuehre([&](Aktualisierung& a) { return a.beurteile(Seite); });
+    // A failed check is silent here, a failed download is not: the user asked for it.
+    if (Ergebnis == Ausgang::nicht_geladen) varnok::melde(z_, Texte::keine_Verbindung, Texte::Updateserver_antwortet_nicht);
+}
+
+}  // namespace varnok

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <utility>
+
+#include "session/kern/zustand.h"
+
+namespace varnok {
+
+// When the check for a newer version runs, and what the user hears of it.
+class Aktualisierungssteuerung {
+public:
+    // `vor_dem_Ende`: see `Aktualisierung`.
+    Aktualisierungssteuerung(Zustand& z, std::function<void()> vor_dem_Ende) : z_(z), vor_dem_Ende_(std::move(vor_dem_Ende)) {}
+    ~Aktualisierungssteuerung();
+    Aktualisierungssteuerung(const Aktualisierungssteuerung&) = delete;
+    Aktualisierungssteuerung& operator=(const Aktualisierungssteuerung&) = delete;
+
+    // The menu entry: returns when all is said. An update leaves `beendet`.
+    void suche();
+
+    // The check at the start: returns at once, and stays silent without a usable answer. `antwortet` is called with
+    // the version page if it comes while the start page is still on the screen, and calls `melde`.
+    void suche_beim_Start(std::function<void(const std::string& Seite)> antwortet);
+    void melde(const std::string& Seite);
+
+private:
+    template <class Suche>
+    Aktualisierungsausgang fuehre(Suche s);
+    void brich_ab();
+
+    Zustand& z_;
+    std::function<void()> vor_dem_Ende_;
+    bool sucht_beim_Start_ = false;
+};
+
+}  // namespace varnok

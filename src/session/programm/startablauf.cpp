@@ -1,0 +1,69 @@
+#include "session/programm/startablauf.h"
+
+#include "base/laufzeitfehler.h"
+#include "exposure/twa.h"
+#include "records/dateien.h"
+#include "records/simulation.h"
+#include "records/voreinstellungen.h"
+#include "session/kern/texte.h"
+#include "session/programm/programmende.h"
+
+namespace varnok {
+namespace {
+
+std::optional<Einstellungen> lies_Einstellungen(const Zustand& z) {
+    try {
+        return zerlege_Einstellungen(lies_Datei(Einstellungspfad(z)));
+    } catch (const Laufzeitfehler&) {
+        return std::nullopt;  // a missing file is the usual case of a first start
+    }
+}
+
+// A settings file that is missing or cannot be read is made anew from the defaults without a word.
+void lade_Einstellungen(Zustand& z) {
+    const auto gelesen = lies_Einstellungen(z);
+    z.Einstellung = gelesen.value_or(Einstellungen{});
+    z.Projektpfad = z.Einstellung.Projektpfad.empty() ? z.Welt.Programmpfad : z.Einstellung.Projektpfad;
+    z.Parameter().TWA_Liste_EU = z.Einstellung.TWA_Liste_EU;
+    z.Parameter().TWA_Liste_Monat = z.Einstellung.TWA_Liste_Monat;
+    if (!gelesen) Einstellungen_schreiben(z);
+}
+
+void oeffne_Projekt(Zustand& z) {
+    try {
+        z.Ordner.emplace(z.Projektpfad);
+    } catch (const Laufzeitfehler&) {
+        z.Statuszeile = "The project path \"" + z.Projektpfad + "\" is not there; \"" + z.Welt.Programmpfad + "\" is used.";
+        z.Projektpfad = z.Welt.Programmpfad;
+        z.Ordner.emplace(z.Projektpfad);
+    }
+    z.Ausgabeprojekt = z.Ordner;
+}
+
+// Loads the newest simulation whose summary file can be read. False without any, or if the program ends.
+bool lade_neueste(Zustand& z, Satzverwaltung& Saetze) {
+    for (const std::string& Name : Simulationen_nach_Alter(*z.Ordner)) {
+        try {
+            return Saetze.lade_Start(Name);
+        } catch (const Laufzeitfehler& f) {
+            melde(z, Texte::Laufzeitfehler, f.what());
+        }
+    }
+    beende_oder_stelle_her(z, Saetze, "Input files are missing. Should the default settings be loaded ");
+    return false;
+}
+
+}  // namespace
+
+bool starte_Programm(Zustand& z, Satzverwaltung& Saetze) {
+    z.Felder().Aktuelle_Dateinamen[0] = Startsimulation;
+    lade_Einstellungen(z);
+    oeffne_Projekt(z);
+    z.Sperre = std::make_shared<Projektsperre>(*z.Ordner);
+    if (z.Sperre->von_anderem_gehalten()) melde(z, Texte::Ordner_in_Gebrauch, Texte::zweites_Fenster);
+    Saetze.fuelle_Listen();
+    TWA_Listbox_initialisieren(z.Rechnung);
+    return lade_neueste(z, Saetze) && !z.beendet;
+}
+
+}  // namespace varnok

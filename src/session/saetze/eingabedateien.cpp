@@ -1,0 +1,94 @@
+#include "session/saetze/eingabedateien.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QString>
+#include <algorithm>
+
+#include "base/laufzeitfehler.h"
+#include "base/zeichensatz.h"
+#include "records/dateien.h"
+#include "records/satztext.h"
+#include "session/kern/texte.h"
+#include "session/saetze/satzwaechter.h"
+
+namespace varnok {
+namespace {
+
+void pruefe_Namen(const std::string& Name) {
+    const std::string Einwand = Einwand_gegen_Namen(Name);
+    if (!Einwand.empty()) throw Laufzeitfehler("\"" + Name + "\" cannot be the name of a simulation: " + Einwand);
+}
+
+}  // namespace
+
+std::vector<std::string> Eingabedateien::Dateien(const std::string& Ordner, const std::string& Endung) {
+    const QStringList Muster{QString::fromStdString("*" + Endung)};
+    std::vector<std::string> Namen;
+    const QDir Verzeichnis(QString::fromStdString(Ordner));
+    for (const QString& Name : Verzeichnis.entryList(Muster, QDir::Files, QDir::Name | QDir::IgnoreCase)) {
+        Namen.push_back(Name.toStdString());
+    }
+    return Namen;
+}
+
+bool Eingabedateien::darf_loeschen(const std::string& Ordner) const {
+    const QString wirklich = QFileInfo(QString::fromStdString(Ordner)).canonicalFilePath();
+    return !wirklich.isEmpty() && wirklich == QFileInfo(QString::fromStdString(z_.Ordner->Eingabeordner())).canonicalFilePath();
+}
+
+void Eingabedateien::zeige_als_Simulation(const std::string& Name) {
+    z_.waehle(Simulation, Name);
+    if (z_.Auswahl[Simulation] < 0) {
+        z_.Listen[Simulation].push_back(Name);
+        z_.waehle(Simulation, Name);
+    }
+    z_.Felder().Aktuelle_Dateinamen[Simulation] = Name;
+}
+
+void Eingabedateien::lade(const std::string& Dateiname) {
+    const std::string Name = Dateiname.substr(0, Dateiname.size() - std::min<std::size_t>(Dateiname.size(), 4));
+    pruefe_Namen(Name);
+    const std::string Satz = z_.Felder().Aktuelle_Dateinamen[Wirkstoff];
+    if (z_.Geaendert[Wirkstoff]) {
+        sichere(z_,
+                {{Satz + Endungen[Wirkstoff], Satz_als_Bytes(Wirkstoff, z_.Parameter(), z_.Felder(), z_.Welt.Dezimalzeichen)}});
+    }
+    zeige_als_Simulation(Name);
+    if (Saetze_.lies_Satz(Wirkstoff, Satz)) decke_ab(z_, Texte::Eingabe_geaendert);
+}
+
+bool Eingabedateien::speichere(const std::string& Dateiname) {
+    const std::string Endung = Endungen[Simulation];
+    const bool mit_Endung = Zeichenzahl(Dateiname) > 4 && Dateiname.ends_with(Endung);
+    const std::string Name = mit_Endung ? Dateiname.substr(0, Dateiname.size() - Endung.size()) : Dateiname;
+    pruefe_Namen(Name);
+    if (!Saetze_.pruefe_Auswahl({Knopf::OK, Knopf::Abbrechen})) return false;
+    const auto& Namen = z_.Felder().Aktuelle_Dateinamen;
+    // Three lines, no description: read as four, the file is misread, and that is why this dialog stays out of use.
+    std::string Bytes;
+    for (std::size_t Art = 1; Art <= 3; ++Art) Bytes += als_Satztext(Namen[Art], Satzart_Namen[Art]) + "\r\n";
+    if (const auto alte = z_.Ordner->finde(Name, Endung)) sichere(z_, {{Name + Endung, lies_Datei(*alte)}});
+    schreibe_Datei(z_.Ordner->Zielpfad(Name, Endung), Bytes);
+    zeige_als_Simulation(Name);
+    z_.Simulation_markiert = false;
+    for (std::size_t Art = 1; Art <= 3; ++Art) {
+        if (z_.nicht_gelesen[Art]) continue;
+        Satz_schreiben(*z_.Ordner, Namen[Art], static_cast<Satzart>(Art), z_.Parameter(), z_.Felder(), z_.Welt.Dezimalzeichen);
+        z_.Geaendert[Art] = false;
+    }
+    return true;
+}
+
+void Eingabedateien::loesche(const std::string& Ordner, const std::string& Dateiname) {
+    pruefe_Namen(Dateiname);
+    if (!darf_loeschen(Ordner)) {
+        throw Laufzeitfehler("\"" + Dateiname + "\" is not deleted: files are only deleted in the folder \"" +
+                             z_.Ordner->Eingabeordner() + "\"");
+    }
+    const std::string Pfad = z_.Ordner->Eingabeordner() + "/" + Dateiname;
+    sichere(z_, {{Dateiname, lies_Datei(Pfad)}});
+    loesche_Datei(Pfad);
+}
+
+}  // namespace varnok

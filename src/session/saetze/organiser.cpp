@@ -1,0 +1,277 @@
+#include "session/saetze/organiser.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "base/laufzeitfehler.h"
+#include "records/dateien.h"
+#include "records/simulation.h"
+#include "session/kern/texte.h"
+
+namespace varnok {
+namespace {
+
+const std::vector<Satzart> alle_Arten = {Simulation, Wirkstoff, Applikation, Szenario};
+
+bool enthaelt(const std::vector<std::string>& Liste, const std::string& Name) {
+    return std::find(Liste.begin(), Liste.end(), Name) != Liste.end();
+}
+
+// Empty where the file cannot be read.
+std::string Dateibytes(const Zustand& z, const std::string& Name) {
+    const auto Pfad = z.Ordner->finde(Name, Endungen[Simulation]);
+    return Pfad ? lies_Datei_falls_moeglich(*Pfad).value_or("") : "";
+}
+
+// What "Done" changes on the main screen until the summary file is written.
+class Merkstand {
+public:
+    explicit Merkstand(const Zustand& z)
+        : Listen_(z),
+          nicht_gelesen_(z.nicht_gelesen),
+          Datei_(z.Dateistaende[Simulation]),
+          Namen_(z.Felder().Aktuelle_Dateinamen),
+          Beschreibung_(z.Felder().Beschreibung) {}
+
+    void stelle_her(Zustand& z) const {
+        static_cast<Satzlisten&>(z) = Listen_;
+        z.nicht_gelesen = nicht_gelesen_;
+        z.Dateistaende[Simulation] = Datei_;
+        z.Felder().Aktuelle_Dateinamen = Namen_;
+        z.Felder().Beschreibung = Beschreibung_;
+    }
+
+private:
+    Satzlisten Listen_;
+    std::array<bool, 4> nicht_gelesen_;
+    Dateistand Datei_;
+    std::array<std::string, 4> Namen_;
+    std::string Beschreibung_;
+};
+
+}  // namespace
+
+void Organiser::oeffne() {
+    gewaehlt_ = umbenannt_ = Szenario_bearbeitet_ = Lauf_ = false;
+    z_.Beschreibung_offen = false;
+    Projektname_ = alter_Projektname_ = alte_Beschreibung_ = z_.Felder().Beschreibung;
+    for (const Satzart Art : {Szenario, Applikation, Wirkstoff, Simulation}) Befehle_.lies_Liste(Art, z_.gewaehlt(Art));
+    // The description on the screen may not be saved yet, but it belongs to the simulation on the screen alone.
+    const bool dieselbe = Listen_.Auswahl[Simulation] >= 0 && !z_.nicht_gelesen[Simulation];
+    if (Listen_.Auswahl[Simulation] < 0) Listen_.Auswahl[Simulation] = static_cast<int>(Listen_.Listen[Simulation].size()) - 1;
+    gelesen_ = Dateibytes(z_, Listen_.gewaehlt(Simulation));
+    if (Listen_.Auswahl[Simulation] < 0) return;
+    lies_Simulation_in_Maske(Listen_.Auswahl[Simulation], !dieselbe);
+    alter_Projektname_ = Projektname_;
+}
+
+// Selects a simulation with the records that its file names. A file that cannot be read throws and changes nothing.
+void Organiser::lies_Simulation_in_Maske(int Position, bool mit_Beschreibung) {
+    const std::string Name = Listen_.Listen[Simulation].at(static_cast<std::size_t>(Position));
+    const Simulationssatz Satz = lies_Simulation(*z_.Ordner, Name);
+    gelesen_ = Dateibytes(z_, Name);
+    Listen_.Auswahl[Simulation] = Position;
+    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) Listen_.waehle(Art, Satz.Dateinamen[Art]);
+    if (mit_Beschreibung) Projektname_ = Satz.Beschreibung;
+}
+
+void Organiser::waehle_Simulation(int Position) {
+    lies_Simulation_in_Maske(Position, true);
+    gewaehlt_ = true;
+    z_.Felder().Beschreibung = Projektname_;
+}
+
+void Organiser::waehle_Satz(Satzart Art, int Position) {
+    Listen_.Auswahl[Art] = Position;
+    gewaehlt_ = true;
+}
+
+void Organiser::aendere_Projektname(const std::string& Text) {
+    Projektname_ = Text;
+    std::replace_if(
+        Projektname_.begin(), Projektname_.end(), [](char c) { return c == '\n' || c == '\r'; }, ' ');
+}
+
+// What a command has selected acts as if the user had chosen it.
+void Organiser::waehle_mit_Inhalt(Satzart Art) {
+    gewaehlt_ = true;
+    if (Art != Simulation || Listen_.Auswahl[Simulation] < 0) return;
+    // Nothing of the simulation selected before may be written over this one if it cannot be read.
+    Projektname_.clear();
+    gelesen_ = Dateibytes(z_, Listen_.gewaehlt(Simulation));
+    for (const Satzart t : {Wirkstoff, Applikation, Szenario}) Listen_.Auswahl[t] = -1;
+    waehle_Simulation(Listen_.Auswahl[Simulation]);
+}
+
+void Organiser::kopiere(Satzart Art) {
+    const std::vector<std::string> vorher = Listen_.Listen[Art];
+    if (!Befehle_.kopiere(Art)) return;
+    // The copy may have replaced the file of what the main screen shows.
+    const std::string neu = Listen_.gewaehlt(Art);
+    if (enthaelt(vorher, neu) && z_.gewaehlt(Art) == neu) entwerte_im_Hauptformular(Art);
+    ziehe_Hauptformular_nach(Art);
+    waehle_mit_Inhalt(Art);
+}
+
+void Organiser::loesche(Satzart Art) {
+    if (!Befehle_.loesche(Art)) return;
+    ziehe_Hauptformular_nach(Art);
+    waehle_mit_Inhalt(Art);
+}
+
+bool Organiser::benenne_um(Satzart Art, const std::string& Text, bool mit_Frage) {
+    const std::string alt = Listen_.gewaehlt(Art);
+    z_.Statuszeile.clear();
+    const Umbenennung Ausgang = Befehle_.benenne_um(Art, Text, mit_Frage);
+    if (Ausgang != Umbenennung::erfolgt) return Ausgang == Umbenennung::unveraendert;
+    umbenannt_ = true;
+    const std::string neu = Listen_.gewaehlt(Art);
+    // A file of that name was replaced if the main screen shows what stood in it.
+    if (z_.gewaehlt(Art) == neu) entwerte_im_Hauptformular(Art);
+    ziehe_Hauptformular_nach(Art, alt, neu);
+    Saetze_.nenne_Simulationen_mit(Art, alt, Listen_);
+    return true;
+}
+
+// The entries of the main screen whose files are still there, under the names that they have now; what was added here stays
+// out until "Done".
+void Organiser::ziehe_Hauptformular_nach(Satzart Art, const std::string& alt, const std::string& neu) {
+    const std::string gezeigt = z_.gewaehlt(Art);
+    const bool umbenannt = !neu.empty() && gezeigt == alt;
+    const std::string jetzt = umbenannt ? neu : gezeigt;
+    const std::vector<std::string> vorher = std::exchange(z_.Listen[Art], {});
+    for (const std::string& Name : Listen_.Listen[Art]) {
+        if (enthaelt(vorher, Name) || (Name == neu && enthaelt(vorher, alt))) z_.Listen[Art].push_back(Name);
+    }
+    z_.waehle(Art, jetzt);
+    z_.Felder().Aktuelle_Dateinamen[Art] = z_.gewaehlt(Art);
+    if (!gezeigt.empty() && z_.Auswahl[Art] < 0) entwerte_im_Hauptformular(Art);
+    if (!umbenannt) return;
+    Waechter_.merke_Namen(Art, neu);
+    if (z_.Gestartet) z_.Geaendert[0] = z_.Simulation_markiert = true;
+}
+
+// The file of what the main screen shows is gone: a save from there must not bring it back under a name that is taken by now.
+void Organiser::entwerte_im_Hauptformular(Satzart Art) {
+    sichere({Art});
+    z_.Geaendert[Art] = false;
+    z_.nicht_gelesen[Art] = true;
+    decke_ab(z_, Texte::Satz_geloescht);
+}
+
+// The description of another simulation may stand on the main screen by now.
+void Organiser::sichere(const std::vector<Satzart>& Arten) {
+    std::string andere = std::exchange(z_.Felder().Beschreibung, alte_Beschreibung_);
+    Waechter_.sichere_Ungesichertes(Arten);
+    z_.Felder().Beschreibung = std::move(andere);
+}
+
+std::string Organiser::Einwand_gegen_Bearbeiten() const {
+    const std::string Name = Listen_.gewaehlt(Szenario);
+    if (Name.empty()) return "No scenario is selected.";
+    if (Name == z_.gewaehlt(Szenario) && !z_.nicht_gelesen[Szenario]) return {};
+    return "The scenario \"" + Name + "\" is not loaded: leave with \"Done\", then it can be edited on the main screen.";
+}
+
+std::string Organiser::Szenariowerte() const {
+    return Satz_als_Bytes(Szenario, z_.Parameter(), z_.Felder(), z_.Welt.Dezimalzeichen);
+}
+
+void Organiser::beginne_Bearbeiten() { Szenario_vorher_ = Szenariowerte(); }
+
+// The editor's "Done" may have changed values, the name that they stand under, or nothing.
+void Organiser::beende_Bearbeiten() {
+    const std::string Name = z_.gewaehlt(Szenario);
+    const bool anderer_Name = Name != Listen_.gewaehlt(Szenario);
+    Szenario_bearbeitet_ = Szenario_bearbeitet_ || anderer_Name || Szenariowerte() != Szenario_vorher_;
+    umbenannt_ = umbenannt_ || anderer_Name;
+    Befehle_.lies_Liste(Szenario, Name);
+}
+
+// Other names than those on the screen, over the values there, would be wrong in all that follows.
+bool Organiser::ist_Lauf_faellig() const {
+    return gewaehlt_ || std::any_of(alle_Arten.begin(), alle_Arten.end(), [this](Satzart Art) {
+               return Listen_.gewaehlt(Art) != z_.gewaehlt(Art) || z_.nicht_gelesen[Art];
+           });
+}
+
+bool Organiser::ist_vollstaendig() const {
+    for (const Satzart Art : {Wirkstoff, Applikation, Szenario, Simulation}) {
+        // A folder without any simulation must not hold the user here.
+        if (Listen_.Auswahl[Art] >= 0 || (Art == Simulation && Listen_.Listen[Art].empty())) continue;
+        const std::string Text = Art == Simulation ? Texte::Simulation_waehlen : Texte::Satz_waehlen[Art];
+        z_.Welt.Fragen->frage({Texte::Satz_nicht_gewaehlt, Text, Symbol::Ausrufezeichen, {Knopf::OK, Knopf::Abbrechen}});
+        return false;
+    }
+    return true;
+}
+
+// Another program may have taken a file away since the lists were filled.
+void Organiser::pruefe_Dateien() {
+    for (const Satzart Art : alle_Arten) {
+        const std::string Name = Listen_.gewaehlt(Art);
+        if (Name.empty() || z_.Ordner->finde(Name, Endungen[Art])) continue;
+        Befehle_.lies_Liste(Art, {});
+        ziehe_Hauptformular_nach(Art);
+        throw Laufzeitfehler("File " + Name + Endungen[Art] + " is missing in the folder \"" + z_.Ordner->Eingabeordner() + "\"");
+    }
+}
+
+bool Organiser::uebernimm() {
+    if (!ist_vollstaendig()) return false;
+    const bool Lauf = ist_Lauf_faellig();
+    const bool schreiben = Lauf || umbenannt_ || Projektname_ != alter_Projektname_;
+    if (!schreiben) {
+        gib_Listen_weiter();
+        return true;
+    }
+    pruefe_Dateien();
+    // The editor's values belong to the scenario that stays.
+    const bool Szenario_steht =
+        Szenario_bearbeitet_ && !z_.nicht_gelesen[Szenario] && Listen_.gewaehlt(Szenario) == z_.gewaehlt(Szenario);
+    if (Lauf) sichere(Szenario_steht ? std::vector{Simulation, Wirkstoff, Applikation} : alle_Arten);
+    const bool andere_Beschreibung = Projektname_ != alte_Beschreibung_;
+    if (!uebergib()) return false;
+    if (andere_Beschreibung) z_.Ergebnisdatei.clear();
+    z_.Geaendert[0] = z_.Simulation_markiert = false;
+    Lauf_ = Lauf;
+    if (!Lauf) return true;
+    z_.nicht_gelesen = {false, true, true, !Szenario_steht};
+    decke_ab(z_, Texte::Eingabe_geaendert);
+    return true;
+}
+
+void Organiser::gib_Listen_weiter() {
+    static_cast<Satzlisten&>(z_) = Listen_;
+    for (const Satzart Art : alle_Arten) z_.Felder().Aktuelle_Dateinamen[Art] = Listen_.gewaehlt(Art);
+}
+
+// Hands lists and description over and writes the summary file. Where that is refused or fails, the main screen has again what
+// it had.
+bool Organiser::uebergib() {
+    const Merkstand vorher(z_);
+    gib_Listen_weiter();
+    z_.Felder().Beschreibung = Projektname_;
+    z_.Dateistaende[Simulation] = {z_.gewaehlt(Simulation), gelesen_};
+    z_.nicht_gelesen[Simulation] = false;
+    if (z_.Auswahl[Simulation] < 0) return true;  // the folder has no simulation
+    bool geschrieben = false;
+    try {
+        geschrieben = Waechter_.schreibe({Simulation});
+    } catch (...) {
+        vorher.stelle_her(z_);
+        throw;
+    }
+    if (!geschrieben) vorher.stelle_her(z_);
+    return geschrieben;
+}
+
+void Organiser::verwirf() { z_.Felder().Beschreibung = alte_Beschreibung_; }
+
+void Organiser::schliesse_ab() {
+    if (!std::exchange(Lauf_, false)) return;
+    Saetze_.lies_nach();
+}
+
+}  // namespace varnok

@@ -1,0 +1,81 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "session/saetze/satzbefehle.h"
+#include "session/saetze/satzverwaltung.h"
+#include "session/saetze/satzwaechter.h"
+
+namespace varnok {
+
+// The simulation organiser: picks a simulation and its three records on lists of its own and hands them to the main screen
+// when it is left with "Done". Files are copied, deleted and renamed at once. An entry of the main screen whose file is gone or
+// has another name follows at once, too, so that nothing there stands under a name that means another file.
+class Organiser {
+public:
+    Organiser(Zustand& z, Satzverwaltung& Saetze) : z_(z), Saetze_(Saetze), Befehle_(z, Listen_) {}
+
+    // Fills the lists from the project folder and shows the simulation of the main screen with the records of its file; its
+    // description is that of the main screen. A file that cannot be read throws; the dialog then shows what the main screen does.
+    void oeffne();
+
+    const Satzlisten& Listen() const { return Listen_; }
+    const std::string& Projektname() const { return Projektname_; }
+    bool darf_kopieren(Satzart Art) const { return Listen_.Auswahl[Art] >= 0; }
+    bool darf_loeschen(Satzart Art) const { return darf_kopieren(Art) && Listen_.Listen[Art].size() > 1; }
+    // Empty where the scenario editor can be opened, else why not: it shows the scenario that is loaded and no other.
+    std::string Einwand_gegen_Bearbeiten() const;
+
+    // The user chose an entry. A simulation is read; of a record the name alone is taken.
+    void waehle_Simulation(int Position);
+    void waehle_Satz(Satzart Art, int Position);
+    void aendere_Projektname(const std::string& Text);
+
+    // See `Satzbefehle`. What copying and deleting selects counts as chosen by the user.
+    void kopiere(Satzart Art);
+    void loesche(Satzart Art);
+    // False if the user did not want to replace a file.
+    bool benenne_um(Satzart Art, const std::string& Text, bool mit_Frage);
+
+    // Around the scenario editor, which works on the main screen.
+    void beginne_Bearbeiten();
+    void beende_Bearbeiten();
+
+    // "Done". False if the dialog stays: the message has been shown, and neither files nor lists have changed.
+    bool uebernimm();
+    // Close box and Esc: nothing is handed over or written.
+    void verwirf();
+    // Once the dialog has closed: reads the records picked and runs, if that is due.
+    void schliesse_ab();
+
+private:
+    std::string Szenariowerte() const;
+    void lies_Simulation_in_Maske(int Position, bool mit_Beschreibung);
+    void waehle_mit_Inhalt(Satzart Art);
+    bool ist_Lauf_faellig() const;
+    bool ist_vollstaendig() const;
+    void pruefe_Dateien();
+    void sichere(const std::vector<Satzart>& Arten);
+    bool uebergib();
+    void gib_Listen_weiter();
+    void ziehe_Hauptformular_nach(Satzart Art, const std::string& alt = {}, const std::string& neu = {});
+    void entwerte_im_Hauptformular(Satzart Art);
+
+    Zustand& z_;
+    Satzverwaltung& Saetze_;
+    Satzlisten Listen_;
+    Satzbefehle Befehle_;
+    Satzwaechter Waechter_{z_};
+    std::string Projektname_;
+    std::string alter_Projektname_;  // as the dialog showed it first
+    std::string alte_Beschreibung_;  // of the main screen, before the dialog was opened
+    std::string gelesen_;            // the summary file as the dialog read it
+    bool gewaehlt_ = false;          // the user chose something: a run is due
+    bool umbenannt_ = false;         // the summary file may name a record that is called otherwise now
+    bool Szenario_bearbeitet_ = false;
+    std::string Szenario_vorher_;  // the values on the screen as a record, before the editor
+    bool Lauf_ = false;            // `schliesse_ab` reads and runs
+};
+
+}  // namespace varnok

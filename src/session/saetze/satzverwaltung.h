@@ -1,0 +1,79 @@
+#pragma once
+
+#include "records/satz.h"
+#include "records/simulation.h"
+#include "session/eingabe/feldeingabe.h"
+#include "session/ergebnis/laufsteuerung.h"
+#include "session/saetze/satzbefehle.h"
+#include "session/saetze/satzwaechter.h"
+
+namespace varnok {
+
+// The records behind the selectors: loading, choosing and saving.
+class Satzverwaltung {
+public:
+    Satzverwaltung(Zustand& z, Laufsteuerung& Laeufe, Feldeingabe& Felder, Diagrammsteuerung& Diagramme)
+        : z_(z), Laeufe_(Laeufe), Felder_(Felder), Diagramme_(Diagramme) {}
+
+    // Reads the entries of all four selectors from the project folder; the selections follow the names.
+    void fuelle_Listen();
+
+    // Reads the records of the summary file for the start of the program. False if the program ends.
+    bool lade_Start(const std::string& Simulation);
+
+    // The user chose an entry.
+    void waehle_Simulation(int Position);
+    void waehle_Satz(Satzart Art, int Position);
+
+    // Files behind a selector; see `Satzbefehle`.
+    void lege_an(Satzart Art);
+    void kopiere(Satzart Art);
+    void loesche(Satzart Art);
+    // False if the user did not want to replace a file.
+    bool benenne_um(Satzart Art, const std::string& Text, bool mit_Frage);
+
+    // Tells in the status line which simulations of the list still name a record that was renamed.
+    void nenne_Simulationen_mit(Satzart Art, const std::string& Name, const Satzlisten& Listen);
+
+    // Reads what the selectors name and was not read, after a deletion: a simulation is loaded. True if there was something.
+    bool lies_nach();
+    // The same on the user's wish: what is read over is in `backup` before, and what another program did is told.
+    bool aktualisiere();
+    // Reads the scenario alone, if the selector names one that was not read. A run follows once all three are there.
+    void lies_Szenario_nach();
+
+    // Summary file and all three records. False if it was refused; the message has been shown.
+    bool speichere();
+    // At the end of the program: the summary file of the simulation shown. One that was not read only gets the present time; one
+    // that the user does not want replaced stays, and the combination on the screen goes into `backup`.
+    void schreibe_Zusammenfassungsdatei();
+    // Values that no file holds go into `backup`.
+    void sichere_Ungesichertes(std::vector<Sicherungsstueck> dazu = {});
+    // Asks for each changed record whether to save; Yes saves all.
+    enum class Sicherung { keine, erfolgt, verweigert };
+    Sicherung frage_nach_Sicherung();
+    bool pruefe_Auswahl(const std::vector<Knopf>& Knoepfe);
+
+    // Reads a record into parameters and fields; no run. False if it is missing and the user's answer ends the program.
+    bool lies_Satz(Satzart Art, const std::string& Name);
+
+private:
+    void nach_Wirkstoff(int alte_TWA_Zeiten);
+    Sicherung frage_Sicherung(std::size_t Art);
+    bool verlasse_Satz(Satzart Art);
+    void sichere_vor_dem_Lesen(Satzart Art);
+    void stelle_voran(const std::string& Hinweis);
+    void waehle_Namen(const Simulationssatz& Satz);
+    bool lies_fehlende_Saetze();
+    void schliesse_Laden_ab();
+    void merke_Kombination();
+
+    Zustand& z_;
+    Laufsteuerung& Laeufe_;
+    Feldeingabe& Felder_;
+    Diagrammsteuerung& Diagramme_;
+    Satzbefehle Befehle_{z_, z_};
+    Satzwaechter Waechter_{z_};
+};
+
+}  // namespace varnok

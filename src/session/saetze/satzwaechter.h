@@ -1,0 +1,59 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "records/sicherung.h"
+#include "session/kern/zustand.h"
+
+namespace varnok {
+
+// Stands between the values on the screen and the files: nothing that another program or another window wrote is replaced
+// without a question, and what is replaced or dropped is in `backup` before.
+class Satzwaechter {
+public:
+    explicit Satzwaechter(Zustand& z) : z_(z) {}
+
+    // The file of that name was just read or written: its content is known.
+    void merke(Satzart Art, const std::string& Name);
+    // The file that was read got another name, with its content. A file that was not read is not what the values stand for.
+    void merke_Namen(Satzart Art, const std::string& Name) {
+        if (!z_.nicht_gelesen[Art]) z_.Dateistaende[Art].Name = Name;
+    }
+
+    // Writes the files that the selectors name from the values on the screen: all of them, or none and false where the user
+    // does not want one replaced. A type that was not read is left out; what was entered for such a record goes into `backup`.
+    bool schreibe(const std::vector<Satzart>& Arten);
+
+    // The values that no file holds, of the types given: what the user changed, and what was read from a file that another
+    // program has changed or deleted since.
+    std::vector<Sicherungsstueck> Ungesichertes(const std::vector<Satzart>& Arten) const;
+    // Puts them into `backup`, with further pieces of the same command.
+    void sichere_Ungesichertes(const std::vector<Satzart>& Arten, std::vector<Sicherungsstueck> dazu = {});
+
+    // What another program did to the files of these types since they were read, for the status line; empty if nothing.
+    std::string Fremdes(const std::vector<Satzart>& Arten) const;
+
+private:
+    enum class Dateizustand { unveraendert, geaendert, geloescht };
+    struct Auftrag {
+        Satzart Art;
+        std::string Name;
+        std::string Pfad;
+        std::string Bytes;
+    };
+
+    Auftrag stelle_zusammen(Satzart Art) const;
+    Dateizustand Zustand_der_Datei(Satzart Art) const;
+    bool haelt_keine_Datei(Satzart Art) const;
+    bool darf_speichern() const;
+    bool darf_ersetzen(const Auftrag& a, const std::string& vorhanden) const;
+    std::string Dateibytes(Satzart Art) const;
+
+    Zustand& z_;
+};
+
+// Puts pieces into `backup`; the status line names the place.
+void sichere(Zustand& z, const std::vector<Sicherungsstueck>& Stuecke);
+
+}  // namespace varnok

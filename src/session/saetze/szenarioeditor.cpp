@@ -1,0 +1,238 @@
+#include "session/saetze/szenarioeditor.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "base/text.h"
+#include "base/zahlen.h"
+#include "records/satztext.h"
+#include "session/kern/texte.h"
+
+namespace varnok {
+namespace {
+
+constexpr int Tiefenschritte = 500;  // 0.1 to 50.0 cm
+constexpr int hoechste_Temperatur = 40;
+constexpr int individuell = 2;
+
+// The list of depths with the position of `Tiefe`. A depth that is no entry becomes one of its own behind the others.
+Tiefenwahl Tiefenliste(double Tiefe, std::array<int, 2> Vorgaben, char Dezimalzeichen) {
+    Tiefenwahl t;
+    for (int i = 0; i < Tiefenschritte; ++i) t.Eintraege.push_back(feste_Zahl((i + 1) / 10.0, 1, Dezimalzeichen));
+    t.Vorgaben = Vorgaben;
+    const auto Position = ganze_Zahl(Tiefe * 10 - 1, 0, Tiefenschritte - 1);
+    if (Position && std::abs((*Position + 1) / 10.0 - Tiefe) < 1e-9) {
+        t.Position = *Position;
+    } else {
+        t.Eintraege.push_back(allgemeine_Zahl(Tiefe, Dezimalzeichen));
+        t.Position = Tiefenschritte;
+    }
+    return t;
+}
+
+// The place of an entry, the last one where the list does not have it.
+int Platz(const std::vector<std::string>& Liste, const std::string& Eintrag) {
+    const auto Treffer = std::find(Liste.begin(), Liste.end(), Eintrag);
+    return std::min(static_cast<int>(Treffer - Liste.begin()), static_cast<int>(Liste.size()) - 1);
+}
+
+// The same for a climate file: the one that a run opens under that name.
+int Platz_der_Klimadatei(const std::vector<std::string>& Liste, const std::string& Name) {
+    const auto passt = [&](const std::string& s) { return gleich_ohne_Gross_Klein(s, Name); };
+    const bool genau = std::find(Liste.begin(), Liste.end(), Name) != Liste.end();
+    const auto Treffer = genau ? Liste.end() : std::find_if(Liste.begin(), Liste.end(), passt);
+    return Platz(Liste, Treffer == Liste.end() ? Name : *Treffer);
+}
+
+std::string Eintrag(const std::vector<std::string>& Liste, int i) {
+    return i < 0 ? std::string() : Liste[static_cast<std::size_t>(i)];
+}
+
+}  // namespace
+
+void Szenarioeditor::oeffne() {
+    Saetze_.lies_Szenario_nach();
+    z_.Szenarioeditor_faellig = false;
+    e_ = {};
+    geaendert_ = Lauf_faellig_ = false;
+    e_.Klimamodus = z_.Parameter().Klimamodus;
+    fuelle_Listen();
+    zeige_Werte();
+    gezeigt_ = e_;
+}
+
+void Szenarioeditor::fuelle_Listen() {
+    for (int t = 0; t <= hoechste_Temperatur; ++t) e_.Temperaturen.push_back(std::to_string(t));
+    e_.Temperatur = z_.Parameter().Szenariotemperatur;
+    if (e_.Temperatur > hoechste_Temperatur) {
+        const int Grad = e_.Temperatur;
+        e_.Temperaturen.push_back(std::to_string(Grad));
+        e_.Temperatur = hoechste_Temperatur + 1;
+    }
+    e_.Klimadateien = z_.Ordner->Namen(Klima_Endung);
+    e_.Szenarien = z_.Ordner->Namen(Endungen[varnok::Szenario]);
+    // The values on the screen are those of their record, also when another program has deleted its file.
+    const std::string Name = z_.gewaehlt(varnok::Szenario);
+    const bool fehlt = std::find(e_.Szenarien.begin(), e_.Szenarien.end(), Name) == e_.Szenarien.end();
+    if (fehlt && !Name.empty()) e_.Szenarien.push_back(Name);
+    e_.Szenario = Platz(e_.Szenarien, Name);
+}
+
+void Szenarioeditor::zeige_Werte() {
+    const Laufparameter& p = z_.Parameter();
+    const char d = z_.Welt.Dezimalzeichen;
+    e_.Texte = {z_.Felder().Bodenszenario, allgemeine_Zahl(p.Bodendichte, d), allgemeine_Zahl(p.Kohlenstoffgehalt, d),
+                allgemeine_Zahl(p.Feldkapazitaet, d), allgemeine_Zahl(p.Welkepunkt, d)};
+    e_.Boden = Tiefenliste(p.Bodentiefe, {49, 24}, d);
+    e_.Plateau = Tiefenliste(p.Plateautiefe, {49, 199}, d);
+    waehle_Tiefe(e_.Boden, e_.Boden.Position);
+    waehle_Tiefe(e_.Plateau, e_.Plateau.Position);
+    e_.Klima = Platz_der_Klimadatei(e_.Klimadateien, z_.Felder().Klimaszenario);
+    Klima_gewaehlt_ = false;
+}
+
+void Szenarioeditor::waehle_Szenario(int i) {
+    if (i == e_.Szenario) return;
+    e_.Szenario = i;
+    zeige_Werte();
+}
+
+bool Szenarioeditor::aendere(Szenarioentwurf::Feld f, const std::string& Text) {
+    const std::string Einwand = f == Szenarioentwurf::Bodenszenario ? Einwand_gegen_Text(Text) : std::string();
+    // A name that came from a file can be corrected key by key.
+    if (!Einwand.empty() && Einwand_gegen_Text(e_.Texte[f]).empty()) {
+        melde(z_, Texte::keine_gueltige_Eingabe, "\"" + Text + "\" cannot be the name of a soil: " + Einwand);
+        return false;
+    }
+    e_.Texte[f] = Text;
+    return true;
+}
+
+void Szenarioeditor::waehle_Option(Tiefenwahl& t, int o) {
+    t.Option = o;
+    t.Liste_sichtbar = o == individuell;
+    if (o < individuell) t.Position = t.Vorgaben[static_cast<std::size_t>(o)];
+}
+
+void Szenarioeditor::waehle_Tiefe(Tiefenwahl& t, int i) {
+    t.Position = i;
+    t.Option = static_cast<int>(std::find(t.Vorgaben.begin(), t.Vorgaben.end(), i) - t.Vorgaben.begin());
+    t.Liste_sichtbar = t.Option == individuell;
+}
+
+void Szenarioeditor::blaettere(Tiefenwahl& t, int i) {
+    waehle_Tiefe(t, i);
+    t.Liste_sichtbar = true;
+}
+
+void Szenarioeditor::waehle_Klimaszenario(int i) {
+    e_.Klima = i;
+    Klima_gewaehlt_ = true;
+}
+
+void Szenarioeditor::merke_Aenderung() {
+    z_.Geaendert[varnok::Szenario] = true;
+    geaendert_ = Lauf_faellig_ = true;
+}
+
+// Whether the parameter is another one now.
+bool Szenarioeditor::uebernimm_Wert(const std::string& Text, const std::string& gezeigt, double& Parameter) {
+    if (Text == gezeigt || Wert(Text) == Parameter) return false;
+    Parameter = Wert(Text);
+    merke_Aenderung();
+    return true;
+}
+
+void Szenarioeditor::uebernimm_Werte() {
+    Laufparameter& p = z_.Parameter();
+    using E = Szenarioentwurf;
+    const auto Text = [&](E::Feld f, double& Ziel) { uebernimm_Wert(e_.Texte[f], gezeigt_.Texte[f], Ziel); };
+    const auto Tiefe = [&](const Tiefenwahl& t, const Tiefenwahl& alt, double& Ziel) {
+        return uebernimm_Wert(Eintrag(t.Eintraege, t.Position), Eintrag(alt.Eintraege, alt.Position), Ziel);
+    };
+    Text(E::Bodendichte, p.Bodendichte);
+    Tiefe(e_.Boden, gezeigt_.Boden, p.Bodentiefe);
+    if (Tiefe(e_.Plateau, gezeigt_.Plateau, p.Plateautiefe) && p.Plateautiefe < p.Bodentiefe) {
+        const std::string Meldung =
+            "A plateau depth was defined smaller than the current soil depth.\nThe problem was corrected.";
+        z_.Welt.Fragen->frage({"Problem!", Meldung, Symbol::Hinweis, {Knopf::OK}});
+    }
+    Text(E::Kohlenstoffgehalt, p.Kohlenstoffgehalt);
+    Text(E::Feldkapazitaet, p.Feldkapazitaet);
+    Text(E::Welkepunkt, p.Welkepunkt);
+    uebernimm_Plateautiefe();
+}
+
+// The tillage layer holds the soil layer: it can never be the thinner one.
+void Szenarioeditor::uebernimm_Plateautiefe() {
+    Laufparameter& p = z_.Parameter();
+    if (p.Plateautiefe >= p.Bodentiefe) return;
+    p.Plateautiefe = p.Bodentiefe;
+    merke_Aenderung();
+}
+
+// A change of the temperature or of the mode alone marks no record and starts no run: only the hint tells of it. Where there are
+// no results to be seen, as after a run that found no climate file, it does; and so does another file in the place of one.
+void Szenarioeditor::uebernimm_Klima() {
+    const bool war_variabel = z_.Parameter().Klimamodus == 1;
+    const bool variabel = e_.Klimamodus == 1;
+    std::string& Text = z_.Felder().Klimaszenario;
+    const std::string vorher = Text;
+    if (e_.Temperatur != gezeigt_.Temperatur) z_.Parameter().Szenariotemperatur = static_cast<std::uint8_t>(e_.Temperatur);
+    z_.Parameter().Klimamodus = static_cast<std::uint8_t>(e_.Klimamodus);
+    if (!variabel) {
+        Text = std::to_string(z_.Parameter().Szenariotemperatur) + " °C constant";
+    } else if (e_.Klima >= 0 && !gleich_ohne_Gross_Klein(Text, Eintrag(e_.Klimadateien, e_.Klima))) {
+        Text = Eintrag(e_.Klimadateien, e_.Klima);
+    }
+    if (Text == vorher && variabel == war_variabel) return;
+    geaendert_ = true;
+    if (variabel && Klima_gewaehlt_) merke_Aenderung();
+    Laeufe_.verwirf_alle();
+    Laeufe_.markiere_veraltet();
+    Lauf_faellig_ = Lauf_faellig_ || z_.abgedeckt || (variabel && war_variabel);
+}
+
+void Szenarioeditor::uebernimm_Namen() {
+    if (e_.Texte[Szenarioentwurf::Bodenszenario] != gezeigt_.Texte[Szenarioentwurf::Bodenszenario]) {
+        z_.Felder().Bodenszenario = e_.Texte[Szenarioentwurf::Bodenszenario];
+        z_.Geaendert[varnok::Szenario] = geaendert_ = true;
+    }
+    const std::string Name = Eintrag(e_.Szenarien, e_.Szenario);
+    if (Name == z_.gewaehlt(varnok::Szenario)) return;
+    z_.Listen[varnok::Szenario] = z_.Ordner->Namen(Endungen[varnok::Szenario]);
+    z_.waehle(varnok::Szenario, Name);
+    z_.Felder().Aktuelle_Dateinamen[varnok::Szenario] = z_.gewaehlt(varnok::Szenario);
+    z_.Geaendert[0] = z_.Simulation_markiert = true;
+}
+
+void Szenarioeditor::uebernimm() {
+    const bool ohne_Satz = z_.Auswahl[varnok::Szenario] < 0;
+    uebernimm_Werte();
+    uebernimm_Klima();
+    uebernimm_Namen();
+    if (!ohne_Satz || !geaendert_) return;
+    // What was entered stands under the name chosen; else `schliesse` reads that record.
+    z_.nicht_gelesen[varnok::Szenario] = false;
+    Lauf_faellig_ = true;
+}
+
+void Szenarioeditor::verwirf() {
+    Lauf_faellig_ = false;
+    z_.Felder().Aktuelle_Dateinamen[varnok::Szenario] = z_.gewaehlt(varnok::Szenario);
+}
+
+void Szenarioeditor::schliesse() {
+    Saetze_.lies_Szenario_nach();
+    if (std::exchange(Lauf_faellig_, false)) {
+        decke_ab(z_, Texte::Eingabe_geaendert);
+        Laeufe_.verwirf_alle();
+        Laeufe_.markiere_veraltet();
+        z_.Neu_berechnen = true;
+        Laeufe_.berechne();
+    }
+    z_.Szenarioeditor_faellig = false;
+}
+
+}  // namespace varnok

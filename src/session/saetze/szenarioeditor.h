@@ -1,0 +1,96 @@
+#pragma once
+
+#include <array>
+#include <string>
+#include <vector>
+
+#include "session/ergebnis/laufsteuerung.h"
+#include "session/saetze/satzverwaltung.h"
+
+namespace varnok {
+
+// A depth in the editor: presets as options, and a list for every other depth.
+struct Tiefenwahl {
+    std::vector<std::string> Eintraege;  // cm
+    int Position = 0;
+    int Option = 2;                 // two presets, then "Individual"
+    bool Liste_sichtbar = true;     // with "Individual" only
+    std::array<int, 2> Vorgaben{};  // positions of the presets
+};
+
+// What the editor shows and the user changes, before "Done".
+struct Szenarioentwurf {
+    // Fields of text, in the order in which they stand.
+    enum Feld { Bodenszenario, Bodendichte, Kohlenstoffgehalt, Feldkapazitaet, Welkepunkt, Anzahl_Felder };
+
+    std::vector<std::string> Szenarien;
+    int Szenario = -1;
+    std::array<std::string, Anzahl_Felder> Texte;
+    Tiefenwahl Boden;
+    Tiefenwahl Plateau;
+    int Klimamodus = 0;
+    std::vector<std::string> Temperaturen;  // degrees C
+    int Temperatur = 0;
+    std::vector<std::string> Klimadateien;
+    int Klima = -1;
+};
+
+// The scenario editor: soil and climate of the scenario on the screen. It writes no file.
+class Szenarioeditor {
+public:
+    Szenarioeditor(Zustand& z, Laufsteuerung& Laeufe, Satzverwaltung& Saetze) : z_(z), Laeufe_(Laeufe), Saetze_(Saetze) {}
+
+    const Szenarioentwurf& Entwurf() const { return e_; }
+    // Without a climate file there is nothing to choose; a record that is variable can stay so.
+    bool darf_variabel() const { return !e_.Klimadateien.empty() || gezeigt_.Klimamodus == 1; }
+
+    // Shows the scenario on the screen. One that the selector names and that was not read is read before.
+    void oeffne();
+    // Another name for the same values: no record is read, what was typed goes.
+    void waehle_Szenario(int i);
+    // False for a soil name that no record can hold, after the user was told: the text before it stands.
+    bool aendere(Szenarioentwurf::Feld f, const std::string& Text);
+    void waehle_Bodentiefe_Option(int o) { waehle_Option(e_.Boden, o); }
+    void waehle_Plateautiefe_Option(int o) { waehle_Option(e_.Plateau, o); }
+    void waehle_Bodentiefe(int i) { waehle_Tiefe(e_.Boden, i); }
+    void waehle_Plateautiefe(int i) { waehle_Tiefe(e_.Plateau, i); }
+    // Keys or the wheel walk through the closed list: at a preset it stays until it is left.
+    void blaettere_Bodentiefe(int i) { blaettere(e_.Boden, i); }
+    void blaettere_Plateautiefe(int i) { blaettere(e_.Plateau, i); }
+    void verlasse_Bodentiefe() { waehle_Tiefe(e_.Boden, e_.Boden.Position); }
+    void verlasse_Plateautiefe() { waehle_Tiefe(e_.Plateau, e_.Plateau.Position); }
+    void waehle_Klimabedingungen(int m) { e_.Klimamodus = m; }
+    void waehle_Temperatur(int i) { e_.Temperatur = i; }
+    void waehle_Klimaszenario(int i);
+
+    // "Done": stores what the user changed.
+    void uebernimm();
+    // "Cancel".
+    void verwirf();
+    // Once the dialog has closed: runs if that is due. A run that fails does not ask for the editor again.
+    void schliesse();
+
+private:
+    static void waehle_Option(Tiefenwahl& t, int o);
+    static void waehle_Tiefe(Tiefenwahl& t, int i);
+    static void blaettere(Tiefenwahl& t, int i);
+    void fuelle_Listen();
+    void zeige_Werte();
+    bool uebernimm_Wert(const std::string& Text, const std::string& gezeigt, double& Parameter);
+    void uebernimm_Werte();
+    void uebernimm_Plateautiefe();
+    void uebernimm_Klima();
+    void uebernimm_Namen();
+    void merke_Aenderung();
+
+    Zustand& z_;
+    Laufsteuerung& Laeufe_;
+    Satzverwaltung& Saetze_;
+    Szenarioentwurf e_;
+    Szenarioentwurf gezeigt_;  // on opening: what the user does not touch is never stored
+    bool Klima_gewaehlt_ = false;
+    bool geaendert_ = false;  // "Done" stored something
+    bool Lauf_faellig_ = false;
+};
+
+}  // namespace varnok

@@ -1,0 +1,105 @@
+#include "window/eingabe/applikationsschema.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <algorithm>
+
+#include "painting/qt_text.h"
+#include "window/kern/zwischenablage.h"
+
+namespace varnok {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+// What a key adds to a cell: a digit or the decimal point, 0 for any other key.
+char Zeichen_der_Taste(const QKeyEvent& e) {
+    if (e.modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier)) return 0;
+    const QString Text = e.text();
+    if (Text.size() != 1) return 0;
+    const char16_t z = Text.front().unicode();
+    if (z >= u'0' && z <= u'9') return static_cast<char>(z);
+    return z == u'.' || z == u',' ? '.' : char{0};
+}
+
+}  // namespace
+
+Applikationsschema::Applikationsschema(Sitzung& Programm, QWidget* parent) : QTableWidget(0, 4, parent), Programm_(Programm) {
+    setObjectName(u"Applikationsschema"_s);
+    setAccessibleName(u"Applications of a year"_s);
+    setHorizontalHeaderLabels({u"Day"_s, u"Month"_s, u"Rate (g/ha)"_s, u"Interception(%)"_s});
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setTabKeyNavigation(false);
+    setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 4);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setMinimumSectionSize(fontMetrics().horizontalAdvance(u"Month"_s) + 10);
+    horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    horizontalHeader()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+    horizontalHeader()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
+}
+
+void Applikationsschema::zeige() {
+    const auto& Zeilen = Programm_.Stand().Felder().Applikationsschema;
+    setRowCount(static_cast<int>(Zeilen.size()));
+    for (int i = 0; i < rowCount(); ++i) {
+        for (int j = 0; j < columnCount(); ++j) {
+            const QString Text = in_Qt(Zeilen[static_cast<std::size_t>(i)][static_cast<std::size_t>(j)]);
+            QTableWidgetItem* Zelle = item(i, j);
+            if (!Zelle) {
+                Zelle = new QTableWidgetItem;
+                Zelle->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+                setItem(i, j, Zelle);
+            }
+            if (Zelle->text() != Text) Zelle->setText(Text);
+        }
+    }
+    if (currentRow() < 0 && rowCount() > 0) setCurrentCell(0, 0);
+    // Up to five rows and a bit of the sixth, which tells that there is more.
+    const double sichtbar = std::min<double>(rowCount(), 5.3);
+    const int Kopf = horizontalHeader()->sizeHint().height();
+    setFixedHeight(Kopf + static_cast<int>(sichtbar * verticalHeader()->defaultSectionSize()) + 2 * frameWidth());
+}
+
+void Applikationsschema::waehle_Zelle(Zelle z) {
+    clearSelection();
+    setCurrentCell(z.Zeile, z.Spalte);
+    if (const QTableWidgetItem* Ziel = item(z.Zeile, z.Spalte)) scrollToItem(Ziel);
+}
+
+Zelle Applikationsschema::aktuelle_Zelle() const { return {currentRow(), currentColumn()}; }
+
+bool Applikationsschema::bearbeite(const QKeyEvent& e) {
+    const Zelle z = aktuelle_Zelle();
+    if (z.Zeile < 0 || z.Spalte < 0) return false;
+    if (const char Zeichen = Zeichen_der_Taste(e)) {
+        Programm_.haenge_an_Zelle(z, Zeichen);
+    } else if (e.key() == Qt::Key_Backspace) {
+        Programm_.nimm_letztes_Zeichen(z);
+    } else if (e.key() == Qt::Key_Delete) {
+        Programm_.leere_Zelle(z);
+    } else if (e.matches(QKeySequence::Paste)) {
+        Programm_.fuege_in_Tabelle_ein(z, aus_Qt(QApplication::clipboard()->text()));
+    } else {
+        return false;
+    }
+    return true;
+}
+
+void Applikationsschema::keyPressEvent(QKeyEvent* e) {
+    if (e->key() == Qt::Key_Return || e->key() == Qt::Key_Enter) {
+        Q_EMIT bestaetigt();
+    } else if (e->matches(QKeySequence::Copy)) {
+        kopiere_Auswahl(*this);
+    } else if (bearbeite(*e)) {
+        Q_EMIT getippt();
+    } else {
+        QTableWidget::keyPressEvent(e);
+    }
+}
+
+}  // namespace varnok

@@ -1,0 +1,136 @@
+#include "window/eingabe/feldsteuerung.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QTimer>
+#include <chrono>
+
+#include "painting/qt_text.h"
+#include "window/kern/rahmen.h"
+
+namespace varnok {
+namespace {
+
+using namespace std::chrono_literals;
+
+// A button is held down: its command comes with the release and accepts the field itself.
+bool Taste_gedrueckt() {
+    const auto* Taste = qobject_cast<QAbstractButton*>(QApplication::focusWidget());
+    return Taste && Taste->isDown();
+}
+
+// Whether it is the window's field in focus, also while another window is in front.
+bool steht_im_Fokus(const QWidget& w) { return w.window()->focusWidget() == &w; }
+
+}  // namespace
+
+Feldsteuerung::Feldsteuerung(Sitzung& Programm, QObject* parent) : QObject(parent), Programm_(Programm) {}
+
+Zahlenfeld* Feldsteuerung::erstelle(const QString& Objektname, QWidget* parent) {
+    const int Feld = Feld_mit_Namen(aus_Qt(Objektname));
+    Q_ASSERT(Feld >= 0);
+    auto* f = new Zahlenfeld(Feld, parent);
+    Felder_.push_back(f);
+    connect(f, &Zahlenfeld::betreten, this, [this, f] { merke_Eintritt(f); });
+    connect(f, &Zahlenfeld::verlassen, this, [this, f] { merke_Austritt(f); });
+    connect(f, &Zahlenfeld::textEdited, this, [this, f](const QString& Text) { tippe(f, Text); });
+    connect(f, &Zahlenfeld::bestaetigt, this, [this, f] { bestaetige(f); });
+    connect(f, &Zahlenfeld::zurueckgenommen, this, [this, f] { nimm_zurueck(f); });
+    return f;
+}
+
+void Feldsteuerung::zeige() {
+    for (Zahlenfeld* f : Felder_) {
+        const bool in_Arbeit = steht_im_Fokus(*f) || f->Feld() == Programm_.aktives_Feld();
+        f->zeige(f == getippt_ ? f->text() : in_Qt(Programm_.Feldtext(f->Feld())), in_Arbeit);
+    }
+}
+
+Zahlenfeld* Feldsteuerung::Feld_in_Arbeit() const {
+    for (Zahlenfeld* f : Felder_) {
+        if (f->Feld() == Programm_.aktives_Feld()) return f;
+    }
+    return nullptr;
+}
+
+bool Feldsteuerung::gib_Fokus_zurueck() {
+    Zahlenfeld* f = Feld_in_Arbeit();
+    if (!f) return false;
+    f->setFocus(Qt::OtherFocusReason);
+    f->selectAll();
+    return true;
+}
+
+// The field left before is checked first: its check stands ahead in the queue of events.
+void Feldsteuerung::merke_Eintritt(Zahlenfeld* f) {
+    if (zeigt_) return;
+    f->zeige(f->text(), true);
+    QTimer::singleShot(0ms, f, [this, f] {
+        if (steht_im_Fokus(*f)) beginne(f);
+    });
+}
+
+void Feldsteuerung::beginne(Zahlenfeld* f) {
+    if (Programm_.aktives_Feld() == f->Feld()) return;
+    if (Zahlenfeld* anderes = Feld_in_Arbeit()) {
+        verlasse(anderes);
+        if (Programm_.aktives_Feld() >= 0) return;
+    }
+    Programm_.betrete_Feld(f->Feld());
+    Q_EMIT gehandelt();
+}
+
+void Feldsteuerung::merke_Austritt(Zahlenfeld* f) {
+    if (zeigt_) return;
+    QTimer::singleShot(0ms, f, [this, f] { verlasse(f); });
+}
+
+void Feldsteuerung::verlasse(Zahlenfeld* f) {
+    if (Programm_.aktives_Feld() != f->Feld()) {  // accepted meanwhile by a command
+        f->zeige(f->text(), steht_im_Fokus(*f));
+        return;
+    }
+    // Come back to, or a box of the program is in front: no leaving.
+    if (steht_im_Fokus(*f) || QApplication::activeModalWidget()) return;
+    if (Taste_gedrueckt()) {
+        QTimer::singleShot(15ms, f, [this, f] { verlasse(f); });
+        return;
+    }
+    bool angenommen = false;
+    {
+        const Wartezeiger warte;
+        angenommen = Programm_.verlasse_Feld(f->Feld());
+    }
+    Q_EMIT gehandelt();
+    if (!angenommen) gib_Fokus_zurueck();
+}
+
+void Feldsteuerung::tippe(Zahlenfeld* f, const QString& Text) {
+    getippt_ = f;
+    beginne(f);  // the first key after a command that accepted the field
+    if (Programm_.aktives_Feld() == f->Feld()) Programm_.aendere_Feld(f->Feld(), aus_Qt(Text));
+    Q_EMIT gehandelt();
+    getippt_ = nullptr;
+}
+
+void Feldsteuerung::bestaetige(Zahlenfeld* f) {
+    bool angenommen = false;
+    {
+        const Wartezeiger warte;
+        angenommen = Programm_.bestaetige_Feld(f->Feld());
+    }
+    Q_EMIT gehandelt();
+    // The next number can be typed at once.
+    if (angenommen)
+        f->selectAll();
+    else
+        gib_Fokus_zurueck();
+}
+
+void Feldsteuerung::nimm_zurueck(Zahlenfeld* f) {
+    Programm_.nimm_Feld_zurueck(f->Feld());
+    Q_EMIT gehandelt();
+    f->selectAll();
+}
+
+}  // namespace varnok

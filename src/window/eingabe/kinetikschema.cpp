@@ -1,0 +1,171 @@
+#include "window/eingabe/kinetikschema.h"
+
+#include <QButtonGroup>
+#include <QHBoxLayout>
+#include <QRadioButton>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+#include "painting/qt_text.h"
+#include "window/eingabe/kinetikparameter.h"
+#include "window/eingabe/stoffseite.h"
+#include "window/saetze/listenbedienung.h"
+#include "window/saetze/satzzeile.h"
+#include "window/saetze/umbenennfeld.h"
+
+namespace varnok {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr int Seitenrand = 4;
+
+constexpr std::array<const char16_t*, Stoffe> Substanznamen = {u"Parent", u"Metab. 1", u"Metab. 2"};
+
+}  // namespace
+
+Kinetikschema::Kinetikschema(Sitzung& Programm, Feldsteuerung& Steuerung, QWidget* parent)
+    : Rahmen(u"Kinetikschema"_s, Rahmenart::Wirkstoff, Programm, parent) {
+    const QString Titel = u"Compound data"_s;
+    auto* Spalte = new QVBoxLayout(this);
+    Spalte->setContentsMargins(10, 8, 10, 10);
+    Spalte->setSpacing(6);
+    Spalte->addWidget(Ueberschrift(Titel, this));
+    Satz_ = new Satzzeile(Wirkstoff, Titel, Programm, this);
+    Spalte->addWidget(Satz_);
+
+    Studie_ = new Auswahlliste(u"Studie"_s, 12, this);
+    Studienname_ = new Umbenennfeld(u"Studienname"_s, *Studie_);
+    Addiere_Studie_ = new Schaltflaeche(u"Addiere_Studie"_s, u"Add study"_s, this);
+    auto* Zeile = new QHBoxLayout;
+    Zeile->setSpacing(5);
+    Zeile->addWidget(Schild(u"Soil:"_s, Studie_, this));
+    Zeile->addWidget(Studie_, 1);
+    Zeile->addWidget(Addiere_Studie_);
+    Spalte->addLayout(Zeile);
+
+    Wirkstoffdaten_ = new Reiter(u"Wirkstoffdaten"_s, u"Compound data"_s, this);
+    Wirkstoffdaten_->addTab(erstelle_Abbaudaten(Steuerung), u"Degradation"_s);
+    Wirkstoffdaten_->addTab(erstelle_Seite(new Sorptionsdaten(Programm, Steuerung, this)), u"Sorption"_s);
+    Wirkstoffdaten_->addTab(erstelle_Seite(new Metabolismusschema(Programm, Steuerung, this)), u"Metabolism"_s);
+    Spalte->addSpacing(2);
+    Spalte->addWidget(Wirkstoffdaten_);
+
+    verbinde_Studien();
+    Wirkstoffdaten_->Leiste()->darf_wechseln = [this] {
+        bool frei = true;
+        if (Programm_.aktives_Feld() >= 0) handle([&] { frei = Programm_.schliesse_Feld_ab(); });
+        return frei;
+    };
+    connect(Wirkstoffdaten_, &QTabWidget::currentChanged, this, &Kinetikschema::wechsle_Seite);
+    horche_auf(Satz_);
+    for (Rahmen* r : Seiten_) horche_auf(r);
+}
+
+void Kinetikschema::verbinde_Studien() {
+    connect(Studie_, &QComboBox::activated, this, [this](int i) { handle([&] { Programm_.waehle_Studie(i); }); });
+    connect(Addiere_Studie_, &QPushButton::clicked, this, [this] { handle([&] { Programm_.addiere_Studie(); }); });
+    auto* Bedienung = new Listenbedienung(*Studie_, [this] {
+        return Listenbedienung::Rechte{Programm_.darf_Studie_addieren(), false, true, Programm_.darf_Studie_loeschen()};
+    });
+    connect(Bedienung, &Listenbedienung::anlegen, this, [this] { handle([&] { Programm_.addiere_Studie(); }); });
+    connect(Bedienung, &Listenbedienung::umbenennen, this, [this] { handle([&] { Programm_.beginne_Studienname(); }); });
+    connect(Bedienung, &Listenbedienung::loeschen, this, [this] { handle([&] { Programm_.loesche_Studie(); }); });
+    connect(Studienname_, &QLineEdit::textEdited, this,
+            [this](const QString& Text) { Programm_.aendere_Studienname(aus_Qt(Text)); });
+    connect(Studienname_, &Umbenennfeld::bestaetigt, this,
+            [this](bool Enter) { handle([&] { Programm_.bestaetige_Studienname(Enter); }); });
+    connect(Studienname_, &Umbenennfeld::zurueckgenommen, this,
+            [this] { handle([&] { Programm_.nimm_Studienname_zurueck(); }); });
+}
+
+void Kinetikschema::zeige_Studien() {
+    const Studienverwaltung& Studien = Programm_.Studien();
+    Studie_->zeige(Felder().Studie, Stand().i_studie());
+    Addiere_Studie_->setEnabled(Programm_.darf_Studie_addieren());
+    if (Studien.Name_offen() && !Studienname_->isVisible()) Studienname_->oeffne(in_Qt(Studien.Vorschlag()));
+    if (!Studien.Name_offen() && Studienname_->isVisible()) Studienname_->schliesse();
+    // The fields still hold the values of the study before.
+    Kinetikfelder_->setEnabled(!(Studien.Name_offen() && Studien.neu()));
+}
+
+// A page of the tab strip with the room around its content that all pages have.
+QWidget* Kinetikschema::erstelle_Seite(Rahmen* Inhalt) {
+    auto* Seite = new QWidget(this);
+    Seite->setAutoFillBackground(true);
+    auto* Spalte = new QVBoxLayout(Seite);
+    Spalte->setContentsMargins(Seitenrand, 8, Seitenrand, Seitenrand);
+    Spalte->addWidget(Inhalt);
+    Seiten_.push_back(Inhalt);
+    return Seite;
+}
+
+QWidget* Kinetikschema::erstelle_Abbaudaten(Feldsteuerung& Steuerung) {
+    auto* Seite = new QWidget(this);
+    Seite->setAutoFillBackground(true);
+    Seite->setObjectName(u"Abbaudaten"_s);
+    auto* Spalte = new QVBoxLayout(Seite);
+    Spalte->setContentsMargins(Seitenrand, 8, Seitenrand, Seitenrand);
+    Spalte->setSpacing(6);
+
+    Substanz_ = new QButtonGroup(this);
+    auto* Zeile = new QHBoxLayout;
+    Zeile->setSpacing(14);
+    for (int c = 0; c < Stoffe; ++c) {
+        auto* Option = new QRadioButton(QString::fromUtf16(Substanznamen[static_cast<std::size_t>(c)]), Seite);
+        Option->setObjectName(u"Substanz_"_s + in_Qt(c));
+        Substanz_->addButton(Option, c);
+        Zeile->addWidget(Option);
+    }
+    Zeile->addStretch(1);
+    Spalte->addLayout(Zeile);
+    connect(Substanz_, &QButtonGroup::idClicked, this, [this](int c) { handle([&] { Programm_.waehle_Substanz(c); }); });
+
+    Kinetikfelder_ = new QStackedWidget(Seite);
+    for (int c = 0; c < Stoffe; ++c) {
+        auto* Felder = new Kinetikparameter(c, Seitenrand + 1, Programm_, Steuerung, Kinetikfelder_);
+        Seiten_.push_back(Felder);
+        Kinetikfelder_->addWidget(Felder);
+    }
+    Spalte->addWidget(Kinetikfelder_);
+    // Where the options are not shown their height stays below the fields, and the frames below do not move.
+    Ersatz_ = new QSpacerItem(0, 0, QSizePolicy::Minimum, QSizePolicy::Fixed);
+    Spalte->addSpacerItem(Ersatz_);
+    Spalte->addStretch(1);
+    return Seite;
+}
+
+void Kinetikschema::wechsle_Seite(int i) {
+    bool frei = true;
+    if (Programm_.aktives_Feld() >= 0) handle([&] { frei = Programm_.schliesse_Feld_ab(); });
+    if (frei) Seite_ = i;
+    Wirkstoffdaten_->zeige_Seite(Seite_);
+}
+
+void Kinetikschema::zeige() {
+    Satz_->zeige();
+    zeige_Studien();
+    for (Rahmen* r : Seiten_) r->zeige();
+
+    const int m = Felder().Berechnungsmodus;
+    for (int c = 0; c < Stoffe; ++c) Substanz_->button(c)->setVisible(m > 0 && c < Anzahl_Stoffe(m));
+    QLayout* Spalte = Kinetikfelder_->parentWidget()->layout();
+    const int Optionszeile = Substanz_->button(0)->sizeHint().height() + Spalte->spacing();
+    Ersatz_->changeSize(0, m > 0 ? 0 : Optionszeile, QSizePolicy::Minimum, QSizePolicy::Fixed);
+    Spalte->invalidate();
+    Substanz_->button(Felder().Substanz)->setChecked(true);
+    Kinetikfelder_->setCurrentIndex(Felder().Substanz);
+    Wirkstoffdaten_->zeige_Seite(Seite_);
+    faerbe_Reiter();
+}
+
+// Strip and pages have the colour of the frame, whatever the style makes of a tab strip.
+void Kinetikschema::faerbe_Reiter() {
+    const QColor Flaeche = palette().color(QPalette::Window);
+    if (Wirkstoffdaten_->Leiste()->palette().color(QPalette::Button) == Flaeche) return;
+    QPalette p = palette();
+    p.setColor(QPalette::Button, Flaeche);
+    Wirkstoffdaten_->Leiste()->setPalette(p);
+}
+
+}  // namespace varnok

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <array>
+
+#include "window/eingabe/feldzeile.h"
+#include "window/kern/rahmen.h"
+
+namespace varnok {
+
+class Namensfeld;
+
+// A page with one row for each compound of the scheme: its caption, its name, its numeric fields.
+class Stoffseite : public Rahmen {
+    Q_OBJECT
+public:
+    // `Exemplar`: each name stands on two pages, this is the number of the copy.
+    Stoffseite(const QString& Name, int Exemplar, Sitzung& Programm, QWidget* parent);
+    void zeige() override;
+
+protected:
+    // A field below the head of its column; no name leaves the place empty.
+    void setze_Feld(Feldsteuerung& Steuerung, int i_substanz, int Spalte, const QString& Objektname);
+    QLabel* setze_Kopf(int Spalte, const QString& Text);
+    // Tab goes through a compound's row, then to the next compound.
+    void ordne_Tabfolge();
+
+    static constexpr int erste_Feldspalte = 2;
+
+private:
+    struct Stoffzeile {
+        QLabel* Schild = nullptr;
+        Namensfeld* Name = nullptr;
+        std::vector<QWidget*> Felder;
+    };
+
+    QGridLayout* Gitter_;
+    std::array<Stoffzeile, Stoffe> Zeilen_;
+};
+
+// Sorption: Koc of each compound.
+class Sorptionsdaten : public Stoffseite {
+    Q_OBJECT
+public:
+    Sorptionsdaten(Sitzung& Programm, Feldsteuerung& Steuerung, QWidget* parent);
+};
+
+// The metabolism scheme: molar masses and what part of the parent becomes each metabolite.
+class Metabolismusschema : public Stoffseite {
+    Q_OBJECT
+public:
+    Metabolismusschema(Sitzung& Programm, Feldsteuerung& Steuerung, QWidget* parent);
+    void zeige() override;
+
+private:
+    QLabel* Kopf_Bildung_;
+};
+
+}  // namespace varnok

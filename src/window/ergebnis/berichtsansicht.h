@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QTextEdit>
+
+#include "window/kern/rahmen.h"
+
+namespace varnok {
+
+// The report over the results: shown while the session has one open, read only, with the ways out of the program.
+class Berichtsansicht : public Rahmen {
+    Q_OBJECT
+public:
+    // Covers `Flaeche` and follows its size.
+    Berichtsansicht(Sitzung& Programm, QWidget* Flaeche, QWidget* parent);
+    void zeige() override;
+    // The print dialog; a cancelled one ends quietly. A selection is offered where there is one.
+    void drucke();
+
+protected:
+    bool eventFilter(QObject* Objekt, QEvent* e) override;
+    void keyPressEvent(QKeyEvent* e) override;
+
+private:
+    void fuelle();
+    void schliesse();
+    void kopiere();
+    void speichere_PDF();
+    // The focus went to another control of the window.
+    void pruefe_Fokus(const QWidget* alt, const QWidget* neu);
+
+    QWidget* Flaeche_;
+    QTextEdit* Bericht_;
+    const Bericht* gezeigter_ = nullptr;
+};
+
+}  // namespace varnok

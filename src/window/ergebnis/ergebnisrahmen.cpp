@@ -1,0 +1,195 @@
+#include "window/ergebnis/ergebnisrahmen.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QStyledItemDelegate>
+#include <QTableWidget>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "painting/qt_text.h"
+#include "window/kern/bausteine.h"
+#include "window/kern/rahmenfarben.h"
+#include "window/kern/zwischenablage.h"
+
+namespace varnok {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+// Pixels around the grid.
+struct Abstaende {
+    int Rand;  // above and below
+    int unter_Titel;
+
+    constexpr int ganz() const { return 2 * Rand + unter_Titel; }
+};
+constexpr Abstaende weit = {6, 4};
+constexpr Abstaende eng = {3, 2};
+
+// Blanks around a text serve other fonts; here the columns align by themselves.
+class Zellenschrift : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* Art, const QModelIndex& Stelle) const override {
+        QStyledItemDelegate::initStyleOption(Art, Stelle);
+        Art->text = Art->text.trimmed();
+    }
+};
+
+class Ergebnistafel : public QTableWidget {
+public:
+    using QTableWidget::QTableWidget;
+
+protected:
+    void keyPressEvent(QKeyEvent* e) override {
+        if (e->matches(QKeySequence::Copy)) {
+            kopiere_Auswahl(*this);
+        } else {
+            QTableWidget::keyPressEvent(e);
+        }
+    }
+};
+
+}  // namespace
+
+Ergebnisrahmen::Ergebnisrahmen(const QString& Endung, const QString& Titel, QWidget* parent)
+    : Flaechenrahmen("Ergebnisrahmen"_L1 + Endung, Heimat_Ergebnis, parent),
+      Titel_(Ueberschrift(Titel, this)),
+      Tafel_(new Ergebnistafel(0, 0, this)) {
+    Titel_->setObjectName("Ergebnistitel"_L1 + Endung);
+    Titel_->setWordWrap(true);
+    setAccessibleName(u"Results"_s);
+
+    Tafel_->setObjectName("Ergebnisse"_L1 + Endung);
+    Tafel_->setAccessibleName(Titel);
+    Tafel_->setFrameStyle(QFrame::NoFrame);
+    Tafel_->setItemDelegate(new Zellenschrift(Tafel_));
+    Tafel_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    Tafel_->setTabKeyNavigation(false);
+    Tafel_->setShowGrid(false);
+    QPalette Grund = palette();
+    Grund.setColor(QPalette::Base, palette().color(QPalette::Window));
+    Tafel_->setPalette(Grund);
+    Tafel_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    Tafel_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    Tafel_->horizontalHeader()->hide();
+    Tafel_->verticalHeader()->hide();
+    Tafel_->horizontalHeader()->setMinimumSectionSize(1);
+    Tafel_->verticalHeader()->setMinimumSectionSize(1);
+    Tafel_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+
+    auto* Spalte = new QVBoxLayout(this);
+    Spalte->setContentsMargins(8, weit.Rand, 8, weit.Rand);
+    Spalte->setSpacing(weit.unter_Titel);
+    Spalte->addWidget(Titel_);
+    Spalte->addWidget(Tafel_);
+    reiche_weiter(Titel_);
+    reiche_weiter(Tafel_->viewport());
+}
+
+void Ergebnisrahmen::setze_Titel(const QString& Titel) {
+    Titel_->setText(Titel);
+    Tafel_->setAccessibleName(Titel);
+}
+
+void Ergebnisrahmen::zeige(const Tabellentext& Tabelle) {
+    Tafel_->setRowCount(static_cast<int>(Tabelle.size()));
+    Tafel_->setColumnCount(Tabelle.empty() ? 0 : static_cast<int>(Tabelle.front().size()));
+    const QColor Kopf = QColor(230, 233, 232);
+    for (int i = 0; i < Tafel_->rowCount(); ++i) {
+        const auto& Zeile = Tabelle[static_cast<std::size_t>(i)];
+        for (int j = 0; j < Tafel_->columnCount(); ++j) {
+            QTableWidgetItem* Zelle = Tafel_->item(i, j);
+            if (!Zelle) {
+                Zelle = new QTableWidgetItem;
+                Zelle->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+                if (i == 0) Zelle->setBackground(Kopf);
+                Tafel_->setItem(i, j, Zelle);
+            }
+            const QString Text = in_Qt(Zeile[static_cast<std::size_t>(j)]);
+            if (Zelle->text() != Text) Zelle->setText(Text);
+            if (i == 0) Zelle->setToolTip(Text.trimmed());
+        }
+    }
+}
+
+void Ergebnisrahmen::ordne(const QSize& Flaeche, int Achsenhoehe) {
+    const int n = std::max(1, Tafel_->columnCount());
+    const QMargins Rand = layout()->contentsMargins();
+    // The grid of many studies takes no more than two thirds of the surface, as far as its numbers let it.
+    const int schmal = std::max(Ziffern(*this, 8), Flaeche.width() * 2 / 3 / n);
+    const int passend = (Flaeche.width() - 12 - Rand.left() - Rand.right()) / n;
+    const int Spalte = std::max(1, std::min({Ziffern(*this, 11), n > 3 ? schmal : passend, passend}));
+    int Kopfzeilen = 1;
+    for (int j = 0; j < n; ++j) {
+        Tafel_->setColumnWidth(j, Spalte);
+        const QTableWidgetItem* Kopf = Tafel_->item(0, j);
+        if (Kopf && fontMetrics().horizontalAdvance(Kopf->text().trimmed()) > Spalte - 8) Kopfzeilen = 2;
+    }
+    const int Breite = Spalte * n;
+    const int Titelhoehe =
+        Titel_->fontMetrics().boundingRect(QRect(0, 0, Breite, 1000), Qt::TextWordWrap, Titel_->text()).height();
+    ordne_Zeilen(Achsenhoehe - static_cast<int>(Heimat_Ergebnis.oben * Flaeche.height()) - Titelhoehe - 4, Kopfzeilen);
+    Titel_->setFixedSize(Breite, Titelhoehe);
+    Tafel_->setFixedSize(Breite, Tafel_->verticalHeader()->length());
+    adjustSize();
+}
+
+bool Ergebnisrahmen::letzte_Zeile_leer() const {
+    for (int j = 0; j < Tafel_->columnCount(); ++j) {
+        const QTableWidgetItem* Zelle = Tafel_->item(Tafel_->rowCount() - 1, j);
+        if (Zelle && !Zelle->text().trimmed().isEmpty()) return false;
+    }
+    return true;
+}
+
+// To stand above the time axis at home, the rows move as close as their letters let them, with less room around them. A spare
+// row without a text gives its own away before that.
+void Ergebnisrahmen::ordne_Zeilen(int Platz, int Kopfzeilen) {
+    constexpr int leere_Zeile = 2;
+    const int Schrift = fontMetrics().height();
+    const int Zeilen = Tafel_->rowCount();
+    const int Textzeilen = std::max(1, Zeilen - 1 + Kopfzeilen);
+    const bool zu_hoch = Textzeilen * Schrift > Platz - weit.ganz();
+    const bool ohne_letzte = zu_hoch && Zeilen > 1 && letzte_Zeile_leer();
+    const Abstaende& a = zu_hoch ? eng : weit;
+    const int fuer_Zeilen = Platz - a.ganz() - (ohne_letzte ? leere_Zeile : 0);
+    // Numbers reach less far down than letters, so a pixel less is enough for them.
+    const int Zeile = std::clamp(fuer_Zeilen / (Textzeilen - (ohne_letzte ? 1 : 0)), Schrift - 1, Schrift + 3);
+    layout()->setContentsMargins(8, a.Rand, 8, a.Rand);
+    layout()->setSpacing(a.unter_Titel);
+    for (int i = 0; i < Zeilen; ++i) Tafel_->setRowHeight(i, i == 0 ? (Kopfzeilen - 1) * Schrift + Zeile : Zeile);
+    if (ohne_letzte) Tafel_->setRowHeight(Zeilen - 1, leere_Zeile);
+}
+
+void Ergebnisrahmen::zeige_Griff(bool gehalten) {
+    QPalette p = palette();
+    p.setColor(QPalette::Window, gehalten ? QColor(0, 0, 255) : palette().color(QPalette::Window));
+    p.setColor(QPalette::WindowText, gehalten ? QColor(Qt::white) : Farben::Text);
+    Titel_->setAutoFillBackground(gehalten);
+    Titel_->setPalette(p);
+}
+
+// A click chooses a cell for copying, with Shift all from the one chosen before.
+void Ergebnisrahmen::klicke(const QMouseEvent& e) {
+    const QPoint Ort = Tafel_->viewport()->mapFromGlobal(e.globalPosition().toPoint());
+    const QModelIndex Zelle = Tafel_->indexAt(Ort);
+    if (!Zelle.isValid()) return;
+    Tafel_->setFocus(Qt::MouseFocusReason);
+    const QModelIndex Anfang = Tafel_->currentIndex();
+    if (!(e.modifiers() & Qt::ShiftModifier) || !Anfang.isValid()) {
+        Tafel_->setCurrentCell(Zelle.row(), Zelle.column());
+        return;
+    }
+    Tafel_->clearSelection();
+    const QRect r =
+        QRect(QPoint(Anfang.column(), Anfang.row()), QSize(1, 1)) | QRect(QPoint(Zelle.column(), Zelle.row()), QSize(1, 1));
+    Tafel_->setRangeSelected(QTableWidgetSelectionRange(r.top(), r.left(), r.bottom(), r.right()), true);
+}
+
+}  // namespace varnok

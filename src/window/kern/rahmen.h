@@ -1,0 +1,66 @@
+#pragma once
+
+#include <QApplication>
+#include <QFrame>
+
+#include "session/kern/sitzung.h"
+#include "window/kern/rahmenfarben.h"
+
+namespace varnok {
+
+// The pointer of a busy program, for the time of its life.
+class Wartezeiger {
+public:
+    Wartezeiger() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~Wartezeiger() { QApplication::restoreOverrideCursor(); }
+    Wartezeiger(const Wartezeiger&) = delete;
+    Wartezeiger& operator=(const Wartezeiger&) = delete;
+};
+
+// A frame of the main screen: shows the session and forwards what the user does to it. It knows no other
+// frame; the window hears by `gehandelt` that an action is over and lets all frames show what has become of it.
+class Rahmen : public QFrame {
+    Q_OBJECT
+public:
+    Rahmen(const QString& Name, Rahmenart Art, Sitzung& Programm, QWidget* parent);
+
+    // Sets texts, entries, what is visible and enabled from the session; starts nothing.
+    virtual void zeige() = 0;
+    // Gives the frame its colour, or the system's, as the settings say.
+    void faerbe();
+
+Q_SIGNALS:
+    void gehandelt();
+    // A key was typed into a text or a cell: no command, nothing long.
+    void getippt();
+
+protected:
+    template <class Handlung>
+    void handle(Handlung h) {
+        {
+            const Wartezeiger warte;
+            h();
+        }
+        Q_EMIT gehandelt();
+    }
+    template <class Handlung>
+    void tippe(Handlung h) {
+        h();
+        Q_EMIT getippt();
+    }
+    // Passes on what a part of the frame tells.
+    void horche_auf(Rahmen* Teil);
+    const Zustand& Stand() const { return Programm_.Stand(); }
+    const Eingabe& Felder() const { return Programm_.Stand().Felder(); }
+    bool farbig() const { return Stand().Einstellung.Farbeinstellung == 0; }
+
+    void paintEvent(QPaintEvent* e) override;
+    void changeEvent(QEvent* e) override;
+
+    Sitzung& Programm_;
+
+private:
+    Rahmenart Art_;
+};
+
+}  // namespace varnok

@@ -1,0 +1,274 @@
+#include "window/programm/hauptformular.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QPointer>
+#include <QScreen>
+#include <QSettings>
+#include <QStackedWidget>
+#include <QTimer>
+#include <QVBoxLayout>
+#include <QtGui/QCloseEvent>
+#include <chrono>
+
+#include "extras/versionstexte.h"
+#include "painting/qt_text.h"
+#include "window/eingabe/applikationsrahmen.h"
+#include "window/eingabe/eingabespalte.h"
+#include "window/eingabe/feldsteuerung.h"
+#include "window/eingabe/kinetikschema.h"
+#include "window/ergebnis/berichtsansicht.h"
+#include "window/ergebnis/bildbefehle.h"
+#include "window/ergebnis/ergebnisbereich.h"
+#include "window/ergebnis/untere_zeile.h"
+#include "window/kern/bausteine.h"
+#include "window/kern/bilder.h"
+#include "window/kern/ctooltip.h"
+#include "window/kern/fensterfrage.h"
+#include "window/programm/intro.h"
+#include "window/programm/menue.h"
+#include "window/programm/optionen.h"
+#include "window/programm/schalterrahmen.h"
+#include "window/programm/textfenster.h"
+#include "window/programm/tooltips.h"
+#include "window/saetze/frame2.h"
+#include "window/saetze/simulationen.h"
+#include "window/saetze/szenario_form.h"
+#include "window/saetze/szenariorahmen.h"
+
+namespace varnok {
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+Hauptformular::Hauptformular(Sitzung& Programm, Fensterfrage* Fragen, const QString& Fensterdatei, QWidget* parent)
+    : QMainWindow(parent),
+      Programm_(Programm),
+      Fragen_(Fragen),
+      Fensterdatei_(Fensterdatei),
+      Steuerung_(new Feldsteuerung(Programm, this)),
+      Menue_(new Menue(Programm, *this)) {
+    setObjectName(u"Hauptformular"_s);
+    setWindowTitle(u"VARNOK - Soil residue forecast tool"_s);
+    setWindowIcon(Bild_aus_SVG(u"varnok"_s));
+
+    Blaetter_ = new QStackedWidget(this);
+    Intro_ = new Intro(Blaetter_);
+    Arbeitsflaeche_ = erstelle_Arbeitsflaeche();
+    Bilder_ = new Bildbefehle(Programm, *Ergebnisse_, *this);
+    Blaetter_->addWidget(Intro_);
+    Blaetter_->addWidget(Arbeitsflaeche_);
+    setCentralWidget(Blaetter_);
+    setMinimumSize(900, 560);
+
+    connect(Intro_, &Intro::gestartet, this, &Hauptformular::starte);
+    connect(Menue_, &Menue::gehandelt, this, &Hauptformular::nach_Handlung);
+    Drucken_ = findChild<QAction*>(u"M_Drucken"_s);
+    connect(Drucken_, &QAction::triggered, Bericht_, &Berichtsansicht::drucke);
+    connect(findChild<QAction*>(u"M_Optionen"_s), &QAction::triggered, this, &Hauptformular::oeffne_Optionen);
+    connect(findChild<QAction*>(u"M_ueber"_s), &QAction::triggered, this, &Hauptformular::zeige_Info);
+    connect(findChild<QAction*>(u"M_Versionsinfo"_s), &QAction::triggered, this, &Hauptformular::zeige_Versionsinfo);
+    connect(findChild<QAction*>(u"M_Laden"_s), &QAction::triggered, this, &Hauptformular::oeffne_Organiser);
+    connect(Steuerung_, &Feldsteuerung::gehandelt, this, &Hauptformular::zeige);
+    for (Rahmen* r : Rahmen_) {
+        connect(r, &Rahmen::gehandelt, this, &Hauptformular::nach_Handlung);
+        connect(r, &Rahmen::getippt, this, &Hauptformular::zeige);
+    }
+    if (Fragen_) Fragen_->setze_Fenster(this, [this] { zeige(); });
+    stelle_Fenster_her();
+    zeige();
+    Intro_->gib_Fokus();
+    // When the window is on the screen: what there may be to say about the tips stands over it.
+    if (Programm_.Stand().Einstellung.Tips_anzeigen == 1) QTimer::singleShot(0ms, this, &Hauptformular::erstelle_tooltips);
+}
+
+Hauptformular::~Hauptformular() {
+    if (Fragen_) Fragen_->setze_Fenster(nullptr, {});
+}
+
+template <class R>
+R* Hauptformular::nimm_auf(R* Neuer) {
+    Rahmen_.push_back(Neuer);
+    return Neuer;
+}
+
+QWidget* Hauptformular::erstelle_Arbeitsflaeche() {
+    auto* Flaeche = new QWidget(Blaetter_);
+    Flaeche->setObjectName(u"Arbeitsflaeche"_s);
+    auto* Blatt = new QVBoxLayout(Flaeche);
+    Blatt->setContentsMargins(8, 8, 8, 8);
+    Blatt->setSpacing(8);
+    // Made in the order in which Tab walks through them.
+    auto* Kopf = nimm_auf(new Frame2(Programm_, Flaeche));
+    connect(Kopf, &Frame2::Organiser_verlangt, this, &Hauptformular::oeffne_Organiser);
+    Blatt->addWidget(Kopf);
+    auto* Mitte = new QHBoxLayout;
+    Mitte->setSpacing(8);
+    Mitte->addWidget(erstelle_Eingabespalte());
+    Mitte->addWidget(erstelle_Ergebnisspalte(), 1);
+    Blatt->addLayout(Mitte, 1);
+    Schalter_ = nimm_auf(new Schalterrahmen(Programm_, Flaeche));
+    Blatt->addWidget(Schalter_);
+    return Flaeche;
+}
+
+QWidget* Hauptformular::erstelle_Eingabespalte() {
+    auto* Spalte = new QWidget;
+    auto* Liste = new QVBoxLayout(Spalte);
+    Liste->setContentsMargins(0, 0, 0, 0);
+    Liste->setSpacing(8);
+    Liste->addWidget(nimm_auf(new Kinetikschema(Programm_, *Steuerung_, Spalte)));
+    Applikation_ = nimm_auf(new Applikationsrahmen(Programm_, *Steuerung_, Spalte));
+    Liste->addWidget(Applikation_);
+    Liste->addWidget(nimm_auf(new Szenariorahmen(Programm_, Spalte)));
+    Liste->addStretch(1);
+    return new Eingabespalte(Spalte, Blaetter_);
+}
+
+QWidget* Hauptformular::erstelle_Ergebnisspalte() {
+    auto* Spalte = new QWidget(Blaetter_);
+    auto* Liste = new QVBoxLayout(Spalte);
+    Liste->setContentsMargins(0, 0, 0, 0);
+    Liste->setSpacing(8);
+    Ergebnisse_ = nimm_auf(new Ergebnisbereich(Programm_, Spalte));
+    auto* Optionen = nimm_auf(new Untere_Zeile(Programm_, Spalte));
+    connect(Optionen, &Untere_Zeile::Ansicht_gewaehlt, Ergebnisse_, &Ergebnisbereich::hole_Ergebnisrahmen);
+    Liste->addWidget(Ergebnisse_, 1);
+    Liste->addWidget(Optionen);
+    Bericht_ = nimm_auf(new Berichtsansicht(Programm_, Ergebnisse_, Spalte));
+    return Spalte;
+}
+
+void Hauptformular::starte() {
+    {
+        const Wartezeiger warte;
+        Programm_.Starten();
+    }
+    nach_Handlung();
+    Schalter_->gib_Ende_den_Fokus();
+}
+
+void Hauptformular::zeige() {
+    Steuerung_->beginne_Zeigen();
+    Blaetter_->setCurrentWidget(Programm_.Stand().Gestartet ? Arbeitsflaeche_ : static_cast<QWidget*>(Intro_));
+    Menue_->zeige();
+    Bilder_->zeige();
+    for (Rahmen* r : Rahmen_) r->zeige();
+    Drucken_->setEnabled(Programm_.offener_Bericht() != nullptr);
+    Steuerung_->zeige();
+    Steuerung_->beende_Zeigen();
+    // Whatever action the run belonged to is over first.
+    if (Programm_.Stand().Szenarioeditor_faellig) QTimer::singleShot(0ms, this, &Hauptformular::oeffne_faelligen_Editor);
+}
+
+void Hauptformular::oeffne_faelligen_Editor() {
+    const Zustand& z = Programm_.Stand();
+    if (!z.Szenarioeditor_faellig || z.beendet || QApplication::activeModalWidget()) return;
+    zeige_Szenarioeditor(Programm_, this);
+    nach_Handlung();
+}
+
+void Hauptformular::erstelle_tooltips() {
+    if (!Tooltips_) Tooltips_ = new cTooltip(this);
+    varnok::erstelle_tooltips(*Tooltips_, *this, Programm_.Tooltips());
+}
+
+void Hauptformular::zeige_Info() {
+    Textfenster Fenster(u"Info"_s, u"About VARNOK"_s, in_Qt(Programm_.Programmangaben()), this);
+    Fenster.exec();
+}
+
+void Hauptformular::zeige_Versionsinfo() {
+    Textfenster Fenster(u"Versionsinfo"_s, u"Release notes"_s, in_Qt(Versionstext()), this);
+    Fenster.exec();
+}
+
+// The one place where an action of the user ends.
+void Hauptformular::nach_Handlung() {
+    if (Programm_.Stand().beendet) {
+        close();
+        return;
+    }
+    zeige();
+    waehle_Fehlerzelle();
+    // A field still in work refused its value: the command was not done.
+    Steuerung_->gib_Fokus_zurueck();
+}
+
+void Hauptformular::suche_beim_Start() {
+    Programm_.suche_beim_Start([Fenster = QPointer(this)](const std::function<void()>& Handlung) {
+        if (!Fenster) return;
+        {
+            const Wartezeiger warte;
+            Handlung();
+        }
+        Fenster->nach_Handlung();
+    });
+}
+
+void Hauptformular::oeffne_Optionen() {
+    bool frei = false;
+    {
+        const Wartezeiger warte;
+        frei = Programm_.schliesse_Feld_ab();
+    }
+    nach_Handlung();
+    if (!frei) return;
+    Optionen Dialog(Programm_, this);
+    Dialog.exec();
+    nach_Optionen();
+}
+
+void Hauptformular::nach_Optionen() {
+    farbe_einstellen(*this, Programm_.Stand().Einstellung);
+    {
+        const Wartezeiger warte;
+        if (Programm_.schliesse_Optionen()) erstelle_tooltips();
+    }
+    nach_Handlung();
+}
+
+void Hauptformular::oeffne_Organiser() {
+    const bool offen = Programm_.oeffne_Organiser();
+    nach_Handlung();
+    if (!offen) return;
+    {
+        Simulationen Dialog(
+            Programm_, [this](QWidget* w) { zeige_Szenarioeditor(Programm_, w); }, this);
+        connect(&Dialog, &Simulationen::gehandelt, this, &Hauptformular::zeige);
+        Dialog.exec();
+    }
+    // The dialog is gone from the screen before records are read and a run is made.
+    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    {
+        const Wartezeiger warte;
+        Programm_.schliesse_Organiser();
+    }
+    nach_Handlung();
+}
+
+void Hauptformular::waehle_Fehlerzelle() {
+    const Zustand& z = Programm_.Stand();
+    if (z.Tabellenfehler && z.abgedeckt) Applikation_->waehle_Zelle(*z.Tabellenfehler);
+}
+
+void Hauptformular::closeEvent(QCloseEvent* e) {
+    // What waits for the server would go on without its window.
+    if (Programm_.Stand().Aktualisierung_laeuft || !Programm_.schliesse_Fenster()) {
+        e->ignore();
+        zeige();
+        return;
+    }
+    if (!Fensterdatei_.isEmpty()) QSettings(Fensterdatei_, QSettings::IniFormat).setValue(u"geometry"_s, saveGeometry());
+    e->accept();
+}
+
+void Hauptformular::stelle_Fenster_her() {
+    resize(QSize(1280, 860).boundedTo(screen()->availableSize() * 0.95));
+    if (Fensterdatei_.isEmpty()) return;
+    const QByteArray Lage = QSettings(Fensterdatei_, QSettings::IniFormat).value(u"geometry"_s).toByteArray();
+    if (!Lage.isEmpty()) restoreGeometry(Lage);
+}
+
+}  // namespace varnok

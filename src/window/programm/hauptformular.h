@@ -1,0 +1,80 @@
+#pragma once
+
+#include <QMainWindow>
+#include <vector>
+
+#include "session/kern/sitzung.h"
+
+class QAction;
+class QStackedWidget;
+
+namespace varnok {
+
+class Applikationsrahmen;
+class Berichtsansicht;
+class Bildbefehle;
+class Ergebnisbereich;
+class Feldsteuerung;
+class Fensterfrage;
+class Intro;
+class Menue;
+class Rahmen;
+class Schalterrahmen;
+class cTooltip;
+
+// The program's one window: the start page, then inputs on the left and results on the right.
+class Hauptformular : public QMainWindow {
+    Q_OBJECT
+public:
+    // `Fragen`: the session's way to ask; may be null where something else answers. `Fensterdatei`: file that
+    // remembers place and size of the window, none without a name.
+    Hauptformular(Sitzung& Programm, Fensterfrage* Fragen, const QString& Fensterdatei = {}, QWidget* parent = nullptr);
+    ~Hauptformular() override;
+
+    // Brings everything on the screen in line with the session.
+    void zeige();
+    // Asks for a newer version, once, while the start page is on the screen.
+    void suche_beim_Start();
+    // Gives the controls their tips, or anew; they stay until the program ends.
+    void erstelle_tooltips();
+
+protected:
+    void closeEvent(QCloseEvent* e) override;
+
+private:
+    QWidget* erstelle_Arbeitsflaeche();
+    QWidget* erstelle_Eingabespalte();
+    QWidget* erstelle_Ergebnisspalte();
+    template <class R>
+    R* nimm_auf(R* Neuer);
+    void starte();
+    void oeffne_Organiser();
+    void nach_Handlung();
+    void oeffne_Optionen();
+    void nach_Optionen();
+    // After a run that found no climate file.
+    void oeffne_faelligen_Editor();
+    void waehle_Fehlerzelle();
+    void stelle_Fenster_her();
+    void zeige_Info();
+    void zeige_Versionsinfo();
+
+    Sitzung& Programm_;
+    Fensterfrage* Fragen_;
+    QString Fensterdatei_;
+    Feldsteuerung* Steuerung_;
+    Menue* Menue_;
+    QStackedWidget* Blaetter_;
+    Intro* Intro_;
+    QWidget* Arbeitsflaeche_;
+    std::vector<Rahmen*> Rahmen_;
+    Applikationsrahmen* Applikation_ = nullptr;
+    Ergebnisbereich* Ergebnisse_ = nullptr;
+    Schalterrahmen* Schalter_ = nullptr;
+    Bildbefehle* Bilder_ = nullptr;
+    Berichtsansicht* Bericht_ = nullptr;
+    QAction* Drucken_ = nullptr;    // the report is the only thing to print
+    cTooltip* Tooltips_ = nullptr;  // none until tips are wanted
+};
+
+}  // namespace varnok

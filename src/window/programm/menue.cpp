@@ -1,0 +1,107 @@
+#include "window/programm/menue.h"
+
+#include <QAction>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <algorithm>
+#include <array>
+
+#include "window/kern/rahmen.h"
+
+namespace varnok {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+enum Menuename { Datei, editieren, Ansicht, Hilfe };
+
+struct Menuezeile {
+    const char16_t* Name;
+    const char16_t* Aufschrift;
+    bool nach_Start;  // not on the start page
+};
+constexpr std::array<Menuezeile, 4> Menues = {{{u"M_Datei", u"&File", false},
+                                               {u"M_editieren", u"&Edit pesticide data", true},
+                                               {u"M_Ansicht", u"&View", true},
+                                               {u"M_Hilfe", u"&Help", false}}};
+
+struct Befehlszeile {
+    Menuename Menue;
+    const char16_t* Name;
+    const char16_t* Aufschrift;
+    void (Sitzung::*Befehl)() = nullptr;  // none: the window opens a dialog for it
+    const char16_t* Taste = u"";
+    bool Strich_davor = false;
+    bool (Sitzung::*erlaubt)() const = nullptr;  // none: always
+};
+constexpr std::array<Befehlszeile, 16> Befehle = {{
+    {Datei, u"M_Neuer_Wirkstoff", u"New &Pesticide record", &Sitzung::neuer_Wirkstoff},
+    {Datei, u"M_Neue_Applikationsdatei", u"New &Application record", &Sitzung::neue_Applikationsdatei},
+    {Datei, u"M_Neues_Szenario", u"&New Scenario", &Sitzung::neues_Szenario},
+    {Datei, u"M_Laden", u"&Load simulation", nullptr, u"", true},
+    {Datei, u"M_Defaults", u"&Load program defaults", &Sitzung::lade_Voreinstellungen},
+    {Datei, u"M_Drucken", u"&Print", nullptr, u"", true},
+    {Datei, u"M_Speichern", u"&Save all input data", &Sitzung::Speichern, u"Ctrl+S"},
+    {Datei, u"M_Ende", u"&Exit", &Sitzung::Ende, u"Ctrl+Q", true},
+    {editieren, u"M_Addiere", u"&Add study", &Sitzung::addiere_Studie, u"", false, &Sitzung::darf_Studie_addieren},
+    {editieren, u"M_Loesche", u"&Delete study", &Sitzung::loesche_Studie, u"", false, &Sitzung::darf_Studie_loeschen},
+    {editieren, u"M_Optionen", u"&Preferences", nullptr, u"", true},
+    {Ansicht, u"M_Studien", u"&Individual studies", &Sitzung::zeige_Studien},
+    {Ansicht, u"M_Zusammenfassung", u"&Summary", &Sitzung::zeige_Zusammenfassung, u"", false, &Sitzung::darf_Zusammenfassung},
+    {Hilfe, u"M_suche_nach_Update", u"&Onlinecheck for updates", &Sitzung::suche_nach_Update, u"", false,
+     &Sitzung::darf_nach_Update_suchen},
+    {Hilfe, u"M_Versionsinfo", u"&Release notes"},
+    {Hilfe, u"M_ueber", u"&About", nullptr, u"", true},
+}};
+
+}  // namespace
+
+Menue::Menue(Sitzung& Programm, QMainWindow& Fenster) : QObject(&Fenster), Programm_(Programm) {
+    std::array<QMenu*, Menues.size()> Menueliste{};
+    for (std::size_t i = 0; i < Menues.size(); ++i) {
+        // The report is a command of the menu bar itself, before the help.
+        if (i == Hilfe) {
+            QAction* Bericht = Fenster.menuBar()->addAction(u"&Report"_s);
+            Bericht->setObjectName(u"M_Bericht"_s);
+            Bericht->setShortcut(QKeySequence(u"Ctrl+R"_s));
+            Eintraege_.push_back({Bericht, &Sitzung::ist_gestartet});
+            connect(Bericht, &QAction::triggered, this, [this, Bericht] { fuehre_aus(Bericht, &Sitzung::erstelle_Bericht); });
+        }
+        Menueliste[i] = Fenster.menuBar()->addMenu(QString::fromUtf16(Menues[i].Aufschrift));
+        Menueliste[i]->setObjectName(QString::fromUtf16(Menues[i].Name));
+        if (Menues[i].nach_Start) nach_Start_.push_back(Menueliste[i]->menuAction());
+    }
+    for (const Befehlszeile& b : Befehle) {
+        QMenu* m = Menueliste[b.Menue];
+        if (b.Strich_davor) m->addSeparator();
+        QAction* Aktion = m->addAction(QString::fromUtf16(b.Aufschrift));
+        Aktion->setObjectName(QString::fromUtf16(b.Name));
+        Aktion->setShortcut(QKeySequence(QString::fromUtf16(b.Taste)));
+        // Names like "Quit" would move entries to another menu on some desktops.
+        Aktion->setMenuRole(QAction::NoRole);
+        Eintraege_.push_back({Aktion, b.erlaubt});
+        if (b.Befehl)
+            connect(Aktion, &QAction::triggered, this, [this, Aktion, Befehl = b.Befehl] { fuehre_aus(Aktion, Befehl); });
+    }
+}
+
+// A command that waits for an answer from outside is not started again meanwhile.
+void Menue::fuehre_aus(QAction* Aktion, void (Sitzung::*Befehl)()) {
+    {
+        const Wartezeiger warte;
+        Aktion->setEnabled(false);
+        (Programm_.*Befehl)();
+        Aktion->setEnabled(true);
+    }
+    Q_EMIT gehandelt();
+}
+
+void Menue::zeige() {
+    for (QAction* m : nach_Start_) m->setEnabled(Programm_.Stand().Gestartet);
+    for (const Eintrag& e : Eintraege_) {
+        if (e.erlaubt) e.Aktion->setEnabled((Programm_.*e.erlaubt)());
+    }
+}
+
+}  // namespace varnok

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QObject>
+#include <vector>
+
+#include "session/kern/sitzung.h"
+
+class QAction;
+class QMainWindow;
+class QMenu;
+
+namespace varnok {
+
+// The menus of the window.
+class Menue : public QObject {
+    Q_OBJECT
+public:
+    Menue(Sitzung& Programm, QMainWindow& Fenster);
+    // Enables what can be done now.
+    void zeige();
+
+Q_SIGNALS:
+    void gehandelt();
+
+private:
+    struct Eintrag {
+        QAction* Aktion;
+        bool (Sitzung::*erlaubt)() const;  // none: always
+    };
+
+    void fuehre_aus(QAction* Aktion, void (Sitzung::*Befehl)());
+
+    Sitzung& Programm_;
+    std::vector<QAction*> nach_Start_;  // enabled once the start page is left
+    std::vector<Eintrag> Eintraege_;
+};
+
+}  // namespace varnok

@@ -1,0 +1,59 @@
+#include "window/programm/schalterrahmen.h"
+
+#include <QDir>
+#include <QHBoxLayout>
+#include <QIcon>
+
+#include "painting/qt_text.h"
+#include "window/kern/bausteine.h"
+#include "window/kern/bilder.h"
+
+namespace varnok {
+
+using namespace Qt::StringLiterals;
+
+Schalterrahmen::Schalterrahmen(Sitzung& Programm, QWidget* parent)
+    : Rahmen(u"Schalterrahmen"_s, Rahmenart::schlicht, Programm, parent) {
+    Aktualisieren_ = new Schaltflaeche(u"Aktualisieren"_s, u"Refresh"_s, this);
+    speichern_ = new Schaltflaeche(u"speichern"_s, u"Save input"_s, this);
+    Bericht_erstellen_ = new Schaltflaeche(u"Bericht_erstellen"_s, u"Report"_s, this);
+    Ende_ = new Schaltflaeche(u"Ende"_s, u"Exit"_s, this);
+    Status_ = new Kurztext(u"Statuszeile"_s, this);
+    Status_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    Aktualisieren_->setShortcut(QKeySequence(Qt::Key_F5));
+
+    auto* Zeile = new QHBoxLayout(this);
+    Zeile->setContentsMargins(0, 0, 0, 0);
+    Zeile->setSpacing(6);
+    for (Schaltflaeche* b : {Aktualisieren_, speichern_, Bericht_erstellen_, Ende_}) {
+        b->setMinimumWidth(Ziffern(*this, 13));
+        Zeile->addWidget(b);
+    }
+    Zeile->addSpacing(18);
+    Zeile->addWidget(Status_, 1);
+
+    connect(Aktualisieren_, &QPushButton::clicked, this, [this] { handle([&] { Programm_.Aktualisieren(); }); });
+    connect(speichern_, &QPushButton::clicked, this, [this] { handle([&] { Programm_.Speichern(); }); });
+    connect(Bericht_erstellen_, &QPushButton::clicked, this, [this] { handle([&] { Programm_.erstelle_Bericht(); }); });
+    connect(Ende_, &QPushButton::clicked, this, [this] { handle([&] { Programm_.Ende(); }); });
+}
+
+QIcon Schalterrahmen::Hinweisbild() const {
+    const QDir Projekt(in_Qt(Stand().Projektpfad));
+    const QStringList Dateien = Projekt.entryList({u"rot.bmp"_s}, QDir::Files);
+    if (!Dateien.isEmpty()) {
+        const QPixmap Bild(Projekt.filePath(Dateien.front()));
+        if (!Bild.isNull()) return Bild;
+    }
+    return Bild_aus_SVG(u"hinweis"_s);
+}
+
+void Schalterrahmen::zeige() {
+    if (Stand().Hinweis == Aktualisieren_->icon().isNull()) Aktualisieren_->setIcon(Stand().Hinweis ? Hinweisbild() : QIcon());
+    Bericht_erstellen_->setEnabled(Stand().Gestartet);
+    Status_->setText(in_Qt(Stand().Statuszeile));
+}
+
+void Schalterrahmen::gib_Ende_den_Fokus() { Ende_->setFocus(Qt::OtherFocusReason); }
+
+}  // namespace varnok

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "window/kern/rahmen.h"
+
+namespace varnok {
+
+class Kurztext;
+class Schaltflaeche;
+
+// The buttons at the foot of the window, and the line that says what was done.
+class Schalterrahmen : public Rahmen {
+    Q_OBJECT
+public:
+    Schalterrahmen(Sitzung& Programm, QWidget* parent);
+    void zeige() override;
+    void gib_Ende_den_Fokus();
+
+private:
+    // The picture of results that are out of date: a file of the project, else the built-in one.
+    QIcon Hinweisbild() const;
+
+    Schaltflaeche *Aktualisieren_, *speichern_, *Bericht_erstellen_, *Ende_;
+    Kurztext* Status_;
+};
+
+}  // namespace varnok

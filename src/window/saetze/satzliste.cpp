@@ -1,0 +1,67 @@
+#include "window/saetze/satzliste.h"
+
+#include "painting/qt_text.h"
+#include "window/saetze/listenbedienung.h"
+#include "window/saetze/umbenennfeld.h"
+
+namespace varnok {
+
+using namespace Qt::StringLiterals;
+
+Satzliste::Satzliste(Satzart Art, const Namen& n, int Zeichen, Sitzung& Programm, Rahmen& Traeger)
+    : QObject(&Traeger), Art_(Art), Programm_(Programm) {
+    Liste = new Auswahlliste(n.Liste, Zeichen, &Traeger);
+    Neuer_Dateiname_ = new Umbenennfeld(u"Neuer_Dateiname_"_s + in_Qt(Art), *Liste);
+    Copy = new Schaltflaeche(n.Copy, u"Copy"_s, &Traeger);
+    Loeschen = new Schaltflaeche(n.Loeschen, u"Del"_s, &Traeger);
+    verbinde_Bedienung();
+}
+
+template <class Handlung>
+void Satzliste::handle(Handlung h) {
+    {
+        const Wartezeiger warte;
+        h();
+    }
+    Q_EMIT gehandelt();
+}
+
+void Satzliste::verbinde_Bedienung() {
+    const auto kopiere = [this] { handle([this] { Programm_.kopiere_Satz(Art_); }); };
+    const auto loesche = [this] { handle([this] { Programm_.loesche_Satz(Art_); }); };
+    connect(Copy, &QPushButton::clicked, this, kopiere);
+    connect(Loeschen, &QPushButton::clicked, this, loesche);
+
+    auto* Bedienung = new Listenbedienung(*Liste, [this] {
+        const bool da = Programm_.darf_kopieren(Art_);
+        return Listenbedienung::Rechte{Art_ != Simulation, da, da, Programm_.darf_loeschen(Art_)};
+    });
+    connect(Bedienung, &Listenbedienung::anlegen, this, [this] { handle([this] { Programm_.lege_Satz_an(Art_); }); });
+    connect(Bedienung, &Listenbedienung::kopieren, this, kopiere);
+    connect(Bedienung, &Listenbedienung::loeschen, this, loesche);
+    connect(Bedienung, &Listenbedienung::umbenennen, this,
+            [this] { Neuer_Dateiname_->oeffne(in_Qt(Programm_.Stand().gewaehlt(Art_))); });
+    connect(Neuer_Dateiname_, &Umbenennfeld::bestaetigt, this, &Satzliste::benenne_um);
+}
+
+// A name that was refused can be corrected while the box has the focus; left, it is given up.
+void Satzliste::benenne_um(bool Enter) {
+    const std::string Text = aus_Qt(Neuer_Dateiname_->text());
+    if (!Enter) Neuer_Dateiname_->schliesse();
+    bool fertig = true;
+    handle([&] { fertig = Programm_.benenne_Satz_um(Art_, Text, Enter); });
+    if (fertig) {
+        Neuer_Dateiname_->schliesse();
+    } else if (Enter) {
+        Neuer_Dateiname_->setFocus(Qt::OtherFocusReason);
+    }
+}
+
+void Satzliste::zeige() {
+    const Zustand& z = Programm_.Stand();
+    Liste->zeige(z.Listen[Art_], z.Auswahl[Art_]);
+    Copy->setEnabled(Programm_.darf_kopieren(Art_));
+    Loeschen->setEnabled(Programm_.darf_loeschen(Art_));
+}
+
+}  // namespace varnok

@@ -1,0 +1,221 @@
+#include "window/saetze/szenario_form.h"
+
+#include <QButtonGroup>
+#include <QDialogButtonBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <initializer_list>
+
+#include "painting/qt_text.h"
+#include "window/kern/bausteine.h"
+#include "window/kern/rahmen.h"
+#include "window/saetze/tiefenfeld.h"
+
+namespace varnok {
+namespace {
+
+using namespace Qt::StringLiterals;
+using E = Szenarioentwurf;
+
+struct Textzeile {
+    const char16_t* Name;
+    const char16_t* Aufschrift;
+};
+constexpr std::array<Textzeile, E::Anzahl_Felder> Textzeilen = {{{u"Bodenszenario", u"Name:"},
+                                                                 {u"S_Bodendichte", u"Soil density (kg/L):"},
+                                                                 {u"S_Kohlenstoffgehalt", u"Organic carbon content (%):"},
+                                                                 {u"S_Feldkapazitaet", u"Field capactiy (Vol %):"},
+                                                                 {u"S_Welkepunkt", u"Wilting point (%):"}}};
+
+constexpr int laengster_Wert = 255;  // characters that are read back from a line of a record
+
+// The columns of both grids: label, three options, the list of depths. The last one grows.
+constexpr int Feldspalte = 1;
+constexpr int Feldspalten = 4;
+constexpr int Rand_im_Kasten = 12;
+
+QGridLayout* neues_Raster(QWidget* Traeger, int Einzug) {
+    auto* r = new QGridLayout(Traeger);
+    r->setHorizontalSpacing(10);
+    r->setVerticalSpacing(6);
+    // A little more than the longest label, so that it is the same in both.
+    r->setColumnMinimumWidth(0, Traeger->fontMetrics().horizontalAdvance(u"Organic carbon content (%):"_s) + 4 - Einzug);
+    r->setColumnStretch(Feldspalten, 1);
+    return r;
+}
+
+}  // namespace
+
+Szenario_Form::Szenario_Form(Sitzung& Programm, QWidget* parent) : QDialog(parent), Programm_(Programm) {
+    setObjectName(u"Szenario_Form"_s);
+    setWindowTitle(u"Scenario"_s);
+    setze_Rahmenart(*this, Rahmenart::Szenario);
+    farbe_einstellen(*this, Programm_.Stand().Einstellung);
+    auto* Blatt = new QVBoxLayout(this);
+    Blatt->setContentsMargins(14, 14, 14, 12);
+    Blatt->setSpacing(12);
+    Blatt->addWidget(erstelle_Boden());
+    Blatt->addWidget(erstelle_Klima());
+    Blatt->addWidget(erstelle_Tasten());
+    Blatt->setSizeConstraint(QLayout::SetFixedSize);
+    zeige();
+    // Not in the first list, where a stray key would take another record's name.
+    Texte_[E::Bodendichte]->setFocus();
+    Texte_[E::Bodendichte]->selectAll();
+}
+
+template <class Handlung>
+void Szenario_Form::tue(Handlung h) {
+    h(Programm_.Editor());
+    zeige();
+}
+
+QWidget* Szenario_Form::erstelle_Boden() {
+    auto* Flaeche = new QWidget(this);
+    QGridLayout* r = neues_Raster(Flaeche, 0);
+    r->setContentsMargins(0, 0, 0, 0);
+    Szenarioliste_ = new Auswahlliste(u"Szenarioliste"_s, 34, Flaeche);
+    r->addWidget(Schild(u"Scenario:"_s, Szenarioliste_, Flaeche), 0, 0);
+    r->addWidget(Szenarioliste_, 0, Feldspalte, 1, Feldspalten);
+    connect(Szenarioliste_, &QComboBox::activated, this,
+            [this](int i) { tue([i](Szenarioeditor& e) { e.waehle_Szenario(i); }); });
+    for (int f = 0; f < E::Anzahl_Felder; ++f) erstelle_Textzeile(*r, 1 + f, static_cast<E::Feld>(f));
+    Bodentiefe_ = erstelle_Tiefe(*r, 1 + E::Anzahl_Felder, true);
+    Plateautiefe_ = erstelle_Tiefe(*r, 2 + E::Anzahl_Felder, false);
+    return Flaeche;
+}
+
+void Szenario_Form::erstelle_Textzeile(QGridLayout& Raster, int Zeile, Szenarioentwurf::Feld f) {
+    auto* Feld = new Textfeld(QString::fromUtf16(Textzeilen[f].Name), this);
+    Texte_[f] = Feld;
+    Raster.addWidget(Schild(QString::fromUtf16(Textzeilen[f].Aufschrift), Feld, this), Zeile, 0);
+    if (f == E::Bodenszenario) {
+        Feld->setMaxLength(laengster_Wert);
+        Raster.addWidget(Feld, Zeile, Feldspalte, 1, Feldspalten);
+    } else {
+        Feld->setFixedWidth(Ziffern(*this, 11));
+        Feld->setAlignment(Qt::AlignRight);
+        Raster.addWidget(Feld, Zeile, Feldspalte, 1, Feldspalten, Qt::AlignLeft);
+    }
+    connect(Feld, &QLineEdit::textEdited, this, [this, f](const QString& Text) { tippe(f, Text); });
+}
+
+// What was refused goes, and the cursor stands where it stood before.
+void Szenario_Form::tippe(Szenarioentwurf::Feld f, const QString& Text) {
+    if (Programm_.Editor().aendere(f, aus_Qt(Text))) return;
+    QLineEdit* Feld = Texte_[f];
+    const QString angenommen = in_Qt(Programm_.Editor().Entwurf().Texte[f]);
+    const auto zuviel = Text.size() - angenommen.size();
+    const int Stelle = Feld->cursorPosition();
+    Feld->setText(angenommen);
+    Feld->setCursorPosition(static_cast<int>(std::clamp<qsizetype>(Stelle - zuviel, 0, angenommen.size())));
+    Feld->setFocus(Qt::OtherFocusReason);
+}
+
+Tiefenfeld* Szenario_Form::erstelle_Tiefe(QGridLayout& Raster, int Zeile, bool Boden) {
+    const Tiefenfeld::Beschriftung Bodentext = {u"Soil depth (cm):"_s, {u" 5"_s, u"2.5"_s, u"Individual"_s}};
+    const Tiefenfeld::Beschriftung Plateautext = {u"Tillage depth(cm):"_s, {u"5"_s, u"20"_s, u"Individual"_s}};
+    const QString Groesse = Boden ? u"Bodentiefe"_s : u"Plateautiefe"_s;
+    auto* Feld = new Tiefenfeld(Groesse, Boden ? Bodentext : Plateautext, this, Raster, Zeile);
+    connect(Feld, &Tiefenfeld::Option_gewaehlt, this, [this, Boden](int o) {
+        tue([=](Szenarioeditor& e) { Boden ? e.waehle_Bodentiefe_Option(o) : e.waehle_Plateautiefe_Option(o); });
+    });
+    connect(Feld, &Tiefenfeld::Tiefe_gewaehlt, this,
+            [this, Boden](int i) { tue([=](Szenarioeditor& e) { Boden ? e.waehle_Bodentiefe(i) : e.waehle_Plateautiefe(i); }); });
+    connect(Feld, &Tiefenfeld::geblaettert, this, [this, Boden](int i) {
+        tue([=](Szenarioeditor& e) { Boden ? e.blaettere_Bodentiefe(i) : e.blaettere_Plateautiefe(i); });
+    });
+    connect(Feld, &Tiefenfeld::verlassen, this,
+            [this, Boden] { tue([=](Szenarioeditor& e) { Boden ? e.verlasse_Bodentiefe() : e.verlasse_Plateautiefe(); }); });
+    return Feld;
+}
+
+QWidget* Szenario_Form::erstelle_Klima() {
+    auto* Kasten = new QGroupBox(u"Climatic conditions"_s, this);
+    // Its fields stand under those above it.
+    QGridLayout* r = neues_Raster(Kasten, Kasten->contentsMargins().left() + Rand_im_Kasten);
+    r->setContentsMargins(Rand_im_Kasten, 8, Rand_im_Kasten, 10);
+    Klimabedingungen_ = new QButtonGroup(this);
+    auto* Reihe = new QHBoxLayout;
+    Reihe->setSpacing(16);
+    for (int m = 0; m < 2; ++m) {
+        auto* Option = new QRadioButton(m == 0 ? u"Constant"_s : u"Variable"_s, Kasten);
+        Option->setObjectName(u"Klimabedingungen_"_s + in_Qt(m));
+        Option->setAccessibleDescription(Kasten->title());
+        Klimabedingungen_->addButton(Option, m);
+        Reihe->addWidget(Option);
+    }
+    Reihe->addStretch(1);
+    r->addLayout(Reihe, 0, Feldspalte, 1, Feldspalten);
+    // Both ways to tell the climate have the same place.
+    Temperatur_ = new Auswahlliste(u"S_Szenariotemperatur"_s, 5, Kasten);
+    Temperaturschild_ = Schild(u"Temperature (°C):"_s, Temperatur_, Kasten);
+    Klimaszenario_ = new Auswahlliste(u"Klimaszenario"_s, 30, Kasten);
+    Klimaszenario_->setAccessibleName(u"Climate file"_s);
+    for (QWidget* w : std::initializer_list<QWidget*>{Temperatur_, Temperaturschild_, Klimaszenario_}) behalte_Platz(*w);
+    r->addWidget(Temperaturschild_, 1, 0);
+    r->addWidget(Temperatur_, 1, Feldspalte, 1, Feldspalten, Qt::AlignLeft);
+    r->addWidget(Klimaszenario_, 1, Feldspalte, 1, Feldspalten);
+    connect(Klimabedingungen_, &QButtonGroup::idClicked, this,
+            [this](int m) { tue([m](Szenarioeditor& e) { e.waehle_Klimabedingungen(m); }); });
+    connect(Temperatur_, &QComboBox::activated, this, [this](int i) { tue([i](Szenarioeditor& e) { e.waehle_Temperatur(i); }); });
+    connect(Klimaszenario_, &QComboBox::activated, this,
+            [this](int i) { tue([i](Szenarioeditor& e) { e.waehle_Klimaszenario(i); }); });
+    return Kasten;
+}
+
+QWidget* Szenario_Form::erstelle_Tasten() {
+    auto* Tasten = new QDialogButtonBox(this);
+    QPushButton* Ende = Tasten->addButton(u"Done"_s, QDialogButtonBox::AcceptRole);
+    Ende->setObjectName(u"Ende"_s);
+    Ende->setDefault(true);
+    Tasten->addButton(u"Cancel"_s, QDialogButtonBox::RejectRole)->setObjectName(u"Abbrechen"_s);
+    connect(Tasten, &QDialogButtonBox::accepted, this, &Szenario_Form::accept);
+    connect(Tasten, &QDialogButtonBox::rejected, this, &Szenario_Form::reject);
+    return Tasten;
+}
+
+void Szenario_Form::zeige() {
+    const Szenarioeditor& Editor = Programm_.Editor();
+    const E& e = Editor.Entwurf();
+    Szenarioliste_->zeige(e.Szenarien, e.Szenario);
+    for (std::size_t f = 0; f < Texte_.size(); ++f) {
+        if (aus_Qt(Texte_[f]->text()) != e.Texte[f]) Texte_[f]->setText(in_Qt(e.Texte[f]));
+    }
+    Bodentiefe_->zeige(e.Boden);
+    Plateautiefe_->zeige(e.Plateau);
+    zeige_Option(*Klimabedingungen_, e.Klimamodus);
+    Klimabedingungen_->button(1)->setEnabled(Editor.darf_variabel());
+    Temperatur_->zeige(e.Temperaturen, e.Temperatur);
+    Klimaszenario_->zeige(e.Klimadateien, e.Klima);
+    for (QWidget* w : std::initializer_list<QWidget*>{Temperaturschild_, Temperatur_}) w->setVisible(e.Klimamodus == 0);
+    Klimaszenario_->setVisible(e.Klimamodus == 1);
+}
+
+void Szenario_Form::accept() {
+    Programm_.uebernimm_Szenario();
+    QDialog::accept();
+}
+
+// Cancel, Esc and the close box.
+void Szenario_Form::reject() {
+    Programm_.Editor().verwirf();
+    QDialog::reject();
+}
+
+bool zeige_Szenarioeditor(Sitzung& Programm, QWidget* Fenster) {
+    {
+        const Wartezeiger warte;
+        if (!Programm.oeffne_Szenarioeditor()) return false;
+    }
+    const bool fertig = Szenario_Form(Programm, Fenster).exec() == QDialog::Accepted;
+    const Wartezeiger warte;
+    Programm.schliesse_Szenarioeditor();
+    return fertig;
+}
+
+}  // namespace varnok

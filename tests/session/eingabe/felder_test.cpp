@@ -1,0 +1,314 @@
+// The numeric fields: ranges, messages, and what typing, Enter and leaving do.
+
+#include <cmath>
+
+#include "base/zahlen.h"
+#include "session/kern/probesitzung.h"
+
+namespace varnok {
+namespace {
+
+constexpr const char* ungueltig = "No valid input!";
+
+// One line for each kind of field: an accepted, a refused and a boundary value on leaving and on Enter.
+struct Probe {
+    const char* Feld;
+    const char* angenommen;
+    const char* abgelehnt;
+    const char* Grenze;
+    bool Grenze_gilt;
+    bool Grenze_gilt_bei_Enter;
+    const char* Meldung;
+    const char* Meldung_Enter;
+};
+
+std::ostream& operator<<(std::ostream& Strom, const Probe& p) { return Strom << p.Feld; }
+
+constexpr const char* DT50 = "The DT50 is invalid. Please correct!";
+constexpr const char* Masse = "The molecular mass is invalid. Please correct!";
+constexpr const char* Bildung = "The formation rate is invalid. Please correct!";
+
+const Probe Proben[] = {
+    {"Applikationsrate", "750", "-1", "0", false, true, "The applikations rate is invalid. Please correct!", nullptr},
+    {"Interzeption", "99.9", "-1", "100", false, false, "The crop interception is invalid. Please correct!", nullptr},
+    {"Bildungsanteil_Met_1", "55", "100.5", "100", true, true, Bildung, nullptr},
+    {"Bildungsanteil_Met_2", "55", "-1", "0", true, true, Bildung, nullptr},
+    {"Molmasse_Wirkstoff", "312.4", "-5", "0", false, false, Masse, nullptr},
+    {"Molmasse_Met_1", "312.4", "-5", "0", false, false, Masse, nullptr},
+    {"Molmasse_Met_2", "312.4", "-5", "0", false, false, Masse, nullptr},
+    {"S_KOC_0", "250", "-1", "0", true, true, "The KOC constant is invalid. Please correct!",
+     "The Koc constant is invalid. Please correct!"},
+    {"S_KOC_1", "250", "-1", "0", true, true, "The KOC constant is invalid. Please correct!",
+     "The Koc constant is invalid. Please correct!"},
+    {"S_KOC_2", "250", "-1", "0", true, true, "The KOC constant is invalid. Please correct!",
+     "The Koc constant is invalid. Please correct!"},
+    {"S_DT50_0", "12", "-1", "0", true, true, DT50, nullptr},
+    {"S_DT50_1", "12", "-1", "0", true, true, DT50, nullptr},
+    {"S_DT50_2", "12", "-1", "0", true, true, DT50, nullptr},
+    {"S_DT50_1_DFOP_0", "12", "-1", "0", true, true, DT50, nullptr},
+    {"S_DT50_1_DFOP_1", "12", "-1", "0", true, true, DT50, nullptr},
+    {"S_DT50_1_DFOP_2", "12", "-1", "0", true, true, DT50, nullptr},
+    {"S_DT50_2_DFOP_0", "12", "-1", "0", true, true, DT50, nullptr},
+    {"S_DT50_2_DFOP_1", "12", "-1", "0", true, true, DT50, nullptr},
+    {"S_DT50_2_DFOP_2", "12", "-1", "0", true, true, DT50, nullptr},
+    {"S_g_0", "0.3", "1.1", "1", true, true, "The g constant is invalid. Please correct!", nullptr},
+    {"S_g_1", "0.3", "-0.1", "0", true, true, "The g constant is invalid. Please correct!", nullptr},
+    {"S_g_2", "0.3", "1.1", "1", true, true, "The g constant is invalid. Please correct!", nullptr},
+    {"S_alpha", "0.8", "-1", "0", true, true, "The alpha constant is invalid. Please correct!", nullptr},
+    {"S_beta", "3", "-1", "0", false, false, "The beta constant is invalid. Please correct!", nullptr},
+    {"S_DT50_1_HS", "12", "-1", "0", true, true, DT50, nullptr},
+    {"S_DT50_2_HS", "12", "-1", "0", true, true, DT50, nullptr},
+    {"S_Tb", "12", "-1", "0", true, true, "The breakpoint is invalid. Please correct!", nullptr},
+    {"S_Q10_0", "2.2", "-1", "0", false, false, "The Q10 constant is invalid. Please correct!", nullptr},
+    {"S_Q10_1", "2.2", "-1", "0", false, false, "The Q10 constant is invalid. Please correct!", nullptr},
+    {"S_Q10_2", "2.2", "-1", "0", false, false, "The Q10 constant is invalid. Please correct!", nullptr},
+    {"S_TRef_0", "15", "-1", "0", true, true, "The tref exponent is invalid. Please correct!", nullptr},
+    {"S_TRef_1", "15", "-1", "0", true, true, "The tref exponent is invalid. Please correct!", nullptr},
+    {"S_TRef_2", "15", "-1", "0", true, true, "The tref exponent is invalid. Please correct!", nullptr},
+    {"S_Walker_0", "0.5", "-1", "0", true, true, "The Walker exponent is invalid. Please correct!", nullptr},
+    {"S_Walker_1", "0.5", "-1", "0", true, true, "The Walker exponent is invalid. Please correct!", nullptr},
+    {"S_Walker_2", "0.5", "-1", "0", true, true, "The Walker exponent is invalid. Please correct!", nullptr},
+};
+
+class Feldprobe : public Probesitzung, public ::testing::WithParamInterface<Probe> {
+protected:
+    void erwarte_Ablehnung(bool Enter) {
+        const Probe& p = GetParam();
+        Fragen_.erwarte(ungueltig, Enter && p.Meldung_Enter ? p.Meldung_Enter : p.Meldung);
+    }
+    // A parent that does not degrade is calculated, and said to have no plateau.
+    void erwarte_Warnung_ohne_Abbau() {
+        if (GetParam().Feld != std::string("S_DT50_0")) return;
+        Fragen_.erwarte_Anfang("No final plateau", "The residues of Parent P grow without limit");
+    }
+    bool bestaetige(const char* Text) {
+        const int f = Feld(GetParam().Feld);
+        s_->betrete_Feld(f);
+        s_->aendere_Feld(f, Text);
+        return s_->bestaetige_Feld(f);
+    }
+};
+
+TEST_P(Feldprobe, accepted_value_on_leaving) {
+    gestartet();
+    EXPECT_TRUE(tippe(GetParam().Feld, GetParam().angenommen));
+    EXPECT_FALSE(s_->Stand().Hinweis);
+    EXPECT_FALSE(s_->Stand().abgedeckt);
+}
+
+TEST_P(Feldprobe, refused_value_on_leaving) {
+    gestartet();
+    erwarte_Ablehnung(false);
+    EXPECT_FALSE(tippe(GetParam().Feld, GetParam().abgelehnt));
+    EXPECT_EQ(s_->aktives_Feld(), Feld(GetParam().Feld));
+    EXPECT_TRUE(s_->Stand().abgedeckt);
+}
+
+TEST_P(Feldprobe, boundary_value_on_leaving) {
+    gestartet();
+    if (!GetParam().Grenze_gilt) erwarte_Ablehnung(false);
+    erwarte_Warnung_ohne_Abbau();
+    EXPECT_EQ(tippe(GetParam().Feld, GetParam().Grenze), GetParam().Grenze_gilt);
+}
+
+TEST_P(Feldprobe, accepted_value_on_enter) {
+    gestartet();
+    EXPECT_TRUE(bestaetige(GetParam().angenommen));
+    EXPECT_FALSE(s_->Stand().Hinweis);
+    EXPECT_EQ(s_->aktives_Feld(), Feld(GetParam().Feld));
+}
+
+TEST_P(Feldprobe, refused_value_on_enter) {
+    gestartet();
+    erwarte_Ablehnung(true);
+    EXPECT_FALSE(bestaetige(GetParam().abgelehnt));
+}
+
+TEST_P(Feldprobe, boundary_value_on_enter) {
+    gestartet();
+    if (!GetParam().Grenze_gilt_bei_Enter) erwarte_Ablehnung(true);
+    erwarte_Warnung_ohne_Abbau();
+    EXPECT_EQ(bestaetige(GetParam().Grenze), GetParam().Grenze_gilt_bei_Enter);
+}
+
+INSTANTIATE_TEST_SUITE_P(jedes_Feld, Feldprobe, ::testing::ValuesIn(Proben),
+                         [](const auto& i) { return std::string(i.param.Feld); });
+
+TEST(Feldtabelle, has_a_trial_for_every_field) {
+    ASSERT_EQ(Feldtabelle().size(), std::size(Proben));
+    for (const Probe& p : Proben) EXPECT_GE(Feld_mit_Namen(p.Feld), 0) << p.Feld;
+}
+
+TEST(Feldtabelle, a_DT50_typed_and_saved_reads_as_it_was_typed) {
+    for (const char* Text : {"33", "6.5", "61.5", "0.7", "1234.5", "12.345678"}) {
+        const double gespeichert = Wert(allgemeine_Zahl(Halbwertszeit(Wert(Text))));  // the record keeps 15 digits
+        EXPECT_EQ(Text_der_Halbwertszeit(gespeichert, '.'), Text);
+    }
+}
+
+TEST(Feldtabelle, a_rate_constant_without_a_short_DT50_shows_15_digits) {
+    EXPECT_EQ(Text_der_Halbwertszeit(0.01, ','), "69,3147180559945");  // 100 ln(2) = 69.31471805599453
+    EXPECT_EQ(Text_der_Halbwertszeit(0, '.'), "0");
+}
+
+using Felder = Probesitzung;
+
+double k_SFO(const Sitzung& s) { return s.Stand().Parameter().k_SFO[0][0]; }
+
+TEST_F(Felder, typing_12_starts_no_run_at_1) {
+    gestartet();
+    const int Laeufe = s_->Stand().Zeichnung;
+    const int f = Feld("S_DT50_0");
+    s_->betrete_Feld(f);
+    s_->aendere_Feld(f, "1");
+    s_->aendere_Feld(f, "12");
+    EXPECT_EQ(s_->Stand().Zeichnung, Laeufe);
+    EXPECT_TRUE(s_->verlasse_Feld(f));
+    EXPECT_EQ(s_->Stand().Zeichnung, Laeufe + 1);
+    EXPECT_DOUBLE_EQ(k_SFO(*s_), std::log(2.0) / 12);
+}
+
+TEST_F(Felder, enter_with_no_change_does_nothing) {
+    gestartet();
+    const int Laeufe = s_->Stand().Zeichnung;
+    const int f = Feld("S_DT50_0");
+    s_->betrete_Feld(f);
+    EXPECT_TRUE(s_->bestaetige_Feld(f));
+    EXPECT_EQ(s_->Stand().Zeichnung, Laeufe);
+    EXPECT_FALSE(s_->Stand().Hinweis);
+}
+
+TEST_F(Felder, a_comma_and_a_point_read_alike) {
+    gestartet();
+    ASSERT_TRUE(tippe("S_DT50_0", "1,5"));
+    EXPECT_DOUBLE_EQ(k_SFO(*s_), std::log(2.0) / 1.5);
+}
+
+TEST_F(Felder, the_text_12abc_is_taken_as_12) {
+    gestartet();
+    ASSERT_TRUE(tippe("S_DT50_0", "12abc"));
+    EXPECT_DOUBLE_EQ(k_SFO(*s_), std::log(2.0) / 12);
+}
+
+TEST_F(Felder, a_text_that_fails_its_test_stands_as_0_in_the_table_until_it_is_corrected) {
+    gestartet();
+    const int f = Feld("S_g_0");
+    s_->betrete_Feld(f);
+    s_->aendere_Feld(f, "3");
+    EXPECT_EQ(s_->Stand().Parameter().g_DFOP[0][0], 0);
+    s_->aendere_Feld(f, "0.25");
+    EXPECT_EQ(s_->Stand().Parameter().g_DFOP[0][0], 0.25);
+}
+
+TEST_F(Felder, twice_the_rate_doubles_every_concentration_without_a_run) {
+    gestartet();
+    const float vorher = Maximum();
+    const double Wirksame = s_->Stand().Rechnung.Speicher.Wirksame_Rate;
+    ASSERT_TRUE(tippe("Applikationsrate", "2000"));
+    EXPECT_EQ(Maximum(), 2 * vorher);
+    EXPECT_EQ(s_->Stand().Rechnung.Speicher.Wirksame_Rate, 2 * Wirksame);
+    EXPECT_TRUE(s_->Stand().Geaendert[2]);
+    EXPECT_FALSE(s_->Stand().abgedeckt);
+}
+
+// Scaled results and those of a run with the new dose, in all views and at both endpoints.
+TEST_F(Felder, the_fast_path_agrees_with_a_run) {
+    Parameter_.Kinetik[0] = ueberall<double>(FOMC);
+    schreibe_Probe();
+    gestartet();
+    ASSERT_TRUE(tippe("Applikationsrate", "730"));
+    ASSERT_TRUE(tippe("Interzeption", "35"));
+    const auto& Speicher = s_->Stand().Rechnung.Speicher;
+    std::array<double, 2> Skaliert{Speicher.Maximum_Bodentiefe[0][0][0], Speicher.Maximum_Bodentiefe[1][0][0]};
+    std::array<double, 2> Plateau{Speicher.Plateauwert[0][0][0], Speicher.Plateauwert[1][0][0]};
+    std::array<double, 2> Spitze{Speicher.Maximum_Plateautiefe[0][0][0], Speicher.Maximum_Plateautiefe[1][0][0]};
+    s_->Aktualisieren();
+    for (std::size_t e = 0; e < 2; ++e) {
+        EXPECT_NEAR(Skaliert[e] / Speicher.Maximum_Bodentiefe[e][0][0], 1, 1e-6);
+        EXPECT_NEAR(Spitze[e] / Speicher.Maximum_Plateautiefe[e][0][0], 1, 1e-6);
+        EXPECT_NEAR(Plateau[e] / Speicher.Plateauwert[e][0][0], 1, 1e-5);  // a difference of two peaks
+    }
+}
+
+TEST_F(Felder, a_rate_of_0_by_enter_is_a_run_without_a_dose_and_a_later_rate_a_run_with_one) {
+    gestartet();
+    const float vorher = Maximum();
+    const int f = Feld("Applikationsrate");
+    s_->betrete_Feld(f);
+    s_->aendere_Feld(f, "0");
+    ASSERT_TRUE(s_->bestaetige_Feld(f));
+    EXPECT_EQ(Maximum(), 0.0F);
+    s_->aendere_Feld(f, "1000");
+    ASSERT_TRUE(s_->verlasse_Feld(f));
+    EXPECT_EQ(Maximum(), vorher);
+}
+
+TEST_F(Felder, a_dose_typed_back_after_a_refusal_needs_no_scaling) {
+    gestartet();
+    const float vorher = Maximum();
+    const int f = Feld("Applikationsrate");
+    s_->betrete_Feld(f);
+    s_->aendere_Feld(f, "");
+    Fragen_.erwarte(ungueltig, "The applikations rate is invalid. Please correct!");
+    EXPECT_FALSE(s_->verlasse_Feld(f));
+    s_->betrete_Feld(f);  // the focus comes back
+    s_->aendere_Feld(f, "1000");
+    EXPECT_TRUE(s_->verlasse_Feld(f));
+    EXPECT_EQ(Maximum(), vorher);
+    EXPECT_FALSE(s_->Stand().Hinweis);
+    EXPECT_FALSE(s_->Stand().abgedeckt);
+}
+
+TEST_F(Felder, an_interception_left_at_0_reads_0_and_marks_nothing) {
+    gestartet();
+    const int f = Feld("Interzeption");
+    s_->betrete_Feld(f);
+    EXPECT_TRUE(s_->verlasse_Feld(f));
+    EXPECT_EQ(s_->Feldtext(f), "0");
+    EXPECT_FALSE(s_->Stand().Geaendert[2]);
+}
+
+TEST_F(Felder, esc_puts_the_last_accepted_text_back) {
+    gestartet();
+    const int f = Feld("S_DT50_0");
+    const std::string vorher = s_->Feldtext(f);
+    s_->betrete_Feld(f);
+    s_->aendere_Feld(f, "abc");
+    s_->nimm_Feld_zurueck(f);
+    EXPECT_EQ(s_->Feldtext(f), vorher);
+    EXPECT_NEAR(k_SFO(*s_), 0.01, 1e-15);
+}
+
+TEST_F(Felder, a_command_out_of_an_invalid_field_is_not_done) {
+    gestartet();
+    const int f = Feld("S_DT50_0");
+    s_->betrete_Feld(f);
+    s_->aendere_Feld(f, "-1");
+    Fragen_.erwarte(ungueltig, DT50);
+    s_->waehle_Muster(1);
+    EXPECT_EQ(s_->Stand().Felder().Applikationsmuster, 0);
+}
+
+TEST_F(Felder, refresh_out_of_a_changed_field_makes_one_run) {
+    gestartet();
+    const int Laeufe = s_->Stand().Zeichnung;
+    const int f = Feld("S_DT50_0");
+    s_->betrete_Feld(f);
+    s_->aendere_Feld(f, "33");
+    s_->Aktualisieren();
+    EXPECT_EQ(s_->Stand().Zeichnung, Laeufe + 1);
+}
+
+TEST_F(Felder, showing_a_study_writes_nothing_back) {
+    Parameter_.TRef[0][1] = -5;  // a field would refuse it
+    Parameter_.k_SFO[0][1] = 0.0123456789012345;
+    schreibe_Probe();
+    gestartet();
+    s_->waehle_Studie(1);
+    EXPECT_EQ(s_->Stand().Parameter().TRef[0][1], -5);
+    EXPECT_EQ(s_->Stand().Parameter().k_SFO[0][1], 0.0123456789012345);
+    EXPECT_FALSE(s_->Stand().Geaendert[1]);
+}
+
+}  // namespace
+}  // namespace varnok

@@ -1,0 +1,91 @@
+#include "session/kern/probesitzung.h"
+
+#include <unistd.h>
+
+#include <fstream>
+#include <sstream>
+
+#include "records/satz.h"
+#include "records/simulation.h"
+
+namespace varnok {
+namespace {
+
+std::filesystem::path neuer_Ordner() {
+    static int Nummer = 0;
+    auto Pfad =
+        std::filesystem::temp_directory_path() / ("varnok-" + std::to_string(::getpid()) + "-" + std::to_string(Nummer++));
+    std::filesystem::create_directories(Pfad / "input");
+    return Pfad;
+}
+
+}  // namespace
+
+Probesitzung::Probesitzung() : Wurzel_(neuer_Ordner()) {
+    Parameter_.Bodendichte = 1.5;
+    Parameter_.Bodentiefe = 5;
+    Parameter_.Plateautiefe = 20;
+    Parameter_.Kohlenstoffgehalt = 1;
+    Parameter_.Feldkapazitaet = 30;
+    Parameter_.Welkepunkt = 10;
+    Parameter_.Anzahl_Studien = 2;
+    Parameter_.KOC = fuer_alle(100.0);
+    Felder_.Studie = {"First soil", "Second soil"};
+    Felder_.Name_Wirkstoff = "Parent P";
+    Felder_.Name_Met_1 = "Metabolite M1";
+    Felder_.Name_Met_2 = "Metabolite M2";
+    Felder_.Molmasse_Wirkstoff = "300";
+    Felder_.Molmasse_Met_1 = "200";
+    Felder_.Molmasse_Met_2 = "150";
+    Felder_.Bildungsanteil_Met_1 = "40";
+    Felder_.Bildungsanteil_Met_2 = "30";
+    Felder_.Bodenszenario = "Sandy loam";
+    for (auto& Zeile : Felder_.Applikationsschema) Zeile = {"01", "05", "100", "0"};
+    schreibe_Probe();
+}
+
+Probesitzung::~Probesitzung() {
+    s_.reset();
+    std::filesystem::remove_all(Wurzel_);
+}
+
+void Probesitzung::schreibe_Probe() {
+    const Projektordner Ordner(Wurzel_.string());
+    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) Satz_schreiben(Ordner, "Probe", Art, Parameter_, Felder_);
+    schreibe_Simulation(Ordner, "Probe", {"A trial", {"", "Probe", "Probe", "Probe"}});
+}
+
+Sitzung& Probesitzung::nur_geladen() {
+    s_.reset();  // of two windows on one folder the second would ask
+    s_ = std::make_unique<Sitzung>(Umgebung{&Fragen_, Wurzel_.string(), "", '.'});
+    EXPECT_TRUE(s_->starte());
+    return *s_;
+}
+
+Sitzung& Probesitzung::gestartet() {
+    nur_geladen().Starten();
+    return *s_;
+}
+
+std::string Probesitzung::Datei(const std::string& Name) const {
+    std::ifstream Strom(Wurzel_ / Name, std::ios::binary);
+    std::ostringstream Inhalt;
+    Inhalt << Strom.rdbuf();
+    return Inhalt.str();
+}
+
+int Probesitzung::Feld(const std::string& Objektname) { return Feld_mit_Namen(Objektname); }
+
+bool Probesitzung::tippe(const std::string& Objektname, const std::string& Text) {
+    const int f = Feld(Objektname);
+    s_->betrete_Feld(f);
+    s_->aendere_Feld(f, Text);
+    return s_->verlasse_Feld(f);
+}
+
+float Probesitzung::Maximum(int i_studie, int i_substanz) const {
+    return s_->Stand()
+        .Rechnung.Speicher.Maximum_Bodentiefe[0][static_cast<std::size_t>(i_studie)][static_cast<std::size_t>(i_substanz)];
+}
+
+}  // namespace varnok

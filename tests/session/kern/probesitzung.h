@@ -1,0 +1,38 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+#include "session/kern/sitzung.h"
+#include "support/drehbuch.h"
+
+namespace varnok {
+
+// A project folder of its own with one simulation "Probe", and a session on it.
+class Probesitzung : public ::testing::Test {
+protected:
+    Probesitzung();
+    ~Probesitzung() override;
+
+    // The session up to the working screen.
+    Sitzung& gestartet();
+    Sitzung& nur_geladen();
+
+    void schreibe_Probe();
+    std::string Datei(const std::string& Name) const;
+    bool gibt_es(const std::string& Name) const { return std::filesystem::exists(Wurzel_ / Name); }
+
+    // What the user does in a field: enters it, types, leaves it.
+    bool tippe(const std::string& Objektname, const std::string& Text);
+    static int Feld(const std::string& Objektname);
+
+    float Maximum(int i_studie = 0, int i_substanz = 0) const;
+
+    std::filesystem::path Wurzel_;
+    Drehbuch Fragen_;
+    Laufparameter Parameter_;  // of the record "Probe"
+    Eingabe Felder_;
+    std::unique_ptr<Sitzung> s_;
+};
+
+}  // namespace varnok

@@ -1,0 +1,111 @@
+#include <chrono>
+#include <fstream>
+
+#include "records/satz.h"
+#include "records/simulation.h"
+#include "session/kern/probesitzung.h"
+
+namespace varnok {
+namespace {
+
+using Ende = Probesitzung;
+
+std::string Frage_nach(const std::string& Wort) {
+    return "You modified " + Wort + " input data!  Do you want to save the changes in your data base?";
+}
+
+std::filesystem::file_time_type Stempel(const std::filesystem::path& p) { return std::filesystem::last_write_time(p); }
+
+TEST_F(Ende, writes_the_summary_and_the_settings_without_a_question_when_nothing_changed) {
+    gestartet();
+    const auto alt = Stempel(Wurzel_ / "input/Probe.vnk") - std::chrono::hours(1);
+    std::filesystem::last_write_time(Wurzel_ / "input/Probe.vnk", alt);
+    s_->Ende();
+    EXPECT_TRUE(s_->Stand().beendet);
+    EXPECT_GT(Stempel(Wurzel_ / "input/Probe.vnk"), alt);  // this is what makes the next start find it
+}
+
+TEST_F(Ende, asks_for_the_changed_record_and_saves_on_yes) {
+    gestartet();
+    ASSERT_TRUE(tippe("S_DT50_0", "12"));
+    Fragen_.erwarte("Save changes?", Frage_nach("pesticide"), Knopf::Ja);
+    s_->Ende();
+    EXPECT_TRUE(s_->Stand().beendet);
+    Laufparameter p;
+    Eingabe e;
+    Satz_lesen(Projektordner(Wurzel_.string()), "Probe", Wirkstoff, p, e);
+    EXPECT_NEAR(Halbwertszeit(p.k_SFO[0][0]), 12, 1e-12);
+}
+
+TEST_F(Ende, leaves_the_record_alone_on_no) {
+    gestartet();
+    const std::string vorher = Datei("input/Probe.che");
+    ASSERT_TRUE(tippe("S_DT50_0", "12"));
+    Fragen_.erwarte("Save changes?", Frage_nach("pesticide"), Knopf::Nein);
+    s_->Ende();
+    EXPECT_EQ(Datei("input/Probe.che"), vorher);
+}
+
+TEST_F(Ende, asks_once_for_each_changed_record_until_a_yes_saves_all) {
+    gestartet();
+    ASSERT_TRUE(tippe("S_DT50_0", "12"));
+    ASSERT_TRUE(tippe("Applikationsrate", "500"));
+    Fragen_.erwarte("Save changes?", Frage_nach("pesticide"), Knopf::Nein)
+        .erwarte("Save changes?", Frage_nach("application"), Knopf::Ja);
+    s_->Ende();
+    EXPECT_TRUE(s_->Stand().beendet);
+}
+
+TEST_F(Ende, with_an_empty_selector_is_refused_and_the_program_stays) {
+    schreibe_Simulation(Projektordner(Wurzel_.string()), "Torn", {"", {"", "Probe", "no such record", "Probe"}});
+    std::filesystem::last_write_time(Wurzel_ / "input/Torn.vnk", Stempel(Wurzel_ / "input/Probe.vnk") - std::chrono::hours(1));
+    gestartet();
+    s_->waehle_Simulation(1);
+    EXPECT_TRUE(s_->Stand().abgedeckt);
+    Fragen_.erwarte("Record not set", "Application record not set. Please select!");
+    s_->Ende();
+    EXPECT_FALSE(s_->Stand().beendet);
+}
+
+TEST_F(Ende, by_the_close_box_leaves_the_summary_stamp_old_and_writes_no_settings) {
+    gestartet();
+    std::filesystem::remove(Wurzel_ / "VARNOK.ini");
+    const auto alt = Stempel(Wurzel_ / "input/Probe.vnk");
+    EXPECT_TRUE(s_->schliesse_Fenster());
+    EXPECT_EQ(Stempel(Wurzel_ / "input/Probe.vnk"), alt);
+    EXPECT_FALSE(gibt_es("VARNOK.ini"));
+}
+
+TEST_F(Ende, by_the_close_box_puts_an_invalid_text_back_before_it_asks) {
+    gestartet();
+    const int f = Feld("S_g_0");
+    s_->betrete_Feld(f);
+    s_->aendere_Feld(f, "7");
+    Fragen_.erwarte("Save changes?", Frage_nach("pesticide"), Knopf::Nein);
+    EXPECT_TRUE(s_->schliesse_Fenster());
+    EXPECT_EQ(s_->Feldtext(f), "0.5");
+}
+
+TEST_F(Ende, a_save_that_fails_names_the_file_and_keeps_the_program_and_the_values) {
+    gestartet();
+    ASSERT_TRUE(tippe("S_DT50_0", "12"));
+    std::filesystem::rename(Wurzel_ / "input", Wurzel_ / "elsewhere");
+    Fragen_.erwarte_Anfang("Runtime error", "Cannot write the file \"" + (Wurzel_ / "input/Probe.vnk").string());
+    s_->Speichern();
+    EXPECT_FALSE(s_->Stand().beendet);
+    EXPECT_EQ(s_->Feldtext(Feld("S_DT50_0")), "12");
+}
+
+TEST_F(Ende, program_defaults_restore_the_start_simulation_and_end_without_a_question) {
+    gestartet();
+    Fragen_.erwarte("Default settings",
+                    "The default parameters have been loaded and VARNOK will now quit.\n"
+                    "The settings become available after the next program call.");
+    std::filesystem::copy(std::filesystem::path(VARNOK_DATENORDNER) / "input", Wurzel_ / "input",
+                          std::filesystem::copy_options::overwrite_existing | std::filesystem::copy_options::recursive);
+    s_->lade_Voreinstellungen();
+    EXPECT_TRUE(s_->Stand().beendet);
+}
+
+}  // namespace
+}  // namespace varnok

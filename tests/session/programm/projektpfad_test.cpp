@@ -1,0 +1,207 @@
+// The project path of the options: what goes there at once, what only after the next start.
+
+#include <fstream>
+#include <utility>
+
+#include "records/einstellungen.h"
+#include "records/satz.h"
+#include "session/programm/optionsprobe.h"
+
+namespace varnok {
+namespace {
+
+constexpr const char* Vorgaben_fehlen = "Input files are missing. Should the default settings be loaded ";
+constexpr const char* Vorgaben_geladen =
+    "The default parameters have been loaded and VARNOK will now quit.\n"
+    "The settings become available after the next program call.";
+
+using Projektpfad = Optionsprobe;
+
+TEST_F(Projektpfad, a_new_project_path_gets_both_folders_and_the_selectors_stay) {
+    gestartet();
+    const auto Listen = s_->Stand().Listen;
+    waehle_Projekt("new");
+    EXPECT_TRUE(std::filesystem::is_directory(Wurzel_ / "new/output"));
+    EXPECT_TRUE(std::filesystem::is_directory(Wurzel_ / "new/input"));
+    EXPECT_EQ(Dateizahl("new/input"), 0U);
+    EXPECT_EQ(s_->Stand().Projektpfad, (Wurzel_ / "new").string());
+    EXPECT_EQ(s_->Stand().Listen, Listen);
+    EXPECT_FALSE(irgendetwas_geaendert());
+    EXPECT_NE(s_->Stand().Statuszeile.find((Wurzel_ / "new").string()), std::string::npos);
+}
+
+TEST_F(Projektpfad, folders_that_are_there_are_kept_in_whatever_case) {
+    gestartet();
+    std::filesystem::create_directories(Wurzel_ / "new/INPUT");
+    std::ofstream(Wurzel_ / "new/INPUT/kept.che") << "kept";
+    waehle_Projekt("new");
+    EXPECT_TRUE(gibt_es("new/INPUT/kept.che"));
+    EXPECT_FALSE(gibt_es("new/input"));
+    EXPECT_TRUE(gibt_es("new/output"));
+}
+
+TEST_F(Projektpfad, a_folder_that_cannot_be_made_is_not_reported) {
+    gestartet();
+    std::filesystem::create_directory(Wurzel_ / "new");
+    std::ofstream(Wurzel_ / "new/input") << "a file in the folder's place";
+    waehle_Projekt("new");
+    EXPECT_EQ(s_->Stand().Projektpfad, (Wurzel_ / "new").string());
+    EXPECT_FALSE(s_->Stand().abgedeckt);
+}
+
+TEST_F(Projektpfad, where_no_output_can_be_written_the_run_says_so_once_and_the_results_stand) {
+    gestartet();
+    std::filesystem::create_directory(Wurzel_ / "new");
+    std::ofstream(Wurzel_ / "new/output") << "a file in the folder's place";
+    Fragen_.erwarte("Runtime error", "Cannot make the folder \"" + (Wurzel_ / "new/output").string() + "\"");
+    waehle_Projekt("new");
+    EXPECT_FALSE(s_->Stand().abgedeckt);
+    bestaetige_unveraendert();
+    EXPECT_FALSE(s_->Stand().abgedeckt);
+}
+
+TEST_F(Projektpfad, output_goes_to_the_new_project_at_once) {
+    gestartet();
+    const std::string Reihe = "output/Detailed Results - Parent P.tab";
+    ASSERT_TRUE(gibt_es(Reihe));
+    std::filesystem::remove_all(Wurzel_ / "output");
+    waehle_Projekt("new");
+    EXPECT_TRUE(gibt_es("new/" + Reihe));
+    s_->erstelle_Bericht();
+    EXPECT_TRUE(gibt_es("new/output/A trial.rtf"));
+    s_->zeige_Zusammenfassung();
+    EXPECT_TRUE(gibt_es("new/Diagram.txt"));
+    EXPECT_FALSE(gibt_es("output"));
+    EXPECT_FALSE(gibt_es("Diagram.txt"));
+}
+
+TEST_F(Projektpfad, records_climate_and_backup_stay_with_the_old_project) {
+    gestartet();
+    Laufparameter p = Parameter_;
+    p.Klimamodus = 1;
+    Eingabe e = Felder_;
+    e.Klimaszenario = "Temperate site";
+    std::filesystem::copy(std::filesystem::path(VARNOK_DATENORDNER) / "input/Temperate site.cli", Wurzel_ / "input");
+    Satz_schreiben(Projektordner(Wurzel_.string()), "Weather", Szenario, p, e);
+    nur_geladen().Starten();
+    waehle_Projekt("new");
+    s_->waehle_Satz(Szenario, 1);
+    EXPECT_EQ(s_->Stand().gewaehlt(Szenario), "Weather");
+    EXPECT_FALSE(s_->Stand().abgedeckt);
+    ASSERT_TRUE(tippe("S_DT50_0", "12"));
+    s_->Speichern();
+    EXPECT_EQ(Datei("input/Probe.vnk"), "A trial\r\nProbe\r\nProbe\r\nWeather\r\n");
+    Fragen_.erwarte("Delete record", "Do you really want to delete this record?", Knopf::Ja);
+    s_->loesche_Satz(Szenario);
+    EXPECT_FALSE(gibt_es("input/Weather.sce"));
+    EXPECT_TRUE(gibt_es("backup"));
+    EXPECT_FALSE(gibt_es("new/backup"));
+    EXPECT_EQ(Dateizahl("new/input"), 0U);
+}
+
+TEST_F(Projektpfad, the_settings_file_stays_beside_the_program_and_names_the_new_path) {
+    gestartet();
+    waehle_Projekt("new");
+    s_->Ende();
+    EXPECT_FALSE(gibt_es("new/VARNOK.ini"));
+    EXPECT_EQ(zerlege_Einstellungen(Datei("VARNOK.ini"))->Projektpfad, (Wurzel_ / "new").string());
+    EXPECT_EQ(Datei("input/Probe.vnk"), "A trial\r\nProbe\r\nProbe\r\nProbe\r\n");
+    EXPECT_EQ(Dateizahl("new/input"), 0U);
+}
+
+// A name that no code page has, as a folder may carry it.
+TEST_F(Projektpfad, any_name_of_a_folder_comes_back_from_the_settings_file) {
+    gestartet();
+    waehle_Projekt("Δ 土 µ");
+    s_->Ende();
+    EXPECT_EQ(zerlege_Einstellungen(Datei("VARNOK.ini"))->Projektpfad, (Wurzel_ / "Δ 土 µ").string());
+}
+
+TEST_F(Projektpfad, what_is_no_folder_is_refused_and_nothing_is_changed) {
+    gestartet();
+    const int Zeichnung = s_->Stand().Zeichnung;
+    const std::string hier = Wurzel_.string() + "/";
+    for (const std::string& Pfad : {hier + "no such folder", hier + "input/Probe.che", std::string()}) {
+        Optionsentwurf o = s_->oeffne_Optionen();
+        o.Einheit = 1;
+        o.Projektpfad = Pfad;
+        Fragen_.erwarte("Project path", "There is no folder \"" + Pfad + "\".");
+        EXPECT_FALSE(s_->uebernimm_Optionen(o));
+        s_->schliesse_Optionen();
+    }
+    EXPECT_EQ(s_->Stand().Parameter().Einheit, 0);
+    EXPECT_EQ(s_->Stand().Projektpfad, Wurzel_.string());
+    EXPECT_EQ(s_->Stand().Zeichnung, Zeichnung);
+}
+
+TEST_F(Projektpfad, a_folder_with_a_line_end_in_its_name_is_refused) {
+    std::filesystem::create_directory(Wurzel_ / "two\nlines");
+    EXPECT_EQ(Einwand_gegen_Projektpfad((Wurzel_ / "two\nlines").string()), "The name of the folder holds a line end.");
+    EXPECT_EQ(Einwand_gegen_Projektpfad(Wurzel_.string()), "");
+}
+
+TEST_F(Projektpfad, a_folder_is_made_where_it_is_asked_for) {
+    gestartet();
+    EXPECT_EQ(s_->lege_Ordner_an(Wurzel_.string(), "2026"), (Wurzel_ / "2026").string());
+    EXPECT_TRUE(std::filesystem::is_directory(Wurzel_ / "2026"));
+    EXPECT_EQ(s_->Stand().Projektpfad, Wurzel_.string());
+}
+
+TEST_F(Projektpfad, a_folder_that_cannot_be_made_by_its_button_is_told) {
+    gestartet();
+    const std::string hier = Wurzel_.string();
+    Fragen_.erwarte("Make folder", "\"a/b\" cannot be the name of a folder: it holds a slash")
+        .erwarte("Make folder", "\"\" cannot be the name of a folder: it is empty")
+        .erwarte("Make folder", "The folder \"" + hier + "/input\" already exists.")
+        .erwarte_Anfang("Make folder", "Cannot make the folder \"" + hier + "/VARNOK.ini/x\": ");
+    for (const auto& [darin, Name] : {std::pair(hier, "a/b"), {hier, ""}, {hier, "input"}, {hier + "/VARNOK.ini", "x"}}) {
+        EXPECT_FALSE(s_->lege_Ordner_an(darin, Name));
+    }
+    EXPECT_FALSE(gibt_es("a"));
+}
+
+// The whole way: another path, the end, the question of the empty project, its defaults, and the program on it.
+TEST_F(Projektpfad, the_next_start_is_in_the_new_project) {
+    gestartet();
+    waehle_Projekt("new");
+    s_->Ende();
+    ASSERT_TRUE(s_->Stand().beendet);
+
+    const Umgebung Welt{&Fragen_, Wurzel_.string(), VARNOK_DATENORDNER, '.'};
+    Fragen_.erwarte("Data file missing", Vorgaben_fehlen, Knopf::Ja).erwarte("Default settings", Vorgaben_geladen);
+    EXPECT_FALSE(Sitzung(Welt).starte());
+    EXPECT_FALSE(gibt_es("input/Programcheck.vnk"));
+    EXPECT_EQ(Datei("new/input/Programcheck.vnk"), "Programcheck\r\nProgramcheck\r\nProgramcheck\r\nProgramcheck\r\n");
+
+    Sitzung drittes(Welt);
+    EXPECT_TRUE(drittes.starte());
+    EXPECT_EQ(drittes.Stand().Projektpfad, (Wurzel_ / "new").string());
+    EXPECT_EQ(drittes.Stand().Listen[Wirkstoff], std::vector<std::string>{"Programcheck"});
+}
+
+TEST_F(Projektpfad, the_defaults_of_a_new_project_come_from_the_program_folder_too) {
+    for (const char* Name : {"Do not delete this file.chn", "Do not delete this file.apn", "Do not delete this file.scn"}) {
+        std::filesystem::copy(std::filesystem::path(VARNOK_DATENORDNER) / "input" / Name, Wurzel_ / "input");
+    }
+    gestartet();
+    waehle_Projekt("new");
+    s_->Ende();
+    Fragen_.erwarte("Data file missing", Vorgaben_fehlen, Knopf::Ja).erwarte("Default settings", Vorgaben_geladen);
+    EXPECT_FALSE(Sitzung({&Fragen_, Wurzel_.string(), "", '.'}).starte());
+    EXPECT_EQ(Datei("new/input/Programcheck.sce"), Datei("input/Do not delete this file.scn"));
+}
+
+TEST_F(Projektpfad, program_defaults_before_the_restart_go_to_the_project_of_the_selectors) {
+    gestartet();
+    waehle_Projekt("new");
+    std::filesystem::copy(std::filesystem::path(VARNOK_DATENORDNER) / "input", Wurzel_ / "input",
+                          std::filesystem::copy_options::overwrite_existing | std::filesystem::copy_options::recursive);
+    std::filesystem::remove(Wurzel_ / "input/Programcheck.vnk");
+    Fragen_.erwarte("Default settings", Vorgaben_geladen);
+    s_->lade_Voreinstellungen();
+    EXPECT_TRUE(gibt_es("input/Programcheck.vnk"));
+    EXPECT_EQ(Dateizahl("new/input"), 0U);
+}
+
+}  // namespace
+}  // namespace varnok

@@ -1,0 +1,104 @@
+#include <chrono>
+#include <fstream>
+
+#include "records/einstellungen.h"
+#include "records/satz.h"
+#include "records/simulation.h"
+#include "session/kern/probesitzung.h"
+
+namespace varnok {
+namespace {
+
+using Start = Probesitzung;
+
+constexpr const char* Einstellungsdatei = "VARNOK.ini";
+
+TEST_F(Start, without_a_settings_file_writes_one_with_the_defaults) {
+    nur_geladen();
+    const auto e = zerlege_Einstellungen(Datei(Einstellungsdatei));
+    ASSERT_TRUE(e);
+    EXPECT_EQ(e->TWA_Liste_EU, Einstellungen().TWA_Liste_EU);
+    EXPECT_EQ(e->Projektpfad, Wurzel_.string());
+}
+
+TEST_F(Start, with_settings_that_lack_the_project_path_uses_the_program_folder) {
+    std::string Bytes = Einstellungen_als_Bytes({});
+    Bytes.resize(Bytes.find("360") + 6);  // up to the line end of line 26
+    std::ofstream(Wurzel_ / Einstellungsdatei, std::ios::binary) << Bytes;
+    EXPECT_EQ(nur_geladen().Stand().Projektpfad, Wurzel_.string());
+}
+
+TEST_F(Start, with_garbage_in_the_settings_file_rewrites_it_from_the_defaults) {
+    std::ofstream(Wurzel_ / Einstellungsdatei, std::ios::binary) << "garbage\nmore\n";
+    nur_geladen();
+    EXPECT_TRUE(zerlege_Einstellungen(Datei(Einstellungsdatei)));
+}
+
+TEST_F(Start, with_a_project_path_that_is_gone_uses_the_program_folder_and_says_so) {
+    Einstellungen e;
+    e.Projektpfad = (Wurzel_ / "no such folder").string();
+    std::ofstream(Wurzel_ / Einstellungsdatei, std::ios::binary) << Einstellungen_als_Bytes(e);
+    nur_geladen();
+    EXPECT_EQ(s_->Stand().Projektpfad, Wurzel_.string());
+    EXPECT_NE(s_->Stand().Statuszeile.find("no such folder"), std::string::npos);
+}
+
+TEST_F(Start, without_a_simulation_offers_the_defaults_and_ends_on_no) {
+    std::filesystem::remove(Wurzel_ / "input/Probe.vnk");
+    Fragen_.erwarte("Data file missing", "Input files are missing. Should the default settings be loaded ", Knopf::Nein);
+    Sitzung s({&Fragen_, Wurzel_.string(), "", '.'});
+    EXPECT_FALSE(s.starte());
+    EXPECT_FALSE(gibt_es("input/Programcheck.vnk"));
+}
+
+TEST_F(Start, without_a_simulation_restores_the_defaults_on_yes_and_ends) {
+    std::filesystem::remove(Wurzel_ / "input/Probe.vnk");
+    Fragen_.erwarte("Data file missing", "Input files are missing. Should the default settings be loaded ", Knopf::Ja)
+        .erwarte("Default settings",
+                 "The default parameters have been loaded and VARNOK will now quit.\n"
+                 "The settings become available after the next program call.");
+    Sitzung s({&Fragen_, Wurzel_.string(), VARNOK_DATENORDNER, '.'});
+    EXPECT_FALSE(s.starte());
+    EXPECT_TRUE(gibt_es("input/Programcheck.che"));
+    EXPECT_EQ(Datei("input/Programcheck.vnk"), "Programcheck\r\nProgramcheck\r\nProgramcheck\r\nProgramcheck\r\n");
+}
+
+TEST_F(Start, with_a_missing_record_asks_by_the_name_without_extension) {
+    std::filesystem::remove(Wurzel_ / "input/Probe.sce");
+    Fragen_.erwarte("Data file missing", "File Probe is missing. Should the default settings be loaded ", Knopf::Nein);
+    Sitzung s({&Fragen_, Wurzel_.string(), "", '.'});
+    EXPECT_FALSE(s.starte());
+}
+
+TEST_F(Start, with_a_short_summary_tells_and_takes_the_next_newest) {
+    std::ofstream(Wurzel_ / "input/Torn.vnk", std::ios::binary) << "only one line\r\n";
+    const auto spaeter = std::filesystem::last_write_time(Wurzel_ / "input/Probe.vnk") + std::chrono::seconds(5);
+    std::filesystem::last_write_time(Wurzel_ / "input/Torn.vnk", spaeter);
+    Fragen_.erwarte("Runtime error", "File Torn.vnk, line 2: the file ends before the name of the compound record");
+    EXPECT_EQ(nur_geladen().Stand().Felder().Aktuelle_Dateinamen[0], "Probe");
+}
+
+TEST_F(Start, before_ok_nothing_is_computed) {
+    nur_geladen();
+    EXPECT_FALSE(s_->Stand().Gestartet);
+    EXPECT_EQ(Maximum(), 0.0F);
+    s_->Aktualisieren();
+    EXPECT_EQ(Maximum(), 0.0F);
+}
+
+TEST_F(Start, ok_makes_the_first_run_and_leaves_no_mark) {
+    gestartet();
+    EXPECT_FLOAT_EQ(Maximum(), 1.3333334F);  // 1000 g/ha in 5 cm of 1.5 kg/L
+    EXPECT_FALSE(s_->Stand().abgedeckt);
+    EXPECT_FALSE(s_->Stand().Hinweis);
+    for (const bool g : s_->Stand().Geaendert) EXPECT_FALSE(g);
+}
+
+TEST_F(Start, shows_the_scheme_of_the_record) {
+    Felder_.Berechnungsmodus = 2;
+    schreibe_Probe();
+    EXPECT_EQ(nur_geladen().Stand().Felder().Berechnungsmodus, 2);
+}
+
+}  // namespace
+}  // namespace varnok

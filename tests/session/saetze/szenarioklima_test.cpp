@@ -1,0 +1,264 @@
+// The scenario editor without its window: temperature, climate files, and what a missing file leads to.
+
+#include "session/saetze/szenarioprobe.h"
+
+namespace varnok {
+namespace {
+
+TEST_F(Szenarioprobe, another_temperature_alone_starts_no_run_and_shows_the_hint) {
+    gestartet();
+    const int Laeufe = s_->Stand().Zeichnung;
+    offen().waehle_Temperatur(10);
+    fertig();
+    EXPECT_EQ(p().Szenariotemperatur, 10);
+    EXPECT_EQ(s_->Stand().Felder().Klimaszenario,
+              "10 \xC2\xB0"
+              "C constant");
+    EXPECT_EQ(s_->Stand().Zeichnung, Laeufe);
+    EXPECT_TRUE(s_->Stand().Hinweis);
+    EXPECT_FALSE(s_->Stand().Geaendert[3]);
+}
+
+TEST_F(Szenarioprobe, a_chosen_climate_file_marks_the_scenario_and_runs) {
+    klimadatei("Site A");
+    klimadatei("Site B");
+    gestartet();
+    const int Laeufe = s_->Stand().Zeichnung;
+    Szenarioeditor& e = offen();
+    EXPECT_EQ(Entwurf().Klima, 1);  // none is equal: the search ends at the last entry
+    e.waehle_Klimabedingungen(1);
+    e.waehle_Klimaszenario(0);
+    fertig();
+    EXPECT_EQ(p().Klimamodus, 1);
+    EXPECT_EQ(s_->Stand().Felder().Klimaszenario, "Site A");
+    EXPECT_TRUE(s_->Stand().Geaendert[3]);
+    EXPECT_EQ(s_->Stand().Zeichnung, Laeufe + 1);
+}
+
+TEST_F(Szenarioprobe, a_preselected_climate_file_is_stored_with_the_variable_mode_only_and_marks_nothing) {
+    klimadatei("Site A");
+    gestartet();
+    offen();
+    fertig();
+    EXPECT_EQ(s_->Stand().Felder().Klimaszenario,
+              "20 \xC2\xB0"
+              "C constant");
+    offen().waehle_Klimabedingungen(1);
+    fertig();
+    EXPECT_EQ(s_->Stand().Felder().Klimaszenario, "Site A");
+    EXPECT_FALSE(s_->Stand().Geaendert[3]);
+    EXPECT_TRUE(s_->Stand().Hinweis);
+}
+
+TEST_F(Szenarioprobe, without_a_climate_file_the_variable_mode_cannot_be_chosen) {
+    offen();
+    EXPECT_FALSE(s_->Editor().darf_variabel());
+    klimadatei("Site A");
+    offen();
+    EXPECT_TRUE(s_->Editor().darf_variabel());
+}
+
+TEST_F(Szenarioprobe, a_missing_climate_file_asks_for_the_editor_once_and_done_runs_anew) {
+    Parameter_.Klimamodus = 1;
+    Felder_.Klimaszenario = "gone";
+    schreibe_Probe();
+    klimadatei("Site A");
+    Fragen_.erwarte_Anfang("Data file missing", "");
+    gestartet();
+    EXPECT_TRUE(s_->Stand().Szenarioeditor_faellig);
+    EXPECT_TRUE(s_->Stand().abgedeckt);
+    const int Laeufe = s_->Stand().Zeichnung;
+    offen();
+    EXPECT_FALSE(s_->Stand().Szenarioeditor_faellig);
+    abgebrochen();
+    EXPECT_TRUE(s_->Stand().abgedeckt);
+    offen().waehle_Klimabedingungen(0);
+    fertig();
+    EXPECT_EQ(s_->Stand().Zeichnung, Laeufe + 1);
+    EXPECT_FALSE(s_->Stand().abgedeckt);
+}
+
+TEST_F(Szenarioprobe, mode_and_temperature_together_still_start_no_run) {
+    klimadatei("Site A");
+    gestartet();
+    const int Laeufe = s_->Stand().Zeichnung;
+    Szenarioeditor& e = offen();
+    e.waehle_Temperatur(7);
+    e.waehle_Klimabedingungen(1);
+    fertig();
+    EXPECT_EQ(s_->Stand().Zeichnung, Laeufe);
+    EXPECT_TRUE(s_->Stand().Hinweis);
+    EXPECT_FALSE(s_->Stand().Geaendert[3]);
+    EXPECT_FALSE(s_->Stand().abgedeckt);
+    s_->Aktualisieren();
+    EXPECT_EQ(s_->Stand().Zeichnung, Laeufe + 1);
+    EXPECT_FALSE(s_->Stand().Hinweis);
+}
+
+// Under variable climate no day has the scenario's temperature.
+TEST_F(Szenarioprobe, the_temperature_of_a_variable_climate_is_kept_and_makes_nothing_stale) {
+    klimadatei("Site A");
+    Parameter_.Klimamodus = 1;
+    Felder_.Klimaszenario = "Site A";
+    schreibe_Probe();
+    gestartet();
+    Szenarioeditor& e = offen();
+    e.waehle_Klimabedingungen(0);
+    e.waehle_Temperatur(7);
+    e.waehle_Klimabedingungen(1);
+    fertig();
+    EXPECT_EQ(p().Szenariotemperatur, 7);
+    EXPECT_EQ(s_->Stand().Felder().Klimaszenario, "Site A");
+    EXPECT_FALSE(s_->Stand().Hinweis);
+}
+
+// All six studies of the summary are calculated with the new temperature.
+TEST_F(Szenarioprobe, the_next_run_in_the_summary_uses_the_new_temperature_for_every_study) {
+    Parameter_.Q10 = fuer_alle(2.0);
+    schreibe_Probe();
+    gestartet();
+    s_->zeige_Zusammenfassung();
+    offen().waehle_Temperatur(0);
+    fertig();
+    EXPECT_FALSE(s_->Stand().gueltig[0]);
+    EXPECT_FALSE(s_->Stand().gueltig[1]);
+    s_->Aktualisieren();
+    EXPECT_TRUE(s_->Stand().gueltig[0]);
+    EXPECT_TRUE(s_->Stand().gueltig[1]);
+}
+
+TEST_F(Szenarioprobe, the_same_climate_file_chosen_again_changes_nothing) {
+    klimadatei("Site A");
+    klimadatei("Site B");
+    Parameter_.Klimamodus = 1;
+    Felder_.Klimaszenario = "Site A";
+    schreibe_Probe();
+    gestartet();
+    const int Laeufe = s_->Stand().Zeichnung;
+    Szenarioeditor& e = offen();
+    EXPECT_EQ(Entwurf().Klima, 0);
+    e.waehle_Klimaszenario(1);
+    e.waehle_Klimaszenario(0);
+    fertig();
+    EXPECT_FALSE(s_->Stand().Geaendert[3]);
+    EXPECT_EQ(s_->Stand().Zeichnung, Laeufe);
+}
+
+TEST_F(Szenarioprobe, a_climate_file_chosen_and_not_used_changes_nothing) {
+    klimadatei("Site A");
+    klimadatei("Site B");
+    gestartet();
+    const int Laeufe = s_->Stand().Zeichnung;
+    Szenarioeditor& e = offen();
+    e.waehle_Klimabedingungen(1);
+    e.waehle_Klimaszenario(0);
+    e.waehle_Klimabedingungen(0);
+    fertig();
+    EXPECT_FALSE(s_->Stand().Geaendert[3]);
+    EXPECT_FALSE(s_->Stand().Hinweis);
+    EXPECT_EQ(s_->Stand().Zeichnung, Laeufe);
+    EXPECT_EQ(s_->Stand().Felder().Klimaszenario,
+              "20 \xC2\xB0"
+              "C constant");
+}
+
+// Files are opened without regard to case, so this one is in use.
+TEST_F(Szenarioprobe, a_climate_file_named_in_another_case_is_the_one_selected_and_stays) {
+    klimadatei("Site A");
+    klimadatei("Site B");
+    Parameter_.Klimamodus = 1;
+    Felder_.Klimaszenario = "site a";
+    schreibe_Probe();
+    gestartet();
+    const int Laeufe = s_->Stand().Zeichnung;
+    offen();
+    EXPECT_EQ(Entwurf().Klima, 0);
+    fertig();
+    EXPECT_EQ(s_->Stand().Felder().Klimaszenario, "site a");
+    EXPECT_EQ(s_->Stand().Zeichnung, Laeufe);
+}
+
+// The editor shows the last file where the one of the record is gone: "Done" takes it, and the results follow.
+TEST_F(Szenarioprobe, done_after_a_missing_climate_file_takes_the_file_on_display_and_runs_once) {
+    ohne_Klimadatei();
+    klimadatei("Site A");
+    klimadatei("Site B");
+    gestartet_mit_Meldung();
+    const int Laeufe = s_->Stand().Zeichnung;
+    offen();
+    EXPECT_EQ(Entwurf().Klima, 1);
+    fertig();
+    EXPECT_EQ(s_->Stand().Felder().Klimaszenario, "Site B");
+    EXPECT_FALSE(s_->Stand().Geaendert[3]);  // preselected, not chosen
+    EXPECT_EQ(s_->Stand().Zeichnung, Laeufe + 1);
+    EXPECT_FALSE(s_->Stand().abgedeckt);
+}
+
+TEST_F(Szenarioprobe, cancel_after_a_missing_climate_file_does_not_repeat_the_run) {
+    ohne_Klimadatei();
+    klimadatei("Site A");
+    gestartet_mit_Meldung();
+    const int Laeufe = s_->Stand().Zeichnung;
+    offen().waehle_Klimabedingungen(0);
+    abgebrochen();
+    EXPECT_EQ(s_->Stand().Zeichnung, Laeufe);
+    EXPECT_TRUE(s_->Stand().abgedeckt);
+    EXPECT_FALSE(s_->Stand().Szenarioeditor_faellig);
+    EXPECT_EQ(s_->Stand().Felder().Klimaszenario, "gone");
+}
+
+// Neither a file nor a name to put in its place: no run, and the name is not lost.
+TEST_F(Szenarioprobe, done_without_any_climate_file_keeps_the_name_and_runs_nothing) {
+    ohne_Klimadatei();
+    gestartet_mit_Meldung();
+    offen();
+    EXPECT_TRUE(s_->Editor().darf_variabel());
+    EXPECT_EQ(Entwurf().Klima, -1);
+    s_->Editor().waehle_Klimabedingungen(0);
+    EXPECT_TRUE(s_->Editor().darf_variabel());  // back to what the record says
+    s_->Editor().waehle_Klimabedingungen(1);
+    fertig();
+    EXPECT_EQ(s_->Stand().Felder().Klimaszenario, "gone");
+    EXPECT_TRUE(s_->Stand().abgedeckt);
+}
+
+TEST_F(Szenarioprobe, a_run_of_the_editor_that_fails_again_does_not_open_it_again) {
+    ohne_Klimadatei();
+    klimadatei("Site A");
+    gestartet_mit_Meldung();
+    offen();
+    std::filesystem::remove(Wurzel_ / "input/Site A.cli");
+    Fragen_.erwarte("Data file missing", "Cannot load climate data file. Please correct!");
+    fertig();
+    EXPECT_FALSE(s_->Stand().Szenarioeditor_faellig);
+    EXPECT_TRUE(s_->Stand().abgedeckt);
+}
+
+// The field is still in work after its Enter key; opening the editor must not run its dose a second time.
+TEST_F(Szenarioprobe, a_field_in_work_is_not_told_twice_of_the_missing_file) {
+    ohne_Klimadatei();
+    gestartet_mit_Meldung();
+    offen();
+    abgebrochen();
+    const int f = Feld("Applikationsrate");
+    s_->betrete_Feld(f);
+    s_->aendere_Feld(f, "700");
+    Fragen_.erwarte("Data file missing", "Cannot load climate data file. Please correct!");
+    s_->bestaetige_Feld(f);
+    EXPECT_TRUE(s_->Stand().Szenarioeditor_faellig);
+    offen();
+    abgebrochen();
+}
+
+TEST_F(Szenarioprobe, an_invalid_field_keeps_the_editor_closed) {
+    gestartet();
+    const int f = Feld("S_Q10_0");
+    s_->betrete_Feld(f);
+    s_->aendere_Feld(f, "0");
+    Fragen_.erwarte_Anfang("No valid input!", "");
+    EXPECT_FALSE(s_->oeffne_Szenarioeditor());
+    EXPECT_EQ(s_->aktives_Feld(), f);
+}
+
+}  // namespace
+}  // namespace varnok

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <algorithm>
+#include <chrono>
+#include <fstream>
+#include <string>
+
+#include "records/satz.h"
+#include "records/simulation.h"
+#include "session/kern/probesitzung.h"
+
+namespace varnok {
+
+// The scenario editor on a session of its own.
+class Szenarioprobe : public Probesitzung {
+protected:
+    Szenarioeditor& offen() {
+        if (!s_) gestartet();
+        EXPECT_TRUE(s_->oeffne_Szenarioeditor());
+        return s_->Editor();
+    }
+    const Szenarioentwurf& Entwurf() { return s_->Editor().Entwurf(); }
+    const Laufparameter& p() const { return s_->Stand().Parameter(); }
+    // "Done", and what follows when the dialog has closed.
+    void fertig() {
+        s_->uebernimm_Szenario();
+        s_->schliesse_Szenarioeditor();
+    }
+    void abgebrochen() {
+        s_->Editor().verwirf();
+        s_->schliesse_Szenarioeditor();
+    }
+
+    void klimadatei(const std::string& Name) {
+        std::ofstream Strom(Wurzel_ / "input" / (Name + ".cli"), std::ios::binary);
+        Strom << "Header\r\n";
+        for (int Tag = 1; Tag <= 365; ++Tag) Strom << "1988001       1.0       2.0                20.0\r\n";
+    }
+    // The record names a climate file that is not there.
+    void ohne_Klimadatei() {
+        Parameter_.Klimamodus = 1;
+        Felder_.Klimaszenario = "gone";
+        schreibe_Probe();
+    }
+    void gestartet_mit_Meldung() {
+        Fragen_.erwarte("Data file missing", "Cannot load climate data file. Please correct!");
+        gestartet();
+        ASSERT_TRUE(s_->Stand().Szenarioeditor_faellig);
+    }
+    // A simulation that names a scenario that is not there.
+    void ohne_Szenario_geladen() {
+        schreibe_Simulation(Projektordner(Wurzel_.string()), "Torn", {"Torn", {"", "Probe", "Probe", "gone"}});
+        const auto Pfad = Wurzel_ / "input/Torn.vnk";
+        std::filesystem::last_write_time(Pfad, std::filesystem::last_write_time(Pfad) - std::chrono::hours(1));
+        gestartet();
+        const auto& Liste = s_->Stand().Listen[0];
+        s_->waehle_Simulation(static_cast<int>(std::find(Liste.begin(), Liste.end(), "Torn") - Liste.begin()));
+        ASSERT_EQ(s_->Stand().Auswahl[3], -1);
+    }
+    void zweites_Szenario() {
+        Laufparameter andere = Parameter_;
+        andere.Bodendichte = 1.1;
+        Satz_schreiben(Projektordner(Wurzel_.string()), "Another", Szenario, andere, Felder_);
+    }
+};
+
+}  // namespace varnok

@@ -1,0 +1,180 @@
+// The report over the results.
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QFile>
+#include <QMimeData>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTextEdit>
+
+#include "window/ergebnis/diagrammprobe.h"
+#include "window/kern/anmeldung.h"
+#include "window/kern/mitschrift.h"
+
+using namespace Qt::StringLiterals;
+
+namespace varnok {
+
+class Berichtstest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() {
+        p_ = std::make_unique<Fensterprobe>(&Fragen_);
+        p_->starte();
+        Fragen_.vergiss();
+    }
+    void cleanup() { p_.reset(); }
+
+    void the_button_shows_it_names_its_file_and_enables_print() {
+        QVERIFY(!p_->Teil<QAction>("M_Drucken")->isEnabled());
+        p_->klicke("Bericht_erstellen");
+        QVERIFY(p_->sichtbar("Bericht"));
+        QVERIFY(p_->Teil<QTextEdit>("Bericht")->toPlainText().contains(u"RESULTS OF THE CALCULATION"_s));
+        QVERIFY(!p_->Programm().Stand().Ergebnisdatei.empty());
+        QVERIFY(p_->Teil<QAction>("M_Drucken")->isEnabled());
+    }
+
+    void the_menu_runs_the_same_command() {
+        p_->Teil<QAction>("M_Bericht")->trigger();
+        QVERIFY(p_->sichtbar("Bericht"));
+    }
+
+    void esc_closes_it() {
+        p_->klicke("Bericht_erstellen");
+        QTest::keyClick(p_->Teil<QTextEdit>("Bericht"), Qt::Key_Escape);
+        QTRY_VERIFY(!p_->sichtbar("Bericht"));
+        QVERIFY(!p_->Teil<QAction>("M_Drucken")->isEnabled());
+    }
+
+    void the_focus_of_another_control_closes_it() {
+        p_->klicke("Bericht_erstellen");
+        p_->Teil<QWidget>("S_DT50_0")->setFocus(Qt::MouseFocusReason);
+        QTRY_VERIFY(!p_->sichtbar("Bericht"));
+    }
+
+    void it_is_copied_as_rich_text() {
+        p_->klicke("Bericht_erstellen");
+        p_->klicke("Bericht_kopieren");
+        QVERIFY(QApplication::clipboard()->mimeData()->data(u"text/rtf"_s).startsWith("{\\rtf1"));
+    }
+
+    void print_writes_the_pages_of_the_report() {
+        p_->klicke("Bericht_erstellen");
+        const QString PDF = drucke([](QPrintDialog& d) { QVERIFY(!d.testOption(QAbstractPrintDialog::PrintPageRange)); });
+        QVERIFY(QFile::exists(PDF));
+        QVERIFY(p_->sichtbar("Bericht"));
+        QCOMPARE(Fragen_.nimm(), QStringList());
+        const QString Text = Inhalt_von(PDF);
+        if (Text.isEmpty()) QSKIP("pdftotext is not installed");
+        for (const QString& s :
+             {u"PROGRAM SETTINGS"_s, u"RESULTS OF THE CALCULATION"_s, u"GRAPHIC REPRESENTATION OF THE CALCULATION"_s,
+              u"Time after first application (d)"_s, u"page 1 of "_s})
+            QVERIFY2(Text.contains(s), qPrintable(s));
+    }
+
+    // With something selected the dialog starts on it, and nothing else is printed.
+    void print_of_a_selection_is_that_selection() {
+        p_->klicke("Bericht_erstellen");
+        QVERIFY(p_->Teil<QTextEdit>("Bericht")->find(u"SCENARIO DATA USED IN THE CALCULATION"_s));
+        bool angeboten = false;
+        const QString PDF = drucke([&](QPrintDialog& d) {
+            angeboten = d.testOption(QAbstractPrintDialog::PrintSelection) && d.printRange() == QAbstractPrintDialog::Selection;
+        });
+        QVERIFY(angeboten);
+        const QString Text = Inhalt_von(PDF);
+        if (Text.isEmpty()) QSKIP("pdftotext is not installed");
+        QVERIFY(Text.contains(u"SCENARIO DATA USED IN THE CALCULATION"_s));
+        QVERIFY(Text.contains(u"page 1 of 1"_s));
+        QVERIFY(!Text.contains(u"PROGRAM SETTINGS"_s));
+    }
+
+    void without_a_selection_none_is_offered() {
+        p_->klicke("Bericht_erstellen");
+        bool angeboten = true;
+        drucke([&](QPrintDialog& d) { angeboten = d.testOption(QAbstractPrintDialog::PrintSelection); });
+        QVERIFY(!angeboten);
+    }
+
+    void a_cancelled_print_ends_quietly() {
+        p_->klicke("Bericht_erstellen");
+        bei_Dialog<QPrintDialog>([](QPrintDialog& d) { d.reject(); });
+        p_->Teil<QAction>("M_Drucken")->trigger();
+        QCOMPARE(Fragen_.nimm(), QStringList());
+        QVERIFY(p_->sichtbar("Bericht"));
+        QVERIFY(p_->Teil<QAction>("M_Drucken")->isEnabled());
+    }
+
+    void a_print_that_fails_is_told() {
+        p_->klicke("Bericht_erstellen");
+        const QString PDF = drucke([](QPrintDialog&) {}, u"no such folder/report.pdf"_s);
+        QVERIFY(!QFile::exists(PDF));
+        QCOMPARE(Fragen_.nimm(), QStringList(u"Runtime error: The report could not be printed."_s));
+        QVERIFY(p_->sichtbar("Bericht"));
+    }
+
+    // Each has a document of its own, and the one before is gone.
+    void one_report_after_the_other_is_shown() {
+        auto* Ansicht = p_->Teil<QTextEdit>("Bericht");
+        for (const char* Simulation : {"Programcheck", "Vines, Compound D", "Potatoes, Compound C", "Programcheck"}) {
+            p_->waehle_Simulation(Simulation);
+            p_->klicke("Bericht_erstellen");
+            QVERIFY(Ansicht->toPlainText().contains(QString::fromStdString(p_->Programm().Stand().Felder().Beschreibung)));
+            p_->klicke("Bericht_erstellen");  // over the open one
+            QVERIFY(p_->sichtbar("Bericht"));
+            p_->klicke("Bericht_schliessen");
+            QVERIFY(Ansicht->toPlainText().isEmpty());
+        }
+        QCOMPARE(Ansicht->findChildren<QTextDocument*>().size(), 1);
+    }
+
+    void print_is_enabled_while_a_report_is_shown() {
+        const auto* Drucken = p_->Teil<QAction>("M_Drucken");
+        QVERIFY(!Drucken->isEnabled());
+        for (int i = 0; i < 2; ++i) {
+            p_->klicke("Bericht_erstellen");
+            QVERIFY(Drucken->isEnabled());
+            p_->klicke("Bericht_schliessen");
+            QVERIFY(!Drucken->isEnabled());
+        }
+    }
+
+private:
+    // Prints into a file, as the dialog does where there is no printer.
+    template <class H>
+    QString drucke(H Handlung, const QString& Datei = u"report.pdf"_s) {
+        const QString PDF = Ordner_.filePath(Datei);
+        bei_Dialog<QPrintDialog>([&](QPrintDialog& d) {
+            Handlung(d);
+            d.printer()->setOutputFormat(QPrinter::PdfFormat);
+            d.printer()->setOutputFileName(PDF);
+            static_cast<QDialog&>(d).done(QDialog::Accepted);
+        });
+        p_->Teil<QAction>("M_Drucken")->trigger();
+        return PDF;
+    }
+
+    // Empty where no tool can read a PDF.
+    static QString Inhalt_von(const QString& PDF) {
+        QProcess p;
+        p.start(u"pdftotext"_s, {u"-layout"_s, PDF, u"-"_s});
+        return p.waitForFinished() ? QString::fromUtf8(p.readAllStandardOutput()).replace(u"ﬁ"_s, u"fi"_s) : QString();
+    }
+
+    QTemporaryDir Ordner_;
+    Mitschrift Fragen_;
+    std::unique_ptr<Fensterprobe> p_;
+};
+
+namespace {
+const Anmeldung<Berichtstest> angemeldet;
+}
+
+}  // namespace varnok
+
+#include "bericht_test.moc"

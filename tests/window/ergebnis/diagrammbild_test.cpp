@@ -1,0 +1,209 @@
+// The picture of a diagram: labels, curves, values read off it, and its way to other programs.
+
+#include <QAction>
+#include <QClipboard>
+#include <QDir>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QSvgRenderer>
+
+#include "painting/qt_text.h"
+#include "window/ergebnis/diagrammprobe.h"
+#include "window/kern/anmeldung.h"
+
+using namespace Qt::StringLiterals;
+using namespace varnok;
+
+class Diagrammbildtest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { p_ = std::make_unique<Diagrammprobe>(); }
+    void cleanup() { p_.reset(); }
+
+    void labels_stand_apart_on_the_surface_at_the_smallest_size_data() {
+        QTest::addColumn<QString>("Simulation");
+        QTest::addColumn<int>("Klicks");
+        for (const char* s : {"Programcheck", "Potatoes, Compound C", "Vines, Compound D", "Sugar beet, Compound E"}) {
+            for (const int n : {0, 3}) QTest::newRow((QByteArray(s) + char('0' + n)).constData()) << QString::fromLatin1(s) << n;
+        }
+    }
+    void labels_stand_apart_on_the_surface_at_the_smallest_size() {
+        QFETCH(QString, Simulation);
+        QFETCH(int, Klicks);
+        if (Simulation != u"Programcheck"_s) p_->waehle_Simulation(Simulation.toLatin1().constData());
+        p_->klicke_Diagramm(Klicks);
+        p_->Fenster().resize(p_->Fenster().minimumSize());
+        QTest::qWait(30);
+        QList<QRect> belegt;
+        for (const char* Name : {"Diagrammtitel_", "Diagrammkommentar_", "Name_x_Achse_", "Name_y_Achse_"}) {
+            const QString ganz = QString::fromLatin1(Name) + in_Qt(p_->vorn()->Satz());
+            auto* l = p_->Fenster().findChild<QLabel*>(ganz);
+            QVERIFY(l->isVisible());
+            QVERIFY(!l->text().isEmpty());
+            QVERIFY2(p_->vorn()->rect().contains(l->geometry()), qPrintable(ganz));
+            QVERIFY(l->fontMetrics().horizontalAdvance(l->text()) <= l->width());
+            for (const QRect& r : belegt) QVERIFY2(!r.intersects(l->geometry()), qPrintable(ganz));
+            belegt << l->geometry();
+        }
+    }
+
+    void a_label_that_is_too_long_has_its_text_as_tip() {
+        p_->waehle_Simulation("Sugar beet, Compound E");
+        p_->Fenster().resize(p_->Fenster().minimumSize());
+        QTest::qWait(30);
+        auto* l = p_->Teil<QLabel>("Diagrammtitel_8");
+        QVERIFY(l->text().contains(u'…'));
+        QVERIFY(l->toolTip().startsWith(u"Background concentration of "_s));
+        QVERIFY(l->toolTip().size() > l->text().size());
+    }
+
+    void the_picture_has_the_curves_of_its_compounds() {
+        QVERIFY(zaehle(p_->Bild(), Marineblau) > 200);
+        QCOMPARE(zaehle(p_->Bild(), Gruen), 0);
+        p_->waehle_Simulation("Potatoes, Compound C");
+        p_->klicke_Diagramm(2);
+        QVERIFY(zaehle(p_->Bild(), Marineblau) > 100);
+        QVERIFY(zaehle(p_->Bild(), Gruen) > 100);
+    }
+
+    // A study's peak lies where the table says it: 1.3333 mg/kg on the first day.
+    void the_mouse_reads_values_off_the_curve() {
+        auto* l = p_->Teil<QLabel>("Ablesung_0");
+        QVERIFY(!l->isVisible());
+        p_->Teil<QWidget>("Ergebnisrahmen_0")->hide();
+        QTest::mouseMove(p_->vorn(), Ort_des_Tages(0));
+        QTest::qWait(5);
+        QVERIFY(l->isVisible());
+        QVERIFY2(l->text().startsWith(u"day 0: 1.3333 mg/kg"_s), qPrintable(l->text()));
+        // At the peak's half-life half of it is left.
+        QTest::mouseMove(p_->vorn(), Ort_des_Tages(50));
+        QTest::qWait(5);
+        QVERIFY2(l->text().startsWith(u"day 50: 0.6667 mg/kg"_s), qPrintable(l->text()));
+        QVERIFY(p_->vorn()->rect().contains(l->geometry()));
+        QTest::mouseMove(p_->vorn(), QPoint(2, 2));
+        QTest::qWait(5);
+        QVERIFY(!l->isVisible());
+    }
+
+    void nothing_is_read_off_covered_results() {
+        p_->Teil<QWidget>("Ergebnisrahmen_0")->hide();
+        const QPoint Tag_60 = Ort_des_Tages(60);
+        QTest::mouseMove(p_->vorn(), Ort_des_Tages(50));
+        QTest::qWait(5);
+        QVERIFY(p_->sichtbar("Ablesung_0"));
+        p_->tippe("S_Q10_0", "0");
+        p_->Meldung_bei([&] { p_->druecke("S_Q10_0", Qt::Key_Tab); });
+        QVERIFY(p_->sichtbar("Abdeckung"));
+        QVERIFY(!p_->sichtbar("Ablesung_0"));
+        QTest::mouseMove(p_->vorn(), Tag_60);
+        QTest::qWait(5);
+        QVERIFY(!p_->sichtbar("Ablesung_0"));
+        for (const char* Name : {"M_Bild_kopieren", "M_Bild_PNG", "M_Bild_SVG", "M_Bild_PDF", "M_Rahmen_zeigen"})
+            QVERIFY(!p_->Teil<QAction>(Name)->isEnabled());
+    }
+
+    void the_copied_picture_is_pixels_and_drawing() {
+        p_->Teil<QAction>("M_Bild_kopieren")->trigger();
+        const QMimeData* Inhalt = QApplication::clipboard()->mimeData();
+        QVERIFY(Inhalt->hasImage());
+        QVERIFY(zaehle(qvariant_cast<QImage>(Inhalt->imageData()), Marineblau) > 500);
+        QVERIFY(QSvgRenderer(Inhalt->data(u"image/svg+xml"_s)).isValid());
+    }
+
+    void a_saved_png_has_the_resolution_chosen() {
+        const QString Pfad = speichere("M_Bild_PNG", u"curve.png"_s, 3);
+        const QImage Bild(Pfad);
+        QCOMPARE(Bild.size(), QSize(640, 500) * 600 / 96);
+        QCOMPARE(std::lround(Bild.dotsPerMeterX() * 0.0254), 600);
+        QVERIFY(zaehle(Bild, Marineblau) > 5000);
+    }
+
+    void a_saved_svg_holds_labels_and_legend() {
+        const QString Pfad = speichere("M_Bild_SVG", u"curve"_s, 0);
+        QVERIFY(Pfad.endsWith(u"curve.svg"_s));
+        QSvgRenderer Leser(Pfad);
+        QVERIFY(Leser.isValid());
+        QCOMPARE(Leser.viewBoxF(), QRectF(0, 0, 640, 500));
+        const QString Text = QString::fromUtf8(lies(Pfad));
+        for (const QString& s : {u"Annual concentration of"_s, u"Time after first application (d)"_s, u"c(mg/kg)"_s, u"PEC"_s})
+            QVERIFY2(Text.contains(s), qPrintable(s));
+        QVERIFY(Text.contains(u"#000080"_s));
+    }
+
+    void a_saved_pdf_is_one() {
+        const QByteArray Inhalt = lies(speichere("M_Bild_PDF", u"curve.pdf"_s, 0));
+        QVERIFY(Inhalt.startsWith("%PDF-"));
+        QVERIFY(Inhalt.trimmed().endsWith("%%EOF"));
+        // 640 x 500 pixels are 480 x 375 points.
+        QVERIFY(Inhalt.contains("/MediaBox [0 0 480"));
+    }
+
+    void a_picture_that_cannot_be_written_is_told() {
+        QTemporaryDir Ordner;
+        const QString Text = p_->Meldung_bei([&] {
+            bei_Dialog<QFileDialog>([&](QFileDialog& d) {
+                d.findChild<QLineEdit*>()->setText(Ordner.filePath(u"curve.svg"_s));
+                Ordner.remove();
+                static_cast<QDialog&>(d).done(QDialog::Accepted);
+            });
+            p_->Teil<QAction>("M_Bild_SVG")->trigger();
+        });
+        QVERIFY2(Text.contains(u"curve.svg"_s), qPrintable(Text));
+    }
+
+private:
+    static QByteArray lies(const QString& Pfad) {
+        QFile f(Pfad);
+        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+    }
+
+    // A place over the day of a diagram that ends on day 364. The time axis is found in the picture as the lowest long
+    // black line; the tick of the zero on the other axis makes it a fiftieth longer.
+    QPoint Ort_des_Tages(int Tag) {
+        const QImage b = p_->vorn()->grab().toImage();
+        const double Dichte = b.devicePixelRatio();
+        for (int y = b.height() - 1; y > b.height() / 2; --y) {
+            // Curves and windows touch the line here and there; the number beside the tick stands further off.
+            int links = -1, rechts = -1, Anzahl = 0;
+            for (int x = 0; x < b.width(); ++x) {
+                if (b.pixel(x, y) != 0xff000000) continue;
+                if (links < 0 || (Anzahl < 12 * Dichte && x - rechts > 3 * Dichte)) {
+                    links = x;
+                    Anzahl = 0;
+                }
+                rechts = x;
+                ++Anzahl;
+            }
+            if (Anzahl < b.width() / 2) continue;
+            const double Tageslaenge = (rechts - links) / 364.0 / 1.02;
+            return {static_cast<int>(std::lround((rechts - (364 - Tag) * Tageslaenge) / Dichte)),
+                    static_cast<int>(y / Dichte) - 40};
+        }
+        qFatal("no time axis");
+    }
+
+    // Through the file dialog, with its n-th file type.
+    QString speichere(const char* Befehl, const QString& Name, int Filter) {
+        Ordner_ = std::make_unique<QTemporaryDir>();
+        bei_Dialog<QFileDialog>([&](QFileDialog& d) {
+            d.selectNameFilter(d.nameFilters().at(Filter));
+            d.findChild<QLineEdit*>()->setText(Ordner_->filePath(Name));
+            QMetaObject::invokeMethod(&d, "accept");
+        });
+        p_->Teil<QAction>(Befehl)->trigger();
+        const QStringList da = QDir(Ordner_->path()).entryList(QDir::Files);
+        return da.isEmpty() ? QString() : Ordner_->filePath(da.front());
+    }
+
+    std::unique_ptr<QTemporaryDir> Ordner_;
+    std::unique_ptr<Diagrammprobe> p_;
+};
+
+namespace {
+const Anmeldung<Diagrammbildtest> angemeldet;
+}
+
+#include "diagrammbild_test.moc"
