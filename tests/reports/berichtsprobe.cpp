@@ -14,6 +14,7 @@ std::unique_ptr<Lauf> gerechnet(Lauf_bauer b) {
     b.Felder.Aktuelle_Dateinamen = {"simulation", "compound record", "pattern record", "scenario record"};
     if (b.Felder.Beschreibung.empty()) b.Felder.Beschreibung = "the problem";
     b.Felder.Bodenszenario = "loam";
+    if (b.Parameter.Klimamodus == 0) b.Felder.Klimaszenario = "20 °C constant";  // as reading a scenario sets it
     b.Parameter.Anzahl_Studien = static_cast<std::uint8_t>(b.Felder.Studie.size());
     auto l = std::make_unique<Lauf>(b.baue());
     const Klimaliste Quelle = b.Klima ? Klimaliste(*b.Klima) : Klimaliste();
