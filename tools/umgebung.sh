@@ -21,6 +21,9 @@ Pakete=(
 # the PDF and the rich text of a report.
 Testpakete=(clang-format xvfb xauth openbox x11-apps xdotool strace poppler-utils unrtf)
 
+# What only ./test.sh --deep needs.
+Pruefpakete=(clang-tidy)
+
 sage() { printf '%s\n' "$*" >&2; }
 
 # leise NAME BEFEHL...: runs a step in silence; its whole output follows when it fails.
@@ -76,11 +79,4 @@ baue() {
     fi
     sage "Building ..."
     leise bau cmake --build "$Bauordner" -j "$(nproc)" "${Ziele[@]}"
-}
-
-# Whether the build knows a target of that name.
-kennt_Ziel() {
-    local Liste
-    Liste=$(ninja -C "$Bauordner" -t targets all)
-    [[ $Liste == *$'\n'"$1:"* ]]
 }

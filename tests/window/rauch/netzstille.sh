@@ -34,6 +34,8 @@ chmod -R u+w "$projekt"
 export HOME=$ordner/heim XDG_CONFIG_HOME=$ordner/heim XDG_DATA_HOME=$ordner/heim XDG_CACHE_HOME=$ordner/heim
 export XDG_RUNTIME_DIR=$ordner/lauf QT_QPA_PLATFORM=xcb LC_ALL=C.UTF-8
 unset WAYLAND_DISPLAY QT_SCALE_FACTOR QT_STYLE_OVERRIDE
+# The search for leaks at the end is a tracer itself, and a program has one tracer.
+export ASAN_OPTIONS=${ASAN_OPTIONS:+$ASAN_OPTIONS:}detect_leaks=0
 
 pid_verwalter= pid_programm=
 raeume_auf() {
