@@ -38,7 +38,7 @@ public:
     explicit Arbeitsplatz(const char* Simulation) {
         std::filesystem::copy(VARNOK_DATENORDNER, Ordner_.path().toStdString(), std::filesystem::copy_options::recursive);
         Programm_ = std::make_unique<Sitzung>(Umgebung{&Antworten_, Ordner_.path().toStdString(), "", '.'});
-        Programm_->starte();
+        Programm_->oeffne_Projekt();
         Programm_->Starten();
         const auto& Namen = Programm_->Stand().Listen[0];
         Programm_->waehle_Simulation(static_cast<int>(std::find(Namen.begin(), Namen.end(), Simulation) - Namen.begin()));
@@ -80,7 +80,7 @@ void Neuzeichnen(benchmark::State& Zustand, const char* Simulation, bool Zusamme
     Arbeitsplatz a(Simulation);
     if (Zusammenfassung) a.Programm().zeige_Zusammenfassung();
     int i = 0;
-    for (auto _ : Zustand) a.Programm().waehle_Endpunkt(++i % 2);
+    for (auto _ : Zustand) a.Programm().waehle_Endpunkt(++i % 2 == 0 ? Gesamtgehalt : Porenwasser);
 }
 
 BENCHMARK_CAPTURE(Neuzeichnen, three_compounds, "Sugar beet, Compound E", false)->Unit(benchmark::kMillisecond);

@@ -27,7 +27,7 @@ public:
 
 std::unique_ptr<Lauf> gewoehnlicher_Lauf() {
     auto l = std::make_unique<Lauf>();
-    Laufparameter& p = l->Parameter;
+    Laufparameter& p = l->Felder.Parameter;
     p.Bodendichte = 1.5;
     p.Bodentiefe = 5;
     p.Plateautiefe = 20;
@@ -38,18 +38,17 @@ std::unique_ptr<Lauf> gewoehnlicher_Lauf() {
     p.Q10 = fuer_alle(2.58);
     p.Walker = fuer_alle(0.7);
     l->Felder.Studie = {"Field study"};
-    uebernehme_TWA_Liste(*l);
     return l;
 }
 
 // Twenty applications a year, each with a slot of its own over ten years, and two metabolites.
 std::unique_ptr<Lauf> schlimmster_Lauf(int Kinetik, int Klimamodus, double DT50) {
     auto l = gewoehnlicher_Lauf();
-    Laufparameter& p = l->Parameter;
+    Laufparameter& p = l->Felder.Parameter;
     p.Separate_Rueckstaende = 1;
     p.Klimamodus = static_cast<std::uint8_t>(Klimamodus);
-    p.Kinetik[0] = ueberall(static_cast<double>(Kinetik));
-    p.Kinetik[1] = p.Kinetik[2] = ueberall(static_cast<double>(DFOP));
+    p.Kinetik[0] = ueberall(static_cast<Kinetikart>(Kinetik));
+    p.Kinetik[1] = p.Kinetik[2] = ueberall(DFOP);
     const double k = std::log(2.0) / DT50;
     p.k_SFO = fuer_alle(k);
     p.k1_DFOP = fuer_alle(3 * k);
@@ -60,7 +59,7 @@ std::unique_ptr<Lauf> schlimmster_Lauf(int Kinetik, int Klimamodus, double DT50)
     p.k2_HS = ueberall(k / 3);
     Eingabe& e = l->Felder;
     e.Applikationsmuster = regelmaessig;
-    e.Berechnungsmodus = 2;
+    e.Berechnungsmodus = zwei_parallel;
     e.Molmasse_Wirkstoff = "300";
     e.Molmasse_Met_1 = "200";
     e.Molmasse_Met_2 = "150";

@@ -20,18 +20,18 @@ inline void fordere(bool erfuellt) {
 
 // A record that was read is written as bytes that read and write the same again, unless it holds a
 // text that no record can hold (a tab, too long with its numbers written out).
-inline void pruefe_Rundgang(Satzart Art, const Laufparameter& Parameter, const Eingabe& Felder, char Dezimalzeichen) {
+inline void pruefe_Rundgang(Satzart Art, const Eingabe& Felder, const Ansicht& Sicht, char Dezimalzeichen) {
     std::string Bytes;
     try {
-        Bytes = Satz_als_Bytes(Art, Parameter, Felder, Dezimalzeichen);
+        Bytes = Satz_als_Bytes(Art, Felder, Sicht, Dezimalzeichen);
     } catch (const Laufzeitfehler&) {
         return;
     }
-    Laufparameter p;
     Eingabe e;
-    const Lesebefund b = Satz_lesen_aus(Bytes, "written", Art, p, e, Dezimalzeichen);
+    Ansicht a;
+    const Lesebefund b = Satz_lesen_aus(Bytes, "written", Art, e, a, Dezimalzeichen);
     fordere(b.Ausgang == Leseausgang::gelesen);
-    fordere(Satz_als_Bytes(Art, p, e, Dezimalzeichen) == Bytes);
+    fordere(Satz_als_Bytes(Art, e, a, Dezimalzeichen) == Bytes);
 }
 
 // The first byte chooses the kind of record and the decimal separator.
@@ -40,14 +40,14 @@ inline void pruefe_Satz(const std::string& Eingang) {
     const auto Wahl = static_cast<unsigned char>(Eingang.front());
     const auto Art = static_cast<Satzart>(Wirkstoff + Wahl % 3);
     const char Dezimalzeichen = Wahl % 2 ? ',' : '.';
-    Laufparameter p;
     Eingabe e;
+    Ansicht a;
     try {
-        const Lesebefund b = Satz_lesen_aus(Eingang.substr(1), "input", Art, p, e, Dezimalzeichen);
+        const Lesebefund b = Satz_lesen_aus(Eingang.substr(1), "input", Art, e, a, Dezimalzeichen);
         fordere(b.Ausgang != Leseausgang::fehlt);
-        if (b.Ausgang == Leseausgang::gelesen) pruefe_Rundgang(Art, p, e, Dezimalzeichen);
+        if (b.Ausgang == Leseausgang::gelesen) pruefe_Rundgang(Art, e, a, Dezimalzeichen);
     } catch (const Laufzeitfehler&) {
-        fordere(Art == Wirkstoff && p == Laufparameter{} && e == Eingabe{});
+        fordere(Art == Wirkstoff && e == Eingabe{} && a == Ansicht{});
     }
 }
 

@@ -2,18 +2,34 @@
 
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 namespace varnok {
+
+// Where a fault lies, as far as it is known where it was found. The reader of a record knows file and line, a calculation the
+// store at fault with its study and compound.
+struct Fehlerort {
+    std::string Datei = {};  // with its ending, empty without one
+    int Zeile = 0;           // counted from 1, 0 without one
+    std::string Feld = {};   // name of the store, e.g. "Bodendichte"
+    int i_studie = -1;       // counted from 0, -1 where the fault concerns no study
+    int i_substanz = -1;     // 0 parent, -1 where it concerns no compound
+};
 
 // The one exception of the program: input or a file that makes going on impossible. The text names
 // the file, the line or the input, and what is wrong with it; it is shown to the user as it stands.
 class Laufzeitfehler : public std::runtime_error {
 public:
-    using std::runtime_error::runtime_error;
+    explicit Laufzeitfehler(const std::string& Text, Fehlerort Ort = {}) : std::runtime_error(Text), Ort_(std::move(Ort)) {}
+
+    const Fehlerort& Ort() const { return Ort_; }
+
+private:
+    Fehlerort Ort_;
 };
 
 // Input that makes the arithmetic impossible, such as a soil density of 0. `Eingabewert` names the
 // value at fault, e.g. "Soil density (kg/L) = 0".
-[[noreturn]] void melde_unmoegliche_Rechnung(const std::string& Eingabewert);
+[[noreturn]] void melde_unmoegliche_Rechnung(const std::string& Eingabewert, Fehlerort Ort = {});
 
 }  // namespace varnok

@@ -146,6 +146,8 @@ bool ist_Zahl_oder_leer(std::string_view Text) {
 std::string allgemeine_Zahl(double Zahl, char Dezimalzeichen) { return allgemein(Zahl, 15, Dezimalzeichen); }
 std::string allgemeine_Zahl(float Zahl, char Dezimalzeichen) { return allgemein(Zahl, 7, Dezimalzeichen); }
 
+double wie_im_Satz(double Zahl) { return std::isfinite(Zahl) ? Wert(allgemeine_Zahl(Zahl)) : Zahl; }
+
 std::string gekuerzte_Zahl(double Zahl, int Stellen, char Dezimalzeichen) { return allgemein(Zahl, Stellen, Dezimalzeichen); }
 
 std::string feste_Zahl(double Zahl, int Nachkommastellen, char Dezimalzeichen) {
@@ -170,6 +172,8 @@ std::string feste_Zahl(double Zahl, int Nachkommastellen, char Dezimalzeichen) {
     if (Nachkommastellen > 0) Text += Dezimalzeichen + Ziffern.substr(Vorkommastellen);
     return Text;
 }
+
+double gerundet(double Zahl, int Nachkommastellen) { return lies(feste_Zahl(Zahl, Nachkommastellen)); }
 
 std::string genaue_Zahl(float Zahl) { return genau(Zahl); }
 std::string genaue_Zahl(double Zahl) { return genau(Zahl); }

@@ -28,9 +28,15 @@ std::string allgemeine_Zahl(float Zahl, char Dezimalzeichen = '.');
 // The same form with at most `Stellen` significant digits, 1 to 15.
 std::string gekuerzte_Zahl(double Zahl, int Stellen, char Dezimalzeichen = '.');
 
+// The number that a record holding `allgemeine_Zahl(Zahl)` gives back.
+double wie_im_Satz(double Zahl);
+
 // A fixed number of places behind the point, as the patterns "0", "0.0", "0.0000" write it: the
 // decimal text of the value (15 significant digits) is rounded half away from zero.
 std::string feste_Zahl(double Zahl, int Nachkommastellen, char Dezimalzeichen = '.');
+
+// The number that this text shows.
+double gerundet(double Zahl, int Nachkommastellen);
 
 // The shortest text that reads back as the same single or double precision value.
 std::string genaue_Zahl(float Zahl);

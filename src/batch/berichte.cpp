@@ -8,6 +8,7 @@
 #include "reports/bericht.h"
 
 namespace varnok::batch {
+
 void bereite_Berichte_vor() {
     if (QCoreApplication::instance() != nullptr) return;
     qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -21,22 +22,23 @@ void bereite_Berichte_vor() {
     static_cast<void>(Anwendung);
 }
 
-void schreibe_Berichtsdatei(const std::string& Ordner, const Lauf& l, Berichtsart Art, const std::string& Namenszusatz,
-                            std::vector<std::string>& Schreibfehler) {
+void schreibe_Berichtsdatei(const Berichtsdatei& b, const Darstellung& d, std::vector<std::string>& Schreibfehler) {
+    const Systemuhr Maschine;
+    const Uhr& Zeit = b.Zeit ? *b.Zeit : Maschine;
     try {
-        Bericht b =
-            schreibe_Bericht({l, Art, Programmversion, Berichtszeit_nach(Systemuhr()), erstelle_Berichtsdiagramm(l, Art), {}});
-        b.Name += Namenszusatz;
-        pruefe_Ausgabename(b.Name);
-        speichere_Bericht(b, Ordner);
+        Bericht Fertiger = schreibe_Bericht({d, b.Art, b.Applikationssatz, Programmversion, Berichtszeit_nach(Zeit),
+                                             erstelle_Berichtsdiagramm(d, b.Art), std::nullopt});
+        Fertiger.Name += b.Namenszusatz;
+        pruefe_Ausgabename(Fertiger.Name);
+        speichere_Bericht(Fertiger, b.Ordner);
     } catch (const Laufzeitfehler& f) {
         Schreibfehler.emplace_back(f.what());
     }
 }
 
-std::string Studienzusatz(const Lauf& l, int i_studie, std::size_t Studien) {
+std::string Studienzusatz(const Eingabe& e, int i_studie, std::size_t Studien) {
     constexpr std::size_t Teil_Studie = 1;
-    if (Studien < 2 || l.Parameter.Ausgabename_Teile[Teil_Studie] == 1) return {};
+    if (Studien < 2 || e.Parameter.Ausgabename_Teile[Teil_Studie] == 1) return {};
     return " - study " + std::to_string(i_studie + 1);
 }
 

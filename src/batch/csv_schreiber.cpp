@@ -1,5 +1,6 @@
 #include "base/zahlen.h"
 #include "batch/schreiber.h"
+#include "exposure/bezeichnungen.h"
 
 namespace varnok::batch {
 namespace {
@@ -40,14 +41,16 @@ Felder Kopf() {
     return k;
 }
 
-Felder Werte(const Simulationsergebnis& r, const Studienergebnis& s, const Stoffergebnis& c, const Endpunktergebnis& e) {
+Felder Werte(const Simulationsergebnis& r, const Ergebnis& s, int i_substanz, Endpunktart Endpunkt) {
+    const Eingabe& v = *s.Vorgabe;
+    const Endpunktergebnis& e = s.Werte(Endpunkt, i_substanz);
     Felder w = {r.Name,
-                std::to_string(s.Nummer),
-                s.Name,
-                std::to_string(c.i_substanz),
-                c.Name,
-                e.Name,
-                e.Einheit,
+                std::to_string(s.i_studie + 1),
+                v.Studie.at(static_cast<std::size_t>(s.i_studie)),
+                std::to_string(i_substanz),
+                Stoffname(v, i_substanz),
+                std::string(Endpunktnamen[Endpunkt]),
+                std::string(Konzentrationseinheit(v.Parameter.Einheit, Endpunkt)),
                 std::to_string(s.Anzahl_pro_Jahr),
                 genaue_Zahl(s.Wirksame_Rate),
                 genaue_Zahl(e.Maximum_Bodentiefe),
@@ -72,9 +75,9 @@ std::string als_CSV(const std::vector<Simulationsausgang>& Ausgaenge) {
     std::string Text = Zeile(Kopf());
     for (const Simulationsausgang& a : Ausgaenge) {
         if (a.Fehler) continue;
-        for (const Studienergebnis& s : a.Ergebnis.Studien) {
-            for (const Stoffergebnis& c : s.Stoffwerte) {
-                for (const Endpunktergebnis& e : c.Endpunktwerte) Text += Zeile(Werte(a.Ergebnis, s, c, e));
+        for (const auto& s : a.Ergebnis.Studien) {
+            for (int c = 0; c < static_cast<int>(s->Stoffwerte.size()); ++c) {
+                for (const Endpunktart e : {Gesamtgehalt, Porenwasser}) Text += Zeile(Werte(a.Ergebnis, *s, c, e));
             }
         }
     }

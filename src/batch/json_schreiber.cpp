@@ -3,6 +3,7 @@
 
 #include "base/programm.h"
 #include "batch/schreiber.h"
+#include "exposure/bezeichnungen.h"
 
 namespace varnok::batch {
 namespace {
@@ -22,14 +23,14 @@ JSON als_Objekt(const Fensterergebnis& f) {
     return {{"days", Tage(f.Tage)}, {"maximum", Zahl(f.Maximum)}, {"start", f.Starttag}, {"actual", Zahl(f.aktuell)}};
 }
 
-JSON als_Objekt(const Endpunktergebnis& e) {
+JSON als_Objekt(const Endpunktergebnis& e, Endpunktart Endpunkt, int Einheit) {
     JSON Jahresmaximum = JSON::array();
     for (const float m : e.Jahresmaximum) Jahresmaximum.push_back(Zahl(m));
     JSON TWA = JSON::array();
     for (const Fensterergebnis& f : e.TWA) TWA.push_back(als_Objekt(f));
     return {
-        {"endpoint", e.Name},
-        {"unit", e.Einheit},
+        {"endpoint", Endpunktnamen[Endpunkt]},
+        {"unit", Konzentrationseinheit(Einheit, Endpunkt)},
         {"Maximum_Bodentiefe", Zahl(e.Maximum_Bodentiefe)},
         {"Maximumtag_Bodentiefe", e.Maximumtag_Bodentiefe},
         {"Maximum_Plateautiefe", Zahl(e.Maximum_Plateautiefe)},
@@ -41,18 +42,19 @@ JSON als_Objekt(const Endpunktergebnis& e) {
     };
 }
 
-JSON als_Objekt(const Stoffergebnis& s) {
+JSON Stoffobjekt(const Ergebnis& s, int i_substanz) {
     JSON Endpunktliste = JSON::array();
-    for (const Endpunktergebnis& e : s.Endpunktwerte) Endpunktliste.push_back(als_Objekt(e));
-    return {{"compound", s.i_substanz}, {"name", s.Name}, {"endpoints", std::move(Endpunktliste)}};
+    for (const Endpunktart e : {Gesamtgehalt, Porenwasser})
+        Endpunktliste.push_back(als_Objekt(s.Werte(e, i_substanz), e, s.Vorgabe->Parameter.Einheit));
+    return {{"compound", i_substanz}, {"name", Stoffname(*s.Vorgabe, i_substanz)}, {"endpoints", std::move(Endpunktliste)}};
 }
 
-JSON als_Objekt(const Studienergebnis& s) {
+JSON als_Objekt(const Ergebnis& s) {
     JSON Stoffliste = JSON::array();
-    for (const Stoffergebnis& c : s.Stoffwerte) Stoffliste.push_back(als_Objekt(c));
+    for (int c = 0; c < static_cast<int>(s.Stoffwerte.size()); ++c) Stoffliste.push_back(Stoffobjekt(s, c));
     return {
-        {"study", s.Nummer},
-        {"name", s.Name},
+        {"study", s.i_studie + 1},
+        {"name", s.Vorgabe->Studie.at(static_cast<std::size_t>(s.i_studie))},
         {"Anzahl_pro_Jahr", s.Anzahl_pro_Jahr},
         {"Wirksame_Rate", s.Wirksame_Rate},
         {"Applikationstag", s.Applikationstag},
@@ -62,19 +64,20 @@ JSON als_Objekt(const Studienergebnis& s) {
 }
 
 JSON als_Objekt(const Simulationsergebnis& r) {
+    const Laufparameter& p = r.Vorgabe->Parameter;
     JSON Studien = JSON::array();
-    for (const Studienergebnis& s : r.Studien) Studien.push_back(als_Objekt(s));
+    for (const auto& s : r.Studien) Studien.push_back(als_Objekt(*s));
     return {
         {"simulation", r.Name},
         {"description", r.Beschreibung},
         {"compound_record", r.Dateinamen[1]},
         {"application_record", r.Dateinamen[2]},
         {"scenario_record", r.Dateinamen[3]},
-        {"Einheit", r.Einheit},
-        {"Separate_Rueckstaende", r.Separate_Rueckstaende},
-        {"TWA_Zeiten", r.TWA_Zeiten},
-        {"Klimamodus", r.Klimamodus},
-        {"scheme", r.Schema},
+        {"Einheit", p.Einheit},
+        {"Separate_Rueckstaende", p.Separate_Rueckstaende},
+        {"TWA_Zeiten", p.TWA_Zeiten},
+        {"Klimamodus", p.Klimamodus},
+        {"scheme", static_cast<int>(r.Vorgabe->Berechnungsmodus)},
         {"studies", std::move(Studien)},
         {"remarks", r.Bemerkungen},
     };

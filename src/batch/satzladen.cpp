@@ -37,15 +37,13 @@ std::string Dateistelle(const std::string& Dateiname, int Zeile) {
 
 std::string Satzdatei(const Simulationssatz& Satz, Satzart Art) { return Satz.Dateinamen[Art] + Endungen[Art]; }
 
-void lade_Saetze(const Auftrag& a, const std::string& Simulation, const Simulationssatz& Satz, Lauf& l,
+void lade_Saetze(const Auftrag& a, const std::string& Simulation, const Simulationssatz& Satz, Eingabe& e, Ansicht& Sicht,
                  std::vector<std::string>& Bemerkungen) {
-    l.Felder.Beschreibung = Satz.Beschreibung;
-    l.Felder.Aktuelle_Dateinamen = Satz.Dateinamen;
-    l.Felder.Aktuelle_Dateinamen[0] = Simulation;
+    e.Beschreibung = Satz.Beschreibung;
     for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) fordere_Satz(a, Simulation, Satz, Art);
     for (const Satzart Art : Lesefolge) {
         const std::string Datei = Satzdatei(Satz, Art);
-        const Lesebefund Befund = Satz_lesen(a.Ordner, Satz.Dateinamen[Art], Art, l.Parameter, l.Felder);
+        const Lesebefund Befund = Satz_lesen(a.Ordner, Satz.Dateinamen[Art], Art, e, Sicht);
         for (const Bemerkung& b : Befund.Bemerkungen) Bemerkungen.push_back(Dateistelle(Datei, b.Zeile) + ": " + b.Text);
         if (Befund.Ausgang == Leseausgang::fehlt) throw Laufzeitfehler(Dateistelle(Datei) + " is missing");
         if (Befund.Ausgang == Leseausgang::abgebrochen)

@@ -5,7 +5,8 @@
 
 #include "batch/simulationslauf.h"
 #include "records/simulation.h"
-#include "run/lauf.h"
+#include "run/ansicht.h"
+#include "run/eingabe.h"
 
 namespace varnok::batch {
 
@@ -15,10 +16,10 @@ std::string Dateistelle(const std::string& Dateiname, int Zeile = 0);
 // Name of a simulation's record with its extension.
 std::string Satzdatei(const Simulationssatz& Satz, Satzart Art);
 
-// Reads the three records of a simulation into parameters and fields: compound, scenario, application.
+// Reads the three records of a simulation into the input and the view: compound, scenario, application.
 // Doubts about their content are added to `Bemerkungen`. Throws Laufzeitfehler that names file, line and reason for a
 // record that is not there letter for letter, cannot be used, or ends too early.
-void lade_Saetze(const Auftrag& a, const std::string& Simulation, const Simulationssatz& Satz, Lauf& l,
+void lade_Saetze(const Auftrag& a, const std::string& Simulation, const Simulationssatz& Satz, Eingabe& e, Ansicht& Sicht,
                  std::vector<std::string>& Bemerkungen);
 
 }  // namespace varnok::batch

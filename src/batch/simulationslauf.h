@@ -1,13 +1,15 @@
 #pragma once
 
 #include <array>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "base/schnittstellen.h"
 #include "batch/simulationsergebnis.h"
-#include "records/einstellungen.h"
 #include "records/projektordner.h"
+#include "run/lauf.h"
 
 namespace varnok::batch {
 
@@ -19,17 +21,18 @@ struct Auftrag {
     Projektordner Ordner;
     std::array<std::vector<std::string>, 4> Satznamen;  // places 1 to 3: the records there are, sorted by bytes
     std::optional<int> Studie;                          // counted from 1
-    std::optional<Einstellungen> TWA_Listen;
+    std::optional<TWA_Listen> TWA;
     std::string Serienordner;    // empty: no series
     std::string Berichtsordner;  // empty: no reports
     bool erweitert = false;      // the report of all studies, too
+    const Uhr* Zeit = nullptr;   // of reports
     // Descriptions that several of the chosen simulations share: their reports carry the simulation's name as well.
     std::vector<std::string> mehrfache_Beschreibungen;
 };
 
-// Reads the records of the simulation and calculates its studies in rising order in stores of its own.
-// Where one study cannot be calculated, the whole simulation is a fault. Writes series and reports of a calculated
-// simulation. Throws nothing but what naming a fault itself may throw.
-Simulationsausgang rechne_Simulation(const Auftrag& a, const std::string& Name);
+// Reads the records of the simulation and calculates its studies in rising order in `Arbeitsplatz`, which is made where there is
+// none and plays no part in the results. Where one study that is asked for cannot be calculated, the whole simulation is a
+// fault. Writes series and reports of a calculated simulation. Throws nothing but what naming a fault itself may throw.
+Simulationsausgang rechne_Simulation(const Auftrag& a, const std::string& Name, std::unique_ptr<Lauf>& Arbeitsplatz);
 
 }  // namespace varnok::batch

@@ -4,6 +4,7 @@
 #include "base/zahlen.h"
 #include "base/zeichensatz.h"
 #include "batch/schreiber.h"
+#include "exposure/bezeichnungen.h"
 #include "exposure/ergebnistabelle.h"
 
 namespace varnok::batch {
@@ -17,7 +18,9 @@ constexpr const char* ohne_Wert = "-";
 
 using Zellen = std::vector<std::string>;
 
-const std::array<std::size_t, 5>& Fenster(const Simulationsergebnis& r) { return gezeigte_Fenster[r.TWA_Zeiten == 0 ? 0 : 1]; }
+const std::array<std::size_t, 5>& Fenster(const Simulationsergebnis& r) {
+    return gezeigte_Fenster[r.Vorgabe->Parameter.TWA_Zeiten == 0 ? 0 : 1];
+}
 
 Zellen Kopfzeile(const Simulationsergebnis& r, const Endpunktergebnis& e) {
     Zellen k = {"Study", "Compound", "Maximum", "Day", "Plateau", "Max+plateau"};
@@ -26,18 +29,18 @@ Zellen Kopfzeile(const Simulationsergebnis& r, const Endpunktergebnis& e) {
     return k;
 }
 
-Zellen Wertezeile(const Simulationsergebnis& r, const Studienergebnis& s, const Stoffergebnis& c, const Endpunktergebnis& e) {
-    constexpr int Akkumulation = 2;
-    constexpr int jedes_Jahr = 0;
-    const auto Text = [&](double Wert) { return Formatiere_Zahl(Wert, false, true, r.Einheit); };
+Zellen Wertezeile(const Simulationsergebnis& r, const Ergebnis& s, int i_substanz, Endpunktart Endpunkt) {
+    const Eingabe& v = *s.Vorgabe;
+    const Endpunktergebnis& e = s.Werte(Endpunkt, i_substanz);
+    const auto Text = [&](double Wert) { return Formatiere_Zahl(Wert, false, true, v.Parameter.Einheit); };
     // The closed series gives no plateau for pore water: a 0 would look like a result.
     const bool Plateau = !e.Plateautext.empty();
-    Zellen z = {std::to_string(s.Nummer) + " " + druckbar(s.Name),
-                druckbar(c.Name),
+    Zellen z = {std::to_string(s.i_studie + 1) + " " + druckbar(v.Studie.at(static_cast<std::size_t>(s.i_studie))),
+                druckbar(Stoffname(v, i_substanz)),
                 Text(static_cast<double>(e.Maximum_Bodentiefe)),
                 std::to_string(e.Maximumtag_Bodentiefe),
                 Plateau ? Text(static_cast<double>(e.Plateauwert)) : ohne_Wert,
-                Plateau ? Text(Ansichtswert(e.Plateauwert, Akkumulation, jedes_Jahr, e.Maximum_Bodentiefe)) : ohne_Wert};
+                Plateau ? Text(Ansichtswert(e.Plateauwert, Anreicherung, jedes_Jahr, e.Maximum_Bodentiefe)) : ohne_Wert};
     for (const std::size_t j : Fenster(r)) z.push_back(Text(static_cast<double>(e.TWA[j].Maximum)));
     z.push_back(Plateau ? e.Plateautext : ohne_Wert);
     return z;
@@ -61,13 +64,15 @@ std::string ausgerichtet(const std::vector<Zellen>& Zeilen) {
     return Text;
 }
 
-std::string Endpunkttabelle(const Simulationsergebnis& r, std::size_t i_endpunkt) {
-    const Endpunktergebnis& erster = r.Studien.front().Stoffwerte.front().Endpunktwerte[i_endpunkt];
-    std::vector<Zellen> Zeilen = {Kopfzeile(r, erster)};
-    for (const Studienergebnis& s : r.Studien) {
-        for (const Stoffergebnis& c : s.Stoffwerte) Zeilen.push_back(Wertezeile(r, s, c, c.Endpunktwerte[i_endpunkt]));
+std::string Endpunkttabelle(const Simulationsergebnis& r, Endpunktart Endpunkt) {
+    std::vector<Zellen> Zeilen = {Kopfzeile(r, r.Studien.front()->Werte(Endpunkt, 0))};
+    for (const auto& s : r.Studien) {
+        for (int c = 0; c < static_cast<int>(s->Stoffwerte.size()); ++c) Zeilen.push_back(Wertezeile(r, *s, c, Endpunkt));
     }
-    return "\nConcentration in " + erster.Name + " (" + erster.Einheit + ")\n" + ausgerichtet(Zeilen);
+    std::string Text = "\nConcentration in ";
+    Text.append(Endpunktnamen[Endpunkt]).append(" (");
+    Text.append(Konzentrationseinheit(r.Vorgabe->Parameter.Einheit, Endpunkt)).append(")\n");
+    return Text + ausgerichtet(Zeilen);
 }
 
 std::string Simulationstext(const Simulationsergebnis& r) {
@@ -75,10 +80,10 @@ std::string Simulationstext(const Simulationsergebnis& r) {
     if (!r.Beschreibung.empty()) Text += "Description: " + druckbar(r.Beschreibung) + "\n";
     Text += "Records:     compound \"" + druckbar(r.Dateinamen[1]) + "\", application pattern \"" + druckbar(r.Dateinamen[2]) +
             "\", scenario \"" + druckbar(r.Dateinamen[3]) + "\"\n";
-    for (std::size_t e = 0; e < Endpunkte; ++e) Text += Endpunkttabelle(r, e);
-    for (const Studienergebnis& s : r.Studien) {
-        for (const std::string& w : s.Warnungen)
-            Text += "\nWarning, study " + std::to_string(s.Nummer) + ": " + druckbar(w) + "\n";
+    for (const Endpunktart e : {Gesamtgehalt, Porenwasser}) Text += Endpunkttabelle(r, e);
+    for (const auto& s : r.Studien) {
+        for (const std::string& w : s->Warnungen)
+            Text += "\nWarning, study " + std::to_string(s->i_studie + 1) + ": " + druckbar(w) + "\n";
     }
     return Text;
 }

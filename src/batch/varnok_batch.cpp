@@ -9,6 +9,7 @@
 #include <atomic>
 #include <exception>
 #include <map>
+#include <memory>
 #include <optional>
 #include <ostream>
 #include <string>
@@ -31,6 +32,7 @@
 #include "batch/simulationslauf.h"
 #include "batch/simulationswahl.h"
 #include "records/dateien.h"
+#include "records/einstellungen.h"
 #include "records/simulation.h"
 
 namespace varnok::batch {
@@ -58,16 +60,17 @@ Namensliste mehrfache_Beschreibungen(const Projektordner& Ordner, const Namensli
 }
 
 Auftrag erstelle_Auftrag(const Aufruf& a, const Projektordner& Ordner, const Namensliste& Namen) {
-    Auftrag Ergebnis(Ordner);
-    Ergebnis.Studie = a.Studie;
-    Ergebnis.Serienordner = a.Serienordner;
-    Ergebnis.Berichtsordner = a.Berichtsordner;
-    Ergebnis.erweitert = a.erweitert;
-    if (!a.Berichtsordner.empty()) Ergebnis.mehrfache_Beschreibungen = mehrfache_Beschreibungen(Ordner, Namen);
-    if (a.Einstellungsdatei.empty()) return Ergebnis;
-    Ergebnis.TWA_Listen = zerlege_Einstellungen(lies_Datei(a.Einstellungsdatei));
-    if (!Ergebnis.TWA_Listen) throw Aufruffehler("--settings " + a.Einstellungsdatei + ": this is no settings file");
-    return Ergebnis;
+    Auftrag Arbeit(Ordner);
+    Arbeit.Studie = a.Studie;
+    Arbeit.Serienordner = a.Serienordner;
+    Arbeit.Berichtsordner = a.Berichtsordner;
+    Arbeit.erweitert = a.erweitert;
+    if (!a.Berichtsordner.empty()) Arbeit.mehrfache_Beschreibungen = mehrfache_Beschreibungen(Ordner, Namen);
+    if (a.Einstellungsdatei.empty()) return Arbeit;
+    const auto Gelesene = zerlege_Einstellungen(lies_Datei(a.Einstellungsdatei));
+    if (!Gelesene) throw Aufruffehler("--settings " + a.Einstellungsdatei + ": this is no settings file");
+    Arbeit.TWA = Gelesene->TWA;
+    return Arbeit;
 }
 
 // Every simulation has its own place for its outcome, so neither order nor number of threads shows in the result.
@@ -76,7 +79,8 @@ std::vector<Simulationsausgang> rechne_alle(const Auftrag& a, const Namensliste&
     std::atomic<std::size_t> fertig = 0;
     const auto rechne = [&](const tbb::blocked_range<std::size_t>& Bereich) {
         for (std::size_t i = Bereich.begin(); i != Bereich.end(); ++i) {
-            Ausgaenge[i] = rechne_Simulation(a, Namen[i]);
+            std::unique_ptr<Lauf> Arbeitsplatz;
+            Ausgaenge[i] = rechne_Simulation(a, Namen[i], Arbeitsplatz);
             const std::size_t bisher = ++fertig;
             if (Balken != nullptr) Balken->melde(bisher, Namen.size());
         }
@@ -109,7 +113,8 @@ bool berichte(const std::vector<Simulationsausgang>& Ausgaenge, std::ostream& fe
 int fuehre_aus(const Aufruf& a, std::ostream& aus, std::ostream& fehler, const Umgebung& Umwelt) {
     const Projektordner Ordner(a.Projekt);
     const Namensliste Namen = waehle_Simulationen(Ordner, a);
-    const Auftrag Arbeit = erstelle_Auftrag(a, Ordner, Namen);
+    Auftrag Arbeit = erstelle_Auftrag(a, Ordner, Namen);
+    Arbeit.Zeit = Umwelt.Zeit;
     bereite_Ausgaben_vor(a, Ordner);
     if (!a.Berichtsordner.empty()) bereite_Berichte_vor();
 

@@ -4,6 +4,8 @@
 #include <functional>
 #include <iosfwd>
 
+#include "base/schnittstellen.h"
+
 namespace varnok::batch {
 
 enum Beendigung {
@@ -16,6 +18,7 @@ enum Beendigung {
 struct Umgebung {
     std::function<bool()> Fehlerausgabe_ist_Terminal;
     std::chrono::milliseconds Wartezeit_bis_Balken{1000};
+    const Uhr* Zeit = nullptr;  // of reports; the machine's without one
 };
 
 // Whether standard error of the process is a terminal.

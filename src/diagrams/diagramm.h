@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "diagrams/zeichenliste.h"
+#include "run/arten.h"
 
 namespace varnok {
 
@@ -67,14 +68,16 @@ struct Nebenprodukt {
 };
 
 struct Diagramm {
-    int Satz = 0;  // `Diagrammsatz`, or `Zusammenfassungssatz` in a summary
+    int Nummer = 0;  // `Diagrammsatz`, or `Zusammenfassungssatz` in a summary
     bool Zusammenfassung = false;
     Zeichenliste Liste;
     Beschriftung Titel;
     Beschriftung Kommentar;
     Beschriftung Name_x_Achse;
     Beschriftung Name_y_Achse;
-    std::string Ergebnistitel;  // over the table of results; empty for a multi-compound diagram, which has none
+    std::string Ergebnistitel;            // over the table of results; empty for a multi-compound diagram, which has none
+    int Einheit = 0;                      // of the curves: 0 mg, 1 microgram,
+    Endpunktart Endpunkt = Gesamtgehalt;  // per kg of soil or per litre of pore water
     Legende Legendeninhalt;
     std::vector<Kurve> Kurven;
     Nebenprodukt Datei;

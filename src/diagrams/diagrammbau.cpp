@@ -16,19 +16,23 @@ constexpr double letztes_Ende = letzter_Tag;
 // The end of an axis moves on to make room, but never behind the run.
 double mache_Platz(double X_Ende, float bis) { return std::min(letztes_Ende, std::max(X_Ende, static_cast<double>(bis))); }
 
+// Where the averaging window ends that begins with the peak.
+float Fensterende(const Ergebnissicht& Sicht, int i_studie, int i_substanz) {
+    return Sicht.Maximumtag_plus(i_studie, i_substanz, Sicht.TWA_Fenster(i_studie, i_substanz));
+}
+
 // Legend of a compound: its curve and its averaging window.
-Legendengruppe Stofflegende(const Ansicht& Sicht, std::string Titel, int i_substanz) {
+Legendengruppe Stofflegende(const Ergebnissicht& Sicht, std::string Titel, int i_substanz) {
     return {std::move(Titel), {{"PEC", {Kurvenfarbe(i_substanz), 2}}, {Sicht.TWA_Text(), {TWA_Farbe(i_substanz), 1}}}};
 }
 
 // The study's name stands in the title and counts twice in its centring.
-Beschriftung Studientitel(const Lauf& l, const Ansicht& Sicht, const Achsenbereich& a, int i_studie) {
-    const std::string Studie = Studienname(l, i_studie);
-    return mittige_Beschriftung(std::string(Sicht.Titelanfang()) + l.Felder.Beschreibung + " Study: " + Studie, a,
-                                1 + static_cast<int>(Zeichenzahl(Studie)), 100);
+Beschriftung Studientitel(const Ergebnissicht& Sicht, const Achsenbereich& a, int i_studie) {
+    const std::string& Studie = Sicht.Studienname(i_studie);
+    return mittige_Beschriftung(Sicht.Titelanfang() + " Study: " + Studie, a, 1 + static_cast<int>(Zeichenzahl(Studie)), 100);
 }
 
-Nebenprodukt Tagesreihe_Datei(const Ansicht& Sicht, const std::string& Stoff, const std::vector<Kurve>& Kurven) {
+Nebenprodukt Tagesreihe_Datei(const Ergebnissicht& Sicht, const std::string& Stoff, const std::vector<Kurve>& Kurven) {
     Nebenprodukt n = {Dateiname_Tagesreihe(Stoff), {Sicht.Dateikopf()}};
     if (Kurven.empty()) return n;
     const Kurve& k = Kurven.front();
@@ -41,67 +45,68 @@ Nebenprodukt Tagesreihe_Datei(const Ansicht& Sicht, const std::string& Stoff, co
 
 }  // namespace
 
-Diagramm erstelle_Diagramm(const Lauf& l, Diagrammbereiche& b, int Diagrammsatz, int i_studie) {
-    const Ansicht Sicht(l);
+Diagramm erstelle_Diagramm(const Darstellung& Inhalt, Diagrammbereiche& b, int Diagrammsatz, int i_studie) {
+    const Ergebnissicht Sicht(Inhalt, i_studie);
     const int c = Substanz_von_Diagramm(Diagrammsatz);
     double& X_Ende = b.X_Ende[st(Diagrammsatz)];
-    X_Ende = mache_Platz(X_Ende, Sicht.Maximumtag_plus(i_studie, c, Sicht.TWA_Fenster()));
-    if (Sicht.PEC_Art() == Ansicht::Hintergrund) X_Ende = letztes_Ende;
+    X_Ende = mache_Platz(X_Ende, Fensterende(Sicht, i_studie, c));
+    if (Sicht.PEC_Art() == Hintergrund) X_Ende = letztes_Ende;
     const double Y_Maximum = erstelle_Diagramm_skaliere_y_Achse(static_cast<double>(Sicht.Maximum(i_studie, c)));
     const Achsenbereich a = bilde_Achsenbereich(b.X_Start[st(Diagrammsatz)], X_Ende, Y_Maximum);
 
     Diagramm d;
-    d.Satz = Diagrammsatz;
+    d.Nummer = Diagrammsatz;
     beschrifte_Achsen(d, Sicht);
     d.Ergebnistitel = Sicht.Ergebnistitel();
     zeichne_Achsen(d.Liste, a);
-    zeichne_Kurve(d, a, Sicht, i_studie, c, Kurvenfarbe(c), Stoffname(l.Felder, c));
-    d.Datei = Tagesreihe_Datei(Sicht, Stoffname(l.Felder, c), d.Kurven);
+    zeichne_Kurve(d, a, Sicht, i_studie, c, Kurvenfarbe(c), Sicht.Stoffname(c));
+    d.Datei = Tagesreihe_Datei(Sicht, Sicht.Stoffname(c), d.Kurven);
     zeichne_TWA(d.Liste, a, Sicht, i_studie, c, TWA_Farbe(c));
     d.Legendeninhalt = {Legendenart::einzeln, {Stofflegende(Sicht, {}, c)}};
-    d.Titel = Studientitel(l, Sicht, a, i_studie);
-    d.Kommentar = mittige_Beschriftung(Stoffkommentar(l, c, i_studie), a, 0, 90);
+    d.Titel = Studientitel(Sicht, a, i_studie);
+    d.Kommentar = mittige_Beschriftung(Sicht.Stoffkommentar(c), a, 0, 90);
     d.Kommentar.Farbe = Kurvenfarbe(c);
     return d;
 }
 
-Diagramm erstelle_Diagramm_mehrfach(const Lauf& l, Diagrammbereiche& b, int Diagrammsatz, int i_substanz, int i_studie) {
-    const Ansicht Sicht(l);
-    const int n = Diagrammsatz == 3 ? 1 : 2;
+Diagramm erstelle_Diagramm_mehrfach(const Darstellung& Inhalt, Diagrammbereiche& b, int Diagrammsatz, int i_substanz,
+                                    int i_studie) {
+    const Ergebnissicht Sicht(Inhalt, i_studie);
+    const int Stoffzahl = Anzahl_Stoffe(Schema_von_Diagramm(Diagrammsatz));
     double& X_Ende = b.X_Ende[st(Diagrammsatz)];
-    if (Sicht.PEC_Art() == Ansicht::Hintergrund) X_Ende = letztes_Ende;
-    X_Ende = mache_Platz(X_Ende, Sicht.Maximumtag_plus(i_studie, i_substanz, Sicht.TWA_Fenster()));
-    if (n == 2) {
-        const float v = Sicht.Maximumtag_plus(i_studie, 2, Sicht.laengstes_Fenster()) + 1;
+    if (Sicht.PEC_Art() == Hintergrund) X_Ende = letztes_Ende;
+    X_Ende = mache_Platz(X_Ende, Fensterende(Sicht, i_studie, i_substanz));
+    if (Stoffzahl > 2) {
+        const float v = Sicht.Maximumtag_plus(i_studie, 2, Sicht.laengstes_Fenster(i_studie, 2)) + 1;
         X_Ende = std::max(X_Ende, mache_Platz(Tage_pro_Jahr - 1, v));
     }
     float groesster = Sicht.Maximum(i_studie, 0);
-    for (int k = 1; k <= n; ++k) groesster = std::max(groesster, Sicht.Maximum(i_studie, k));
+    for (int k = 1; k < Stoffzahl; ++k) groesster = std::max(groesster, Sicht.Maximum(i_studie, k));
     const double Y_Maximum = erstelle_Diagramm_skaliere_y_Achse(static_cast<double>(groesster));
     const Achsenbereich a = bilde_Achsenbereich(b.X_Start[st(Diagrammsatz)], X_Ende, Y_Maximum);
 
     Diagramm d;
-    d.Satz = Diagrammsatz;
+    d.Nummer = Diagrammsatz;
     beschrifte_Achsen(d, Sicht);
     zeichne_Achsen(d.Liste, a);
     d.Legendeninhalt.Art = Legendenart::mehrfach;
-    for (int k = 0; k <= n; ++k) {
-        zeichne_Kurve(d, a, Sicht, i_studie, k, Kurvenfarbe(k), Stoffname(l.Felder, k));
+    for (int k = 0; k < Stoffzahl; ++k) {
+        zeichne_Kurve(d, a, Sicht, i_studie, k, Kurvenfarbe(k), Sicht.Stoffname(k));
         zeichne_TWA(d.Liste, a, Sicht, i_studie, k, TWA_Farbe(k));
-        d.Legendeninhalt.Gruppen.push_back(Stofflegende(Sicht, Stoffname(l.Felder, k), k));
+        d.Legendeninhalt.Gruppen.push_back(Stofflegende(Sicht, Sicht.Stoffname(k), k));
     }
-    d.Titel = Studientitel(l, Sicht, a, i_studie);
-    d.Kommentar = mittige_Beschriftung("Mode: " + std::string(Schematext(l.Felder.Berechnungsmodus)), a, 0, 100);
+    d.Titel = Studientitel(Sicht, a, i_studie);
+    d.Kommentar = mittige_Beschriftung(Sicht.Schemakommentar(), a, 0, 100);
     return d;
 }
 
-std::vector<Diagramm> erstelle_Diagramme(const Lauf& l, Diagrammbereiche& b, int i_studie) {
-    const int Schema = l.Felder.Berechnungsmodus;
+std::vector<Diagramm> erstelle_Diagramme(const Darstellung& Inhalt, Diagrammbereiche& b, int i_studie) {
+    const Stoffschema Schema = Inhalt.Studie(i_studie).Vorgabe->Berechnungsmodus;
     const int Stoffzahl = Anzahl_Stoffe(Schema);
     std::vector<Diagramm> Diagramme;
-    for (int c = 0; c < Stoffzahl; ++c) Diagramme.push_back(erstelle_Diagramm(l, b, Diagrammsatz_von(Schema, c), i_studie));
+    for (int c = 0; c < Stoffzahl; ++c) Diagramme.push_back(erstelle_Diagramm(Inhalt, b, Diagrammsatz_von(Schema, c), i_studie));
     const int mehrfach = Mehrfachsatz_von(Schema);
-    if (mehrfach != kein_Satz) Diagramme.push_back(erstelle_Diagramm_mehrfach(l, b, mehrfach, Stoffzahl - 1, i_studie));
+    if (mehrfach != kein_Diagramm) Diagramme.push_back(erstelle_Diagramm_mehrfach(Inhalt, b, mehrfach, Stoffzahl - 1, i_studie));
     return Diagramme;
 }
 

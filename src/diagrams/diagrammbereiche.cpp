@@ -8,8 +8,6 @@
 namespace varnok {
 namespace {
 
-constexpr int Hintergrund = 1;
-
 Diagrammbereiche bis_zum_Ende(double Ende) {
     Diagrammbereiche b;
     b.X_Ende.fill(Ende);
@@ -19,18 +17,20 @@ Diagrammbereiche bis_zum_Ende(double Ende) {
 
 }  // namespace
 
-Diagrammbereiche Startbereiche(int PEC_Art) { return bis_zum_Ende(PEC_Art == Hintergrund ? letzter_Tag : Tage_pro_Jahr - 1); }
+Diagrammbereiche Startbereiche(PEC_Ansicht PEC_Art) {
+    return bis_zum_Ende(PEC_Art == Hintergrund ? letzter_Tag : Tage_pro_Jahr - 1);
+}
 
-void setze_Bereiche_nach_Ansicht(Diagrammbereiche& b, int PEC_Art) {
+void setze_Bereiche_nach_Ansicht(Diagrammbereiche& b, PEC_Ansicht PEC_Art) {
     b = bis_zum_Ende(PEC_Art == Hintergrund ? letzter_Tag : Tage_pro_Jahr);
 }
 
 double gehaltener_Start(double X_Start) { return X_Start > 0 ? std::min(X_Start, static_cast<double>(letzter_Tag)) : 0; }
 
-bool uebernimm_Skalierung(Diagrammbereiche& b, bool Zusammenfassung, int Satz, std::string_view Start, std::string_view Ende) {
+bool uebernimm_Skalierung(Diagrammbereiche& b, bool Zusammenfassung, int Nummer, std::string_view Start, std::string_view Ende) {
     const double Endwert = Wert(Ende);
     if (!(Endwert >= 2 && Endwert <= 3650)) return false;
-    const auto i = static_cast<std::size_t>(Satz);
+    const auto i = static_cast<std::size_t>(Nummer);
     if (Zusammenfassung) {
         b.X_Start_Zusammenfassung[i] = Wert(Start);
         b.X_Ende_Zusammenfassung[i] = Endwert;

@@ -21,11 +21,11 @@ struct Diagrammbereiche {
     friend bool operator==(const Diagrammbereiche&, const Diagrammbereiche&) = default;
 };
 
-// The ranges at the start of the program: one year, ten years in the view "Background" (`PEC_Art` 1).
-Diagrammbereiche Startbereiche(int PEC_Art);
+// The ranges at the start of the program: one year, ten years in the view "Background".
+Diagrammbereiche Startbereiche(PEC_Ansicht PEC_Art);
 
 // A view was chosen, by click or with an application pattern: all ranges are those of the view again.
-void setze_Bereiche_nach_Ansicht(Diagrammbereiche& b, int PEC_Art);
+void setze_Bereiche_nach_Ansicht(Diagrammbereiche& b, PEC_Ansicht PEC_Art);
 
 // Start as it is drawn: within the days of a run, whatever was typed.
 double gehaltener_Start(double X_Start);
@@ -38,6 +38,6 @@ inline constexpr const char* Skalierungsfehler_Titel = "No valid input!";
 
 // Takes over what was typed for a diagram, or for a summary diagram. False, and nothing is stored, if the end is not
 // within 2 and 3650 days. The start is not checked: it may lie behind the end.
-bool uebernimm_Skalierung(Diagrammbereiche& b, bool Zusammenfassung, int Satz, std::string_view Start, std::string_view Ende);
+bool uebernimm_Skalierung(Diagrammbereiche& b, bool Zusammenfassung, int Nummer, std::string_view Start, std::string_view Ende);
 
 }  // namespace varnok

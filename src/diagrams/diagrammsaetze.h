@@ -5,110 +5,103 @@
 #include <array>
 #include <cstddef>
 
+#include "run/arten.h"
+
 namespace varnok {
 
 inline constexpr int Diagrammzahl = 12;         // indices `Diagrammsatz`
 inline constexpr int Zusammenfassungszahl = 9;  // indices `Zusammenfassungssatz`
-inline constexpr int kein_Satz = -1;
+inline constexpr int kein_Diagramm = -1;
 
 // Compound of a diagram that shows all compounds of a study.
 inline constexpr int alle_Stoffe = -1;
 
-struct Satzplatz {
-    int Berechnungsmodus;
+struct Diagrammplatz {
+    Stoffschema Schema;
     int i_substanz;
 };
 
-inline constexpr std::array<Satzplatz, Diagrammzahl> Diagrammplaetze = {{
-    {0, 0},
-    {1, 0},
-    {1, 1},
-    {1, alle_Stoffe},
-    {2, 0},
-    {2, 1},
-    {2, 2},
-    {2, alle_Stoffe},
-    {3, 0},
-    {3, 1},
-    {3, 2},
-    {3, alle_Stoffe},
+inline constexpr std::array<Diagrammplatz, Diagrammzahl> Diagrammplaetze = {{
+    {nur_Wirkstoff, 0},
+    {ein_Metabolit, 0},
+    {ein_Metabolit, 1},
+    {ein_Metabolit, alle_Stoffe},
+    {zwei_parallel, 0},
+    {zwei_parallel, 1},
+    {zwei_parallel, 2},
+    {zwei_parallel, alle_Stoffe},
+    {zwei_in_Folge, 0},
+    {zwei_in_Folge, 1},
+    {zwei_in_Folge, 2},
+    {zwei_in_Folge, alle_Stoffe},
 }};
 
-inline constexpr std::array<Satzplatz, Zusammenfassungszahl> Zusammenfassungsplaetze = {{
-    {0, 0},
-    {1, 0},
-    {1, 1},
-    {2, 0},
-    {2, 1},
-    {2, 2},
-    {3, 0},
-    {3, 1},
-    {3, 2},
+inline constexpr std::array<Diagrammplatz, Zusammenfassungszahl> Zusammenfassungsplaetze = {{
+    {nur_Wirkstoff, 0},
+    {ein_Metabolit, 0},
+    {ein_Metabolit, 1},
+    {zwei_parallel, 0},
+    {zwei_parallel, 1},
+    {zwei_parallel, 2},
+    {zwei_in_Folge, 0},
+    {zwei_in_Folge, 1},
+    {zwei_in_Folge, 2},
 }};
 
 template <std::size_t Anzahl>
-constexpr int suche_Satz(const std::array<Satzplatz, Anzahl>& Plaetze, int Berechnungsmodus, int i_substanz) {
+constexpr int suche_Nummer(const std::array<Diagrammplatz, Anzahl>& Plaetze, Stoffschema Schema, int i_substanz) {
     for (std::size_t i = 0; i < Anzahl; ++i) {
-        if (Plaetze[i].Berechnungsmodus == Berechnungsmodus && Plaetze[i].i_substanz == i_substanz) return static_cast<int>(i);
+        if (Plaetze[i].Schema == Schema && Plaetze[i].i_substanz == i_substanz) return static_cast<int>(i);
     }
-    return kein_Satz;
+    return kein_Diagramm;
 }
 
-// Index of a compound's diagram, of the multi-compound diagram, of a compound's summary diagram; `kein_Satz` where
+// Index of a compound's diagram, of the multi-compound diagram, of a compound's summary diagram; `kein_Diagramm` where
 // the scheme has none.
-constexpr int Diagrammsatz_von(int Berechnungsmodus, int i_substanz) {
-    return suche_Satz(Diagrammplaetze, Berechnungsmodus, i_substanz);
+constexpr int Diagrammsatz_von(Stoffschema Schema, int i_substanz) { return suche_Nummer(Diagrammplaetze, Schema, i_substanz); }
+constexpr int Mehrfachsatz_von(Stoffschema Schema) { return suche_Nummer(Diagrammplaetze, Schema, alle_Stoffe); }
+constexpr int Zusammenfassungssatz_von(Stoffschema Schema, int i_substanz) {
+    return suche_Nummer(Zusammenfassungsplaetze, Schema, i_substanz);
 }
-constexpr int Mehrfachsatz_von(int Berechnungsmodus) { return suche_Satz(Diagrammplaetze, Berechnungsmodus, alle_Stoffe); }
-constexpr int Zusammenfassungssatz_von(int Berechnungsmodus, int i_substanz) {
-    return suche_Satz(Zusammenfassungsplaetze, Berechnungsmodus, i_substanz);
+
+constexpr Stoffschema Schema_von_Diagramm(int Diagrammsatz) {
+    return Diagrammplaetze[static_cast<std::size_t>(Diagrammsatz)].Schema;
 }
 
 constexpr bool ist_mehrfach(int Diagrammsatz) {
     return Diagrammplaetze[static_cast<std::size_t>(Diagrammsatz)].i_substanz == alle_Stoffe;
 }
 
-// The compound of a diagram; it also chooses its name and its kinetics. A multi-compound diagram counts as the parent's.
+// The compound in work at a place; it also chooses its name and its kinetics. A multi-compound diagram counts as the parent's.
+constexpr int Substanz_in_Arbeit(const Diagrammplatz& p) { return p.i_substanz == alle_Stoffe ? 0 : p.i_substanz; }
 constexpr int Substanz_von_Diagramm(int Diagrammsatz) {
-    return ist_mehrfach(Diagrammsatz) ? 0 : Diagrammplaetze[static_cast<std::size_t>(Diagrammsatz)].i_substanz;
+    return Substanz_in_Arbeit(Diagrammplaetze[static_cast<std::size_t>(Diagrammsatz)]);
 }
 constexpr int Substanz_von_Zusammenfassung(int Zusammenfassungssatz) {
-    return Zusammenfassungsplaetze[static_cast<std::size_t>(Zusammenfassungssatz)].i_substanz;
+    return Substanz_in_Arbeit(Zusammenfassungsplaetze[static_cast<std::size_t>(Zusammenfassungssatz)]);
 }
 
 // Where a left click leads: the next diagram of the scheme and the compound that is in work then.
 struct Ringziel {
-    int Satz;
-    int i_substanz;
+    int Nummer = 0;
+    int i_substanz = 0;
     bool bleibt = false;  // the scheme has one diagram only: index and compound stay
 };
 
-inline constexpr std::array<Ringziel, Diagrammzahl> Diagrammring = {{
-    {0, 0, true},
-    {2, 1},
-    {3, 0},
-    {1, 0},
-    {5, 1},
-    {6, 2},
-    {7, 0},
-    {4, 0},
-    {9, 1},
-    {10, 2},
-    {11, 0},
-    {8, 0},
-}};
+// From each place to the next one of its scheme, from the last one back to the parent's.
+template <std::size_t Anzahl>
+constexpr std::array<Ringziel, Anzahl> bilde_Ring(const std::array<Diagrammplatz, Anzahl>& Plaetze) {
+    std::array<Ringziel, Anzahl> Ring{};
+    for (std::size_t i = 0; i < Anzahl; ++i) {
+        const bool letzter = i + 1 == Anzahl || Plaetze[i + 1].Schema != Plaetze[i].Schema;
+        const auto Ziel = letzter ? static_cast<std::size_t>(suche_Nummer(Plaetze, Plaetze[i].Schema, 0)) : i + 1;
+        Ring[i] = {static_cast<int>(Ziel), Substanz_in_Arbeit(Plaetze[Ziel]), Ziel == i};
+    }
+    return Ring;
+}
 
-inline constexpr std::array<Ringziel, Zusammenfassungszahl> Zusammenfassungsring = {{
-    {0, 0, true},
-    {2, 1},
-    {1, 0},
-    {4, 1},
-    {5, 2},
-    {3, 0},
-    {7, 1},
-    {8, 2},
-    {6, 0},
-}};
+inline constexpr std::array<Ringziel, Diagrammzahl> Diagrammring = bilde_Ring(Diagrammplaetze);
+inline constexpr std::array<Ringziel, Zusammenfassungszahl> Zusammenfassungsring = bilde_Ring(Zusammenfassungsplaetze);
 
 // A place on the surface in fractions of its width and height, measured from the upper left corner.
 struct Flaechenort {

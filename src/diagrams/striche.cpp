@@ -71,7 +71,7 @@ void zeichne_Achsen(Zeichenliste& z, const Achsenbereich& a) {
     zeichne_y_Teilstriche(z, a);
 }
 
-void zeichne_Kurve(Diagramm& d, const Achsenbereich& a, const Ansicht& Sicht, int i_studie, int i_substanz, int Farbe,
+void zeichne_Kurve(Diagramm& d, const Achsenbereich& a, const Ergebnissicht& Sicht, int i_studie, int i_substanz, int Farbe,
                    const std::string& Name) {
     const int erster = a.erster_Tag();
     const int letzter = a.letzter_Tag();
@@ -87,13 +87,14 @@ void zeichne_Kurve(Diagramm& d, const Achsenbereich& a, const Ansicht& Sicht, in
     }
 }
 
-void zeichne_TWA(Zeichenliste& z, const Achsenbereich& a, const Ansicht& Sicht, int i_studie, int i_substanz, int Farbe) {
-    if (Sicht.PEC_Art() == Ansicht::Hintergrund || a.leer) return;
+void zeichne_TWA(Zeichenliste& z, const Achsenbereich& a, const Ergebnissicht& Sicht, int i_studie, int i_substanz, int Farbe) {
+    if (Sicht.PEC_Art() == Hintergrund || a.leer) return;
     const auto h = static_cast<double>(Sicht.TWA_Hoehe(i_studie, i_substanz));
     const float Start = Sicht.TWA_Start(i_studie, i_substanz);
     const auto b0 = static_cast<double>(Start);
-    const auto b1 = static_cast<double>(Start + Sicht.TWA_Fenster());
-    if (static_cast<float>(a.Ende) >= Sicht.TWA_Fenster()) {
+    const float Laenge = Sicht.TWA_Fenster(i_studie, i_substanz);
+    const auto b1 = static_cast<double>(Start + Laenge);
+    if (static_cast<float>(a.Ende) >= Laenge) {
         z.Linien.push_back({{std::max(a.Start, b0), h}, {std::max(a.Start, std::min(a.Ende, b1)), h}, Farbe});
     }
     if (a.Start <= b1) z.Linien.push_back({{b1, 0}, {b1, h}, Farbe});
@@ -106,9 +107,11 @@ Beschriftung mittige_Beschriftung(std::string Text, const Achsenbereich& a, int 
     return {std::move(Text), Schwarz, true, a.Start + r / 2 - n * (r / Teile) / 2};
 }
 
-void beschrifte_Achsen(Diagramm& d, const Ansicht& Sicht) {
+void beschrifte_Achsen(Diagramm& d, const Ergebnissicht& Sicht) {
     d.Name_x_Achse = {"Time after first application (d)", Schwarz, true, std::nullopt};
     d.Name_y_Achse = {Sicht.Name_y_Achse(), Schwarz, true, std::nullopt};
+    d.Einheit = Sicht.Masseneinheit();
+    d.Endpunkt = Sicht.Endpunkt();
 }
 
 }  // namespace varnok

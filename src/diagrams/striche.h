@@ -4,8 +4,8 @@
 
 #include <string>
 
-#include "diagrams/ansicht.h"
 #include "diagrams/diagramm.h"
+#include "diagrams/ergebnissicht.h"
 
 namespace varnok {
 
@@ -28,16 +28,16 @@ Achsenbereich bilde_Achsenbereich(double X_Start, double X_Ende, double Y_Maximu
 void zeichne_Achsen(Zeichenliste& z, const Achsenbereich& a);
 
 // The curve of a compound and study, day by day; also kept as numbers under `Name`.
-void zeichne_Kurve(Diagramm& d, const Achsenbereich& a, const Ansicht& Sicht, int i_studie, int i_substanz, int Farbe,
+void zeichne_Kurve(Diagramm& d, const Achsenbereich& a, const Ergebnissicht& Sicht, int i_studie, int i_substanz, int Farbe,
                    const std::string& Name);
 
 // The window of the largest average as a flat-topped box; none in the view "Background".
-void zeichne_TWA(Zeichenliste& z, const Achsenbereich& a, const Ansicht& Sicht, int i_studie, int i_substanz, int Farbe);
+void zeichne_TWA(Zeichenliste& z, const Achsenbereich& a, const Ergebnissicht& Sicht, int i_studie, int i_substanz, int Farbe);
 
 // A label whose left edge centres it roughly: a character counts as a share of the time axis, 1/`Teile`.
 Beschriftung mittige_Beschriftung(std::string Text, const Achsenbereich& a, int Zusatz, int Teile);
 
-// Axis names, and the table's title.
-void beschrifte_Achsen(Diagramm& d, const Ansicht& Sicht);
+// Axis names, and what they tell as data: unit and endpoint of the curves.
+void beschrifte_Achsen(Diagramm& d, const Ergebnissicht& Sicht);
 
 }  // namespace varnok

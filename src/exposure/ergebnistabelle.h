@@ -3,36 +3,32 @@
 #include <string>
 #include <vector>
 
-#include "run/lauf.h"
+#include "exposure/darstellung.h"
 
 namespace varnok {
 
-// What a table, diagram or report shows for a stored value in a view (0 annual, 1 background, 2
-// accumulation) and a crop rotation (0 every year, 1 every 2nd, 2 every 3rd): the value and the background that
+// What a table, diagram or report shows for a stored value in a view and a crop rotation: the value and the background that
 // the view adds to it.
-double Ansichtswert(float Plateauwert, int PEC_Art, int Fruchtwechsel, float gespeichert);
+double Ansichtswert(float Plateauwert, PEC_Ansicht PEC_Art, Fruchtfolge Fruchtwechsel, float gespeichert);
 
 // Text of a concentration in the unit `Einheit`. `kuerzen` cuts zeros at the end, `Grenztext` writes "<0.0001"
 // or "<0.01" for what rounds to zero. Throws Laufzeitfehler for a negative value unless the pattern is fixed.
 std::string Formatiere_Zahl(double Wert, bool kuerzen, bool Grenztext, int Einheit);
 
-// Day that lies a window's length after the peak in the soil depth, at most the last day of the run.
+// Day that lies a window's length after the day of the peak in the soil depth, at most the last day of the run.
 // Negative for a compound that never rose above 0 and a short window: there the concentration is 0.
-int PECactual_Tag(const Lauf& l, int i_endpunkt, int i_studie, int i_substanz, int Fenster);
-
-// The concentration of that day.
-float PECactual(const Lauf& l, int i_endpunkt, int i_studie, int i_substanz, int Fenster);
+int PECactual_Tag(int Maximumtag, float Fenstertage);
 
 using Tabellentext = std::vector<std::vector<std::string>>;  // [row][column]
 
 // Row labels and heads of a result grid: 15 - 2 x `TWA_Zeiten` rows, 3 columns.
-Tabellentext Tabellenkopf(const Lauf& l, char Dezimalzeichen = '.');
+Tabellentext Tabellenkopf(const Laufparameter& p, char Dezimalzeichen = '.');
 
-// The result grid of a compound and study for endpoint, view and crop rotation of the entry fields.
+// The result grid of a compound and study for endpoint, view and crop rotation chosen.
 // The view "Background" fills nothing: `Tabelle` stays.
-void erstelle_Ergebnistabelle(const Lauf& l, int i_studie, int i_substanz, Tabellentext& Tabelle);
+void erstelle_Ergebnistabelle(const Darstellung& d, int i_studie, int i_substanz, Tabellentext& Tabelle);
 
 // The summary grid of a compound: row labels, then one column for each study.
-void erstelle_Ergebnistabelle_Zusammenfassung(const Lauf& l, int i_substanz, Tabellentext& Tabelle);
+void erstelle_Ergebnistabelle_Zusammenfassung(const Darstellung& d, int i_substanz, Tabellentext& Tabelle);
 
 }  // namespace varnok

@@ -25,15 +25,16 @@ public:
           c_(static_cast<std::size_t>(l.i_substanz)),
           st_(static_cast<std::size_t>(l.i_studie)),
           Stellung_(s),
-          doppelt_(l.Parameter.Kinetik[c_][st_] == DFOP),
+          doppelt_(l.Felder.Parameter.Kinetik[c_][st_] == DFOP),
           Reihen_(l),
           Auswertung_(l) {
-        const double Kinetik = l.Parameter.Kinetik[c_][st_];
+        const Kinetikart Kinetik = l.Felder.Parameter.Kinetik[c_][st_];
         if (Kinetik != SFO && Kinetik != DFOP) {
-            melde_unmoegliche_Rechnung("kinetics of " + Stoffname(l.Felder, l.i_substanz) + " = " + allgemeine_Zahl(Kinetik));
+            melde_unmoegliche_Rechnung("kinetics of " + Stoffname(l.Felder, l.i_substanz) + " = " + std::to_string(Kinetik),
+                                       {{}, 0, "Kinetik", l.i_studie, l.i_substanz});
         }
-        if (doppelt_) g_ = l.Parameter.g_DFOP[c_][st_];
-        if (s == Stellung::erster && l.Felder.Berechnungsmodus == 3) lies_Weitergabe();
+        if (doppelt_) g_ = l.Felder.Parameter.g_DFOP[c_][st_];
+        if (s == Stellung::erster && l.Felder.Berechnungsmodus == zwei_in_Folge) lies_Weitergabe();
     }
 
     void rechne() {
@@ -49,11 +50,14 @@ public:
 
 private:
     void lies_Weitergabe() {
-        const double Molmasse = Wert(l_.Felder.Molmasse_Met_1);
-        if (Molmasse == 0) melde_unmoegliche_Rechnung("molar mass of " + l_.Felder.Name_Met_1 + " = " + l_.Felder.Molmasse_Met_1);
+        const double Molmasse = l_.Felder.Molmasse_Met_1.Zahl();
+        if (Molmasse == 0) {
+            melde_unmoegliche_Rechnung("molar mass of " + l_.Felder.Name_Met_1 + " = " + l_.Felder.Molmasse_Met_1.Text(),
+                                       {{}, 0, "Molmasse", -1, 1});
+        }
         gibt_weiter_ = true;
-        Anteil_ = Wert(l_.Felder.Bildungsanteil_Met_2) / 100;
-        Massenverhaeltnis_ = Wert(l_.Felder.Molmasse_Met_2) / Molmasse;
+        Anteil_ = l_.Felder.Bildungsanteil_Met_2.Zahl() / 100;
+        Massenverhaeltnis_ = l_.Felder.Molmasse_Met_2.Zahl() / Molmasse;
     }
 
     void rechne_Tag(int d) {
@@ -74,11 +78,11 @@ private:
             return;
         }
         setze_konstantes_Klima(l_);
-        if (Stellung_ == Stellung::erster) l_.Tag.Bodenfeuchte = Maximum(l_.Parameter.Welkepunkt, l_.Tag.Bodenfeuchte);
+        if (Stellung_ == Stellung::erster) l_.Tag.Bodenfeuchte = Maximum(l_.Felder.Parameter.Welkepunkt, l_.Tag.Bodenfeuchte);
     }
 
     void korrigiere(const Korrektur& k) {
-        const Laufparameter& p = l_.Parameter;
+        const Laufparameter& p = l_.Felder.Parameter;
         if (doppelt_) {
             Rest_ = {0, std::exp(-k.korrigiert(p.k1_DFOP[c_][st_])), std::exp(-k.korrigiert(p.k2_DFOP[c_][st_]))};
         } else {

@@ -5,7 +5,6 @@
 
 #include "base/laufzeitfehler.h"
 #include "base/zahlen.h"
-#include "run/anpassung.h"
 #include "run/tageswerte.h"
 
 namespace varnok {
@@ -23,6 +22,7 @@ struct Plateauplatz {
           Wert(s.Plateauwert[e][st][c]),
           Zuwachs(s.Plateauzuwachs[e][st][c]),
           Text(s.Plateautext[e][st][c]),
+          Prozent(s.Plateauprozent[e][st][c]),
           Jahr(s.Plateaujahr[e][st][c]) {}
 
     double Peak(std::size_t j) const { return static_cast<double>(Jahresmaximum[j]); }
@@ -31,18 +31,23 @@ struct Plateauplatz {
     float& Wert;
     double& Zuwachs;
     std::string& Text;
+    double& Prozent;
     float& Jahr;
 };
 
 void setze_Wert(Plateauplatz& p, double Plateau, const Lauf& l) {
     const auto Wert = static_cast<float>(Plateau);
     if (!std::isfinite(Wert)) {
-        melde_unmoegliche_Rechnung("final plateau of " + Stoffname(l.Felder, l.i_substanz) + " = " + allgemeine_Zahl(Plateau));
+        melde_unmoegliche_Rechnung("final plateau of " + Stoffname(l.Felder, l.i_substanz) + " = " + allgemeine_Zahl(Plateau),
+                                   {{}, 0, {}, l.i_studie, l.i_substanz});
     }
     p.Wert = Wert;
 }
 
-void setze_Prozent(Plateauplatz& p, double Prozent) { p.Text = feste_Zahl(Prozent, 0) + vom_Endplateau; }
+void setze_Prozent(Plateauplatz& p, double Prozent) {
+    p.Prozent = gerundet(Prozent, 0);
+    p.Text = feste_Zahl(Prozent, 0) + vom_Endplateau;
+}
 
 double erreichter_Anteil(const Plateauplatz& p) { return 100 * p.Zuwachs / static_cast<double>(p.Wert); }
 
@@ -90,7 +95,7 @@ void bestimme_Plateaujahr(Plateauplatz& p) {
 
 // Sum of what is left of every earlier year's dose: a geometric series with the yearly factor x.
 void summiere_Reihe(Plateauplatz& p, Lauf& l) {
-    const Laufparameter& q = l.Parameter;
+    const Laufparameter& q = l.Felder.Parameter;
     const auto st = static_cast<std::size_t>(l.i_studie);
     const double F = (l.Speicher.Wirksame_Rate / 1000) / (q.Bodendichte * q.Plateautiefe / 10) * (q.Einheit == 0 ? 1 : 1000);
     const double k = q.k_SFO[0][st] * std::pow(q.Q10[0][st], (q.Szenariotemperatur - q.TRef[0][st]) / 10);
@@ -147,36 +152,13 @@ void berechne_Plateau(Lauf& l) {
     for (std::size_t e = 0; e < Endpunkte; ++e) {
         Plateauplatz p(l.Speicher, e, st, c);
         p.Zuwachs = Maximum(0, p.Peak(10) - p.Peak(1));
-        if (geschlossen(l.Parameter, st, c)) {
-            // The closed series ends the routine: pore water keeps what an earlier run left there.
+        if (geschlossen(l.Felder.Parameter, st, c)) {
+            // The closed series ends the routine: pore water keeps a background of 0.
             summiere_Reihe(p, l);
             return;
         }
         schaetze(p, l);
     }
-}
-
-void skaliere_Plateau(Lauf& l, int i_studie, double Faktor) {
-    const auto st = static_cast<std::size_t>(i_studie);
-    for (std::size_t c = 0; c < static_cast<std::size_t>(Anzahl_Stoffe(l.Felder.Berechnungsmodus)); ++c) {
-        const std::size_t geschrieben = geschlossen(l.Parameter, st, c) ? 1 : Endpunkte;
-        for (std::size_t e = 0; e < geschrieben; ++e) {
-            Plateauplatz p(l.Speicher, e, st, c);
-            setze_Wert(p, static_cast<double>(p.Wert) * Faktor, l);
-            p.Zuwachs *= Faktor;
-        }
-    }
-}
-
-bool laesst_sich_skalieren(const Lauf& l, int i_studie, double Faktor) {
-    const auto st = static_cast<std::size_t>(i_studie);
-    if (!lassen_sich_anpassen(l.Speicher, i_studie, Faktor, Faktor)) return false;
-    for (std::size_t e = 0; e < Endpunkte; ++e) {
-        for (std::size_t c = 0; c < Stoffe; ++c) {
-            if (!bleibt_im_Bereich(l.Speicher.Plateauwert[e][st][c], Faktor)) return false;
-        }
-    }
-    return true;
 }
 
 }  // namespace varnok

@@ -10,12 +10,6 @@ namespace varnok {
 // `Plateaujahr`, and a warning where the residues grow without limit.
 void berechne_Plateau(Lauf& l);
 
-// Scales what the last run of the study wrote to another dose: the background is linear in it as the series are.
-// Pore water of a parent on the closed route was not written and stays. Throws Laufzeitfehler for a factor that
-// leaves the range of the stores; `laesst_sich_skalieren` tells beforehand, of the plateau and of all other results.
-void skaliere_Plateau(Lauf& l, int i_studie, double Faktor);
-bool laesst_sich_skalieren(const Lauf& l, int i_studie, double Faktor);
-
 // P of y(t) = P (1 - exp(-k t)) through (t_a, y_a) and (t_b, y_b), with y_a above 0 and t_a below t_b. k is
 // where the iteration k <- m(k) / r k, started at 0.001, first meets |r - m(k)| < 1E-7, with the observed ratio
 // r = y_b / y_a and the model's ratio m. r must lie above 1 - 1E-7 and below t_b / t_a - 1E-5.

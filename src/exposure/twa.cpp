@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 
 #include "base/laufzeitfehler.h"
 #include "base/zahlen.h"
@@ -29,27 +30,20 @@ Fenstermaximum suche(Tagesreihe_lesend Integral, double Laenge) {
 
 }  // namespace
 
-void uebernehme_TWA_Liste(Lauf& l) {
+std::vector<float> TWA_Fenster(const Laufparameter& p) {
+    std::vector<float> Fenster;
     const auto verkuerze = [](double Tage) { return static_cast<float>(Tage); };
-    const auto Ziel = l.Speicher.TWA_Tage.begin() + 1;
-    const Laufparameter& p = l.Parameter;
     if (p.TWA_Zeiten == 1) {
-        std::transform(p.TWA_Liste_EU.begin(), p.TWA_Liste_EU.end(), Ziel, verkuerze);
+        std::transform(p.TWA.EU.begin(), p.TWA.EU.end(), std::back_inserter(Fenster), verkuerze);
     } else {
-        std::transform(p.TWA_Liste_Monat.begin(), p.TWA_Liste_Monat.end(), Ziel, verkuerze);
+        std::transform(p.TWA.Monat.begin(), p.TWA.Monat.end(), std::back_inserter(Fenster), verkuerze);
     }
+    return Fenster;
 }
 
-void TWA_Listbox_initialisieren(Lauf& l) {
-    uebernehme_TWA_Liste(l);
-    l.Felder.TWA_Laenge = TWA_Vorauswahl(l.Parameter.TWA_Zeiten);
-}
-
-std::vector<std::string> TWA_Eintraege(const Lauf& l, char Dezimalzeichen) {
+std::vector<std::string> TWA_Eintraege(const Laufparameter& p, char Dezimalzeichen) {
     std::vector<std::string> Eintraege;
-    for (int j = 1; j <= Anzahl_TWA(l.Parameter.TWA_Zeiten); ++j) {
-        Eintraege.push_back("TWA (" + allgemeine_Zahl(l.Speicher.TWA_Tage[static_cast<std::size_t>(j)], Dezimalzeichen) + " d)");
-    }
+    for (const float Tage : TWA_Fenster(p)) Eintraege.push_back("TWA (" + allgemeine_Zahl(Tage, Dezimalzeichen) + " d)");
     return Eintraege;
 }
 
@@ -57,13 +51,18 @@ void berechne_TWA(Lauf& l) {
     Ergebnisspeicher& s = l.Speicher;
     const auto st = static_cast<std::size_t>(l.i_studie);
     const auto c = static_cast<std::size_t>(l.i_substanz);
-    for (std::size_t j = 1; j <= static_cast<std::size_t>(Anzahl_TWA(l.Parameter.TWA_Zeiten)); ++j) {
-        const auto Laenge = static_cast<double>(s.TWA_Tage[j]);
-        if (!(Laenge > 0) || !std::isfinite(Laenge))
-            melde_unmoegliche_Rechnung("length of TWA window " + std::to_string(j) + " (d) = " + allgemeine_Zahl(Laenge));
+    const std::vector<float> Fenster = TWA_Fenster(l.Felder.Parameter);
+    for (std::size_t j = 1; j <= Fenster.size(); ++j) {
+        const auto Laenge = static_cast<double>(Fenster[j - 1]);
+        if (!(Laenge > 0) || !std::isfinite(Laenge)) {
+            melde_unmoegliche_Rechnung("length of TWA window " + std::to_string(j) + " (d) = " + allgemeine_Zahl(Laenge),
+                                       {{}, 0, "TWA"});
+        }
         for (std::size_t e = 0; e < Endpunkte; ++e) {
             const Fenstermaximum m = suche(s.Integral_Bodentiefe(static_cast<int>(e), l.i_studie, l.i_substanz), Laenge);
-            if (!std::isfinite(m.Mittel)) melde_unmoegliche_Rechnung("length of TWA window (d) = " + allgemeine_Zahl(Laenge));
+            if (!std::isfinite(m.Mittel)) {
+                melde_unmoegliche_Rechnung("length of TWA window (d) = " + allgemeine_Zahl(Laenge), {{}, 0, "TWA"});
+            }
             s.TWA_Maximum[e][st][c][j] = m.Mittel;
             s.TWA_Starttag[e][st][c][j] = m.Start;
         }

@@ -4,10 +4,11 @@
 
 #include <QString>
 #include <string>
+#include <string_view>
 
 namespace varnok {
 
-inline QString in_Qt(const std::string& Text) { return QString::fromStdString(Text); }
+inline QString in_Qt(std::string_view Text) { return QString::fromUtf8(Text.data(), static_cast<qsizetype>(Text.size())); }
 inline QString in_Qt(int Zahl) { return QString::fromStdString(std::to_string(Zahl)); }
 inline std::string aus_Qt(const QString& Text) { return Text.toStdString(); }
 

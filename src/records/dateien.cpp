@@ -13,7 +13,7 @@ namespace varnok {
 namespace {
 
 [[noreturn]] void melde(const std::string& Vorgang, const std::string& Pfad, const std::string& Grund) {
-    throw Laufzeitfehler("Cannot " + Vorgang + " the file \"" + Pfad + "\": " + Grund);
+    throw Laufzeitfehler("Cannot " + Vorgang + " the file \"" + Pfad + "\": " + Grund, {Pfad.substr(Pfad.rfind('/') + 1)});
 }
 
 std::filesystem::path als_Pfad(const std::string& Utf8) { return {std::u8string(Utf8.begin(), Utf8.end())}; }

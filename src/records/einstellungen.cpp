@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <string_view>
 
@@ -75,8 +76,8 @@ std::optional<Einstellungen> zerlege_Einstellungen(const std::string& Bytes) {
     Zeilenfolge Zeilen(Bytes);
     Einstellungen e;
     const bool gelesen = lies_Byte(Zeilen, e.Tips_anzeigen) && lies_Byte(Zeilen, e.Farbeinstellung) &&
-                         lies_Text(Zeilen, e.TWA_Titel_EU) && lies_Liste(Zeilen, e.TWA_Liste_EU) &&
-                         lies_Text(Zeilen, e.TWA_Titel_Monat) && lies_Liste(Zeilen, e.TWA_Liste_Monat);
+                         lies_Text(Zeilen, e.TWA_Titel_EU) && lies_Liste(Zeilen, e.TWA.EU) &&
+                         lies_Text(Zeilen, e.TWA_Titel_Monat) && lies_Liste(Zeilen, e.TWA.Monat);
     if (!gelesen) return std::nullopt;
     lies_Text(Zeilen, e.Projektpfad);  // older files end before it
     return e;
@@ -86,9 +87,9 @@ std::string Einstellungen_als_Bytes(const Einstellungen& e) {
     std::string Bytes = "Tooltips:\t" + std::to_string(e.Tips_anzeigen) + "\r\n";
     Bytes += "Appearance:\t" + std::to_string(e.Farbeinstellung) + "\r\n";
     Bytes += als_Zeile(e.TWA_Titel_EU);
-    for (const double Tage : e.TWA_Liste_EU) Bytes += als_Dauer(Tage);
+    for (const double Tage : e.TWA.EU) Bytes += als_Dauer(Tage);
     Bytes += als_Zeile(e.TWA_Titel_Monat);
-    for (const double Tage : e.TWA_Liste_Monat) Bytes += als_Dauer(Tage);
+    for (const double Tage : e.TWA.Monat) Bytes += als_Dauer(Tage);
     return Bytes + als_Zeile(e.Projektpfad);
 }
 

@@ -32,7 +32,8 @@ Klimatag zerlege_Tag(std::string_view Zeile, int Nummer, const std::string& Date
         Tag.*Ziel = Wert(Text);
         if (!std::isfinite(Tag.*Ziel)) {
             throw Laufzeitfehler("File " + Datei + ", line " + std::to_string(Nummer) + ": \"" + aus_Windows_1252(Text) +
-                                 "\" is too large a number");
+                                     "\" is too large a number",
+                                 {Datei, Nummer});
         }
     }
     return Tag;
@@ -50,7 +51,7 @@ std::vector<Klimatag> zerlege_Klimadatei(const std::string& Bytes, const std::st
         if (Tage.size() == genug) break;
         Tage.push_back(zerlege_Tag(*Zeile, Zeilen.Nummer(), Datei));
     }
-    if (Tage.empty()) throw Laufzeitfehler("File " + Datei + ", line 2: the file ends before the first day");
+    if (Tage.empty()) throw Laufzeitfehler("File " + Datei + ", line 2: the file ends before the first day", {Datei, 2});
     return Tage;
 }
 

@@ -25,12 +25,12 @@ Satzart Grundart(Satzart Art) { return Art > Szenario ? static_cast<Satzart>(Art
 struct Lesung {
     Satzleser Leser;
     const std::string& Datei;
-    Laufparameter Parameter;
     Eingabe Felder;
+    Ansicht Sicht;
 };
 
 [[noreturn]] void verwirf(const Lesung& l, int Zeile, const std::string& Grund) {
-    throw Laufzeitfehler("File " + l.Datei + ", line " + std::to_string(Zeile) + ": " + Grund);
+    throw Laufzeitfehler("File " + l.Datei + ", line " + std::to_string(Zeile) + ": " + Grund, {l.Datei, Zeile});
 }
 
 [[noreturn]] void verwirf(const Lesung& l, const Lesefehler& f) { verwirf(l, f.Zeile(), f.what()); }
@@ -44,12 +44,12 @@ void loesche_Flaggen_ab(Laufparameter& p, int Stelle) {
 // Older records have fewer than seven flags: those from the missing tab on are 0. True if it was needed.
 bool lies_Flaggen(Lesung& l) {
     try {
-        gehe_durch_Ausgabename(l.Leser, l.Parameter);
+        gehe_durch_Ausgabename(l.Leser, l.Felder);
         return false;
     } catch (const Lesefehler& f) {
         const bool Datei_zu_Ende = l.Leser.Zeilennummer() < f.Zeile();
         if (!f.am_Aufbau() || Datei_zu_Ende) throw;
-        loesche_Flaggen_ab(l.Parameter, f.Stelle());
+        loesche_Flaggen_ab(l.Felder.Parameter, f.Stelle());
         l.Leser.bemerke(f.Zeile(), std::string(f.what()) + "; from there on all are 0");
         return true;
     }
@@ -58,10 +58,10 @@ bool lies_Flaggen(Lesung& l) {
 // Lines 4 on. After a complete line 3 the repair is still armed: the first fault of the layout clears
 // the flags from the index of the study on, and the reading takes the next line for line 4.
 void lies_Wirkstoffdaten(Lesung& l, bool Flaggen_repariert) {
-    int Zaehler = static_cast<int>(l.Parameter.Ausgabename_Teile.size());
+    int Zaehler = static_cast<int>(l.Felder.Parameter.Ausgabename_Teile.size());
     std::optional<Lesefehler> erster;
     try {
-        gehe_durch_Wirkstoffdaten(l.Leser, l.Parameter, l.Felder, Zaehler);
+        gehe_durch_Wirkstoffdaten(l.Leser, l.Felder, l.Sicht, Zaehler);
         return;
     } catch (const Lesefehler& f) {
         if (!f.am_Aufbau()) throw;
@@ -71,10 +71,10 @@ void lies_Wirkstoffdaten(Lesung& l, bool Flaggen_repariert) {
         }
         erster = f;
     }
-    loesche_Flaggen_ab(l.Parameter, Zaehler);
+    loesche_Flaggen_ab(l.Felder.Parameter, Zaehler);
     l.Leser.bemerke(erster->Zeile(), std::string(erster->what()) + "; reading went on with the line behind as line 4");
     try {
-        gehe_durch_Wirkstoffdaten(l.Leser, l.Parameter, l.Felder, Zaehler);
+        gehe_durch_Wirkstoffdaten(l.Leser, l.Felder, l.Sicht, Zaehler);
     } catch (const Lesefehler&) {
         verwirf(l, *erster);
     }
@@ -82,7 +82,7 @@ void lies_Wirkstoffdaten(Lesung& l, bool Flaggen_repariert) {
 
 Lesebefund lies_Wirkstoff(Lesung& l) {
     try {
-        gehe_durch_Wirkstoffkopf(l.Leser, l.Parameter);
+        gehe_durch_Wirkstoffkopf(l.Leser, l.Felder);
     } catch (const Lesefehler& f) {
         if (f.am_Aufbau()) return abgebrochen(f);
         verwirf(l, f);
@@ -92,17 +92,17 @@ Lesebefund lies_Wirkstoff(Lesung& l) {
     } catch (const Lesefehler& f) {
         verwirf(l, f);
     }
-    l.Felder.Studie_Index = 0;
-    setze_Startwerte(l.Parameter, l.Parameter.Anzahl_Studien);
+    l.Sicht.Studie_Index = 0;
+    setze_Startwerte(l.Felder.Parameter, l.Felder.Studie.size());
     return {};
 }
 
 Lesebefund lies_ohne_Reparatur(Lesung& l, Satzart Art) {
     try {
         if (Art == Applikation) {
-            gehe_durch_Applikation(l.Leser, l.Felder);
+            gehe_durch_Applikation(l.Leser, l.Felder, l.Sicht);
         } else {
-            gehe_durch_Szenario(l.Leser, l.Parameter, l.Felder);
+            gehe_durch_Szenario(l.Leser, l.Felder);
         }
         return {};
     } catch (const Lesefehler& f) {
@@ -112,48 +112,48 @@ Lesebefund lies_ohne_Reparatur(Lesung& l, Satzart Art) {
 
 }  // namespace
 
-Lesebefund Satz_lesen_aus(const std::string& Bytes, const std::string& Datei, Satzart Art, Laufparameter& Parameter,
-                          Eingabe& Felder, char Dezimalzeichen) {
-    if (Art < Wirkstoff || Art > Vorlage_Szenario) throw Laufzeitfehler("File " + Datei + " is no record");
+Lesebefund Satz_lesen_aus(const std::string& Bytes, const std::string& Datei, Satzart Art, Eingabe& e, Ansicht& a,
+                          char Dezimalzeichen) {
+    if (Art < Wirkstoff || Art > Vorlage_Szenario) throw Laufzeitfehler("File " + Datei + " is no record", {Datei});
     if (Bytes.size() > Hoechstgroesse_Datei)
-        throw Laufzeitfehler("File " + Datei + ", line 1: the file is too large for a record");
-    Lesung l{Satzleser(Bytes, Dezimalzeichen), Datei, Parameter, Felder};
+        throw Laufzeitfehler("File " + Datei + ", line 1: the file is too large for a record", {Datei, 1});
+    Lesung l{Satzleser(Bytes, Dezimalzeichen), Datei, e, a};
     Lesebefund Befund = Grundart(Art) == Wirkstoff ? lies_Wirkstoff(l) : lies_ohne_Reparatur(l, Grundart(Art));
     Befund.Bemerkungen = std::move(l.Leser.Bemerkungen());
-    Parameter = l.Parameter;
-    Felder = std::move(l.Felder);
+    e = std::move(l.Felder);
+    a = l.Sicht;
     return Befund;
 }
 
-Lesebefund Satz_lesen(const Projektordner& Ordner, const std::string& Name, Satzart Art, Laufparameter& Parameter,
-                      Eingabe& Felder, char Dezimalzeichen) {
+Lesebefund Satz_lesen(const Projektordner& Ordner, const std::string& Name, Satzart Art, Eingabe& e, Ansicht& a,
+                      char Dezimalzeichen) {
     if (Art < Wirkstoff || Art > Vorlage_Szenario) throw Laufzeitfehler("\"" + Name + "\" is no record");
     const std::string Endung = Endungen[Art];
     const auto Pfad = Ordner.finde(Name, Endung);
     if (!Pfad) return {Leseausgang::fehlt, 0, {}, {}};
-    return Satz_lesen_aus(lies_Datei(*Pfad), Name + Endung, Art, Parameter, Felder, Dezimalzeichen);
+    return Satz_lesen_aus(lies_Datei(*Pfad), Name + Endung, Art, e, a, Dezimalzeichen);
 }
 
-std::string Satz_als_Bytes(Satzart Art, const Laufparameter& Parameter, const Eingabe& Felder, char Dezimalzeichen) {
+std::string Satz_als_Bytes(Satzart Art, const Eingabe& e, const Ansicht& a, char Dezimalzeichen) {
     Satzschreiber Schreiber(Dezimalzeichen);
-    Laufparameter p = Parameter;
-    Eingabe e = Felder;
+    Eingabe Felder = e;
+    Ansicht Sicht = a;
     int Zaehler = 0;
     if (Art == Wirkstoff) {
-        gehe_durch_Wirkstoffkopf(Schreiber, p);
-        gehe_durch_Ausgabename(Schreiber, p);
-        gehe_durch_Wirkstoffdaten(Schreiber, p, e, Zaehler);
+        gehe_durch_Wirkstoffkopf(Schreiber, Felder);
+        gehe_durch_Ausgabename(Schreiber, Felder);
+        gehe_durch_Wirkstoffdaten(Schreiber, Felder, Sicht, Zaehler);
     }
-    if (Art == Applikation) gehe_durch_Applikation(Schreiber, e);
-    if (Art == Szenario) gehe_durch_Szenario(Schreiber, p, e);
+    if (Art == Applikation) gehe_durch_Applikation(Schreiber, Felder, Sicht);
+    if (Art == Szenario) gehe_durch_Szenario(Schreiber, Felder);
     return Schreiber.Bytes();
 }
 
-void Satz_schreiben(const Projektordner& Ordner, const std::string& Name, Satzart Art, const Laufparameter& Parameter,
-                    const Eingabe& Felder, char Dezimalzeichen) {
+void Satz_schreiben(const Projektordner& Ordner, const std::string& Name, Satzart Art, const Eingabe& e, const Ansicht& a,
+                    char Dezimalzeichen) {
     if (Art < Wirkstoff || Art > Szenario) return;
     const std::string Pfad = Ordner.Zielpfad(Name, Endungen[Art]);
-    schreibe_Datei(Pfad, Satz_als_Bytes(Art, Parameter, Felder, Dezimalzeichen));
+    schreibe_Datei(Pfad, Satz_als_Bytes(Art, e, a, Dezimalzeichen));
 }
 
 }  // namespace varnok

@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "records/projektordner.h"
+#include "run/ansicht.h"
 #include "run/eingabe.h"
-#include "run/laufparameter.h"
 
 namespace varnok {
 
@@ -31,24 +31,23 @@ struct Lesebefund {
     std::vector<Bemerkung> Bemerkungen;
 };
 
-// Reads a record of the types 1 to 6 (a template reads as its kind) into parameters and fields.
-// Values that pass through a number come back in general form with `Dezimalzeichen`.
-// Throws Laufzeitfehler that names file, line and fault where the record cannot be used; parameters
-// and fields are then as they were.
-Lesebefund Satz_lesen(const Projektordner& Ordner, const std::string& Name, Satzart Art, Laufparameter& Parameter,
-                      Eingabe& Felder, char Dezimalzeichen = '.');
+// Reads a record of the types 1 to 6 (a template reads as its kind) into the input; two lines of a record are choices of the
+// view. Values that pass through a number come back in general form with `Dezimalzeichen`.
+// Throws Laufzeitfehler that names file, line and fault where the record cannot be used; input and view are then as they were.
+Lesebefund Satz_lesen(const Projektordner& Ordner, const std::string& Name, Satzart Art, Eingabe& e, Ansicht& a,
+                      char Dezimalzeichen = '.');
 
 // The same from bytes; `Datei` names the source in messages.
-Lesebefund Satz_lesen_aus(const std::string& Bytes, const std::string& Datei, Satzart Art, Laufparameter& Parameter,
-                          Eingabe& Felder, char Dezimalzeichen = '.');
+Lesebefund Satz_lesen_aus(const std::string& Bytes, const std::string& Datei, Satzart Art, Eingabe& e, Ansicht& a,
+                          char Dezimalzeichen = '.');
 
-// Writes a record of the types 1 to 3 from parameters and fields over any file of that name; other
+// Writes a record of the types 1 to 3 over any file of that name; other
 // types write nothing. Throws Laufzeitfehler: the name is none, a text has a character without a place
 // in Windows-1252 (or a tab or line end), the file cannot be written. The old file is then untouched.
-void Satz_schreiben(const Projektordner& Ordner, const std::string& Name, Satzart Art, const Laufparameter& Parameter,
-                    const Eingabe& Felder, char Dezimalzeichen = '.');
+void Satz_schreiben(const Projektordner& Ordner, const std::string& Name, Satzart Art, const Eingabe& e, const Ansicht& a,
+                    char Dezimalzeichen = '.');
 
 // The bytes that `Satz_schreiben` writes.
-std::string Satz_als_Bytes(Satzart Art, const Laufparameter& Parameter, const Eingabe& Felder, char Dezimalzeichen = '.');
+std::string Satz_als_Bytes(Satzart Art, const Eingabe& e, const Ansicht& a, char Dezimalzeichen = '.');
 
 }  // namespace varnok

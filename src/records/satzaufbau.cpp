@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <type_traits>
 
-#include "base/zahlen.h"
 #include "run/kalender.h"
 
 namespace varnok {
@@ -11,12 +11,23 @@ namespace {
 
 constexpr int Hoechstzahl_Byte = 255;
 
+// An enumeration as the byte that holds its code; a byte may stand for any type.
+template <class Aufzaehlung>
+std::uint8_t& als_Byte(Aufzaehlung& a) {
+    static_assert(std::is_same_v<std::underlying_type_t<Aufzaehlung>, std::uint8_t>);
+    return reinterpret_cast<std::uint8_t&>(a);
+}
+
 Feld Ganzzahl(std::uint8_t& Platz, int von, int bis) { return {Feldart::ganze_Zahl, &Platz, von, bis}; }
-Feld Position(int& Platz, int von, int bis) { return {Feldart::ganze_Zahl, &Platz, von, bis}; }
-Feld Kennzahl(double& Platz, int bis) { return {Feldart::Kennzahl, &Platz, 0, bis}; }
+Feld Position(int& Platz, int von, int bis) { return {Feldart::ganze_Zahl, &Platz, von, bis, true}; }
+template <class Aufzaehlung>
+Feld Auswahl(Aufzaehlung& Platz, int bis) {
+    return Ganzzahl(als_Byte(Platz), 0, bis);
+}
+Feld Kennzahl(Kinetikart& Platz, Kinetikart letzte) { return {Feldart::Kennzahl, &als_Byte(Platz), 0, letzte}; }
 Feld Zahl(double& Platz) { return {Feldart::Zahl, &Platz}; }
 Feld Text(std::string& Platz) { return {Feldart::Text, &Platz}; }
-Feld Zahltext(std::string& Platz) { return {Feldart::Zahltext, &Platz}; }
+Feld Zahltext(Zahlwert& Platz) { return {Feldart::Zahltext, &Platz}; }
 
 Feld ohne_Komma(Feld f) {
     f.mit_Komma = false;
@@ -97,7 +108,8 @@ void Satzgang::Zeile(std::string_view Beschriftung, std::initializer_list<Feld> 
     }
 }
 
-void gehe_durch_Szenario(Satzgang& g, Laufparameter& p, Eingabe& e) {
+void gehe_durch_Szenario(Satzgang& g, Eingabe& e) {
+    Laufparameter& p = e.Parameter;
     g.Ueberschrift("Soil Parameters");
     g.Zeile("Soil scenario:     ", {Text(e.Bodenszenario)});
     g.Zeile("Soil density (kg/L):", {Zahl(p.Bodendichte)});
@@ -106,7 +118,9 @@ void gehe_durch_Szenario(Satzgang& g, Laufparameter& p, Eingabe& e) {
     g.Zeile("Organic carbon content:", {Zahl(p.Kohlenstoffgehalt)});
     g.Zeile("Field capacity (Vol%):", {Zahl(p.Feldkapazitaet)});
     g.Zeile("Wilting point (Vol%):", {Zahl(p.Welkepunkt)});
-    g.Zeile("Climatic condition:", {Text(e.Klimaszenario)});
+    std::string Klima = Klimatext(e);
+    g.Zeile("Climatic condition:", {Text(Klima)});
+    e.Klimaszenario = Klima;
     if (g.folgt_Trennlinie()) {
         p.Klimamodus = 0;
         p.Szenariotemperatur = 20;
@@ -115,14 +129,14 @@ void gehe_durch_Szenario(Satzgang& g, Laufparameter& p, Eingabe& e) {
         g.Zeile("Scenario Temperature:", {ohne_Komma(Ganzzahl(p.Szenariotemperatur, 0, Hoechstzahl_Byte))});
     }
     g.Schlusszeile();
-    // Under constant temperature the field shows the temperature, whatever name it had.
-    if (p.Klimamodus == 0) e.Klimaszenario = allgemeine_Zahl(static_cast<double>(p.Szenariotemperatur)) + " °C constant";
+    // Under constant temperature the line tells the temperature and no climate file.
+    if (p.Klimamodus == 0) e.Klimaszenario.clear();
 }
 
-void gehe_durch_Applikation(Satzgang& g, Eingabe& e) {
+void gehe_durch_Applikation(Satzgang& g, Eingabe& e, Ansicht& a) {
     g.Ueberschrift("Application Pattern");
-    g.Zeile("Application type:", {ohne_Komma(Position(e.Applikationsmuster, 0, 2))});
-    g.Zeile("PEC-Type:", {Position(e.PEC_Typ, 0, 2)});
+    g.Zeile("Application type:", {ohne_Komma(Auswahl(e.Applikationsmuster, unregelmaessig))});
+    g.Zeile("PEC-Type:", {Auswahl(a.PEC_Typ, Anreicherung)});
     g.beginne("Regular application date:");
     g.Zwischenwert(Position(e.App_Monat, 1, 12));
     // The list of days follows the month, so that a day of the old month does not outlive it.
@@ -139,33 +153,34 @@ void gehe_durch_Applikation(Satzgang& g, Eingabe& e) {
     g.Schlusszeile();
 }
 
-void gehe_durch_Wirkstoffkopf(Satzgang& g, Laufparameter& p) {
+void gehe_durch_Wirkstoffkopf(Satzgang& g, Eingabe& e) {
     g.Ueberschrift("Pesticide data");
-    g.Zeile("Unit:", {Ganzzahl(p.Einheit, 0, 1)});
+    g.Zeile("Unit:", {Ganzzahl(e.Parameter.Einheit, 0, 1)});
 }
 
-void gehe_durch_Ausgabename(Satzgang& g, Laufparameter& p) {
+void gehe_durch_Ausgabename(Satzgang& g, Eingabe& e) {
+    auto& Teile = e.Parameter.Ausgabename_Teile;
     g.beginne("Output file name :");
-    for (std::size_t i = 0; i < 6; ++i) g.Zwischenwert(Ganzzahl(p.Ausgabename_Teile[i], 0, Hoechstzahl_Byte));
-    g.Endwert(Ganzzahl(p.Ausgabename_Teile[6], 0, Hoechstzahl_Byte));
+    for (std::size_t i = 0; i < 6; ++i) g.Zwischenwert(Ganzzahl(Teile[i], 0, Hoechstzahl_Byte));
+    g.Endwert(Ganzzahl(Teile[6], 0, Hoechstzahl_Byte));
 }
 
-void gehe_durch_Wirkstoffdaten(Satzgang& g, Laufparameter& p, Eingabe& e, int& Zaehler) {
+void gehe_durch_Wirkstoffdaten(Satzgang& g, Eingabe& e, Ansicht& a, int& Zaehler) {
+    Laufparameter& p = e.Parameter;
     g.Zeile("Separate residues:", {Ganzzahl(p.Separate_Rueckstaende, 0, 2)});
     g.Zeile("TWA according to EU:", {Ganzzahl(p.TWA_Zeiten, 0, 1)});
     g.Zeile("Calculation mode:", {Ganzzahl(p.Rechenmodus, 0, Hoechstzahl_Byte)});
     g.Trennlinie();
     g.Ueberschrift("Degradation kinetics Parameters");
-    int letzte_Studie = static_cast<int>(e.Studie.size()) - 1;
+    int letzte_Studie = e.Studienzahl() - 1;
     g.Zeile("Number of studies:", {Position(letzte_Studie, 1, max_Studien)});
     e.Studie.resize(static_cast<std::size_t>(letzte_Studie) + 1);
-    p.Anzahl_Studien = static_cast<std::uint8_t>(letzte_Studie + 1);
     Zaehler = 0;
     for (std::size_t i = 0; i < e.Studie.size(); ++i, ++Zaehler) gehe_durch_Studie(g, p, e.Studie[i], i);
-    g.Zeile("Compound shown:", {ohne_Komma(Position(e.Substanz, 0, 2))});
+    g.Zeile("Compound shown:", {ohne_Komma(Position(a.Substanz, 0, 2))});
     g.Trennlinie();
     g.Ueberschrift("Metabolism scheme");
-    g.Zeile("Type of calculation:", {Position(e.Berechnungsmodus, 0, 3)});
+    g.Zeile("Type of calculation:", {Auswahl(e.Berechnungsmodus, zwei_in_Folge)});
     g.Zeile("Parent:", {Text(e.Name_Wirkstoff), Zahltext(e.Molmasse_Wirkstoff)});
     g.Zeile("Metabolite 1:", {Text(e.Name_Met_1), Zahltext(e.Molmasse_Met_1), Zahltext(e.Bildungsanteil_Met_1)});
     g.Zeile("Metabolite 2:", {Text(e.Name_Met_2), Zahltext(e.Molmasse_Met_2), Zahltext(e.Bildungsanteil_Met_2)});

@@ -9,8 +9,8 @@
 #include <string_view>
 #include <variant>
 
+#include "run/ansicht.h"
 #include "run/eingabe.h"
-#include "run/laufparameter.h"
 
 namespace varnok {
 
@@ -24,15 +24,18 @@ enum class Feldart {
     Rohzahl,    // a text that means a number and stays as it was typed, without outer blanks
 };
 
-// One value of a line and the place that it goes to. An `int` place is a zero-based position in a
-// list whose first entry is `von`.
+// One value of a line and the place that it goes to.
 struct Feld {
     Feldart Art;
-    std::variant<std::uint8_t*, int*, double*, std::string*> Platz;
+    std::variant<std::uint8_t*, int*, double*, std::string*, Zahlwert*> Platz;
     int von = 0;
     int bis = 0;
-    bool mit_Komma = true;    // a decimal comma counts as a point
-    bool abwaehlbar = false;  // the number before `von` leaves the list without a selection
+    bool ist_Position = false;  // the place holds the zero-based position in a list whose first entry is `von`
+    bool mit_Komma = true;      // a decimal comma counts as a point
+    bool abwaehlbar = false;    // the number before `von` leaves the list without a selection
+
+    // What the number in the record is above the one in the place.
+    int Versatz() const { return ist_Position ? von : 0; }
 };
 
 // The walk through a record. Throws what its kind of walk throws.
@@ -60,15 +63,16 @@ public:
     static constexpr std::string_view Trennlinientext = "-----------------------------------------------";
 };
 
-// The description of each kind. A reader's walk changes parameters and fields value by value.
-void gehe_durch_Szenario(Satzgang& g, Laufparameter& p, Eingabe& e);
-void gehe_durch_Applikation(Satzgang& g, Eingabe& e);
+// The description of each kind. A reader's walk changes input and view value by value; a writer's needs a copy of them, for
+// what depends on a value just passed is adjusted on the way.
+void gehe_durch_Szenario(Satzgang& g, Eingabe& e);
+void gehe_durch_Applikation(Satzgang& g, Eingabe& e, Ansicht& a);
 
 // The compound record in the three pieces that tell apart what an error means: lines 1 and 2, the
 // flags of line 3, and the rest. `Zaehler` follows the loop over the studies.
-void gehe_durch_Wirkstoffkopf(Satzgang& g, Laufparameter& p);
-void gehe_durch_Ausgabename(Satzgang& g, Laufparameter& p);
-void gehe_durch_Wirkstoffdaten(Satzgang& g, Laufparameter& p, Eingabe& e, int& Zaehler);
+void gehe_durch_Wirkstoffkopf(Satzgang& g, Eingabe& e);
+void gehe_durch_Ausgabename(Satzgang& g, Eingabe& e);
+void gehe_durch_Wirkstoffdaten(Satzgang& g, Eingabe& e, Ansicht& a, int& Zaehler);
 
 // "7" is not valid for "Unit:" (0 to 1)
 std::string ausserhalb(std::string_view Wertetext, std::string_view Feldname, const Feld& f);

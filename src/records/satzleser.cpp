@@ -88,14 +88,14 @@ void Satzleser::lies(const Feld& f, std::string_view Text) {
             *std::get<std::string*>(f.Platz) = aus_Windows_1252(Text);
             return;
         case Feldart::Zahltext:
-            *std::get<std::string*>(f.Platz) = allgemeine_Zahl(lies_Zahl(f, Text), Dezimalzeichen_);
+            *std::get<Zahlwert*>(f.Platz) = allgemeine_Zahl(lies_Zahl(f, Text), Dezimalzeichen_);
             return;
         case Feldart::Tageszahl:
-            *std::get<std::string*>(f.Platz) = Text.empty() ? "" : zweistellig(lies_Zahl(f, Text));
+            *std::get<Zahlwert*>(f.Platz) = Text.empty() ? "" : zweistellig(lies_Zahl(f, Text));
             return;
         case Feldart::Rohzahl:
             lies_Zahl(f, Text);
-            *std::get<std::string*>(f.Platz) = aus_Windows_1252(Text);
+            *std::get<Zahlwert*>(f.Platz) = aus_Windows_1252(Text);
             return;
     }
 }
@@ -110,8 +110,7 @@ double Satzleser::lies_Zahl(const Feld& f, std::string_view Text) {
 
 void Satzleser::lies_ganze_Zahl(const Feld& f, std::string_view Text) {
     const double Zahl = lies_Zahl(f, Text);
-    const bool ist_Position = std::holds_alternative<int*>(f.Platz);
-    const int Versatz = ist_Position ? f.von : 0;
+    const int Versatz = f.Versatz();
     const auto Ganze = ganze_Zahl(Zahl - Versatz, f.von - Versatz, f.bis - Versatz);
     if (f.abwaehlbar && ganze_Zahl(Zahl - Versatz, -1, -1)) *std::get<int*>(f.Platz) = -1;
     if (!Ganze || (f.Art == Feldart::Kennzahl && *Ganze != Zahl)) melde_Wert(ausserhalb(Auszug(Text), Name_, f));
@@ -120,7 +119,6 @@ void Satzleser::lies_ganze_Zahl(const Feld& f, std::string_view Text) {
     }
     if (const auto Platz = std::get_if<std::uint8_t*>(&f.Platz)) **Platz = static_cast<std::uint8_t>(*Ganze);
     if (const auto Platz = std::get_if<int*>(&f.Platz)) **Platz = *Ganze;
-    if (const auto Platz = std::get_if<double*>(&f.Platz)) **Platz = *Ganze;
 }
 
 void Satzleser::melde_Wert(const std::string& Grund) {

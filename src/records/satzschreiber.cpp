@@ -45,14 +45,15 @@ void Satzschreiber::schreibe(const Feld& f) {
 
 std::string Satzschreiber::als_Text(const Feld& f) const {
     if (const auto Platz = std::get_if<std::string*>(&f.Platz)) return **Platz;
+    if (const auto Platz = std::get_if<Zahlwert*>(&f.Platz)) return (*Platz)->Text();
     if (f.Art == Feldart::Zahl) return als_Zahltext(*std::get<double*>(f.Platz));
 
-    double Zahl = 0;
+    int Zahl = 0;
     if (const auto Platz = std::get_if<std::uint8_t*>(&f.Platz)) Zahl = **Platz;
-    if (const auto Platz = std::get_if<double*>(&f.Platz)) Zahl = **Platz;
-    if (const auto Platz = std::get_if<int*>(&f.Platz)) Zahl = **Platz + f.von;
-    if (!(Zahl >= f.von && Zahl <= f.bis && Zahl == std::nearbyint(Zahl))) melde(ausserhalb(allgemeine_Zahl(Zahl), Name_, f));
-    return allgemeine_Zahl(Zahl);
+    if (const auto Platz = std::get_if<int*>(&f.Platz)) Zahl = **Platz;
+    Zahl += f.Versatz();
+    if (Zahl < f.von || Zahl > f.bis) melde(ausserhalb(std::to_string(Zahl), Name_, f));
+    return std::to_string(Zahl);
 }
 
 std::string Satzschreiber::als_Zahltext(double Zahl) const {

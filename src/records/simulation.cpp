@@ -22,15 +22,17 @@ constexpr std::array<const char*, 4> Zeilennamen = {"the description", "the name
 Simulationssatz lies_Simulation(const Projektordner& Ordner, const std::string& Name) {
     const std::string Datei = Name + Endungen[Simulation];
     const auto Pfad = Ordner.finde(Name, Endungen[Simulation]);
-    if (!Pfad) throw Laufzeitfehler("File " + Datei + " is missing in the folder \"" + Ordner.Eingabeordner() + "\"");
+    if (!Pfad) throw Laufzeitfehler("File " + Datei + " is missing in the folder \"" + Ordner.Eingabeordner() + "\"", {Datei});
     const std::string Bytes = lies_Datei(*Pfad);
     Zeilenfolge Zeilen(Bytes);
     Simulationssatz Satz;
     for (std::size_t i = 0; i < Zeilennamen.size(); ++i) {
         const auto Zeile = Zeilen.naechste();
         if (!Zeile) {
-            throw Laufzeitfehler("File " + Datei + ", line " + std::to_string(i + 1) + ": the file ends before " +
-                                 Zeilennamen[i]);
+            const int Nummer = Zeilen.Nummer() + 1;
+            throw Laufzeitfehler(
+                "File " + Datei + ", line " + std::to_string(Nummer) + ": the file ends before " + Zeilennamen[i],
+                {Datei, Nummer});
         }
         (i == 0 ? Satz.Beschreibung : Satz.Dateinamen[i]) = aus_Windows_1252(*Zeile);
     }

@@ -43,8 +43,9 @@ void stelle_Voreinstellungen_her(const Projektordner& Ordner, const std::vector<
         const auto andere = Vorlagen_der(Quellen, Vorlage);
         const auto Pfad = andere.empty() ? Ordner.finde(Vorlagenname, Endung) : std::optional(andere.back());
         if (!Pfad)
-            throw Laufzeitfehler("The template \"" + std::string(Vorlagenname) + Endung + "\" is missing in " +
-                                 Ordner.Eingabeordner());
+            throw Laufzeitfehler(
+                "The template \"" + std::string(Vorlagenname) + Endung + "\" is missing in " + Ordner.Eingabeordner(),
+                {std::string(Vorlagenname) + Endung});
         Inhalte[i] = lies_Datei(*Pfad);
     }
     for (std::size_t i = 0; i < Inhalte.size(); ++i)

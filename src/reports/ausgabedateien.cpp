@@ -39,15 +39,14 @@ std::string schreibe_Ausgabedatei(const std::string& Ordner, const std::string& 
     return Pfad;
 }
 
-std::string Laufprotokoll(const Lauf& l) {
-    const Ergebnisspeicher& s = l.Speicher;
-    const auto Plateau = s.Reihe_Plateautiefe(0, l.i_studie, l.i_substanz, 0);
-    const auto Boden = s.Reihe_Bodentiefe(0, l.i_studie, l.i_substanz, 0);
+std::string Laufprotokoll(const Ergebnis& e) {
+    const Endpunktergebnis& Stoff = e.Stoffwerte.back().Endpunktwerte[Gesamtgehalt];
+    const auto& [erste_Bildung, zweite_Bildung] = e.Bildung_Plateautiefe;
     std::string Text;
     for (std::size_t d = 0; d <= static_cast<std::size_t>(letzter_Tag); ++d) {
         Text += std::to_string(d);
-        for (const float Zelle : {Plateau[d], Boden[d], s.Bildung_Plateautiefe[0][d], s.Bildung_Plateautiefe[1][d]}) {
-            Text += "\t" + allgemeine_Zahl(Zelle);
+        for (const auto* Reihe : {&Stoff.Reihe_Plateautiefe, &Stoff.Reihe_Bodentiefe, &erste_Bildung, &zweite_Bildung}) {
+            Text += "\t" + allgemeine_Zahl(Reihe->at(d));
         }
         Text += "\r\n";
     }
@@ -70,8 +69,8 @@ std::string Nebenausgaben::schreibe_Zeichnung(const Projektordner& Ordner, const
     return schreibe(d.Zusammenfassung ? Ordner.Pfad() : Ausgabeordner(Ordner), d.Datei.Dateiname, Bytes);
 }
 
-std::string Nebenausgaben::schreibe_Laufprotokoll(const Projektordner& Ordner, const Lauf& l) {
-    return schreibe(Ausgabeordner(Ordner), Laufprotokoll_Name, Laufprotokoll(l));
+std::string Nebenausgaben::schreibe_Laufprotokoll(const Projektordner& Ordner, const Ergebnis& e) {
+    return schreibe(Ausgabeordner(Ordner), Laufprotokoll_Name, Laufprotokoll(e));
 }
 
 }  // namespace varnok

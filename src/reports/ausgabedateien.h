@@ -6,8 +6,8 @@
 #include <string>
 
 #include "diagrams/diagramm.h"
+#include "exposure/ergebnis.h"
 #include "records/projektordner.h"
-#include "run/lauf.h"
 
 namespace varnok {
 
@@ -21,10 +21,10 @@ std::string Ausgabeordner(const Projektordner& Ordner);
 // Returns the path. Throws Laufzeitfehler that names what could not be made and the reason.
 std::string schreibe_Ausgabedatei(const std::string& Ordner, const std::string& Dateiname, const std::string& Bytes);
 
-// What the last run of a study leaves for diagnosis: a line for each day 0 to 3649 of the compound calculated last,
+// What the run of a study leaves for diagnosis: a line for each day 0 to 3649 of the last compound of the scheme,
 // tab separated: day, series in tillage depth and in soil depth (total soil), then the amounts formed of the first and
-// the second metabolite in the tillage depth.
-std::string Laufprotokoll(const Lauf& l);
+// the second metabolite in the tillage depth. Needs a result with series.
+std::string Laufprotokoll(const Ergebnis& e);
 
 // By-products never stop a drawing or a run: what goes wrong with a file is told once as long as the object lives.
 class Nebenausgaben {
@@ -32,7 +32,7 @@ public:
     // The texts return what to tell the user, empty if there is nothing to tell.
     // The text file of a drawing: the day series goes to `output`, the numbers of a summary diagram beside it.
     std::string schreibe_Zeichnung(const Projektordner& Ordner, const Diagramm& d);
-    std::string schreibe_Laufprotokoll(const Projektordner& Ordner, const Lauf& l);
+    std::string schreibe_Laufprotokoll(const Projektordner& Ordner, const Ergebnis& e);
 
 private:
     std::string schreibe(const std::string& Ordner, const std::string& Dateiname, const std::string& Bytes);

@@ -6,33 +6,31 @@
 #include <algorithm>
 
 #include "base/laufzeitfehler.h"
-#include "diagrams/ansicht.h"
+#include "exposure/bezeichnungen.h"
 #include "records/projektordner.h"
-#include "reports/berichtswoerter.h"
 
 namespace varnok {
 namespace {
-
-constexpr int Hintergrund = 1;  // position of "Background" in `PEC_Typ`
 
 // Places of `Ausgabename_Teile`; the first one, the product, changes nothing.
 enum Namensteil : std::size_t { Studie = 1, Kinetik = 2, Endpunkt = 3, Datum = 4, Zeit = 5 };
 // What the extended report makes of them.
 enum erweiterter_Namensteil : std::size_t { Jahre_erweitert = 4, Datum_erweitert = 5, Zeit_erweitert = 6 };
 
-bool will(const Lauf& l, std::size_t Teil) { return l.Parameter.Ausgabename_Teile[Teil] == 1; }
+bool will(const Darstellung& d, std::size_t Teil) { return d.Namen.Parameter.Ausgabename_Teile[Teil] == 1; }
 
-std::string Endpunktteil(const Lauf& l) {
-    return std::string(" - ") + Berichtswort::Endpunkt.at(static_cast<std::size_t>(l.Felder.Endpunkt)) + " conc";
+std::string Endpunktteil(const Darstellung& d) { return " - " + std::string(Endpunktnamen[d.Sicht.Endpunkt]) + " conc"; }
+
+std::string Kinetikname(const Ergebnis& e, int c) {
+    const Kinetikart Art = e.Vorgabe->Parameter.Kinetik[static_cast<std::size_t>(c)][static_cast<std::size_t>(e.i_studie)];
+    return std::string(Kinetiknamen.at(Art));
 }
 
-std::string Kinetikname(const Lauf& l, int c) { return std::string(Kinetiktext(l, c, l.Felder.Studie_Index)); }
-
-std::string Kinetikteil(const Lauf& l) {
-    const int Anzahl = Anzahl_Stoffe(l.Felder.Berechnungsmodus);
-    if (Anzahl == 1) return " - " + Kinetikname(l, 0);
-    std::string Teil = " - (" + Kinetikname(l, 0);
-    for (int c = 1; c < Anzahl; ++c) Teil += " - " + Kinetikname(l, c);
+std::string Kinetikteil(const Ergebnis& e) {
+    const int Anzahl = Anzahl_Stoffe(e.Vorgabe->Berechnungsmodus);
+    if (Anzahl == 1) return " - " + Kinetikname(e, 0);
+    std::string Teil = " - (" + Kinetikname(e, 0);
+    for (int c = 1; c < Anzahl; ++c) Teil += " - " + Kinetikname(e, c);
     return Teil + ")";
 }
 
@@ -62,22 +60,22 @@ std::string Datum_als_Text(const Berichtszeit& z) { return ersetzt(z.Datum, '/')
 
 std::string Zeit_als_Text(const Berichtszeit& z) { return ersetzt(Anfang(z.Zeit, 5), ':'); }
 
-std::string Ausgabename_Standardbericht(const Lauf& l, const Berichtszeit& z) {
-    std::string Name = l.Felder.Beschreibung;
-    if (will(l, Studie)) Name += " - " + l.Felder.Studie.at(static_cast<std::size_t>(l.Felder.Studie_Index));
-    if (will(l, Kinetik)) Name += Kinetikteil(l);
-    if (will(l, Endpunkt)) Name += Endpunktteil(l);
-    if (will(l, Datum)) Name += " - " + Datum_als_Text(z);
-    if (will(l, Zeit)) Name += " - " + Zeit_als_Text(z);
+std::string Ausgabename_Standardbericht(const Darstellung& d, const Berichtszeit& z) {
+    std::string Name = d.Namen.Beschreibung;
+    if (will(d, Studie)) Name += " - " + d.Namen.Studie.at(static_cast<std::size_t>(d.Sicht.Studie_Index));
+    if (will(d, Kinetik)) Name += Kinetikteil(d.Studie());
+    if (will(d, Endpunkt)) Name += Endpunktteil(d);
+    if (will(d, Datum)) Name += " - " + Datum_als_Text(z);
+    if (will(d, Zeit)) Name += " - " + Zeit_als_Text(z);
     return Name;
 }
 
-std::string Ausgabename_erweiterter_Bericht(const Lauf& l, const Berichtszeit& z) {
-    std::string Name = l.Felder.Beschreibung;
-    if (will(l, Endpunkt)) Name += Endpunktteil(l);
-    if (will(l, Jahre_erweitert)) Name += l.Felder.PEC_Typ == Hintergrund ? " - 10 years" : " - 1 year";
-    if (will(l, Datum_erweitert)) Name += " - " + Datum_als_Text(z);
-    if (will(l, Zeit_erweitert)) Name += " - " + Zeit_als_Text(z);
+std::string Ausgabename_erweiterter_Bericht(const Darstellung& d, const Berichtszeit& z) {
+    std::string Name = d.Namen.Beschreibung;
+    if (will(d, Endpunkt)) Name += Endpunktteil(d);
+    if (will(d, Jahre_erweitert)) Name += d.Sicht.PEC_Typ == Hintergrund ? " - 10 years" : " - 1 year";
+    if (will(d, Datum_erweitert)) Name += " - " + Datum_als_Text(z);
+    if (will(d, Zeit_erweitert)) Name += " - " + Zeit_als_Text(z);
     return Name;
 }
 

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "base/schnittstellen.h"
-#include "run/lauf.h"
+#include "exposure/darstellung.h"
 
 namespace varnok {
 
@@ -25,11 +25,11 @@ std::string Zeit_als_Text(const Berichtszeit& z);
 
 // Name of the report of the selected study, without folder and extension: the description of the simulation and
 // the parts that `Ausgabename_Teile` wants.
-std::string Ausgabename_Standardbericht(const Lauf& l, const Berichtszeit& z);
+std::string Ausgabename_Standardbericht(const Darstellung& d, const Berichtszeit& z);
 
 // Name of the report of all studies. The flags stand one place further on than in the standard report: year, date
 // and time hang on those of date, time and on one that no option sets.
-std::string Ausgabename_erweiterter_Bericht(const Lauf& l, const Berichtszeit& z);
+std::string Ausgabename_erweiterter_Bericht(const Darstellung& d, const Berichtszeit& z);
 
 // Throws Laufzeitfehler that names the name and what is wrong with it if no file can have it.
 void pruefe_Ausgabename(const std::string& Name);

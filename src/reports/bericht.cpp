@@ -13,11 +13,17 @@ namespace varnok {
 namespace {
 
 struct Berichtsroutinen {
-    std::string (*Name)(const Lauf&, const Berichtszeit&);
-    std::string (*Text)(const Lauf&, const Berichtsangaben&);
+    std::string (*Name)(const Darstellung&, const Berichtszeit&);
+    std::string (*Text)(const Darstellung&, const Berichtsangaben&);
 };
 constexpr std::array<Berichtsroutinen, 2> Routinen = {
     {{Ausgabename_Standardbericht, erstelle_Standardbericht}, {Ausgabename_erweiterter_Bericht, erstelle_erweiterten_Bericht}}};
+
+std::vector<std::string> Stoffnamen(const Darstellung& d) {
+    std::vector<std::string> Namen;
+    for (int c = 0; c < Anzahl_Stoffe(d.Vorgabe().Berechnungsmodus); ++c) Namen.push_back(Stoffname(d.Namen, c));
+    return Namen;
+}
 
 std::unique_ptr<QTextDocument> leeres_Dokument() {
     auto Dokument = std::make_unique<QTextDocument>();
@@ -33,25 +39,25 @@ std::unique_ptr<QTextDocument> leeres_Dokument() {
 
 }  // namespace
 
-Diagramm erstelle_Berichtsdiagramm(const Lauf& l, Berichtsart Art) {
+Diagramm erstelle_Berichtsdiagramm(const Darstellung& d, Berichtsart Art) {
     Diagrammbereiche b;
-    setze_Bereiche_nach_Ansicht(b, l.Felder.PEC_Typ);
-    const int Schema = l.Felder.Berechnungsmodus;
-    const int st = l.Felder.Studie_Index;
+    setze_Bereiche_nach_Ansicht(b, d.Sicht.PEC_Typ);
+    const Stoffschema Schema = d.Vorgabe().Berechnungsmodus;
+    const int st = d.Sicht.Studie_Index;
     if (Art == Berichtsart::erweitert)
-        return erstelle_Diagramm_Zusammenfassung(l, b, Zusammenfassungssatz_von(Schema, 0), st, false);
-    return erstelle_Diagramm(l, b, Diagrammsatz_von(Schema, 0), st);
+        return erstelle_Diagramm_Zusammenfassung(d, b, Zusammenfassungssatz_von(Schema, 0), st, false);
+    return erstelle_Diagramm(d, b, Diagrammsatz_von(Schema, 0), st);
 }
 
 Bericht schreibe_Bericht(const Berichtsauftrag& a) {
     const Berichtsroutinen& r = Routinen.at(static_cast<std::size_t>(a.Art));
     Bericht b;
-    b.Name = r.Name(a.Rechnung, a.Zeitpunkt);
+    b.Name = r.Name(a.Inhalt, a.Zeitpunkt);
     pruefe_Ausgabename(b.Name);
-    b.Text = r.Text(a.Rechnung, {a.Programmversion, a.Zeitpunkt.Datum, a.Zeitpunkt.Zeit});
+    b.Text = r.Text(a.Inhalt, {a.Programmversion, a.Zeitpunkt.Datum, a.Zeitpunkt.Zeit, a.Applikationssatz});
     b.Dokument = leeres_Dokument();
     Textauswahl w(*b.Dokument, QString::fromStdString(b.Text));
-    formatiere_Bericht(w, b.Text, a.Rechnung.Felder, a.Art);
+    formatiere_Bericht(w, b.Text, Stoffnamen(a.Inhalt), a.Art);
 
     const Zeichenliste Bild = mit_Beschriftung(a.Bild, a.Legende);
     merke_Zeichnung(*b.Dokument, Bild);

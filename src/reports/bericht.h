@@ -9,15 +9,16 @@
 
 #include "diagrams/beschriftung.h"
 #include "diagrams/diagramm.h"
+#include "exposure/darstellung.h"
 #include "reports/ausgabenamen.h"
 #include "reports/berichtsabschnitte.h"
-#include "run/lauf.h"
 
 namespace varnok {
 
 struct Berichtsauftrag {
-    const Lauf& Rechnung;
+    Darstellung Inhalt;
     Berichtsart Art = Berichtsart::Standard;  // the selected study, or all studies
+    std::string Applikationssatz;             // name of the application pattern record, which stands as that of the scenario
     std::string Programmversion;
     Berichtszeit Zeitpunkt;
     // The diagram in front, built anew, without labels in it.
@@ -34,7 +35,7 @@ struct Bericht {
 };
 
 // The diagram of a report without a window: the parent's, over the time that the view starts with.
-Diagramm erstelle_Berichtsdiagramm(const Lauf& l, Berichtsart Art);
+Diagramm erstelle_Berichtsdiagramm(const Darstellung& d, Berichtsart Art);
 
 // Makes the report; nothing is written. Needs a QGuiApplication; may run in any thread. Throws Laufzeitfehler: no file can
 // have the name, a parameter has no text.

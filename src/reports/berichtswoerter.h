@@ -1,9 +1,7 @@
 #pragma once
 
 // Words of the reports that two places must agree on: headlines are written by the text and found again by the
-// formatting, and the endpoint's name stands in tables and in file names.
-
-#include <array>
+// formatting.
 
 namespace varnok::Berichtswort {
 
@@ -19,7 +17,5 @@ inline constexpr const char* Anreicherung =
 inline constexpr const char* Warnungsanfang = "In the simulation a final";
 inline constexpr const char* Bildkopf = "GRAPHIC REPRESENTATION OF THE CALCULATION";
 inline constexpr const char* Bildplatz = "A diagram should appear here!";
-
-inline constexpr std::array<const char*, 2> Endpunkt = {"total soil", "pore water"};
 
 }  // namespace varnok::Berichtswort

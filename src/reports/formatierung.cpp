@@ -69,12 +69,12 @@ void formatiere_Block(Textauswahl& w, const char* Kopf, int Farbe) {
     w.Farbe(Farbe);
 }
 
-void formatiere_Stoff(Textauswahl& w, const Eingabe& e, int i_substanz) {
+void formatiere_Stoff(Textauswahl& w, const std::string& Name, bool Metabolit) {
     w.setze(0, 0);
-    w.suche(Wort(Berichtswort::Stoffkopf) + QString::fromStdString(Stoffname(e, i_substanz)));
+    w.suche(Wort(Berichtswort::Stoffkopf) + QString::fromStdString(Name));
     w.fett();
     w.groesse(12);
-    if (i_substanz > 0) {
+    if (Metabolit) {
         w.bis_Ende();
         w.Farbe(Blau);
     }
@@ -104,10 +104,11 @@ void formatiere_Warnungen(Textauswahl& w, const std::string& Berichtstext) {
 
 }  // namespace
 
-void formatiere_Bericht(Textauswahl& w, const std::string& Berichtstext, const Eingabe& e, Berichtsart Art) {
+void formatiere_Bericht(Textauswahl& w, const std::string& Berichtstext, const std::vector<std::string>& Stoffnamen,
+                        Berichtsart Art) {
     formatiere_Kopf(w);
     formatiere_Ergebniskopf(w, Art);
-    for (int c = 0; c < Anzahl_Stoffe(e.Berechnungsmodus); ++c) formatiere_Stoff(w, e, c);
+    for (std::size_t c = 0; c < Stoffnamen.size(); ++c) formatiere_Stoff(w, Stoffnamen[c], c > 0);
     w.suche(Wort(Berichtswort::Bildkopf));
     w.bis_Ende();
     w.Farbe(Blau);

@@ -1,10 +1,10 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "reports/berichtsabschnitte.h"
 #include "reports/textauswahl.h"
-#include "run/eingabe.h"
 
 namespace varnok {
 
@@ -14,6 +14,8 @@ inline constexpr const char* Berichtsschrift = "Times New Roman";
 
 // Formats a report step by step: each step searches for words of the text and works on what it finds, so that a
 // compound called like a headline draws a format to itself. Afterwards the document holds everything but the picture.
-void formatiere_Bericht(Textauswahl& w, const std::string& Berichtstext, const Eingabe& e, Berichtsart Art);
+// `Stoffnamen` are those of the scheme, parent first.
+void formatiere_Bericht(Textauswahl& w, const std::string& Berichtstext, const std::vector<std::string>& Stoffnamen,
+                        Berichtsart Art);
 
 }  // namespace varnok

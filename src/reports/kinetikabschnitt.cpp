@@ -13,6 +13,10 @@ struct Platz {
     std::size_t st;
 };
 
+Platz Platz_von(const Ergebnis& r, int i_substanz) {
+    return {static_cast<std::size_t>(i_substanz), static_cast<std::size_t>(r.i_studie)};
+}
+
 using Groesse = double (*)(const Laufparameter&, Platz);
 
 // A line of a kinetics block; the two reports spell some labels in their own way.
@@ -56,9 +60,7 @@ constexpr std::array<Kinetikblock, 4> Kinetikbloecke = {{{"Single First order (S
                                                          {"First Order Multi Compartment (FOMC)", FOMC_Zeilen},
                                                          {"Hockey Stick (HS)", HS_Zeilen}}};
 
-const Kinetikblock& Block_von(const Lauf& l, Platz i) {
-    return Kinetikbloecke.at(static_cast<std::size_t>(l.Parameter.Kinetik[i.c][i.st]));
-}
+const Kinetikblock& Block_von(const Laufparameter& p, Platz i) { return Kinetikbloecke.at(p.Kinetik[i.c][i.st]); }
 
 // The standard report asks `k_SFO` whatever the kinetics, the extended one the rate constant of the line.
 bool zeigt_DT50(const Laufparameter& p, Platz i, const Kinetikzeile& z, Berichtsart Art) {
@@ -68,11 +70,11 @@ bool zeigt_DT50(const Laufparameter& p, Platz i, const Kinetikzeile& z, Berichts
 // Without degradation there is no half-life, and 0 stands for it as on the screen.
 std::string DT50_Text(const char* Beschriftung, double k) { return k > 0 ? Parametertext(Beschriftung, std::log(2.0) / k) : "0"; }
 
-void haenge_Kinetikzeilen_an(Textaufbau& t, const Lauf& l, Platz i, Berichtsart Art) {
-    for (const Kinetikzeile& z : Block_von(l, i).Zeilen) {
-        if (z.DT50 && !zeigt_DT50(l.Parameter, i, z, Art)) continue;
+void haenge_Kinetikzeilen_an(Textaufbau& t, const Laufparameter& p, Platz i, Berichtsart Art) {
+    for (const Kinetikzeile& z : Block_von(p, i).Zeilen) {
+        if (z.DT50 && !zeigt_DT50(p, i, z, Art)) continue;
         const char* Beschriftung = Art == Berichtsart::Standard ? z.Standard : z.erweitert;
-        const double Wert = z.Wert(l.Parameter, i);
+        const double Wert = z.Wert(p, i);
         t.Zeile(Beschriftung, z.DT50 ? DT50_Text(Beschriftung, Wert) : Parametertext(Beschriftung, Wert));
     }
 }
@@ -87,36 +89,39 @@ void haenge_Korrektur_an(Textaufbau& t, const Laufparameter& p, Platz i, const c
 
 constexpr const char* Bezugstemperatur = "Ref. temperature (°C):";
 
-void haenge_Stoff_an(Textaufbau& t, const Lauf& l, int c) {
-    const Platz i{static_cast<std::size_t>(c), static_cast<std::size_t>(l.Felder.Studie_Index)};
-    t.Text({"Kinetics for ", Berichtsname(l.Felder, c), ":\t", Block_von(l, i).Name}, 1);
-    haenge_Kinetikzeilen_an(t, l, i, Berichtsart::Standard);
-    haenge_Korrektur_an(t, l.Parameter, i, Bezugstemperatur);
+void haenge_Stoff_an(Textaufbau& t, const Darstellung& d, int c) {
+    const Laufparameter& p = d.Vorgabe().Parameter;
+    const Platz i = Platz_von(d.Studie(), c);
+    t.Text({"Kinetics for ", Berichtsname(d, c), ":\t", Block_von(p, i).Name}, 1);
+    haenge_Kinetikzeilen_an(t, p, i, Berichtsart::Standard);
+    haenge_Korrektur_an(t, p, i, Bezugstemperatur);
 }
 
-void haenge_Stoff_aller_Studien_an(Textaufbau& t, const Lauf& l, int c) {
-    const char* Temperatur = l.Felder.Berechnungsmodus == 0 ? "TReference (°C):" : Bezugstemperatur;
-    t.Text({"Kinetics for ", Berichtsname(l.Felder, c), ":\t"}, 2);
-    for (std::size_t st = 0; st < l.Felder.Studie.size(); ++st) {
-        const Platz i{static_cast<std::size_t>(c), st};
-        t.Zeile("Soil study:              ", l.Felder.Studie[st], 2);
-        t.Text({Block_von(l, i).Name}, 1);
-        haenge_Kinetikzeilen_an(t, l, i, Berichtsart::erweitert);
-        haenge_Korrektur_an(t, l.Parameter, i, Temperatur);
+void haenge_Stoff_aller_Studien_an(Textaufbau& t, const Darstellung& d, int c) {
+    const char* Temperatur = d.Vorgabe().Berechnungsmodus == nur_Wirkstoff ? "TReference (°C):" : Bezugstemperatur;
+    t.Text({"Kinetics for ", Berichtsname(d, c), ":\t"}, 2);
+    for (int st = 0; st < d.Namen.Studienzahl(); ++st) {
+        const Ergebnis& r = d.Studie(st);
+        const Laufparameter& p = r.Vorgabe->Parameter;
+        const Platz i = Platz_von(r, c);
+        t.Zeile("Soil study:              ", d.Namen.Studie[static_cast<std::size_t>(st)], 2);
+        t.Text({Block_von(p, i).Name}, 1);
+        haenge_Kinetikzeilen_an(t, p, i, Berichtsart::erweitert);
+        haenge_Korrektur_an(t, p, i, Temperatur);
     }
 }
 
 }  // namespace
 
-void haenge_Kinetik_an(Textaufbau& t, const Lauf& l, Berichtsart Art) {
-    const Eingabe& e = l.Felder;
+void haenge_Kinetik_an(Textaufbau& t, const Darstellung& d, Berichtsart Art) {
+    const Stoffschema Schema = d.Vorgabe().Berechnungsmodus;
     t.Text({"DEGRADATION KINETICS PARAMETERS CONSIDERED FOR THE CALCULATION"}, 2);
     if (Art == Berichtsart::Standard) {
-        t.Zeile("Soil study:              ", e.Studie.at(static_cast<std::size_t>(e.Studie_Index)), 2);
+        t.Zeile("Soil study:              ", d.Namen.Studie.at(static_cast<std::size_t>(d.Sicht.Studie_Index)), 2);
     }
-    t.Zeile("Metabolism scheme:", Schemaname(e.Berechnungsmodus), 2);
+    t.Zeile("Metabolism scheme:", Schemaname(Schema), 2);
     const auto haenge_an = Art == Berichtsart::Standard ? haenge_Stoff_an : haenge_Stoff_aller_Studien_an;
-    for (int c = 0; c < Anzahl_Stoffe(e.Berechnungsmodus); ++c) haenge_an(t, l, c);
+    for (int c = 0; c < Anzahl_Stoffe(Schema); ++c) haenge_an(t, d, c);
 }
 
 }  // namespace varnok

@@ -13,7 +13,7 @@ class Abbau_SFO final : public Abbau {
 public:
     using Abbau::Abbau;
 
-    void korrigiere(const Korrektur& k) override { Rest_ = std::exp(-k.korrigiert(l_.Parameter.k_SFO[0][Studie()])); }
+    void korrigiere(const Korrektur& k) override { Rest_ = std::exp(-k.korrigiert(l_.Felder.Parameter.k_SFO[0][Studie()])); }
 
     void baue_ab(int d, int Anzahl) override {
         for (int s = 1; s <= Anzahl; ++s) baue_ab(Reihen_.Plateau[s] + d);
@@ -29,11 +29,11 @@ private:
 // DFOP: two compartments of double precision, each with its own rate; the store holds their sum.
 class Abbau_DFOP final : public Abbau {
 public:
-    explicit Abbau_DFOP(Lauf& l) : Abbau(l), g_(l.Parameter.g_DFOP[0][Studie()]) {}
+    explicit Abbau_DFOP(Lauf& l) : Abbau(l), g_(l.Felder.Parameter.g_DFOP[0][Studie()]) {}
 
     void korrigiere(const Korrektur& k) override {
-        Rest_ = {std::exp(-k.korrigiert(l_.Parameter.k1_DFOP[0][Studie()])),
-                 std::exp(-k.korrigiert(l_.Parameter.k2_DFOP[0][Studie()]))};
+        Rest_ = {std::exp(-k.korrigiert(l_.Felder.Parameter.k1_DFOP[0][Studie()])),
+                 std::exp(-k.korrigiert(l_.Felder.Parameter.k2_DFOP[0][Studie()]))};
     }
 
     void baue_ab(int d, int Anzahl) override {
@@ -92,9 +92,10 @@ private:
 // one in the soil depth rises back to the height of its reference day without a dose.
 class Abbau_FOMC final : public Abbau {
 public:
-    explicit Abbau_FOMC(Lauf& l) : Abbau(l), alpha_(l.Parameter.alpha_FOMC[Studie()]), beta_(l.Parameter.beta_FOMC[Studie()]) {
-        if (beta_ == 0) melde_unmoegliche_Rechnung("FOMC beta = 0");
-        if (l.Parameter.Separate_Rueckstaende != 0) bestimme_Bezugstage();
+    explicit Abbau_FOMC(Lauf& l)
+        : Abbau(l), alpha_(l.Felder.Parameter.alpha_FOMC[Studie()]), beta_(l.Felder.Parameter.beta_FOMC[Studie()]) {
+        if (beta_ == 0) melde_unmoegliche_Rechnung("FOMC beta = 0", {{}, 0, "beta_FOMC", l.i_studie, 0});
+        if (l.Felder.Parameter.Separate_Rueckstaende != 0) bestimme_Bezugstage();
     }
 
     void korrigiere(const Korrektur& k) override { Faktor_ = k.Faktor(); }
@@ -111,7 +112,7 @@ public:
 
     void beginne_Slot(int Slot, int d) override {
         Zeit_[static_cast<std::size_t>(Slot)] = 0;
-        if (l_.Parameter.Separate_Rueckstaende != 0) return;
+        if (l_.Felder.Parameter.Separate_Rueckstaende != 0) return;
         Bezugstag_Plateau_[1] = d;
         if (Jahr_von(d) == 1) Bezugstag_Boden_[1] = d;
     }
@@ -148,12 +149,12 @@ public:
 
     void korrigiere(const Korrektur& k) override {
         Faktor_ = k.Faktor();
-        Rest_vor_ = std::exp(-k.korrigiert(l_.Parameter.k1_HS[Studie()]));
-        Rest_nach_ = std::exp(-k.korrigiert(l_.Parameter.k2_HS[Studie()]));
+        Rest_vor_ = std::exp(-k.korrigiert(l_.Felder.Parameter.k1_HS[Studie()]));
+        Rest_nach_ = std::exp(-k.korrigiert(l_.Felder.Parameter.k2_HS[Studie()]));
     }
 
     void baue_ab(int d, int Anzahl) override {
-        const double Tb = l_.Parameter.Tb_HS[Studie()];
+        const double Tb = l_.Felder.Parameter.Tb_HS[Studie()];
         for (int s = 1; s <= Anzahl; ++s) {
             double& Zeit = Zeit_[static_cast<std::size_t>(s)];
             Zeit += Faktor_;
@@ -191,12 +192,12 @@ void Abbau::vereinige(int alter_Slot, int Slot, int d) {
 }
 
 std::unique_ptr<Abbau> erstelle_Abbau(Lauf& l) {
-    const double Kinetik = l.Parameter.Kinetik[0][static_cast<std::size_t>(l.i_studie)];
+    const Kinetikart Kinetik = l.Felder.Parameter.Kinetik[0][static_cast<std::size_t>(l.i_studie)];
     if (Kinetik == SFO) return std::make_unique<Abbau_SFO>(l);
     if (Kinetik == DFOP) return std::make_unique<Abbau_DFOP>(l);
     if (Kinetik == FOMC) return std::make_unique<Abbau_FOMC>(l);
     if (Kinetik == HS) return std::make_unique<Abbau_HS>(l);
-    melde_unmoegliche_Rechnung("kinetics of the parent = " + allgemeine_Zahl(Kinetik));
+    melde_unmoegliche_Rechnung("kinetics of the parent = " + std::to_string(Kinetik), {{}, 0, "Kinetik", l.i_studie, 0});
 }
 
 }  // namespace varnok

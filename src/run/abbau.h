@@ -41,7 +41,10 @@ inline void waechst_um(float& Speicher, double Zuwachs) {
 class Abbau {
 public:
     explicit Abbau(Lauf& l)
-        : l_(l), Reihen_(l), Tiefe_Boden_(l.Parameter.Bodentiefe / 10), Tiefe_Plateau_(l.Parameter.Plateautiefe / 10) {}
+        : l_(l),
+          Reihen_(l),
+          Tiefe_Boden_(l.Felder.Parameter.Bodentiefe / 10),
+          Tiefe_Plateau_(l.Felder.Parameter.Plateautiefe / 10) {}
     virtual ~Abbau() = default;
     Abbau(const Abbau&) = delete;
     Abbau& operator=(const Abbau&) = delete;

@@ -12,20 +12,22 @@ namespace {
 
 enum Spalte { Tag = 0, Monat = 1, Rate = 2, Bedeckung = 3 };
 
-// The part of a rate that reaches the soil, g/ha.
-double Nettodosis(const std::string& Ratentext, const std::string& Interzeptionstext) {
-    const double Dosis = Wert(Ratentext) * (100 - Wert(Interzeptionstext)) / 100;
+// The same, checked. `Tabellenzeile` counts from 1, 0 outside the table.
+double gepruefte_Dosis(const Zahlwert& Rate, const Zahlwert& Interzeption, int Tabellenzeile = 0) {
+    const double Dosis = Nettodosis(Rate, Interzeption);
     if (!std::isfinite(static_cast<float>(Dosis))) {
-        melde_unmoegliche_Rechnung("Application rate (g/ha) = " + Ratentext + ", Crop interception (%) = " + Interzeptionstext);
+        melde_unmoegliche_Rechnung(
+            "Application rate (g/ha) = " + Rate.Text() + ", Crop interception (%) = " + Interzeption.Text(),
+            {.Datei = {}, .Zeile = Tabellenzeile, .Feld = "Applikationsrate"});
     }
     return Dosis;
 }
 
 // Day of the year of a table row, counted from 0; nothing outside a year of 365 days.
 std::optional<int> Jahrestag(const Applikationszeile& Zeile) {
-    const auto Monatszahl = ganze_Zahl(Wert(Zeile[Monat]), -32768, 32767);
+    const auto Monatszahl = ganze_Zahl(Zeile[Monat].Zahl(), -32768, 32767);
     if (!Monatszahl) return std::nullopt;
-    return ganze_Zahl(Julian(*Monatszahl) + Wert(Zeile[Tag]) - 1, 0, Tage_pro_Jahr - 1);
+    return ganze_Zahl(Julian(*Monatszahl) + Zeile[Tag].Zahl() - 1, 0, Tage_pro_Jahr - 1);
 }
 
 void trage_ein(Ergebnisspeicher& s, int Ereignis, int Tag, double Dosis) {
@@ -35,31 +37,33 @@ void trage_ein(Ergebnisspeicher& s, int Ereignis, int Tag, double Dosis) {
 
 // The year's doses, each decayed from its day to the day of the last one; `Exponent(i)` is that of event i.
 template <class Funktion>
-double wirksame_Rate(const Ergebnisspeicher& s, int n, double k, Funktion Exponent) {
+double wirksame_Rate(const Ergebnisspeicher& s, int i_studie, int n, double k, Funktion Exponent) {
     double Summe = 0;
     for (int i = 1; i <= n; ++i) {
         const auto d = static_cast<std::size_t>(s.Applikationstag[static_cast<std::size_t>(i)]);
         Summe += static_cast<double>(s.Tagesrate[d]) * std::exp(Exponent(i));
     }
-    if (!std::isfinite(Summe)) melde_unmoegliche_Rechnung("SFO k (1/d) = " + allgemeine_Zahl(k));
+    if (!std::isfinite(Summe)) {
+        melde_unmoegliche_Rechnung("SFO k (1/d) = " + allgemeine_Zahl(k), {{}, 0, "k_SFO", i_studie, 0});
+    }
     return Summe;
 }
 
-void lade_regelmaessig(Ergebnisspeicher& s, int n, int Intervall, double Dosis, double k) {
+void lade_regelmaessig(Ergebnisspeicher& s, int i_studie, int n, int Intervall, double Dosis, double k) {
     for (int i = 1; i <= n; ++i) trage_ein(s, i, (i - 1) * Intervall, Dosis);
     s.Anzahl_pro_Jahr = static_cast<std::int16_t>(n);
-    s.Wirksame_Rate = wirksame_Rate(s, n, k, [&](int i) { return -k * (n - i) * Intervall; });
+    s.Wirksame_Rate = wirksame_Rate(s, i_studie, n, k, [&](int i) { return -k * (n - i) * Intervall; });
 }
 
 // False if the dates do not ascend.
-bool lade_unregelmaessig(const Eingabe& e, Ergebnisspeicher& s, double k) {
+bool lade_unregelmaessig(const Eingabe& e, Ergebnisspeicher& s, int i_studie, double k) {
     const int n = e.Anzahl();
     int davor = -1;
     for (int i = 1; i <= n; ++i) {
         const Applikationszeile& Zeile = e.Applikationsschema[static_cast<std::size_t>(i - 1)];
         const auto d = Jahrestag(Zeile);
         if (!d || *d <= davor) return false;
-        trage_ein(s, i, *d, Nettodosis(Zeile[Rate], Zeile[Bedeckung]));
+        trage_ein(s, i, *d, gepruefte_Dosis(Zeile[Rate], Zeile[Bedeckung], i));
         davor = *d;
     }
     // The time axis starts with the first application, whatever its date.
@@ -73,7 +77,7 @@ bool lade_unregelmaessig(const Eingabe& e, Ergebnisspeicher& s, double k) {
     s.Anzahl_pro_Jahr = static_cast<std::int16_t>(n);
     const int letzter = s.Applikationstag[static_cast<std::size_t>(n)];
     s.Wirksame_Rate =
-        wirksame_Rate(s, n, k, [&](int i) { return -k * (letzter - s.Applikationstag[static_cast<std::size_t>(i)]); });
+        wirksame_Rate(s, i_studie, n, k, [&](int i) { return -k * (letzter - s.Applikationstag[static_cast<std::size_t>(i)]); });
     return true;
 }
 
@@ -91,28 +95,30 @@ void wiederhole_jaehrlich(Ergebnisspeicher& s) {
 
 }  // namespace
 
+double Nettodosis(const Zahlwert& Rate, const Zahlwert& Interzeption) { return Rate.Zahl() * (100 - Interzeption.Zahl()) / 100; }
+
 std::optional<Tabellenzelle> Tabelle_mit_Applikationen_berechne_PEC(Eingabe& e) {
     for (int i = 0; i < e.Anzahl(); ++i) {
         Applikationszeile& Zeile = e.Applikationsschema[static_cast<std::size_t>(i)];
-        if (Wert(Zeile[Tag]) == 0) return Tabellenzelle{i, Tag};
-        if (Wert(Zeile[Monat]) == 0) return Tabellenzelle{i, Monat};
+        if (Zeile[Tag].Zahl() == 0) return Tabellenzelle{i, Tag};
+        if (Zeile[Monat].Zahl() == 0) return Tabellenzelle{i, Monat};
         if (!Jahrestag(Zeile)) return Tabellenzelle{i, Tag};
-        if (Wert(Zeile[Bedeckung]) >= 100) Zeile[Bedeckung] = "99";
+        if (Zeile[Bedeckung].Zahl() >= 100) Zeile[Bedeckung] = "99";
     }
     return std::nullopt;
 }
 
-bool Lade_Applikationen(const Eingabe& e, const Laufparameter& Parameter, int i_studie, Ergebnisspeicher& s) {
+bool Lade_Applikationen(const Eingabe& e, int i_studie, Ergebnisspeicher& s) {
     s.Tagesrate.fill(0);
     s.Wirksame_Rate = 0;
     // The plateau of the closed series needs the SFO constant as it stands, also under another kinetics.
-    const double k = Parameter.k_SFO[0][static_cast<std::size_t>(i_studie)];
+    const double k = e.Parameter.k_SFO[0][static_cast<std::size_t>(i_studie)];
     if (e.Applikationsmuster == unregelmaessig) {
-        if (!lade_unregelmaessig(e, s, k)) return false;
+        if (!lade_unregelmaessig(e, s, i_studie, k)) return false;
     } else {
         const int n = e.Applikationsmuster == einzeln ? 1 : e.Anzahl();
         const int Intervall = std::min(e.Intervall(), laengstes_Intervall(n));  // as its list does
-        lade_regelmaessig(s, n, Intervall, Nettodosis(e.Applikationsrate, e.Interzeption), k);
+        lade_regelmaessig(s, i_studie, n, Intervall, gepruefte_Dosis(e.Applikationsrate, e.Interzeption), k);
     }
     wiederhole_jaehrlich(s);
     return true;

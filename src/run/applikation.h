@@ -4,7 +4,6 @@
 
 #include "run/eingabe.h"
 #include "run/ergebnisspeicher.h"
-#include "run/laufparameter.h"
 
 namespace varnok {
 
@@ -19,9 +18,12 @@ struct Tabellenzelle {
 // shift the slots of all later ones.
 std::optional<Tabellenzelle> Tabelle_mit_Applikationen_berechne_PEC(Eingabe& e);
 
+// Net dose of a single or regular pattern: the part of the rate that reaches the soil, g/ha.
+double Nettodosis(const Zahlwert& Rate, const Zahlwert& Interzeption);
+
 // Spreads the doses over the time axis: fills `Tagesrate`, `Applikationstag`, `Anzahl_pro_Jahr` and
 // `Wirksame_Rate` for a study. False if the dates of an irregular pattern do not ascend.
 // Throws Laufzeitfehler for a dose that is not finite.
-bool Lade_Applikationen(const Eingabe& e, const Laufparameter& Parameter, int i_studie, Ergebnisspeicher& Speicher);
+bool Lade_Applikationen(const Eingabe& e, int i_studie, Ergebnisspeicher& Speicher);
 
 }  // namespace varnok

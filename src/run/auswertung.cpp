@@ -11,7 +11,8 @@ namespace varnok {
 void pruefe_Konzentration(const Lauf& l, int d, float Plateau, float Boden) {
     if (std::isfinite(Plateau) && std::isfinite(Boden)) return;
     melde_unmoegliche_Rechnung("concentration of " + Stoffname(l.Felder, l.i_substanz) + " on day " + std::to_string(d) + " = " +
-                               allgemeine_Zahl(Plateau) + ", " + allgemeine_Zahl(Boden));
+                                   allgemeine_Zahl(Plateau) + ", " + allgemeine_Zahl(Boden),
+                               {{}, 0, {}, l.i_studie, l.i_substanz});
 }
 
 Tagesauswertung::Tagesauswertung(Lauf& l)

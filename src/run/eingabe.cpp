@@ -1,5 +1,7 @@
 #include "run/eingabe.h"
 
+#include <algorithm>
+
 #include "run/kalender.h"
 
 namespace varnok {
@@ -12,6 +14,19 @@ void waehle_Anzahl(Eingabe& e, int Anzahl) {
 
 const std::string& Stoffname(const Eingabe& e, int i_substanz) {
     return i_substanz == 0 ? e.Name_Wirkstoff : i_substanz == 1 ? e.Name_Met_1 : e.Name_Met_2;
+}
+
+const Zahlwert& Molmasse(const Eingabe& e, int i_substanz) {
+    return i_substanz == 0 ? e.Molmasse_Wirkstoff : i_substanz == 1 ? e.Molmasse_Met_1 : e.Molmasse_Met_2;
+}
+
+const Zahlwert& Bildungsanteil(const Eingabe& e, int i_substanz) {
+    return i_substanz == 1 ? e.Bildungsanteil_Met_1 : e.Bildungsanteil_Met_2;
+}
+
+std::string Klimatext(const Eingabe& e) {
+    if (e.Parameter.Klimamodus == 1) return e.Klimaszenario;
+    return std::to_string(static_cast<int>(e.Parameter.Szenariotemperatur)) + " °C constant";
 }
 
 }  // namespace varnok

@@ -62,6 +62,10 @@ void Ergebnisspeicher::leere_Studie(int i_studie) {
         Maximum_Plateautiefe[e][st].fill(0);
         Maximum_Bodentiefe[e][st].fill(0);
         for (auto& Jahreswerte : Jahresmaximum[e][st]) std::fill(Jahreswerte.begin() + 1, Jahreswerte.end(), 0.0F);
+        Plateauwert[e][st] = {};
+        Plateauzuwachs[e][st] = {};
+        Plateautext[e][st] = {};
+        Plateauprozent[e][st] = {};
     }
     leere(Plateau_.get(), i_studie, Slots_Plateau);
     leere(Boden_.get(), i_studie, Slots_Boden);
@@ -74,9 +78,6 @@ void Ergebnisspeicher::verwirf_Studie(int i_studie) {
     leere_Studie(i_studie);
     const auto st = static_cast<std::size_t>(i_studie);
     for (std::size_t e = 0; e < Endpunkte; ++e) {
-        Plateauwert[e][st] = {};
-        Plateauzuwachs[e][st] = {};
-        Plateautext[e][st] = {};
         TWA_Maximum[e][st] = {};
         TWA_Starttag[e][st] = {};
     }

@@ -39,7 +39,7 @@ public:
     Tagesreihe Integral_Bodentiefe(int i_endpunkt, int i_studie, int i_substanz);
     Tagesreihe_lesend Integral_Bodentiefe(int i_endpunkt, int i_studie, int i_substanz) const;
 
-    // Clears what a run of the study writes: its series, integral and maxima, the doses and the formation.
+    // Clears what a run of the study writes: its series, integral, maxima and background, the doses and the formation.
     void leere_Studie(int i_studie);
     // The same, and what is derived from the series: nothing of the study stands as a result.
     void verwirf_Studie(int i_studie);
@@ -62,9 +62,9 @@ public:
     Ergebnistabelle<float> Plateauwert{};
     Ergebnistabelle<double> Plateauzuwachs{};
     Ergebnistabelle<std::string> Plateautext{};
+    Ergebnistabelle<double> Plateauprozent{};  // the number of that text
     Ergebnistabelle<float> Plateaujahr{};
 
-    std::array<float, TWA_Plaetze> TWA_Tage{};
     Ergebnistabelle<std::array<float, TWA_Plaetze>> TWA_Maximum{};
     Ergebnistabelle<std::array<std::int16_t, TWA_Plaetze>> TWA_Starttag{};
 

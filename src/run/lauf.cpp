@@ -13,17 +13,16 @@ namespace {
 
 using Rechnung = void (*)(Lauf&);
 
-// One compound of a metabolism scheme. `Diagrammsatz` 3, 7 and 11 are the places of the combined diagrams.
+// One compound of a metabolism scheme.
 struct Schritt {
     int i_substanz;
-    int Diagrammsatz;
     enum { Stamm, Metabolit_1, Metabolit_2 } Art;
 };
 
-constexpr Schritt Schema_0[] = {{0, 0, Schritt::Stamm}};
-constexpr Schritt Schema_1[] = {{0, 1, Schritt::Stamm}, {1, 2, Schritt::Metabolit_1}};
-constexpr Schritt Schema_2[] = {{0, 4, Schritt::Stamm}, {1, 5, Schritt::Metabolit_1}, {2, 6, Schritt::Metabolit_1}};
-constexpr Schritt Schema_3[] = {{0, 8, Schritt::Stamm}, {1, 9, Schritt::Metabolit_1}, {2, 10, Schritt::Metabolit_2}};
+constexpr Schritt Schema_0[] = {{0, Schritt::Stamm}};
+constexpr Schritt Schema_1[] = {{0, Schritt::Stamm}, {1, Schritt::Metabolit_1}};
+constexpr Schritt Schema_2[] = {{0, Schritt::Stamm}, {1, Schritt::Metabolit_1}, {2, Schritt::Metabolit_1}};
+constexpr Schritt Schema_3[] = {{0, Schritt::Stamm}, {1, Schritt::Metabolit_1}, {2, Schritt::Metabolit_2}};
 constexpr std::array<std::span<const Schritt>, 4> Schemata = {Schema_0, Schema_1, Schema_2, Schema_3};
 
 Rechnung Rechnung_fuer(const Schritt& s, const Rechenschritte& r) {
@@ -32,12 +31,11 @@ Rechnung Rechnung_fuer(const Schritt& s, const Rechenschritte& r) {
 }
 
 void rechne_Stoffe(Lauf& l, const Rechenschritte& r) {
-    pruefe_Boden(l.Parameter);
+    pruefe_Boden(l.Felder.Parameter);
     const auto Schema = static_cast<std::size_t>(l.Felder.Berechnungsmodus);
     if (Schema >= Schemata.size()) return;
     for (const Schritt& s : Schemata[Schema]) {
         l.i_substanz = s.i_substanz;
-        l.Diagrammsatz = s.Diagrammsatz;
         Rechnung_fuer(s, r)(l);
         r.berechne_Plateau(l);
         r.berechne_TWA(l);
@@ -47,10 +45,11 @@ void rechne_Stoffe(Lauf& l, const Rechenschritte& r) {
 // False if the scenario wants a climate file that cannot be opened.
 bool lade_Klima(Lauf& l, const Klimaquelle& Quelle) {
     l.Klima = Wetter();
-    if (l.Parameter.Klimamodus != 1) return true;
+    if (l.Felder.Parameter.Klimamodus != 1) return true;
     auto Tage = Quelle.lade(l.Felder.Klimaszenario);
     if (!Tage) return false;
-    if (Tage->empty()) throw Laufzeitfehler("The climate file \"" + l.Felder.Klimaszenario + "\" holds no day.");
+    if (Tage->empty())
+        throw Laufzeitfehler("The climate file \"" + l.Felder.Klimaszenario + "\" holds no day.", {{}, 0, "Klimaszenario"});
     l.Klima = Wetter(std::move(*Tage), l.Felder.App_Monat, l.Felder.App_Tag);
     return true;
 }
@@ -80,7 +79,7 @@ Laufergebnis berechne_PEC(Lauf& l, int i_studie, const Klimaquelle& Quelle, cons
     }
     l.i_studie = i_studie;
     l.Speicher.leere_Studie(i_studie);
-    if (!Lade_Applikationen(l.Felder, l.Parameter, i_studie, l.Speicher)) return {Laufausgang::Datumsfolge_ungueltig};
+    if (!Lade_Applikationen(l.Felder, i_studie, l.Speicher)) return {Laufausgang::Datumsfolge_ungueltig};
     try {
         if (!lade_Klima(l, Quelle)) {
             l.Speicher.verwirf_Studie(i_studie);

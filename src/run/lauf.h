@@ -6,7 +6,6 @@
 #include "run/eingabe.h"
 #include "run/ergebnisspeicher.h"
 #include "run/klima.h"
-#include "run/laufparameter.h"
 
 namespace varnok {
 
@@ -25,13 +24,11 @@ struct Tageswerte {
 // One calculation: what goes in, what comes out and where it stands. A value without ties to
 // anything outside; runs in different threads do not know of each other.
 struct Lauf {
-    Laufparameter Parameter;
     Eingabe Felder;
     Ergebnisspeicher Speicher;
 
     int i_studie = 0;
     int i_substanz = 0;
-    int Diagrammsatz = 0;
     Tageswerte Tag;
     Wetter Klima;
     std::vector<std::string> Warnungen;  // of the last run, each once

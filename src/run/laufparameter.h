@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string>
 
+#include "run/arten.h"
 #include "run/zeitachse.h"
 
 namespace varnok {
@@ -30,11 +31,13 @@ constexpr Stofftabelle<T> fuer_alle(T Wert) {
     return Tabelle;
 }
 
-// Codes of `Kinetik`.
-inline constexpr int SFO = 0;
-inline constexpr int DFOP = 1;
-inline constexpr int FOMC = 2;  // parent only
-inline constexpr int HS = 3;    // parent only
+// Lengths of the averaging windows in days, of both lists; they belong to the settings.
+struct TWA_Listen {
+    std::array<double, 10> EU = {1, 2, 4, 7, 14, 21, 28, 42, 50, 100};
+    std::array<double, 12> Monat = {30, 60, 90, 120, 150, 180, 210, 240, 270, 300, 330, 360};
+
+    friend bool operator==(const TWA_Listen&, const TWA_Listen&) = default;
+};
 
 // The run parameters that all parts of the program share. The values set here are those of a
 // program that has read no record yet.
@@ -57,13 +60,12 @@ struct Laufparameter {
     std::uint8_t Rechenmodus = 0;                     // carried through the record
 
     // compounds
-    std::uint8_t Anzahl_Studien = 1;
     Stofftabelle<double> KOC = fuer_alle(0.0);  // L/kg
     Stofftabelle<double> Q10 = fuer_alle(1.0);
     Stofftabelle<double> Walker = fuer_alle(0.0);
-    Stofftabelle<double> TRef = fuer_alle(20.0);    // degrees C
-    Stofftabelle<double> Kinetik = fuer_alle(0.0);  // a code as a whole number
-    Stofftabelle<double> k_SFO = fuer_alle(0.01);   // 1/d
+    Stofftabelle<double> TRef = fuer_alle(20.0);  // degrees C
+    Stofftabelle<Kinetikart> Kinetik = fuer_alle(SFO);
+    Stofftabelle<double> k_SFO = fuer_alle(0.01);  // 1/d
     Stofftabelle<double> k1_DFOP = fuer_alle(0.01);
     Stofftabelle<double> k2_DFOP = fuer_alle(0.01);
     Stofftabelle<double> g_DFOP = fuer_alle(0.5);
@@ -73,9 +75,7 @@ struct Laufparameter {
     Studientabelle<double> k2_HS = ueberall(0.01);
     Studientabelle<double> Tb_HS = ueberall(10.0);  // d
 
-    // averaging windows, days; places count from 0
-    std::array<double, 10> TWA_Liste_EU = {1, 2, 4, 7, 14, 21, 28, 42, 50, 100};
-    std::array<double, 12> TWA_Liste_Monat = {30, 60, 90, 120, 150, 180, 210, 240, 270, 300, 330, 360};
+    TWA_Listen TWA;
 
     friend bool operator==(const Laufparameter&, const Laufparameter&) = default;
 };

@@ -9,14 +9,15 @@ namespace {
 using Stoffwert = Stofftabelle<double> Laufparameter::*;
 using Studienwert = Studientabelle<double> Laufparameter::*;
 
-constexpr std::array<Stoffwert, 5> ortsfest = {&Laufparameter::KOC, &Laufparameter::Q10, &Laufparameter::Walker,
-                                               &Laufparameter::TRef, &Laufparameter::Kinetik};
+constexpr std::array<Stoffwert, 4> ortsfest = {&Laufparameter::KOC, &Laufparameter::Q10, &Laufparameter::Walker,
+                                               &Laufparameter::TRef};
 constexpr std::array<Stoffwert, 4> Konstanten_je_Stoff = {&Laufparameter::k_SFO, &Laufparameter::k1_DFOP, &Laufparameter::k2_DFOP,
                                                           &Laufparameter::g_DFOP};
 constexpr std::array<Studienwert, 5> Konstanten = {&Laufparameter::alpha_FOMC, &Laufparameter::beta_FOMC, &Laufparameter::k1_HS,
                                                    &Laufparameter::k2_HS, &Laufparameter::Tb_HS};
 
-void uebernimm(Studientabelle<double>& Tabelle, const Studientabelle<double>& Start, std::size_t ab) {
+template <class T>
+void uebernimm(Studientabelle<T>& Tabelle, const Studientabelle<T>& Start, std::size_t ab) {
     std::copy(Start.begin() + static_cast<std::ptrdiff_t>(ab), Start.end(), Tabelle.begin() + static_cast<std::ptrdiff_t>(ab));
 }
 
@@ -29,6 +30,7 @@ void ruecke_vor(Studientabelle<double>& Tabelle, std::size_t Studie, std::size_t
 void setze_Startwerte(Laufparameter& p, std::size_t ab) {
     const Laufparameter Start;
     for (std::size_t i = 0; i < Stoffe; ++i) {
+        uebernimm(p.Kinetik[i], Start.Kinetik[i], ab);
         for (const Stoffwert w : ortsfest) uebernimm((p.*w)[i], (Start.*w)[i], ab);
         for (const Stoffwert w : Konstanten_je_Stoff) uebernimm((p.*w)[i], (Start.*w)[i], ab);
     }

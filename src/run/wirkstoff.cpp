@@ -20,10 +20,13 @@ struct Bildungsweg {
 std::vector<Bildungsweg> lies_Bildungswege(const Eingabe& e) {
     const int Metaboliten = Anzahl_Stoffe(e.Berechnungsmodus) - 1;
     if (Metaboliten == 0) return {};
-    const double Molmasse = Wert(e.Molmasse_Wirkstoff);
-    if (Molmasse == 0) melde_unmoegliche_Rechnung("molar mass of " + e.Name_Wirkstoff + " = " + e.Molmasse_Wirkstoff);
-    std::vector<Bildungsweg> Wege = {{Wert(e.Bildungsanteil_Met_1) / 100, Wert(e.Molmasse_Met_1) / Molmasse}};
-    if (Metaboliten == 2) Wege.push_back({Wert(e.Bildungsanteil_Met_2) / 100, Wert(e.Molmasse_Met_2) / Molmasse});
+    const double Molmasse = e.Molmasse_Wirkstoff.Zahl();
+    if (Molmasse == 0) {
+        melde_unmoegliche_Rechnung("molar mass of " + e.Name_Wirkstoff + " = " + e.Molmasse_Wirkstoff.Text(),
+                                   {{}, 0, "Molmasse", -1, 0});
+    }
+    std::vector<Bildungsweg> Wege = {{e.Bildungsanteil_Met_1.Zahl() / 100, e.Molmasse_Met_1.Zahl() / Molmasse}};
+    if (Metaboliten == 2) Wege.push_back({e.Bildungsanteil_Met_2.Zahl() / 100, e.Molmasse_Met_2.Zahl() / Molmasse});
     return Wege;
 }
 
@@ -51,7 +54,7 @@ private:
     void summiere(int d);
     double Konzentration(int d, double Tiefe) const;
 
-    bool getrennt() const { return l_.Parameter.Separate_Rueckstaende != 0; }
+    bool getrennt() const { return l_.Felder.Parameter.Separate_Rueckstaende != 0; }
 
     Lauf& l_;
     Reihenpaar Reihen_;
@@ -66,14 +69,14 @@ private:
 // Concentration of the dose of day d in a depth in cm: g/ha over dm and kg/L gives mg/kg.
 double Wirkstofflauf::Konzentration(int d, double Tiefe) const {
     const double Rate = static_cast<double>(l_.Speicher.Tagesrate[static_cast<std::size_t>(d)]);
-    const double Einheitenfaktor = l_.Parameter.Einheit == 0 ? 1 : 1000;
-    return (Rate / 1000) / ((Tiefe / 10) * l_.Parameter.Bodendichte) * Einheitenfaktor;
+    const double Einheitenfaktor = l_.Felder.Parameter.Einheit == 0 ? 1 : 1000;
+    return (Rate / 1000) / ((Tiefe / 10) * l_.Felder.Parameter.Bodendichte) * Einheitenfaktor;
 }
 
 void Wirkstofflauf::rechne_Tag_0() {
     if (l_.Speicher.Tagesrate[0] > 0) {
-        const auto Plateau = static_cast<float>(Konzentration(0, l_.Parameter.Plateautiefe));
-        const auto Boden = static_cast<float>(Konzentration(0, l_.Parameter.Bodentiefe));
+        const auto Plateau = static_cast<float>(Konzentration(0, l_.Felder.Parameter.Plateautiefe));
+        const auto Boden = static_cast<float>(Konzentration(0, l_.Felder.Parameter.Bodentiefe));
         // In constant climate too, day 0 sees the mean moisture: it is set to field capacity from day 1 on.
         const double PW = PW_faktor(l_, l_.i_studie, 0);
         const auto Plateau_Wasser = static_cast<float>(static_cast<double>(Plateau) / PW);
@@ -153,11 +156,11 @@ void Wirkstofflauf::appliziere(int d) {
     if (getrennt()) ++Anzahl_Slots_;
     const int Slot = Anzahl_Slots_;
     Abbau_->beginne_Slot(Slot, d);
-    if (l_.Parameter.Separate_Rueckstaende == 2 && Jahreswechsel_) {
+    if (l_.Felder.Parameter.Separate_Rueckstaende == 2 && Jahreswechsel_) {
         Jahreswechsel_ = false;
         for (int s = 1; s < Slot; ++s) Abbau_->vereinige(s, Slot, d);
     }
-    Abbau_->dosiere(Slot, d, Konzentration(d, l_.Parameter.Bodentiefe));
+    Abbau_->dosiere(Slot, d, Konzentration(d, l_.Felder.Parameter.Bodentiefe));
 }
 
 void Wirkstofflauf::summiere(int d) {

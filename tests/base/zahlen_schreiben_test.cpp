@@ -79,6 +79,22 @@ TEST(allgemeine_Zahl, reads_back_within_15_digits) {
     }
 }
 
+TEST(wie_im_Satz, keeps_15_digits_of_a_number) {
+    EXPECT_EQ(wie_im_Satz(1.0 / 3), 0.333333333333333);
+    EXPECT_NE(wie_im_Satz(1.0 / 3), 1.0 / 3);
+    // ln 2 divided by 68 days, by 0.7 days
+    EXPECT_EQ(wie_im_Satz(std::log(2.0) / 68), 0.0101933408905874);
+    EXPECT_EQ(wie_im_Satz(std::log(2.0) / 0.7), 0.990210257942779);
+}
+
+TEST(wie_im_Satz, leaves_a_number_of_15_digits_as_it_is) {
+    for (const double Zahl : {0.0, 1.0, -2.5, 0.1, 1e-5, 123456.789012345, 1e300, 5e-324}) EXPECT_EQ(wie_im_Satz(Zahl), Zahl);
+}
+
+TEST(wie_im_Satz, a_second_time_changes_nothing) {
+    for (double Zahl = 1e-9; Zahl < 1e9; Zahl *= 1.37) EXPECT_EQ(wie_im_Satz(wie_im_Satz(Zahl)), wie_im_Satz(Zahl));
+}
+
 TEST(feste_Zahl, as_many_places_as_asked_for) {
     EXPECT_EQ(feste_Zahl(1.0, 4), "1.0000");
     EXPECT_EQ(feste_Zahl(1.0, 1), "1.0");

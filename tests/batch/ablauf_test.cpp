@@ -29,10 +29,10 @@ struct Viele : testing::Test {
     Viele() {
         for (int i = 0; i < 9; ++i) {
             Probe p;
-            p.Felder.Berechnungsmodus = i % 4;
-            p.Parameter.Kinetik[0][0] = i % 4;
-            p.Parameter.Separate_Rueckstaende = static_cast<std::uint8_t>(i % 3);
-            p.Parameter.k_SFO[0][0] = 0.001 * (i + 1);
+            p.Felder.Berechnungsmodus = static_cast<Stoffschema>(i % 4);
+            p.Felder.Parameter.Kinetik[0][0] = static_cast<Kinetikart>(i % 4);
+            p.Felder.Parameter.Separate_Rueckstaende = static_cast<std::uint8_t>(i % 3);
+            p.Felder.Parameter.k_SFO[0][0] = 0.001 * (i + 1);
             p.Felder.Applikationsmuster = regelmaessig;
             waehle_Anzahl(p.Felder, 2 + i);
             if (i % 2 == 0) fuege_Studie_an(p, "Second");
@@ -103,8 +103,9 @@ TEST_F(Viele, runs_at_the_same_time_do_not_know_of_each_other) {
     const Auftrag Arbeit(Ordner);
     const std::vector<std::string> Namen = Ordner.Namen(Endungen[Simulation]);
     const auto alle = [&] {
+        std::unique_ptr<Lauf> Arbeitsplatz;
         std::vector<Simulationsausgang> Ausgaenge;
-        for (const std::string& n : Namen) Ausgaenge.push_back(rechne_Simulation(Arbeit, n));
+        for (const std::string& n : Namen) Ausgaenge.push_back(rechne_Simulation(Arbeit, n, Arbeitsplatz));
         return als_JSON(Ausgaenge);
     };
     const std::string einzeln = alle();
@@ -114,6 +115,17 @@ TEST_F(Viele, runs_at_the_same_time_do_not_know_of_each_other) {
         for (std::string& Text : gleichzeitig) Faeden.emplace_back([&] { Text = alle(); });
     }
     for (const std::string& Text : gleichzeitig) EXPECT_EQ(Text, einzeln);
+}
+
+TEST_F(Viele, workplace_may_be_the_same_for_all_or_a_new_one_for_each) {
+    const Projektordner Ordner(Projekt.Pfad());
+    const Auftrag Arbeit(Ordner);
+    std::unique_ptr<Lauf> gemeinsamer;
+    for (const std::string& n : Ordner.Namen(Endungen[Simulation])) {
+        std::unique_ptr<Lauf> eigener;
+        const std::string Text = als_JSON({rechne_Simulation(Arbeit, n, eigener)});
+        EXPECT_EQ(als_JSON({rechne_Simulation(Arbeit, n, gemeinsamer)}), Text) << n;
+    }
 }
 
 Umgebung Terminal(bool ist_eines) {

@@ -49,6 +49,44 @@ TEST_F(Berichte, the_extended_one_comes_with_its_option) {
     EXPECT_EQ(Namen("reports").size(), 2U);
 }
 
+// A report without the line that its clock changes.
+std::string ohne_Datum(const std::string& RTF) {
+    std::string Rest;
+    for (const std::string& Zeile : probe::Zeilen(RTF)) {
+        if (Zeile.find("Date of this simulation:") == std::string::npos) Rest += Zeile + "\n";
+    }
+    return Rest;
+}
+
+TEST_F(Berichte, the_extended_one_is_of_all_studies_whichever_study_is_chosen) {
+    Probe p;
+    fuege_Studie_an(p, "Second");
+    p.Felder.Parameter.k_SFO[0][1] = 0.002;
+    Projekt.schreibe("case", p);
+    rufe({"--report", Projekt.daneben("all"), "--extended", Projekt.Pfad()});
+    for (const char* Studie : {"1", "2"}) {
+        const std::string Ordner = std::string("chosen ") + Studie;
+        const auto r = rufe({"--study", Studie, "--report", Projekt.daneben(Ordner), "--extended", Projekt.Pfad()});
+        EXPECT_EQ(r.Status, 0) << r.fehler;
+        EXPECT_EQ(Namen(Ordner).size(), 2U);
+        for (const std::string& Name : Namen(Ordner)) {
+            if (Name.find("extended") == std::string::npos) continue;
+            const std::string RTF = Inhalt(Projekt.daneben(Ordner + "/" + Name));
+            EXPECT_THAT(RTF, HasSubstr("Second"));
+            EXPECT_EQ(ohne_Datum(RTF), ohne_Datum(Inhalt(Projekt.daneben("all/" + Name))));
+        }
+    }
+}
+
+TEST_F(Berichte, simulation_at_fault_writes_none) {
+    Probe p;
+    fuege_Studie_an(p, "Second");
+    Projekt.schreibe("case", p);
+    Projekt.ersetze_Zeile("case.che", 9 + 15 + 7, "SFO k (1/d):\t-1E+300\t0\t0");
+    EXPECT_EQ(rufe({"--report", Projekt.daneben("reports"), "--extended", Projekt.Pfad()}).Status, 1);
+    EXPECT_THAT(Namen("reports"), testing::IsEmpty());
+}
+
 TEST_F(Berichte, extended_without_report_is_a_wrong_call) {
     Projekt.schreibe("case");
     EXPECT_EQ(rufe({"--extended", Projekt.Pfad()}).Status, 2);

@@ -72,7 +72,7 @@ TEST(Batch_CSV, row_for_each_simulation_study_compound_and_endpoint) {
     Probeprojekt Projekt;
     Probe p;
     fuege_Studie_an(p, "Second");
-    p.Felder.Berechnungsmodus = 1;
+    p.Felder.Berechnungsmodus = ein_Metabolit;
     Projekt.schreibe("b", p);
     Projekt.schreibe("a");
     const auto r = rufe({"--all", "--csv", "-", Projekt.Pfad()});
@@ -92,7 +92,7 @@ TEST(Batch_CSV, row_for_each_simulation_study_compound_and_endpoint) {
 TEST(Batch_CSV, numbers_are_those_of_the_JSON) {
     Probeprojekt Projekt;
     Probe p;
-    p.Parameter.TWA_Zeiten = 0;
+    p.Felder.Parameter.TWA_Zeiten = 0;
     Projekt.schreibe("a", p);
     const Tabelle t = lies_CSV(rufe({"--csv", "-", Projekt.Pfad()}).aus);
     const auto JSON = rufe({"--json", "-", Projekt.Pfad()}).JSON();
@@ -123,14 +123,15 @@ TEST(Batch_CSV, windows_behind_the_list_are_empty) {
 TEST(Batch_CSV, text_with_commas_quotes_and_line_ends_is_quoted) {
     Simulationsausgang a;
     a.Ergebnis.Name = "one, two";
-    Studienergebnis s;
-    s.Name = "the \"field\" study";
-    Stoffergebnis c;
-    c.Name = "line\r\nend";
-    s.Stoffwerte.push_back(c);
-    a.Ergebnis.Studien.push_back(s);
+    Eingabe e;
+    e.Studie = {"the \"field\" study"};
+    e.Name_Wirkstoff = "line\r\nend";
+    Ergebnis s;
+    s.Vorgabe = a.Ergebnis.Vorgabe = std::make_shared<const Eingabe>(e);
+    s.Stoffwerte.resize(1);
+    a.Ergebnis.Studien.push_back(std::make_shared<const Ergebnis>(s));
     const std::string Text = als_CSV({a});
-    EXPECT_THAT(Text, testing::HasSubstr("\r\n\"one, two\",0,\"the \"\"field\"\" study\",0,\"line\r\nend\","));
+    EXPECT_THAT(Text, testing::HasSubstr("\r\n\"one, two\",1,\"the \"\"field\"\" study\",0,\"line\r\nend\","));
     const Tabelle t = lies_CSV(Text);
     ASSERT_EQ(t.size(), 3U);
     EXPECT_EQ(t[1][0], "one, two");

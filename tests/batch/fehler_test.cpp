@@ -154,7 +154,7 @@ class Unmoegliche_Werte : public Fehler, public testing::WithParamInterface<Null
 
 TEST_P(Unmoegliche_Werte, name_file_and_line) {
     const Nullfall& f = GetParam();
-    Vorlage.Felder.Berechnungsmodus = 3;
+    Vorlage.Felder.Berechnungsmodus = zwei_in_Folge;
     const std::string Meldung = Meldung_mit_Zeile(f.Endung, f.Zeile, f.Text);
     EXPECT_THAT(Meldung, HasSubstr(std::string("file bad") + f.Endung + ", line " + std::to_string(f.Zeile) + ": "));
     EXPECT_THAT(Meldung, HasSubstr("The calculation is not possible with these input data."));
@@ -201,9 +201,15 @@ TEST_F(Fehler, date_of_0_names_line_row_and_cell_of_the_table) {
               "You entered application dates that are not valid. Please correct!");
 }
 
+TEST_F(Fehler, dose_of_the_table_that_is_too_large_names_its_line) {
+    Projekt.schreibe("bad", mit_Tabelle({{"01", "04", "100", "0"}, {"15", "05", "1E+300", "0"}}));
+    EXPECT_THAT(Meldung_von_bad(),
+                testing::StartsWith("study 1 \"Field\": file bad.app, line 11: The calculation is not possible"));
+}
+
 Probe mit_Klimadatei() {
     Probe p;
-    p.Parameter.Klimamodus = 1;
+    p.Felder.Parameter.Klimamodus = 1;
     p.Felder.Klimaszenario = "weather";
     return p;
 }

@@ -55,9 +55,9 @@ TEST(Batch_JSON, keys_stand_in_the_order_of_the_contract) {
 
 TEST(Batch_JSON, simulation_tells_its_records_and_options) {
     Probe p;
-    p.Parameter.Separate_Rueckstaende = 2;
-    p.Parameter.TWA_Zeiten = 0;
-    p.Felder.Berechnungsmodus = 1;
+    p.Felder.Parameter.Separate_Rueckstaende = 2;
+    p.Felder.Parameter.TWA_Zeiten = 0;
+    p.Felder.Berechnungsmodus = ein_Metabolit;
     const JSON Dokument = gerechnet(p);
     const JSON& s = Dokument["simulations"][0];
     EXPECT_EQ(s["simulation"], "case");
@@ -75,7 +75,7 @@ TEST(Batch_JSON, simulation_tells_its_records_and_options) {
 TEST(Batch_JSON, compounds_are_those_of_the_scheme_with_both_endpoints) {
     for (int Schema = 0; Schema <= 3; ++Schema) {
         Probe p;
-        p.Felder.Berechnungsmodus = Schema;
+        p.Felder.Berechnungsmodus = static_cast<Stoffschema>(Schema);
         const JSON Dokument = gerechnet(p);
         const JSON& Stoffe_der_Studie = Dokument["simulations"][0]["studies"][0]["compounds"];
         ASSERT_EQ(Stoffe_der_Studie.size(), static_cast<std::size_t>(std::min(Schema, 2) + 1));
@@ -94,7 +94,7 @@ TEST(Batch_JSON, unit_follows_Einheit_and_endpoint) {
     const char* const Einheiten[2][2] = {{"mg/kg", "mg/L"}, {"µg/kg", "µg/L"}};
     for (const int Einheit : {0, 1}) {
         Probe p;
-        p.Parameter.Einheit = static_cast<std::uint8_t>(Einheit);
+        p.Felder.Parameter.Einheit = static_cast<std::uint8_t>(Einheit);
         const JSON Dokument = gerechnet(p);
         const JSON& Endpunktliste = Dokument["simulations"][0]["studies"][0]["compounds"][0]["endpoints"];
         EXPECT_EQ(Endpunktliste[0]["unit"], Einheiten[Einheit][0]);
@@ -115,7 +115,7 @@ TEST(Batch_JSON, applications_of_the_first_year_are_counted_from_the_first) {
 TEST(Batch_JSON, list_of_windows_is_that_of_TWA_Zeiten) {
     for (const int TWA_Zeiten : {0, 1}) {
         Probe p;
-        p.Parameter.TWA_Zeiten = static_cast<std::uint8_t>(TWA_Zeiten);
+        p.Felder.Parameter.TWA_Zeiten = static_cast<std::uint8_t>(TWA_Zeiten);
         const JSON Dokument = gerechnet(p);
         const JSON& TWA = Dokument["simulations"][0]["studies"][0]["compounds"][0]["endpoints"][0]["TWA"];
         std::vector<int> Tage;
@@ -132,7 +132,7 @@ TEST(Batch_JSON, windows_of_a_settings_file_replace_the_default_lists) {
     Probeprojekt Projekt;
     Projekt.schreibe("case");
     Einstellungen e;
-    e.TWA_Liste_EU = {1, 2.5, 3, 4, 5, 6, 7, 8, 9, 10};
+    e.TWA.EU = {1, 2.5, 3, 4, 5, 6, 7, 8, 9, 10};
     Projekt.schreibe_Bytes("../VARNOK.ini", Einstellungen_als_Bytes(e));
     const auto r = rufe({"--json", "-", "--settings", Projekt.Pfad() + "/VARNOK.ini", Projekt.Pfad()});
     ASSERT_EQ(r.Status, 0) << r.fehler;
@@ -147,10 +147,13 @@ TEST(Batch_JSON, windows_of_a_settings_file_replace_the_default_lists) {
 Simulationsausgang mit_krummen_Zahlen() {
     Simulationsausgang a;
     a.Ergebnis.Name = "Zürich \"A\"\\B";
-    Studienergebnis s;
+    Eingabe v;
+    v.Studie = {"Field"};
+    Ergebnis s;
+    s.Vorgabe = a.Ergebnis.Vorgabe = std::make_shared<const Eingabe>(v);
     s.Wirksame_Rate = 1.0 / 3;
-    Stoffergebnis c;
-    Endpunktergebnis& e = c.Endpunktwerte[0];
+    s.Stoffwerte.resize(1);
+    Endpunktergebnis& e = s.Stoffwerte[0].Endpunktwerte[0];
     e.Maximum_Bodentiefe = 0.1F;
     e.Maximum_Plateautiefe = 1.0F / 3;
     e.Jahresmaximum = {std::numeric_limits<float>::min(),
@@ -166,14 +169,13 @@ Simulationsausgang mit_krummen_Zahlen() {
     e.Plateauwert = 1e-30F;
     e.Plateauzuwachs = 0.1 + 0.2;
     e.TWA = {{2.5F, 0.7F, 3, 0.3F}};
-    s.Stoffwerte.push_back(c);
-    a.Ergebnis.Studien.push_back(s);
+    a.Ergebnis.Studien.push_back(std::make_shared<const Ergebnis>(s));
     return a;
 }
 
 TEST(Batch_JSON, reading_back_gives_the_same_single_and_double_precision_values) {
     const Simulationsausgang a = mit_krummen_Zahlen();
-    const Endpunktergebnis& e = a.Ergebnis.Studien[0].Stoffwerte[0].Endpunktwerte[0];
+    const Endpunktergebnis& e = a.Ergebnis.Studien[0]->Werte(Gesamtgehalt, 0);
     const JSON Dokument = JSON::parse(als_JSON({a}));
     const JSON& gelesen = Dokument["simulations"][0]["studies"][0]["compounds"][0]["endpoints"][0];
     EXPECT_EQ(gelesen["Maximum_Bodentiefe"].get<double>(), static_cast<double>(e.Maximum_Bodentiefe));

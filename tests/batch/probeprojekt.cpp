@@ -25,13 +25,13 @@ Ordner_auf_Zeit::~Ordner_auf_Zeit() {
 }
 
 Probe::Probe() {
-    Parameter.Bodendichte = 1.5;
-    Parameter.Bodentiefe = 5;
-    Parameter.Plateautiefe = 20;
-    Parameter.Kohlenstoffgehalt = 1;
-    Parameter.Feldkapazitaet = 30;
-    Parameter.Welkepunkt = 10;
-    for (auto& Reihe : Parameter.KOC) Reihe.fill(100);
+    Felder.Parameter.Bodendichte = 1.5;
+    Felder.Parameter.Bodentiefe = 5;
+    Felder.Parameter.Plateautiefe = 20;
+    Felder.Parameter.Kohlenstoffgehalt = 1;
+    Felder.Parameter.Feldkapazitaet = 30;
+    Felder.Parameter.Welkepunkt = 10;
+    for (auto& Reihe : Felder.Parameter.KOC) Reihe.fill(100);
     Felder.Beschreibung = "One application in spring";
     Felder.Studie = {"Field"};
     Felder.Name_Wirkstoff = "Parent";
@@ -42,13 +42,9 @@ Probe::Probe() {
     Felder.Bildungsanteil_Met_2 = "50";
     Felder.Applikationsschema = {{"01", "04", "500", "0"}, {"15", "05", "500", "0"}};
     Felder.Bodenszenario = "Sandy loam";
-    Felder.Klimaszenario = "20 °C constant";
 }
 
-void fuege_Studie_an(Probe& p, const std::string& Name) {
-    p.Felder.Studie.push_back(Name);
-    ++p.Parameter.Anzahl_Studien;
-}
+void fuege_Studie_an(Probe& p, const std::string& Name) { p.Felder.Studie.push_back(Name); }
 
 Probeprojekt::Probeprojekt() {
     fs::create_directories(Ordner_.Pfad / "project" / "input");
@@ -57,7 +53,7 @@ Probeprojekt::Probeprojekt() {
 
 void Probeprojekt::schreibe(const std::string& Simulation, const Probe& p) {
     const Projektordner Ordner(Pfad());
-    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) Satz_schreiben(Ordner, Simulation, Art, p.Parameter, p.Felder);
+    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) Satz_schreiben(Ordner, Simulation, Art, p.Felder, p.Sicht);
     schreibe_Simulation(Ordner, Simulation, {p.Felder.Beschreibung, {"", Simulation, Simulation, Simulation}});
     // Time stamps a minute apart, whatever the file system's resolution.
     const auto Zeit = fs::file_time_type::clock::now() + std::chrono::minutes(++Alter_);
@@ -90,12 +86,12 @@ void Probeprojekt::schreibe_Bytes(const std::string& Datei, const std::string& B
     if (!Strom.flush()) throw std::runtime_error("cannot write " + Datei);
 }
 
-Antwort rufe(const std::vector<std::string>& Argumente, const Umgebung& Umwelt) {
+Antwort rufe(const std::vector<std::string>& Argumente, const batch::Umgebung& Umwelt) {
     std::vector<const char*> argv = {"varnok-batch"};
     for (const std::string& a : Argumente) argv.push_back(a.c_str());
     std::ostringstream aus, fehler;
     Antwort r;
-    r.Status = varnok_batch(static_cast<int>(argv.size()), argv.data(), aus, fehler, Umwelt);
+    r.Status = batch::varnok_batch(static_cast<int>(argv.size()), argv.data(), aus, fehler, Umwelt);
     r.aus = aus.str();
     r.fehler = fehler.str();
     return r;

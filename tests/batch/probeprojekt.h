@@ -10,8 +10,8 @@
 
 #include "batch/varnok_batch.h"
 #include "records/projektordner.h"
+#include "run/ansicht.h"
 #include "run/eingabe.h"
-#include "run/laufparameter.h"
 
 namespace varnok::probe {
 
@@ -29,8 +29,8 @@ public:
 // What the three records of a simulation say: 1000 g/ha once, 5 cm of 1.5 kg/L, 20 cm for the plateau,
 // 1 % organic carbon, 30 and 10 Vol% of water, 20 degrees, and an SFO rate of 0.01 per day.
 struct Probe {
-    Laufparameter Parameter;
     Eingabe Felder;
+    Ansicht Sicht;
     Probe();
 };
 
@@ -71,7 +71,7 @@ struct Antwort {
 
 // varnok-batch with these arguments; standard error is no terminal.
 Antwort rufe(const std::vector<std::string>& Argumente);
-Antwort rufe(const std::vector<std::string>& Argumente, const Umgebung& Umwelt);
+Antwort rufe(const std::vector<std::string>& Argumente, const batch::Umgebung& Umwelt);
 
 std::string Inhalt(const std::string& Pfad);
 std::vector<std::string> Zeilen(const std::string& Text, const std::string& Ende = "\n");

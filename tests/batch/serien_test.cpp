@@ -39,7 +39,7 @@ TEST_F(Serien, header_and_a_line_for_each_day_from_0_to_3649) {
 
 TEST_F(Serien, columns_of_every_compound_of_the_scheme_parent_first) {
     Probe p;
-    p.Felder.Berechnungsmodus = 2;
+    p.Felder.Berechnungsmodus = zwei_parallel;
     EXPECT_EQ(gerechnet(p, "case - study 1.tab")[0],
               "day\tBoden_0_0\tPlateau_0_0\tBoden_0_1\tPlateau_0_1\tBoden_1_0\tPlateau_1_0\tBoden_1_1\tPlateau_1_1\t"
               "Boden_2_0\tPlateau_2_0\tBoden_2_1\tPlateau_2_1");

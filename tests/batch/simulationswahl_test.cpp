@@ -127,7 +127,7 @@ TEST(Studienwahl, one_study_gives_what_it_gives_among_all) {
     Probeprojekt Projekt;
     probe::Probe p;
     fuege_Studie_an(p, "Laboratory");
-    p.Parameter.k_SFO[0][1] = 0.002;
+    p.Felder.Parameter.k_SFO[0][1] = 0.002;
     Projekt.schreibe("two", p);
     const auto alle = rufe({"--json", "-", Projekt.Pfad()}).JSON();
     const auto eine = rufe({"--json", "-", "--study", "2", Projekt.Pfad()}).JSON();

@@ -3,20 +3,19 @@
 #include <cmath>
 
 #include "diagrams/diagrammbau.h"
-#include "diagrams/handspeicher.h"
-#include "support/lauf_bauer.h"
+#include "diagrams/handergebnis.h"
 
 namespace varnok {
 namespace {
 
-using probe::Handspeicher;
+using probe::Handergebnis;
 using probe::setze_Boden;
 
 TEST(Ablesung, day_and_value_under_the_point) {
-    Lauf l = Handspeicher();
-    setze_Boden(l, {4, 2, 1});
-    Diagrammbereiche b = Startbereiche(0);
-    const Diagramm d = erstelle_Diagramm(l, b, 0, 0);
+    Handergebnis h;
+    setze_Boden(h, {4, 2, 1});
+    Diagrammbereiche b = Startbereiche(jaehrlich);
+    const Diagramm d = erstelle_Diagramm(h, b, 0, 0);
     const auto a = lies_ab(d, {1.4, 3.9});
     ASSERT_TRUE(a);
     EXPECT_EQ(a->Name, "parent");
@@ -26,44 +25,44 @@ TEST(Ablesung, day_and_value_under_the_point) {
 }
 
 TEST(Ablesung, the_nearest_of_several_curves) {
-    Lauf l = Handspeicher();
-    l.Felder.Berechnungsmodus = 1;
-    setze_Boden(l, {4, 2, 1}, 0);
-    setze_Boden(l, {0, 1, 1}, 1);
-    Diagrammbereiche b = Startbereiche(0);
-    const Diagramm d = erstelle_Diagramm_mehrfach(l, b, 3, 0, 0);
+    Handergebnis h;
+    h.Felder.Berechnungsmodus = ein_Metabolit;
+    setze_Boden(h, {4, 2, 1}, 0);
+    setze_Boden(h, {0, 1, 1}, 1);
+    Diagrammbereiche b = Startbereiche(jaehrlich);
+    const Diagramm d = erstelle_Diagramm_mehrfach(h, b, 3, 0, 0);
     EXPECT_EQ(lies_ab(d, {1, 1.6})->Name, "parent");
     EXPECT_EQ(lies_ab(d, {1, 1.4})->Name, "first metabolite");
     EXPECT_EQ(lies_ab(d, {2, 0.1})->Name, "parent");  // both the same: the first
 }
 
 TEST(Ablesung, in_a_summary_the_study) {
-    Lauf l = probe::Handspeicher_Studien(2);
-    setze_Boden(l, {4, 2}, 0, 0);
-    setze_Boden(l, {6, 5}, 0, 1);
-    Diagrammbereiche b = Startbereiche(0);
-    const Diagramm d = erstelle_Diagramm_Zusammenfassung(l, b, 0, 0);
+    auto h = probe::Handergebnis_Studien(2);
+    setze_Boden(h, {4, 2}, 0, 0);
+    setze_Boden(h, {6, 5}, 0, 1);
+    Diagrammbereiche b = Startbereiche(jaehrlich);
+    const Diagramm d = erstelle_Diagramm_Zusammenfassung(h, b, 0, 0);
     EXPECT_EQ(lies_ab(d, {1, 10})->Name, "study 1");
     EXPECT_EQ(lies_ab(d, {1, 10})->Wert, 5);
     EXPECT_EQ(lies_ab(d, {1, 0})->Name, "study 0");
 }
 
 TEST(Ablesung, includes_the_background_in_the_accumulation) {
-    Lauf l = Handspeicher();
-    setze_Boden(l, {4, 2});
-    probe::setze_Plateauwert(l, 0.5F);
-    l.Felder.PEC_Typ = 2;
-    Diagrammbereiche b = Startbereiche(0);
-    EXPECT_EQ(lies_ab(erstelle_Diagramm(l, b, 0, 0), {1, 0})->Wert, 2.5F);
+    Handergebnis h;
+    setze_Boden(h, {4, 2});
+    probe::setze_Plateauwert(h, 0.5F);
+    h.Sicht.PEC_Typ = Anreicherung;
+    Diagrammbereiche b = Startbereiche(jaehrlich);
+    EXPECT_EQ(lies_ab(erstelle_Diagramm(h, b, 0, 0), {1, 0})->Wert, 2.5F);
 }
 
 TEST(Ablesung, nothing_outside_the_days_shown) {
-    Lauf l = Handspeicher();
-    setze_Boden(l, {4, 2, 1});
-    Diagrammbereiche b = Startbereiche(0);
+    Handergebnis h;
+    setze_Boden(h, {4, 2, 1});
+    Diagrammbereiche b = Startbereiche(jaehrlich);
     b.X_Start[0] = 10;
     b.X_Ende[0] = 20;
-    const Diagramm d = erstelle_Diagramm(l, b, 0, 0);
+    const Diagramm d = erstelle_Diagramm(h, b, 0, 0);
     EXPECT_FALSE(lies_ab(d, {9, 0}));
     EXPECT_TRUE(lies_ab(d, {10, 0}));
     EXPECT_TRUE(lies_ab(d, {20.4, 0}));
@@ -73,11 +72,11 @@ TEST(Ablesung, nothing_outside_the_days_shown) {
 }
 
 TEST(Linienzuege, a_curve_is_one_pull) {
-    Lauf l = Handspeicher();
-    setze_Boden(l, {4, 2, 1});
-    probe::setze_TWA(l, 20, 1, 5);
-    Diagrammbereiche b = Startbereiche(0);
-    const Diagramm d = erstelle_Diagramm(l, b, 0, 0);
+    Handergebnis h;
+    setze_Boden(h, {4, 2, 1});
+    probe::setze_TWA(h, 20, 1, 5);
+    Diagrammbereiche b = Startbereiche(jaehrlich);
+    const Diagramm d = erstelle_Diagramm(h, b, 0, 0);
     std::size_t Strecken = 0;
     std::size_t Kurven = 0;
     for (const Linienzug& z : verbinde_Linien(d.Liste.Linien)) {
@@ -101,13 +100,13 @@ TEST(Linienzuege, colour_width_and_gaps_part_them) {
 }
 
 // The diagrams of a calculated run: everything finite, curves below the top, the window's area that of the curve over it.
-TEST(Diagramme_eines_Laufs, stand_on_the_stores) {
-    Lauf l = probe::Lauf_bauer().Schema(3).regelmaessige_Gaben(3, 14).rechne();
-    l.Felder.TWA_Laenge = 6;
+TEST(Diagramme_eines_Laufs, stand_on_the_results) {
+    probe::Darstellungsprobe h = probe::gerechnet(probe::Lauf_bauer().Schema(zwei_in_Folge).regelmaessige_Gaben(3, 14));
+    h.Sicht.TWA_Laenge = 6;
     for (int Art = 0; Art < 3; ++Art) {
-        l.Felder.PEC_Typ = Art;
-        Diagrammbereiche b = Startbereiche(Art);
-        for (const Diagramm& d : erstelle_Diagramme(l, b, 0)) {
+        h.Sicht.PEC_Typ = static_cast<PEC_Ansicht>(Art);
+        Diagrammbereiche b = Startbereiche(static_cast<PEC_Ansicht>(Art));
+        for (const Diagramm& d : erstelle_Diagramme(h, b, 0)) {
             const double Hoehe = d.Liste.Linien[1].bis.y;
             for (const Linie& s : d.Liste.Linien) {
                 EXPECT_TRUE(std::isfinite(s.von.x) && std::isfinite(s.von.y) && std::isfinite(s.bis.x) && std::isfinite(s.bis.y));
@@ -118,10 +117,10 @@ TEST(Diagramme_eines_Laufs, stand_on_the_stores) {
 }
 
 TEST(Diagramme_eines_Laufs, the_window_covers_as_much_as_the_curve_over_it) {
-    Lauf l = probe::Lauf_bauer().rechne();
-    l.Felder.TWA_Laenge = 6;
-    Diagrammbereiche b = Startbereiche(0);
-    const Diagramm d = erstelle_Diagramm(l, b, 0, 0);
+    probe::Darstellungsprobe h = probe::gerechnet({});
+    h.Sicht.TWA_Laenge = 6;
+    Diagrammbereiche b = Startbereiche(jaehrlich);
+    const Diagramm d = erstelle_Diagramm(h, b, 0, 0);
     const Linie oben = probe::Linien(d, 9, 1).at(0);
     EXPECT_EQ(oben.bis.x - oben.von.x, 28);
     double Flaeche = 0;

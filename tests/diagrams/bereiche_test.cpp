@@ -19,14 +19,14 @@ bool alle_bis(const Diagrammbereiche& b, double Ende) {
 }
 
 TEST(Bereiche, at_program_start_one_year_and_ten_for_the_background) {
-    EXPECT_TRUE(alle_bis(Startbereiche(0), 364));
-    EXPECT_TRUE(alle_bis(Startbereiche(1), 3649));
-    EXPECT_TRUE(alle_bis(Startbereiche(2), 364));
+    EXPECT_TRUE(alle_bis(Startbereiche(jaehrlich), 364));
+    EXPECT_TRUE(alle_bis(Startbereiche(Hintergrund), 3649));
+    EXPECT_TRUE(alle_bis(Startbereiche(Anreicherung), 364));
 }
 
 TEST(Bereiche, a_view_click_takes_back_every_range) {
-    for (const auto& [Art, Ende] : {std::pair{0, 365.0}, {1, 3649.0}, {2, 365.0}}) {
-        Diagrammbereiche b = Startbereiche(0);
+    for (const auto& [Art, Ende] : {std::pair{jaehrlich, 365.0}, {Hintergrund, 3649.0}, {Anreicherung, 365.0}}) {
+        Diagrammbereiche b = Startbereiche(jaehrlich);
         b.X_Start[4] = 20;
         b.X_Ende[4] = 50;
         ASSERT_TRUE(uebernimm_Skalierung(b, true, 3, "5", "2000"));
@@ -36,17 +36,17 @@ TEST(Bereiche, a_view_click_takes_back_every_range) {
 }
 
 TEST(Manuelle_Skalierung, stores_start_and_end_of_one_diagram) {
-    Diagrammbereiche b = Startbereiche(0);
+    Diagrammbereiche b = Startbereiche(jaehrlich);
     EXPECT_TRUE(uebernimm_Skalierung(b, false, 9, "12,5", "100"));
     EXPECT_EQ(b.X_Start[9], 12.5);
     EXPECT_EQ(b.X_Ende[9], 100);
     b.X_Start[9] = 0;
     b.X_Ende[9] = 364;
-    EXPECT_EQ(b, Startbereiche(0));
+    EXPECT_EQ(b, Startbereiche(jaehrlich));
 }
 
 TEST(Manuelle_Skalierung, stores_them_of_a_summary_diagram) {
-    Diagrammbereiche b = Startbereiche(0);
+    Diagrammbereiche b = Startbereiche(jaehrlich);
     EXPECT_TRUE(uebernimm_Skalierung(b, true, 8, "10", "730"));
     EXPECT_EQ(b.X_Start_Zusammenfassung[8], 10);
     EXPECT_EQ(b.X_Ende_Zusammenfassung[8], 730);
@@ -55,24 +55,24 @@ TEST(Manuelle_Skalierung, stores_them_of_a_summary_diagram) {
 }
 
 TEST(Manuelle_Skalierung, the_end_lies_within_2_and_3650_days) {
-    Diagrammbereiche b = Startbereiche(0);
+    Diagrammbereiche b = Startbereiche(jaehrlich);
     for (const char* Ende : {"1.99", "0", "-5", "3650.5", "1E9", ""}) {
         EXPECT_FALSE(uebernimm_Skalierung(b, false, 0, "3", Ende)) << Ende;
     }
-    EXPECT_EQ(b, Startbereiche(0));
+    EXPECT_EQ(b, Startbereiche(jaehrlich));
     EXPECT_TRUE(uebernimm_Skalierung(b, false, 0, "0", "2"));
     EXPECT_TRUE(uebernimm_Skalierung(b, false, 0, "0", "3650"));
 }
 
 TEST(Manuelle_Skalierung, text_without_a_number_is_0_and_refused) {
-    Diagrammbereiche b = Startbereiche(0);
+    Diagrammbereiche b = Startbereiche(jaehrlich);
     EXPECT_FALSE(uebernimm_Skalierung(b, false, 0, "0", "all days"));
     EXPECT_FALSE(uebernimm_Skalierung(b, true, 0, "0", "all days"));
-    EXPECT_EQ(b, Startbereiche(0));
+    EXPECT_EQ(b, Startbereiche(jaehrlich));
 }
 
 TEST(Manuelle_Skalierung, the_start_is_not_checked) {
-    Diagrammbereiche b = Startbereiche(0);
+    Diagrammbereiche b = Startbereiche(jaehrlich);
     EXPECT_TRUE(uebernimm_Skalierung(b, false, 0, "500", "100"));
     EXPECT_EQ(b.X_Start[0], 500);
     EXPECT_TRUE(uebernimm_Skalierung(b, false, 0, "-1E9", "100"));
@@ -94,7 +94,7 @@ TEST(Bereiche, a_start_is_drawn_within_the_days_of_a_run) {
 
 TEST(Diagrammsaetze, scheme_and_compound_give_the_index) {
     const int erwartet[4][4] = {{0, -1, -1, -1}, {1, 2, -1, 3}, {4, 5, 6, 7}, {8, 9, 10, 11}};
-    for (int Schema = 0; Schema < 4; ++Schema) {
+    for (const Stoffschema Schema : {nur_Wirkstoff, ein_Metabolit, zwei_parallel, zwei_in_Folge}) {
         for (int c = 0; c < 3; ++c) EXPECT_EQ(Diagrammsatz_von(Schema, c), erwartet[Schema][c]) << Schema << ' ' << c;
         EXPECT_EQ(Mehrfachsatz_von(Schema), erwartet[Schema][3]) << Schema;
     }
@@ -102,7 +102,7 @@ TEST(Diagrammsaetze, scheme_and_compound_give_the_index) {
 
 TEST(Diagrammsaetze, scheme_and_compound_give_the_summary_index) {
     const int erwartet[4][3] = {{0, -1, -1}, {1, 2, -1}, {3, 4, 5}, {6, 7, 8}};
-    for (int Schema = 0; Schema < 4; ++Schema) {
+    for (const Stoffschema Schema : {nur_Wirkstoff, ein_Metabolit, zwei_parallel, zwei_in_Folge}) {
         for (int c = 0; c < 3; ++c) EXPECT_EQ(Zusammenfassungssatz_von(Schema, c), erwartet[Schema][c]) << Schema << ' ' << c;
     }
 }
@@ -124,16 +124,16 @@ TEST(Diagrammring, a_left_click_leads_to_the_next_diagram_of_the_scheme) {
                     {7, 4, 0}, {8, 9, 1}, {9, 10, 2}, {10, 11, 0}, {11, 8, 0}};
     for (const auto& s : Schritte) {
         const Ringziel z = Diagrammring[static_cast<std::size_t>(s.i)];
-        EXPECT_EQ(z.Satz, s.naechstes) << s.i;
+        EXPECT_EQ(z.Nummer, s.naechstes) << s.i;
         EXPECT_EQ(z.i_substanz, s.Stoff) << s.i;
         EXPECT_FALSE(z.bleibt) << s.i;
     }
 }
 
 TEST(Diagrammring, the_parent_only_scheme_stays_where_it_is) {
-    EXPECT_EQ(Diagrammring[0].Satz, 0);
+    EXPECT_EQ(Diagrammring[0].Nummer, 0);
     EXPECT_TRUE(Diagrammring[0].bleibt);
-    EXPECT_EQ(Zusammenfassungsring[0].Satz, 0);
+    EXPECT_EQ(Zusammenfassungsring[0].Nummer, 0);
     EXPECT_TRUE(Zusammenfassungsring[0].bleibt);
 }
 
@@ -143,7 +143,7 @@ TEST(Diagrammring, the_summary_has_its_own_ring) {
     } Schritte[] = {{1, 2, 1}, {2, 1, 0}, {3, 4, 1}, {4, 5, 2}, {5, 3, 0}, {6, 7, 1}, {7, 8, 2}, {8, 6, 0}};
     for (const auto& s : Schritte) {
         const Ringziel z = Zusammenfassungsring[static_cast<std::size_t>(s.z)];
-        EXPECT_EQ(z.Satz, s.naechstes) << s.z;
+        EXPECT_EQ(z.Nummer, s.naechstes) << s.z;
         EXPECT_EQ(z.i_substanz, s.Stoff) << s.z;
         EXPECT_FALSE(z.bleibt) << s.z;
     }

@@ -5,44 +5,44 @@
 #include <algorithm>
 
 #include "diagrams/diagrammbau.h"
-#include "diagrams/handspeicher.h"
+#include "diagrams/handergebnis.h"
 
 namespace varnok {
 namespace {
 
-using probe::Handspeicher;
+using probe::Handergebnis;
 
 // Titles and comments, letter by letter
 
 TEST(Beschriftung, title_of_each_view) {
-    Lauf l = Handspeicher();
+    Handergebnis h;
     const char* erwartet[3] = {"Annual concentration of Wheat Study: field", "Background concentration of Wheat Study: field",
                                "PEC acumumlation for Wheat Study: field"};
     for (int Art = 0; Art < 3; ++Art) {
-        l.Felder.PEC_Typ = Art;
-        Diagrammbereiche b = Startbereiche(0);
-        EXPECT_EQ(erstelle_Diagramm(l, b, 0, 0).Titel.Text, erwartet[Art]);
-        l.Felder.Berechnungsmodus = 1;
-        EXPECT_EQ(erstelle_Diagramm_mehrfach(l, b, 3, 0, 0).Titel.Text, erwartet[Art]);
+        h.Sicht.PEC_Typ = static_cast<PEC_Ansicht>(Art);
+        Diagrammbereiche b = Startbereiche(jaehrlich);
+        EXPECT_EQ(erstelle_Diagramm(h, b, 0, 0).Titel.Text, erwartet[Art]);
+        h.Felder.Berechnungsmodus = ein_Metabolit;
+        EXPECT_EQ(erstelle_Diagramm_mehrfach(h, b, 3, 0, 0).Titel.Text, erwartet[Art]);
     }
 }
 
 TEST(Beschriftung, summary_title_of_each_view) {
-    Lauf l = Handspeicher();
+    Handergebnis h;
     const char* erwartet[3] = {"Annual concentration of Wheat - All soil studies",
                                "Background concentration of Wheat - All soil studies",
                                "PEC acumumlation for Wheat - All soil studies"};
     for (int Art = 0; Art < 3; ++Art) {
-        l.Felder.PEC_Typ = Art;
-        Diagrammbereiche b = Startbereiche(0);
-        EXPECT_EQ(erstelle_Diagramm_Zusammenfassung(l, b, 0, 0).Titel.Text, erwartet[Art]);
+        h.Sicht.PEC_Typ = static_cast<PEC_Ansicht>(Art);
+        Diagrammbereiche b = Startbereiche(jaehrlich);
+        EXPECT_EQ(erstelle_Diagramm_Zusammenfassung(h, b, 0, 0).Titel.Text, erwartet[Art]);
     }
 }
 
 TEST(Beschriftung, comment_of_each_diagram) {
-    Lauf l = Handspeicher();
-    l.Parameter.Kinetik[0][0] = 3;
-    l.Parameter.Kinetik[2][0] = 1;
+    Handergebnis h;
+    h.Felder.Parameter.Kinetik[0][0] = HS;
+    h.Felder.Parameter.Kinetik[2][0] = DFOP;
     const struct {
         int d, Schema;
         const char* Text;
@@ -57,18 +57,18 @@ TEST(Beschriftung, comment_of_each_diagram) {
         {9, 3, "Mode: Parent and 2 metabolites (sequence)  - presented substance: first metabolite (kinetics: SFO )"},
         {10, 3, "Mode: Parent and 2 metabolites (sequence)  - presented substance: second metabolite (kinetics: DFOP )"}};
     for (const auto& f : Faelle) {
-        l.Felder.Berechnungsmodus = f.Schema;
-        Diagrammbereiche b = Startbereiche(0);
-        EXPECT_EQ(erstelle_Diagramm(l, b, f.d, 0).Kommentar.Text, f.Text) << f.d;
+        h.Felder.Berechnungsmodus = static_cast<Stoffschema>(f.Schema);
+        Diagrammbereiche b = Startbereiche(jaehrlich);
+        EXPECT_EQ(erstelle_Diagramm(h, b, f.d, 0).Kommentar.Text, f.Text) << f.d;
     }
-    l.Parameter.Kinetik[0][0] = 2;
-    l.Felder.Berechnungsmodus = 0;
-    Diagrammbereiche b = Startbereiche(0);
-    EXPECT_EQ(erstelle_Diagramm(l, b, 0, 0).Kommentar.Text, "Mode: Parent only  - presented substance: parent (kinetics: FOMC )");
+    h.Felder.Parameter.Kinetik[0][0] = FOMC;
+    h.Felder.Berechnungsmodus = nur_Wirkstoff;
+    Diagrammbereiche b = Startbereiche(jaehrlich);
+    EXPECT_EQ(erstelle_Diagramm(h, b, 0, 0).Kommentar.Text, "Mode: Parent only  - presented substance: parent (kinetics: FOMC )");
 }
 
 TEST(Beschriftung, multi_compound_comment_is_black_bold_and_short) {
-    Lauf l = Handspeicher();
+    Handergebnis h;
     const struct {
         int d, Schema;
         const char* Text;
@@ -76,9 +76,9 @@ TEST(Beschriftung, multi_compound_comment_is_black_bold_and_short) {
                   {7, 2, "Mode: Parent and 2 metabolites (parallel)"},
                   {11, 3, "Mode: Parent and 2 metabolites (sequence)"}};
     for (const auto& f : Faelle) {
-        l.Felder.Berechnungsmodus = f.Schema;
-        Diagrammbereiche b = Startbereiche(0);
-        const Beschriftung k = erstelle_Diagramm_mehrfach(l, b, f.d, 0, 0).Kommentar;
+        h.Felder.Berechnungsmodus = static_cast<Stoffschema>(f.Schema);
+        Diagrammbereiche b = Startbereiche(jaehrlich);
+        const Beschriftung k = erstelle_Diagramm_mehrfach(h, b, f.d, 0, 0).Kommentar;
         EXPECT_EQ(k.Text, f.Text);
         EXPECT_EQ(k.Farbe, 0);
         EXPECT_TRUE(k.fett);
@@ -89,40 +89,40 @@ TEST(Beschriftung, multi_compound_comment_is_black_bold_and_short) {
 
 // 42 characters, one, and the 5 of the study once more; the comment has 65.
 TEST(Beschriftung, rough_centring_over_a_year) {
-    Lauf l = Handspeicher();
-    Diagrammbereiche b = Startbereiche(0);
-    setze_Bereiche_nach_Ansicht(b, 0);
-    const Diagramm d = erstelle_Diagramm(l, b, 0, 0);
+    Handergebnis h;
+    Diagrammbereiche b = Startbereiche(jaehrlich);
+    setze_Bereiche_nach_Ansicht(b, jaehrlich);
+    const Diagramm d = erstelle_Diagramm(h, b, 0, 0);
     EXPECT_NEAR(*d.Titel.links, 182.5 - 48 * 3.65 / 2, 1E-9);
     EXPECT_NEAR(*d.Kommentar.links, 182.5 - 65 * (365 / 90.0) / 2, 1E-9);
     EXPECT_TRUE(d.Kommentar.fett);
 }
 
 TEST(Beschriftung, centring_follows_the_range_shown) {
-    Lauf l = Handspeicher();
-    Diagrammbereiche b = Startbereiche(0);
+    Handergebnis h;
+    Diagrammbereiche b = Startbereiche(jaehrlich);
     b.X_Start[0] = 100;
     b.X_Ende[0] = 300;
-    EXPECT_NEAR(*erstelle_Diagramm(l, b, 0, 0).Titel.links, 200 - 48 * 2.0 / 2, 1E-9);
+    EXPECT_NEAR(*erstelle_Diagramm(h, b, 0, 0).Titel.links, 200 - 48 * 2.0 / 2, 1E-9);
 }
 
 TEST(Beschriftung, blanks_at_the_ends_do_not_count_and_letters_are_characters) {
-    Lauf l = Handspeicher();
-    Diagrammbereiche b = Startbereiche(0);
+    Handergebnis h;
+    Diagrammbereiche b = Startbereiche(jaehrlich);
     b.X_Ende[0] = 100;
-    l.Felder.Studie[0] = "";
+    h.Felder.Studie[0] = "";
     // "Annual concentration of Wheat Study:" without the blank at its end
-    EXPECT_NEAR(*erstelle_Diagramm(l, b, 0, 0).Titel.links, 50 - (36 + 1) / 2.0, 1E-9);
-    l.Felder.Studie[0] = "größer";
-    EXPECT_NEAR(*erstelle_Diagramm(l, b, 0, 0).Titel.links, 50 - (37 + 6 + 1 + 6) / 2.0, 1E-9);
+    EXPECT_NEAR(*erstelle_Diagramm(h, b, 0, 0).Titel.links, 50 - (36 + 1) / 2.0, 1E-9);
+    h.Felder.Studie[0] = "größer";
+    EXPECT_NEAR(*erstelle_Diagramm(h, b, 0, 0).Titel.links, 50 - (37 + 6 + 1 + 6) / 2.0, 1E-9);
 }
 
 // Nothing is cut here: whoever paints it keeps it inside the surface.
 TEST(Beschriftung, a_long_title_starts_left_of_the_surface) {
-    Lauf l = Handspeicher();
-    l.Felder.Beschreibung = std::string(100, 'x');
-    Diagrammbereiche b = Startbereiche(0);
-    const Diagramm d = erstelle_Diagramm(l, b, 0, 0);
+    Handergebnis h;
+    h.Felder.Beschreibung = std::string(100, 'x');
+    Diagrammbereiche b = Startbereiche(jaehrlich);
+    const Diagramm d = erstelle_Diagramm(h, b, 0, 0);
     EXPECT_LT(*d.Titel.links, d.Liste.System.links);
     EXPECT_EQ(d.Titel.Text, "Annual concentration of " + std::string(100, 'x') + " Study: field");
 }
@@ -136,18 +136,18 @@ TEST(Beschriftung, axis_names_and_table_titles_by_unit_and_endpoint) {
                   {1, 0, "c(µg/kg)", "Total soil concentrations (µg/kg) incl. crop rotation"},
                   {1, 1, "c(µg/L)", "Pore water concentrations (µg/L) incl. crop rotation"}};
     for (const auto& f : Faelle) {
-        Lauf l = Handspeicher();
-        l.Parameter.Einheit = static_cast<std::uint8_t>(f.Einheit);
-        l.Felder.Endpunkt = f.Endpunkt;
-        l.Felder.Berechnungsmodus = 1;
-        Diagrammbereiche b = Startbereiche(0);
-        const Diagramm einzeln = erstelle_Diagramm(l, b, 1, 0);
+        Handergebnis h;
+        h.Felder.Parameter.Einheit = static_cast<std::uint8_t>(f.Einheit);
+        h.Sicht.Endpunkt = static_cast<Endpunktart>(f.Endpunkt);
+        h.Felder.Berechnungsmodus = ein_Metabolit;
+        Diagrammbereiche b = Startbereiche(jaehrlich);
+        const Diagramm einzeln = erstelle_Diagramm(h, b, 1, 0);
         EXPECT_EQ(einzeln.Name_y_Achse.Text, f.Achse);
         EXPECT_EQ(einzeln.Ergebnistitel, f.Tabelle);
         EXPECT_EQ(einzeln.Name_x_Achse.Text, "Time after first application (d)");
         EXPECT_FALSE(einzeln.Name_x_Achse.links || einzeln.Name_y_Achse.links);
-        EXPECT_EQ(erstelle_Diagramm_mehrfach(l, b, 3, 0, 0).Name_y_Achse.Text, f.Achse);
-        const Diagramm zusammen = erstelle_Diagramm_Zusammenfassung(l, b, 1, 0);
+        EXPECT_EQ(erstelle_Diagramm_mehrfach(h, b, 3, 0, 0).Name_y_Achse.Text, f.Achse);
+        const Diagramm zusammen = erstelle_Diagramm_Zusammenfassung(h, b, 1, 0);
         EXPECT_EQ(zusammen.Name_y_Achse.Text, f.Achse);
         EXPECT_EQ(zusammen.Ergebnistitel, f.Tabelle);
         EXPECT_EQ(zusammen.Name_x_Achse.Text, "Time after first application (d)");
@@ -155,10 +155,35 @@ TEST(Beschriftung, axis_names_and_table_titles_by_unit_and_endpoint) {
 }
 
 TEST(Beschriftung, the_window_in_the_legend_has_two_blanks) {
-    Lauf l = Handspeicher();
-    l.Felder.TWA_Laenge = 6;
-    Diagrammbereiche b = Startbereiche(0);
-    EXPECT_EQ(erstelle_Diagramm(l, b, 0, 0).Legendeninhalt.Gruppen.at(0).Eintraege.at(1).Text, "TWA  (28 d)");
+    Handergebnis h;
+    h.Sicht.TWA_Laenge = 6;
+    Diagrammbereiche b = Startbereiche(jaehrlich);
+    EXPECT_EQ(erstelle_Diagramm(h, b, 0, 0).Legendeninhalt.Gruppen.at(0).Eintraege.at(1).Text, "TWA  (28 d)");
+}
+
+// An input that was changed after the run: what was calculated keeps its unit, scheme, kinetics and windows, what is only
+// called otherwise shows its new name.
+TEST(Beschriftung, names_are_those_of_now_and_all_else_is_that_of_the_result) {
+    probe::Darstellungsprobe p = probe::leere_Probe({});
+    p.Felder.Parameter.Kinetik[0][0] = HS;
+    p.Studie(0);
+    p.Felder.Beschreibung = "Barley";
+    p.Felder.Studie[0] = "lab";
+    p.Felder.Name_Wirkstoff = "new name";
+    p.Felder.Parameter.Einheit = 1;
+    p.Felder.Berechnungsmodus = zwei_parallel;
+    p.Felder.Parameter.Kinetik[0][0] = FOMC;
+    p.Felder.Parameter.TWA_Zeiten = 0;
+    Diagrammbereiche b = Startbereiche(jaehrlich);
+    const std::vector<Diagramm> Diagramme = erstelle_Diagramme(p, b, 0);
+    ASSERT_EQ(Diagramme.size(), 1U);
+    const Diagramm& d = Diagramme[0];
+    EXPECT_EQ(d.Titel.Text, "Annual concentration of Barley Study: lab");
+    EXPECT_EQ(d.Kommentar.Text, "Mode: Parent only  - presented substance: new name (kinetics: HS )");
+    EXPECT_EQ(d.Name_y_Achse.Text, "c(mg/kg)");
+    EXPECT_EQ(d.Einheit, 0);
+    EXPECT_EQ(d.Datei.Dateiname, "Detailed Results - new name.tab");
+    EXPECT_EQ(d.Legendeninhalt.Gruppen.at(0).Eintraege.at(1).Text, "TWA  (1 d)");
 }
 
 // Layout
@@ -188,11 +213,11 @@ TEST(Legendenzeilen, lie_evenly_within_the_frame) {
 }
 
 TEST(Beschriftungsplaetze, home_frames_lie_on_the_surface) {
-    Lauf l = probe::Handspeicher_Studien(6);
-    l.Felder.Berechnungsmodus = 3;
-    Diagrammbereiche b = Startbereiche(0);
-    std::vector<Diagramm> Diagramme = erstelle_Diagramme(l, b, 0);
-    for (Diagramm& d : erstelle_Diagramme_Zusammenfassung(l, b, 0)) Diagramme.push_back(d);
+    auto h = probe::Handergebnis_Studien(6);
+    h.Felder.Berechnungsmodus = zwei_in_Folge;
+    Diagrammbereiche b = Startbereiche(jaehrlich);
+    std::vector<Diagramm> Diagramme = erstelle_Diagramme(h, b, 0);
+    for (Diagramm& d : erstelle_Diagramme_Zusammenfassung(h, b, 0)) Diagramme.push_back(d);
     for (const Diagramm& d : Diagramme) {
         const Flaechenrechteck r = Heimatplaetze(d.Legendeninhalt).Legendenrahmen;
         EXPECT_DOUBLE_EQ(r.links, 7000 / 9600.0);
@@ -228,17 +253,17 @@ void hat_Schrift(const Schriftzug& t, int Farbe, bool fett, bool kursiv) {
 
 // The surface is 113 by 1.225; the legend takes a quarter of it from its middle on.
 struct Kopie {
-    explicit Kopie(int Satz) {
-        l.Felder.Berechnungsmodus = Satz == 3 ? 1 : 0;
+    explicit Kopie(int Nummer) {
+        h.Felder.Berechnungsmodus = Nummer == 3 ? ein_Metabolit : nur_Wirkstoff;
         b.X_Ende.fill(100);
-        d = Satz == 3 ? erstelle_Diagramm_mehrfach(l, b, 3, 0, 0) : erstelle_Diagramm(l, b, 0, 0);
+        d = Nummer == 3 ? erstelle_Diagramm_mehrfach(h, b, 3, 0, 0) : erstelle_Diagramm(h, b, 0, 0);
         Linien_vorher = d.Liste.Linien.size();
         Texte_vorher = d.Liste.Texte.size();
         Plaetze.Legendenrahmen = {0.5, 0.5, 0.25, 0.25};
         erstelle_Diagramm_kopiere_Beschriftung(d, Plaetze);
     }
-    Lauf l = Handspeicher();
-    Diagrammbereiche b = Startbereiche(0);
+    Handergebnis h;
+    Diagrammbereiche b = Startbereiche(jaehrlich);
     Diagramm d;
     Beschriftungsplaetze Plaetze;
     std::size_t Linien_vorher = 0;
@@ -299,9 +324,9 @@ TEST(Kopierte_Beschriftung, multi_compound_legend_with_the_names) {
 }
 
 TEST(Kopierte_Beschriftung, summary_legend_with_the_studies) {
-    const Lauf l = probe::Handspeicher_Studien(2);
-    Diagrammbereiche b = Startbereiche(0);
-    Diagramm d = erstelle_Diagramm_Zusammenfassung(l, b, 0, 0);
+    auto h = probe::Handergebnis_Studien(2);
+    Diagrammbereiche b = Startbereiche(jaehrlich);
+    Diagramm d = erstelle_Diagramm_Zusammenfassung(h, b, 0, 0);
     const std::size_t vorher = d.Liste.Linien.size();
     erstelle_Diagramm_zusammenfassung_kopiere_Beschriftung(d, Heimatplaetze(d.Legendeninhalt));
     hat_Schrift(suche(d, d.Titel.Text), 0, true, false);
@@ -317,7 +342,7 @@ TEST(Kopierte_Beschriftung, summary_legend_with_the_studies) {
 // Building the diagram anew is what takes the copied labels away.
 TEST(Kopierte_Beschriftung, is_gone_with_the_next_drawing) {
     Kopie k(0);
-    const Diagramm neu = erstelle_Diagramm(k.l, k.b, 0, 0);
+    const Diagramm neu = erstelle_Diagramm(k.h, k.b, 0, 0);
     EXPECT_EQ(neu.Liste.Texte.size(), k.Texte_vorher);
     EXPECT_EQ(neu.Liste.Linien.size(), k.Linien_vorher);
     EXPECT_TRUE(neu.Liste.Kaesten.empty());

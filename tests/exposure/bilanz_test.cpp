@@ -18,7 +18,7 @@ struct Gitterpunkt {
 Lauf_bauer bei(const Gitterpunkt& g) {
     Lauf_bauer b;
     b.nach_SFO(0.02).nach_DFOP(0.05, 0.004, 0.6).nach_FOMC(0.8, 12).nach_HS(0.06, 0.01, 25);
-    b.Parameter.Kinetik[0][0] = g.Kinetik;
+    b.Felder.Parameter.Kinetik[0][0] = static_cast<Kinetikart>(g.Kinetik);
     b.nach_SFO(0.008, 1).nach_DFOP(0.03, 0.002, 0.4, 2).Korrektur(1, 0, 20, 1).Korrektur(1, 0, 20, 2);
     b.Schema(g.Schema).Rueckstaende(g.Rueckstaende).regelmaessige_Gaben(2, 30).Dosis("750", "20").Temperatur(12);
     b.Molmassen(200, 150, 80).Bildungsanteile(60, 40);
@@ -44,16 +44,16 @@ struct Tiefe {
         return Summe;
     }
     double appliziert() const {
-        const double cm = Plateau ? l.Parameter.Plateautiefe : l.Parameter.Bodentiefe;
+        const double cm = Plateau ? l.Felder.Parameter.Plateautiefe : l.Felder.Parameter.Bodentiefe;
         double Summe = 0;
         for (int d = 0; d < (Plateau ? 3650 : 365); ++d)
             Summe += static_cast<double>(l.Speicher.Tagesrate[static_cast<std::size_t>(d)]);
-        return Summe / 1000 / (cm / 10 * l.Parameter.Bodendichte);
+        return Summe / 1000 / (cm / 10 * l.Felder.Parameter.Bodendichte);
     }
     // What the decay of a metabolite took, from its own rate constants.
     double verloren(int c) const {
         const auto i = static_cast<std::size_t>(c);
-        const Laufparameter& p = l.Parameter;
+        const Laufparameter& p = l.Felder.Parameter;
         const bool DFOP_ = p.Kinetik[i][0] == DFOP;
         double Summe = 0;
         for (int d = 0; d < letzter_Tag; ++d) {

@@ -26,17 +26,16 @@ float Mittel(const Lauf& l, std::size_t j, std::size_t e = 0, std::size_t c = 0)
 int Start(const Lauf& l, std::size_t j, std::size_t e = 0, std::size_t c = 0) { return l.Speicher.TWA_Starttag[e][0][c][j]; }
 
 TEST(TWA_Liste, the_regulation_has_ten_windows) {
-    const Lauf l = Lauf_bauer().baue();
     EXPECT_EQ(Anzahl_TWA(1), 10);
-    EXPECT_EQ(TWA_Eintraege(l),
+    EXPECT_EQ(TWA_Eintraege(Laufparameter{}),
               (std::vector<std::string>{"TWA (1 d)", "TWA (2 d)", "TWA (4 d)", "TWA (7 d)", "TWA (14 d)", "TWA (21 d)",
                                         "TWA (28 d)", "TWA (42 d)", "TWA (50 d)", "TWA (100 d)"}));
 }
 
 TEST(TWA_Liste, the_monthly_list_has_twelve) {
     Lauf_bauer b;
-    b.Parameter.TWA_Zeiten = 0;
-    const auto Eintraege = TWA_Eintraege(b.baue());
+    b.Felder.Parameter.TWA_Zeiten = 0;
+    const auto Eintraege = TWA_Eintraege(b.Felder.Parameter);
     ASSERT_EQ(Eintraege.size(), 12U);
     EXPECT_EQ(Eintraege.front(), "TWA (30 d)");
     EXPECT_EQ(Eintraege.back(), "TWA (360 d)");
@@ -44,18 +43,17 @@ TEST(TWA_Liste, the_monthly_list_has_twelve) {
 
 TEST(TWA_Liste, the_28_or_the_30_day_window_is_preselected) {
     Lauf_bauer b;
-    EXPECT_EQ(TWA_Eintraege(b.baue())[static_cast<std::size_t>(TWA_Vorauswahl(1))], "TWA (28 d)");
-    b.Parameter.TWA_Zeiten = 0;
-    EXPECT_EQ(TWA_Eintraege(b.baue())[static_cast<std::size_t>(TWA_Vorauswahl(0))], "TWA (30 d)");
+    EXPECT_EQ(TWA_Eintraege(b.Felder.Parameter)[static_cast<std::size_t>(TWA_Vorauswahl(1))], "TWA (28 d)");
+    b.Felder.Parameter.TWA_Zeiten = 0;
+    EXPECT_EQ(TWA_Eintraege(b.Felder.Parameter)[static_cast<std::size_t>(TWA_Vorauswahl(0))], "TWA (30 d)");
 }
 
 TEST(TWA_Liste, an_edited_length_is_narrowed_to_single_precision) {
     Lauf_bauer b;
-    b.Parameter.TWA_Liste_EU[0] = 0.1;
-    const Lauf l = b.baue();
-    EXPECT_EQ(l.Speicher.TWA_Tage[1], 0.1F);
-    EXPECT_EQ(TWA_Eintraege(l)[0], "TWA (0.1 d)");
-    EXPECT_EQ(TWA_Eintraege(l, ',')[0], "TWA (0,1 d)");
+    b.Felder.Parameter.TWA.EU[0] = 0.1;
+    EXPECT_EQ(TWA_Fenster(b.Felder.Parameter)[0], 0.1F);
+    EXPECT_EQ(TWA_Eintraege(b.Felder.Parameter)[0], "TWA (0.1 d)");
+    EXPECT_EQ(TWA_Eintraege(b.Felder.Parameter, ',')[0], "TWA (0,1 d)");
 }
 
 TEST(TWA, are_the_means_of_the_series_in_double_precision) {
@@ -64,7 +62,7 @@ TEST(TWA, are_the_means_of_the_series_in_double_precision) {
     for (int d = 1; d < 3650; ++d)
         Integral.push_back(Integral.back() + (static_cast<double>(Boden(l, d)) + static_cast<double>(Boden(l, d - 1))) / 2);
     for (std::size_t j = 1; j <= 10; ++j) {
-        const auto L = static_cast<std::size_t>(l.Speicher.TWA_Tage[j]);
+        const auto L = static_cast<std::size_t>(TWA_Fenster(l.Felder.Parameter)[j - 1]);
         double groesstes = 0;
         for (std::size_t d = 0; d + L < 3650; ++d)
             groesstes = std::max(groesstes, (Integral[d + L] - Integral[d]) / static_cast<double>(L));
@@ -123,7 +121,7 @@ TEST(TWA, pore_water_has_its_own) {
 // Everything happens on the last day, so that the last window wins.
 Lauf am_Ende(double Laenge) {
     Lauf l = mit_Integral([](int d) { return d == letzter_Tag ? 1.0 : 0.0; });
-    l.Speicher.TWA_Tage[1] = static_cast<float>(Laenge);
+    l.Felder.Parameter.TWA.EU[0] = Laenge;
     berechne_TWA(l);
     return l;
 }
@@ -148,7 +146,7 @@ TEST(Letztes_Fenster, a_longer_one_than_the_run_finds_nothing) {
 // The end of the window is rounded, the divisor is not.
 TEST(Gebrochenes_Fenster, divides_by_the_length_as_stored) {
     Lauf l = mit_Integral([](int d) { return d < 10 ? 0.0 : 3.0; });
-    l.Speicher.TWA_Tage[1] = 1.25F;
+    l.Felder.Parameter.TWA.EU[0] = 1.25;
     berechne_TWA(l);
     EXPECT_EQ(Mittel(l, 1), 2.4F);  // 3 / 1.25
     EXPECT_EQ(Start(l, 1), 9);
@@ -157,38 +155,38 @@ TEST(Gebrochenes_Fenster, divides_by_the_length_as_stored) {
 TEST(Gebrochenes_Fenster, ties_of_the_end_go_to_the_even_day) {
     // From day 0, 2.5 days end on day 2; from day 1, 3.5 end on day 4.
     Lauf l = mit_Integral([](int d) { return d < 2 ? 0.0 : 1.0; });
-    l.Speicher.TWA_Tage[1] = 2.5F;
+    l.Felder.Parameter.TWA.EU[0] = 2.5;
     berechne_TWA(l);
     EXPECT_EQ(Start(l, 1), 0);
     Lauf m = mit_Integral([](int d) { return d < 3 ? 0.0 : 1.0; });
-    m.Speicher.TWA_Tage[1] = 2.5F;
+    m.Felder.Parameter.TWA.EU[0] = 2.5;
     berechne_TWA(m);
     EXPECT_EQ(Start(m, 1), 1);
 }
 
 TEST(Gebrochenes_Fenster, a_window_that_rounds_to_no_day_finds_nothing) {
     Lauf l = mit_Integral([](int d) { return static_cast<double>(d); });
-    l.Speicher.TWA_Tage[1] = 0.25F;
+    l.Felder.Parameter.TWA.EU[0] = 0.25;
     berechne_TWA(l);
     EXPECT_EQ(Mittel(l, 1), 0.0F);
 }
 
 TEST(Gebrochenes_Fenster, half_a_day_behind_the_run_reads_the_spare_days_as_0) {
     Lauf l = mit_Integral([](int d) { return static_cast<double>(d); });
-    l.Speicher.TWA_Tage[1] = 1.5F;
+    l.Felder.Parameter.TWA.EU[0] = 1.5;
     berechne_TWA(l);
     EXPECT_NEAR(Mittel(l, 1), 2 / 1.5, 1E-6);
 }
 
 TEST(TWA, a_length_of_0_is_a_fault) {
     Lauf l = mit_Integral([](int d) { return static_cast<double>(d); });
-    l.Speicher.TWA_Tage[4] = 0;
+    l.Felder.Parameter.TWA.EU[3] = 0;
     EXPECT_THROW(berechne_TWA(l), Laufzeitfehler);
 }
 
 TEST(TWA, places_behind_the_last_window_keep_their_values) {
     Lauf_bauer b;
-    b.Parameter.TWA_Zeiten = 0;
+    b.Felder.Parameter.TWA_Zeiten = 0;
     Lauf l = b.rechne();
     const float zwoelftes = Mittel(l, 12);
     ASSERT_TRUE(Lauf_bauer().Dosis("1").rechne_in(l).gelungen());

@@ -98,7 +98,7 @@ void vergleiche(const Lauf_bauer& b, int& berechnet) {
     std::optional<referenz::Studienergebnis> r;
     std::string Absage;
     try {
-        r = referenz::rechne(b.Parameter, b.Felder, b.i_studie, b.Klima.value_or(std::vector<Klimatag>()));
+        r = referenz::rechne(b.Felder.Parameter, b.Felder, b.i_studie, b.Klima.value_or(std::vector<Klimatag>()));
     } catch (const std::runtime_error& f) {
         Absage = f.what();
     }
@@ -123,7 +123,7 @@ void vergleiche(const Lauf_bauer& b, int& berechnet) {
         vergleiche_Reihen(l, r->Stoffe[c], static_cast<int>(c));
         for (std::size_t e = 0; e < 2; ++e) {
             SCOPED_TRACE("endpoint " + std::to_string(e));
-            vergleiche_Maxima(l.Speicher, r->Stoffe[c], e, st, c, Anzahl_TWA(b.Parameter.TWA_Zeiten));
+            vergleiche_Maxima(l.Speicher, r->Stoffe[c], e, st, c, Anzahl_TWA(b.Felder.Parameter.TWA_Zeiten));
             vergleiche_Plateau(l.Speicher, r->Stoffe[c], e, st, c);
         }
     }
@@ -141,7 +141,7 @@ Lauf_bauer bei(const Gitterpunkt& g) {
     b.nach_DFOP(0.05, 0.004, 0.6);
     b.nach_FOMC(0.8, 12);
     b.nach_HS(0.06, 0.01, 25);
-    b.Parameter.Kinetik[0][0] = g.Kinetik;
+    b.Felder.Parameter.Kinetik[0][0] = static_cast<Kinetikart>(g.Kinetik);
     b.nach_SFO(0.01, 1).nach_DFOP(0.03, 0.002, 0.4, 2);
     b.Schema(g.Schema).Rueckstaende(g.Rueckstaende).regelmaessige_Gaben(2, 20).Dosis("750", "20").Temperatur(12);
     b.Korrektur(2.2, 0.5, 20, 1).Korrektur(2.58, 0, 18, 2);
@@ -193,8 +193,8 @@ double zufaelliges_k(Zufall& z) {
 void setze_Stoffe(Zufall& z, Lauf_bauer& b) {
     for (std::size_t c = 0; c < Stoffe; ++c) {
         for (std::size_t st = 0; st < max_Studien; ++st) {
-            Laufparameter& p = b.Parameter;
-            p.Kinetik[c][st] = z.ganz(0, c == 0 ? 3 : 1);
+            Laufparameter& p = b.Felder.Parameter;
+            p.Kinetik[c][st] = static_cast<Kinetikart>(z.ganz(0, c == 0 ? 3 : 1));
             p.k_SFO[c][st] = zufaelliges_k(z);
             p.k1_DFOP[c][st] = zufaelliges_k(z);
             p.k2_DFOP[c][st] = zufaelliges_k(z);
@@ -206,11 +206,11 @@ void setze_Stoffe(Zufall& z, Lauf_bauer& b) {
         }
     }
     for (std::size_t st = 0; st < max_Studien; ++st) {
-        b.Parameter.alpha_FOMC[st] = z.mit(0.1) ? 0 : z.logarithmisch(0.01, 100);
-        b.Parameter.beta_FOMC[st] = z.logarithmisch(0.001, 1000);
-        b.Parameter.k1_HS[st] = zufaelliges_k(z);
-        b.Parameter.k2_HS[st] = zufaelliges_k(z);
-        b.Parameter.Tb_HS[st] = z.mit(0.3) ? z.ganz(0, 100) : z.zwischen(0, 400);
+        b.Felder.Parameter.alpha_FOMC[st] = z.mit(0.1) ? 0 : z.logarithmisch(0.01, 100);
+        b.Felder.Parameter.beta_FOMC[st] = z.logarithmisch(0.001, 1000);
+        b.Felder.Parameter.k1_HS[st] = zufaelliges_k(z);
+        b.Felder.Parameter.k2_HS[st] = zufaelliges_k(z);
+        b.Felder.Parameter.Tb_HS[st] = z.mit(0.3) ? z.ganz(0, 100) : z.zwischen(0, 400);
     }
     b.Schema(z.ganz(0, 3)).Rueckstaende(z.ganz(0, 2)).Einheit(z.ganz(0, 1));
     b.Felder.Molmasse_Wirkstoff = z.Text(z.zwischen(50, 600));
@@ -252,7 +252,7 @@ void setze_Applikationen(Zufall& z, Lauf_bauer& b) {
 
 void setze_Szenario(Zufall& z, Lauf_bauer& b) {
     b.Boden(z.zwischen(0.8, 2), z.zwischen(0.5, 30), z.zwischen(1, 40)).Temperatur(z.ganz(0, 40));
-    b.Parameter.Kohlenstoffgehalt = z.zwischen(0, 6);
+    b.Felder.Parameter.Kohlenstoffgehalt = z.zwischen(0, 6);
     const double a = z.zwischen(1, 60);
     const double c = z.zwischen(1, 60);
     const bool verkehrt = z.mit(0.2);
@@ -267,10 +267,10 @@ void setze_Szenario(Zufall& z, Lauf_bauer& b) {
 }
 
 void setze_Fenster(Zufall& z, Lauf_bauer& b) {
-    b.Parameter.TWA_Zeiten = static_cast<std::uint8_t>(z.ganz(0, 1));
+    b.Felder.Parameter.TWA_Zeiten = static_cast<std::uint8_t>(z.ganz(0, 1));
     if (z.mit(0.7)) return;
-    for (double& L : b.Parameter.TWA_Liste_EU) L = z.mit(0.2) ? z.zwischen(3600, 5000) : z.zwischen(0.1, 200);
-    for (double& L : b.Parameter.TWA_Liste_Monat) L = z.mit(0.5) ? z.ganz(1, 400) + 0.5 : z.zwischen(0.1, 400);
+    for (double& L : b.Felder.Parameter.TWA.EU) L = z.mit(0.2) ? z.zwischen(3600, 5000) : z.zwischen(0.1, 200);
+    for (double& L : b.Felder.Parameter.TWA.Monat) L = z.mit(0.5) ? z.ganz(1, 400) + 0.5 : z.zwischen(0.1, 400);
 }
 
 Lauf_bauer zufaelliger_Lauf(std::uint64_t Saat) {

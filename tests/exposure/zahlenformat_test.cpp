@@ -94,16 +94,18 @@ TEST(Formatiere_Zahl, a_negative_value_has_no_decimal_logarithm) {
     EXPECT_THROW(gekuerzt(-1E-10), Laufzeitfehler);
 }
 
-TEST(Ansichtswert, annual_shows_the_stored_value_alone) { EXPECT_EQ(Ansichtswert(8, 0, 0, 1.5F), 1.5); }
+TEST(Ansichtswert, annual_shows_the_stored_value_alone) { EXPECT_EQ(Ansichtswert(8, jaehrlich, jedes_Jahr, 1.5F), 1.5); }
 
-TEST(Ansichtswert, accumulation_adds_the_background) { EXPECT_EQ(Ansichtswert(8, 2, 0, 1.5F), 9.5); }
+TEST(Ansichtswert, accumulation_adds_the_background) { EXPECT_EQ(Ansichtswert(8, Anreicherung, jedes_Jahr, 1.5F), 9.5); }
 
 TEST(Ansichtswert, a_crop_every_third_year_builds_up_a_third_of_the_background) {
-    EXPECT_EQ(Ansichtswert(8, 2, 1, 1.5F), 5.5);
-    EXPECT_EQ(Ansichtswert(1, 2, 2, 1.5F), 1.0 / 3 + 1.5);
+    EXPECT_EQ(Ansichtswert(8, Anreicherung, jedes_zweite_Jahr, 1.5F), 5.5);
+    EXPECT_EQ(Ansichtswert(1, Anreicherung, jedes_dritte_Jahr, 1.5F), 1.0 / 3 + 1.5);
 }
 
-TEST(Ansichtswert, the_rotation_leaves_the_annual_view_alone) { EXPECT_EQ(Ansichtswert(8, 0, 2, 1.5F), 1.5); }
+TEST(Ansichtswert, the_rotation_leaves_the_annual_view_alone) {
+    EXPECT_EQ(Ansichtswert(8, jaehrlich, jedes_dritte_Jahr, 1.5F), 1.5);
+}
 
 }  // namespace
 }  // namespace varnok

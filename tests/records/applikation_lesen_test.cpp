@@ -16,7 +16,7 @@ TEST(Applikation_lesen, each_line_goes_to_its_place) {
     EXPECT_EQ(lies(Satz, Applikation, p).Ausgang, Leseausgang::gelesen);
     Satzprobe erwartet;
     erwartet.Felder.Applikationsmuster = unregelmaessig;
-    erwartet.Felder.PEC_Typ = 1;
+    erwartet.Sicht.PEC_Typ = Hintergrund;
     erwartet.Felder.App_Monat = 2;
     erwartet.Felder.App_Tag = 30;
     erwartet.Felder.Applikationsrate = "750.5";
@@ -25,6 +25,22 @@ TEST(Applikation_lesen, each_line_goes_to_its_place) {
     erwartet.Felder.Anzahl_Index = 1;
     erwartet.Felder.Applikationsschema = {{"01", "04", "100", "0"}, {"15", "04", "200.5", "12.5"}, {"30", "11", "", "50"}};
     EXPECT_EQ(p, erwartet);
+}
+
+TEST(Applikation_lesen, each_number_is_the_one_that_its_text_means) {
+    for (const char z : {'.', ','}) {
+        Satzprobe p;
+        auto Zeilen = zerlegt(Satz);
+        Zeilen[9] = "1\t4\t 100,25 g\t12,50";
+        lies(verbunden(Zeilen), Applikation, p, z);
+        EXPECT_EQ(p.Felder.Applikationsrate.Zahl(), 750.5);
+        EXPECT_EQ(p.Felder.Interzeption.Zahl(), 25);
+        const auto& [Tag, Monat, Rate, Interzeption] = p.Felder.Applikationsschema[0];
+        EXPECT_EQ(Tag.Zahl(), 1);
+        EXPECT_EQ(Monat.Zahl(), 4);
+        EXPECT_EQ(Rate.Zahl(), 100.25);
+        EXPECT_EQ(Interzeption.Zahl(), 12.5);
+    }
 }
 
 TEST(Applikation_lesen, list_positions_are_the_numbers_less_the_first_entry) {
@@ -48,8 +64,8 @@ TEST(Applikation_lesen, rate_and_interception_come_back_in_general_form) {
         Zeilen[5] = "Crop interception (%):\t";
         Zeilen[9] = "1\t4\t 100,0 \t12,50";
         lies(verbunden(Zeilen), Applikation, p, z);
-        EXPECT_EQ(p.Felder.Applikationsrate, std::string("750") + z + "5");
-        EXPECT_EQ(p.Felder.Interzeption, "0");
+        EXPECT_EQ(p.Felder.Applikationsrate.Text(), std::string("750") + z + "5");
+        EXPECT_EQ(p.Felder.Interzeption.Text(), "0");
         // In the table the rate stays as it stands, without the blanks around it.
         EXPECT_EQ(p.Felder.Applikationsschema[0], (Applikationszeile{"01", "04", "100,0", std::string("12") + z + "5"}));
     }
@@ -74,7 +90,7 @@ TEST(Applikation_lesen, day_and_month_of_the_table_have_two_digits_and_blanks_st
 TEST(Applikation_lesen, text_as_a_day_of_the_table_reads_as_00) {
     Satzprobe p;
     EXPECT_EQ(lies(mit_Zeile(Satz, 10, "May\t1\t2\t3"), Applikation, p).Bemerkungen.size(), 1u);
-    EXPECT_EQ(p.Felder.Applikationsschema[0][0], "00");
+    EXPECT_EQ(p.Felder.Applikationsschema[0][0].Text(), "00");
 }
 
 TEST(Applikation_lesen, interval_above_365_by_number_becomes_the_last_entry) {
@@ -89,7 +105,7 @@ TEST(Applikation_lesen, what_a_record_gives_does_not_depend_on_the_one_before) {
     viele.Felder.Anzahl_Index = 18;
     viele.Felder.Intervall_Index = 5;
     viele.Felder.Applikationsschema.assign(20, {"09", "09", "9", "9"});
-    viele.Parameter = {};
+    viele.Felder.Parameter = {};
     viele.Felder.Studie.clear();
     Satzprobe keine;
     const std::string weit = mit_Zeile(Satz, 7, "Time between applications:\t100");
@@ -102,9 +118,9 @@ TEST(Applikation_lesen, what_a_record_gives_does_not_depend_on_the_one_before) {
 
 TEST(Applikation_lesen, crop_rotation_is_left_alone) {
     Satzprobe p;
-    p.Felder.Fruchtwechsel = 2;
+    p.Sicht.Fruchtwechsel = jedes_dritte_Jahr;
     lies(Satz, Applikation, p);
-    EXPECT_EQ(p.Felder.Fruchtwechsel, 2);
+    EXPECT_EQ(p.Sicht.Fruchtwechsel, 2);
 }
 
 TEST(Applikation_lesen, type_and_day_know_no_decimal_comma) {
@@ -142,9 +158,9 @@ TEST_P(Applikation_Abbruch, value_outside_its_list_ends_the_reading_there) {
     // Above the fault the record is in force, below it nothing has changed.
     const Eingabe alt;
     EXPECT_EQ(p.Felder.Applikationsmuster, Zeile > 2 ? unregelmaessig : alt.Applikationsmuster);
-    EXPECT_EQ(p.Felder.PEC_Typ, Zeile > 3 ? 1 : alt.PEC_Typ);
-    EXPECT_EQ(p.Felder.Applikationsrate, Zeile > 5 ? "750.5" : alt.Applikationsrate);
-    EXPECT_EQ(p.Felder.Interzeption, Zeile > 6 ? "25" : alt.Interzeption);
+    EXPECT_EQ(p.Sicht.PEC_Typ, Zeile > 3 ? Hintergrund : jaehrlich);
+    EXPECT_EQ(p.Felder.Applikationsrate.Text(), Zeile > 5 ? "750.5" : alt.Applikationsrate.Text());
+    EXPECT_EQ(p.Felder.Interzeption.Text(), Zeile > 6 ? "25" : alt.Interzeption.Text());
     EXPECT_EQ(p.Felder.Intervall_Index, Zeile > 7 ? 13 : alt.Intervall_Index);
 }
 
@@ -201,7 +217,7 @@ TEST(Applikation_lesen, missing_row_ends_the_reading_and_keeps_the_rows_above) {
     EXPECT_EQ(b.Ausgang, Leseausgang::abgebrochen);
     EXPECT_EQ(b.Zeile, 12);
     EXPECT_EQ(b.Grund, "row 3 of the application table has too few values (no tab behind value 1)");
-    EXPECT_EQ(p.Felder.Applikationsschema[1][0], "15");
+    EXPECT_EQ(p.Felder.Applikationsschema[1][0].Text(), "15");
     EXPECT_EQ(p.Felder.Applikationsschema[2], (Applikationszeile{"09", "09", "9", "9"}));
 }
 
@@ -218,9 +234,9 @@ TEST(Applikation_lesen, file_that_ends_early_leaves_the_rest_as_it_was) {
         const Lesebefund b = lies(vor_Zeile(Satz, Zeile), Applikation, p);
         EXPECT_EQ(b.Ausgang, Leseausgang::abgebrochen) << Zeile;
         EXPECT_EQ(b.Zeile, static_cast<int>(Zeile));
-        EXPECT_EQ(p.Felder.PEC_Typ, Zeile > 3 ? 1 : 0) << Zeile;
+        EXPECT_EQ(p.Sicht.PEC_Typ, Zeile > 3 ? 1 : 0) << Zeile;
         EXPECT_EQ(p.Felder.Anzahl(), Zeile > 8 ? 3 : 2) << Zeile;
-        EXPECT_EQ(p.Felder.Applikationsschema[0][0], Zeile > 10 ? "01" : "") << Zeile;
+        EXPECT_EQ(p.Felder.Applikationsschema[0][0].Text(), Zeile > 10 ? "01" : "") << Zeile;
     }
     Satzprobe p;
     EXPECT_EQ(lies(vor_Zeile(Satz, 13), Applikation, p).Ausgang, Leseausgang::gelesen);

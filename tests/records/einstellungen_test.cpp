@@ -17,9 +17,9 @@ Einstellungen Probe() {
     e.Tips_anzeigen = 1;
     e.Farbeinstellung = 3;
     e.TWA_Titel_EU = "Mine µ";
-    e.TWA_Liste_EU = {0.5, 1, 2, 3, 4, 5, 6, 7, 1.0 / 3, 365};
+    e.TWA.EU = {0.5, 1, 2, 3, 4, 5, 6, 7, 1.0 / 3, 365};
     e.TWA_Titel_Monat = "";
-    e.TWA_Liste_Monat[11] = 3649;
+    e.TWA.Monat[11] = 3649;
     e.Projektpfad = "/home/über/project";
     return e;
 }
@@ -39,8 +39,8 @@ TEST(Einstellungen, what_was_written_reads_back) {
     auto e = zerlege_Einstellungen(Bytes);
     ASSERT_TRUE(e);
     EXPECT_EQ(Einstellungen_als_Bytes(*e), Bytes);
-    EXPECT_NEAR(e->TWA_Liste_EU[8], 1.0 / 3, 1e-15);  // 15 digits
-    e->TWA_Liste_EU[8] = 1.0 / 3;
+    EXPECT_NEAR(e->TWA.EU[8], 1.0 / 3, 1e-15);  // 15 digits
+    e->TWA.EU[8] = 1.0 / 3;
     EXPECT_EQ(*e, Probe());
 }
 
@@ -66,7 +66,7 @@ TEST(Einstellungen, file_without_line_27_has_an_empty_path) {
     const auto e = zerlege_Einstellungen(vor_Zeile(Einstellungen_als_Bytes(Probe()), 27));
     ASSERT_TRUE(e);
     EXPECT_EQ(e->Projektpfad, "");
-    EXPECT_EQ(e->TWA_Liste_Monat, Probe().TWA_Liste_Monat);
+    EXPECT_EQ(e->TWA.Monat, Probe().TWA.Monat);
 }
 
 TEST(Einstellungen, any_earlier_end_is_no_settings_file) {
@@ -84,13 +84,13 @@ TEST(Einstellungen, duration_is_read_in_free_form) {
          {Fall{"7", 7}, Fall{" 7 ", 7}, Fall{"\t 7.50", 7.5}, Fall{"7,5 days", 7.5}, Fall{"1E2", 100}, Fall{" -1 ", -1}}) {
         const auto e = zerlege_Einstellungen(mit_Zeile(Bytes, 7, Zeile));
         ASSERT_TRUE(e) << Zeile;
-        EXPECT_EQ(e->TWA_Liste_EU[3], Tage) << Zeile;
+        EXPECT_EQ(e->TWA.EU[3], Tage) << Zeile;
     }
 }
 
 TEST(Einstellungen, negative_number_takes_the_place_of_the_sign) {
     Einstellungen e;
-    e.TWA_Liste_EU[0] = -1.5;
+    e.TWA.EU[0] = -1.5;
     EXPECT_EQ(zerlegt(Einstellungen_als_Bytes(e))[3], "-1.5 ");
 }
 

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <utility>
 
 #include "base/laufzeitfehler.h"
 #include "satzprobe.h"
@@ -111,6 +112,19 @@ TEST(Klimadatei, file_without_a_day_is_told) {
 TEST(Klimadatei, value_that_is_not_finite_is_told_with_its_line) {
     EXPECT_EQ(Fehler("h\r\n" + Tageszeile("1", "1", "1") + Tageszeile("1", "1E400", "1")),
               "File site.cli, line 3: \"1E400\" is too large a number");
+}
+
+TEST(Klimadatei, fault_tells_its_place) {
+    for (const auto& [Bytes, Zeile] :
+         {std::pair{std::string("header"), 2}, std::pair{"h\r\n\r\n" + Tageszeile("1E400", "", ""), 3}}) {
+        try {
+            zerlege_Klimadatei(Bytes, "site.cli");
+            ADD_FAILURE() << Bytes;
+        } catch (const Laufzeitfehler& f) {
+            EXPECT_EQ(f.Ort().Datei, "site.cli");
+            EXPECT_EQ(f.Ort().Zeile, Zeile);
+        }
+    }
 }
 
 TEST(Klimadatei, lines_that_no_run_reaches_are_not_kept) {

@@ -53,7 +53,7 @@ void schreibe(const std::string& Pfad, const std::string& Bytes) {
 namespace {
 
 void fuelle_Studie(Satzprobe& p, std::size_t Studie) {
-    Laufparameter& l = p.Parameter;
+    Laufparameter& l = p.Felder.Parameter;
     const double s = static_cast<double>(Studie + 1);
     p.Felder.Studie.push_back(Studie == 0 ? "Löss, Feld 1" : "Study no " + std::to_string(Studie));
     for (std::size_t c = 0; c < Stoffe; ++c) {
@@ -81,7 +81,7 @@ void fuelle_Studie(Satzprobe& p, std::size_t Studie) {
 
 Satzprobe volle_Probe(int Studien, char Dezimalzeichen) {
     Satzprobe p;
-    Laufparameter& l = p.Parameter;
+    Laufparameter& l = p.Felder.Parameter;
     l.Bodendichte = 1.5;
     l.Bodentiefe = 5;
     l.Plateautiefe = 20;
@@ -95,12 +95,12 @@ Satzprobe volle_Probe(int Studien, char Dezimalzeichen) {
     l.TWA_Zeiten = 0;
     l.Ausgabename_Teile = {1, 0, 2, 3, 0, 1, 255};
     l.Rechenmodus = 3;
-    l.Anzahl_Studien = static_cast<std::uint8_t>(Studien);
     for (std::size_t i = 0; i < static_cast<std::size_t>(Studien); ++i) fuelle_Studie(p, i);
 
+    p.Sicht.Substanz = 1;
+    p.Sicht.PEC_Typ = Hintergrund;
     Eingabe& e = p.Felder;
-    e.Substanz = 1;
-    e.Berechnungsmodus = 2;
+    e.Berechnungsmodus = zwei_parallel;
     e.Name_Wirkstoff = "Wirkstoff 1 µ";
     e.Molmasse_Wirkstoff = "300.25";
     e.Name_Met_1 = "M 01";
@@ -110,7 +110,6 @@ Satzprobe volle_Probe(int Studien, char Dezimalzeichen) {
     e.Molmasse_Met_2 = "150.125";
     e.Bildungsanteil_Met_2 = "0.25";
     e.Applikationsmuster = unregelmaessig;
-    e.PEC_Typ = 1;
     e.App_Monat = 2;
     e.App_Tag = 30;
     e.Applikationsrate = "750.5";
@@ -120,19 +119,21 @@ Satzprobe volle_Probe(int Studien, char Dezimalzeichen) {
     e.Applikationsschema = {{"01", "04", "100", "0"}, {"15", "04", "200.5", "12.5"}, {"30", "11", "", "50"}};
     e.Bodenszenario = "Sandy loam, \"dry\"";
     e.Klimaszenario = "Temperate site";
-    for (std::string* Feld : {&e.Molmasse_Wirkstoff, &e.Molmasse_Met_2, &e.Bildungsanteil_Met_1, &e.Bildungsanteil_Met_2,
-                              &e.Applikationsrate, &e.Applikationsschema[1][3]}) {
-        std::replace(Feld->begin(), Feld->end(), '.', Dezimalzeichen);
+    for (Zahlwert* Feld : {&e.Molmasse_Wirkstoff, &e.Molmasse_Met_2, &e.Bildungsanteil_Met_1, &e.Bildungsanteil_Met_2,
+                           &e.Applikationsrate, &e.Applikationsschema[1][3]}) {
+        std::string Text = Feld->Text();
+        std::replace(Text.begin(), Text.end(), '.', Dezimalzeichen);
+        *Feld = Text;
     }
     return p;
 }
 
 Lesebefund lies(const std::string& Bytes, Satzart Art, Satzprobe& p, char Dezimalzeichen) {
-    return Satz_lesen_aus(Bytes, std::string("probe") + Endungen[Art], Art, p.Parameter, p.Felder, Dezimalzeichen);
+    return Satz_lesen_aus(Bytes, std::string("probe") + Endungen[Art], Art, p.Felder, p.Sicht, Dezimalzeichen);
 }
 
 std::string Bytes(Satzart Art, const Satzprobe& p, char Dezimalzeichen) {
-    return Satz_als_Bytes(Art, p.Parameter, p.Felder, Dezimalzeichen);
+    return Satz_als_Bytes(Art, p.Felder, p.Sicht, Dezimalzeichen);
 }
 
 std::optional<std::string> Fehler_beim_Lesen(const std::string& Bytes, Satzart Art, Satzprobe& p) {

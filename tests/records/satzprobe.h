@@ -10,8 +10,8 @@
 
 #include "records/projektordner.h"
 #include "records/satz.h"
+#include "run/ansicht.h"
 #include "run/eingabe.h"
-#include "run/laufparameter.h"
 
 namespace varnok::probe {
 
@@ -52,8 +52,8 @@ void schreibe(const std::string& Pfad, const std::string& Bytes);
 
 // What a record is read into or written from.
 struct Satzprobe {
-    Laufparameter Parameter;
     Eingabe Felder;
+    Ansicht Sicht;
 
     friend bool operator==(const Satzprobe&, const Satzprobe&) = default;
 };

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <chrono>
 #include <filesystem>
+#include <utility>
 
 #include "base/laufzeitfehler.h"
 #include "satzprobe.h"
@@ -52,6 +53,20 @@ TEST(Simulation_Datei, fewer_than_four_lines_are_told_with_file_and_line) {
     EXPECT_EQ(Fehler(o, "x"), "File x.vnk, line 4: the file ends before the name of the scenario record");
     o.lege_an("x.vnk", "");
     EXPECT_EQ(Fehler(o, "x"), "File x.vnk, line 1: the file ends before the description");
+}
+
+TEST(Simulation_Datei, fault_tells_its_place) {
+    const Probeordner o;
+    o.lege_an("x.vnk", "description\r\nA\r\nB\r\n");
+    for (const auto& [Name, Zeile] : {std::pair{"x", 4}, std::pair{"none", 0}}) {
+        try {
+            lies_Simulation(o.Ordner(), Name);
+            ADD_FAILURE() << Name;
+        } catch (const Laufzeitfehler& f) {
+            EXPECT_EQ(f.Ort().Datei, std::string(Name) + ".vnk");
+            EXPECT_EQ(f.Ort().Zeile, Zeile);
+        }
+    }
 }
 
 TEST(Simulation_Datei, missing_file_and_folder_are_told) {

@@ -16,14 +16,14 @@ TEST(Szenario_lesen, each_line_goes_to_its_place) {
     const Lesebefund b = lies(Satz, Szenario, p);
     EXPECT_EQ(b.Ausgang, Leseausgang::gelesen);
     Satzprobe erwartet;
-    erwartet.Parameter.Bodendichte = 1.5;
-    erwartet.Parameter.Bodentiefe = 5;
-    erwartet.Parameter.Plateautiefe = 20;
-    erwartet.Parameter.Kohlenstoffgehalt = 1.25;
-    erwartet.Parameter.Feldkapazitaet = 30.5;
-    erwartet.Parameter.Welkepunkt = 10.1;
-    erwartet.Parameter.Klimamodus = 1;
-    erwartet.Parameter.Szenariotemperatur = 21;
+    erwartet.Felder.Parameter.Bodendichte = 1.5;
+    erwartet.Felder.Parameter.Bodentiefe = 5;
+    erwartet.Felder.Parameter.Plateautiefe = 20;
+    erwartet.Felder.Parameter.Kohlenstoffgehalt = 1.25;
+    erwartet.Felder.Parameter.Feldkapazitaet = 30.5;
+    erwartet.Felder.Parameter.Welkepunkt = 10.1;
+    erwartet.Felder.Parameter.Klimamodus = 1;
+    erwartet.Felder.Parameter.Szenariotemperatur = 21;
     erwartet.Felder.Bodenszenario = "Sandy loam, \"dry\"";
     erwartet.Felder.Klimaszenario = "Temperate site";
     EXPECT_EQ(p, erwartet);
@@ -33,9 +33,10 @@ TEST(Szenario_lesen, divider_in_place_of_the_climate_lines_means_constant_20_deg
     Satzprobe p = volle_Probe();
     const std::string alt = vor_Zeile(Satz, 10) + Trennlinie + "\r\n";
     EXPECT_EQ(lies(alt, Szenario, p).Ausgang, Leseausgang::gelesen);
-    EXPECT_EQ(p.Parameter.Klimamodus, 0);
-    EXPECT_EQ(p.Parameter.Szenariotemperatur, 20);
-    EXPECT_EQ(p.Felder.Klimaszenario, "20 °C constant");
+    EXPECT_EQ(p.Felder.Parameter.Klimamodus, 0);
+    EXPECT_EQ(p.Felder.Parameter.Szenariotemperatur, 20);
+    EXPECT_EQ(p.Felder.Klimaszenario, "");
+    EXPECT_EQ(Klimatext(p.Felder), "20 °C constant");
     const auto Zeilen = zerlegt(Bytes(Szenario, p));
     EXPECT_EQ(Zeilen[8],
               "Climatic condition:\t20 \xB0"
@@ -47,16 +48,17 @@ TEST(Szenario_lesen, divider_in_place_of_the_climate_lines_means_constant_20_deg
 TEST(Szenario_lesen, six_hyphens_anywhere_in_line_10_are_the_divider) {
     Satzprobe p;
     EXPECT_EQ(lies(mit_Zeile(Satz, 10, "Climate mode:\t1 ------"), Szenario, p).Ausgang, Leseausgang::gelesen);
-    EXPECT_EQ(p.Parameter.Klimamodus, 0);
+    EXPECT_EQ(p.Felder.Parameter.Klimamodus, 0);
     p = {};
     EXPECT_EQ(lies(mit_Zeile(Satz, 10, "Climate mode:\t1 -----"), Szenario, p).Ausgang, Leseausgang::gelesen);
-    EXPECT_EQ(p.Parameter.Klimamodus, 1);
+    EXPECT_EQ(p.Felder.Parameter.Klimamodus, 1);
 }
 
 TEST(Szenario_lesen, constant_temperature_takes_the_place_of_the_climate_name) {
     Satzprobe p;
     lies(mit_Zeile(Satz, 10, "Climate mode:\t0"), Szenario, p);
-    EXPECT_EQ(p.Felder.Klimaszenario, "21 °C constant");
+    EXPECT_EQ(p.Felder.Klimaszenario, "");
+    EXPECT_EQ(Klimatext(p.Felder), "21 °C constant");
     EXPECT_EQ(zerlegt(Bytes(Szenario, p))[8],
               "Climatic condition:\t21 \xB0"
               "C constant");
@@ -65,9 +67,9 @@ TEST(Szenario_lesen, constant_temperature_takes_the_place_of_the_climate_name) {
 TEST(Szenario_lesen, decimal_comma_gives_the_same_density_as_a_point) {
     Satzprobe p;
     lies(mit_Zeile(Satz, 3, "Soil density (kg/L):\t1,35"), Szenario, p);
-    EXPECT_EQ(p.Parameter.Bodendichte, 1.35);
+    EXPECT_EQ(p.Felder.Parameter.Bodendichte, 1.35);
     lies(mit_Zeile(Satz, 3, "Soil density (kg/L):\t1.35"), Szenario, p);
-    EXPECT_EQ(p.Parameter.Bodendichte, 1.35);
+    EXPECT_EQ(p.Felder.Parameter.Bodendichte, 1.35);
 }
 
 TEST(Szenario_lesen, temperature_is_whole_with_halves_to_the_even_neighbour) {
@@ -82,7 +84,7 @@ TEST(Szenario_lesen, temperature_is_whole_with_halves_to_the_even_neighbour) {
             EXPECT_EQ(b.Ausgang, Leseausgang::abgebrochen);
             continue;
         }
-        EXPECT_EQ(p.Parameter.Szenariotemperatur, Temperatur) << Text;
+        EXPECT_EQ(p.Felder.Parameter.Szenariotemperatur, Temperatur) << Text;
         ASSERT_EQ(b.Bemerkungen.size(), 1u) << Text;
         EXPECT_EQ(b.Bemerkungen[0].Zeile, 11);
     }
@@ -91,7 +93,7 @@ TEST(Szenario_lesen, temperature_is_whole_with_halves_to_the_even_neighbour) {
 TEST(Szenario_lesen, climate_lines_know_no_decimal_comma) {
     Satzprobe p;
     const Lesebefund b = lies(mit_Zeile(Satz, 11, "Scenario Temperature:\t19,9"), Szenario, p);
-    EXPECT_EQ(p.Parameter.Szenariotemperatur, 19);
+    EXPECT_EQ(p.Felder.Parameter.Szenariotemperatur, 19);
     ASSERT_EQ(b.Bemerkungen.size(), 1u);
     EXPECT_THAT(b.Bemerkungen[0].Text, HasSubstr("\"19,9\" was read as 19"));
 }
@@ -114,9 +116,9 @@ TEST(Szenario_lesen, value_outside_its_place_ends_the_reading_there) {
         EXPECT_EQ(b.Zeile, static_cast<int>(Zeile));
         EXPECT_EQ(b.Grund, Grund);
         // What stands above is in force, what stands below is as before.
-        EXPECT_EQ(p.Parameter.Bodendichte, 1.5);
+        EXPECT_EQ(p.Felder.Parameter.Bodendichte, 1.5);
         EXPECT_EQ(p.Felder.Klimaszenario, Zeile > 9 ? "Temperate site" : "old");
-        EXPECT_EQ(p.Parameter.Szenariotemperatur, 20);
+        EXPECT_EQ(p.Felder.Parameter.Szenariotemperatur, 20);
     }
 }
 
@@ -129,10 +131,10 @@ TEST(Szenario_lesen, file_that_ends_early_leaves_the_rest_as_it_was) {
         EXPECT_EQ(b.Zeile, static_cast<int>(Zeile));
         EXPECT_THAT(b.Grund, HasSubstr("the file ends before"));
         EXPECT_EQ(p.Felder.Bodenszenario, Zeile > 2 ? neu.Felder.Bodenszenario : "") << Zeile;
-        EXPECT_EQ(p.Parameter.Bodendichte, Zeile > 3 ? 1.5 : 0) << Zeile;
-        EXPECT_EQ(p.Parameter.Welkepunkt, Zeile > 8 ? 10.1 : 0) << Zeile;
-        EXPECT_EQ(p.Parameter.Klimamodus, Zeile > 10 ? 1 : 0) << Zeile;
-        EXPECT_EQ(p.Parameter.Szenariotemperatur, 20) << Zeile;
+        EXPECT_EQ(p.Felder.Parameter.Bodendichte, Zeile > 3 ? 1.5 : 0) << Zeile;
+        EXPECT_EQ(p.Felder.Parameter.Welkepunkt, Zeile > 8 ? 10.1 : 0) << Zeile;
+        EXPECT_EQ(p.Felder.Parameter.Klimamodus, Zeile > 10 ? 1 : 0) << Zeile;
+        EXPECT_EQ(p.Felder.Parameter.Szenariotemperatur, 20) << Zeile;
     }
     Satzprobe p;
     EXPECT_EQ(lies(vor_Zeile(Satz, 12), Szenario, p).Ausgang, Leseausgang::gelesen);
@@ -142,7 +144,7 @@ TEST(Szenario_lesen, text_without_a_number_is_0_and_noted_with_its_line) {
     Satzprobe p = volle_Probe();
     const Lesebefund b = lies(mit_Zeile(Satz, 7, "Field capacity (Vol%):\tmuch"), Szenario, p);
     EXPECT_EQ(b.Ausgang, Leseausgang::gelesen);
-    EXPECT_EQ(p.Parameter.Feldkapazitaet, 0);
+    EXPECT_EQ(p.Felder.Parameter.Feldkapazitaet, 0);
     ASSERT_EQ(b.Bemerkungen.size(), 1u);
     EXPECT_EQ(b.Bemerkungen[0].Zeile, 7);
     EXPECT_EQ(b.Bemerkungen[0].Text, "\"much\" is no number and was read as 0 for \"Field capacity (Vol%):\"");
@@ -151,21 +153,21 @@ TEST(Szenario_lesen, text_without_a_number_is_0_and_noted_with_its_line) {
 TEST(Szenario_lesen, blank_value_is_0_without_a_note) {
     Satzprobe p = volle_Probe();
     EXPECT_TRUE(lies(mit_Zeile(Satz, 7, "Field capacity (Vol%):\t  "), Szenario, p).Bemerkungen.empty());
-    EXPECT_EQ(p.Parameter.Feldkapazitaet, 0);
+    EXPECT_EQ(p.Felder.Parameter.Feldkapazitaet, 0);
 }
 
 TEST(Szenario_lesen, line_without_its_tab_reads_the_label_and_so_0) {
     Satzprobe p = volle_Probe();
     const Lesebefund b = lies(mit_Zeile(Satz, 4, "Soil depth (cm): 5"), Szenario, p);
     EXPECT_EQ(b.Ausgang, Leseausgang::gelesen);
-    EXPECT_EQ(p.Parameter.Bodentiefe, 0);
+    EXPECT_EQ(p.Felder.Parameter.Bodentiefe, 0);
     EXPECT_EQ(b.Bemerkungen.size(), 1u);
 }
 
 TEST(Szenario_lesen, number_with_its_unit_behind_gives_the_number) {
     Satzprobe p;
     EXPECT_TRUE(lies(mit_Zeile(Satz, 4, "Soil depth (cm):\t 7.5 cm"), Szenario, p).Bemerkungen.empty());
-    EXPECT_EQ(p.Parameter.Bodentiefe, 7.5);
+    EXPECT_EQ(p.Felder.Parameter.Bodentiefe, 7.5);
 }
 
 TEST(Szenario_lesen, labels_are_never_compared) {
@@ -207,10 +209,10 @@ TEST(Szenario_lesen, compound_record_under_the_extension_of_a_scenario_is_read_b
     Satzprobe p;
     const Lesebefund b = lies(Bytes(Wirkstoff, volle_Probe(1)), Szenario, p);
     EXPECT_EQ(b.Ausgang, Leseausgang::gelesen);
-    EXPECT_EQ(p.Felder.Bodenszenario, "1");          // the unit
-    EXPECT_EQ(p.Parameter.Bodendichte, 1);           // the first flag of the output name
-    EXPECT_EQ(p.Parameter.Bodentiefe, 2);            // separate residues
-    EXPECT_EQ(p.Parameter.Szenariotemperatur, 110);  // the first KOC
+    EXPECT_EQ(p.Felder.Bodenszenario, "1");                 // the unit
+    EXPECT_EQ(p.Felder.Parameter.Bodendichte, 1);           // the first flag of the output name
+    EXPECT_EQ(p.Felder.Parameter.Bodentiefe, 2);            // separate residues
+    EXPECT_EQ(p.Felder.Parameter.Szenariotemperatur, 110);  // the first KOC
 }
 
 }  // namespace

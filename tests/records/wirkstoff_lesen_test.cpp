@@ -29,53 +29,56 @@ TEST(Wirkstoff_lesen, each_line_goes_to_its_place) {
     Satzprobe p;
     EXPECT_EQ(lies(Satz, Wirkstoff, p).Ausgang, Leseausgang::gelesen);
     const Satzprobe voll = volle_Probe(2);
-    EXPECT_EQ(p.Parameter.Einheit, 1);
-    EXPECT_EQ(p.Parameter.Separate_Rueckstaende, 2);
-    EXPECT_EQ(p.Parameter.TWA_Zeiten, 0);
-    EXPECT_EQ(p.Parameter.Rechenmodus, 3);
-    EXPECT_EQ(p.Parameter.Ausgabename_Teile, voll.Parameter.Ausgabename_Teile);
-    EXPECT_EQ(p.Parameter.Anzahl_Studien, 2);
+    EXPECT_EQ(p.Felder.Parameter.Einheit, 1);
+    EXPECT_EQ(p.Felder.Parameter.Separate_Rueckstaende, 2);
+    EXPECT_EQ(p.Felder.Parameter.TWA_Zeiten, 0);
+    EXPECT_EQ(p.Felder.Parameter.Rechenmodus, 3);
+    EXPECT_EQ(p.Felder.Parameter.Ausgabename_Teile, voll.Felder.Parameter.Ausgabename_Teile);
+    EXPECT_EQ(p.Felder.Studienzahl(), 2);
     EXPECT_EQ(p.Felder.Studie, (std::vector<std::string>{"Löss, Feld 1", "Study no 1"}));
-    EXPECT_EQ(p.Parameter.KOC[0][0], 110);
-    EXPECT_EQ(p.Parameter.KOC[2][1], 122);
-    EXPECT_EQ(p.Parameter.Q10[1][0], 2.011);
-    EXPECT_EQ(p.Parameter.Walker[2][1], 0.22);
-    EXPECT_EQ(p.Parameter.TRef[1][1], 17.1);
-    EXPECT_EQ(p.Parameter.Kinetik[0], (Studientabelle<double>{FOMC, HS}));
-    EXPECT_EQ(p.Parameter.Kinetik[1], (Studientabelle<double>{SFO, SFO}));
-    EXPECT_EQ(p.Parameter.Kinetik[2], (Studientabelle<double>{DFOP, DFOP}));
-    EXPECT_EQ(p.Parameter.k_SFO[0][1], 0.05);
-    EXPECT_EQ(p.Parameter.alpha_FOMC[1], 2.7);
-    EXPECT_EQ(p.Parameter.beta_FOMC[0], 1e-5);
-    EXPECT_EQ(p.Parameter.k1_DFOP[0][0], 0.2);
-    EXPECT_EQ(p.Parameter.k2_DFOP[0][0], 0.0003);
-    EXPECT_EQ(p.Parameter.g_DFOP[1][0], 11. / 128);
-    EXPECT_EQ(p.Parameter.k1_HS[1], 0.035);
-    EXPECT_EQ(p.Parameter.k2_HS[1], 0.0035);
-    EXPECT_EQ(p.Parameter.Tb_HS[1], 25);
-    EXPECT_EQ(p.Felder.Substanz, 1);
+    EXPECT_EQ(p.Felder.Parameter.KOC[0][0], 110);
+    EXPECT_EQ(p.Felder.Parameter.KOC[2][1], 122);
+    EXPECT_EQ(p.Felder.Parameter.Q10[1][0], 2.011);
+    EXPECT_EQ(p.Felder.Parameter.Walker[2][1], 0.22);
+    EXPECT_EQ(p.Felder.Parameter.TRef[1][1], 17.1);
+    EXPECT_EQ(p.Felder.Parameter.Kinetik[0], (Studientabelle<Kinetikart>{FOMC, HS}));
+    EXPECT_EQ(p.Felder.Parameter.Kinetik[1], (Studientabelle<Kinetikart>{SFO, SFO}));
+    EXPECT_EQ(p.Felder.Parameter.Kinetik[2], (Studientabelle<Kinetikart>{DFOP, DFOP}));
+    EXPECT_EQ(p.Felder.Parameter.k_SFO[0][1], 0.05);
+    EXPECT_EQ(p.Felder.Parameter.alpha_FOMC[1], 2.7);
+    EXPECT_EQ(p.Felder.Parameter.beta_FOMC[0], 1e-5);
+    EXPECT_EQ(p.Felder.Parameter.k1_DFOP[0][0], 0.2);
+    EXPECT_EQ(p.Felder.Parameter.k2_DFOP[0][0], 0.0003);
+    EXPECT_EQ(p.Felder.Parameter.g_DFOP[1][0], 11. / 128);
+    EXPECT_EQ(p.Felder.Parameter.k1_HS[1], 0.035);
+    EXPECT_EQ(p.Felder.Parameter.k2_HS[1], 0.0035);
+    EXPECT_EQ(p.Felder.Parameter.Tb_HS[1], 25);
+    EXPECT_EQ(p.Sicht.Substanz, 1);
     EXPECT_EQ(p.Felder.Berechnungsmodus, 2);
     EXPECT_EQ(p.Felder.Name_Wirkstoff, "Wirkstoff 1 µ");
-    EXPECT_EQ(p.Felder.Molmasse_Wirkstoff, "300.25");
+    EXPECT_EQ(p.Felder.Molmasse_Wirkstoff.Text(), "300.25");
     EXPECT_EQ(p.Felder.Name_Met_1, "M 01");
-    EXPECT_EQ(p.Felder.Molmasse_Met_1, "200");
-    EXPECT_EQ(p.Felder.Bildungsanteil_Met_1, "0.5");
+    EXPECT_EQ(p.Felder.Molmasse_Met_1.Text(), "200");
+    EXPECT_EQ(p.Felder.Bildungsanteil_Met_1.Text(), "0.5");
     EXPECT_EQ(p.Felder.Name_Met_2, "M 02");
-    EXPECT_EQ(p.Felder.Molmasse_Met_2, "150.125");
-    EXPECT_EQ(p.Felder.Bildungsanteil_Met_2, "0.25");
+    EXPECT_EQ(p.Felder.Molmasse_Met_2.Text(), "150.125");
+    EXPECT_EQ(p.Felder.Bildungsanteil_Met_2.Text(), "0.25");
+    EXPECT_EQ(p.Felder.Molmasse_Wirkstoff.Zahl(), 300.25);
+    EXPECT_EQ(p.Felder.Molmasse_Met_2.Zahl(), 150.125);
+    EXPECT_EQ(p.Felder.Bildungsanteil_Met_1.Zahl(), 0.5);
 }
 
 TEST(Wirkstoff_lesen, first_study_is_shown) {
     Satzprobe p;
-    p.Felder.Studie_Index = 4;
+    p.Sicht.Studie_Index = 4;
     lies(Satz, Wirkstoff, p);
-    EXPECT_EQ(p.Felder.Studie_Index, 0);
+    EXPECT_EQ(p.Sicht.Studie_Index, 0);
 }
 
 TEST(Wirkstoff_lesen, places_behind_the_last_study_get_start_values) {
     Satzprobe p = volle_Probe(6);
     lies(Satz, Wirkstoff, p);
-    const Laufparameter& l = p.Parameter;
+    const Laufparameter& l = p.Felder.Parameter;
     EXPECT_EQ(p.Felder.Studie.size(), 2u);
     for (std::size_t Studie = 2; Studie < Studienplaetze; ++Studie) {
         for (std::size_t c = 0; c < Stoffe; ++c) {
@@ -104,11 +107,13 @@ TEST(Wirkstoff_lesen, what_a_record_gives_does_not_depend_on_the_one_before) {
     lies(Satz, Wirkstoff, nach_anderem);
     lies(Satz, Wirkstoff, frisch);
     // The scenario and the pattern are no part of this record.
-    nach_anderem.Parameter.Bodendichte = nach_anderem.Parameter.Bodentiefe = nach_anderem.Parameter.Plateautiefe = 0;
-    nach_anderem.Parameter.Kohlenstoffgehalt = nach_anderem.Parameter.Feldkapazitaet = nach_anderem.Parameter.Welkepunkt = 0;
-    nach_anderem.Parameter.Klimamodus = 0;
-    nach_anderem.Parameter.Szenariotemperatur = 20;
-    EXPECT_EQ(nach_anderem.Parameter, frisch.Parameter);
+    nach_anderem.Felder.Parameter.Bodendichte = nach_anderem.Felder.Parameter.Bodentiefe =
+        nach_anderem.Felder.Parameter.Plateautiefe = 0;
+    nach_anderem.Felder.Parameter.Kohlenstoffgehalt = nach_anderem.Felder.Parameter.Feldkapazitaet =
+        nach_anderem.Felder.Parameter.Welkepunkt = 0;
+    nach_anderem.Felder.Parameter.Klimamodus = 0;
+    nach_anderem.Felder.Parameter.Szenariotemperatur = 20;
+    EXPECT_EQ(nach_anderem.Felder.Parameter, frisch.Felder.Parameter);
     EXPECT_EQ(Bytes(Wirkstoff, nach_anderem), Bytes(Wirkstoff, frisch));
 }
 
@@ -117,8 +122,8 @@ TEST(Wirkstoff_lesen, masses_and_fractions_come_back_in_general_form) {
         Satzprobe p;
         lies(mit_Zeile(Satz, Wirkstoffzeile + 1, "Metabolite 1:\t M 01 \t0200,50 g/mol\t1E-5"), Wirkstoff, p, z);
         EXPECT_EQ(p.Felder.Name_Met_1, "M 01");
-        EXPECT_EQ(p.Felder.Molmasse_Met_1, std::string("200") + z + "5");
-        EXPECT_EQ(p.Felder.Bildungsanteil_Met_1, "1E-05");
+        EXPECT_EQ(p.Felder.Molmasse_Met_1.Text(), std::string("200") + z + "5");
+        EXPECT_EQ(p.Felder.Bildungsanteil_Met_1.Text(), "1E-05");
     }
 }
 
@@ -128,13 +133,13 @@ TEST(Wirkstoff_lesen, decimal_comma_is_taken_in_every_number_of_a_study) {
     Satzprobe p, q;
     lies(Komma, Wirkstoff, p);
     lies(Satz, Wirkstoff, q);
-    EXPECT_EQ(p.Parameter, q.Parameter);
+    EXPECT_EQ(p.Felder.Parameter, q.Felder.Parameter);
 }
 
 TEST(Wirkstoff_lesen, compound_shown_knows_no_decimal_comma) {
     Satzprobe p;
     lies(mit_Zeile(Satz, gezeigter_Stoff, "Compound shown:\t1,9"), Wirkstoff, p);
-    EXPECT_EQ(p.Felder.Substanz, 1);
+    EXPECT_EQ(p.Sicht.Substanz, 1);
 }
 
 TEST(Wirkstoff_lesen, last_divider_is_not_asked_for) {
@@ -147,7 +152,7 @@ TEST(Wirkstoff_lesen, template_reads_as_its_kind) {
     const Probeordner o;
     o.lege_an("Do not delete this file.chn", Satz);
     Satzprobe p;
-    EXPECT_EQ(Satz_lesen(o.Ordner(), "do not delete this file", Vorlage_Wirkstoff, p.Parameter, p.Felder).Ausgang,
+    EXPECT_EQ(Satz_lesen(o.Ordner(), "do not delete this file", Vorlage_Wirkstoff, p.Felder, p.Sicht).Ausgang,
               Leseausgang::gelesen);
     EXPECT_EQ(Bytes(Wirkstoff, p), Satz);
 }
@@ -162,14 +167,14 @@ class Wirkstoff_Flaggen : public ::testing::TestWithParam<Flaggenzeile> {};
 
 TEST_P(Wirkstoff_Flaggen, missing_tab_clears_the_flag_in_progress_and_all_later_ones) {
     Satzprobe p;
-    p.Parameter.Ausgabename_Teile.fill(9);
+    p.Felder.Parameter.Ausgabename_Teile.fill(9);
     const Lesebefund b = lies(mit_Zeile(Satz, Flaggen, GetParam().Text), Wirkstoff, p);
     EXPECT_EQ(b.Ausgang, Leseausgang::gelesen);
-    EXPECT_EQ(p.Parameter.Ausgabename_Teile, GetParam().erwartet);
+    EXPECT_EQ(p.Felder.Parameter.Ausgabename_Teile, GetParam().erwartet);
     ASSERT_EQ(b.Bemerkungen.size(), 1u);
     EXPECT_EQ(b.Bemerkungen[0].Zeile, 3);
-    EXPECT_EQ(p.Parameter.Separate_Rueckstaende, 2);
-    EXPECT_EQ(p.Felder.Bildungsanteil_Met_2, "0.25");
+    EXPECT_EQ(p.Felder.Parameter.Separate_Rueckstaende, 2);
+    EXPECT_EQ(p.Felder.Bildungsanteil_Met_2.Text(), "0.25");
 }
 
 using F = std::array<std::uint8_t, 7>;
@@ -183,7 +188,7 @@ INSTANTIATE_TEST_SUITE_P(alle, Wirkstoff_Flaggen,
 TEST(Wirkstoff_Flaggen, six_values_with_a_tab_behind_the_last_are_seven) {
     Satzprobe p;
     const Lesebefund b = lies(mit_Zeile(Satz, Flaggen, "Output file name :\t1\t2\t3\t4\t5\t6\t"), Wirkstoff, p);
-    EXPECT_EQ(p.Parameter.Ausgabename_Teile, (F{1, 2, 3, 4, 5, 6, 0}));
+    EXPECT_EQ(p.Felder.Parameter.Ausgabename_Teile, (F{1, 2, 3, 4, 5, 6, 0}));
     EXPECT_TRUE(b.Bemerkungen.empty());
 }
 
@@ -214,10 +219,10 @@ TEST(Wirkstoff_Flaggen, fault_in_the_first_study_clears_all_flags_and_goes_on_wi
     Satzprobe p;
     const Lesebefund b = lies(mit_Fortsetzung(erste_Studie + 1, "KOC (L/kg):\t1\t2"), Wirkstoff, p);
     EXPECT_EQ(b.Ausgang, Leseausgang::gelesen);
-    EXPECT_EQ(p.Parameter.Ausgabename_Teile, F{});
+    EXPECT_EQ(p.Felder.Parameter.Ausgabename_Teile, F{});
     EXPECT_EQ(p.Felder.Studie, volle_Probe(3).Felder.Studie);
-    EXPECT_EQ(p.Parameter.KOC[0][0], 110);
-    EXPECT_EQ(p.Parameter.Einheit, 1);
+    EXPECT_EQ(p.Felder.Parameter.KOC[0][0], 110);
+    EXPECT_EQ(p.Felder.Parameter.Einheit, 1);
     ASSERT_EQ(b.Bemerkungen.size(), 1u);
     EXPECT_EQ(b.Bemerkungen[0].Zeile, 11);
 }
@@ -225,19 +230,19 @@ TEST(Wirkstoff_Flaggen, fault_in_the_first_study_clears_all_flags_and_goes_on_wi
 TEST(Wirkstoff_Flaggen, fault_in_the_second_study_keeps_the_first_flag) {
     Satzprobe p;
     lies(mit_Fortsetzung(zweite_Studie + 5, "Kinetics:\t0"), Wirkstoff, p);
-    EXPECT_EQ(p.Parameter.Ausgabename_Teile, (F{1, 0, 0, 0, 0, 0, 0}));
-    EXPECT_EQ(p.Parameter.Anzahl_Studien, 3);
+    EXPECT_EQ(p.Felder.Parameter.Ausgabename_Teile, (F{1, 0, 0, 0, 0, 0, 0}));
+    EXPECT_EQ(p.Felder.Studienzahl(), 3);
 }
 
 TEST(Wirkstoff_Flaggen, fault_behind_the_studies_keeps_as_many_flags_as_there_are_studies) {
     Satzprobe p;
     lies(mit_Fortsetzung(Wirkstoffzeile, "Parent: no tab"), Wirkstoff, p);
-    EXPECT_EQ(p.Parameter.Ausgabename_Teile, (F{1, 0, 0, 0, 0, 0, 0}));
+    EXPECT_EQ(p.Felder.Parameter.Ausgabename_Teile, (F{1, 0, 0, 0, 0, 0, 0}));
     p = {};
     auto Zeilen = zerlegt(mit_Fortsetzung(Wirkstoffzeile, "Parent: no tab"));
     Zeilen[2] = "Output file name :\t1\t2\t3\t4\t5\t6\t7";
     lies(verbunden(Zeilen), Wirkstoff, p);
-    EXPECT_EQ(p.Parameter.Ausgabename_Teile, (F{1, 2, 0, 0, 0, 0, 0}));
+    EXPECT_EQ(p.Felder.Parameter.Ausgabename_Teile, (F{1, 2, 0, 0, 0, 0, 0}));
 }
 
 TEST(Wirkstoff_Flaggen, second_fault_rejects_the_record_and_names_the_first) {
@@ -322,11 +327,11 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(Wirkstoff_lesen, crop_rotation_and_pattern_are_left_alone) {
     Satzprobe p;
-    p.Felder.Fruchtwechsel = 1;
+    p.Sicht.Fruchtwechsel = jedes_zweite_Jahr;
     p.Felder.Applikationsrate = "5";
     lies(Satz, Wirkstoff, p);
-    EXPECT_EQ(p.Felder.Fruchtwechsel, 1);
-    EXPECT_EQ(p.Felder.Applikationsrate, "5");
+    EXPECT_EQ(p.Sicht.Fruchtwechsel, 1);
+    EXPECT_EQ(p.Felder.Applikationsrate.Text(), "5");
 }
 
 }  // namespace

@@ -37,44 +37,54 @@ std::optional<std::vector<std::string>> Seiten(const std::string& PDF) {
 }
 
 TEST(Bericht, brings_name_text_document_and_bytes) {
-    const auto l = gerechnet({});
-    const Bericht b = Bericht_von(*l);
+    const auto l = mit_Ergebnissen({});
+    const Bericht b = Bericht_von(l);
     EXPECT_EQ(b.Name, "the problem");
-    EXPECT_EQ(b.Text, erstelle_Standardbericht(*l, Angaben));
+    EXPECT_EQ(b.Text, erstelle_Standardbericht(l, Angaben));
     EXPECT_THAT(b.RTF, ::testing::StartsWith("{\\rtf1\\ansi\\ansicpg1252\\deff0\\uc1\n"));
     EXPECT_TRUE(b.Dokument->toPlainText().contains(QStringLiteral("RESULTS OF THE CALCULATION")));
 }
 
 TEST(Bericht, extended_report_takes_name_and_text_of_its_own) {
     Lauf_bauer b = mit_Studien(Lauf_bauer(), 2);
-    b.Parameter.Ausgabename_Teile[4] = 1;
-    const auto l = gerechnet(b);
-    const Bericht r = Bericht_von(*l, Berichtsart::erweitert);
+    b.Felder.Parameter.Ausgabename_Teile[4] = 1;
+    const auto l = mit_Ergebnissen(b);
+    const Bericht r = Bericht_von(l, Berichtsart::erweitert);
     EXPECT_EQ(r.Name, "the problem - 1 year");
-    EXPECT_EQ(r.Text, erstelle_erweiterten_Bericht(*l, Angaben));
+    EXPECT_EQ(r.Text, erstelle_erweiterten_Bericht(l, Angaben));
 }
 
 TEST(Bericht, the_run_is_only_read) {
-    const auto l = gerechnet(Lauf_bauer().Schema(1));
-    const std::string vorher = Abbild(*l, 0) + Abbild_gemeinsam(*l);
-    const Eingabe Felder = l->Felder;
-    Bericht_von(*l);
-    EXPECT_EQ(Abbild(*l, 0) + Abbild_gemeinsam(*l), vorher);
-    EXPECT_EQ(l->Felder, Felder);
+    const auto l = mit_Ergebnissen(Lauf_bauer().Schema(1));
+    const Darstellungsprobe vorher = l;
+    const Ergebnis Werte = *l.Studien[0];
+    Bericht_von(l);
+    EXPECT_EQ(l.Felder, vorher.Felder);
+    EXPECT_EQ(l.Sicht, vorher.Sicht);
+    EXPECT_EQ(l.Studien, vorher.Studien);
+    EXPECT_EQ(*l.Studien[0]->Vorgabe, l.Felder);
+    for (int c = 0; c < 2; ++c) {
+        for (int e = 0; e < Endpunkte; ++e) {
+            const Endpunktergebnis& jetzt = l.Studien[0]->Werte(e, c);
+            EXPECT_EQ(jetzt.Reihe_Bodentiefe, Werte.Werte(e, c).Reihe_Bodentiefe);
+            EXPECT_EQ(jetzt.Reihe_Plateautiefe, Werte.Werte(e, c).Reihe_Plateautiefe);
+            EXPECT_EQ(jetzt.Plateauwert, Werte.Werte(e, c).Plateauwert);
+        }
+    }
 }
 
 std::atomic<int> Meldungen = 0;
 
 // A batch program makes its reports in threads of any library, without a word from below.
 TEST(Bericht, is_the_same_in_every_thread) {
-    const auto l = gerechnet(Lauf_bauer().Schema(2).nach_SFO(0.02, 1));
+    const auto l = mit_Ergebnissen(Lauf_bauer().Schema(2).nach_SFO(0.02, 1));
     Meldungen = 0;
     const auto vorher = qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) { ++Meldungen; });
-    const std::string hier = Bericht_von(*l).RTF;
+    const std::string hier = Bericht_von(l).RTF;
     std::array<std::string, 3> dort;
     {
         std::vector<std::jthread> Faeden;
-        for (std::string& Platz : dort) Faeden.emplace_back([&Platz, &l] { Platz = Bericht_von(*l).RTF; });
+        for (std::string& Platz : dort) Faeden.emplace_back([&Platz, &l] { Platz = Bericht_von(l).RTF; });
     }
     qInstallMessageHandler(vorher);
     for (const std::string& RTF : dort) EXPECT_TRUE(RTF == hier);
@@ -82,7 +92,7 @@ TEST(Bericht, is_the_same_in_every_thread) {
 }
 
 TEST(PDF, has_numbered_pages_and_the_picture_on_one_of_them) {
-    const Bericht b = Bericht_von(*gerechnet(Lauf_bauer().Schema(2).nach_SFO(0.02, 1)));
+    const Bericht b = Bericht_von(mit_Ergebnissen(Lauf_bauer().Schema(2).nach_SFO(0.02, 1)));
     const std::string PDF = als_PDF(*b.Dokument, b.Name);
     EXPECT_THAT(PDF, ::testing::StartsWith("%PDF-"));
     const auto Text = Seiten(PDF);
@@ -103,7 +113,7 @@ TEST(PDF, has_numbered_pages_and_the_picture_on_one_of_them) {
 }
 
 TEST(PDF, every_line_of_the_report_is_on_a_page) {
-    const Bericht b = Bericht_von(*gerechnet(mit_Studien(Lauf_bauer().Schema(3), 3)), Berichtsart::erweitert);
+    const Bericht b = Bericht_von(mit_Ergebnissen(mit_Studien(Lauf_bauer().Schema(3), 3)), Berichtsart::erweitert);
     const auto Text = Seiten(als_PDF(*b.Dokument, b.Name));
     if (!Text) GTEST_SKIP() << "pdftotext is not installed";
     std::string alles;
@@ -115,7 +125,7 @@ TEST(PDF, every_line_of_the_report_is_on_a_page) {
 
 // Nothing stands twice where one page ends and the next begins.
 TEST(PDF, no_line_is_on_two_pages) {
-    const Bericht b = Bericht_von(*gerechnet(mit_Studien(Lauf_bauer().Schema(3), 6)), Berichtsart::erweitert);
+    const Bericht b = Bericht_von(mit_Ergebnissen(mit_Studien(Lauf_bauer().Schema(3), 6)), Berichtsart::erweitert);
     const auto Text = Seiten(als_PDF(*b.Dokument, b.Name));
     if (!Text) GTEST_SKIP() << "pdftotext is not installed";
     std::string alles;
@@ -134,7 +144,7 @@ QTextCursor ab(const Bericht& b, const char* Wort) {
 }
 
 TEST(PDF, of_a_selection_holds_that_and_the_picture_in_it) {
-    const Bericht b = Bericht_von(*gerechnet({}));
+    const Bericht b = Bericht_von(mit_Ergebnissen({}));
     const auto Text = Seiten(als_PDF(*Auswahl_als_Dokument(ab(b, "GRAPHIC REPRESENTATION")), "x"));
     if (!Text) GTEST_SKIP() << "pdftotext is not installed";
     ASSERT_EQ(Text->size(), 1U);
@@ -144,14 +154,14 @@ TEST(PDF, of_a_selection_holds_that_and_the_picture_in_it) {
 }
 
 TEST(PDF, of_a_selection_has_font_and_indent_of_the_report) {
-    const Bericht b = Bericht_von(*gerechnet({}));
+    const Bericht b = Bericht_von(mit_Ergebnissen({}));
     const auto d = Auswahl_als_Dokument(ab(b, "Soil density"));
     EXPECT_EQ(d->defaultFont(), b.Dokument->defaultFont());
     EXPECT_EQ(d->begin().blockFormat(), b.Dokument->findBlock(ab(b, "Soil density").selectionStart()).blockFormat());
 }
 
 TEST(PDF, document_stays_as_it_was) {
-    const Bericht b = Bericht_von(*gerechnet({}));
+    const Bericht b = Bericht_von(mit_Ergebnissen({}));
     const QString vorher = b.Dokument->toHtml();
     const QSizeF Groesse = b.Dokument->size();
     als_PDF(*b.Dokument, "x");

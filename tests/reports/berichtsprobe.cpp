@@ -4,28 +4,13 @@
 
 #include <algorithm>
 #include <cmath>
-#include <stdexcept>
-
-#include "exposure/schritte.h"
 
 namespace varnok::probe {
 
-std::unique_ptr<Lauf> gerechnet(Lauf_bauer b) {
-    b.Felder.Aktuelle_Dateinamen = {"simulation", "compound record", "pattern record", "scenario record"};
+Darstellungsprobe mit_Ergebnissen(Lauf_bauer b) {
     if (b.Felder.Beschreibung.empty()) b.Felder.Beschreibung = "the problem";
     b.Felder.Bodenszenario = "loam";
-    if (b.Parameter.Klimamodus == 0) b.Felder.Klimaszenario = "20 °C constant";  // as reading a scenario sets it
-    b.Parameter.Anzahl_Studien = static_cast<std::uint8_t>(b.Felder.Studie.size());
-    auto l = std::make_unique<Lauf>(b.baue());
-    const Klimaliste Quelle = b.Klima ? Klimaliste(*b.Klima) : Klimaliste();
-    const auto rechne = [&](int st) {
-        if (!berechne_PEC(*l, st, Quelle, alle_Rechenschritte).gelungen()) throw std::logic_error("the run has ended early");
-    };
-    for (int st = 0; st < static_cast<int>(b.Felder.Studie.size()); ++st) {
-        if (st != b.Felder.Studie_Index) rechne(st);
-    }
-    rechne(b.Felder.Studie_Index);
-    return l;
+    return gerechnet(b);
 }
 
 Lauf_bauer mit_Studien(Lauf_bauer b, int Anzahl) {
@@ -33,15 +18,16 @@ Lauf_bauer mit_Studien(Lauf_bauer b, int Anzahl) {
         b.Studie(st);
         b.Felder.Studie.push_back("soil " + std::to_string(st + 1));
         const auto s = static_cast<std::size_t>(st);
-        for (auto& k : b.Parameter.k_SFO) k[s] *= std::pow(0.75, st);
+        for (auto& k : b.Felder.Parameter.k_SFO) k[s] *= std::pow(0.75, st);
     }
     b.i_studie = 0;
     return b;
 }
 
-zeuge::Aufgabe als_Aufgabe(const Lauf& l, const Lauf_bauer& b) {
-    return {l.Parameter,   l.Felder,    b.Klima.value_or(std::vector<Klimatag>()), Angaben.Programmversion,
-            Angaben.Datum, Angaben.Zeit};
+zeuge::Aufgabe als_Aufgabe(const Darstellungsprobe& p, const Lauf_bauer& b) {
+    return {
+        p.Felder,      p.Sicht,     b.Klima.value_or(std::vector<Klimatag>()), Angaben.Applikationssatz, Angaben.Programmversion,
+        Angaben.Datum, Angaben.Zeit};
 }
 
 std::vector<std::string> Zeilen(const std::string& Text) {
@@ -77,8 +63,9 @@ int Anzahl_von(const std::string& Text, const std::string& Wort) {
 
 std::string Wert_in(const std::string& Zeile) { return Zeile.substr(Zeile.find('\t') + 1); }
 
-Bericht Bericht_von(const Lauf& l, Berichtsart Art) {
-    return schreibe_Bericht({l, Art, Angaben.Programmversion, Zeitpunkt, erstelle_Berichtsdiagramm(l, Art), std::nullopt});
+Bericht Bericht_von(const Darstellung& d, Berichtsart Art) {
+    return schreibe_Bericht(
+        {d, Art, Angaben.Applikationssatz, Angaben.Programmversion, Zeitpunkt, erstelle_Berichtsdiagramm(d, Art), std::nullopt});
 }
 
 }  // namespace varnok::probe

@@ -2,27 +2,26 @@
 
 // Calculated runs and their report texts for the tests of this folder.
 
-#include <memory>
 #include <string>
 #include <vector>
 
 #include "reports/bericht.h"
 #include "reports/berichtstext.h"
-#include "support/lauf_bauer.h"
+#include "support/darstellungsprobe.h"
 #include "zeuge.h"
 
 namespace varnok::probe {
 
-inline const Berichtsangaben Angaben = {"2.0 (test)", "21/11/2025", "14:05:09"};
+inline const Berichtsangaben Angaben = {"2.0 (test)", "21/11/2025", "14:05:09", "pattern record"};
 inline const Berichtszeit Zeitpunkt = {"21/11/2025", "14:05:09"};
 
-// A run with a description, record names and a soil, every study calculated; the study of `Studie_Index` last.
-std::unique_ptr<Lauf> gerechnet(Lauf_bauer b);
+// With a description and a soil, every study calculated.
+Darstellungsprobe mit_Ergebnissen(Lauf_bauer b);
 
 // Adds studies "soil 2" ... up to `Anzahl`, each a quarter slower than the one before.
 Lauf_bauer mit_Studien(Lauf_bauer b, int Anzahl);
 
-zeuge::Aufgabe als_Aufgabe(const Lauf& l, const Lauf_bauer& b);
+zeuge::Aufgabe als_Aufgabe(const Darstellungsprobe& p, const Lauf_bauer& b);
 
 // The lines of a text; every line end must be CR LF.
 std::vector<std::string> Zeilen(const std::string& Text);
@@ -35,6 +34,6 @@ int Anzahl_von(const std::string& Text, const std::string& Wort);
 std::string Wert_in(const std::string& Zeile);
 
 // A whole report with its picture.
-Bericht Bericht_von(const Lauf& l, Berichtsart Art = Berichtsart::Standard);
+Bericht Bericht_von(const Darstellung& d, Berichtsart Art = Berichtsart::Standard);
 
 }  // namespace varnok::probe

@@ -14,7 +14,7 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::Not;
 
-std::string Text_von(const Lauf_bauer& b) { return erstelle_Standardbericht(*gerechnet(b), Angaben); }
+std::string Text_von(const Lauf_bauer& b) { return erstelle_Standardbericht(mit_Ergebnissen(b), Angaben); }
 
 // The first `n` lines of a part.
 std::vector<std::string> Anfang(std::vector<std::string> Zeilen, std::size_t n) {
@@ -48,7 +48,7 @@ TEST(Standardbericht, dose_of_a_kilogram_by_hand) {
 // The yearly loss leaves x = exp(-3.65); the sum of all earlier years' doses is C x / (1 - x) in the tillage depth.
 TEST(Standardbericht, background_and_accumulation_by_hand) {
     Lauf_bauer b;
-    b.Felder.Fruchtwechsel = 2;
+    b.Sicht.Fruchtwechsel = jedes_dritte_Jahr;
     const std::string Text = Text_von(b);
     const double x = std::exp(-3.65);
     const double Plateau = 1000.0 / 1000 / (1.5 * 20 / 10) * x / (1 - x);
@@ -73,7 +73,7 @@ TEST(Standardbericht, text_ends_with_the_place_of_the_diagram) {
 
 TEST(Standardbericht, constant_climate_has_no_weather_lines) {
     Lauf_bauer b;
-    b.Felder.Klimaszenario = "20 °C constant";
+    b.Temperatur(20);
     const auto Zeilen = ab_Zeile(Text_von(b), "Climatic conditions:");
     EXPECT_EQ(Zeilen[0], "Climatic conditions:                        \t20 °C constant");
     EXPECT_EQ(Zeilen[1], "(* for calculation of background concentrations)");
@@ -98,12 +98,12 @@ TEST(Standardbericht, modes_follow_residues_and_view) {
               "Residues from different applications are not considered separately");
     EXPECT_EQ(Wert_in(Zeile_mit(Text_von(b), "Application mode")),
               "Single annual application pattern (calculation period 1 year)");
-    b.Felder.PEC_Typ = 2;
+    b.Sicht.PEC_Typ = Anreicherung;
     EXPECT_EQ(Wert_in(Zeile_mit(Text_von(b.Rueckstaende(1)), "Calculation mode")),
               "Residues from different applications are considered separately");
     EXPECT_EQ(Wert_in(Zeile_mit(Text_von(b), "Application mode")),
               "Single annual application pattern (calculation period 1 year)");
-    b.Felder.PEC_Typ = 1;
+    b.Sicht.PEC_Typ = Hintergrund;
     EXPECT_EQ(Wert_in(Zeile_mit(Text_von(b.Rueckstaende(2)), "Calculation mode")),
               "Residues from different applications are considered separately over one year");
     EXPECT_EQ(Wert_in(Zeile_mit(Text_von(b), "Application mode")), "Iteration of annual application pattern over 10 years");
@@ -139,8 +139,8 @@ TEST(Standardbericht, compounds_of_scheme_1_have_no_gap_behind_the_KOC) {
 
 TEST(Standardbericht, KOC_is_that_of_the_selected_study) {
     Lauf_bauer b = mit_Studien(Lauf_bauer().Schema(2).KOC(10, 1), 2);
-    b.Parameter.KOC[1][1] = 77;
-    b.Felder.Studie_Index = 1;
+    b.Felder.Parameter.KOC[1][1] = 77;
+    b.Sicht.Studie_Index = 1;
     EXPECT_EQ(Zeile_mit(Text_von(b), "first metabolite\t"), "first metabolite\t150                       \t77          \t50");
 }
 
@@ -158,10 +158,25 @@ TEST(Standardbericht, parameters_are_about_five_figures_long) {
     EXPECT_EQ(Parametertext("x", 12.345678), "12.346");
 }
 
+TEST(Standardbericht, names_are_the_present_ones_and_numbers_those_of_the_results) {
+    auto l = mit_Ergebnissen(Lauf_bauer().Schema(1).Dosis("120"));
+    l.Felder.Beschreibung = "later";
+    l.Felder.Name_Met_1 = "renamed";
+    l.Felder.Studie = {"garden"};
+    l.Felder.Applikationsrate = "7";
+    l.Felder.Parameter.Bodendichte = 9;
+    const std::string Text = erstelle_Standardbericht(l, Angaben);
+    EXPECT_EQ(Wert_in(Zeile_mit(Text, "Calculation problem")), "later");
+    EXPECT_EQ(Wert_in(Zeile_mit(Text, "Soil study:")), "garden");
+    EXPECT_THAT(Text, HasSubstr("RESULTS FOR: renamed\r\n"));
+    EXPECT_EQ(Wert_in(Zeile_mit(Text, "Application rate")), "120");
+    EXPECT_EQ(Wert_in(Zeile_mit(Text, "Soil density")), "1.5");
+}
+
 TEST(Standardbericht, negative_parameter_is_a_fault_that_names_it) {
-    const auto l = gerechnet(Lauf_bauer().Korrektur(2.58, 0.7, -5));
+    const auto l = mit_Ergebnissen(Lauf_bauer().Korrektur(2.58, 0.7, -5));
     try {
-        erstelle_Standardbericht(*l, Angaben);
+        erstelle_Standardbericht(l, Angaben);
         FAIL() << "no fault";
     } catch (const Laufzeitfehler& f) {
         EXPECT_STREQ(f.what(), "The report cannot show a negative value: Ref. temperature (°C): -5");
@@ -171,7 +186,7 @@ TEST(Standardbericht, negative_parameter_is_a_fault_that_names_it) {
 // The half-lives of every kinetics hang on the rate constant of first order.
 TEST(Standardbericht, DFOP_without_first_order_constant_has_no_half_lives) {
     Lauf_bauer b;
-    b.nach_DFOP(0.1, 0.01, 0.7).Parameter.k_SFO[0][0] = 0;
+    b.nach_DFOP(0.1, 0.01, 0.7).Felder.Parameter.k_SFO[0][0] = 0;
     const std::string Text = Text_von(b);
     EXPECT_THAT(Text, Not(HasSubstr("DT50")));
     EXPECT_THAT(Anfang(ab_Zeile(Text, "Kinetics for"), 5),
@@ -202,10 +217,10 @@ TEST(Ergebnisblock, footnotes_of_a_later_peak) {
 
 // Half of 1 kg/ha becomes metabolite of 3/4 the mass: at most 75 % of the theory on any day.
 TEST(Ergebnisblock, share_of_the_theoretical_maximum) {
-    const auto l = gerechnet(Lauf_bauer().Schema(1).nach_SFO(0.02, 1));
-    const std::string Text = erstelle_Standardbericht(*l, Angaben);
+    const auto l = mit_Ergebnissen(Lauf_bauer().Schema(1).nach_SFO(0.02, 1));
+    const std::string Text = erstelle_Standardbericht(l, Angaben);
     EXPECT_EQ(Anzahl_von(Text, "(^ This is "), 1);
-    const double Peak = static_cast<double>(l->Speicher.Jahresmaximum[0][0][1][1]);
+    const double Peak = static_cast<double>(l.zeige().Werte(0, 1).Jahresmaximum[0]);
     const double T = 150.0 / 200 * (1000.0 / 1000) / (5 * 1.5 / 10);
     EXPECT_EQ(Zeile_mit(Text, "(^ This is "),
               "(^ This is " + feste_Zahl(Peak * 100 / T, 2) + " % of the theoretical maximum concentration of the metabolite)");
@@ -216,31 +231,33 @@ TEST(Ergebnisblock, share_of_the_theoretical_maximum) {
 }
 
 TEST(Ergebnisblock, share_counts_the_first_of_several_applications) {
-    const auto l = gerechnet(Lauf_bauer().Schema(1).nach_SFO(0.02, 1).regelmaessige_Gaben(3, 30).Dosis("200", "10").Einheit(1));
-    const double Peak = static_cast<double>(l->Speicher.Jahresmaximum[0][0][1][1]);
+    const auto l =
+        mit_Ergebnissen(Lauf_bauer().Schema(1).nach_SFO(0.02, 1).regelmaessige_Gaben(3, 30).Dosis("200", "10").Einheit(1));
+    const double Peak = static_cast<double>(l.zeige().Werte(0, 1).Jahresmaximum[0]);
     const double T = 1000 * (150.0 / 200 * (180.0 / 1000)) / (5 * 1.5 / 10);
-    EXPECT_EQ(Zeile_mit(erstelle_Standardbericht(*l, Angaben), "(^ This is").substr(0, 17),
+    EXPECT_EQ(Zeile_mit(erstelle_Standardbericht(l, Angaben), "(^ This is").substr(0, 17),
               ("(^ This is " + feste_Zahl(Peak * 100 / T, 2) + " % of").substr(0, 17));
 }
 
 TEST(Ergebnisblock, share_of_pore_water_uses_the_formula_of_soil) {
     Lauf_bauer b = Lauf_bauer().Schema(1).nach_SFO(0.02, 1);
-    b.Felder.Endpunkt = 1;
-    const auto l = gerechnet(b);
-    const double Peak = static_cast<double>(l->Speicher.Jahresmaximum[1][0][1][1]);
-    EXPECT_THAT(erstelle_Standardbericht(*l, Angaben), HasSubstr("(^ This is " + feste_Zahl(Peak * 100, 2) + " % of"));
+    b.Sicht.Endpunkt = Porenwasser;
+    const auto l = mit_Ergebnissen(b);
+    const double Peak = static_cast<double>(l.zeige().Werte(0, 1).Jahresmaximum[0]);
+    EXPECT_THAT(erstelle_Standardbericht(l, Angaben), HasSubstr("(^ This is " + feste_Zahl(Peak * 100, 2) + " % of"));
 }
 
 TEST(Ergebnisblock, theoretical_maximum_of_0_gives_the_share_0) {
-    const auto l = gerechnet(Lauf_bauer().Schema(1).nach_SFO(0.02, 1));
-    l->Speicher.Tagesrate.fill(0);
-    EXPECT_THAT(erstelle_Standardbericht(*l, Angaben), HasSubstr("(^ This is 0.00 % of"));
+    auto l = mit_Ergebnissen(Lauf_bauer().Schema(1).nach_SFO(0.02, 1));
+    l.Studie().erste_Rate = 0;
+    EXPECT_THAT(erstelle_Standardbericht(l, Angaben), HasSubstr("(^ This is 0.00 % of"));
 }
 
 TEST(Ergebnisblock, mass_of_the_parent_of_0_is_a_fault) {
-    const auto l = gerechnet(Lauf_bauer().Schema(1).nach_SFO(0.02, 1));
-    l->Felder.Molmasse_Wirkstoff = "0";
-    EXPECT_THROW(erstelle_Standardbericht(*l, Angaben), Laufzeitfehler);
+    auto l = mit_Ergebnissen(Lauf_bauer().Schema(1).nach_SFO(0.02, 1));
+    l.Felder.Molmasse_Wirkstoff = "0";
+    l.Studie();
+    EXPECT_THROW(erstelle_Standardbericht(l, Angaben), Laufzeitfehler);
 }
 
 TEST(Ergebnisblock, metabolite_that_never_appears) {
@@ -253,31 +270,32 @@ TEST(Ergebnisblock, metabolite_that_never_appears) {
 }
 
 TEST(Ergebnisblock, small_value_in_micrograms) {
-    const auto l = gerechnet(Lauf_bauer().Einheit(1));
-    l->Speicher.Maximum_Bodentiefe[0][0][0] = 0.004F;
-    EXPECT_EQ(Wert_in(Zeile_mit(erstelle_Standardbericht(*l, Angaben), "Maximum annual")), "<0.01 occurring on day 0");
-    EXPECT_THAT(erstelle_Standardbericht(*l, Angaben), HasSubstr("over 5 cm(µg/kg): \t"));
+    auto l = mit_Ergebnissen(Lauf_bauer().Einheit(1));
+    l.Werte().Maximum_Bodentiefe = 0.004F;
+    EXPECT_EQ(Wert_in(Zeile_mit(erstelle_Standardbericht(l, Angaben), "Maximum annual")), "<0.01 occurring on day 0");
+    EXPECT_THAT(erstelle_Standardbericht(l, Angaben), HasSubstr("over 5 cm(µg/kg): \t"));
 }
 
 TEST(Ergebnisblock, actual_value_behind_the_run_is_that_of_its_last_day) {
-    const auto l = gerechnet({});
-    l->Speicher.Maximumtag_Bodentiefe[0][0][0] = 3640;
-    l->Speicher.Reihe_Bodentiefe(0, 0, 0, 0)[3647] = 0.5F;
-    l->Speicher.Reihe_Bodentiefe(0, 0, 0, 0)[3649] = 0.25F;
-    const auto Tabelle = ab_Zeile(erstelle_Standardbericht(*l, Angaben), "Time(d)\tPECact*");
+    Lauf Rechnung = Lauf_bauer().rechne();
+    Rechnung.Speicher.Maximumtag_Bodentiefe[0][0][0] = 3640;
+    Rechnung.Speicher.Reihe_Bodentiefe(0, 0, 0, 0)[3647] = 0.5F;
+    Rechnung.Speicher.Reihe_Bodentiefe(0, 0, 0, 0)[3649] = 0.25F;
+    const auto l = aus_Lauf(Rechnung);
+    const auto Tabelle = ab_Zeile(erstelle_Standardbericht(l, Angaben), "Time(d)\tPECact*");
     EXPECT_THAT(Tabelle[4], ::testing::StartsWith("7\t0.5000\t"));
     for (int i = 5; i <= 10; ++i) EXPECT_THAT(Tabelle[static_cast<std::size_t>(i)], HasSubstr("\t0.2500\t"));
 }
 
 TEST(Ergebnisblock, window_that_is_no_whole_number) {
     Lauf_bauer b;
-    b.Parameter.TWA_Liste_EU[0] = 2.1;
+    b.Felder.Parameter.TWA.EU[0] = 2.1;
     EXPECT_THAT(ab_Zeile(Text_von(b), "Time(d)\tPECact*")[1], ::testing::MatchesRegex("2\\.1\t.*\t0\t2\\.1"));
 }
 
 TEST(Ergebnisblock, monthly_list_has_twelve_windows) {
     Lauf_bauer b;
-    b.Parameter.TWA_Zeiten = 0;
+    b.Felder.Parameter.TWA_Zeiten = 0;
     const auto Tabelle = ab_Zeile(Text_von(b), "Time(d)\tPECact*");
     EXPECT_THAT(Tabelle[1], ::testing::StartsWith("30\t"));
     EXPECT_THAT(Tabelle[12], ::testing::StartsWith("360\t"));
@@ -286,7 +304,7 @@ TEST(Ergebnisblock, monthly_list_has_twelve_windows) {
 
 TEST(Ergebnisblock, pore_water_has_its_word_and_unit_everywhere) {
     Lauf_bauer b;
-    b.Felder.Endpunkt = 1;
+    b.Sicht.Endpunkt = Porenwasser;
     const std::string Text = Text_von(b);
     EXPECT_THAT(Text, Not(HasSubstr("total soil")));
     EXPECT_THAT(Text, HasSubstr("Maximum annual pore water concentration for the problem over 5 cm(mg/L): \t"));
@@ -295,50 +313,64 @@ TEST(Ergebnisblock, pore_water_has_its_word_and_unit_everywhere) {
 
 // --- plateau warning ---------------------------------------------------------------------------------------
 
-int Warnungen(const Lauf& l) { return Anzahl_von(erstelle_Standardbericht(l, Angaben), "In the simulation a final plateau"); }
+void setze_Plateau(Endpunktergebnis& e, double Prozent) {
+    e.Plateautext = std::to_string(static_cast<int>(Prozent)) + "% of the final plateau";
+    e.Plateauprozent = Prozent;
+}
+
+int Warnungen(const Darstellung& l) {
+    return Anzahl_von(erstelle_Standardbericht(l, Angaben), "In the simulation a final plateau");
+}
 
 TEST(Plateauwarnung, comes_below_50_percent) {
-    const auto l = gerechnet(Lauf_bauer().nach_DFOP(0.1, 0.01, 0.7));
-    std::string& Text = l->Speicher.Plateautext[0][0][0];
-    Text = "49% of the final plateau";
-    EXPECT_EQ(Warnungen(*l), 1);
-    Text = "50% of the final plateau";
-    EXPECT_EQ(Warnungen(*l), 0);
-    Text = "0% of the final plateau";
-    EXPECT_EQ(Warnungen(*l), 1);
+    auto l = mit_Ergebnissen(Lauf_bauer().nach_DFOP(0.1, 0.01, 0.7));
+    setze_Plateau(l.Werte(), 49);
+    EXPECT_EQ(Warnungen(l), 1);
+    setze_Plateau(l.Werte(), 50);
+    EXPECT_EQ(Warnungen(l), 0);
+    setze_Plateau(l.Werte(), 0);
+    EXPECT_EQ(Warnungen(l), 1);
 }
 
 TEST(Plateauwarnung, text_without_percent_reads_as_0) {
-    const auto l = gerechnet(Lauf_bauer().nach_DFOP(0.1, 0.01, 0.7));
-    l->Speicher.Plateautext[0][0][0] = "80";
-    EXPECT_EQ(Warnungen(*l), 1);
-    l->Speicher.Plateautext[0][0][0].clear();
-    EXPECT_EQ(Warnungen(*l), 1);
+    auto l = mit_Ergebnissen(Lauf_bauer().nach_DFOP(0.1, 0.01, 0.7));
+    l.Werte().Plateauprozent = 0;
+    l.Werte().Plateautext = "80";
+    EXPECT_EQ(Warnungen(l), 1);
+    l.Werte().Plateautext.clear();
+    EXPECT_EQ(Warnungen(l), 1);
 }
 
 TEST(Plateauwarnung, never_for_first_order) {
-    const auto l = gerechnet({});
-    for (const char* Text : {"1% of the final plateau", "80", ""}) {
-        l->Speicher.Plateautext[0][0][0] = Text;
-        EXPECT_EQ(Warnungen(*l), 0);
+    auto l = mit_Ergebnissen({});
+    for (const double Prozent : {1.0, 80.0}) {
+        setze_Plateau(l.Werte(), Prozent);
+        EXPECT_EQ(Warnungen(l), 0);
+    }
+    for (const char* Text : {"80", ""}) {
+        l.Werte().Plateautext = Text;
+        l.Werte().Plateauprozent = 0;
+        EXPECT_EQ(Warnungen(l), 0);
     }
 }
 
 TEST(Plateauwarnung, asks_the_kinetics_of_the_compound_and_study) {
     Lauf_bauer b = mit_Studien(Lauf_bauer().Schema(1).nach_SFO(0.02, 1), 2);
-    b.Parameter.Kinetik[1][1] = DFOP;
-    const auto l = gerechnet(b);
-    for (auto& Text : l->Speicher.Plateautext[0]) Text.fill("3% of the final plateau");
-    EXPECT_EQ(Warnungen(*l), 0);
-    l->Felder.Studie_Index = 1;
-    EXPECT_EQ(Warnungen(*l), 1);
+    b.Felder.Parameter.Kinetik[1][1] = DFOP;
+    auto l = mit_Ergebnissen(b);
+    for (const int st : {0, 1}) {
+        for (const int c : {0, 1}) setze_Plateau(l.Werte(c, st), 3);
+    }
+    EXPECT_EQ(Warnungen(l), 0);
+    l.Sicht.Studie_Index = 1;
+    EXPECT_EQ(Warnungen(l), 1);
 }
 
 TEST(Plateauwarnung, three_lines_between_table_and_next_headline) {
-    const auto l = gerechnet(Lauf_bauer().Schema(1).nach_DFOP(0.1, 0.01, 0.7));
-    l->Speicher.Plateautext[0][0][0] = "3% of the final plateau";
+    auto l = mit_Ergebnissen(Lauf_bauer().Schema(1).nach_DFOP(0.1, 0.01, 0.7));
+    setze_Plateau(l.Werte(), 3);
     EXPECT_THAT(
-        Anfang(ab_Zeile(erstelle_Standardbericht(*l, Angaben), "(** PECact"), 10),
+        Anfang(ab_Zeile(erstelle_Standardbericht(l, Angaben), "(** PECact"), 10),
         ElementsAre("(** PECact values are related to the time after the first application)", "",
                     "In the simulation a final plateau was estimated significantly higher than the residues after 10 years.",
                     "These results may not be reliable. Please check whether the separation of residues is reasonable for "

@@ -33,7 +33,7 @@ protected:
 };
 
 TEST_F(Ausgaben, folder_is_made_when_it_is_missing) {
-    const Bericht b = Bericht_von(*gerechnet({}));
+    const Bericht b = Bericht_von(mit_Ergebnissen({}));
     const std::string Datei = speichere_Bericht(b, Ausgabeordner(Ordner()));
     EXPECT_EQ(Datei, Pfad("output/the problem.rtf"));
     EXPECT_EQ(lies_Datei(Datei), b.RTF);
@@ -42,7 +42,7 @@ TEST_F(Ausgaben, folder_is_made_when_it_is_missing) {
 
 TEST_F(Ausgaben, folder_in_other_case_is_the_folder) {
     QDir(Zeit_.path()).mkdir(QStringLiteral("Output"));
-    EXPECT_EQ(speichere_Bericht(Bericht_von(*gerechnet({})), Ausgabeordner(Ordner())), Pfad("Output/the problem.rtf"));
+    EXPECT_EQ(speichere_Bericht(Bericht_von(mit_Ergebnissen({})), Ausgabeordner(Ordner())), Pfad("Output/the problem.rtf"));
     EXPECT_EQ(Eintraege(""), QStringList(QStringLiteral("Output")));
 }
 
@@ -82,30 +82,31 @@ TEST_F(Ausgaben, folder_in_place_of_the_file_is_a_fault_that_names_it) {
 
 // --- by-products -------------------------------------------------------------------------------------------
 
-Diagramm Zeichnung(const Lauf& l, int Satz) {
+Diagramm Zeichnung(const Darstellung& d, int Nummer) {
     Diagrammbereiche b;
-    setze_Bereiche_nach_Ansicht(b, l.Felder.PEC_Typ);
-    return erstelle_Diagramm(l, b, Satz, l.Felder.Studie_Index);
+    setze_Bereiche_nach_Ansicht(b, d.Sicht.PEC_Typ);
+    return erstelle_Diagramm(d, b, Nummer, d.Sicht.Studie_Index);
 }
 
 TEST_F(Ausgaben, day_series_is_named_by_its_compound) {
-    const auto l = gerechnet({});
+    const auto l = mit_Ergebnissen({});
+    const Lauf Rechnung = Lauf_bauer().rechne();
     Nebenausgaben n;
-    EXPECT_EQ(n.schreibe_Zeichnung(Ordner(), Zeichnung(*l, 0)), "");
+    EXPECT_EQ(n.schreibe_Zeichnung(Ordner(), Zeichnung(l, 0)), "");
     const auto Zeilen = probe::Zeilen(lies_Datei(Pfad("output/Detailed Results - parent.tab")));
     ASSERT_EQ(Zeilen.size(), 1U + 365);  // days 0 to 364: the last day of the axis is not written
     EXPECT_EQ(Zeilen[0], "Time (d)\tPEC (mg/kg)");
-    EXPECT_EQ(Zeilen[1], "0\t" + allgemeine_Zahl(Boden(*l, 0)));
-    EXPECT_EQ(Zeilen[365], "364\t" + allgemeine_Zahl(Boden(*l, 364)));
+    EXPECT_EQ(Zeilen[1], "0\t" + allgemeine_Zahl(Boden(Rechnung, 0)));
+    EXPECT_EQ(Zeilen[365], "364\t" + allgemeine_Zahl(Boden(Rechnung, 364)));
 }
 
 TEST_F(Ausgaben, two_compounds_of_one_name_share_a_file) {
     Lauf_bauer b = Lauf_bauer().Schema(1).nach_SFO(0.02, 1);
     b.Felder.Name_Met_1 = b.Felder.Name_Wirkstoff;
-    const auto l = gerechnet(b);
+    const auto l = mit_Ergebnissen(b);
     Nebenausgaben n;
-    n.schreibe_Zeichnung(Ordner(), Zeichnung(*l, 1));
-    n.schreibe_Zeichnung(Ordner(), Zeichnung(*l, 2));
+    n.schreibe_Zeichnung(Ordner(), Zeichnung(l, 1));
+    n.schreibe_Zeichnung(Ordner(), Zeichnung(l, 2));
     EXPECT_EQ(Eintraege("output").size(), 1);
     EXPECT_EQ(probe::Zeilen(lies_Datei(Pfad("output/Detailed Results - parent.tab")))[1], "0\t0");
 }
@@ -114,46 +115,49 @@ TEST_F(Ausgaben, compound_with_forbidden_characters_gets_a_file_all_the_same) {
     Lauf_bauer b;
     b.Felder.Name_Wirkstoff = "A/B: \"x\"*?<|>\\\t";
     Nebenausgaben n;
-    EXPECT_EQ(n.schreibe_Zeichnung(Ordner(), Zeichnung(*gerechnet(b), 0)), "");
+    EXPECT_EQ(n.schreibe_Zeichnung(Ordner(), Zeichnung(mit_Ergebnissen(b), 0)), "");
     EXPECT_EQ(Eintraege("output"), QStringList(QStringLiteral("Detailed Results - A_B_ _x________.tab")));
 }
 
 TEST_F(Ausgaben, numbers_of_a_summary_diagram_stand_beside_the_folder) {
-    const auto l = gerechnet(mit_Studien(Lauf_bauer(), 2));
+    const auto l = mit_Ergebnissen(mit_Studien(Lauf_bauer(), 2));
     Diagrammbereiche b;
-    setze_Bereiche_nach_Ansicht(b, 0);
+    setze_Bereiche_nach_Ansicht(b, jaehrlich);
     Nebenausgaben n;
-    EXPECT_EQ(n.schreibe_Zeichnung(Ordner(), erstelle_Diagramm_Zusammenfassung(*l, b, 0, 0)), "");
+    EXPECT_EQ(n.schreibe_Zeichnung(Ordner(), erstelle_Diagramm_Zusammenfassung(l, b, 0, 0)), "");
     EXPECT_EQ(Eintraege(""), QStringList(QStringLiteral("Diagram.txt")));
     EXPECT_FALSE(lies_Datei(Pfad("Diagram.txt")).empty());
 }
 
 TEST_F(Ausgaben, run_dump_holds_the_compound_calculated_last) {
-    const auto l = gerechnet(Lauf_bauer().Schema(1).nach_SFO(0.02, 1));
+    const Lauf_bauer b = Lauf_bauer().Schema(1).nach_SFO(0.02, 1);
+    const auto l = mit_Ergebnissen(b);
+    const Lauf Rechnung = b.rechne();
     Nebenausgaben n;
-    EXPECT_EQ(n.schreibe_Laufprotokoll(Ordner(), *l), "");
+    EXPECT_EQ(n.schreibe_Laufprotokoll(Ordner(), *l.Studien[0]), "");
     const auto Zeilen = probe::Zeilen(lies_Datei(Pfad("output/test.txt")));
     ASSERT_EQ(Zeilen.size(), 3650U);
     EXPECT_EQ(Zeilen[0], "0\t0\t0\t0\t0");
-    EXPECT_EQ(Zeilen[100], "100\t" + allgemeine_Zahl(Plateau(*l, 100, 1)) + "\t" + allgemeine_Zahl(Boden(*l, 100, 1)) + "\t" +
-                               allgemeine_Zahl(l->Speicher.Bildung_Plateautiefe[0][100]) + "\t0");
+    EXPECT_EQ(Zeilen[100], "100\t" + allgemeine_Zahl(Plateau(Rechnung, 100, 1)) + "\t" +
+                               allgemeine_Zahl(Boden(Rechnung, 100, 1)) + "\t" +
+                               allgemeine_Zahl(Rechnung.Speicher.Bildung_Plateautiefe[0][100]) + "\t0");
 }
 
 TEST_F(Ausgaben, failure_of_a_by_product_is_told_once_per_file) {
     schreibe_Datei(Pfad("output"), "in the way");
-    const auto l = gerechnet({});
+    const auto l = mit_Ergebnissen({});
     Nebenausgaben n;
-    EXPECT_THAT(n.schreibe_Laufprotokoll(Ordner(), *l), HasSubstr("Cannot make the folder"));
-    EXPECT_EQ(n.schreibe_Laufprotokoll(Ordner(), *l), "");
-    EXPECT_THAT(n.schreibe_Zeichnung(Ordner(), Zeichnung(*l, 0)), HasSubstr("Cannot make the folder"));
-    EXPECT_EQ(n.schreibe_Zeichnung(Ordner(), Zeichnung(*l, 0)), "");
+    EXPECT_THAT(n.schreibe_Laufprotokoll(Ordner(), *l.Studien[0]), HasSubstr("Cannot make the folder"));
+    EXPECT_EQ(n.schreibe_Laufprotokoll(Ordner(), *l.Studien[0]), "");
+    EXPECT_THAT(n.schreibe_Zeichnung(Ordner(), Zeichnung(l, 0)), HasSubstr("Cannot make the folder"));
+    EXPECT_EQ(n.schreibe_Zeichnung(Ordner(), Zeichnung(l, 0)), "");
 }
 
 TEST_F(Ausgaben, multi_compound_diagram_writes_nothing) {
-    const auto l = gerechnet(Lauf_bauer().Schema(1));
+    const auto l = mit_Ergebnissen(Lauf_bauer().Schema(1));
     Diagrammbereiche b;
     Nebenausgaben n;
-    EXPECT_EQ(n.schreibe_Zeichnung(Ordner(), erstelle_Diagramm_mehrfach(*l, b, 3, 1, 0)), "");
+    EXPECT_EQ(n.schreibe_Zeichnung(Ordner(), erstelle_Diagramm_mehrfach(l, b, 3, 1, 0)), "");
     EXPECT_TRUE(Eintraege("").isEmpty());
 }
 

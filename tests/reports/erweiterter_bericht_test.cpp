@@ -12,7 +12,7 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::Not;
 
-std::string Text_von(const Lauf_bauer& b) { return erstelle_erweiterten_Bericht(*gerechnet(b), Angaben); }
+std::string Text_von(const Lauf_bauer& b) { return erstelle_erweiterten_Bericht(mit_Ergebnissen(b), Angaben); }
 
 std::vector<std::string> Anfang(std::vector<std::string> Zeilen, std::size_t n) {
     Zeilen.resize(std::min(n, Zeilen.size()));
@@ -46,7 +46,7 @@ TEST(ErweiterterBericht, reference_temperature_has_its_usual_label_with_metaboli
 
 TEST(ErweiterterBericht, half_lives_hang_on_their_own_constants) {
     Lauf_bauer b;
-    b.nach_DFOP(0.1, 0.01, 0.7).Parameter.k_SFO[0][0] = 0;
+    b.nach_DFOP(0.1, 0.01, 0.7).Felder.Parameter.k_SFO[0][0] = 0;
     EXPECT_THAT(Anfang(ab_Zeile(Text_von(b), "Double First"), 6),
                 ElementsAre("Double First Order in Parallel (DFOP)", "DT50 (d):\t6.9315", "DT50 (d):\t69.315",
                             "Rate constant 1 (1/d):\t0.1", "Rate constant 2 (1/d):\t0.01", "Parameter g:\t0.7"));
@@ -98,19 +98,37 @@ TEST(ErweiterterBericht, six_studies_have_six_columns) {
               "Time (d)\tfield\tsoil 2\tsoil 3\tsoil 4\tsoil 5\tsoil 6");
 }
 
+TEST(ErweiterterBericht, KOC_is_that_of_the_selected_study) {
+    Lauf_bauer b = mit_Studien(Lauf_bauer().Schema(2).KOC(10, 1), 3);
+    b.Felder.Parameter.KOC[1][1] = 77;
+    b.Felder.Parameter.KOC[1][2] = 88;
+    const auto Zeile = [&](int i_studie) {
+        b.Sicht.Studie_Index = i_studie;
+        return Zeile_mit(Text_von(b), "first metabolite\t");
+    };
+    EXPECT_EQ(Zeile(0), "first metabolite\t150                       \t10          \t50");
+    EXPECT_EQ(Zeile(1), "first metabolite\t150                       \t77          \t50");
+    EXPECT_EQ(Zeile(2), "first metabolite\t150                       \t88          \t50");
+}
+
 TEST(ErweiterterBericht, has_no_warning_and_no_share) {
-    const auto l = gerechnet(Lauf_bauer().Schema(1).nach_DFOP(0.1, 0.01, 0.7));
-    l->Speicher.Plateautext[0][0][0] = "3% of the final plateau";
-    const std::string Text = erstelle_erweiterten_Bericht(*l, Angaben);
+    auto l = mit_Ergebnissen(Lauf_bauer().Schema(1).nach_DFOP(0.1, 0.01, 0.7));
+    l.Werte().Plateautext = "3% of the final plateau";
+    l.Werte().Plateauprozent = 3;
+    const std::string Text = erstelle_erweiterten_Bericht(l, Angaben);
     EXPECT_THAT(Text, Not(HasSubstr("In the simulation a final")));
     EXPECT_THAT(Text, Not(HasSubstr("theoretical maximum")));
 }
 
 TEST(ErweiterterBericht, each_study_has_its_own_day_of_the_peak) {
-    const auto l = gerechnet(mit_Studien(Lauf_bauer(), 2));
-    l->Speicher.Maximumtag_Bodentiefe[0][1][0] = 100;
-    l->Speicher.Reihe_Bodentiefe(0, 1, 0, 0)[101] = 0.75F;
-    const auto Zeilen = ab_Zeile(erstelle_erweiterten_Bericht(*l, Angaben), "Time (d)");
+    Lauf_bauer b = mit_Studien(Lauf_bauer(), 2);
+    auto l = mit_Ergebnissen(b);
+    b.i_studie = 1;
+    Lauf zweite = b.rechne();
+    zweite.Speicher.Maximumtag_Bodentiefe[0][1][0] = 100;
+    zweite.Speicher.Reihe_Bodentiefe(0, 1, 0, 0)[101] = 0.75F;
+    l.Studien[1] = aus_Lauf(zweite).Studien[1];
+    const auto Zeilen = ab_Zeile(erstelle_erweiterten_Bericht(l, Angaben), "Time (d)");
     EXPECT_EQ(Zeilen[1], "1\t1.3201\t0.7500");
 }
 

@@ -28,7 +28,7 @@ constexpr int Schwarz = 0x000000, Gruen = 0x008000, Violett = 0x800080, Blau = 0
 
 class Formate : public ::testing::Test {
 protected:
-    void nimm(const Lauf& l, Berichtsart Art = Berichtsart::Standard) { b_ = Bericht_von(l, Art); }
+    void nimm(const Darstellung& l, Berichtsart Art = Berichtsart::Standard) { b_ = Bericht_von(l, Art); }
 
     QTextCursor finde(const char* Wort, int Nummer = 1) const {
         QTextCursor c(b_.Dokument.get());
@@ -63,7 +63,7 @@ protected:
 };
 
 TEST_F(Formate, title_lines) {
-    nimm(*gerechnet({}));
+    nimm(mit_Ergebnissen({}));
     EXPECT_EQ(Format("V A R N O K"), (Zeichenprobe{Blau, 14, true, true}));
     EXPECT_EQ(Format("Soil Residue Forecast Tool"), (Zeichenprobe{Blau, 12, true, false}));
     EXPECT_EQ(Format("developed by Emil Tarrasch"), (Zeichenprobe{Schwarz, 10, false, true}));
@@ -73,7 +73,7 @@ TEST_F(Formate, title_lines) {
 }
 
 TEST_F(Formate, all_paragraphs_are_indented) {
-    nimm(*gerechnet({}));
+    nimm(mit_Ergebnissen({}));
     for (QTextBlock t = b_.Dokument->begin(); t.isValid(); t = t.next()) {
         EXPECT_EQ(Pixel_in_Twips(t.blockFormat().leftMargin()), 500);
         EXPECT_EQ(Pixel_in_Twips(t.blockFormat().rightMargin()), 200);
@@ -81,7 +81,7 @@ TEST_F(Formate, all_paragraphs_are_indented) {
 }
 
 TEST_F(Formate, input_part_is_plain) {
-    nimm(*gerechnet({}));
+    nimm(mit_Ergebnissen({}));
     for (const char* Wort : {"PROGRAM SETTINGS", "Soil density", "Kinetics for"}) {
         EXPECT_EQ(Format(Wort), (Zeichenprobe{Schwarz, 10, false, false}));
         EXPECT_EQ(Tabulatoren(Wort), (std::vector{3000, 4000, 6000}));
@@ -89,7 +89,7 @@ TEST_F(Formate, input_part_is_plain) {
 }
 
 TEST_F(Formate, blocks_of_a_parent_are_green_magenta_and_red) {
-    nimm(*gerechnet(Lauf_bauer().Schema(1)));
+    nimm(mit_Ergebnissen(Lauf_bauer().Schema(1)));
     EXPECT_EQ(Format("RESULTS OF THE CALCULATION"), (Zeichenprobe{Blau, 12, true, false}));
     EXPECT_EQ(Format("RESULTS FOR: parent"), (Zeichenprobe{Blau, 12, true, false}));
     EXPECT_EQ(Format("Calculations over one year"), (Zeichenprobe{Gruen, 12, false, true}));
@@ -104,7 +104,7 @@ TEST_F(Formate, blocks_of_a_parent_are_green_magenta_and_red) {
 }
 
 TEST_F(Formate, blocks_of_every_metabolite_are_as_those_of_the_parent) {
-    nimm(*gerechnet(Lauf_bauer().Schema(2)));
+    nimm(mit_Ergebnissen(Lauf_bauer().Schema(2)));
     int Nummer = 1;
     for (const char* Name : {"RESULTS FOR: parent", "RESULTS FOR: first metabolite", "RESULTS FOR: second metabolite"}) {
         EXPECT_EQ(Format(Name), (Zeichenprobe{Blau, 12, true, false}));
@@ -116,7 +116,7 @@ TEST_F(Formate, blocks_of_every_metabolite_are_as_those_of_the_parent) {
 }
 
 TEST_F(Formate, extended_report_has_six_tab_stops) {
-    nimm(*gerechnet(mit_Studien(Lauf_bauer(), 6)), Berichtsart::erweitert);
+    nimm(mit_Ergebnissen(mit_Studien(Lauf_bauer(), 6)), Berichtsart::erweitert);
     EXPECT_EQ(Tabulatoren("Time (d)"), (std::vector{1800, 3200, 4700, 6200, 7700, 9200}));
     EXPECT_EQ(Tabulatoren("PROGRAM SETTINGS"), (std::vector{3000, 4000, 6000}));
     EXPECT_EQ(Format("Calculations over one year"), (Zeichenprobe{Gruen, 12, false, true}));
@@ -125,7 +125,7 @@ TEST_F(Formate, extended_report_has_six_tab_stops) {
 // The headline bears the description, the search is for the name of the compound: nothing is found, and the selection
 // left behind is empty, so no text changes.
 TEST_F(Formate, headline_of_a_parent_that_goes_by_another_name_stays_plain) {
-    nimm(*gerechnet({}));
+    nimm(mit_Ergebnissen({}));
     EXPECT_EQ(Format("RESULTS FOR: the problem"), (Zeichenprobe{Blau, 10, false, false}));
     EXPECT_EQ(Format("V A R N O K"), (Zeichenprobe{Blau, 14, true, true}));
     EXPECT_EQ(Format("Calculations over one year"), (Zeichenprobe{Gruen, 12, false, true}));
@@ -134,7 +134,7 @@ TEST_F(Formate, headline_of_a_parent_that_goes_by_another_name_stays_plain) {
 TEST_F(Formate, headline_of_a_parent_called_as_the_description) {
     Lauf_bauer b;
     b.Felder.Beschreibung = "parent";
-    nimm(*gerechnet(b));
+    nimm(mit_Ergebnissen(b));
     EXPECT_EQ(Format("RESULTS FOR: parent"), (Zeichenprobe{Blau, 12, true, false}));
 }
 
@@ -142,7 +142,7 @@ TEST_F(Formate, headline_of_a_parent_called_as_the_description) {
 TEST_F(Formate, description_like_a_headline_draws_the_format_to_itself) {
     Lauf_bauer b;
     b.Felder.Beschreibung = "RESULTS OF THE CALCULATION";
-    nimm(*gerechnet(b));
+    nimm(mit_Ergebnissen(b));
     EXPECT_EQ(Format("RESULTS OF THE CALCULATION", 1), (Zeichenprobe{Blau, 12, true, false}));
     EXPECT_EQ(Tabulatoren("PROGRAM SETTINGS"), (std::vector{2500, 4000, 5500, 7500}));
     EXPECT_EQ(Format("PROGRAM SETTINGS"), (Zeichenprobe{Blau, 10, false, false}));
@@ -154,12 +154,12 @@ TEST_F(Formate, metabolite_whose_name_begins_the_name_of_the_parent) {
     Lauf_bauer b = Lauf_bauer().Schema(1);
     b.Felder.Name_Wirkstoff = "ABC acid";
     b.Felder.Name_Met_1 = "ABC";
-    nimm(*gerechnet(b));
+    nimm(mit_Ergebnissen(b));
     EXPECT_EQ(Format("RESULTS FOR: ABC", 2), (Zeichenprobe{Hellrot, 10, false, false}));
 }
 
 TEST_F(Formate, picture_stands_in_the_place_of_the_placeholder) {
-    nimm(*gerechnet({}));
+    nimm(mit_Ergebnissen({}));
     EXPECT_TRUE(b_.Dokument->find(QStringLiteral("A diagram should appear here!")).isNull());
     const QTextBlock Kopf = finde("GRAPHIC REPRESENTATION").block();
     const QString Bildzeile = Kopf.next().next().text();
@@ -170,14 +170,14 @@ TEST_F(Formate, picture_stands_in_the_place_of_the_placeholder) {
 
 // --- warnings ----------------------------------------------------------------------------------------------
 
-std::unique_ptr<Lauf> mit_zwei_Warnungen() {
-    auto l = gerechnet(Lauf_bauer().Schema(2).nach_DFOP(0.1, 0.01, 0.7).nach_DFOP(0.1, 0.01, 0.7, 2));
-    for (const std::size_t c : {0U, 2U}) l->Speicher.Plateautext[0][0][c] = "3% of the final plateau";
+Darstellungsprobe mit_zwei_Warnungen() {
+    auto l = mit_Ergebnissen(Lauf_bauer().Schema(2).nach_DFOP(0.1, 0.01, 0.7).nach_DFOP(0.1, 0.01, 0.7, 2));
+    for (const int c : {0, 2}) l.Werte(c).Plateauprozent = 3;
     return l;
 }
 
 TEST_F(Formate, every_plateau_warning_is_bold_and_red) {
-    nimm(*mit_zwei_Warnungen());
+    nimm(mit_zwei_Warnungen());
     for (const int Nummer : {1, 2}) {
         EXPECT_EQ(Format("In the simulation a final plateau was estimated", Nummer), (Zeichenprobe{Hellrot, 10, true, false}));
         EXPECT_EQ(Format("These results may not be reliable. Please check", Nummer), (Zeichenprobe{Hellrot, 10, true, false}));
@@ -194,7 +194,7 @@ std::string fett_in(const std::string& Rest) {
         "V A R N O K\r\nSoil Residue Forecast Tool\r\ndeveloped by Emil Tarrasch\r\nRESULTS OF THE CALCULATION\r\n" + Rest;
     QTextDocument d;
     Textauswahl w(d, QString::fromStdString(Text));
-    formatiere_Bericht(w, Text, Eingabe(), Berichtsart::Standard);
+    formatiere_Bericht(w, Text, {""}, Berichtsart::Standard);
     std::string fett;
     for (QTextBlock b = d.findBlockByNumber(4); b.isValid(); b = b.next()) {
         for (auto i = b.begin(); !i.atEnd(); ++i) {
@@ -225,7 +225,7 @@ TEST(Formatierung, text_without_a_title_is_bold_as_a_whole) {
     const std::string Text = "nothing to find\r\nat all\r\n";
     QTextDocument d;
     Textauswahl w(d, QString::fromStdString(Text));
-    formatiere_Bericht(w, Text, Eingabe(), Berichtsart::Standard);
+    formatiere_Bericht(w, Text, {""}, Berichtsart::Standard);
     for (const int Zeile : {0, 1}) {
         const QTextBlock b = d.findBlockByNumber(Zeile);
         EXPECT_EQ(b.begin().fragment().charFormat().fontWeight(), QFont::Bold);

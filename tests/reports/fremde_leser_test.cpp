@@ -23,7 +23,7 @@ std::string ohne_Bildplatz(const Bericht& b) { return ersetzt(b.Text, "A diagram
 Bericht Bericht_mit_Metabolit(const char* Name) {
     Lauf_bauer l = Lauf_bauer().Schema(1).Einheit(1);
     l.Felder.Name_Met_1 = Name;
-    return Bericht_von(*gerechnet(l));
+    return Bericht_von(mit_Ergebnissen(l));
 }
 
 class LibreOffice : public ::testing::Test {
@@ -86,7 +86,7 @@ TEST_F(LibreOffice, shows_headline_and_picture_on_the_last_page_however_long_the
     constexpr int Berichte = 6;
     QStringList Dateien;
     for (int i = 0; i < Berichte; ++i) {
-        const std::string RTF = Bericht_von(*gerechnet(mit_Studien(Lauf_bauer(), i + 1)), Berichtsart::erweitert).RTF;
+        const std::string RTF = Bericht_von(mit_Ergebnissen(mit_Studien(Lauf_bauer(), i + 1)), Berichtsart::erweitert).RTF;
         for (const char* Art : {"bound", "loose"}) {
             const QString Datei = Pfad(Art + std::to_string(i) + ".rtf");
             schreibe_Datei(Datei.toStdString(), *Art == 'l' ? ersetzt(RTF, "\\keepn", "") : RTF);

@@ -23,7 +23,7 @@ Lauf_bauer alle_Kinetiken_in_drei_Studien() {
     b.Studie(2).nach_HS(0.08, 0.012, 14).KOC(333, 1);
     b.Felder.Studie = {"field", "meadow", "garden"};
     b.i_studie = 0;
-    b.Felder.Studie_Index = 1;
+    b.Sicht.Studie_Index = 1;
     return b;
 }
 
@@ -40,7 +40,7 @@ const std::vector<Fall>& Faelle() {
         {"regular applications",
          [] {
              Lauf_bauer b = Lauf_bauer().regelmaessige_Gaben(3, 14).Dosis("120", "25").Rueckstaende(2);
-             b.Felder.Fruchtwechsel = 2;
+             b.Sicht.Fruchtwechsel = jedes_dritte_Jahr;
              return b;
          }},
         {"irregular applications",
@@ -50,15 +50,15 @@ const std::vector<Fall>& Faelle() {
         {"micrograms, pore water",
          [] {
              Lauf_bauer b = Lauf_bauer().Schema(1).nach_SFO(0.03, 1).Einheit(1);
-             b.Felder.Endpunkt = 1;
+             b.Sicht.Endpunkt = Porenwasser;
              return b;
          }},
         {"pore water, monthly windows, background",
          [] {
              Lauf_bauer b = Lauf_bauer().nach_DFOP(0.1, 0.01, 0.7);
-             b.Felder.Endpunkt = 1;
-             b.Felder.PEC_Typ = 1;
-             b.Parameter.TWA_Zeiten = 0;
+             b.Sicht.Endpunkt = Porenwasser;
+             b.Sicht.PEC_Typ = Hintergrund;
+             b.Felder.Parameter.TWA_Zeiten = 0;
              return b;
          }},
         {"variable climate", [] { return Lauf_bauer().Wetter(wechselndes_Wetter(365)).Beginn(4, 15); }},
@@ -67,7 +67,7 @@ const std::vector<Fall>& Faelle() {
         {"extended, six studies, micrograms",
          [] {
              Lauf_bauer b = mit_Studien(Lauf_bauer().Schema(3).nach_SFO(0.03, 1).nach_SFO(0.01, 2).Einheit(1), 6);
-             b.Felder.Fruchtwechsel = 1;
+             b.Sicht.Fruchtwechsel = jedes_zweite_Jahr;
              return b;
          },
          true},
@@ -81,9 +81,9 @@ class Berichtstext : public ::testing::TestWithParam<Fall> {};
 TEST_P(Berichtstext, is_that_of_the_witness_and_of_the_file) {
     const Fall& f = GetParam();
     const Lauf_bauer b = f.Bauer();
-    const auto l = gerechnet(b);
-    const zeuge::Aufgabe a = als_Aufgabe(*l, b);
-    const std::string Text = f.erweitert ? erstelle_erweiterten_Bericht(*l, Angaben) : erstelle_Standardbericht(*l, Angaben);
+    const auto l = mit_Ergebnissen(b);
+    const zeuge::Aufgabe a = als_Aufgabe(l, b);
+    const std::string Text = f.erweitert ? erstelle_erweiterten_Bericht(l, Angaben) : erstelle_Standardbericht(l, Angaben);
     EXPECT_EQ(Text, f.erweitert ? zeuge::erweiterter_Bericht(a) : zeuge::Standardbericht(a));
     EXPECT_TRUE(Golden(VARNOK_TESTORDNER "/golden/reports").gleich(std::string(f.Name) + ".txt", Text));
 }

@@ -15,15 +15,17 @@ Lauf_bauer Grundlage() {
     Lauf_bauer b;
     b.Felder.Beschreibung = "Wheat";
     b.Felder.Studie = {"north", "south"};
-    b.Felder.Studie_Index = 1;
-    b.Parameter.Kinetik[0][1] = FOMC;
-    b.Parameter.Kinetik[1][1] = DFOP;
+    b.Sicht.Studie_Index = 1;
+    b.Felder.Parameter.Kinetik[0][1] = FOMC;
+    b.Felder.Parameter.Kinetik[1][1] = DFOP;
     return b;
 }
 
-Lauf mit_Teilen(Lauf_bauer b, unsigned Muster) {
-    for (unsigned i = 0; i < 7; ++i) b.Parameter.Ausgabename_Teile[i] = (Muster >> i) & 1U;
-    return b.baue();
+Darstellungsprobe mit_Teilen(Lauf_bauer b, unsigned Muster) {
+    for (unsigned i = 0; i < 7; ++i) b.Felder.Parameter.Ausgabename_Teile[i] = (Muster >> i) & 1U;
+    Darstellungsprobe p = leere_Probe(b);
+    p.Studie(b.Sicht.Studie_Index);
+    return p;
 }
 
 constexpr unsigned alle = 0x7F;
@@ -38,7 +40,7 @@ TEST(Ausgabename, with_all_flags) {
     Lauf_bauer b = Grundlage().Schema(2);
     EXPECT_EQ(Ausgabename_Standardbericht(mit_Teilen(b, alle), Zeitpunkt),
               "Wheat - south - (FOMC - DFOP - SFO) - total soil conc - 21.11.2025 - 14.05");
-    b.Felder.Endpunkt = 1;
+    b.Sicht.Endpunkt = Porenwasser;
     EXPECT_EQ(Ausgabename_erweiterter_Bericht(mit_Teilen(b, alle), Zeitpunkt),
               "Wheat - pore water conc - 1 year - 21.11.2025 - 14.05");
 }
@@ -48,7 +50,7 @@ TEST(Ausgabename, every_combination_of_flags) {
     const char* const Standard[7] = {"", " - south", " - FOMC", " - total soil conc", " - 21.11.2025", " - 14.05", ""};
     const char* const erweitert[7] = {"", "", "", " - total soil conc", " - 10 years", " - 21.11.2025", " - 14.05"};
     Lauf_bauer b = Grundlage();
-    b.Felder.PEC_Typ = 1;
+    b.Sicht.PEC_Typ = Hintergrund;
     for (unsigned Muster = 0; Muster <= alle; ++Muster) {
         std::string s = "Wheat", e = "Wheat";
         for (unsigned i = 0; i < 7; ++i) {
@@ -56,7 +58,7 @@ TEST(Ausgabename, every_combination_of_flags) {
             s += Standard[i];
             e += erweitert[i];
         }
-        const Lauf l = mit_Teilen(b, Muster);
+        const Darstellungsprobe l = mit_Teilen(b, Muster);
         EXPECT_EQ(Ausgabename_Standardbericht(l, Zeitpunkt), s) << Muster;
         EXPECT_EQ(Ausgabename_erweiterter_Bericht(l, Zeitpunkt), e) << Muster;
     }
@@ -74,17 +76,17 @@ TEST(Ausgabename, kinetics_of_the_scheme) {
 
 TEST(Ausgabename, year_of_the_extended_report_follows_the_view) {
     Lauf_bauer b = Grundlage();
-    for (const int Art : {0, 2}) {
-        b.Felder.PEC_Typ = Art;
+    for (const PEC_Ansicht Art : {jaehrlich, Anreicherung}) {
+        b.Sicht.PEC_Typ = Art;
         EXPECT_EQ(Ausgabename_erweiterter_Bericht(mit_Teilen(b, bit(4)), Zeitpunkt), "Wheat - 1 year");
     }
-    b.Felder.PEC_Typ = 1;
+    b.Sicht.PEC_Typ = Hintergrund;
     EXPECT_EQ(Ausgabename_erweiterter_Bericht(mit_Teilen(b, bit(4)), Zeitpunkt), "Wheat - 10 years");
 }
 
 TEST(Ausgabename, a_flag_is_1_and_nothing_else) {
-    Lauf l = mit_Teilen(Grundlage(), 0);
-    l.Parameter.Ausgabename_Teile[1] = 2;
+    Darstellungsprobe l = mit_Teilen(Grundlage(), 0);
+    l.Felder.Parameter.Ausgabename_Teile[1] = 2;
     EXPECT_EQ(Ausgabename_Standardbericht(l, Zeitpunkt), "Wheat");
 }
 
@@ -114,10 +116,10 @@ TEST(Ausgabename, moment_of_the_clock_is_local_time_with_seconds) {
 class schlechter_Name : public ::testing::TestWithParam<std::string> {};
 
 TEST_P(schlechter_Name, is_refused_by_its_name_before_anything_is_made) {
-    const auto l = gerechnet({});
-    l->Felder.Beschreibung = GetParam();
+    auto l = mit_Ergebnissen({});
+    l.Felder.Beschreibung = GetParam();
     try {
-        Bericht_von(*l);
+        Bericht_von(l);
         FAIL() << "no fault";
     } catch (const Laufzeitfehler& f) {
         EXPECT_THAT(f.what(), ::testing::HasSubstr("\"" + GetParam() + "\" cannot be the name of a report: "));
@@ -130,9 +132,9 @@ INSTANTIATE_TEST_SUITE_P(Ausgabename, schlechter_Name,
 TEST(Ausgabename, study_with_a_slash_is_refused_only_where_it_is_part_of_the_name) {
     Lauf_bauer b;
     b.Felder.Studie = {"clay/loam"};
-    EXPECT_EQ(Bericht_von(*gerechnet(b)).Name, "the problem");
-    b.Parameter.Ausgabename_Teile[1] = 1;
-    EXPECT_THROW(Bericht_von(*gerechnet(b)), Laufzeitfehler);
+    EXPECT_EQ(Bericht_von(mit_Ergebnissen(b)).Name, "the problem");
+    b.Felder.Parameter.Ausgabename_Teile[1] = 1;
+    EXPECT_THROW(Bericht_von(mit_Ergebnissen(b)), Laufzeitfehler);
 }
 
 }  // namespace

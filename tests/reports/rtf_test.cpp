@@ -38,13 +38,13 @@ std::string hin_und_zurueck(const std::string& Text) {
 
 TEST(RTF, whole_report_reads_back_as_its_text) {
     for (const Berichtsart Art : {Berichtsart::Standard, Berichtsart::erweitert}) {
-        const Bericht b = Bericht_von(*gerechnet(mit_Studien(Lauf_bauer().Schema(2).Einheit(1), 3)), Art);
+        const Bericht b = Bericht_von(mit_Ergebnissen(mit_Studien(Lauf_bauer().Schema(2).Einheit(1), 3)), Art);
         EXPECT_EQ(lies_RTF(b.RTF).Text(), ohne_Platzhalter(b.Text));
     }
 }
 
 TEST(RTF, formats_of_a_report) {
-    const RTF_Dokument d = lies_RTF(Bericht_von(*gerechnet(Lauf_bauer().Schema(1))).RTF);
+    const RTF_Dokument d = lies_RTF(Bericht_von(mit_Ergebnissen(Lauf_bauer().Schema(1))).RTF);
     EXPECT_EQ(d.Codepage, 1252);
     const RTF_Absatz& Titel = Absatz_mit(d, "V A R N O K");
     EXPECT_TRUE(Titel.zentriert);
@@ -90,8 +90,8 @@ TEST(RTF, format_that_ends_within_a_line) {
 }
 
 TEST(RTF, picture_is_the_drawing_in_its_size) {
-    const auto l = gerechnet({});
-    const RTF_Dokument d = lies_RTF(Bericht_von(*l).RTF);
+    const auto l = mit_Ergebnissen({});
+    const RTF_Dokument d = lies_RTF(Bericht_von(l).RTF);
     ASSERT_EQ(d.Bilder.size(), 1U);
     const RTF_Bild& b = d.Bilder[0];
     EXPECT_EQ(b.Breite, 1920);
@@ -101,14 +101,14 @@ TEST(RTF, picture_is_the_drawing_in_its_size) {
     EXPECT_EQ(b.laengste_Zeile, 128U);
     EXPECT_EQ(d.Absaetze[b.Absatz - 2].Text(), "GRAPHIC REPRESENTATION OF THE CALCULATION");
     const QImage Bild = QImage::fromData(QByteArray::fromStdString(b.PNG), "PNG");
-    const QImage gemalt = erstelle_Berichtsbild(mit_Beschriftung(erstelle_Berichtsdiagramm(*l, Berichtsart::Standard)));
+    const QImage gemalt = erstelle_Berichtsbild(mit_Beschriftung(erstelle_Berichtsdiagramm(l, Berichtsart::Standard)));
     EXPECT_EQ(Bild.convertToFormat(QImage::Format_RGB32), gemalt);
 }
 
 // The headline, an empty line, the picture, two empty lines: each but the last stays with the next.
 TEST(RTF, headline_and_picture_stay_on_one_page) {
     for (const Berichtsart Art : {Berichtsart::Standard, Berichtsart::erweitert}) {
-        const RTF_Dokument d = lies_RTF(Bericht_von(*gerechnet(mit_Studien(Lauf_bauer(), 2)), Art).RTF);
+        const RTF_Dokument d = lies_RTF(Bericht_von(mit_Ergebnissen(mit_Studien(Lauf_bauer(), 2)), Art).RTF);
         const std::size_t Bild = d.Bilder.at(0).Absatz;
         ASSERT_EQ(d.Absaetze.size(), Bild + 3);
         for (std::size_t i = 0; i < d.Absaetze.size(); ++i) {
@@ -139,7 +139,7 @@ TEST(RTF, compound_name_of_any_letters_comes_back_and_keeps_its_format) {
     for (const char* Name : {"a{b}\\c", "tab\there", "пшеница", "A ≥ B", "\xF0\x9F\x8C\xBE", "\\rtf1"}) {
         Lauf_bauer b = Lauf_bauer().Schema(1);
         b.Felder.Name_Met_1 = Name;
-        const Bericht r = Bericht_von(*gerechnet(b));
+        const Bericht r = Bericht_von(mit_Ergebnissen(b));
         const RTF_Dokument d = lies_RTF(r.RTF);
         EXPECT_EQ(d.Text(), ohne_Platzhalter(r.Text));
         EXPECT_TRUE(Absatz_mit(d, std::string("RESULTS FOR: ") + Name).Laeufe[0].fett) << Name;

@@ -45,12 +45,12 @@ struct Zeuge {
 
     explicit Zeuge(const Aufgabe& Arbeit) : a(Arbeit) {
         for (std::size_t st = 0; st < a.Felder.Studie.size(); ++st) {
-            Studien.push_back(referenz::rechne(a.Parameter, a.Felder, static_cast<int>(st), a.Klima));
+            Studien.push_back(referenz::rechne(a.Felder.Parameter, a.Felder, static_cast<int>(st), a.Klima));
         }
     }
 
-    std::size_t e() const { return static_cast<std::size_t>(a.Felder.Endpunkt); }
-    std::size_t st() const { return static_cast<std::size_t>(a.Felder.Studie_Index); }
+    std::size_t e() const { return static_cast<std::size_t>(a.Sicht.Endpunkt); }
+    std::size_t st() const { return static_cast<std::size_t>(a.Sicht.Studie_Index); }
     int Schema() const { return a.Felder.Berechnungsmodus; }
     std::size_t Stoffzahl() const { return Schema() == 0 ? 1 : Schema() == 1 ? 2 : 3; }
     std::string Name(std::size_t c) const {
@@ -59,14 +59,14 @@ struct Zeuge {
     }
     // A concentration in the fixed pattern of its unit.
     std::string Z(double x) const {
-        const bool Mikrogramm = a.Parameter.Einheit == 1;
+        const bool Mikrogramm = a.Felder.Parameter.Einheit == 1;
         const std::string t = feste_Zahl(x, Mikrogramm ? 2 : 4);
         return t.find_first_not_of("0.") == std::string::npos ? (Mikrogramm ? "<0.01" : "<0.0001") : t;
     }
-    int Fenster() const { return a.Parameter.TWA_Zeiten == 1 ? 10 : 12; }
+    int Fenster() const { return a.Felder.Parameter.TWA_Zeiten == 1 ? 10 : 12; }
     double Laenge(int w) const {
         const auto i = static_cast<std::size_t>(w - 1);
-        return a.Parameter.TWA_Zeiten == 1 ? a.Parameter.TWA_Liste_EU[i] : a.Parameter.TWA_Liste_Monat[i];
+        return a.Felder.Parameter.TWA_Zeiten == 1 ? a.Felder.Parameter.TWA.EU[i] : a.Felder.Parameter.TWA.Monat[i];
     }
     const referenz::Stoffergebnis& r(std::size_t s, std::size_t c) const { return Studien[s].Stoffe[c]; }
     // Concentration a window's length after the peak, which the ten years limit.
@@ -79,7 +79,7 @@ struct Zeuge {
     }
     double Peak(std::size_t s, std::size_t c) const { return static_cast<double>(r(s, c).Maximum_Bodentiefe[e()]); }
     double Hintergrund(std::size_t s, std::size_t c) const { return static_cast<double>(r(s, c).Plateauwert[e()]); }
-    double R() const { return a.Felder.Fruchtwechsel + 1; }
+    double R() const { return a.Sicht.Fruchtwechsel + 1; }
 
     Fuellung Grundfuellung() const;
     std::string Kopf(bool alle) const;
@@ -97,12 +97,12 @@ Fuellung Zeuge::Grundfuellung() const {
     static const char* const Schemata[] = {"Parent compound without metabolites", "Active compound and a single metabolite",
                                            "Active compound and two parallel metabolites",
                                            "Active compound and a sequence of two metabolites"};
-    const Laufparameter& p = a.Parameter;
+    const Laufparameter& p = a.Felder.Parameter;
     Fuellung f;
     f["version"] = a.Programmversion;
     f["now"] = a.Datum + ", " + a.Zeit;
     f["problem"] = a.Felder.Beschreibung;
-    f["record"] = a.Felder.Aktuelle_Dateinamen[2];
+    f["record"] = a.Applikationssatz;
     f["soil"] = a.Felder.Bodenszenario;
     f["density"] = allgemeine_Zahl(p.Bodendichte);
     f["depth"] = allgemeine_Zahl(p.Bodentiefe);
@@ -110,29 +110,27 @@ Fuellung Zeuge::Grundfuellung() const {
     f["carbon"] = allgemeine_Zahl(p.Kohlenstoffgehalt);
     f["capacity"] = allgemeine_Zahl(p.Feldkapazitaet);
     f["wilting"] = allgemeine_Zahl(p.Welkepunkt);
-    f["climate"] = a.Felder.Klimaszenario;
+    f["climate"] = p.Klimamodus == 1 ? a.Felder.Klimaszenario : std::to_string(p.Szenariotemperatur) + " °C constant";
     f["scheme"] = Schemata[Schema()];
     f["word"] = e() == 1 ? "pore water" : "total soil";
     f["unit"] = std::string(p.Einheit == 1 ? "(µg/" : "(mg/") + (e() == 1 ? "L)" : "kg)");
-    f["R"] = std::to_string(a.Felder.Fruchtwechsel + 1);
+    f["R"] = std::to_string(a.Sicht.Fruchtwechsel + 1);
     return f;
 }
 
 std::string Zeuge::Kopf(bool alle) const {
     Fuellung f = Grundfuellung();
-    const int Modus = a.Parameter.Separate_Rueckstaende;
+    const int Modus = a.Felder.Parameter.Separate_Rueckstaende;
     f["separate"] = Modus == 0   ? "Residues from different applications are not considered separately"
                     : Modus == 1 ? "Residues from different applications are considered separately"
                                  : "Residues from different applications are considered separately over one year";
-    f["iteration"] = a.Felder.PEC_Typ == 1 ? "Iteration of annual application pattern over 10 years"
-                                           : "Single annual application pattern (calculation period 1 year)";
-    f["rotation"] = a.Felder.Fruchtwechsel == 0   ? "every year"
-                    : a.Felder.Fruchtwechsel == 1 ? "every 2nd year"
-                                                  : "every 3rd year";
+    f["iteration"] = a.Sicht.PEC_Typ == 1 ? "Iteration of annual application pattern over 10 years"
+                                          : "Single annual application pattern (calculation period 1 year)";
+    f["rotation"] = a.Sicht.Fruchtwechsel == 0 ? "every year" : a.Sicht.Fruchtwechsel == 1 ? "every 2nd year" : "every 3rd year";
     f["summary"] = alle ? "\r\n\r\nSUMMARY REPORT CONSIDERING ALL SOIL STUDIES\r\n\r\n\r\n\r\n\r\n" : "\r\n\r\n\r\n\r\n";
     f["trailer"] = alle ? "" : "   ";
     f["weather"] = "";
-    if (a.Parameter.Klimamodus == 1) {
+    if (a.Felder.Parameter.Klimamodus == 1) {
         const auto& s = Studien.back().Klimasummen;
         const auto ganz = [](double x) { return feste_Zahl(x, 0) == "0" ? std::string() : feste_Zahl(x, 0); };
         f["weather"] = "Mean temperature (°C):                            \t" + feste_Zahl(s[0] / 3751, 1) +
@@ -172,9 +170,9 @@ std::string Zeuge::Applikationen() const {
     Fuellung w;
     w["n"] = std::to_string(f.Anzahl());
     w["date"] = std::to_string(f.App_Tag + 1) + " " + Monate[f.App_Monat];
-    w["rate"] = f.Applikationsrate;
+    w["rate"] = f.Applikationsrate.Text();
     w["interval"] = std::to_string(f.Intervall());
-    w["interception"] = f.Interzeption;
+    w["interception"] = f.Interzeption.Text();
     w["rows"] = "";
     if (f.Applikationsmuster == einzeln) {
         return fuelle(
@@ -193,7 +191,7 @@ std::string Zeuge::Applikationen() const {
             w);
     }
     for (const Applikationszeile& z : f.Applikationsschema)
-        w["rows"] += z[0] + "\t" + z[1] + "\t" + z[2] + "\t" + z[3] + "\t\r\n";
+        w["rows"] += z[0].Text() + "\t" + z[1].Text() + "\t" + z[2].Text() + "\t" + z[3].Text() + "\t\r\n";
     return fuelle(
         "Number of Applications :            \t{n}\n"
         "Day\tMonth\tRate (g/ha)\tInterception(%)\t\n"
@@ -205,15 +203,15 @@ std::string Zeuge::Stoffe() const {
     const Eingabe& f = a.Felder;
     Fuellung w = Grundfuellung();
     w["P"] = f.Name_Wirkstoff;
-    w["mP"] = f.Molmasse_Wirkstoff;
+    w["mP"] = f.Molmasse_Wirkstoff.Text();
     w["M1"] = f.Name_Met_1;
-    w["m1"] = f.Molmasse_Met_1;
-    w["f1"] = f.Bildungsanteil_Met_1;
-    w["k1"] = Zs(a.Parameter.KOC[1][st()]);
+    w["m1"] = f.Molmasse_Met_1.Text();
+    w["f1"] = f.Bildungsanteil_Met_1.Text();
+    w["k1"] = Zs(a.Felder.Parameter.KOC[1][st()]);
     w["M2"] = f.Name_Met_2;
-    w["m2"] = f.Molmasse_Met_2;
-    w["f2"] = f.Bildungsanteil_Met_2;
-    w["k2"] = Zs(a.Parameter.KOC[2][st()]);
+    w["m2"] = f.Molmasse_Met_2.Text();
+    w["f2"] = f.Bildungsanteil_Met_2.Text();
+    w["k2"] = Zs(a.Felder.Parameter.KOC[2][st()]);
     static const char* const Tabellen[] = {
         "", "\nCompound\tMolecular mass(g/mol)\tFormation (%)\n{P}\t{mP}\n{M1}\t{m1}                       \t{k1}\t{f1}\n",
         "\nCompound\tMolecular mass(g/mol)\tKOC(L/kg)\tFormation (%)\n{P}\t{mP}\n"
@@ -226,7 +224,7 @@ std::string Zeuge::Stoffe() const {
 }
 
 std::string Zeuge::Kinetikblock(std::size_t c, std::size_t s, bool alle) const {
-    const Laufparameter& p = a.Parameter;
+    const Laufparameter& p = a.Felder.Parameter;
     const auto DT50 = [](double k) { return k > 0 ? Zs(std::log(2) / k) : std::string("0"); };
     const bool gilt = p.k_SFO[c][s] > 0;  // what the report of one study asks, whatever the kinetics
     Fuellung f;
@@ -278,11 +276,12 @@ std::string Zeuge::Ergebnisse(std::size_t c) const {
     f["share"] = "";
     if (c > 0) {
         // The first dose as metabolite, all of it, in the soil depth.
-        const double M = Wert(c == 1 ? a.Felder.Molmasse_Met_1 : a.Felder.Molmasse_Met_2) / Wert(a.Felder.Molmasse_Wirkstoff);
+        const double M =
+            Wert((c == 1 ? a.Felder.Molmasse_Met_1 : a.Felder.Molmasse_Met_2).Text()) / Wert(a.Felder.Molmasse_Wirkstoff.Text());
         const auto Dosis =
             static_cast<double>(Studien[st()].Tagesrate[static_cast<std::size_t>(Studien[st()].Applikationstag[1])]);
-        const double T = (a.Parameter.Einheit == 1 ? 1000 : 1) * (M * (Dosis / 1000)) /
-                         (a.Parameter.Bodentiefe * a.Parameter.Bodendichte / 10);
+        const double T = (a.Felder.Parameter.Einheit == 1 ? 1000 : 1) * (M * (Dosis / 1000)) /
+                         (a.Felder.Parameter.Bodentiefe * a.Felder.Parameter.Bodendichte / 10);
         const auto Jahr1 = static_cast<double>(r(st(), c).Jahresmaximum[e()][1]);
         f["share"] = "^\r\n(^ This is " + feste_Zahl(Jahr1 * 100 / T, 2) +
                      " % of the theoretical maximum concentration of the metabolite)\r\n";
@@ -297,7 +296,7 @@ std::string Zeuge::Ergebnisse(std::size_t c) const {
     f["rotated"] = Z(B / R());
     f["accumulated"] = Z(B / R() + Peak(st(), c));
     f["text"] = r(st(), c).Plateautext[e()];
-    const bool unsicher = a.Parameter.Kinetik[c][st()] > 0 && Wert(f["text"]) < 50;
+    const bool unsicher = a.Felder.Parameter.Kinetik[c][st()] > 0 && Wert(f["text"]) < 50;
     f["warning"] = !unsicher ? ""
                              : "\r\n\r\nIn the simulation a final plateau was estimated significantly higher than the residues "
                                "after 10 years.\r\nThese results may not be reliable. Please check whether the separation of "

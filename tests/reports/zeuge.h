@@ -6,17 +6,17 @@
 #include <string>
 #include <vector>
 
+#include "run/ansicht.h"
 #include "run/eingabe.h"
 #include "run/klima.h"
-#include "run/laufparameter.h"
 
 namespace varnok::zeuge {
 
 struct Aufgabe {
-    Laufparameter Parameter;
     Eingabe Felder;
+    Ansicht Sicht;
     std::vector<Klimatag> Klima;
-    std::string Programmversion, Datum, Zeit;
+    std::string Applikationssatz, Programmversion, Datum, Zeit;
 };
 
 std::string Standardbericht(const Aufgabe& a);

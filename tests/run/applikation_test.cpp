@@ -15,7 +15,7 @@ namespace {
 
 // Only what the time axis needs, without the series.
 struct Zeitachse {
-    explicit Zeitachse(const Lauf_bauer& b) : gelungen(Lade_Applikationen(b.Felder, b.Parameter, b.i_studie, s)) {}
+    explicit Zeitachse(const Lauf_bauer& b) : gelungen(Lade_Applikationen(b.Felder, b.i_studie, s)) {}
     int Tag(int Ereignis) const { return s.Applikationstag[static_cast<std::size_t>(Ereignis)]; }
     float Rate(int d) const { return s.Tagesrate[static_cast<std::size_t>(d)]; }
 

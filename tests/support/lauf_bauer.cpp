@@ -7,7 +7,6 @@
 
 #include "base/zahlen.h"
 #include "exposure/schritte.h"
-#include "exposure/twa.h"
 
 namespace varnok::probe {
 namespace {
@@ -53,17 +52,17 @@ void haenge_an(std::string& Bytes, const Bereich& Werte) {
 }  // namespace
 
 Lauf_bauer::Lauf_bauer() {
-    Parameter.Bodendichte = 1.5;
-    Parameter.Bodentiefe = 5;
-    Parameter.Plateautiefe = 20;
-    Parameter.Kohlenstoffgehalt = 2;
-    Parameter.Feldkapazitaet = 40;
-    Parameter.Welkepunkt = 10;
-    Parameter.Szenariotemperatur = 20;
-    Parameter.Q10 = fuer_alle(2.58);
-    Parameter.Walker = fuer_alle(0.7);
-    Parameter.TRef = fuer_alle(20.0);
-    Parameter.KOC = fuer_alle(100.0);
+    Felder.Parameter.Bodendichte = 1.5;
+    Felder.Parameter.Bodentiefe = 5;
+    Felder.Parameter.Plateautiefe = 20;
+    Felder.Parameter.Kohlenstoffgehalt = 2;
+    Felder.Parameter.Feldkapazitaet = 40;
+    Felder.Parameter.Welkepunkt = 10;
+    Felder.Parameter.Szenariotemperatur = 20;
+    Felder.Parameter.Q10 = fuer_alle(2.58);
+    Felder.Parameter.Walker = fuer_alle(0.7);
+    Felder.Parameter.TRef = fuer_alle(20.0);
+    Felder.Parameter.KOC = fuer_alle(100.0);
     Felder.Studie = {"field"};
     Felder.Name_Wirkstoff = "parent";
     Felder.Name_Met_1 = "first metabolite";
@@ -74,48 +73,48 @@ Lauf_bauer::Lauf_bauer() {
 }
 
 Lauf_bauer& Lauf_bauer::nach_SFO(double k, int i_substanz) {
-    Parameter.Kinetik[St(i_substanz)][St(i_studie)] = SFO;
-    Parameter.k_SFO[St(i_substanz)][St(i_studie)] = k;
+    Felder.Parameter.Kinetik[St(i_substanz)][St(i_studie)] = SFO;
+    Felder.Parameter.k_SFO[St(i_substanz)][St(i_studie)] = k;
     return *this;
 }
 
 Lauf_bauer& Lauf_bauer::nach_DFOP(double k1, double k2, double g, int i_substanz) {
-    Parameter.Kinetik[St(i_substanz)][St(i_studie)] = DFOP;
-    Parameter.k1_DFOP[St(i_substanz)][St(i_studie)] = k1;
-    Parameter.k2_DFOP[St(i_substanz)][St(i_studie)] = k2;
-    Parameter.g_DFOP[St(i_substanz)][St(i_studie)] = g;
+    Felder.Parameter.Kinetik[St(i_substanz)][St(i_studie)] = DFOP;
+    Felder.Parameter.k1_DFOP[St(i_substanz)][St(i_studie)] = k1;
+    Felder.Parameter.k2_DFOP[St(i_substanz)][St(i_studie)] = k2;
+    Felder.Parameter.g_DFOP[St(i_substanz)][St(i_studie)] = g;
     return *this;
 }
 
 Lauf_bauer& Lauf_bauer::nach_FOMC(double alpha, double beta) {
-    Parameter.Kinetik[0][St(i_studie)] = FOMC;
-    Parameter.alpha_FOMC[St(i_studie)] = alpha;
-    Parameter.beta_FOMC[St(i_studie)] = beta;
+    Felder.Parameter.Kinetik[0][St(i_studie)] = FOMC;
+    Felder.Parameter.alpha_FOMC[St(i_studie)] = alpha;
+    Felder.Parameter.beta_FOMC[St(i_studie)] = beta;
     return *this;
 }
 
 Lauf_bauer& Lauf_bauer::nach_HS(double k1, double k2, double Tb) {
-    Parameter.Kinetik[0][St(i_studie)] = HS;
-    Parameter.k1_HS[St(i_studie)] = k1;
-    Parameter.k2_HS[St(i_studie)] = k2;
-    Parameter.Tb_HS[St(i_studie)] = Tb;
+    Felder.Parameter.Kinetik[0][St(i_studie)] = HS;
+    Felder.Parameter.k1_HS[St(i_studie)] = k1;
+    Felder.Parameter.k2_HS[St(i_studie)] = k2;
+    Felder.Parameter.Tb_HS[St(i_studie)] = Tb;
     return *this;
 }
 
 Lauf_bauer& Lauf_bauer::Korrektur(double Q10, double Walker, double TRef, int i_substanz) {
-    Parameter.Q10[St(i_substanz)][St(i_studie)] = Q10;
-    Parameter.Walker[St(i_substanz)][St(i_studie)] = Walker;
-    Parameter.TRef[St(i_substanz)][St(i_studie)] = TRef;
+    Felder.Parameter.Q10[St(i_substanz)][St(i_studie)] = Q10;
+    Felder.Parameter.Walker[St(i_substanz)][St(i_studie)] = Walker;
+    Felder.Parameter.TRef[St(i_substanz)][St(i_studie)] = TRef;
     return *this;
 }
 
 Lauf_bauer& Lauf_bauer::KOC(double Wert, int i_substanz) {
-    Parameter.KOC[St(i_substanz)][St(i_studie)] = Wert;
+    Felder.Parameter.KOC[St(i_substanz)][St(i_studie)] = Wert;
     return *this;
 }
 
 Lauf_bauer& Lauf_bauer::Schema(int Berechnungsmodus) {
-    Felder.Berechnungsmodus = Berechnungsmodus;
+    Felder.Berechnungsmodus = static_cast<Stoffschema>(Berechnungsmodus);
     return *this;
 }
 
@@ -153,30 +152,30 @@ Lauf_bauer& Lauf_bauer::Termine(std::vector<Applikationszeile> Zeilen) {
 }
 
 Lauf_bauer& Lauf_bauer::Rueckstaende(int Separate_Rueckstaende) {
-    Parameter.Separate_Rueckstaende = static_cast<std::uint8_t>(Separate_Rueckstaende);
+    Felder.Parameter.Separate_Rueckstaende = static_cast<std::uint8_t>(Separate_Rueckstaende);
     return *this;
 }
 
 Lauf_bauer& Lauf_bauer::Boden(double Dichte, double Bodentiefe, double Plateautiefe) {
-    Parameter.Bodendichte = Dichte;
-    Parameter.Bodentiefe = Bodentiefe;
-    Parameter.Plateautiefe = Plateautiefe;
+    Felder.Parameter.Bodendichte = Dichte;
+    Felder.Parameter.Bodentiefe = Bodentiefe;
+    Felder.Parameter.Plateautiefe = Plateautiefe;
     return *this;
 }
 
 Lauf_bauer& Lauf_bauer::Feuchte(double Feldkapazitaet, double Welkepunkt) {
-    Parameter.Feldkapazitaet = Feldkapazitaet;
-    Parameter.Welkepunkt = Welkepunkt;
+    Felder.Parameter.Feldkapazitaet = Feldkapazitaet;
+    Felder.Parameter.Welkepunkt = Welkepunkt;
     return *this;
 }
 
 Lauf_bauer& Lauf_bauer::Temperatur(int Grad) {
-    Parameter.Szenariotemperatur = static_cast<std::uint8_t>(Grad);
+    Felder.Parameter.Szenariotemperatur = static_cast<std::uint8_t>(Grad);
     return *this;
 }
 
 Lauf_bauer& Lauf_bauer::Wetter(std::vector<Klimatag> Tage) {
-    Parameter.Klimamodus = 1;
+    Felder.Parameter.Klimamodus = 1;
     Klima = std::move(Tage);
     return *this;
 }
@@ -188,13 +187,15 @@ Lauf_bauer& Lauf_bauer::Beginn(int Monat, int Tag) {
 }
 
 Lauf_bauer& Lauf_bauer::Einheit(int Code) {
-    Parameter.Einheit = static_cast<std::uint8_t>(Code);
+    Felder.Parameter.Einheit = static_cast<std::uint8_t>(Code);
     return *this;
 }
 
 Lauf_bauer& Lauf_bauer::Studie(int i) {
-    for (auto* Tabelle : {&Parameter.KOC, &Parameter.Q10, &Parameter.Walker, &Parameter.TRef, &Parameter.Kinetik,
-                          &Parameter.k_SFO, &Parameter.k1_DFOP, &Parameter.k2_DFOP, &Parameter.g_DFOP}) {
+    Laufparameter& Parameter = Felder.Parameter;
+    kopiere_Studie(Parameter.Kinetik, St(i));
+    for (auto* Tabelle : {&Parameter.KOC, &Parameter.Q10, &Parameter.Walker, &Parameter.TRef, &Parameter.k_SFO,
+                          &Parameter.k1_DFOP, &Parameter.k2_DFOP, &Parameter.g_DFOP}) {
         kopiere_Studie(*Tabelle, St(i));
     }
     for (auto* Tabelle : {&Parameter.alpha_FOMC, &Parameter.beta_FOMC, &Parameter.k1_HS, &Parameter.k2_HS, &Parameter.Tb_HS}) {
@@ -206,16 +207,12 @@ Lauf_bauer& Lauf_bauer::Studie(int i) {
 
 Lauf Lauf_bauer::baue() const {
     Lauf l;
-    l.Parameter = Parameter;
     l.Felder = Felder;
-    uebernehme_TWA_Liste(l);
     return l;
 }
 
 Laufergebnis Lauf_bauer::rechne_in(Lauf& l) const {
-    l.Parameter = Parameter;
     l.Felder = Felder;
-    uebernehme_TWA_Liste(l);
     const Klimaliste Quelle = Klima ? Klimaliste(*Klima) : Klimaliste();
     return berechne_PEC(l, i_studie, Quelle, alle_Rechenschritte);
 }

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "run/ansicht.h"
 #include "run/klima.h"
 #include "run/lauf.h"
 
@@ -35,7 +36,7 @@ struct Lauf_bauer {
     Lauf_bauer& KOC(double Wert, int i_substanz = 0);
 
     // metabolites
-    Lauf_bauer& Schema(int Berechnungsmodus);
+    Lauf_bauer& Schema(int Berechnungsmodus);  // code of `Stoffschema`
     Lauf_bauer& Molmassen(double Wirkstoff, double Met_1, double Met_2 = 100);
     Lauf_bauer& Bildungsanteile(double Met_1, double Met_2 = 0);  // %
 
@@ -61,8 +62,8 @@ struct Lauf_bauer {
     // A new run, calculated; throws std::logic_error if it ends early.
     Lauf rechne() const;
 
-    Laufparameter Parameter;
     Eingabe Felder;
+    Ansicht Sicht;  // plays no part in a run
     int i_studie = 0;
     std::optional<std::vector<Klimatag>> Klima;
 };

@@ -70,7 +70,7 @@ std::size_t Tagesplatz(long Tag) {
 void einzelne_Applikation(Lage& l) {
     Studienergebnis& r = l.Ergebnis;
     r.Applikationstag[1] = 0;
-    r.Tagesrate[0] = Nettodosis(Wert(l.e.Applikationsrate), Wert(l.e.Interzeption));
+    r.Tagesrate[0] = Nettodosis(Wert(l.e.Applikationsrate.Text()), Wert(l.e.Interzeption.Text()));
     r.Wirksame_Rate = static_cast<double>(r.Tagesrate[0]);
     r.Anzahl_pro_Jahr = 1;
 }
@@ -83,7 +83,7 @@ void regelmaessige_Applikationen(Lage& l, double k) {
         const int Tag = (i - 1) * Abstand;
         r.Applikationstag[static_cast<std::size_t>(i)] = Tag;
         float& Dosis = r.Tagesrate[Tagesplatz(Tag)];
-        Dosis = Nettodosis(Wert(l.e.Applikationsrate), Wert(l.e.Interzeption));
+        Dosis = Nettodosis(Wert(l.e.Applikationsrate.Text()), Wert(l.e.Interzeption.Text()));
         r.Wirksame_Rate = r.Wirksame_Rate + static_cast<double>(Dosis) * std::exp(-k * (n - i) * Abstand);
     }
     r.Anzahl_pro_Jahr = n;
@@ -94,8 +94,8 @@ std::vector<std::string> gepruefte_Interzeption(const Eingabe& e) {
     std::vector<std::string> Texte;
     for (std::size_t k = 0; k < static_cast<std::size_t>(e.Anzahl()); ++k) {
         const Applikationszeile& Zeile = e.Applikationsschema.at(k);
-        if (Wert(Zeile[0]) == 0 || Wert(Zeile[1]) == 0) unmoeglich("application date not valid");
-        Texte.push_back(Wert(Zeile[3]) >= 100 ? std::string("99") : Zeile[3]);
+        if (Wert(Zeile[0].Text()) == 0 || Wert(Zeile[1].Text()) == 0) unmoeglich("application date not valid");
+        Texte.push_back(Wert(Zeile[3].Text()) >= 100 ? std::string("99") : Zeile[3].Text());
     }
     return Texte;
 }
@@ -107,8 +107,8 @@ void unregelmaessige_Applikationen(Lage& l, double k) {
     for (int i = 1; i <= n; ++i) {
         const std::size_t Platz = static_cast<std::size_t>(i);
         const Applikationszeile& Zeile = l.e.Applikationsschema.at(Platz - 1);
-        const long Tag = gerundet(Tage_vor_Monat(gerundet(Wert(Zeile[1]))) + Wert(Zeile[0]) - 1);
-        r.Tagesrate[Tagesplatz(Tag)] = Nettodosis(Wert(Zeile[2]), Wert(Interzeption[Platz - 1]));
+        const long Tag = gerundet(Tage_vor_Monat(gerundet(Wert(Zeile[1].Text()))) + Wert(Zeile[0].Text()) - 1);
+        r.Tagesrate[Tagesplatz(Tag)] = Nettodosis(Wert(Zeile[2].Text()), Wert(Interzeption[Platz - 1]));
         r.Applikationstag[Platz] = static_cast<int>(Tag);
         if (i > 1 && Tag <= r.Applikationstag[Platz - 1]) unmoeglich("application dates not in sequence");
     }
@@ -215,7 +215,7 @@ void berechne_TWA(const Lage& l, Stoffergebnis& s) {
         for (std::size_t j = 1; j <= Anzahl; ++j) {
             s.TWA_Starttag[e][j] = 0;
             s.TWA_Maximum[e][j] = 0;
-            const float TWA_Tage = einfach(l.p.TWA_Zeiten == 1 ? l.p.TWA_Liste_EU[j - 1] : l.p.TWA_Liste_Monat[j - 1]);
+            const float TWA_Tage = einfach(l.p.TWA_Zeiten == 1 ? l.p.TWA.EU[j - 1] : l.p.TWA.Monat[j - 1]);
             const double L = static_cast<double>(TWA_Tage);
             if (L <= 0) unmoeglich("averaging window of 0 days");
             const long n = gerundet(3649 - L);
@@ -246,7 +246,7 @@ Studienergebnis rechne(const Laufparameter& p, const Eingabe& e, int i_studie, c
     }
     Lage l{p, e, i_studie, Klima, Ergebnis};
     Lade_Applikationen(l);
-    if (e.Berechnungsmodus < 0 || e.Berechnungsmodus > 3) return Ergebnis;
+    if (e.Berechnungsmodus > 3) return Ergebnis;
 
     const int letzte_Substanz = e.Berechnungsmodus == 0 ? 0 : (e.Berechnungsmodus == 1 ? 1 : 2);
     for (int i_substanz = 0; i_substanz <= letzte_Substanz; ++i_substanz) {

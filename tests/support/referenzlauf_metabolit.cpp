@@ -47,9 +47,9 @@ void Metabolitlauf::vorbereiten() {
         s.Plateau[e][0] = 0;
         s.Integral[e][0] = als_zweiter_der_Folge ? s.Plateau[e][0] : s.Boden[e][0];
     }
-    const double Code = l.von(l.p.Kinetik, i_substanz);
+    const int Code = l.p.Kinetik[static_cast<std::size_t>(i_substanz)][static_cast<std::size_t>(l.i_studie)];
     if (Code != 0 && Code != 1) unmoeglich("unknown kinetics of a metabolite");
-    Kinetik = static_cast<int>(Code);
+    Kinetik = Code;
     if (Kinetik == SFO) k = l.von(l.p.k_SFO, i_substanz);
     if (Kinetik == DFOP) {
         k1 = l.von(l.p.k1_DFOP, i_substanz);
@@ -57,9 +57,9 @@ void Metabolitlauf::vorbereiten() {
         g = l.von(l.p.g_DFOP, i_substanz);
     }
     if (!speist_zweiten) return;
-    Bildungsanteil_2 = Wert(l.e.Bildungsanteil_Met_2);
-    M1 = Wert(l.e.Molmasse_Met_1);
-    M2 = Wert(l.e.Molmasse_Met_2);
+    Bildungsanteil_2 = Wert(l.e.Bildungsanteil_Met_2.Text());
+    M1 = Wert(l.e.Molmasse_Met_1.Text());
+    M2 = Wert(l.e.Molmasse_Met_2.Text());
     if (M1 == 0) unmoeglich("molar mass of the first metabolite of 0");
 }
 

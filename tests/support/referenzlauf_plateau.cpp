@@ -131,7 +131,8 @@ double plateau_schleife(float y_a, float y_b, double t_a, double t_b, long long 
 void berechne_Plateau(Lage& l, Stoffergebnis& s, int i_substanz) {
     const bool konstanter_Verlust =
         l.p.Klimamodus == 0 || (l.von(l.p.Q10, i_substanz) == 1 && l.von(l.p.Walker, i_substanz) == 0);
-    const bool geschlossene_Reihe = i_substanz == 0 && l.von(l.p.Kinetik, 0) == SFO && konstanter_Verlust;
+    const bool geschlossene_Reihe =
+        i_substanz == 0 && l.p.Kinetik[0][static_cast<std::size_t>(l.i_studie)] == SFO && konstanter_Verlust;
     bool begrenzt = true;
     for (std::size_t e = 0; e <= 1; ++e) {
         s.Plateauzuwachs[e] = Maximum(0, weit(s.Jahresmaximum[e][10]) - weit(s.Jahresmaximum[e][1]));

@@ -88,9 +88,9 @@ void Wirkstofflauf::Tag_0() {
 }
 
 void Wirkstofflauf::Konstanten() {
-    const double Code = l.von(l.p.Kinetik, 0);
+    const int Code = l.p.Kinetik[0][static_cast<std::size_t>(l.i_studie)];
     if (Code != 0 && Code != 1 && Code != 2 && Code != 3) unmoeglich("unknown kinetics of the parent");
-    Kinetik = static_cast<int>(Code);
+    Kinetik = Code;
     if (Kinetik == SFO) k = l.von(l.p.k_SFO, 0);
     if (Kinetik == DFOP) {
         k1 = l.von(l.p.k1_DFOP, 0);
@@ -108,13 +108,13 @@ void Wirkstofflauf::Konstanten() {
         Tb = l.von(l.p.Tb_HS);
     }
     if (bildet_1) {
-        Bildungsanteil_1 = Wert(l.e.Bildungsanteil_Met_1);
-        M0 = Wert(l.e.Molmasse_Wirkstoff);
-        M1 = Wert(l.e.Molmasse_Met_1);
+        Bildungsanteil_1 = Wert(l.e.Bildungsanteil_Met_1.Text());
+        M0 = Wert(l.e.Molmasse_Wirkstoff.Text());
+        M1 = Wert(l.e.Molmasse_Met_1.Text());
     }
     if (bildet_2) {
-        Bildungsanteil_2 = Wert(l.e.Bildungsanteil_Met_2);
-        M2 = Wert(l.e.Molmasse_Met_2);
+        Bildungsanteil_2 = Wert(l.e.Bildungsanteil_Met_2.Text());
+        M2 = Wert(l.e.Molmasse_Met_2.Text());
     }
 }
 

@@ -1,5 +1,7 @@
 #include "session/eingabe/applikationstabelle.h"
 
+#include <utility>
+
 #include "base/text.h"
 
 namespace varnok {
@@ -7,25 +9,25 @@ namespace varnok {
 void Applikationstabelle::setze(Zelle z, std::string Text) {
     auto& Tabelle = z_.Felder().Applikationsschema;
     if (z.Zeile < 0 || z.Spalte < 0 || z.Zeile >= static_cast<int>(Tabelle.size()) || z.Spalte >= 4) return;
-    std::string& Ziel = Tabelle[static_cast<std::size_t>(z.Zeile)][static_cast<std::size_t>(z.Spalte)];
-    if (Ziel == Text) return;
+    Zahlwert& Ziel = Tabelle[static_cast<std::size_t>(z.Zeile)][static_cast<std::size_t>(z.Spalte)];
+    if (Ziel.Text() == Text) return;
     Ziel = std::move(Text);
     z_.Geaendert[2] = true;
     Laeufe_.verwirf_alle();
     Laeufe_.markiere_veraltet();
 }
 
-void Applikationstabelle::haenge_an(Zelle z, char Zeichen) {
-    setze(z,
-          z_.Felder().Applikationsschema.at(static_cast<std::size_t>(z.Zeile)).at(static_cast<std::size_t>(z.Spalte)) + Zeichen);
+const std::string& Applikationstabelle::Text(Zelle z) const {
+    return z_.Felder().Applikationsschema.at(static_cast<std::size_t>(z.Zeile)).at(static_cast<std::size_t>(z.Spalte)).Text();
 }
 
+void Applikationstabelle::haenge_an(Zelle z, char Zeichen) { setze(z, Text(z) + Zeichen); }
+
 void Applikationstabelle::nimm_letztes(Zelle z) {
-    std::string Text =
-        z_.Felder().Applikationsschema.at(static_cast<std::size_t>(z.Zeile)).at(static_cast<std::size_t>(z.Spalte));
-    if (Text.empty()) return;
-    Text.pop_back();
-    setze(z, Text);
+    std::string gekuerzt = Text(z);
+    if (gekuerzt.empty()) return;
+    gekuerzt.pop_back();
+    setze(z, std::move(gekuerzt));
 }
 
 void Applikationstabelle::leere(Zelle z) { setze(z, ""); }

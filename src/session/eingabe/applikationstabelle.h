@@ -18,6 +18,7 @@ public:
     void bestaetige();
 
 private:
+    const std::string& Text(Zelle z) const;
     void setze(Zelle z, std::string Text);
 
     Zustand& z_;

@@ -12,9 +12,9 @@ namespace varnok {
 // left. A wrong value never reaches a run, and no key starts one.
 class Feldeingabe {
 public:
-    Feldeingabe(Zustand& z, Laufsteuerung& Laeufe) : z_(z), Laeufe_(Laeufe), Texte_(Feldtabelle().size()) {}
+    Feldeingabe(Zustand& z, Laufsteuerung& Laeufe) : z_(z), Laeufe_(Laeufe), Studienfelder_(Feldtabelle().size()) {}
 
-    const std::string& Text(int Feld) const;
+    const std::string& Text(int Feld) const { return Feldwert(Feld).Text(); }
     // The field that has the focus, -1 without one.
     int aktives_Feld() const { return aktiv_; }
 
@@ -35,21 +35,18 @@ public:
 
 private:
     bool pruefe(int Feld, bool Enter);
-    void uebernimm(int Feld, const std::string& Text);
+    void setze(int Feld, const Zahlwert& v);
     void nimm_an(int Feld, bool mit_Lauf);
-    void passe_Dosis_an(int Feld);
-    bool skaliere(int Feld, double alt, double neu);
-    std::vector<int> betroffene_Studien() const;
-    std::string gespeicherter_Text(const Feldbeschreibung& f) const;
-    std::string& Textplatz(int Feld);
+    void passe_Dosis_an();
+    Zahlwert gespeicherter_Wert(const Feldbeschreibung& f) const;
+    const Zahlwert& Feldwert(int Feld) const;
 
     Zustand& z_;
     Laufsteuerung& Laeufe_;
-    std::vector<std::string> Texte_;  // of the study fields; the other texts stand in `Eingabe`
+    std::vector<Zahlwert> Studienfelder_;  // what the study fields show; the other texts stand in `Eingabe`
     int aktiv_ = -1;
-    std::string Alter_Wert_;  // last accepted text of the active field
+    Zahlwert Alter_Wert_;     // last accepted text of the active field
     bool geaendert_ = false;  // typed in since the field got the focus
-    double Skalierung_ = 1;   // product of the factors since the last run
 };
 
 }  // namespace varnok

@@ -7,22 +7,21 @@
 #include <variant>
 
 #include "run/eingabe.h"
-#include "run/laufparameter.h"
 
 namespace varnok {
 
 // What a change of a field concerns.
 enum class Feldgruppe {
-    Dosis,     // rate and interception: results are scaled instead of calculated anew
-    Stoff,     // masses and formation fractions: all studies
-    Studie,    // study data whose focus takes the hint picture away
-    Studie_2,  // study data whose focus leaves it: FOMC and HS
+    Dosis,                  // rate and interception: where that is exact, results are scaled instead of calculated anew
+    Stoff,                  // masses and formation fractions: all studies
+    Studie,                 // study data whose focus takes the hint picture away
+    Studie_Hinweis_bleibt,  // study data whose focus leaves it: FOMC and HS
 };
 
-// Where a value is kept: a table of the run parameters, or a text of the entry fields. A rate constant is
+// Where a value is kept: a table of the run parameters, or a number of the entry fields with its text. A rate constant is
 // shown as a DT50.
 using Feldziel =
-    std::variant<Stofftabelle<double> Laufparameter::*, Studientabelle<double> Laufparameter::*, std::string Eingabe::*>;
+    std::variant<Stofftabelle<double> Laufparameter::*, Studientabelle<double> Laufparameter::*, Zahlwert Eingabe::*>;
 
 // The values that a field takes.
 struct Bereich {

@@ -17,14 +17,14 @@ void Listenwahl::rechne_nach_Aenderung() {
 void Listenwahl::merke_Applikation() { z_.Geaendert[2] = true; }
 
 void Listenwahl::waehle_Substanz(int c) {
-    z_.Felder().Substanz = c;
+    z_.Sicht.Substanz = c;
     Diagramme_.bringe_nach_vorn(c);
 }
 
-void Listenwahl::waehle_Kinetik(int c, int Code) {
-    double& Kinetik = z_.Parameter().Kinetik[static_cast<std::size_t>(c)][static_cast<std::size_t>(z_.i_studie())];
-    if (Kinetik == Code) return;
-    Kinetik = Code;
+void Listenwahl::waehle_Kinetik(int c, Kinetikart k) {
+    Kinetikart& Kinetik = z_.Parameter().Kinetik[static_cast<std::size_t>(c)][static_cast<std::size_t>(z_.i_studie())];
+    if (Kinetik == k) return;
+    Kinetik = k;
     z_.Geaendert[1] = true;
     Laeufe_.verwirf_Studie(z_.i_studie());
     Laeufe_.markiere_veraltet();
@@ -34,17 +34,17 @@ void Listenwahl::waehle_Kinetik(int c, int Code) {
 
 void Listenwahl::waehle_Studie(int i) {
     if (i == z_.i_studie()) return;
-    z_.Felder().Studie_Index = i;
+    z_.Sicht.Studie_Index = i;
     Felder_.fuelle();
     Laeufe_.verwirf_Studie(i);
     z_.Neu_berechnen = true;
     Laeufe_.berechne();
 }
 
-void Listenwahl::waehle_Berechnungsmodus(int m) {
+void Listenwahl::waehle_Berechnungsmodus(Stoffschema m) {
     if (m == z_.Felder().Berechnungsmodus) return;
     z_.Felder().Berechnungsmodus = m;
-    if (z_.Felder().Substanz >= Anzahl_Stoffe(m)) z_.Felder().Substanz = 0;
+    if (z_.Sicht.Substanz >= Anzahl_Stoffe(m)) z_.Sicht.Substanz = 0;
     if (!z_.Gestartet) return;
     z_.Geaendert[1] = true;
     decke_ab(z_, Texte::Eingabe_geaendert);
@@ -70,7 +70,7 @@ void Listenwahl::verlasse_Namen() {
     Laeufe_.berechne();  // the names go into the diagrams
 }
 
-void Listenwahl::waehle_Muster(int m) {
+void Listenwahl::waehle_Muster(Applikationsart m) {
     if (m == z_.Felder().Applikationsmuster) return;
     z_.Felder().Applikationsmuster = m;
     if (!z_.Gestartet) return;
@@ -120,29 +120,29 @@ void Listenwahl::waehle_Anzahl(int i) {
     Laeufe_.berechne();
 }
 
-void Listenwahl::waehle_Endpunkt(int e) {
-    if (e == z_.Felder().Endpunkt) return;
-    z_.Felder().Endpunkt = e;
+void Listenwahl::waehle_Endpunkt(Endpunktart e) {
+    if (e == z_.Sicht.Endpunkt) return;
+    z_.Sicht.Endpunkt = e;
     Laeufe_.zeichne_neu();
 }
 
-void Listenwahl::waehle_PEC_Typ(int a) {
-    if (a == z_.Felder().PEC_Typ) return;
-    z_.Felder().PEC_Typ = a;
+void Listenwahl::waehle_PEC_Typ(PEC_Ansicht a) {
+    if (a == z_.Sicht.PEC_Typ) return;
+    z_.Sicht.PEC_Typ = a;
     Diagramme_.setze_Bereiche_nach_Ansicht();
     Laeufe_.zeichne_neu();
-    Diagramme_.bringe_nach_vorn(z_.Felder().Substanz);
+    Diagramme_.bringe_nach_vorn(z_.Sicht.Substanz);
 }
 
-void Listenwahl::waehle_Fruchtwechsel(int r) {
-    if (r == z_.Felder().Fruchtwechsel) return;
-    z_.Felder().Fruchtwechsel = r;
+void Listenwahl::waehle_Fruchtwechsel(Fruchtfolge r) {
+    if (r == z_.Sicht.Fruchtwechsel) return;
+    z_.Sicht.Fruchtwechsel = r;
     Laeufe_.zeichne_neu();
 }
 
 void Listenwahl::waehle_TWA_Laenge(int j) {
-    if (j == z_.Felder().TWA_Laenge) return;
-    z_.Felder().TWA_Laenge = j;
+    if (j == z_.Sicht.TWA_Laenge) return;
+    z_.Sicht.TWA_Laenge = j;
     Laeufe_.zeichne_neu();
 }
 

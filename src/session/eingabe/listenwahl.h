@@ -14,14 +14,14 @@ public:
 
     // compound data
     void waehle_Substanz(int c);
-    void waehle_Kinetik(int c, int Code);
+    void waehle_Kinetik(int c, Kinetikart k);
     void waehle_Studie(int i);
-    void waehle_Berechnungsmodus(int m);
+    void waehle_Berechnungsmodus(Stoffschema m);
     void aendere_Namen(int c, const std::string& Name);
     void verlasse_Namen();
 
     // application pattern
-    void waehle_Muster(int m);
+    void waehle_Muster(Applikationsart m);
     void fuehre_Muster_aus();
     void waehle_Monat(int i);
     void waehle_Tag(int i);
@@ -29,9 +29,9 @@ public:
     void waehle_Anzahl(int i);
 
     // results
-    void waehle_Endpunkt(int e);
-    void waehle_PEC_Typ(int a);
-    void waehle_Fruchtwechsel(int r);
+    void waehle_Endpunkt(Endpunktart e);
+    void waehle_PEC_Typ(PEC_Ansicht a);
+    void waehle_Fruchtwechsel(Fruchtfolge r);
     void waehle_TWA_Laenge(int j);
     void zeige_Studien();
     void zeige_Zusammenfassung();

@@ -6,33 +6,33 @@
 
 namespace varnok {
 
-Diagrammsteuerung::Diagrammsteuerung(Zustand& z) : z_(z), Bereiche_(Startbereiche(0)) {
-    for (int m = 0; m < 4; ++m) {
-        vorne_[static_cast<std::size_t>(m)] = Diagrammsatz_von(m, 0);
-        vorne_Zusammenfassung_[static_cast<std::size_t>(m)] = Zusammenfassungssatz_von(m, 0);
+Diagrammsteuerung::Diagrammsteuerung(Zustand& z) : z_(z), Bereiche_(Startbereiche(jaehrlich)) {
+    for (const Stoffschema m : {nur_Wirkstoff, ein_Metabolit, zwei_parallel, zwei_in_Folge}) {
+        vorne_[m] = Diagrammsatz_von(m, 0);
+        vorne_Zusammenfassung_[m] = Zusammenfassungssatz_von(m, 0);
     }
 }
 
-void Diagrammsteuerung::setze_Startbereiche() { Bereiche_ = Startbereiche(z_.Felder().PEC_Typ); }
+void Diagrammsteuerung::setze_Startbereiche() { Bereiche_ = Startbereiche(z_.Sicht.PEC_Typ); }
 
-void Diagrammsteuerung::setze_Bereiche_nach_Ansicht() { varnok::setze_Bereiche_nach_Ansicht(Bereiche_, z_.Felder().PEC_Typ); }
+void Diagrammsteuerung::setze_Bereiche_nach_Ansicht() { varnok::setze_Bereiche_nach_Ansicht(Bereiche_, z_.Sicht.PEC_Typ); }
 
-void Diagrammsteuerung::zeichne(bool nach_Lauf) {
-    Diagramme_ = z_.Zusammenfassung_aktiv ? erstelle_Diagramme_Zusammenfassung(z_.Rechnung, Bereiche_, z_.i_studie())
-                                          : erstelle_Diagramme(z_.Rechnung, Bereiche_, z_.i_studie());
+void Diagrammsteuerung::zeichne(const Ergebnis* gelaufen) {
+    Diagramme_ = z_.Zusammenfassung_aktiv ? erstelle_Diagramme_Zusammenfassung(z_.zeige(), Bereiche_, z_.i_studie())
+                                          : erstelle_Diagramme(z_.zeige(), Bereiche_, z_.i_studie());
     std::string Fehler;
     // Files that fail for one reason are told in one line.
     const auto sammle = [&](const std::string& Text) {
         if (Fehler.find(Text) == std::string::npos) Fehler += (Fehler.empty() ? "" : "\n") + Text;
     };
-    if (nach_Lauf) sammle(Nebenausgaben_.schreibe_Laufprotokoll(*z_.Ausgabeprojekt, z_.Rechnung));
+    if (gelaufen != nullptr) sammle(Nebenausgaben_.schreibe_Laufprotokoll(*z_.Ausgabeprojekt, *gelaufen));
     for (const Diagramm& d : Diagramme_) sammle(Nebenausgaben_.schreibe_Zeichnung(*z_.Ausgabeprojekt, d));
     // One message for a drawing, and the drawing stands.
     if (!Fehler.empty()) melde(z_, Texte::Laufzeitfehler, Fehler);
 }
 
 int& Diagrammsteuerung::Platz_vorne() {
-    const auto m = static_cast<std::size_t>(z_.Felder().Berechnungsmodus);
+    const Stoffschema m = z_.Felder().Berechnungsmodus;
     return z_.Zusammenfassung_aktiv ? vorne_Zusammenfassung_[m] : vorne_[m];
 }
 
@@ -40,20 +40,20 @@ int Diagrammsteuerung::vorne() const { return const_cast<Diagrammsteuerung*>(thi
 
 const Diagramm* Diagrammsteuerung::vorderes() const {
     const auto Treffer = std::find_if(Diagramme_.begin(), Diagramme_.end(), [&](const Diagramm& d) {
-        return d.Satz == vorne() && d.Zusammenfassung == z_.Zusammenfassung_aktiv;
+        return d.Nummer == vorne() && d.Zusammenfassung == z_.Zusammenfassung_aktiv;
     });
     return Treffer == Diagramme_.end() ? nullptr : &*Treffer;
 }
 
 void Diagrammsteuerung::bringe_nach_vorn(int i_substanz) {
-    const int m = z_.Felder().Berechnungsmodus;
-    const int Satz = z_.Zusammenfassung_aktiv ? Zusammenfassungssatz_von(m, i_substanz) : Diagrammsatz_von(m, i_substanz);
-    if (Satz != kein_Satz) Platz_vorne() = Satz;
+    const Stoffschema m = z_.Felder().Berechnungsmodus;
+    const int Nummer = z_.Zusammenfassung_aktiv ? Zusammenfassungssatz_von(m, i_substanz) : Diagrammsatz_von(m, i_substanz);
+    if (Nummer != kein_Diagramm) Platz_vorne() = Nummer;
 }
 
 void Diagrammsteuerung::schalte_weiter() {
     const auto i = static_cast<std::size_t>(vorne());
-    Platz_vorne() = z_.Zusammenfassung_aktiv ? Zusammenfassungsring[i].Satz : Diagrammring[i].Satz;
+    Platz_vorne() = z_.Zusammenfassung_aktiv ? Zusammenfassungsring[i].Nummer : Diagrammring[i].Nummer;
 }
 
 bool Diagrammsteuerung::skaliere(const std::string& Start, const std::string& Ende) {
@@ -72,8 +72,8 @@ double Diagrammsteuerung::X_Ende() const {
     return z_.Zusammenfassung_aktiv ? Bereiche_.X_Ende_Zusammenfassung[i] : Bereiche_.X_Ende[i];
 }
 
-void Diagrammsteuerung::merke_Legende(bool Zusammenfassung, int Satz, const std::optional<Flaechenort>& Ort) {
-    const auto i = static_cast<std::size_t>(Satz);
+void Diagrammsteuerung::merke_Legende(bool Zusammenfassung, int Diagrammsatz, const std::optional<Flaechenort>& Ort) {
+    const auto i = static_cast<std::size_t>(Diagrammsatz);
     (Zusammenfassung ? Legenden_Zusammenfassung_.at(i) : Legenden_.at(i)) = Ort;
 }
 

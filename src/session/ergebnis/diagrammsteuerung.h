@@ -22,9 +22,9 @@ public:
     // A view was chosen, by click or with an application pattern.
     void setze_Bereiche_nach_Ansicht();
 
-    // Draws all diagrams of the scheme, or all summary diagrams, from the stores, and writes their files; after a run
-    // also what it leaves for diagnosis.
-    void zeichne(bool nach_Lauf);
+    // Draws all diagrams of the scheme, or all summary diagrams, from the results, and writes their files. `gelaufen`: what
+    // the last run has just left, for diagnosis; null for a redraw.
+    void zeichne(const Ergebnis* gelaufen);
 
     // In the order of the scheme: its compounds, then the multi-compound diagram.
     const std::vector<Diagramm>& Diagramme() const { return Diagramme_; }
@@ -42,7 +42,7 @@ public:
     double X_Ende() const;
 
     // Where the user has dragged the legend of a diagram to, in fractions of its surface; none is at home.
-    void merke_Legende(bool Zusammenfassung, int Satz, const std::optional<Flaechenort>& Ort);
+    void merke_Legende(bool Zusammenfassung, int Diagrammsatz, const std::optional<Flaechenort>& Ort);
     // That of the diagram in front.
     const std::optional<Flaechenort>& Legende() const;
 

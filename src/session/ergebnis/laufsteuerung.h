@@ -1,5 +1,9 @@
 #pragma once
 
+#include <memory>
+#include <string>
+#include <vector>
+
 #include "session/ergebnis/diagrammsteuerung.h"
 #include "session/kern/zustand.h"
 
@@ -23,24 +27,32 @@ public:
     // The same for every study of the list, whatever the view.
     bool berechne_alle_Studien();
 
+    // The net dose of a single or regular pattern has changed and nothing else: gives the results on display the new one without
+    // a run. Those of other studies are then of another input. False, with nothing changed, where the results are not valid or
+    // would not be a run's to the bit.
+    bool skaliere();
+
     // A view selector has changed: the results are drawn anew and uncovered if all that is shown is valid.
-    void zeichne_neu() { zeichne(false); }
+    void zeichne_neu() { zeichne(nullptr); }
 
     bool alles_Gezeigte_gueltig() const;
     // Whether each of the three selectors names a record that was read.
     bool Saetze_vollstaendig() const;
 
 private:
-    bool fuehre_aus(int erste, int letzte, bool vom_Benutzer);
+    bool fuehre_aus(const std::vector<int>& Studien, bool vom_Benutzer);
+    std::vector<int> gezeigte_Studien() const;
     bool rechne_Studie(int i_studie);
-    void sammle_Warnungen();
+    bool ende_ohne_Ergebnis(const Laufergebnis& Ausgang);
+    void sammle_Warnungen(const Ergebnis& e);
     void zeige_Warnungen();
     void melde_fehlenden_Satz();
-    void beende_mit_Erfolg(bool gelaufen);
-    void zeichne(bool nach_Lauf);
+    void beende_mit_Erfolg(const Ergebnis* gelaufen);
+    void zeichne(const Ergebnis* gelaufen);
 
     Zustand& z_;
     Diagrammsteuerung& Diagramme_;
+    std::unique_ptr<Lauf> Arbeitsplatz_ = std::make_unique<Lauf>();  // nothing on the screen reads it
     std::vector<std::string> Warnungen_;
 };
 

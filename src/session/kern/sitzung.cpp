@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "run/kalender.h"
+#include "session/ergebnis/ergebnisanzeige.h"
 #include "session/kern/texte.h"
 #include "session/programm/programmende.h"
 #include "session/programm/startablauf.h"
@@ -41,7 +42,7 @@ void Sitzung::befolge(Handlung h, bool mit_Lauf) {
     if (Feld_offen && !mit_Lauf && z_.veraltet && !z_.abgedeckt && !z_.beendet) tue([&] { Laeufe_.berechne(); });
 }
 
-bool Sitzung::starte() {
+bool Sitzung::oeffne_Projekt() {
     bool weiter = false;
     tue([&] { weiter = starte_Programm(z_, Saetze_); });
     return weiter && !z_.beendet;
@@ -51,16 +52,10 @@ int Sitzung::Tage_der_Liste() const { return Tage_im_Monat(z_.Felder().App_Monat
 
 int Sitzung::Intervalle_der_Liste() const { return laengstes_Intervall(z_.Felder().Anzahl()); }
 
-Tabellentext Sitzung::Ergebnisse(int i_substanz) const {
-    Tabellentext Tabelle = Tabellenkopf(z_.Rechnung, z_.Welt.Dezimalzeichen);
-    erstelle_Ergebnistabelle(z_.Rechnung, z_.i_studie(), i_substanz, Tabelle);
-    return Tabelle;
-}
+Tabellentext Sitzung::Ergebnisse(int i_substanz) const { return varnok::Ergebnisse_einer_Studie(z_, i_substanz); }
 
 Tabellentext Sitzung::Ergebnisse_Zusammenfassung(int i_substanz) const {
-    Tabellentext Tabelle = Tabellenkopf(z_.Rechnung, z_.Welt.Dezimalzeichen);
-    erstelle_Ergebnistabelle_Zusammenfassung(z_.Rechnung, i_substanz, Tabelle);
-    return Tabelle;
+    return varnok::Ergebnisse_aller_Studien(z_, i_substanz);
 }
 
 void Sitzung::betrete_Feld(int Feld) { Felder_.betrete(Feld); }
@@ -164,8 +159,8 @@ void Sitzung::schliesse_Skalierung() {
         false);
 }
 
-void Sitzung::merke_Legende(bool Zusammenfassung, int Satz, const std::optional<Flaechenort>& Ort) {
-    Diagramme_.merke_Legende(Zusammenfassung, Satz, Ort);
+void Sitzung::merke_Legende(bool Zusammenfassung, int Diagrammsatz, const std::optional<Flaechenort>& Ort) {
+    Diagramme_.merke_Legende(Zusammenfassung, Diagrammsatz, Ort);
 }
 
 void Sitzung::erstelle_Bericht() {
@@ -229,14 +224,14 @@ void Sitzung::nimm_Beschreibung_zurueck() {
 void Sitzung::waehle_Substanz(int c) {
     befolge([&] { Listen_.waehle_Substanz(c); });
 }
-void Sitzung::waehle_Kinetik(int c, int Code) {
-    befolge([&] { Listen_.waehle_Kinetik(c, Code); }, false);
+void Sitzung::waehle_Kinetik(int c, Kinetikart k) {
+    befolge([&] { Listen_.waehle_Kinetik(c, k); }, false);
 }
 void Sitzung::waehle_Studie(int i) {
     befolge([&] { Listen_.waehle_Studie(i); });
 }
 void Sitzung::waehle_Berechnungsmodus(int m) {
-    befolge([&] { Listen_.waehle_Berechnungsmodus(m); }, false);
+    befolge([&] { Listen_.waehle_Berechnungsmodus(static_cast<Stoffschema>(m)); }, false);
 }
 bool Sitzung::oeffne_Szenarioeditor() {
     bool offen = false;
@@ -280,7 +275,7 @@ void Sitzung::verlasse_Namen() {
 }
 
 void Sitzung::waehle_Muster(int m) {
-    befolge([&] { Listen_.waehle_Muster(m); }, false);
+    befolge([&] { Listen_.waehle_Muster(static_cast<Applikationsart>(m)); }, false);
 }
 void Sitzung::waehle_Monat(int i) {
     befolge([&] { Listen_.waehle_Monat(i); }, false);
@@ -296,13 +291,13 @@ void Sitzung::waehle_Anzahl(int i) {
 }
 
 void Sitzung::waehle_Endpunkt(int e) {
-    befolge([&] { Listen_.waehle_Endpunkt(e); });
+    befolge([&] { Listen_.waehle_Endpunkt(static_cast<Endpunktart>(e)); });
 }
 void Sitzung::waehle_PEC_Typ(int a) {
-    befolge([&] { Listen_.waehle_PEC_Typ(a); });
+    befolge([&] { Listen_.waehle_PEC_Typ(static_cast<PEC_Ansicht>(a)); });
 }
 void Sitzung::waehle_Fruchtwechsel(int r) {
-    befolge([&] { Listen_.waehle_Fruchtwechsel(r); });
+    befolge([&] { Listen_.waehle_Fruchtwechsel(static_cast<Fruchtfolge>(r)); });
 }
 void Sitzung::waehle_TWA_Laenge(int j) {
     befolge([&] { Listen_.waehle_TWA_Laenge(j); });

@@ -31,7 +31,7 @@ public:
     explicit Sitzung(Umgebung Welt);
 
     // Reads settings, project and the simulation used last. False if the program ends at once.
-    bool starte();
+    bool oeffne_Projekt();
 
     const Zustand& Stand() const { return z_; }
     const std::string& Feldtext(int Feld) const { return Felder_.Text(Feld); }
@@ -39,7 +39,7 @@ public:
     // Lists whose length depends on the input.
     int Tage_der_Liste() const;
     int Intervalle_der_Liste() const;
-    std::vector<std::string> TWA_Liste() const { return TWA_Eintraege(z_.Rechnung, z_.Welt.Dezimalzeichen); }
+    std::vector<std::string> TWA_Liste() const { return TWA_Eintraege(z_.Parameter(), z_.Welt.Dezimalzeichen); }
     // Result grid of a compound for the selected study; the summary grid over all studies.
     Tabellentext Ergebnisse(int i_substanz) const;
     Tabellentext Ergebnisse_Zusammenfassung(int i_substanz) const;
@@ -51,8 +51,8 @@ public:
     bool darf_Zusammenfassung() const { return z_.Gestartet && z_.Studienzahl() > 1; }
     bool darf_Studie_addieren() const { return z_.Gestartet && Studien_.darf_addieren(); }
     bool darf_Studie_loeschen() const { return z_.Gestartet && Studien_.darf_loeschen(); }
-    bool darf_loeschen(Satzart Art) const { return z_.Listen[Art].size() > 1 && z_.Auswahl[Art] >= 0; }
-    bool darf_kopieren(Satzart Art) const { return z_.Auswahl[Art] >= 0; }
+    bool darf_loeschen(Satzart Art) const { return z_.Listen[Art].size() > 1 && z_.Auswahl(Art) >= 0; }
+    bool darf_kopieren(Satzart Art) const { return z_.Auswahl(Art) >= 0; }
 
     // Numeric fields. `bestaetige_Feld` and `verlasse_Feld` give false where the field keeps the focus.
     void betrete_Feld(int Feld);
@@ -83,7 +83,7 @@ public:
     void schliesse_Skalierung();
 
     // The legend of a diagram was dragged to a place of its surface, or called home.
-    void merke_Legende(bool Zusammenfassung, int Satz, const std::optional<Flaechenort>& Ort);
+    void merke_Legende(bool Zusammenfassung, int Diagrammsatz, const std::optional<Flaechenort>& Ort);
 
     // Report: made, written, shown until it is closed.
     void erstelle_Bericht();
@@ -114,7 +114,7 @@ public:
 
     // Compound data, application pattern, results: see `Listenwahl`.
     void waehle_Substanz(int c);
-    void waehle_Kinetik(int c, int Code);
+    void waehle_Kinetik(int c, Kinetikart k);
     void waehle_Studie(int i);
     void waehle_Berechnungsmodus(int m);
 

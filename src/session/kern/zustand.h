@@ -10,12 +10,12 @@
 #include <vector>
 
 #include "base/schnittstellen.h"
+#include "exposure/darstellung.h"
 #include "extras/aktualisierung.h"
 #include "records/einstellungen.h"
 #include "records/klimadatei.h"
 #include "records/projektordner.h"
 #include "records/projektsperre.h"
-#include "run/lauf.h"
 
 namespace varnok {
 
@@ -35,23 +35,27 @@ struct Zelle {
     int Spalte = 0;
 };
 
-// Entries and positions of the selectors: simulation, compound, application pattern, scenario.
+// The selectors: simulation, compound, application pattern, scenario. What is selected is a name, and this is the one place
+// where it is kept; a record whose file is missing keeps it.
 struct Satzlisten {
     std::array<std::vector<std::string>, 4> Listen;
-    std::array<int, 4> Auswahl = {-1, -1, -1, -1};
+    std::array<std::string, 4> Namen;  // empty without a selection
 
-    // The entry selected, empty without one.
-    std::string gewaehlt(std::size_t Art) const {
-        return Auswahl[Art] < 0 ? std::string() : Listen[Art][static_cast<std::size_t>(Auswahl[Art])];
+    // Place of the selected name in the list, -1 where the list does not have it.
+    int Auswahl(std::size_t Art) const {
+        const auto Treffer = std::find(Listen[Art].begin(), Listen[Art].end(), Namen[Art]);
+        return Treffer == Listen[Art].end() ? -1 : static_cast<int>(Treffer - Listen[Art].begin());
     }
-    // Selects the entry of that name; none where the list does not have it.
-    void waehle(std::size_t Art, const std::string& Name) {
-        const auto Treffer = std::find(Listen[Art].begin(), Listen[Art].end(), Name);
-        Auswahl[Art] = Treffer == Listen[Art].end() ? -1 : static_cast<int>(Treffer - Listen[Art].begin());
+    // The entry selected, empty without one.
+    std::string gewaehlt(std::size_t Art) const { return Auswahl(Art) < 0 ? std::string() : Namen[Art]; }
+    // Selects the entry at a place of the list; none for -1.
+    void waehle_Platz(std::size_t Art, int Position) {
+        Namen[Art] = Position < 0 ? std::string() : Listen[Art].at(static_cast<std::size_t>(Position));
     }
 };
 
-// A file as this program last read or wrote it.
+// The file that the values on the screen come from, as this program last read or wrote it. Not what is selected: after a
+// deletion or a choice the selector names the next record while the values are still those of this one.
 struct Dateistand {
     std::string Name;
     std::string Bytes;
@@ -65,7 +69,9 @@ struct Zustand : Satzlisten {
     std::shared_ptr<Projektsperre> Sperre;        // on that folder, for the time of the session
     std::optional<Projektordner> Ausgabeprojekt;  // the present project path, for all output
 
-    Lauf Rechnung;
+    Eingabe Vorgabe;   // all inputs on the screen
+    Ansicht Sicht;     // what the user has chosen to look at
+    Ergebnisse Werte;  // of the studies, each with the input that it comes from
 
     // A record that the selector names but that could not be read or was not read yet.
     std::array<bool, 4> nicht_gelesen{};
@@ -92,12 +98,14 @@ struct Zustand : Satzlisten {
     bool Aktualisierung_laeuft = false;
     bool beendet = false;  // the program ends as soon as the action in work is over
 
-    Eingabe& Felder() { return Rechnung.Felder; }
-    const Eingabe& Felder() const { return Rechnung.Felder; }
-    Laufparameter& Parameter() { return Rechnung.Parameter; }
-    const Laufparameter& Parameter() const { return Rechnung.Parameter; }
-    int i_studie() const { return Rechnung.Felder.Studie_Index; }
-    int Studienzahl() const { return static_cast<int>(Rechnung.Felder.Studie.size()); }
+    Eingabe& Felder() { return Vorgabe; }
+    const Eingabe& Felder() const { return Vorgabe; }
+    Laufparameter& Parameter() { return Vorgabe.Parameter; }
+    const Laufparameter& Parameter() const { return Vorgabe.Parameter; }
+    int i_studie() const { return Sicht.Studie_Index; }
+    int Studienzahl() const { return Vorgabe.Studienzahl(); }
+    // What tables, diagrams and reports show.
+    Darstellung zeige() const { return {Werte, Sicht, Vorgabe}; }
 };
 
 // A message of the program with one button.

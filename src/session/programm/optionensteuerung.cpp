@@ -96,7 +96,7 @@ void Optionensteuerung::merke_Aenderungen(const Optionsentwurf& Neue) {
     const bool neue_Rechnung =
         neue_Liste || Neue.Einheit != vorher_.Einheit || Neue.Separate_Rueckstaende != vorher_.Separate_Rueckstaende;
     if (neue_Rechnung || Neue.Ausgabename_Teile != vorher_.Ausgabename_Teile) z_.Geaendert[Wirkstoff] = true;
-    if (neue_Liste) TWA_Listbox_initialisieren(z_.Rechnung);
+    if (neue_Liste) z_.Sicht.TWA_Laenge = TWA_Vorauswahl(z_.Parameter().TWA_Zeiten);
     if (neue_Rechnung) Laeufe_.markiere_veraltet();
 }
 

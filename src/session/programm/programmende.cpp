@@ -11,6 +11,7 @@ std::string Einstellungspfad(const Zustand& z) { return z.Welt.Programmpfad + "/
 void Einstellungen_schreiben(const Zustand& z) {
     Einstellungen e = z.Einstellung;
     e.Projektpfad = z.Projektpfad;
+    e.TWA = z.Parameter().TWA;
     schreibe_Datei(Einstellungspfad(z), Einstellungen_als_Bytes(e));
 }
 

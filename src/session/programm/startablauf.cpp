@@ -24,12 +24,11 @@ void lade_Einstellungen(Zustand& z) {
     const auto gelesen = lies_Einstellungen(z);
     z.Einstellung = gelesen.value_or(Einstellungen{});
     z.Projektpfad = z.Einstellung.Projektpfad.empty() ? z.Welt.Programmpfad : z.Einstellung.Projektpfad;
-    z.Parameter().TWA_Liste_EU = z.Einstellung.TWA_Liste_EU;
-    z.Parameter().TWA_Liste_Monat = z.Einstellung.TWA_Liste_Monat;
+    z.Parameter().TWA = z.Einstellung.TWA;
     if (!gelesen) Einstellungen_schreiben(z);
 }
 
-void oeffne_Projekt(Zustand& z) {
+void oeffne_Ordner(Zustand& z) {
     try {
         z.Ordner.emplace(z.Projektpfad);
     } catch (const Laufzeitfehler&) {
@@ -56,13 +55,13 @@ bool lade_neueste(Zustand& z, Satzverwaltung& Saetze) {
 }  // namespace
 
 bool starte_Programm(Zustand& z, Satzverwaltung& Saetze) {
-    z.Felder().Aktuelle_Dateinamen[0] = Startsimulation;
+    z.Namen[Simulation] = Startsimulation;
     lade_Einstellungen(z);
-    oeffne_Projekt(z);
+    oeffne_Ordner(z);
     z.Sperre = std::make_shared<Projektsperre>(*z.Ordner);
     if (z.Sperre->von_anderem_gehalten()) melde(z, Texte::Ordner_in_Gebrauch, Texte::zweites_Fenster);
     Saetze.fuelle_Listen();
-    TWA_Listbox_initialisieren(z.Rechnung);
+    z.Sicht.TWA_Laenge = TWA_Vorauswahl(z.Parameter().TWA_Zeiten);
     return lade_neueste(z, Saetze) && !z.beendet;
 }
 

@@ -38,21 +38,16 @@ bool Eingabedateien::darf_loeschen(const std::string& Ordner) const {
 }
 
 void Eingabedateien::zeige_als_Simulation(const std::string& Name) {
-    z_.waehle(Simulation, Name);
-    if (z_.Auswahl[Simulation] < 0) {
-        z_.Listen[Simulation].push_back(Name);
-        z_.waehle(Simulation, Name);
-    }
-    z_.Felder().Aktuelle_Dateinamen[Simulation] = Name;
+    z_.Namen[Simulation] = Name;
+    if (z_.Auswahl(Simulation) < 0) z_.Listen[Simulation].push_back(Name);
 }
 
 void Eingabedateien::lade(const std::string& Dateiname) {
     const std::string Name = Dateiname.substr(0, Dateiname.size() - std::min<std::size_t>(Dateiname.size(), 4));
     pruefe_Namen(Name);
-    const std::string Satz = z_.Felder().Aktuelle_Dateinamen[Wirkstoff];
+    const std::string Satz = z_.Namen[Wirkstoff];
     if (z_.Geaendert[Wirkstoff]) {
-        sichere(z_,
-                {{Satz + Endungen[Wirkstoff], Satz_als_Bytes(Wirkstoff, z_.Parameter(), z_.Felder(), z_.Welt.Dezimalzeichen)}});
+        sichere(z_, {{Satz + Endungen[Wirkstoff], Satz_als_Bytes(Wirkstoff, z_.Vorgabe, z_.Sicht, z_.Welt.Dezimalzeichen)}});
     }
     zeige_als_Simulation(Name);
     if (Saetze_.lies_Satz(Wirkstoff, Satz)) decke_ab(z_, Texte::Eingabe_geaendert);
@@ -64,17 +59,16 @@ bool Eingabedateien::speichere(const std::string& Dateiname) {
     const std::string Name = mit_Endung ? Dateiname.substr(0, Dateiname.size() - Endung.size()) : Dateiname;
     pruefe_Namen(Name);
     if (!Saetze_.pruefe_Auswahl({Knopf::OK, Knopf::Abbrechen})) return false;
-    const auto& Namen = z_.Felder().Aktuelle_Dateinamen;
     // Three lines, no description: read as four, the file is misread, and that is why this dialog stays out of use.
     std::string Bytes;
-    for (std::size_t Art = 1; Art <= 3; ++Art) Bytes += als_Satztext(Namen[Art], Satzart_Namen[Art]) + "\r\n";
+    for (std::size_t Art = 1; Art <= 3; ++Art) Bytes += als_Satztext(z_.Namen[Art], Satzart_Namen[Art]) + "\r\n";
     if (const auto alte = z_.Ordner->finde(Name, Endung)) sichere(z_, {{Name + Endung, lies_Datei(*alte)}});
     schreibe_Datei(z_.Ordner->Zielpfad(Name, Endung), Bytes);
     zeige_als_Simulation(Name);
     z_.Simulation_markiert = false;
     for (std::size_t Art = 1; Art <= 3; ++Art) {
         if (z_.nicht_gelesen[Art]) continue;
-        Satz_schreiben(*z_.Ordner, Namen[Art], static_cast<Satzart>(Art), z_.Parameter(), z_.Felder(), z_.Welt.Dezimalzeichen);
+        Satz_schreiben(*z_.Ordner, z_.Namen[Art], static_cast<Satzart>(Art), z_.Vorgabe, z_.Sicht, z_.Welt.Dezimalzeichen);
         z_.Geaendert[Art] = false;
     }
     return true;

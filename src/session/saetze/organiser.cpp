@@ -31,14 +31,12 @@ public:
         : Listen_(z),
           nicht_gelesen_(z.nicht_gelesen),
           Datei_(z.Dateistaende[Simulation]),
-          Namen_(z.Felder().Aktuelle_Dateinamen),
           Beschreibung_(z.Felder().Beschreibung) {}
 
     void stelle_her(Zustand& z) const {
         static_cast<Satzlisten&>(z) = Listen_;
         z.nicht_gelesen = nicht_gelesen_;
         z.Dateistaende[Simulation] = Datei_;
-        z.Felder().Aktuelle_Dateinamen = Namen_;
         z.Felder().Beschreibung = Beschreibung_;
     }
 
@@ -46,7 +44,6 @@ private:
     Satzlisten Listen_;
     std::array<bool, 4> nicht_gelesen_;
     Dateistand Datei_;
-    std::array<std::string, 4> Namen_;
     std::string Beschreibung_;
 };
 
@@ -56,13 +53,15 @@ void Organiser::oeffne() {
     gewaehlt_ = umbenannt_ = Szenario_bearbeitet_ = Lauf_ = false;
     z_.Beschreibung_offen = false;
     Projektname_ = alter_Projektname_ = alte_Beschreibung_ = z_.Felder().Beschreibung;
-    for (const Satzart Art : {Szenario, Applikation, Wirkstoff, Simulation}) Befehle_.lies_Liste(Art, z_.gewaehlt(Art));
+    Listen_.Namen = z_.Namen;
+    for (const Satzart Art : alle_Arten) Befehle_.lies_Liste(Art);
     // The description on the screen may not be saved yet, but it belongs to the simulation on the screen alone.
-    const bool dieselbe = Listen_.Auswahl[Simulation] >= 0 && !z_.nicht_gelesen[Simulation];
-    if (Listen_.Auswahl[Simulation] < 0) Listen_.Auswahl[Simulation] = static_cast<int>(Listen_.Listen[Simulation].size()) - 1;
+    const bool dieselbe = Listen_.Auswahl(Simulation) >= 0 && !z_.nicht_gelesen[Simulation];
+    if (Listen_.Auswahl(Simulation) < 0)
+        Listen_.waehle_Platz(Simulation, static_cast<int>(Listen_.Listen[Simulation].size()) - 1);
     gelesen_ = Dateibytes(z_, Listen_.gewaehlt(Simulation));
-    if (Listen_.Auswahl[Simulation] < 0) return;
-    lies_Simulation_in_Maske(Listen_.Auswahl[Simulation], !dieselbe);
+    if (Listen_.Auswahl(Simulation) < 0) return;
+    lies_Simulation_in_Maske(Listen_.Auswahl(Simulation), !dieselbe);
     alter_Projektname_ = Projektname_;
 }
 
@@ -71,8 +70,8 @@ void Organiser::lies_Simulation_in_Maske(int Position, bool mit_Beschreibung) {
     const std::string Name = Listen_.Listen[Simulation].at(static_cast<std::size_t>(Position));
     const Simulationssatz Satz = lies_Simulation(*z_.Ordner, Name);
     gelesen_ = Dateibytes(z_, Name);
-    Listen_.Auswahl[Simulation] = Position;
-    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) Listen_.waehle(Art, Satz.Dateinamen[Art]);
+    Listen_.Namen = Satz.Dateinamen;
+    Listen_.Namen[Simulation] = Name;
     if (mit_Beschreibung) Projektname_ = Satz.Beschreibung;
 }
 
@@ -83,7 +82,7 @@ void Organiser::waehle_Simulation(int Position) {
 }
 
 void Organiser::waehle_Satz(Satzart Art, int Position) {
-    Listen_.Auswahl[Art] = Position;
+    Listen_.waehle_Platz(Art, Position);
     gewaehlt_ = true;
 }
 
@@ -96,12 +95,12 @@ void Organiser::aendere_Projektname(const std::string& Text) {
 // What a command has selected acts as if the user had chosen it.
 void Organiser::waehle_mit_Inhalt(Satzart Art) {
     gewaehlt_ = true;
-    if (Art != Simulation || Listen_.Auswahl[Simulation] < 0) return;
+    if (Art != Simulation || Listen_.Auswahl(Simulation) < 0) return;
     // Nothing of the simulation selected before may be written over this one if it cannot be read.
     Projektname_.clear();
     gelesen_ = Dateibytes(z_, Listen_.gewaehlt(Simulation));
-    for (const Satzart t : {Wirkstoff, Applikation, Szenario}) Listen_.Auswahl[t] = -1;
-    waehle_Simulation(Listen_.Auswahl[Simulation]);
+    for (const Satzart t : {Wirkstoff, Applikation, Szenario}) Listen_.Namen[t].clear();
+    waehle_Simulation(Listen_.Auswahl(Simulation));
 }
 
 void Organiser::kopiere(Satzart Art) {
@@ -139,14 +138,13 @@ bool Organiser::benenne_um(Satzart Art, const std::string& Text, bool mit_Frage)
 void Organiser::ziehe_Hauptformular_nach(Satzart Art, const std::string& alt, const std::string& neu) {
     const std::string gezeigt = z_.gewaehlt(Art);
     const bool umbenannt = !neu.empty() && gezeigt == alt;
-    const std::string jetzt = umbenannt ? neu : gezeigt;
+    if (umbenannt) z_.Namen[Art] = neu;
     const std::vector<std::string> vorher = std::exchange(z_.Listen[Art], {});
     for (const std::string& Name : Listen_.Listen[Art]) {
         if (enthaelt(vorher, Name) || (Name == neu && enthaelt(vorher, alt))) z_.Listen[Art].push_back(Name);
     }
-    z_.waehle(Art, jetzt);
-    z_.Felder().Aktuelle_Dateinamen[Art] = z_.gewaehlt(Art);
-    if (!gezeigt.empty() && z_.Auswahl[Art] < 0) entwerte_im_Hauptformular(Art);
+    // Gone, or another file under the name of one that was missing.
+    if (gezeigt.empty() != (z_.Auswahl(Art) < 0)) entwerte_im_Hauptformular(Art);
     if (!umbenannt) return;
     Waechter_.merke_Namen(Art, neu);
     if (z_.Gestartet) z_.Geaendert[0] = z_.Simulation_markiert = true;
@@ -174,9 +172,7 @@ std::string Organiser::Einwand_gegen_Bearbeiten() const {
     return "The scenario \"" + Name + "\" is not loaded: leave with \"Done\", then it can be edited on the main screen.";
 }
 
-std::string Organiser::Szenariowerte() const {
-    return Satz_als_Bytes(Szenario, z_.Parameter(), z_.Felder(), z_.Welt.Dezimalzeichen);
-}
+std::string Organiser::Szenariowerte() const { return Satz_als_Bytes(Szenario, z_.Vorgabe, z_.Sicht, z_.Welt.Dezimalzeichen); }
 
 void Organiser::beginne_Bearbeiten() { Szenario_vorher_ = Szenariowerte(); }
 
@@ -186,7 +182,8 @@ void Organiser::beende_Bearbeiten() {
     const bool anderer_Name = Name != Listen_.gewaehlt(Szenario);
     Szenario_bearbeitet_ = Szenario_bearbeitet_ || anderer_Name || Szenariowerte() != Szenario_vorher_;
     umbenannt_ = umbenannt_ || anderer_Name;
-    Befehle_.lies_Liste(Szenario, Name);
+    Listen_.Namen[Szenario] = Name;
+    Befehle_.lies_Liste(Szenario);
 }
 
 // Other names than those on the screen, over the values there, would be wrong in all that follows.
@@ -199,7 +196,7 @@ bool Organiser::ist_Lauf_faellig() const {
 bool Organiser::ist_vollstaendig() const {
     for (const Satzart Art : {Wirkstoff, Applikation, Szenario, Simulation}) {
         // A folder without any simulation must not hold the user here.
-        if (Listen_.Auswahl[Art] >= 0 || (Art == Simulation && Listen_.Listen[Art].empty())) continue;
+        if (Listen_.Auswahl(Art) >= 0 || (Art == Simulation && Listen_.Listen[Art].empty())) continue;
         const std::string Text = Art == Simulation ? Texte::Simulation_waehlen : Texte::Satz_waehlen[Art];
         z_.Welt.Fragen->frage({Texte::Satz_nicht_gewaehlt, Text, Symbol::Ausrufezeichen, {Knopf::OK, Knopf::Abbrechen}});
         return false;
@@ -212,7 +209,7 @@ void Organiser::pruefe_Dateien() {
     for (const Satzart Art : alle_Arten) {
         const std::string Name = Listen_.gewaehlt(Art);
         if (Name.empty() || z_.Ordner->finde(Name, Endungen[Art])) continue;
-        Befehle_.lies_Liste(Art, {});
+        Befehle_.lies_Liste(Art);
         ziehe_Hauptformular_nach(Art);
         throw Laufzeitfehler("File " + Name + Endungen[Art] + " is missing in the folder \"" + z_.Ordner->Eingabeordner() + "\"");
     }
@@ -242,10 +239,7 @@ bool Organiser::uebernimm() {
     return true;
 }
 
-void Organiser::gib_Listen_weiter() {
-    static_cast<Satzlisten&>(z_) = Listen_;
-    for (const Satzart Art : alle_Arten) z_.Felder().Aktuelle_Dateinamen[Art] = Listen_.gewaehlt(Art);
-}
+void Organiser::gib_Listen_weiter() { static_cast<Satzlisten&>(z_) = Listen_; }
 
 // Hands lists and description over and writes the summary file. Where that is refused or fails, the main screen has again what
 // it had.
@@ -255,7 +249,7 @@ bool Organiser::uebergib() {
     z_.Felder().Beschreibung = Projektname_;
     z_.Dateistaende[Simulation] = {z_.gewaehlt(Simulation), gelesen_};
     z_.nicht_gelesen[Simulation] = false;
-    if (z_.Auswahl[Simulation] < 0) return true;  // the folder has no simulation
+    if (z_.Auswahl(Simulation) < 0) return true;  // the folder has no simulation
     bool geschrieben = false;
     try {
         geschrieben = Waechter_.schreibe({Simulation});

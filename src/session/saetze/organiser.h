@@ -22,7 +22,7 @@ public:
 
     const Satzlisten& Listen() const { return Listen_; }
     const std::string& Projektname() const { return Projektname_; }
-    bool darf_kopieren(Satzart Art) const { return Listen_.Auswahl[Art] >= 0; }
+    bool darf_kopieren(Satzart Art) const { return Listen_.Auswahl(Art) >= 0; }
     bool darf_loeschen(Satzart Art) const { return darf_kopieren(Art) && Listen_.Listen[Art].size() > 1; }
     // Empty where the scenario editor can be opened, else why not: it shows the scenario that is loaded and no other.
     std::string Einwand_gegen_Bearbeiten() const;

@@ -39,17 +39,14 @@ std::string Eintrag_von(const std::string& Pfad, const std::string& Endung) {
 
 }  // namespace
 
-void Satzbefehle::lies_Liste(Satzart Art, const std::string& Auswahl) {
-    Listen_.Listen[Art] = z_.Ordner->Namen(Endungen[Art]);
-    Listen_.waehle(Art, Auswahl);
-}
+void Satzbefehle::lies_Liste(Satzart Art) { Listen_.Listen[Art] = z_.Ordner->Namen(Endungen[Art]); }
 
 std::string Satzbefehle::Pfad_des_gewaehlten(Satzart Art) {
     const std::string Name = Listen_.gewaehlt(Art);
-    if (Listen_.Auswahl[Art] < 0) throw Laufzeitfehler(Texte::kein_Eintrag);
+    if (Listen_.Auswahl(Art) < 0) throw Laufzeitfehler(Texte::kein_Eintrag);
     const auto Pfad = z_.Ordner->finde(Name, Endungen[Art]);
     if (Pfad) return *Pfad;
-    lies_Liste(Art, Name);
+    lies_Liste(Art);
     throw Laufzeitfehler("File " + Name + Endungen[Art] + " is missing in the folder \"" + z_.Ordner->Eingabeordner() + "\"");
 }
 
@@ -78,7 +75,8 @@ std::string Satzbefehle::lege_an(Satzart Art) {
     while (z_.Ordner->finde(Grundnamen[Art] + std::to_string(n), Endungen[Art])) ++n;
     const std::string Name = Grundnamen[Art] + std::to_string(n);
     kopiere_Datei(Muster, z_.Ordner->Zielpfad(Name, Endungen[Art]));
-    lies_Liste(Art, Name);
+    Listen_.Namen[Art] = Name;
+    lies_Liste(Art);
     return Name;
 }
 
@@ -94,7 +92,8 @@ bool Satzbefehle::kopiere(Satzart Art) {
     }
     const std::string Ziel = z_.Ordner->Zielpfad(neu, Endungen[Art]);
     kopiere_Datei(Quelle, Ziel);
-    lies_Liste(Art, Eintrag_von(Ziel, Endungen[Art]));  // a file replaced may differ in case, and keeps its entry
+    Listen_.Namen[Art] = Eintrag_von(Ziel, Endungen[Art]);  // a file replaced may differ in case, and keeps its entry
+    lies_Liste(Art);
     return true;
 }
 
@@ -102,16 +101,16 @@ bool Satzbefehle::loesche(Satzart Art, std::vector<Sicherungsstueck> dazu) {
     const Frage f{"Delete record", "Do you really want to delete this record?", Symbol::Frage, {Knopf::Ja, Knopf::Nein}};
     const std::string Pfad = Pfad_des_gewaehlten(Art);
     const std::string Name = Listen_.gewaehlt(Art);
-    lies_Liste(Art, Name);  // the last one counts in the folder, whatever the list has shown
+    lies_Liste(Art);  // the last one counts in the folder, whatever the list has shown
     const bool letzte = Listen_.Listen[Art].size() < 2;
     if (letzte) throw Laufzeitfehler("\"" + Name + Endungen[Art] + "\" is the last of its kind and stays.");
     if (z_.Welt.Fragen->frage(f) != Knopf::Ja) return false;
-    const int Platz = Listen_.Auswahl[Art];
+    const int Platz = Listen_.Auswahl(Art);
     dazu.insert(dazu.begin(), {Name + Endungen[Art], lies_Datei(Pfad)});
     sichere(z_, dazu);
     loesche_Datei(Pfad);
-    lies_Liste(Art, {});
-    Listen_.Auswahl[Art] = std::min(Platz, static_cast<int>(Listen_.Listen[Art].size()) - 1);
+    lies_Liste(Art);
+    Listen_.waehle_Platz(Art, std::min(Platz, static_cast<int>(Listen_.Listen[Art].size()) - 1));
     return true;
 }
 
@@ -133,7 +132,8 @@ Umbenennung Satzbefehle::benenne_um(Satzart Art, const std::string& Text, bool m
     const std::string jetzt = vorhanden && *vorhanden != Quelle ? *vorhanden : Quelle;
     const std::string Ziel = z_.Ordner->Eingabeordner() + "/" + neu + Endungen[Art];
     if (jetzt != Ziel) benenne_Datei_um(jetzt, Ziel);
-    lies_Liste(Art, neu);
+    Listen_.Namen[Art] = neu;
+    lies_Liste(Art);
     return Umbenennung::erfolgt;
 }
 

@@ -30,8 +30,8 @@ public:
     // Gives the file selected the typed name, with or without the extension. Without `mit_Frage` a name that is taken is a fault.
     Umbenennung benenne_um(Satzart Art, const std::string& Text, bool mit_Frage);
 
-    // Reads the entries anew from the project folder; the selection follows the name.
-    void lies_Liste(Satzart Art, const std::string& Auswahl);
+    // Reads the entries anew from the project folder; the selection is that of the name.
+    void lies_Liste(Satzart Art);
 
 private:
     // A file that another program took away loses its entry, too.

@@ -18,15 +18,12 @@ const std::vector<Satzart> alle_Arten = {Simulation, Wirkstoff, Applikation, Sze
 }  // namespace
 
 void Satzverwaltung::fuelle_Listen() {
-    for (std::size_t Art = 0; Art < z_.Listen.size(); ++Art) {
-        z_.Listen[Art] = z_.Ordner->Namen(Endungen[Art]);
-        z_.waehle(Art, z_.Felder().Aktuelle_Dateinamen[Art]);
-    }
+    for (const Satzart Art : alle_Arten) Befehle_.lies_Liste(Art);
 }
 
 bool Satzverwaltung::lies_Satz(Satzart Art, const std::string& Satzname) {
     const int alte_TWA_Zeiten = z_.Parameter().TWA_Zeiten;
-    const Lesebefund Befund = Satz_lesen(*z_.Ordner, Satzname, Art, z_.Parameter(), z_.Felder(), z_.Welt.Dezimalzeichen);
+    const Lesebefund Befund = Satz_lesen(*z_.Ordner, Satzname, Art, z_.Vorgabe, z_.Sicht, z_.Welt.Dezimalzeichen);
     if (Befund.Ausgang == Leseausgang::fehlt) {
         beende_oder_stelle_her(z_, *this, "File " + Satzname + " is missing. Should the default settings be loaded ");
         return false;
@@ -41,36 +38,27 @@ bool Satzverwaltung::lies_Satz(Satzart Art, const std::string& Satzname) {
     Laeufe_.verwirf_alle();
     if (Art == Wirkstoff) nach_Wirkstoff(alte_TWA_Zeiten);
     if (Art == Applikation) Diagramme_.setze_Bereiche_nach_Ansicht();
-    Diagramme_.bringe_nach_vorn(z_.Felder().Substanz);
+    Diagramme_.bringe_nach_vorn(z_.Sicht.Substanz);
     return true;
 }
 
 void Satzverwaltung::nach_Wirkstoff(int alte_TWA_Zeiten) {
-    if (z_.Parameter().TWA_Zeiten != alte_TWA_Zeiten) TWA_Listbox_initialisieren(z_.Rechnung);
+    if (z_.Parameter().TWA_Zeiten != alte_TWA_Zeiten) z_.Sicht.TWA_Laenge = TWA_Vorauswahl(z_.Parameter().TWA_Zeiten);
     if (z_.Studienzahl() <= 1) z_.Zusammenfassung_aktiv = false;
     // A compound that the scheme does not have cannot stay in view.
-    if (z_.Felder().Substanz >= Anzahl_Stoffe(z_.Felder().Berechnungsmodus)) z_.Felder().Substanz = 0;
+    if (z_.Sicht.Substanz >= Anzahl_Stoffe(z_.Felder().Berechnungsmodus)) z_.Sicht.Substanz = 0;
     Felder_.fuelle();
-}
-
-void Satzverwaltung::waehle_Namen(const Simulationssatz& Satz) {
-    for (std::size_t Art = 1; Art <= 3; ++Art) {
-        z_.waehle(Art, Satz.Dateinamen[Art]);
-        z_.Felder().Aktuelle_Dateinamen[Art] = z_.gewaehlt(Art);
-    }
 }
 
 bool Satzverwaltung::lade_Start(const std::string& Simulation) {
     const Simulationssatz Satz = lies_Simulation(*z_.Ordner, Simulation);
     z_.Felder().Beschreibung = Satz.Beschreibung;
-    z_.Felder().Aktuelle_Dateinamen = Satz.Dateinamen;
-    z_.Felder().Aktuelle_Dateinamen[0] = Simulation;
-    z_.waehle(0, Simulation);
+    z_.Namen = Satz.Dateinamen;
+    z_.Namen[0] = Simulation;
     Waechter_.merke(varnok::Simulation, Simulation);
     for (const Satzart Art : {Wirkstoff, Szenario, Applikation}) {
         if (!lies_Satz(Art, Satz.Dateinamen[Art])) return false;
     }
-    waehle_Namen(Satz);
     Diagramme_.setze_Startbereiche();
     z_.Geaendert.fill(false);
     z_.Neu_berechnen = true;
@@ -81,18 +69,17 @@ void Satzverwaltung::waehle_Simulation(int Position) {
     const std::string Simulation = z_.Listen[0].at(static_cast<std::size_t>(Position));
     const std::string Fremdes = Waechter_.Fremdes(alle_Arten);
     decke_ab(z_, Texte::Eingabe_geaendert);
-    if (!z_.Ordner->finde(Simulation, Endungen[0])) Befehle_.lies_Liste(varnok::Simulation, z_.gewaehlt(0));
+    if (!z_.Ordner->finde(Simulation, Endungen[0])) Befehle_.lies_Liste(varnok::Simulation);
     const Simulationssatz Satz = lies_Simulation(*z_.Ordner, Simulation);
     z_.Statuszeile.clear();
     sichere_Ungesichertes();
     stelle_voran(Fremdes);
     Waechter_.merke(varnok::Simulation, Simulation);
-    z_.Auswahl[0] = Position;
     z_.Felder().Beschreibung = Satz.Beschreibung;
-    z_.Felder().Aktuelle_Dateinamen[0] = Simulation;
     z_.Neu_berechnen = false;
-    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) Befehle_.lies_Liste(Art, {});  // a record that went is not found
-    waehle_Namen(Satz);
+    z_.Namen = Satz.Dateinamen;
+    z_.Namen[0] = Simulation;
+    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) Befehle_.lies_Liste(Art);  // a record that went is not found
     z_.nicht_gelesen = {false, true, true, true};
     if (!z_.Gestartet) z_.nicht_gelesen.fill(false);
     if (!lies_fehlende_Saetze()) return;
@@ -104,7 +91,7 @@ void Satzverwaltung::waehle_Simulation(int Position) {
 // Reads the records that the selectors name and that were not read, up to the first selector without an entry.
 bool Satzverwaltung::lies_fehlende_Saetze() {
     for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) {
-        if (z_.Auswahl[Art] < 0) {
+        if (z_.Auswahl(Art) < 0) {
             decke_ab(z_, Texte::Satz_fehlt);
             z_.Neu_berechnen = false;
             return false;
@@ -134,17 +121,17 @@ bool Satzverwaltung::verlasse_Satz(Satzart Art) {
 
 void Satzverwaltung::waehle_Satz(Satzart Art, int Position) {
     const std::string Fremdes = Waechter_.Fremdes({Art});
-    const int Platz = z_.Auswahl[Art];
+    const std::string vorher = z_.Namen[Art];
     const bool geaendert = z_.Geaendert[Simulation];
     const bool markiert = z_.Simulation_markiert;
     const auto kehre_zurueck = [&] {
-        z_.Auswahl[Art] = Platz;
+        z_.Namen[Art] = vorher;
         z_.Geaendert[Simulation] = geaendert;
         z_.Simulation_markiert = markiert;
     };
     z_.Statuszeile.clear();
     // The selector shows the record chosen already, so Yes stores the values of the record left under the name of the one chosen.
-    z_.Auswahl[Art] = Position;
+    z_.waehle_Platz(Art, Position);
     merke_Kombination();
     try {
         if (!verlasse_Satz(Art)) return kehre_zurueck();
@@ -154,7 +141,6 @@ void Satzverwaltung::waehle_Satz(Satzart Art, int Position) {
     }
     stelle_voran(Fremdes);
     z_.Geaendert[Art] = false;
-    z_.Felder().Aktuelle_Dateinamen[Art] = z_.gewaehlt(Art);
     z_.nicht_gelesen[Art] = true;
     if (!lies_fehlende_Saetze()) return;
     schliesse_Laden_ab();
@@ -165,10 +151,9 @@ void Satzverwaltung::lege_an(Satzart Art) {
     Befehle_.Vorlage(Art);
     z_.Statuszeile.clear();
     sichere_vor_dem_Lesen(Art);
-    const std::string Name = Befehle_.lege_an(Art);
+    Befehle_.lege_an(Art);
     stelle_voran(Fremdes);
     z_.Geaendert[Art] = false;
-    z_.Felder().Aktuelle_Dateinamen[Art] = Name;
     merke_Kombination();
     z_.nicht_gelesen[Art] = true;
     if (!lies_fehlende_Saetze()) return;
@@ -180,7 +165,6 @@ void Satzverwaltung::kopiere(Satzart Art) {
     z_.Statuszeile.clear();
     if (!Befehle_.kopiere(Art)) return;
     stelle_voran(Fremdes);
-    z_.Felder().Aktuelle_Dateinamen[Art] = z_.gewaehlt(Art);
     // What the user knows of the copy is what was read of the original.
     Waechter_.merke_Namen(Art, z_.gewaehlt(Art));
     if (Art != Simulation) merke_Kombination();
@@ -191,7 +175,6 @@ void Satzverwaltung::loesche(Satzart Art) {
     z_.Statuszeile.clear();
     if (!Befehle_.loesche(Art, Waechter_.Ungesichertes({Art}))) return;
     stelle_voran(Fremdes);
-    z_.Felder().Aktuelle_Dateinamen[Art] = z_.gewaehlt(Art);
     z_.nicht_gelesen[Art] = true;
     z_.Geaendert[Art] = false;
     z_.Neu_berechnen = true;
@@ -204,7 +187,6 @@ bool Satzverwaltung::benenne_um(Satzart Art, const std::string& Text, bool mit_F
     z_.Statuszeile.clear();
     const Umbenennung Ausgang = Befehle_.benenne_um(Art, Text, mit_Frage);
     if (Ausgang != Umbenennung::erfolgt) return Ausgang == Umbenennung::unveraendert;
-    z_.Felder().Aktuelle_Dateinamen[Art] = z_.gewaehlt(Art);
     Waechter_.merke_Namen(Art, z_.gewaehlt(Art));
     merke_Kombination();
     nenne_Simulationen_mit(Art, alt, z_);
@@ -242,8 +224,8 @@ void Satzverwaltung::stelle_voran(const std::string& Hinweis) {
 }
 
 bool Satzverwaltung::lies_nach() {
-    if (z_.nicht_gelesen[Simulation] && z_.Auswahl[Simulation] >= 0) {
-        waehle_Simulation(z_.Auswahl[Simulation]);
+    if (z_.nicht_gelesen[Simulation] && z_.Auswahl(Simulation) >= 0) {
+        waehle_Simulation(z_.Auswahl(Simulation));
         return true;
     }
     if (Laeufe_.Saetze_vollstaendig() || !lies_fehlende_Saetze()) return false;
@@ -252,7 +234,7 @@ bool Satzverwaltung::lies_nach() {
 }
 
 bool Satzverwaltung::aktualisiere() {
-    if (z_.nicht_gelesen[Simulation] && z_.Auswahl[Simulation] >= 0) return lies_nach();
+    if (z_.nicht_gelesen[Simulation] && z_.Auswahl(Simulation) >= 0) return lies_nach();
     const std::string Fremdes = Waechter_.Fremdes(alle_Arten);
     z_.Statuszeile.clear();
     if (!Laeufe_.Saetze_vollstaendig()) sichere_vor_dem_Lesen(Simulation);
@@ -263,13 +245,13 @@ bool Satzverwaltung::aktualisiere() {
 }
 
 void Satzverwaltung::lies_Szenario_nach() {
-    if (!z_.nicht_gelesen[Szenario] || z_.Auswahl[Szenario] < 0 || !lies_Satz(Szenario, z_.gewaehlt(Szenario))) return;
+    if (!z_.nicht_gelesen[Szenario] || z_.Auswahl(Szenario) < 0 || !lies_Satz(Szenario, z_.gewaehlt(Szenario))) return;
     if (Laeufe_.Saetze_vollstaendig()) schliesse_Laden_ab();
 }
 
 bool Satzverwaltung::pruefe_Auswahl(const std::vector<Knopf>& Knoepfe) {
     for (std::size_t Art = 1; Art <= 3; ++Art) {
-        if (z_.Auswahl[Art] >= 0) continue;
+        if (z_.Auswahl(Art) >= 0) continue;
         z_.Welt.Fragen->frage({Texte::Satz_nicht_gewaehlt, Texte::Satz_waehlen[Art], Symbol::Ausrufezeichen, Knoepfe});
         return false;
     }
@@ -296,11 +278,8 @@ bool Satzverwaltung::speichere() {
     const std::string Fremdes = Waechter_.Fremdes(alle_Arten);
     z_.Statuszeile.clear();
     if (!Waechter_.schreibe(alle_Arten)) return false;
-    if (z_.Auswahl[Simulation] < 0) Befehle_.lies_Liste(Simulation, z_.Felder().Aktuelle_Dateinamen[Simulation]);
-    for (std::size_t Art = 1; Art <= 3; ++Art) {
-        z_.Felder().Aktuelle_Dateinamen[Art] = z_.gewaehlt(Art);
-        z_.Geaendert[Art] = false;
-    }
+    if (z_.Auswahl(Simulation) < 0) Befehle_.lies_Liste(Simulation);
+    for (std::size_t Art = 1; Art <= 3; ++Art) z_.Geaendert[Art] = false;
     z_.Simulation_markiert = false;
     for (const Satzart Art : alle_Arten) {
         if (z_.nicht_gelesen[Art]) stelle_voran("\"" + z_.gewaehlt(Art) + Endungen[Art] + "\" was not read and stays.");

@@ -15,7 +15,7 @@ public:
     Satzverwaltung(Zustand& z, Laufsteuerung& Laeufe, Feldeingabe& Felder, Diagrammsteuerung& Diagramme)
         : z_(z), Laeufe_(Laeufe), Felder_(Felder), Diagramme_(Diagramme) {}
 
-    // Reads the entries of all four selectors from the project folder; the selections follow the names.
+    // Reads the entries of all four selectors from the project folder.
     void fuelle_Listen();
 
     // Reads the records of the summary file for the start of the program. False if the program ends.
@@ -63,7 +63,6 @@ private:
     bool verlasse_Satz(Satzart Art);
     void sichere_vor_dem_Lesen(Satzart Art);
     void stelle_voran(const std::string& Hinweis);
-    void waehle_Namen(const Simulationssatz& Satz);
     bool lies_fehlende_Saetze();
     void schliesse_Laden_ab();
     void merke_Kombination();

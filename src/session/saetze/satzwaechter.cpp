@@ -51,7 +51,7 @@ std::string Satzwaechter::Fremdes(const std::vector<Satzart>& Arten) const {
 }
 
 std::string Satzwaechter::Dateibytes(Satzart Art) const {
-    if (Art != Simulation) return Satz_als_Bytes(Art, z_.Parameter(), z_.Felder(), z_.Welt.Dezimalzeichen);
+    if (Art != Simulation) return Satz_als_Bytes(Art, z_.Vorgabe, z_.Sicht, z_.Welt.Dezimalzeichen);
     Simulationssatz Satz{z_.Felder().Beschreibung, {}};
     for (std::size_t t = 1; t <= 3; ++t) Satz.Dateinamen[t] = z_.gewaehlt(t);
     return Simulation_als_Bytes(Satz);
@@ -59,8 +59,7 @@ std::string Satzwaechter::Dateibytes(Satzart Art) const {
 
 Satzwaechter::Auftrag Satzwaechter::stelle_zusammen(Satzart Art) const {
     // A summary file that is gone from the list is written anew, under the name that it had.
-    const bool ohne_Eintrag = Art == Simulation && z_.Auswahl[Art] < 0;
-    const std::string Name = ohne_Eintrag ? z_.Felder().Aktuelle_Dateinamen[Art] : z_.gewaehlt(Art);
+    const std::string& Name = z_.Namen[Art];
     return {Art, Name, z_.Ordner->Zielpfad(Name, Endungen[Art]), Dateibytes(Art)};
 }
 

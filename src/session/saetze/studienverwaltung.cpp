@@ -47,8 +47,7 @@ void Studienverwaltung::fuege_an(const std::string& Name) {
     z_.Felder().Studie.push_back(Name);
     const int neu = z_.Studienzahl() - 1;
     setze_Startwerte(z_.Parameter(), static_cast<std::size_t>(neu));
-    z_.Parameter().Anzahl_Studien = static_cast<std::uint8_t>(z_.Studienzahl());
-    z_.Felder().Studie_Index = neu;
+    z_.Sicht.Studie_Index = neu;
     z_.Zusammenfassung_aktiv = false;
     Felder_.fuelle();
     Laeufe_.verwirf_Studie(neu);
@@ -73,8 +72,7 @@ void Studienverwaltung::loesche() {
     ruecke_Kinetik_vor(z_.Parameter(), static_cast<std::size_t>(Platz), static_cast<std::size_t>(z_.Studienzahl()));
     z_.Felder().Studie.erase(z_.Felder().Studie.begin() + Platz);
     setze_Startwerte(z_.Parameter(), z_.Felder().Studie.size());
-    z_.Parameter().Anzahl_Studien = static_cast<std::uint8_t>(z_.Studienzahl());
-    z_.Felder().Studie_Index = std::min(Platz, z_.Studienzahl() - 1);
+    z_.Sicht.Studie_Index = std::min(Platz, z_.Studienzahl() - 1);
     // The flag of the application pattern, not that of the compound: the question on exit has always named that record.
     z_.Geaendert[2] = true;
     if (z_.Studienzahl() == 1) z_.Zusammenfassung_aktiv = false;

@@ -138,8 +138,9 @@ void Szenarioeditor::merke_Aenderung() {
 
 // Whether the parameter is another one now.
 bool Szenarioeditor::uebernimm_Wert(const std::string& Text, const std::string& gezeigt, double& Parameter) {
-    if (Text == gezeigt || Wert(Text) == Parameter) return false;
-    Parameter = Wert(Text);
+    const double neu = wie_im_Satz(Wert(Text));
+    if (Text == gezeigt || neu == Parameter) return false;
+    Parameter = neu;
     merke_Aenderung();
     return true;
 }
@@ -177,16 +178,16 @@ void Szenarioeditor::uebernimm_Plateautiefe() {
 void Szenarioeditor::uebernimm_Klima() {
     const bool war_variabel = z_.Parameter().Klimamodus == 1;
     const bool variabel = e_.Klimamodus == 1;
-    std::string& Text = z_.Felder().Klimaszenario;
-    const std::string vorher = Text;
+    std::string& Datei = z_.Felder().Klimaszenario;
+    const std::string vorher = Klimatext(z_.Vorgabe);
     if (e_.Temperatur != gezeigt_.Temperatur) z_.Parameter().Szenariotemperatur = static_cast<std::uint8_t>(e_.Temperatur);
     z_.Parameter().Klimamodus = static_cast<std::uint8_t>(e_.Klimamodus);
     if (!variabel) {
-        Text = std::to_string(z_.Parameter().Szenariotemperatur) + " °C constant";
-    } else if (e_.Klima >= 0 && !gleich_ohne_Gross_Klein(Text, Eintrag(e_.Klimadateien, e_.Klima))) {
-        Text = Eintrag(e_.Klimadateien, e_.Klima);
+        Datei.clear();
+    } else if (e_.Klima >= 0 && !gleich_ohne_Gross_Klein(Datei, Eintrag(e_.Klimadateien, e_.Klima))) {
+        Datei = Eintrag(e_.Klimadateien, e_.Klima);
     }
-    if (Text == vorher && variabel == war_variabel) return;
+    if (Klimatext(z_.Vorgabe) == vorher && variabel == war_variabel) return;
     geaendert_ = true;
     if (variabel && Klima_gewaehlt_) merke_Aenderung();
     Laeufe_.verwirf_alle();
@@ -202,13 +203,12 @@ void Szenarioeditor::uebernimm_Namen() {
     const std::string Name = Eintrag(e_.Szenarien, e_.Szenario);
     if (Name == z_.gewaehlt(varnok::Szenario)) return;
     z_.Listen[varnok::Szenario] = z_.Ordner->Namen(Endungen[varnok::Szenario]);
-    z_.waehle(varnok::Szenario, Name);
-    z_.Felder().Aktuelle_Dateinamen[varnok::Szenario] = z_.gewaehlt(varnok::Szenario);
+    z_.Namen[varnok::Szenario] = Name;
     z_.Geaendert[0] = z_.Simulation_markiert = true;
 }
 
 void Szenarioeditor::uebernimm() {
-    const bool ohne_Satz = z_.Auswahl[varnok::Szenario] < 0;
+    const bool ohne_Satz = z_.Auswahl(varnok::Szenario) < 0;
     uebernimm_Werte();
     uebernimm_Klima();
     uebernimm_Namen();
@@ -218,10 +218,7 @@ void Szenarioeditor::uebernimm() {
     Lauf_faellig_ = true;
 }
 
-void Szenarioeditor::verwirf() {
-    Lauf_faellig_ = false;
-    z_.Felder().Aktuelle_Dateinamen[varnok::Szenario] = z_.gewaehlt(varnok::Szenario);
-}
+void Szenarioeditor::verwirf() { Lauf_faellig_ = false; }
 
 void Szenarioeditor::schliesse() {
     Saetze_.lies_Szenario_nach();

@@ -5,6 +5,7 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
+#include "exposure/bezeichnungen.h"
 #include "painting/qt_text.h"
 #include "window/eingabe/applikationsschema.h"
 #include "window/eingabe/feldzeile.h"
@@ -23,12 +24,6 @@ constexpr unsigned bei_regelmaessig = 1U << regelmaessig;
 constexpr unsigned bei_unregelmaessig = 1U << unregelmaessig;
 constexpr unsigned mit_fester_Dosis = bei_einzeln | bei_regelmaessig;
 constexpr unsigned mit_Anzahl = bei_regelmaessig | bei_unregelmaessig;
-
-const QStringList& Monate() {
-    static const QStringList Namen = {u"Jan"_s, u"Feb"_s, u"Mar"_s, u"Apr"_s, u"May"_s, u"Jun"_s,
-                                      u"Jul"_s, u"Aug"_s, u"Sep"_s, u"Oct"_s, u"Nov"_s, u"Dec"_s};
-    return Namen;
-}
 
 QStringList Zahlen(int von, int bis) {
     QStringList Liste;
@@ -74,11 +69,11 @@ QWidget* Applikationsrahmen::erstelle_Muster() {
 }
 
 void Applikationsrahmen::erstelle_Dosis(QWidget* Werte, Feldsteuerung& Steuerung) {
-    const Feldzeile Rate = erstelle_Feldzeile(Steuerung, *Gitter_, 0, false, u"Applikationsrate"_s, Werte);
+    const Feldzeile Rate = erstelle_Feldzeile(Steuerung, *Gitter_, 0, false, u"Applikationsrate"_s, Einheitsort::dahinter, Werte);
     Anzahl_ = new Auswahlliste(u"Anzahl"_s, 3, Werte);
     L_Anzahl_ = Schild(u"Number"_s, Anzahl_, Werte);
 
-    const Feldzeile Anteil = erstelle_Feldzeile(Steuerung, *Gitter_, 1, false, u"Interzeption"_s, Werte);
+    const Feldzeile Anteil = erstelle_Feldzeile(Steuerung, *Gitter_, 1, false, u"Interzeption"_s, Einheitsort::dahinter, Werte);
     Intervall_ = new Auswahlliste(u"Intervall"_s, 3, Werte);
     QLabel* L_Intervall = Schild(u"Interval"_s, Intervall_, Werte);
     QLabel* Tage = Einheitsschild(u"d"_s, Werte);
@@ -149,8 +144,8 @@ void Applikationsrahmen::zeige() {
     Anzahl_->zeige(Zahlen(2, max_Applikationen), e.Anzahl_Index);
     Intervall_->zeige(Zahlen(1, Programm_.Intervalle_der_Liste()), e.Intervall_Index);
     App_Tag_->zeige(Zahlen(1, Programm_.Tage_der_Liste()), e.App_Tag);
-    App_Monat_->zeige(Monate(), e.App_Monat);
-    Fruchtwechsel_->zeige(QStringList{u"every year"_s, u"every 2nd year"_s, u"every 3rd year"_s}, e.Fruchtwechsel);
+    App_Monat_->zeige(Monatsnamen, e.App_Monat);
+    Fruchtwechsel_->zeige(Fruchtwechselnamen, Sicht().Fruchtwechsel);
     Schema_->zeige();
     stelle_Anzahl();
     for (const Sichtbarkeit& s : Sichtbarkeiten_) s.Teil->setVisible((s.Muster >> e.Applikationsmuster & 1U) != 0);

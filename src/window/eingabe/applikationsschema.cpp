@@ -48,7 +48,7 @@ void Applikationsschema::zeige() {
     setRowCount(static_cast<int>(Zeilen.size()));
     for (int i = 0; i < rowCount(); ++i) {
         for (int j = 0; j < columnCount(); ++j) {
-            const QString Text = in_Qt(Zeilen[static_cast<std::size_t>(i)][static_cast<std::size_t>(j)]);
+            const QString Text = in_Qt(Zeilen[static_cast<std::size_t>(i)][static_cast<std::size_t>(j)].Text());
             QTableWidgetItem* Zelle = item(i, j);
             if (!Zelle) {
                 Zelle = new QTableWidgetItem;
@@ -94,7 +94,7 @@ void Applikationsschema::keyPressEvent(QKeyEvent* e) {
     if (e->key() == Qt::Key_Return || e->key() == Qt::Key_Enter) {
         Q_EMIT bestaetigt();
     } else if (e->matches(QKeySequence::Copy)) {
-        kopiere_Auswahl(*this);
+        kopiere_Zellen(*this);
     } else if (bearbeite(*e)) {
         Q_EMIT getippt();
     } else {

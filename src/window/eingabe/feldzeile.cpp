@@ -13,17 +13,16 @@ void Feldzeile::zeige(bool sichtbar) const {
 }
 
 Feldzeile erstelle_Feldzeile(Feldsteuerung& Felder, Raster& Gitter, int Zeile, bool rechts, const QString& Objektname,
-                             QWidget* parent) {
+                             Einheitsort Ort, QWidget* parent) {
     Feldzeile z;
     z.Feld = Felder.erstelle(Objektname, parent);
     const Feldbeschreibung& f = Feldtabelle()[static_cast<std::size_t>(z.Feld->Feld())];
-    const QString Beschriftung = in_Qt(f.Beschriftung);
-    z.Schild = Schild(Beschriftung, z.Feld, parent);
+    z.Schild = Schild(in_Qt(f.Beschriftung), z.Feld, parent);
     if (Objektname.startsWith(u"S_")) z.Schild->setObjectName(u"L_"_s + Objektname.mid(2));
     Gitter.addWidget(z.Schild, Zeile, rechts ? Raster::Schild_2 : Raster::Schild);
     Gitter.addWidget(z.Feld, Zeile, rechts ? Raster::Feld_2 : Raster::Feld);
     const QString Einheit = in_Qt(f.Einheit);
-    if (!Einheit.isEmpty() && !Beschriftung.contains(u'(')) {
+    if (Ort == Einheitsort::dahinter && !Einheit.isEmpty()) {
         z.Einheit = Einheitsschild(Einheit, parent);
         Gitter.addWidget(z.Einheit, Zeile, rechts ? Raster::Einheit_2 : Raster::Einheit);
     }

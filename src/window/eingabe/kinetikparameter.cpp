@@ -1,8 +1,8 @@
 #include "window/eingabe/kinetikparameter.h"
 
 #include <array>
-#include <cmath>
 
+#include "exposure/bezeichnungen.h"
 #include "painting/qt_text.h"
 
 namespace varnok {
@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 // The fields of each model and their rows; of FOMC and HS there is one set, the parent's.
 struct Modellzeile {
     const char16_t* Name;
-    int Kinetik;
+    Kinetikart Kinetik;
     int Zeile;
     bool nur_Wirkstoff;
 };
@@ -26,6 +26,8 @@ constexpr std::array<Modellzeile, 9> Modellzeilen = {{{u"S_DT50", SFO, 1, false}
                                                       {u"S_DT50_1_HS", HS, 1, true},
                                                       {u"S_DT50_2_HS", HS, 2, true},
                                                       {u"S_Tb", HS, 3, true}}};
+
+constexpr std::size_t Modelle_der_Metaboliten = FOMC;  // those before it
 
 constexpr std::array<const char16_t*, 3> Korrekturen = {u"S_Q10", u"S_Walker", u"S_TRef"};
 constexpr std::array<const char16_t*, 3> Titel = {u"Parent", u"Metabolite 1", u"Metabolite 2"};
@@ -49,25 +51,28 @@ Kinetikparameter::Kinetikparameter(int i_substanz, int Einzug, Sitzung& Programm
     for (const Modellzeile& m : Modellzeilen) {
         if (m.nur_Wirkstoff && c_ > 0) continue;
         const QString Name = QString::fromUtf16(m.Name) + (m.nur_Wirkstoff ? QString() : Index);
-        Modellfelder_.push_back({m.Kinetik, erstelle_Feldzeile(Steuerung, *Gitter, m.Zeile, false, Name, this)});
+        Modellfelder_.push_back(
+            {m.Kinetik, erstelle_Feldzeile(Steuerung, *Gitter, m.Zeile, false, Name, Einheitsort::im_Schild, this)});
     }
     int Zeile = 1;
     for (const char16_t* Name : Korrekturen) {
-        const Feldzeile z = erstelle_Feldzeile(Steuerung, *Gitter, Zeile, true, QString::fromUtf16(Name) + Index, this);
+        const Feldzeile z =
+            erstelle_Feldzeile(Steuerung, *Gitter, Zeile, true, QString::fromUtf16(Name) + Index, Einheitsort::dahinter, this);
         // All models take the height of the largest: the screen does not jump.
         Gitter->setRowMinimumHeight(Zeile++, z.Feld->sizeHint().height());
     }
-    connect(S_Kinetik_, &QComboBox::activated, this, [this](int Code) { handle([&] { Programm_.waehle_Kinetik(c_, Code); }); });
+    connect(S_Kinetik_, &QComboBox::activated, this,
+            [this](int k) { handle([&] { Programm_.waehle_Kinetik(c_, static_cast<Kinetikart>(k)); }); });
 }
 
 void Kinetikparameter::zeige() {
     const auto c = static_cast<std::size_t>(c_);
     const auto st = static_cast<std::size_t>(Stand().i_studie());
-    const int Code = static_cast<int>(std::lround(Stand().Parameter().Kinetik[c][st]));
-    QStringList Modelle = {u"SFO"_s, u"DFOP"_s};
-    if (c_ == 0) Modelle << u"FOMC"_s << u"HS"_s;
-    S_Kinetik_->zeige(Modelle, Code < Modelle.size() ? Code : -1);
-    for (const Modellfeld& m : Modellfelder_) m.Zeile.zeige(m.Kinetik == Code);
+    const Kinetikart Kinetik = Stand().Parameter().Kinetik[c][st];
+    const std::span<const std::string_view> alle(Kinetiknamen);
+    const auto Modelle = c_ == 0 ? alle : alle.first(Modelle_der_Metaboliten);
+    S_Kinetik_->zeige(Modelle, Kinetik < Modelle.size() ? int{Kinetik} : -1);
+    for (const Modellfeld& m : Modellfelder_) m.Zeile.zeige(m.Kinetik == Kinetik);
 }
 
 }  // namespace varnok

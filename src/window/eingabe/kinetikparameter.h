@@ -17,7 +17,7 @@ public:
 
 private:
     struct Modellfeld {
-        int Kinetik;
+        Kinetikart Kinetik;
         Feldzeile Zeile;
     };
 

@@ -20,8 +20,6 @@ using namespace Qt::StringLiterals;
 
 constexpr int Seitenrand = 4;
 
-constexpr std::array<const char16_t*, Stoffe> Substanznamen = {u"Parent", u"Metab. 1", u"Metab. 2"};
-
 }  // namespace
 
 Kinetikschema::Kinetikschema(Sitzung& Programm, Feldsteuerung& Steuerung, QWidget* parent)
@@ -112,7 +110,7 @@ QWidget* Kinetikschema::erstelle_Abbaudaten(Feldsteuerung& Steuerung) {
     auto* Zeile = new QHBoxLayout;
     Zeile->setSpacing(14);
     for (int c = 0; c < Stoffe; ++c) {
-        auto* Option = new QRadioButton(QString::fromUtf16(Substanznamen[static_cast<std::size_t>(c)]), Seite);
+        auto* Option = new QRadioButton(QStringView(Substanznamen[static_cast<std::size_t>(c)]).toString(), Seite);
         Option->setObjectName(u"Substanz_"_s + in_Qt(c));
         Substanz_->addButton(Option, c);
         Zeile->addWidget(Option);
@@ -147,14 +145,14 @@ void Kinetikschema::zeige() {
     zeige_Studien();
     for (Rahmen* r : Seiten_) r->zeige();
 
-    const int m = Felder().Berechnungsmodus;
-    for (int c = 0; c < Stoffe; ++c) Substanz_->button(c)->setVisible(m > 0 && c < Anzahl_Stoffe(m));
+    const Stoffschema m = Felder().Berechnungsmodus;
+    for (int c = 0; c < Stoffe; ++c) Substanz_->button(c)->setVisible(m != nur_Wirkstoff && c < Anzahl_Stoffe(m));
     QLayout* Spalte = Kinetikfelder_->parentWidget()->layout();
     const int Optionszeile = Substanz_->button(0)->sizeHint().height() + Spalte->spacing();
-    Ersatz_->changeSize(0, m > 0 ? 0 : Optionszeile, QSizePolicy::Minimum, QSizePolicy::Fixed);
+    Ersatz_->changeSize(0, m == nur_Wirkstoff ? Optionszeile : 0, QSizePolicy::Minimum, QSizePolicy::Fixed);
     Spalte->invalidate();
-    Substanz_->button(Felder().Substanz)->setChecked(true);
-    Kinetikfelder_->setCurrentIndex(Felder().Substanz);
+    Substanz_->button(Sicht().Substanz)->setChecked(true);
+    Kinetikfelder_->setCurrentIndex(Sicht().Substanz);
     Wirkstoffdaten_->zeige_Seite(Seite_);
     faerbe_Reiter();
 }

@@ -14,10 +14,9 @@ using namespace Qt::StringLiterals;
 constexpr std::array<const char16_t*, Stoffe> Namensfelder = {u"Name_Wirkstoff_", u"Name_Met_1_", u"Name_Met_2_"};
 
 // Caption of a compound in a scheme: a single metabolite needs no number.
-QString Stoffschild(int Berechnungsmodus, int i_substanz) {
-    if (i_substanz == 0) return u"Parent"_s;
-    if (Berechnungsmodus == 1) return u"Metabolite:"_s;
-    return i_substanz == 1 ? u"Metab. 1"_s : u"Metab. 2"_s;
+QString Stoffschild(Stoffschema Schema, int i_substanz) {
+    if (Schema == ein_Metabolit && i_substanz == 1) return u"Metabolite:"_s;
+    return QStringView(Substanznamen[static_cast<std::size_t>(i_substanz)]).toString();
 }
 
 // Width of a head: that of the fields below, or what it needs to stand in two lines, broken at a blank.
@@ -87,7 +86,7 @@ void Stoffseite::ordne_Tabfolge() {
 }
 
 void Stoffseite::zeige() {
-    const int m = Felder().Berechnungsmodus;
+    const Stoffschema m = Felder().Berechnungsmodus;
     for (int c = 0; c < Stoffe; ++c) {
         Stoffzeile& z = Zeilen_[static_cast<std::size_t>(c)];
         const bool sichtbar = c < Anzahl_Stoffe(m);

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <array>
+#include <string_view>
+#include <vector>
 
 #include "window/eingabe/feldzeile.h"
 #include "window/kern/rahmen.h"
@@ -8,6 +10,9 @@
 namespace varnok {
 
 class Namensfeld;
+
+// What the compounds are called beside their controls.
+inline constexpr std::array<std::u16string_view, Stoffe> Substanznamen = {u"Parent", u"Metab. 1", u"Metab. 2"};
 
 // A page with one row for each compound of the scheme: its caption, its name, its numeric fields.
 class Stoffseite : public Rahmen {

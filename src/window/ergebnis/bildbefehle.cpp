@@ -44,12 +44,12 @@ QAction* Bildbefehle::fuege_an(const char16_t* Name, const char16_t* Aufschrift,
     return a;
 }
 
-Bildbefehle::Bildbefehle(Sitzung& Programm, Ergebnisbereich& Ergebnisse, QMainWindow& Fenster)
-    : QObject(&Fenster), Programm_(Programm), Ergebnisse_(Ergebnisse), Fenster_(Fenster) {
+Bildbefehle::Bildbefehle(Sitzung& Programm, Ergebnisbereich& Bereich, QMainWindow& Fenster)
+    : QObject(&Fenster), Programm_(Programm), Bereich_(Bereich), Fenster_(Fenster) {
     auto* Menue = Fenster.findChild<QMenu*>(u"M_Ansicht"_s);
     Menue->addSeparator();
     fuege_an(u"M_Rahmen_zeigen", u"Show &legend and table", [this] {
-        if (Diagrammflaeche* d = Ergebnisse_.Flaeche_fuer_Befehl()) d->hole_Rahmen_heim();
+        if (Diagrammflaeche* d = Bereich_.Flaeche_fuer_Befehl()) d->hole_Rahmen_heim();
     });
     Menue->addSeparator();
     fuege_an(u"M_Bild_kopieren", u"&Copy picture", [this] { kopiere(); })->setShortcut(QKeySequence(u"Ctrl+Shift+C"_s));
@@ -64,12 +64,12 @@ void Bildbefehle::zeige() {
 }
 
 void Bildbefehle::kopiere() {
-    const Diagrammflaeche* d = Ergebnisse_.Flaeche_fuer_Befehl();
+    const Diagrammflaeche* d = Bereich_.Flaeche_fuer_Befehl();
     if (d) kopiere_Bild(mit_Beschriftung(*d->Inhalt(), d->Legende()->gezogen()), Titel_von(*d->Inhalt()));
 }
 
 void Bildbefehle::speichere(Dateiart Art) {
-    const Diagrammflaeche* d = Ergebnisse_.Flaeche_fuer_Befehl();
+    const Diagrammflaeche* d = Bereich_.Flaeche_fuer_Befehl();
     if (!d) return;
     QStringList Filter;
     QString gewaehlt;

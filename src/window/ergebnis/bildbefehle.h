@@ -16,7 +16,7 @@ class Bildbefehle : public QObject {
     Q_OBJECT
 public:
     // The menus exist already.
-    Bildbefehle(Sitzung& Programm, Ergebnisbereich& Ergebnisse, QMainWindow& Fenster);
+    Bildbefehle(Sitzung& Programm, Ergebnisbereich& Bereich, QMainWindow& Fenster);
     // Enabled while there is a diagram to be seen.
     void zeige();
 
@@ -30,7 +30,7 @@ private:
     void schreibe(const QString& Pfad, const QByteArray& Inhalt);
 
     Sitzung& Programm_;
-    Ergebnisbereich& Ergebnisse_;
+    Ergebnisbereich& Bereich_;
     QMainWindow& Fenster_;
     std::vector<QAction*> Eintraege_;
     QString Ordner_;  // of the picture saved last

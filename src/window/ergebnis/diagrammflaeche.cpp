@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "exposure/bezeichnungen.h"
 #include "exposure/ergebnistabelle.h"
 #include "painting/diagrammlage.h"
 #include "painting/farben.h"
@@ -28,20 +29,14 @@ constexpr Qt::KeyboardModifiers Tasten = Qt::ShiftModifier | Qt::ControlModifier
 // Units that a line of a label takes.
 double Zeilenhoehe_Schild() { return std::ceil(QFontMetricsF(Diagrammschrift(Schriftgroesse_Fenster, true)).height()); }
 
-// "c(mg/kg)" -> "mg/kg".
-QString Einheit_aus(const std::string& Name_y_Achse) {
-    const QString Text = in_Qt(Name_y_Achse);
-    return Text.mid(2, Text.size() - 3);
-}
-
 Flaechenort Legendenheimat(bool mehrfach) { return mehrfach ? Heimat_Legende_mehrfach : Heimat_Legende; }
 
 }  // namespace
 
-Diagrammflaeche::Diagrammflaeche(bool Zusammenfassung, int Satz, const QString& Ergebnistitel, QWidget* parent)
-    : QWidget(parent), Satz_(Satz) {
-    const bool mehrfach = !Zusammenfassung && ist_mehrfach(Satz);
-    const QString Endung = (Zusammenfassung ? u"_Zusammenfassung_"_s : u"_"_s) + in_Qt(Satz);
+Diagrammflaeche::Diagrammflaeche(bool Zusammenfassung, int Nummer, const QString& Ergebnistitel, QWidget* parent)
+    : QWidget(parent), Nummer_(Nummer) {
+    const bool mehrfach = !Zusammenfassung && ist_mehrfach(Nummer);
+    const QString Endung = (Zusammenfassung ? u"_Zusammenfassung_"_s : u"_"_s) + in_Qt(Nummer);
     setObjectName(u"Diagramm"_s + Endung);
     setAccessibleName(u"Diagram"_s);
     setPalette(helle_Palette(Qt::white));
@@ -55,8 +50,8 @@ Diagrammflaeche::Diagrammflaeche(bool Zusammenfassung, int Satz, const QString& 
     connect(Legende_, &Flaechenrahmen::betreten, this, &Diagrammflaeche::verbirg_Ablesung);
     Legende_->erlaube(false);  // before the first drawing there is nothing to explain
     if (mehrfach) return;
-    Ergebnisse_ = new Ergebnisrahmen(Endung, Ergebnistitel, this);
-    connect(Ergebnisse_, &Flaechenrahmen::betreten, this, &Diagrammflaeche::verbirg_Ablesung);
+    Tafel_ = new Ergebnisrahmen(Endung, Ergebnistitel, this);
+    connect(Tafel_, &Flaechenrahmen::betreten, this, &Diagrammflaeche::verbirg_Ablesung);
 }
 
 QLabel* Diagrammflaeche::erstelle_Schild(const QString& Name, const QString& Endung) {
@@ -69,9 +64,9 @@ QLabel* Diagrammflaeche::erstelle_Schild(const QString& Name, const QString& End
 
 void Diagrammflaeche::zeige(const Diagramm& d) {
     Inhalt_ = d;
-    Legende_->zeige(d.Legendeninhalt, d.Satz);
+    Legende_->zeige(d.Legendeninhalt, d.Nummer);
     Legende_->erlaube(true);
-    if (Ergebnisse_) Ergebnisse_->setze_Titel(in_Qt(d.Ergebnistitel));
+    if (Tafel_) Tafel_->setze_Titel(in_Qt(d.Ergebnistitel));
     setAccessibleDescription(in_Qt(d.Titel.Text) + u'\n' + in_Qt(d.Kommentar.Text));
     ordne();
 }
@@ -83,7 +78,7 @@ void Diagrammflaeche::leere() {
 }
 
 void Diagrammflaeche::hole_Rahmen_heim() {
-    for (Flaechenrahmen* r : {static_cast<Flaechenrahmen*>(Legende_), static_cast<Flaechenrahmen*>(Ergebnisse_)}) {
+    for (Flaechenrahmen* r : {static_cast<Flaechenrahmen*>(Legende_), static_cast<Flaechenrahmen*>(Tafel_)}) {
         if (!r) continue;
         r->verbirg(false);
         r->kehre_heim();
@@ -103,10 +98,10 @@ void Diagrammflaeche::ordne() {
     const auto unten = static_cast<int>(std::ceil(Zeile * Massstab_));
     Legende_->ordne(width(), Massstab_);
     Legende_->stelle_auf(oben, unten);
-    if (Ergebnisse_) {
+    if (Tafel_) {
         const double Achse = Inhalt_ ? auf_Flaeche(rect(), Liste_.System, {0, 0}).y() : height();
-        Ergebnisse_->ordne(size(), static_cast<int>(Achse));
-        Ergebnisse_->stelle_auf(oben, unten);
+        Tafel_->ordne(size(), static_cast<int>(Achse));
+        Tafel_->stelle_auf(oben, unten);
     }
     update();
 }
@@ -247,9 +242,8 @@ void Diagrammflaeche::zeige_Ablesung(const QPointF& Ort) {
         verbirg_Ablesung();
         return;
     }
-    const QString Einheit = Einheit_aus(Inhalt_->Name_y_Achse.Text);
-    const int Einheitszahl = Einheit.startsWith(u'm') ? 0 : 1;
-    const std::string Wert = Formatiere_Zahl(static_cast<double>(a->Wert), false, true, Einheitszahl);
+    const QString Einheit = in_Qt(Konzentrationseinheit(Inhalt_->Einheit, Inhalt_->Endpunkt));
+    const std::string Wert = Formatiere_Zahl(static_cast<double>(a->Wert), false, true, Inhalt_->Einheit);
     const QString Text = u"day "_s + in_Qt(a->Tag) + u": "_s + in_Qt(Wert) + u' ' + Einheit + u", "_s + in_Qt(a->Name);
     Ablesungsschild_->setText(Ablesungsschild_->fontMetrics().elidedText(Text, Qt::ElideRight, Ablesungsschild_->width()));
     Ablesungsschild_->show();

@@ -20,12 +20,12 @@ class Legendenrahmen;
 class Diagrammflaeche : public QWidget {
     Q_OBJECT
 public:
-    // `Satz`: index among the diagrams, or among the summary diagrams.
-    Diagrammflaeche(bool Zusammenfassung, int Satz, const QString& Ergebnistitel, QWidget* parent);
+    // `Nummer`: index among the diagrams, or among the summary diagrams.
+    Diagrammflaeche(bool Zusammenfassung, int Nummer, const QString& Ergebnistitel, QWidget* parent);
 
-    Ergebnisrahmen* Ergebnisse() const { return Ergebnisse_; }  // null on a diagram of several compounds
+    Ergebnisrahmen* Tafel() const { return Tafel_; }  // null on a diagram of several compounds
     Legendenrahmen* Legende() const { return Legende_; }
-    int Satz() const { return Satz_; }
+    int Nummer() const { return Nummer_; }
 
     void zeige(const Diagramm& d);
     void leere();
@@ -63,7 +63,7 @@ private:
     // Size in units of 1/96 inch, of which the letters of the desktop make larger ones.
     QSizeF Groesse() const { return QSizeF(size()) / Massstab_; }
 
-    int Satz_;
+    int Nummer_;
     std::optional<Diagramm> Inhalt_;
     Zeichenliste Liste_;  // fitted to the size
     Koordinaten Achsen_;  // the rectangle between the axes
@@ -74,7 +74,7 @@ private:
     std::optional<QPointF> Ablesepunkt_;
     int Ablesefarbe_ = 0;
     Legendenrahmen* Legende_;
-    Ergebnisrahmen* Ergebnisse_ = nullptr;
+    Ergebnisrahmen* Tafel_ = nullptr;
 };
 
 }  // namespace varnok

@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "exposure/bezeichnungen.h"
 #include "painting/qt_text.h"
 #include "window/ergebnis/abdeckung.h"
 #include "window/ergebnis/diagrammflaeche.h"
@@ -14,30 +15,14 @@
 #include "window/kern/bausteine.h"
 
 namespace varnok {
-namespace {
 
 using namespace Qt::StringLiterals;
-
-// The schemes: caption, index of the parent's diagram and of its summary diagram; those of the metabolites follow.
-struct Schema {
-    const char16_t* Titel;
-    int erstes_Diagramm;
-    int erste_Zusammenfassung;
-};
-constexpr std::array<Schema, 4> Schemata = {{{u"Parent only", 0, 0},
-                                             {u"Parent with 1 metabolite", 1, 1},
-                                             {u"Parent and 2 metabolites (parallel)", 4, 3},
-                                             {u"Parent and 2 metabolites (sequence)", 8, 6}}};
-
-constexpr int Hintergrund = 1;  // the view without grids
-
-}  // namespace
 
 Ergebnisbereich::Ergebnisbereich(Sitzung& Programm, QWidget* parent)
     : Rahmen(u"Ergebnisbereich"_s, Rahmenart::schlicht, Programm, parent) {
     Berechnungsmodus_ = new Reiter(u"Berechnungsmodus"_s, u"Metabolism scheme"_s, this);
     Berechnungsmodus_->setDocumentMode(false);
-    for (int m = 0; m < 4; ++m) erstelle_Seite(m);
+    for (std::size_t m = 0; m < Seiten_.size(); ++m) erstelle_Seite(static_cast<Stoffschema>(m));
     Abdeckung_ = new Abdeckung(this);
     auto* Spalte = new QVBoxLayout(this);
     Spalte->setContentsMargins(0, 0, 0, 0);
@@ -51,48 +36,48 @@ Ergebnisbereich::Ergebnisbereich(Sitzung& Programm, QWidget* parent)
             [this](int m) { handle([&] { Programm_.waehle_Berechnungsmodus(m); }); });
 }
 
-void Ergebnisbereich::erstelle_Seite(int m) {
-    const Schema& Art = Schemata[static_cast<std::size_t>(m)];
-    Seite& s = Seiten_[static_cast<std::size_t>(m)];
+void Ergebnisbereich::erstelle_Seite(Stoffschema m) {
+    Seite& s = Seiten_[m];
     s.Flaeche = new QWidget(this);
     s.Stapel = new QStackedLayout(s.Flaeche);
     const int n = Anzahl_Stoffe(m);
-    for (int c = 0; c < n + (n > 1 ? 1 : 0); ++c) s.Diagramme.push_back(erstelle_Flaeche(false, Art.erstes_Diagramm + c, s));
-    for (int c = 0; c < n; ++c) s.Zusammenfassungen.push_back(erstelle_Flaeche(true, Art.erste_Zusammenfassung + c, s));
+    for (int c = 0; c < n; ++c) s.Diagramme.push_back(erstelle_Flaeche(false, Diagrammsatz_von(m, c), s));
+    if (Mehrfachsatz_von(m) != kein_Diagramm) s.Diagramme.push_back(erstelle_Flaeche(false, Mehrfachsatz_von(m), s));
+    for (int c = 0; c < n; ++c) s.Zusammenfassungen.push_back(erstelle_Flaeche(true, Zusammenfassungssatz_von(m, c), s));
     s.Flaeche->installEventFilter(this);
-    Berechnungsmodus_->addTab(s.Flaeche, QString::fromUtf16(Art.Titel));
+    Berechnungsmodus_->addTab(s.Flaeche, in_Qt(Schemanamen[m]));
 }
 
-Diagrammflaeche* Ergebnisbereich::erstelle_Flaeche(bool Zusammenfassung, int Satz, Seite& s) {
+Diagrammflaeche* Ergebnisbereich::erstelle_Flaeche(bool Zusammenfassung, int Nummer, Seite& s) {
     const QString Titel = Zusammenfassung ? u"Calculated soil concentrations (TWA):"_s : u"Calculated soil concentrations:"_s;
-    auto* d = new Diagrammflaeche(Zusammenfassung, Satz, Titel, s.Flaeche);
+    auto* d = new Diagrammflaeche(Zusammenfassung, Nummer, Titel, s.Flaeche);
     s.Stapel->addWidget(d);
     connect(d, &Diagrammflaeche::weiterzuschalten, this, [this] { handle([&] { Programm_.schalte_Diagramm_weiter(); }); });
     // The press ends before the dialog takes over.
     connect(d, &Diagrammflaeche::zu_skalieren, this, &Ergebnisbereich::skaliere, Qt::QueuedConnection);
     connect(d->Legende(), &Flaechenrahmen::umgestellt, this,
-            [this, d, Zusammenfassung] { Programm_.merke_Legende(Zusammenfassung, d->Satz(), d->Legende()->gezogen()); });
+            [this, d, Zusammenfassung] { Programm_.merke_Legende(Zusammenfassung, d->Nummer(), d->Legende()->gezogen()); });
     return d;
 }
 
 Diagrammflaeche* Ergebnisbereich::Flaeche_vorn(const Seite& s) const {
     const auto& Flaechen = Stand().Zusammenfassung_aktiv ? s.Zusammenfassungen : s.Diagramme;
-    const int vorn = Programm_.Diagramme().vorne() - Flaechen.front()->Satz();
-    return Flaechen.at(static_cast<std::size_t>(vorn));
+    const int vorn = Programm_.Diagramme().vorne();
+    return *std::find_if(Flaechen.begin(), Flaechen.end(), [vorn](const Diagrammflaeche* d) { return d->Nummer() == vorn; });
 }
 
 Diagrammflaeche* Ergebnisbereich::Flaeche_fuer_Befehl() {
     bool frei = true;
     if (Programm_.aktives_Feld() >= 0) handle([&] { frei = Programm_.schliesse_Feld_ab(); });
     if (!frei || Stand().abgedeckt || !Stand().Gestartet) return nullptr;
-    Diagrammflaeche* d = Flaeche_vorn(Seiten_[static_cast<std::size_t>(Felder().Berechnungsmodus)]);
+    Diagrammflaeche* d = Flaeche_vorn(Seiten_[Felder().Berechnungsmodus]);
     return d->Inhalt() ? d : nullptr;
 }
 
 void Ergebnisbereich::skaliere() {
     if (QApplication::activeModalWidget() || !Flaeche_fuer_Befehl()) return;
     Manuelle_Skalierung Dialog(
-        Programm_.Diagramme().X_Start(), Programm_.Diagramme().X_Ende(),
+        Programm_.Diagramme().X_Start(), Programm_.Diagramme().X_Ende(), Stand().Welt.Dezimalzeichen,
         [this](const std::string& Start, const std::string& Ende) { return Programm_.skaliere_Diagramm(Start, Ende); }, window());
     Dialog.exec();
     handle([&] { Programm_.schliesse_Skalierung(); });
@@ -102,7 +87,7 @@ void Ergebnisbereich::hole_Ergebnisrahmen() {
     for (const Seite& s : Seiten_) {
         for (const auto* Flaechen : {&s.Diagramme, &s.Zusammenfassungen}) {
             for (const Diagrammflaeche* d : *Flaechen) {
-                if (d->Ergebnisse()) d->Ergebnisse()->verbirg(false);
+                if (d->Tafel()) d->Tafel()->verbirg(false);
             }
         }
     }
@@ -123,11 +108,11 @@ void Ergebnisbereich::bestimme_Zeilen() {
     const int TWA_Zeiten = Stand().Parameter().TWA_Zeiten;
     if (TWA_Zeiten_ != TWA_Zeiten) {
         Ersatzzeile_ = true;
-    } else if (PEC_Typ_ != Felder().PEC_Typ) {
+    } else if (PEC_Typ_ != Sicht().PEC_Typ) {
         Ersatzzeile_ = false;
     }
     TWA_Zeiten_ = TWA_Zeiten;
-    PEC_Typ_ = Felder().PEC_Typ;
+    PEC_Typ_ = Sicht().PEC_Typ;
 }
 
 void Ergebnisbereich::fuelle_Tafeln(const Seite& s) {
@@ -135,12 +120,12 @@ void Ergebnisbereich::fuelle_Tafeln(const Seite& s) {
     for (int c = 0; c < n; ++c) {
         const auto k = static_cast<std::size_t>(c);
         if (Stand().Zusammenfassung_aktiv) {
-            s.Zusammenfassungen[k]->Ergebnisse()->zeige(Programm_.Ergebnisse_Zusammenfassung(c));
+            s.Zusammenfassungen[k]->Tafel()->zeige(Programm_.Ergebnisse_Zusammenfassung(c));
             continue;
         }
         Tabellentext Tabelle = Programm_.Ergebnisse(c);
         if (!Ersatzzeile_) Tabelle.pop_back();
-        s.Diagramme[k]->Ergebnisse()->zeige(Tabelle);
+        s.Diagramme[k]->Tafel()->zeige(Tabelle);
     }
 }
 
@@ -149,7 +134,7 @@ void Ergebnisbereich::fuelle_Diagramme(const Seite& s) {
     const auto& Liste = Programm_.Diagramme().Diagramme();
     for (Diagrammflaeche* f : Flaechen) {
         const auto Treffer = std::find_if(Liste.begin(), Liste.end(), [&](const Diagramm& d) {
-            return d.Satz == f->Satz() && d.Zusammenfassung == Stand().Zusammenfassung_aktiv;
+            return d.Nummer == f->Nummer() && d.Zusammenfassung == Stand().Zusammenfassung_aktiv;
         });
         if (Treffer == Liste.end()) {
             f->leere();
@@ -160,10 +145,10 @@ void Ergebnisbereich::fuelle_Diagramme(const Seite& s) {
 }
 
 void Ergebnisbereich::zeige_Ergebnisse(Seite& s) {
-    const bool mit_Tafel = Felder().PEC_Typ != Hintergrund;
+    const bool mit_Tafel = Sicht().PEC_Typ != Hintergrund;
     for (const auto* Flaechen : {&s.Diagramme, &s.Zusammenfassungen}) {
         for (const Diagrammflaeche* d : *Flaechen) {
-            if (d->Ergebnisse()) d->Ergebnisse()->erlaube(mit_Tafel);
+            if (d->Tafel()) d->Tafel()->erlaube(mit_Tafel);
         }
     }
     if (!Stand().abgedeckt && Zeichnung_ != Stand().Zeichnung) {
@@ -178,7 +163,7 @@ void Ergebnisbereich::zeige_Ergebnisse(Seite& s) {
 void Ergebnisbereich::zeige() {
     Berechnungsmodus_->zeige_Seite(Felder().Berechnungsmodus);
     bestimme_Zeilen();
-    Seite& s = Seiten_[static_cast<std::size_t>(Felder().Berechnungsmodus)];
+    Seite& s = Seiten_[Felder().Berechnungsmodus];
     zeige_Ergebnisse(s);
     s.Flaeche->setEnabled(!Stand().abgedeckt);
     decke_zu();

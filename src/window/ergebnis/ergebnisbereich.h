@@ -36,8 +36,8 @@ private:
         std::vector<Diagrammflaeche*> Zusammenfassungen;  // one for each compound
     };
 
-    void erstelle_Seite(int m);
-    Diagrammflaeche* erstelle_Flaeche(bool Zusammenfassung, int Satz, Seite& s);
+    void erstelle_Seite(Stoffschema m);
+    Diagrammflaeche* erstelle_Flaeche(bool Zusammenfassung, int Nummer, Seite& s);
     Diagrammflaeche* Flaeche_vorn(const Seite& s) const;
     void zeige_Ergebnisse(Seite& s);
     void fuelle_Diagramme(const Seite& s);

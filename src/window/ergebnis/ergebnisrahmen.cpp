@@ -48,7 +48,7 @@ public:
 protected:
     void keyPressEvent(QKeyEvent* e) override {
         if (e->matches(QKeySequence::Copy)) {
-            kopiere_Auswahl(*this);
+            kopiere_Zellen(*this);
         } else {
             QTableWidget::keyPressEvent(e);
         }

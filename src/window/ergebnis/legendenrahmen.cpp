@@ -55,7 +55,7 @@ void Legendenrahmen::fuege_an(const QString& Name, const std::string& Text, cons
     Zeilen_.push_back({Schild, Strich, in_Qt(Text), Einzug});
 }
 
-void Legendenrahmen::zeige(const Legende& l, int Satz) {
+void Legendenrahmen::zeige(const Legende& l, int Nummer) {
     if (l == Inhalt_) return;
     Inhalt_ = l;
     for (const Zeile& z : Zeilen_) {
@@ -67,16 +67,16 @@ void Legendenrahmen::zeige(const Legende& l, int Satz) {
     const bool mehrfach = l.Art == Legendenart::mehrfach;
     for (std::size_t k = 0; k < l.Gruppen.size(); ++k) {
         const Legendengruppe& g = l.Gruppen[k];
-        if (mehrfach) fuege_an(Namen.at(k) + in_Qt(Satz), g.Titel, {}, nullptr, false);
+        if (mehrfach) fuege_an(Namen.at(k) + in_Qt(Nummer), g.Titel, {}, nullptr, false);
         for (std::size_t i = 0; i < g.Eintraege.size(); ++i) {
             const Legendeneintrag& e = g.Eintraege[i];
             if (l.Art == Legendenart::Zusammenfassung) {
-                const QString Endung = u"_Zusammenfassung_"_s + in_Qt(max_Studien * Satz + static_cast<int>(i));
+                const QString Endung = u"_Zusammenfassung_"_s + in_Qt(max_Studien * Nummer + static_cast<int>(i));
                 fuege_an(u"L_Studie"_s + Endung, e.Text, u"PEC_Linie"_s + Endung, &e.Linie, false);
                 continue;
             }
             const QString Art = i == 0 ? u"PEC"_s : u"TWA"_s;
-            const QString Endung = (mehrfach ? u"_mehrfach_"_s : u"_"_s) + in_Qt(Satz + static_cast<int>(k));
+            const QString Endung = (mehrfach ? u"_mehrfach_"_s : u"_"_s) + in_Qt(Nummer + static_cast<int>(k));
             fuege_an(u"L_"_s + Art + Endung, e.Text, Art + u"_Linie"_s + Endung, &e.Linie, mehrfach);
         }
     }

@@ -18,8 +18,8 @@ public:
     // `Endung`: "_4", "_mehrfach_3" or "_Zusammenfassung_2".
     Legendenrahmen(const QString& Endung, Flaechenort Heimat, QWidget* Flaeche);
 
-    // `Satz` is the index of the diagram, which the object names count on from.
-    void zeige(const Legende& l, int Satz);
+    // `Nummer` is the index of the diagram, which the object names count on from.
+    void zeige(const Legende& l, int Nummer);
     // As wide as the texts, up to a third of the surface, then texts end in dots; as high as the rows.
     void ordne(int Flaechenbreite, double Massstab);
 

@@ -18,19 +18,19 @@ namespace {
 using namespace Qt::StringLiterals;
 
 // A list that takes free input too.
-QComboBox* erstelle_Liste(const QString& Name, const QStringList& Eintraege, double Wert, QWidget* parent) {
+QComboBox* erstelle_Liste(const QString& Name, const QStringList& Eintraege, const std::string& Text, QWidget* parent) {
     auto* l = new Auswahlliste(Name, 8, parent);
     l->setEditable(true);
     l->setInsertPolicy(QComboBox::NoInsert);
     l->setCompleter(nullptr);  // "36" stays 36 and becomes no 365
     l->addItems(Eintraege);
-    l->setCurrentText(in_Qt(allgemeine_Zahl(Wert)));
+    l->setCurrentText(in_Qt(Text));
     return l;
 }
 
 }  // namespace
 
-Manuelle_Skalierung::Manuelle_Skalierung(double X_Start, double X_Ende, Annahme nimm_an, QWidget* parent)
+Manuelle_Skalierung::Manuelle_Skalierung(double X_Start, double X_Ende, char Dezimalzeichen, Annahme nimm_an, QWidget* parent)
     : QDialog(parent), nimm_an_(std::move(nimm_an)) {
     setObjectName(u"Manuelle_Skalierung"_s);
     setWindowTitle(u"Manual scaling"_s);
@@ -38,8 +38,8 @@ Manuelle_Skalierung::Manuelle_Skalierung(double X_Start, double X_Ende, Annahme 
     for (const int d : Skalierungsliste) Enden << in_Qt(d);
     QStringList Starts;
     for (int d = 0; d <= letzter_Startzeitpunkt; ++d) Starts << in_Qt(d);
-    Startzeitpunkt_ = erstelle_Liste(u"Startzeitpunkt"_s, Starts, X_Start, this);
-    Skalierung_X_Achse_ = erstelle_Liste(u"Skalierung_X_Achse"_s, Enden, X_Ende, this);
+    Startzeitpunkt_ = erstelle_Liste(u"Startzeitpunkt"_s, Starts, allgemeine_Zahl(X_Start, Dezimalzeichen), this);
+    Skalierung_X_Achse_ = erstelle_Liste(u"Skalierung_X_Achse"_s, Enden, allgemeine_Zahl(X_Ende, Dezimalzeichen), this);
 
     auto* Zeilen = new QFormLayout;
     Zeilen->setHorizontalSpacing(10);

@@ -15,7 +15,7 @@ public:
     // Takes start and end as typed; false for an end that is refused, after the user was told.
     using Annahme = std::function<bool(const std::string& Start, const std::string& Ende)>;
 
-    Manuelle_Skalierung(double X_Start, double X_Ende, Annahme nimm_an, QWidget* parent);
+    Manuelle_Skalierung(double X_Start, double X_Ende, char Dezimalzeichen, Annahme nimm_an, QWidget* parent);
 
     // Closes only if the values are accepted.
     void accept() override;

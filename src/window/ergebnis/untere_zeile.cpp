@@ -72,9 +72,9 @@ Untere_Zeile::Untere_Zeile(Sitzung& Programm, QWidget* parent)
 }
 
 void Untere_Zeile::zeige() {
-    Endpunkt_->button(Option_zu_Endpunkt(Felder().Endpunkt))->setChecked(true);
-    PEC_Typ_->button(Felder().PEC_Typ)->setChecked(true);
-    TWA_Laenge_->zeige(Programm_.TWA_Liste(), Felder().TWA_Laenge);
+    Endpunkt_->button(Option_zu_Endpunkt(Sicht().Endpunkt))->setChecked(true);
+    PEC_Typ_->button(Sicht().PEC_Typ)->setChecked(true);
+    TWA_Laenge_->zeige(Programm_.TWA_Liste(), Sicht().TWA_Laenge);
     Ergebnisdatei_->setText(in_Qt(Stand().Ergebnisdatei));
 }
 

@@ -63,8 +63,13 @@ void Auswahlliste::zeige(const QStringList& Eintraege, int Position) {
 }
 
 void Auswahlliste::zeige(const std::vector<std::string>& Eintraege, int Position) {
+    const std::vector<std::string_view> Texte(Eintraege.begin(), Eintraege.end());
+    zeige(Texte, Position);
+}
+
+void Auswahlliste::zeige(std::span<const std::string_view> Eintraege, int Position) {
     QStringList Texte;
-    for (const std::string& e : Eintraege) Texte << in_Qt(e);
+    for (const std::string_view e : Eintraege) Texte << in_Qt(e);
     zeige(Texte, Position);
 }
 

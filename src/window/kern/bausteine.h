@@ -10,7 +10,9 @@
 #include <QTabBar>
 #include <QTabWidget>
 #include <functional>
+#include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace varnok {
@@ -43,6 +45,7 @@ public:
 
     // Shows entries and selection; tells nobody.
     void zeige(const std::vector<std::string>& Eintraege, int Position);
+    void zeige(std::span<const std::string_view> Eintraege, int Position);
     void zeige(const QStringList& Eintraege, int Position);
     // A background of its own, an invalid colour for that of its surroundings.
     void faerbe(const QColor& Farbe);

@@ -16,17 +16,17 @@ using namespace Qt::StringLiterals;
 // The rows that a line takes within a width, broken at blanks where there are any.
 QStringList umbrochen(const QString& Zeile, const QFont& Schrift, int Breite) {
     if (Breite < 0 || Zeile.isEmpty()) return {Zeile};
-    QTextLayout Satz(Zeile, Schrift);
+    QTextLayout Umbruch(Zeile, Schrift);
     QTextOption Art;
     Art.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    Satz.setTextOption(Art);
+    Umbruch.setTextOption(Art);
     QStringList Reihen;
-    Satz.beginLayout();
-    for (QTextLine l = Satz.createLine(); l.isValid(); l = Satz.createLine()) {
+    Umbruch.beginLayout();
+    for (QTextLine l = Umbruch.createLine(); l.isValid(); l = Umbruch.createLine()) {
         l.setLineWidth(Breite);
         Reihen << Zeile.mid(l.textStart(), l.textLength()).trimmed();
     }
-    Satz.endLayout();
+    Umbruch.endLayout();
     return Reihen;
 }
 

@@ -52,6 +52,7 @@ protected:
     void horche_auf(Rahmen* Teil);
     const Zustand& Stand() const { return Programm_.Stand(); }
     const Eingabe& Felder() const { return Programm_.Stand().Felder(); }
+    const Ansicht& Sicht() const { return Stand().Sicht; }
     bool farbig() const { return Stand().Einstellung.Farbeinstellung == 0; }
 
     void paintEvent(QPaintEvent* e) override;

@@ -18,7 +18,7 @@ constexpr int Aufloesung_Zwischenablage = 192;
 
 }  // namespace
 
-void kopiere_Auswahl(const QTableWidget& Tafel) {
+void kopiere_Zellen(const QTableWidget& Tafel) {
     QStringList Zeilen;
     QString Html = u"<table>"_s;
     const auto Bereiche = Tafel.selectedRanges();

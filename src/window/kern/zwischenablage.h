@@ -10,7 +10,7 @@ namespace varnok {
 
 // Copies the selected cells as tab separated lines and as a table for word processors, each cell without the
 // blanks around it.
-void kopiere_Auswahl(const QTableWidget& Tafel);
+void kopiere_Zellen(const QTableWidget& Tafel);
 
 // Copies a picture as pixels and as SVG.
 void kopiere_Bild(const Zeichenliste& z, const QString& Titel);

@@ -14,7 +14,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-enum Menuename { Datei, editieren, Ansicht, Hilfe };
+enum Menuename { Datei, editieren, ansehen, Hilfe };
 
 struct Menuezeile {
     const char16_t* Name;
@@ -47,8 +47,8 @@ constexpr std::array<Befehlszeile, 16> Befehle = {{
     {editieren, u"M_Addiere", u"&Add study", &Sitzung::addiere_Studie, u"", false, &Sitzung::darf_Studie_addieren},
     {editieren, u"M_Loesche", u"&Delete study", &Sitzung::loesche_Studie, u"", false, &Sitzung::darf_Studie_loeschen},
     {editieren, u"M_Optionen", u"&Preferences", nullptr, u"", true},
-    {Ansicht, u"M_Studien", u"&Individual studies", &Sitzung::zeige_Studien},
-    {Ansicht, u"M_Zusammenfassung", u"&Summary", &Sitzung::zeige_Zusammenfassung, u"", false, &Sitzung::darf_Zusammenfassung},
+    {ansehen, u"M_Studien", u"&Individual studies", &Sitzung::zeige_Studien},
+    {ansehen, u"M_Zusammenfassung", u"&Summary", &Sitzung::zeige_Zusammenfassung, u"", false, &Sitzung::darf_Zusammenfassung},
     {Hilfe, u"M_suche_nach_Update", u"&Onlinecheck for updates", &Sitzung::suche_nach_Update, u"", false,
      &Sitzung::darf_nach_Update_suchen},
     {Hilfe, u"M_Versionsinfo", u"&Release notes"},

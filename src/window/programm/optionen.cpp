@@ -10,6 +10,7 @@
 #include <QTreeView>
 #include <QVBoxLayout>
 
+#include "exposure/bezeichnungen.h"
 #include "painting/qt_text.h"
 #include "window/kern/bausteine.h"
 #include "window/programm/ordnerwahl.h"
@@ -25,14 +26,14 @@ constexpr std::array<const char16_t*, 6> Namensteile = {u"Product", u"Soil Study
 QString woertlich(QString Text) { return Text.replace(u"&"_s, u"&&"_s); }
 
 // A frame with options of which one is on; their object names are `Name` and their number.
-struct Auswahlkasten {
+struct Optionskasten {
     QGroupBox* Kasten;
     QButtonGroup* Gruppe;
 };
 enum class Lage { nebeneinander, untereinander };
 
-Auswahlkasten erstelle_Auswahl(const QString& Name, const QString& Titel, const QStringList& Texte, int gewaehlt, Lage l,
-                               QWidget* parent) {
+Optionskasten erstelle_Optionskasten(const QString& Name, const QString& Titel, const QStringList& Texte, int gewaehlt, Lage l,
+                                     QWidget* parent) {
     const bool Spalte = l == Lage::untereinander;
     auto* Kasten = new QGroupBox(Titel, parent);
     auto* Gruppe = new QButtonGroup(Kasten);
@@ -74,13 +75,14 @@ Optionen::Optionen(Sitzung& Programm, QWidget* parent) : QDialog(parent), Progra
 QVBoxLayout* Optionen::erstelle_Satzspalte(const Optionsentwurf& o) {
     const Einstellungen& e = Programm_.Stand().Einstellung;
     const QStringList Fensterlisten = {woertlich(in_Qt(e.TWA_Titel_Monat)), woertlich(in_Qt(e.TWA_Titel_EU))};
-    const Auswahlkasten Einheit = erstelle_Auswahl(u"Einheit"_s, u"Concentration expressed in:"_s, {u"mg"_s, u"µg"_s}, o.Einheit,
-                                                   Lage::untereinander, this);
-    const Auswahlkasten Rueckstaende = erstelle_Auswahl(
+    const Optionskasten Einheit =
+        erstelle_Optionskasten(u"Einheit"_s, u"Concentration expressed in:"_s,
+                               {in_Qt(Masseneinheiten[0]), in_Qt(Masseneinheiten[1])}, o.Einheit, Lage::untereinander, this);
+    const Optionskasten Rueckstaende = erstelle_Optionskasten(
         u"Separate_Rueckstaende"_s, u"Separate consideration of  residues from different applications:"_s,
         {u"No"_s, u"Yes"_s, u"Yes, but only within a year"_s}, o.Separate_Rueckstaende, Lage::untereinander, this);
-    const Auswahlkasten TWA = erstelle_Auswahl(u"TWA_Zeiten"_s, u"TWA durations according to:"_s, Fensterlisten, o.TWA_Zeiten,
-                                               Lage::untereinander, this);
+    const Optionskasten TWA = erstelle_Optionskasten(u"TWA_Zeiten"_s, u"TWA durations according to:"_s, Fensterlisten,
+                                                     o.TWA_Zeiten, Lage::untereinander, this);
     Einheit_ = Einheit.Gruppe;
     Separate_Rueckstaende_ = Rueckstaende.Gruppe;
     TWA_Zeiten_ = TWA.Gruppe;
@@ -114,11 +116,11 @@ QGroupBox* Optionen::erstelle_Namensteile(const Optionsentwurf& o) {
 }
 
 QVBoxLayout* Optionen::erstelle_Programmspalte(const Optionsentwurf& o) {
-    const Auswahlkasten Tips =
-        erstelle_Auswahl(u"Tips_anzeigen"_s, u"Show tooltips"_s, {u"No"_s, u"Yes"_s}, o.Tips_anzeigen, Lage::nebeneinander, this);
-    const Auswahlkasten Farben =
-        erstelle_Auswahl(u"Farbeinstellung"_s, u"Appearance:"_s, {u"Coloured forms"_s, u"Standard windows forms"_s},
-                         o.Farbeinstellung, Lage::nebeneinander, this);
+    const Optionskasten Tips = erstelle_Optionskasten(u"Tips_anzeigen"_s, u"Show tooltips"_s, {u"No"_s, u"Yes"_s},
+                                                      o.Tips_anzeigen, Lage::nebeneinander, this);
+    const Optionskasten Farben =
+        erstelle_Optionskasten(u"Farbeinstellung"_s, u"Appearance:"_s, {u"Coloured forms"_s, u"Standard windows forms"_s},
+                               o.Farbeinstellung, Lage::nebeneinander, this);
     Tips_anzeigen_ = Tips.Gruppe;
     Farbeinstellung_ = Farben.Gruppe;
     auto* Sprache = new Auswahlliste(u"Sprache"_s, 12, this);

@@ -87,7 +87,7 @@ void Ordnerwahl::erstelle_Laufwerksliste(const QString& Name, const QStringList&
         if (Pfad_.startsWith(Laufwerke.at(i))) gewaehltes = i;
     }
     Liste->zeige(Laufwerke, gewaehltes);
-    Baum_->setRootIndex(Ordner_->index(Liste->currentText()));
+    Baum_->setRootIndex(Ordner_->index(Laufwerke.at(gewaehltes)));
     layout()->addWidget(Liste);
     Laufwerk_ = Liste;
     connect(Liste, &QComboBox::activated, this, [this, Laufwerke](int i) {

@@ -43,7 +43,7 @@ QPushButton* Dialogtaste(const QString& Name, const QString& Aufschrift, QWidget
 }
 
 Organiserzeile::Organiserzeile(Satzart Art, Sitzung& Programm, QWidget* parent)
-    : Rahmen(u"Organiserzeile_"_s + in_Qt(Art), Zeilenarten[Art].Art, Programm, parent), Satz_(Art) {
+    : Rahmen(u"Organiserzeile_"_s + in_Qt(Art), Zeilenarten[Art].Art, Programm, parent), Satzart_(Art) {
     const Zeilenart& z = Zeilenarten[Art];
     Liste_ = new Auswahlliste(QString::fromUtf16(z.Liste), 28, this);
     Neuer_Dateiname_ = new Umbenennfeld(u"Neuer_Dateiname_"_s + in_Qt(Art), *Liste_);
@@ -68,7 +68,7 @@ Organiserzeile::Organiserzeile(Satzart Art, Sitzung& Programm, QWidget* parent)
 
 // Four buttons of one caption: what they act on is in the name that is read out.
 QPushButton* Organiserzeile::erstelle_Taste(const char16_t* Name, const QString& Aufschrift) {
-    const Zeilenart& z = Zeilenarten[Satz_];
+    const Zeilenart& z = Zeilenarten[Satzart_];
     QPushButton* t = Dialogtaste(QString::fromUtf16(Name) + QString::fromUtf16(z.Endung), Aufschrift, this);
     t->setAccessibleName(Aufschrift + u' ' + QString::fromUtf16(z.Gegenstand));
     return t;
@@ -104,7 +104,8 @@ void Organiserzeile::haenge_an(const QString& Aufschrift, QWidget* Feld) {
 void Organiserzeile::verbinde_Tasten() {
     connect(Liste_, &QComboBox::activated, this, [this](int i) {
         handle([&] {
-            Programm_.organisiere([&](Organiser& o) { Satz_ == Simulation ? o.waehle_Simulation(i) : o.waehle_Satz(Satz_, i); });
+            Programm_.organisiere(
+                [&](Organiser& o) { Satzart_ == Simulation ? o.waehle_Simulation(i) : o.waehle_Satz(Satzart_, i); });
         });
     });
     connect(Copy_, &QPushButton::clicked, this, &Organiserzeile::kopiere);
@@ -114,8 +115,8 @@ void Organiserzeile::verbinde_Tasten() {
 
 void Organiserzeile::verbinde_Bedienung() {
     auto* Bedienung = new Listenbedienung(*Liste_, [this] {
-        const bool da = Programm_.Organisation().darf_kopieren(Satz_);
-        return Listenbedienung::Rechte{false, da, da, Programm_.Organisation().darf_loeschen(Satz_)};
+        const bool da = Programm_.Organisation().darf_kopieren(Satzart_);
+        return Listenbedienung::Rechte{false, da, da, Programm_.Organisation().darf_loeschen(Satzart_)};
     });
     connect(Bedienung, &Listenbedienung::kopieren, this, &Organiserzeile::kopiere);
     connect(Bedienung, &Listenbedienung::loeschen, this, &Organiserzeile::loesche);
@@ -124,21 +125,23 @@ void Organiserzeile::verbinde_Bedienung() {
 }
 
 void Organiserzeile::kopiere() {
-    handle([this] { Programm_.organisiere([this](Organiser& o) { o.kopiere(Satz_); }); });
+    handle([this] { Programm_.organisiere([this](Organiser& o) { o.kopiere(Satzart_); }); });
 }
 
 void Organiserzeile::loesche() {
-    handle([this] { Programm_.organisiere([this](Organiser& o) { o.loesche(Satz_); }); });
+    handle([this] { Programm_.organisiere([this](Organiser& o) { o.loesche(Satzart_); }); });
 }
 
-void Organiserzeile::beginne_Umbenennen() { Neuer_Dateiname_->oeffne(in_Qt(Programm_.Organisation().Listen().gewaehlt(Satz_))); }
+void Organiserzeile::beginne_Umbenennen() {
+    Neuer_Dateiname_->oeffne(in_Qt(Programm_.Organisation().Listen().gewaehlt(Satzart_)));
+}
 
 // A name that was refused can be corrected while the box has the focus; left, it is given up.
 bool Organiserzeile::benenne_um(bool Enter) {
     const std::string Text = aus_Qt(Neuer_Dateiname_->text());
     if (!Enter) Neuer_Dateiname_->schliesse();
     bool fertig = false;
-    handle([&] { Programm_.organisiere([&](Organiser& o) { fertig = o.benenne_um(Satz_, Text, Enter); }); });
+    handle([&] { Programm_.organisiere([&](Organiser& o) { fertig = o.benenne_um(Satzart_, Text, Enter); }); });
     if (fertig) {
         Neuer_Dateiname_->schliesse();
     } else if (Enter) {
@@ -153,10 +156,10 @@ bool Organiserzeile::schliesse_Umbenennen() { return !Neuer_Dateiname_->isVisibl
 void Organiserzeile::zeige() {
     const Organiser& o = Programm_.Organisation();
     faerbe();
-    Liste_->zeige(o.Listen().Listen[Satz_], o.Listen().Auswahl[Satz_]);
-    Copy_->setEnabled(o.darf_kopieren(Satz_));
-    Umbenennen_->setEnabled(o.darf_kopieren(Satz_));
-    Loeschen_->setEnabled(o.darf_loeschen(Satz_));
+    Liste_->zeige(o.Listen().Listen[Satzart_], o.Listen().Auswahl(Satzart_));
+    Copy_->setEnabled(o.darf_kopieren(Satzart_));
+    Umbenennen_->setEnabled(o.darf_kopieren(Satzart_));
+    Loeschen_->setEnabled(o.darf_loeschen(Satzart_));
 }
 
 }  // namespace varnok

@@ -39,7 +39,7 @@ private:
     void beginne_Umbenennen();
     bool benenne_um(bool Enter);
 
-    Satzart Satz_;
+    Satzart Satzart_;
     QGridLayout* Raster_;
     Auswahlliste* Liste_;
     Umbenennfeld* Neuer_Dateiname_;

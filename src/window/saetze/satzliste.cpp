@@ -59,7 +59,7 @@ void Satzliste::benenne_um(bool Enter) {
 
 void Satzliste::zeige() {
     const Zustand& z = Programm_.Stand();
-    Liste->zeige(z.Listen[Art_], z.Auswahl[Art_]);
+    Liste->zeige(z.Listen[Art_], z.Auswahl(Art_));
     Copy->setEnabled(Programm_.darf_kopieren(Art_));
     Loeschen->setEnabled(Programm_.darf_loeschen(Art_));
 }

@@ -88,7 +88,7 @@ bool Szenariorahmen::eventFilter(QObject* Quelle, QEvent* e) {
 void Szenariorahmen::zeige() {
     Satz_->zeige();
     Bodenszenario_->zeige(in_Qt(Felder().Bodenszenario));
-    Klimaszenario_->zeige(in_Qt(Felder().Klimaszenario));
+    Klimaszenario_->zeige(in_Qt(Klimatext(Felder())));
 }
 
 }  // namespace varnok

@@ -10,7 +10,7 @@ namespace {
 using Auswahlprobe = Probesitzung;
 
 float Reihe(const Sitzung& s, int Studie, int Stoff, std::size_t Tag) {
-    return s.Stand().Rechnung.Speicher.Reihe_Bodentiefe(0, Studie, Stoff, 0)[Tag];
+    return s.Stand().zeige().Studie(Studie).Werte(Gesamtgehalt, Stoff).Reihe_Bodentiefe[Tag];
 }
 
 TEST_F(Auswahlprobe, another_kinetics_stores_its_code_marks_the_record_and_runs) {
@@ -60,7 +60,7 @@ TEST_F(Auswahlprobe, a_change_of_study_keeps_the_mark_of_the_compound_record) {
 }
 
 TEST_F(Auswahlprobe, a_field_edits_its_own_compound_whatever_was_calculated_last) {
-    Felder_.Berechnungsmodus = 1;
+    Felder_.Berechnungsmodus = ein_Metabolit;
     schreibe_Probe();
     gestartet();
     ASSERT_TRUE(tippe("S_DT50_0", "12"));
@@ -86,16 +86,16 @@ TEST_F(Auswahlprobe, another_scheme_ends_the_summary_view) {
 }
 
 TEST_F(Auswahlprobe, a_compound_that_the_scheme_does_not_have_leaves_the_view) {
-    Felder_.Berechnungsmodus = 2;
+    Felder_.Berechnungsmodus = zwei_parallel;
     schreibe_Probe();
     gestartet();
     s_->waehle_Substanz(2);
     s_->waehle_Berechnungsmodus(1);
-    EXPECT_EQ(s_->Stand().Felder().Substanz, 0);
+    EXPECT_EQ(s_->Stand().Sicht.Substanz, 0);
 }
 
 TEST_F(Auswahlprobe, a_compound_in_view_marks_nothing) {
-    Felder_.Berechnungsmodus = 1;
+    Felder_.Berechnungsmodus = ein_Metabolit;
     schreibe_Probe();
     gestartet();
     s_->waehle_Substanz(1);
@@ -134,7 +134,7 @@ TEST_F(Auswahlprobe, more_applications_shorten_the_list_of_intervals_and_keep_th
     EXPECT_EQ(s_->Intervalle_der_Liste(), 18);
     EXPECT_EQ(s_->Stand().Felder().Intervall(), 18);
     EXPECT_EQ(s_->Stand().Geaendert[2], Marke);
-    EXPECT_EQ(s_->Stand().Rechnung.Speicher.Anzahl_pro_Jahr, 20);
+    EXPECT_EQ(Werte().Anzahl_pro_Jahr, 20);
 }
 
 TEST_F(Auswahlprobe, an_interval_ends_the_summary_view) {
@@ -144,7 +144,7 @@ TEST_F(Auswahlprobe, an_interval_ends_the_summary_view) {
     s_->zeige_Zusammenfassung();
     s_->waehle_Intervall(6);
     EXPECT_FALSE(s_->Stand().Zusammenfassung_aktiv);
-    EXPECT_EQ(s_->Stand().Rechnung.Speicher.Applikationstag[2], 7);
+    EXPECT_EQ(Werte().Applikationstag[1], 7);
 }
 
 TEST_F(Auswahlprobe, the_summary_view_runs_every_study_and_keeps_the_selection) {
@@ -174,7 +174,7 @@ TEST_F(Auswahlprobe, in_the_summary_view_a_rate_scales_all_studies) {
 }
 
 TEST_F(Auswahlprobe, in_the_summary_view_a_formation_fraction_runs_all_studies) {
-    Felder_.Berechnungsmodus = 1;
+    Felder_.Berechnungsmodus = ein_Metabolit;
     schreibe_Probe();
     gestartet();
     s_->zeige_Zusammenfassung();
@@ -213,9 +213,18 @@ TEST_F(Auswahlprobe, the_accumulated_view_with_every_third_year_adds_a_third_of_
     gestartet();
     s_->waehle_PEC_Typ(2);
     s_->waehle_Fruchtwechsel(2);
-    const auto& Speicher = s_->Stand().Rechnung.Speicher;
-    const double erwartet = Speicher.Maximum_Bodentiefe[0][0][0] + static_cast<double>(Speicher.Plateauwert[0][0][0]) / 3;
+    const double erwartet = Maximum() + static_cast<double>(Werte().Werte(Gesamtgehalt, 0).Plateauwert) / 3;
     EXPECT_EQ(s_->Ergebnisse(0)[1][1], Formatiere_Zahl(erwartet, false, true, 0));
+}
+
+// Results of a scheme without the compound: nothing of it is known.
+TEST_F(Auswahlprobe, a_table_of_a_compound_that_was_not_calculated_shows_zeros) {
+    gestartet();
+    EXPECT_NE(s_->Ergebnisse(0)[1][1], "<0.0001");
+    EXPECT_EQ(s_->Ergebnisse(1)[1][1], "<0.0001");
+    const auto Zusammenfassung = s_->Ergebnisse_Zusammenfassung(0);  // the second study was not run
+    EXPECT_EQ(Zusammenfassung[1][1], "    " + s_->Ergebnisse(0)[1][1]);
+    EXPECT_EQ(Zusammenfassung[1][2], "    <0.0001");
 }
 
 TEST_F(Auswahlprobe, result_rows_are_13_with_the_EU_list_and_15_with_the_monthly_list) {
@@ -238,7 +247,7 @@ protected:
         gestartet();
     }
     std::string Text(int Zeile, int Spalte) const {
-        return s_->Stand().Felder().Applikationsschema[static_cast<std::size_t>(Zeile)][static_cast<std::size_t>(Spalte)];
+        return s_->Stand().Felder().Applikationsschema[static_cast<std::size_t>(Zeile)][static_cast<std::size_t>(Spalte)].Text();
     }
 };
 
@@ -258,7 +267,7 @@ TEST_F(Tabellenprobe, enter_checks_once_and_makes_one_run) {
     const int Laeufe = s_->Stand().Zeichnung;
     s_->bestaetige_Tabelle();
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe + 1);
-    EXPECT_EQ(s_->Stand().Rechnung.Speicher.Tagesrate[31], 1000.0F);
+    EXPECT_EQ(Werte().Tagesrate[31], 1000.0F);
 }
 
 TEST_F(Tabellenprobe, an_empty_month_is_told_once_and_its_cell_selected) {

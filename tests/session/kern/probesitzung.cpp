@@ -28,7 +28,6 @@ Probesitzung::Probesitzung() : Wurzel_(neuer_Ordner()) {
     Parameter_.Kohlenstoffgehalt = 1;
     Parameter_.Feldkapazitaet = 30;
     Parameter_.Welkepunkt = 10;
-    Parameter_.Anzahl_Studien = 2;
     Parameter_.KOC = fuer_alle(100.0);
     Felder_.Studie = {"First soil", "Second soil"};
     Felder_.Name_Wirkstoff = "Parent P";
@@ -50,15 +49,19 @@ Probesitzung::~Probesitzung() {
 }
 
 void Probesitzung::schreibe_Probe() {
+    schreibe_Saetze("Probe", Felder_);
+    schreibe_Simulation(Projektordner(Wurzel_.string()), "Probe", {"A trial", {"", "Probe", "Probe", "Probe"}});
+}
+
+void Probesitzung::schreibe_Saetze(const std::string& Name, const Eingabe& e) const {
     const Projektordner Ordner(Wurzel_.string());
-    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) Satz_schreiben(Ordner, "Probe", Art, Parameter_, Felder_);
-    schreibe_Simulation(Ordner, "Probe", {"A trial", {"", "Probe", "Probe", "Probe"}});
+    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) Satz_schreiben(Ordner, Name, Art, e, Sicht_);
 }
 
 Sitzung& Probesitzung::nur_geladen() {
     s_.reset();  // of two windows on one folder the second would ask
     s_ = std::make_unique<Sitzung>(Umgebung{&Fragen_, Wurzel_.string(), "", '.'});
-    EXPECT_TRUE(s_->starte());
+    EXPECT_TRUE(s_->oeffne_Projekt());
     return *s_;
 }
 
@@ -83,9 +86,10 @@ bool Probesitzung::tippe(const std::string& Objektname, const std::string& Text)
     return s_->verlasse_Feld(f);
 }
 
+const Ergebnis& Probesitzung::Werte(int i_studie) const { return s_->Stand().zeige().Studie(i_studie); }
+
 float Probesitzung::Maximum(int i_studie, int i_substanz) const {
-    return s_->Stand()
-        .Rechnung.Speicher.Maximum_Bodentiefe[0][static_cast<std::size_t>(i_studie)][static_cast<std::size_t>(i_substanz)];
+    return Werte(i_studie).Werte(Gesamtgehalt, i_substanz).Maximum_Bodentiefe;
 }
 
 }  // namespace varnok

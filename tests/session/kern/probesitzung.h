@@ -19,6 +19,8 @@ protected:
     Sitzung& nur_geladen();
 
     void schreibe_Probe();
+    // The three records of an input under one name.
+    void schreibe_Saetze(const std::string& Name, const Eingabe& e) const;
     std::string Datei(const std::string& Name) const;
     bool gibt_es(const std::string& Name) const { return std::filesystem::exists(Wurzel_ / Name); }
 
@@ -26,12 +28,15 @@ protected:
     bool tippe(const std::string& Objektname, const std::string& Text);
     static int Feld(const std::string& Objektname);
 
+    // Results as they are shown.
+    const Ergebnis& Werte(int i_studie = 0) const;
     float Maximum(int i_studie = 0, int i_substanz = 0) const;
 
     std::filesystem::path Wurzel_;
     Drehbuch Fragen_;
-    Laufparameter Parameter_;  // of the record "Probe"
-    Eingabe Felder_;
+    Eingabe Felder_;  // of the record "Probe"
+    Laufparameter& Parameter_ = Felder_.Parameter;
+    Ansicht Sicht_;  // written with the records, too
     std::unique_ptr<Sitzung> s_;
 };
 

@@ -25,7 +25,7 @@ protected:
 
     Sitzung& geladene() {
         s_ = std::make_unique<Sitzung>(Umgebung{&Fragen_, Wurzel_.string(), "", '.', nullptr, {Ziel_, &Netz_, &Tausch_}});
-        EXPECT_TRUE(s_->starte());
+        EXPECT_TRUE(s_->oeffne_Projekt());
         return *s_;
     }
     Sitzung& gestartete() {

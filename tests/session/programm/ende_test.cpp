@@ -31,10 +31,10 @@ TEST_F(Ende, asks_for_the_changed_record_and_saves_on_yes) {
     Fragen_.erwarte("Save changes?", Frage_nach("pesticide"), Knopf::Ja);
     s_->Ende();
     EXPECT_TRUE(s_->Stand().beendet);
-    Laufparameter p;
     Eingabe e;
-    Satz_lesen(Projektordner(Wurzel_.string()), "Probe", Wirkstoff, p, e);
-    EXPECT_NEAR(Halbwertszeit(p.k_SFO[0][0]), 12, 1e-12);
+    Ansicht a;
+    Satz_lesen(Projektordner(Wurzel_.string()), "Probe", Wirkstoff, e, a);
+    EXPECT_NEAR(Halbwertszeit(e.Parameter.k_SFO[0][0]), 12, 1e-12);
 }
 
 TEST_F(Ende, leaves_the_record_alone_on_no) {

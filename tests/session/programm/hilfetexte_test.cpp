@@ -30,7 +30,7 @@ TEST_F(Hilfe, tips_are_read_anew_each_time) {
 
 TEST_F(Hilfe, tips_of_a_project_without_them_are_those_of_the_installed_data) {
     Sitzung s({&Fragen_, Wurzel_.string(), VARNOK_DATENORDNER, '.'});
-    EXPECT_TRUE(s.starte());
+    EXPECT_TRUE(s.oeffne_Projekt());
     EXPECT_EQ(s.Tooltips().size(), Anzahl_Tooltips);
 }
 

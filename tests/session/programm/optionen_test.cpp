@@ -100,13 +100,13 @@ TEST_F(Optionsprobe, a_changed_unit_is_asked_about_at_the_end) {
 // Degradation that slows down with time starts anew, and fast, for a residue that a dose is added to; each on its own the
 // old ones go on slowly. With one dose a year "within a year" starts all of them anew, too.
 TEST_F(Optionsprobe, separate_residues_of_slowing_kinetics_last_longer) {
-    Parameter_.Kinetik = fuer_alle(0.0);
+    Parameter_.Kinetik = fuer_alle(SFO);
     Parameter_.Kinetik[0].fill(FOMC);
     Parameter_.alpha_FOMC.fill(0.5);
     Parameter_.beta_FOMC.fill(5);
     schreibe_Probe();
     gestartet();
-    const auto letzter = [&] { return s_->Stand().Rechnung.Speicher.Reihe_Plateautiefe(0, 0, 0, 0)[3640]; };
+    const auto letzter = [&] { return Werte().Werte(Gesamtgehalt, 0).Reihe_Plateautiefe[3640]; };
     bestaetige([](Optionsentwurf& o) { o.Separate_Rueckstaende = 2; });
     const float innerhalb_des_Jahres = letzter();
     EXPECT_TRUE(s_->Stand().Geaendert[Wirkstoff]);
@@ -128,29 +128,29 @@ TEST_F(Optionsprobe, the_monthly_list_brings_its_windows_its_rows_and_its_first_
     EXPECT_EQ(s_->Ergebnisse(0).size(), 15U);
     EXPECT_EQ(s_->TWA_Liste().size(), 12U);
     EXPECT_EQ(s_->TWA_Liste().front(), "TWA (30 d)");
-    EXPECT_EQ(s_->Stand().Felder().TWA_Laenge, 0);
+    EXPECT_EQ(s_->Stand().Sicht.TWA_Laenge, 0);
     EXPECT_TRUE(s_->Stand().Geaendert[Wirkstoff]);
     EXPECT_FALSE(s_->Stand().abgedeckt);
     EXPECT_FALSE(s_->Stand().Hinweis);
     // The mean of 30 days from the peak on, with k = 0.01: c (1 - exp(-0.3)) / 0.3.
-    EXPECT_NEAR(s_->Stand().Rechnung.Speicher.TWA_Maximum[0][0][0][1], 1.3333334 * (1 - std::exp(-0.3)) / 0.3, 1e-4);
+    EXPECT_NEAR(Werte().Werte(Gesamtgehalt, 0).TWA[0].Maximum, 1.3333334 * (1 - std::exp(-0.3)) / 0.3, 1e-4);
     bestaetige([](Optionsentwurf& o) { o.TWA_Zeiten = 1; });
     EXPECT_EQ(s_->Ergebnisse(0).size(), 13U);
     EXPECT_EQ(s_->TWA_Liste().size(), 10U);
-    EXPECT_EQ(s_->Stand().Felder().TWA_Laenge, 6);  // 28 days
+    EXPECT_EQ(s_->Stand().Sicht.TWA_Laenge, 6);  // 28 days
     s_->Speichern();
     EXPECT_EQ(Zeile("input/Probe.che", "TWA according"), "TWA according to EU:\t1");
 }
 
 TEST_F(Optionsprobe, the_list_of_a_compound_record_comes_with_it) {
-    Laufparameter p = Parameter_;
-    p.TWA_Zeiten = 0;
-    Satz_schreiben(Projektordner(Wurzel_.string()), "Monthly", Wirkstoff, p, Felder_);
+    Eingabe e = Felder_;
+    e.Parameter.TWA_Zeiten = 0;
+    Satz_schreiben(Projektordner(Wurzel_.string()), "Monthly", Wirkstoff, e, Sicht_);
     gestartet();
     s_->waehle_Satz(Wirkstoff, 0);
     ASSERT_EQ(s_->Stand().gewaehlt(Wirkstoff), "Monthly");
     EXPECT_EQ(s_->TWA_Liste().size(), 12U);
-    EXPECT_EQ(s_->Stand().Felder().TWA_Laenge, 0);
+    EXPECT_EQ(s_->Stand().Sicht.TWA_Laenge, 0);
     EXPECT_EQ(s_->oeffne_Optionen().TWA_Zeiten, 0);
 }
 

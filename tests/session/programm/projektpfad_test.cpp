@@ -77,12 +77,11 @@ TEST_F(Projektpfad, output_goes_to_the_new_project_at_once) {
 
 TEST_F(Projektpfad, records_climate_and_backup_stay_with_the_old_project) {
     gestartet();
-    Laufparameter p = Parameter_;
-    p.Klimamodus = 1;
     Eingabe e = Felder_;
+    e.Parameter.Klimamodus = 1;
     e.Klimaszenario = "Temperate site";
     std::filesystem::copy(std::filesystem::path(VARNOK_DATENORDNER) / "input/Temperate site.cli", Wurzel_ / "input");
-    Satz_schreiben(Projektordner(Wurzel_.string()), "Weather", Szenario, p, e);
+    Satz_schreiben(Projektordner(Wurzel_.string()), "Weather", Szenario, e, Sicht_);
     nur_geladen().Starten();
     waehle_Projekt("new");
     s_->waehle_Satz(Szenario, 1);
@@ -169,12 +168,12 @@ TEST_F(Projektpfad, the_next_start_is_in_the_new_project) {
 
     const Umgebung Welt{&Fragen_, Wurzel_.string(), VARNOK_DATENORDNER, '.'};
     Fragen_.erwarte("Data file missing", Vorgaben_fehlen, Knopf::Ja).erwarte("Default settings", Vorgaben_geladen);
-    EXPECT_FALSE(Sitzung(Welt).starte());
+    EXPECT_FALSE(Sitzung(Welt).oeffne_Projekt());
     EXPECT_FALSE(gibt_es("input/Programcheck.vnk"));
     EXPECT_EQ(Datei("new/input/Programcheck.vnk"), "Programcheck\r\nProgramcheck\r\nProgramcheck\r\nProgramcheck\r\n");
 
     Sitzung drittes(Welt);
-    EXPECT_TRUE(drittes.starte());
+    EXPECT_TRUE(drittes.oeffne_Projekt());
     EXPECT_EQ(drittes.Stand().Projektpfad, (Wurzel_ / "new").string());
     EXPECT_EQ(drittes.Stand().Listen[Wirkstoff], std::vector<std::string>{"Programcheck"});
 }
@@ -187,7 +186,7 @@ TEST_F(Projektpfad, the_defaults_of_a_new_project_come_from_the_program_folder_t
     waehle_Projekt("new");
     s_->Ende();
     Fragen_.erwarte("Data file missing", Vorgaben_fehlen, Knopf::Ja).erwarte("Default settings", Vorgaben_geladen);
-    EXPECT_FALSE(Sitzung({&Fragen_, Wurzel_.string(), "", '.'}).starte());
+    EXPECT_FALSE(Sitzung({&Fragen_, Wurzel_.string(), "", '.'}).oeffne_Projekt());
     EXPECT_EQ(Datei("new/input/Programcheck.sce"), Datei("input/Do not delete this file.scn"));
 }
 

@@ -17,7 +17,7 @@ TEST_F(Start, without_a_settings_file_writes_one_with_the_defaults) {
     nur_geladen();
     const auto e = zerlege_Einstellungen(Datei(Einstellungsdatei));
     ASSERT_TRUE(e);
-    EXPECT_EQ(e->TWA_Liste_EU, Einstellungen().TWA_Liste_EU);
+    EXPECT_EQ(e->TWA.EU, Einstellungen().TWA.EU);
     EXPECT_EQ(e->Projektpfad, Wurzel_.string());
 }
 
@@ -47,7 +47,7 @@ TEST_F(Start, without_a_simulation_offers_the_defaults_and_ends_on_no) {
     std::filesystem::remove(Wurzel_ / "input/Probe.vnk");
     Fragen_.erwarte("Data file missing", "Input files are missing. Should the default settings be loaded ", Knopf::Nein);
     Sitzung s({&Fragen_, Wurzel_.string(), "", '.'});
-    EXPECT_FALSE(s.starte());
+    EXPECT_FALSE(s.oeffne_Projekt());
     EXPECT_FALSE(gibt_es("input/Programcheck.vnk"));
 }
 
@@ -58,7 +58,7 @@ TEST_F(Start, without_a_simulation_restores_the_defaults_on_yes_and_ends) {
                  "The default parameters have been loaded and VARNOK will now quit.\n"
                  "The settings become available after the next program call.");
     Sitzung s({&Fragen_, Wurzel_.string(), VARNOK_DATENORDNER, '.'});
-    EXPECT_FALSE(s.starte());
+    EXPECT_FALSE(s.oeffne_Projekt());
     EXPECT_TRUE(gibt_es("input/Programcheck.che"));
     EXPECT_EQ(Datei("input/Programcheck.vnk"), "Programcheck\r\nProgramcheck\r\nProgramcheck\r\nProgramcheck\r\n");
 }
@@ -67,7 +67,7 @@ TEST_F(Start, with_a_missing_record_asks_by_the_name_without_extension) {
     std::filesystem::remove(Wurzel_ / "input/Probe.sce");
     Fragen_.erwarte("Data file missing", "File Probe is missing. Should the default settings be loaded ", Knopf::Nein);
     Sitzung s({&Fragen_, Wurzel_.string(), "", '.'});
-    EXPECT_FALSE(s.starte());
+    EXPECT_FALSE(s.oeffne_Projekt());
 }
 
 TEST_F(Start, with_a_short_summary_tells_and_takes_the_next_newest) {
@@ -75,15 +75,30 @@ TEST_F(Start, with_a_short_summary_tells_and_takes_the_next_newest) {
     const auto spaeter = std::filesystem::last_write_time(Wurzel_ / "input/Probe.vnk") + std::chrono::seconds(5);
     std::filesystem::last_write_time(Wurzel_ / "input/Torn.vnk", spaeter);
     Fragen_.erwarte("Runtime error", "File Torn.vnk, line 2: the file ends before the name of the compound record");
-    EXPECT_EQ(nur_geladen().Stand().Felder().Aktuelle_Dateinamen[0], "Probe");
+    EXPECT_EQ(nur_geladen().Stand().Namen[0], "Probe");
 }
 
 TEST_F(Start, before_ok_nothing_is_computed) {
     nur_geladen();
     EXPECT_FALSE(s_->Stand().Gestartet);
-    EXPECT_EQ(Maximum(), 0.0F);
+    EXPECT_EQ(s_->Stand().Werte, Ergebnisse());
     s_->Aktualisieren();
-    EXPECT_EQ(Maximum(), 0.0F);
+    EXPECT_EQ(s_->Stand().Werte, Ergebnisse());
+}
+
+TEST_F(Start, before_ok_the_tables_have_their_heads_and_zeros) {
+    nur_geladen();
+    for (const auto& Tabelle : {s_->Ergebnisse(0), s_->Ergebnisse(2)}) {
+        ASSERT_EQ(Tabelle.size(), 13U);
+        EXPECT_EQ(Tabelle[0][1], "     PECactual");
+        EXPECT_EQ(Tabelle[1][1], "<0.0001");
+        EXPECT_EQ(Tabelle[8][1], "<0.0001");
+        EXPECT_EQ(Tabelle[8][2], "<0.0001      ");
+    }
+    const auto Zusammenfassung = s_->Ergebnisse_Zusammenfassung(1);
+    ASSERT_EQ(Zusammenfassung.size(), 13U);
+    EXPECT_EQ(Zusammenfassung[0][2], "Second soil");
+    EXPECT_EQ(Zusammenfassung[8][2], "    <0.0001");
 }
 
 TEST_F(Start, ok_makes_the_first_run_and_leaves_no_mark) {
@@ -95,7 +110,7 @@ TEST_F(Start, ok_makes_the_first_run_and_leaves_no_mark) {
 }
 
 TEST_F(Start, shows_the_scheme_of_the_record) {
-    Felder_.Berechnungsmodus = 2;
+    Felder_.Berechnungsmodus = zwei_parallel;
     schreibe_Probe();
     EXPECT_EQ(nur_geladen().Stand().Felder().Berechnungsmodus, 2);
 }

@@ -90,8 +90,9 @@ protected:
 
     void schreibe_eigenen(const std::string& Name, Satzart Art, const std::string& Merkmal) const {
         Eingabe e = Felder_;
-        e.Name_Wirkstoff = e.Applikationsrate = e.Bodenszenario = Merkmal;
-        schreibe_Datei((Wurzel_ / "input" / Name).string(), Satz_als_Bytes(Art, Parameter_, e));
+        e.Name_Wirkstoff = e.Bodenszenario = Merkmal;
+        e.Applikationsrate = Merkmal;
+        schreibe_Datei((Wurzel_ / "input" / Name).string(), Satz_als_Bytes(Art, e, Sicht_));
     }
 
     Dateien lies(const char* Ordner) const {

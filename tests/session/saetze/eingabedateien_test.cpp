@@ -37,7 +37,7 @@ TEST_F(Dateidialogprobe, the_list_holds_the_files_of_that_extension_alone) {
 TEST_F(Dateidialogprobe, loading_names_the_simulation_reads_the_compound_again_and_covers) {
     gestartet();
     ASSERT_TRUE(tippe("S_DT50_0", "12"));
-    const std::string auf_dem_Schirm = Satz_als_Bytes(Wirkstoff, s_->Stand().Parameter(), s_->Stand().Felder());
+    const std::string auf_dem_Schirm = Satz_als_Bytes(Wirkstoff, s_->Stand().Vorgabe, s_->Stand().Sicht);
     const auto Listen = s_->Stand().Listen;
     EXPECT_TRUE(s_->lade_Eingabedaten("maize trial.txt"));
     EXPECT_EQ(s_->Stand().gewaehlt(Simulation), "maize trial");
@@ -52,7 +52,7 @@ TEST_F(Dateidialogprobe, loading_a_name_of_the_list_selects_its_entry) {
     gestartet();
     EXPECT_TRUE(s_->lade_Eingabedaten("Probe.txt"));
     EXPECT_EQ(s_->Stand().Listen[Simulation], std::vector<std::string>{"Probe"});
-    EXPECT_EQ(s_->Stand().Auswahl[Simulation], 0);
+    EXPECT_EQ(s_->Stand().Auswahl(Simulation), 0);
 }
 
 TEST_F(Dateidialogprobe, loading_a_file_without_a_name_is_refused) {
@@ -80,10 +80,10 @@ TEST_F(Dateidialogprobe, saving_writes_three_names_and_the_records) {
     EXPECT_EQ(s_->Stand().gewaehlt(Simulation), "Other");
     EXPECT_FALSE(s_->Stand().Simulation_markiert);
     for (std::size_t t = 1; t <= 3; ++t) EXPECT_FALSE(s_->Stand().Geaendert[t]);
-    Laufparameter p;
     Eingabe e;
-    Satz_lesen(Projektordner(Wurzel_.string()), "Probe", Wirkstoff, p, e);
-    EXPECT_NEAR(Halbwertszeit(p.k_SFO[0][0]), 12, 1e-12);
+    Ansicht a;
+    Satz_lesen(Projektordner(Wurzel_.string()), "Probe", Wirkstoff, e, a);
+    EXPECT_NEAR(Halbwertszeit(e.Parameter.k_SFO[0][0]), 12, 1e-12);
 }
 
 TEST_F(Dateidialogprobe, the_extension_is_taken_off_a_longer_name_only) {

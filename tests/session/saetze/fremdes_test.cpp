@@ -113,7 +113,7 @@ TEST_F(Fremdes, a_simulation_that_names_a_record_gone_since_the_start_waits_for_
     gestartet();
     entferne_von_aussen("Second.app");
     s_->waehle_Simulation(1);
-    EXPECT_EQ(z().Auswahl[Applikation], -1);
+    EXPECT_EQ(z().Auswahl(Applikation), -1);
     EXPECT_TRUE(z().abgedeckt);
     EXPECT_FALSE(z().beendet);
     waehle(Applikation, "Probe");
@@ -126,7 +126,7 @@ TEST_F(Fremdes, a_simulation_that_left_the_list_is_written_anew_under_its_name) 
     entferne_von_aussen("Probe.vnk");
     Fragen_.erwarte_Anfang("Runtime error", "File Probe.vnk is missing");
     s_->kopiere_Satz(Simulation);
-    EXPECT_EQ(z().Auswahl[Simulation], -1);
+    EXPECT_EQ(z().Auswahl(Simulation), -1);
     s_->Speichern();
     EXPECT_EQ(Datei("input/Probe.vnk"), "A trial\r\nProbe\r\nProbe\r\nProbe\r\n");
     EXPECT_EQ(z().gewaehlt(Simulation), "Probe");
@@ -199,7 +199,7 @@ TEST_F(Fremdes, a_record_that_cannot_be_read_is_not_replaced_and_nothing_else_is
 class ZweitesFenster : public Fremdes {
 protected:
     ZweitesFenster() : erstes_(Umgebung{&Antworten_, Wurzel_.string(), "", '.'}) {
-        EXPECT_TRUE(erstes_.starte());
+        EXPECT_TRUE(erstes_.oeffne_Projekt());
         Fragen_.erwarte_Anfang("Project folder in use", "Another window of VARNOK works on this project folder.");
         gestartet();
     }

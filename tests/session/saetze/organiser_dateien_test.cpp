@@ -183,7 +183,7 @@ TEST_F(Organiserdateien, after_deleting_a_record_on_the_screen_and_closing_it_is
     loesche(Wirkstoff);
     schliesse();
     EXPECT_EQ(z().Listen[1], Liste{"Second"});
-    EXPECT_EQ(z().Auswahl[1], -1);
+    EXPECT_EQ(z().Auswahl(1), -1);
     EXPECT_TRUE(z().abgedeckt);
     EXPECT_EQ(z().Abdeckungswort, "Record deleted: choose or refresh");
     EXPECT_EQ(Gesichertes().count("unsaved Probe.che"), 1U);
@@ -200,7 +200,7 @@ TEST_F(Organiserdateien, after_deleting_the_simulation_and_closing_saving_and_le
     loesche(Simulation);
     schliesse();
     EXPECT_EQ(z().Listen[0], (Liste{"Second", "Torn"}));
-    EXPECT_EQ(z().Auswahl[0], -1);
+    EXPECT_EQ(z().Auswahl(0), -1);
     EXPECT_TRUE(z().abgedeckt);
     EXPECT_EQ(Maske().Beschreibung, "A trial");
     const auto vorher = Dateien();
@@ -235,7 +235,7 @@ TEST_F(Organiserdateien, a_renamed_record_alone_is_written_into_the_summary_and_
     erwartet["Probe.vnk"] = Zeilen("A trial", "Better name", "Probe", "Probe");
     EXPECT_EQ(Dateien(), erwartet);
     EXPECT_EQ(z().gewaehlt(Wirkstoff), "Better name");
-    EXPECT_EQ(Maske().Aktuelle_Dateinamen[1], "Better name");
+    EXPECT_EQ(z().Namen[1], "Better name");
     EXPECT_EQ(s_->Feldtext(Feld("S_DT50_0")), "12");
     EXPECT_TRUE(z().Geaendert[1]);
     EXPECT_EQ(z().Zeichnung, Zeichnung);
@@ -244,6 +244,27 @@ TEST_F(Organiserdateien, a_renamed_record_alone_is_written_into_the_summary_and_
     s_->Speichern();  // the file is the one that was read: no question, and nothing to be kept
     EXPECT_NE(Datei("input/Better name.che"), erwartet["Better name.che"]);
     EXPECT_TRUE(Gesichertes().empty());
+}
+
+// The selector keeps the name of a record whose file is gone. Another record that gets this name is not what the screen shows.
+TEST_F(Organiserdateien, a_record_renamed_to_the_name_of_a_missing_one_counts_as_not_read) {
+    gestartet();
+    std::filesystem::remove(Wurzel_ / "input/Probe.sce");
+    Fragen_.erwarte_Anfang("Runtime error", "File Probe.sce is missing");
+    s_->kopiere_Satz(Szenario);
+    EXPECT_EQ(z().gewaehlt(Szenario), "");
+    EXPECT_EQ(z().Namen[Szenario], "Probe");
+    oeffne();
+    waehle(Szenario, "Second");
+    EXPECT_TRUE(benenne_um(Szenario, "Probe"));
+    schliesse();
+    EXPECT_EQ(z().gewaehlt(Szenario), "Probe");
+    EXPECT_EQ(z().Parameter().Bodendichte, 1.5);
+    EXPECT_TRUE(z().abgedeckt);
+    EXPECT_EQ(Gesichertes().count("unsaved Probe.sce"), 1U);
+    s_->Aktualisieren();
+    EXPECT_EQ(z().Parameter().Bodendichte, 3);
+    EXPECT_FALSE(z().abgedeckt);
 }
 
 TEST_F(Organiserdateien, after_a_rename_and_closing_the_main_screen_has_the_new_name_and_says_that_it_is_not_saved) {

@@ -41,9 +41,9 @@ TEST_F(Organiserszenario, a_scenario_that_the_editor_left_as_it_was_is_read) {
         schreibe_Probe();
         s_.reset();
         oeffne();
-        Laufparameter p = Parameter_;
-        p.Bodendichte = 6;
-        Satz_schreiben(Projektordner(Wurzel_.string()), "Probe", Szenario, p, Felder_);
+        Eingabe andere = Felder_;
+        andere.Parameter.Bodendichte = 6;
+        Satz_schreiben(Projektordner(Wurzel_.string()), "Probe", Szenario, andere, Sicht_);
         bearbeite([&](Szenarioeditor& e) { e.aendere(Szenarioentwurf::Bodendichte, mit_Done ? "1.5" : "3"); }, mit_Done);
         waehle(Wirkstoff, "Second");
         EXPECT_TRUE(fertig());

@@ -52,7 +52,7 @@ TEST_F(Organisertest, without_a_simulation_on_the_main_screen_the_last_entry_is_
     oeffne();
     loesche(Simulation);
     schliesse();
-    ASSERT_EQ(z().Auswahl[0], -1);
+    ASSERT_EQ(z().Auswahl(0), -1);
     oeffne();
     EXPECT_EQ(gewaehlt(Simulation), "Torn");
     EXPECT_EQ(o().Projektname(), "A torn one");
@@ -100,7 +100,7 @@ TEST_F(Organisertest, done_hands_the_lists_over_as_the_dialog_shows_them) {
     EXPECT_TRUE(fertig());
     for (const Satzart Art : {Simulation, Wirkstoff, Applikation, Szenario}) EXPECT_EQ(z().Listen[Art], o().Listen().Listen[Art]);
     EXPECT_EQ(z().gewaehlt(1), "Probe");
-    EXPECT_EQ(Maske().Aktuelle_Dateinamen, (std::array<std::string, 4>{"Probe", "Probe", "Probe", "Probe"}));
+    EXPECT_EQ(z().Namen, (std::array<std::string, 4>{"Probe", "Probe", "Probe", "Probe"}));
 }
 
 TEST_F(Organisertest, choosing_a_simulation_shows_its_text_and_names_and_reads_no_record) {
@@ -217,10 +217,10 @@ TEST_F(Organisertest, values_that_done_reads_over_are_in_the_backup_and_nothing_
     EXPECT_FALSE(z().Geaendert[1]);
     const auto Gerettet = Gesichertes();
     ASSERT_EQ(Gerettet.size(), 2U);
-    Laufparameter p;
     Eingabe e;
-    Satz_lesen_aus(Gerettet.at("unsaved Probe.che"), "", Wirkstoff, p, e);
-    EXPECT_NEAR(p.k_SFO[0][0], 0.0577622650, 1e-9);  // ln 2 / 12
+    Ansicht a;
+    Satz_lesen_aus(Gerettet.at("unsaved Probe.che"), "", Wirkstoff, e, a);
+    EXPECT_NEAR(e.Parameter.k_SFO[0][0], 0.0577622650, 1e-9);  // ln 2 / 12
     EXPECT_EQ(Gerettet.at("unsaved Probe.vnk"), Zeilen("not saved yet", "Probe", "Probe", "Probe"));
     EXPECT_NE(z().Statuszeile.find("backup/"), std::string::npos);
 }
@@ -278,7 +278,7 @@ TEST_F(Organisertest, a_summary_file_that_cannot_be_written_leaves_the_main_scre
     EXPECT_EQ(Dateien(), vorher);
     EXPECT_EQ(z().gewaehlt(Simulation), "Probe");
     EXPECT_EQ(z().gewaehlt(Wirkstoff), "Probe");
-    EXPECT_EQ(Maske().Aktuelle_Dateinamen[0], "Probe");
+    EXPECT_EQ(z().Namen[0], "Probe");
     EXPECT_EQ(Maske().Name_Wirkstoff, "Parent P");
     schliesse();
     EXPECT_EQ(Maske().Beschreibung, "A trial");

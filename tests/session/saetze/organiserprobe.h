@@ -22,13 +22,11 @@ protected:
 
     // A compound of that name, a rate of 500 and a density.
     void schreibe_Saetze(const std::string& Name, const std::string& Stoff, double Dichte) {
-        Laufparameter p = Parameter_;
-        p.Bodendichte = Dichte;
         Eingabe e = Felder_;
+        e.Parameter.Bodendichte = Dichte;
         e.Applikationsrate = "500";
         e.Name_Wirkstoff = Stoff;
-        const Projektordner Ordner(Wurzel_.string());
-        for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) Satz_schreiben(Ordner, Name, Art, p, e);
+        Probesitzung::schreibe_Saetze(Name, e);
     }
 
     // Older than "Probe", so that it is not the one to start with.

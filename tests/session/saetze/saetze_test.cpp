@@ -15,13 +15,11 @@ class Satzprobe : public Probesitzung {
 protected:
     // A second simulation "Second" with records of its own; older than "Probe".
     Satzprobe() {
-        const Projektordner Ordner(Wurzel_.string());
-        Laufparameter p = Parameter_;
-        p.Bodendichte = 3;
         Eingabe e = Felder_;
+        e.Parameter.Bodendichte = 3;
         e.Applikationsrate = "500";
         e.Name_Wirkstoff = "Other parent";
-        for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) Satz_schreiben(Ordner, "Second", Art, p, e);
+        schreibe_Saetze("Second", e);
         simulation("Second", "Second", "Second", "Second");
     }
 
@@ -55,7 +53,7 @@ TEST_F(Satzprobe, a_simulation_with_a_missing_record_stays_covered_until_one_is_
     gestartet();
     s_->waehle_Simulation(Platz(0, "Torn"));
     EXPECT_TRUE(s_->Stand().abgedeckt);
-    EXPECT_EQ(s_->Stand().Auswahl[2], -1);
+    EXPECT_EQ(s_->Stand().Auswahl(2), -1);
     s_->waehle_Satz(Applikation, Platz(2, "Second"));
     EXPECT_FALSE(s_->Stand().abgedeckt);
     EXPECT_EQ(s_->Stand().Parameter().Bodendichte, 3);  // the scenario behind the missing record was read, too
@@ -65,7 +63,7 @@ TEST_F(Satzprobe, a_record_name_that_differs_only_in_case_is_not_found) {
     simulation("Torn", "SECOND", "Second", "Second");
     gestartet();
     s_->waehle_Simulation(Platz(0, "Torn"));
-    EXPECT_EQ(s_->Stand().Auswahl[1], -1);
+    EXPECT_EQ(s_->Stand().Auswahl(1), -1);
     EXPECT_TRUE(s_->Stand().abgedeckt);
 }
 
@@ -85,7 +83,7 @@ TEST_F(Satzprobe, a_short_summary_is_told_and_the_inputs_stay) {
     gestartet();
     Fragen_.erwarte("Runtime error", "File Torn.vnk, line 3: the file ends before the name of the application pattern record");
     s_->waehle_Simulation(Platz(0, "Torn"));
-    EXPECT_EQ(s_->Stand().Felder().Aktuelle_Dateinamen[0], "Probe");
+    EXPECT_EQ(s_->Stand().Namen[0], "Probe");
     EXPECT_EQ(s_->Stand().Felder().Name_Wirkstoff, "Parent P");
 }
 
@@ -128,9 +126,9 @@ TEST_F(Satzprobe, saving_writes_all_four_files_and_clears_the_marks_of_the_recor
     s_->Speichern();
     EXPECT_EQ(Datei("input/Probe.vnk"), "Another description\r\nProbe\r\nProbe\r\nProbe\r\n");
     for (std::size_t t = 1; t <= 3; ++t) EXPECT_FALSE(s_->Stand().Geaendert[t]);
-    Laufparameter p;
     Eingabe e;
-    Satz_lesen(Projektordner(Wurzel_.string()), "Probe", Applikation, p, e);
+    Ansicht a;
+    Satz_lesen(Projektordner(Wurzel_.string()), "Probe", Applikation, e, a);
     EXPECT_EQ(e.App_Tag, 9);
 }
 
@@ -173,11 +171,10 @@ TEST_F(Satzprobe, a_character_without_a_place_in_the_file_is_told_on_saving_and_
 
 TEST_F(Satzprobe, a_climate_file_that_is_missing_is_told_and_the_results_stay_covered) {
     gestartet();
-    Laufparameter p = Parameter_;
-    p.Klimamodus = 1;
     Eingabe e = Felder_;
+    e.Parameter.Klimamodus = 1;
     e.Klimaszenario = "no such climate";
-    Satz_schreiben(Projektordner(Wurzel_.string()), "Second", Szenario, p, e);
+    Satz_schreiben(Projektordner(Wurzel_.string()), "Second", Szenario, e, Sicht_);
     Fragen_.erwarte("Data file missing", "Cannot load climate data file. Please correct!");
     s_->waehle_Satz(Szenario, Platz(3, "Second"));
     EXPECT_TRUE(s_->Stand().abgedeckt);
@@ -185,15 +182,15 @@ TEST_F(Satzprobe, a_climate_file_that_is_missing_is_told_and_the_results_stay_co
 }
 
 TEST_F(Satzprobe, a_fault_of_the_arithmetic_is_one_box_and_what_was_entered_stays) {
-    Laufparameter p = Parameter_;
-    p.Bodendichte = 0;
-    Satz_schreiben(Projektordner(Wurzel_.string()), "Second", Szenario, p, Felder_);
+    Eingabe e = Felder_;
+    e.Parameter.Bodendichte = 0;
+    Satz_schreiben(Projektordner(Wurzel_.string()), "Second", Szenario, e, Sicht_);
     gestartet();
     Fragen_.erwarte("Runtime error",
                     "The calculation is not possible with these input data. Please correct! (Soil density (kg/L) = 0)");
     s_->waehle_Satz(Szenario, Platz(3, "Second"));
     EXPECT_TRUE(s_->Stand().abgedeckt);
-    EXPECT_EQ(s_->Stand().Auswahl[3], Platz(3, "Second"));
+    EXPECT_EQ(s_->Stand().Auswahl(3), Platz(3, "Second"));
 }
 
 }  // namespace

@@ -386,7 +386,7 @@ TEST_F(Befehlsprobe, a_second_window_on_the_folder_says_so_and_saves_only_after_
     Drehbuch Antworten;
     Sitzung zweite(Umgebung{&Antworten, Wurzel_.string(), "", '.'});
     Antworten.erwarte_Anfang("Project folder in use", "Another window of VARNOK works on this project folder.");
-    ASSERT_TRUE(zweite.starte());
+    ASSERT_TRUE(zweite.oeffne_Projekt());
     zweite.Starten();
     const auto vorher = std::filesystem::last_write_time(Wurzel_ / "input/Probe.che");
     Antworten.erwarte_Anfang("Save changes?", "Another window of VARNOK works on this project folder.", Knopf::Nein);

@@ -21,6 +21,7 @@ inline constexpr std::array<Satzart, 3> Saetze = {Wirkstoff, Applikation, Szenar
 struct Modell {
     Dateien Platte;
     std::array<std::string, 4> Name;     // shown by the selectors, empty without a selection
+    std::array<std::string, 4> fehlend;  // without a selection: the name that the simulation gives and no file has
     std::array<std::string, 4> gelesen;  // the record that the values came from
     std::array<std::string, 4> Schirm;   // bytes of the records; [0] is the description
     std::array<bool, 4> neu{};           // the selector names what was not read
@@ -190,6 +191,7 @@ struct Modell {
         neu[0] = false;
         for (const Satzart t : Saetze) {
             Name[t] = gibt_es(t, Text[t]) ? Text[t] : "";
+            fehlend[t] = Text[t];
             neu[t] = true;
         }
         if (lies_fehlende()) geaendert[0] = false;

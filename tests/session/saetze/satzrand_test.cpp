@@ -45,7 +45,7 @@ TEST_P(OhneSchreibrecht, a_command_is_one_message_and_changes_neither_lists_nor_
         const Satzlisten vorher = z();
         GetParam().Tat(*s_, Fragen_);
         EXPECT_EQ(z().Listen, vorher.Listen);
-        EXPECT_EQ(z().Auswahl, vorher.Auswahl);
+        EXPECT_EQ(z().Namen, vorher.Namen);
         EXPECT_EQ(s_->Feldtext(Feld("S_DT50_0")), "12");
         EXPECT_TRUE(z().Geaendert[1]);
         EXPECT_FALSE(z().abgedeckt);

@@ -10,7 +10,6 @@ protected:
     // Three studies, each with values of its own in every table.
     void drei_Studien() {
         Felder_.Studie = {"A", "B", "C"};
-        Parameter_.Anzahl_Studien = 3;
         for (std::size_t st = 0; st < 3; ++st) {
             const double n = static_cast<double>(st + 1);
             for (std::size_t c = 0; c < Stoffe; ++c) {
@@ -60,7 +59,7 @@ TEST_F(Studienprobe, a_new_study_is_selected_run_once_and_marks_the_compound) {
     addiere("Field 7");
     EXPECT_EQ(Studien(), (std::vector<std::string>{"First soil", "Second soil", "Field 7"}));
     EXPECT_EQ(s_->Stand().i_studie(), 2);
-    EXPECT_EQ(p().Anzahl_Studien, 3);
+    EXPECT_EQ(s_->Stand().Studienzahl(), 3);
     EXPECT_TRUE(s_->Stand().Geaendert[1]);
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe + 1);
     EXPECT_FALSE(s_->Stand().abgedeckt);
@@ -94,7 +93,7 @@ TEST_F(Studienprobe, esc_takes_everything_back) {
     s_->nimm_Studienname_zurueck();
     s_->bestaetige_Studienname(false);  // the focus that moves on afterwards
     EXPECT_EQ(Studien().size(), 2U);
-    EXPECT_EQ(p().Anzahl_Studien, 2);
+    EXPECT_EQ(s_->Stand().Studienzahl(), 2);
     EXPECT_FALSE(s_->Stand().Geaendert[1]);
     EXPECT_TRUE(s_->darf_Studie_addieren());
     EXPECT_TRUE(s_->darf_Studie_loeschen());
@@ -185,7 +184,7 @@ TEST_F(Studienprobe, deleting_moves_the_rate_constants_and_leaves_the_other_tabl
     EXPECT_EQ(p().TRef[0][1], 12);
     EXPECT_EQ(p().Kinetik[0][0], SFO);
     EXPECT_EQ(p().Kinetik[0][1], DFOP);
-    EXPECT_EQ(p().Anzahl_Studien, 2);
+    EXPECT_EQ(s_->Stand().Studienzahl(), 2);
 }
 
 TEST_F(Studienprobe, deleting_marks_the_application_pattern_and_says_what_to_check) {

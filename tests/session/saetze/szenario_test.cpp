@@ -145,7 +145,7 @@ TEST_F(Szenarioprobe, cancel_changes_nothing) {
     e.waehle_Klimabedingungen(1);
     abgebrochen();
     EXPECT_EQ(p(), vorher);
-    EXPECT_EQ(s_->Stand().Felder().Aktuelle_Dateinamen[3], "Probe");
+    EXPECT_EQ(s_->Stand().Namen[3], "Probe");
     EXPECT_EQ(s_->Stand().gewaehlt(3), "Probe");
     EXPECT_FALSE(s_->Stand().veraltet);
 }
@@ -254,7 +254,7 @@ TEST_F(Szenarioprobe, the_message_about_the_tillage_depth_carries_the_informatio
     };
     Merker Zuhoerer;
     s_ = std::make_unique<Sitzung>(Umgebung{&Zuhoerer, Wurzel_.string(), "", '.'});
-    ASSERT_TRUE(s_->starte());
+    ASSERT_TRUE(s_->oeffne_Projekt());
     s_->Starten();
     offen().waehle_Plateautiefe(24);
     fertig();
@@ -304,7 +304,7 @@ TEST_F(Szenarioprobe, an_impossible_value_is_stored_told_and_can_be_corrected) {
 
 TEST_F(Szenarioprobe, a_comma_region_reads_and_writes_commas) {
     s_ = std::make_unique<Sitzung>(Umgebung{&Fragen_, Wurzel_.string(), "", ','});
-    ASSERT_TRUE(s_->starte());
+    ASSERT_TRUE(s_->oeffne_Projekt());
     s_->Starten();
     Szenarioeditor& e = offen();
     EXPECT_EQ(Entwurf().Texte[E::Bodendichte], "1,5");

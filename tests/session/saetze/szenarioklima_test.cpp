@@ -11,7 +11,7 @@ TEST_F(Szenarioprobe, another_temperature_alone_starts_no_run_and_shows_the_hint
     offen().waehle_Temperatur(10);
     fertig();
     EXPECT_EQ(p().Szenariotemperatur, 10);
-    EXPECT_EQ(s_->Stand().Felder().Klimaszenario,
+    EXPECT_EQ(Klimatext(s_->Stand().Felder()),
               "10 \xC2\xB0"
               "C constant");
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe);
@@ -40,7 +40,7 @@ TEST_F(Szenarioprobe, a_preselected_climate_file_is_stored_with_the_variable_mod
     gestartet();
     offen();
     fertig();
-    EXPECT_EQ(s_->Stand().Felder().Klimaszenario,
+    EXPECT_EQ(Klimatext(s_->Stand().Felder()),
               "20 \xC2\xB0"
               "C constant");
     offen().waehle_Klimabedingungen(1);
@@ -157,7 +157,7 @@ TEST_F(Szenarioprobe, a_climate_file_chosen_and_not_used_changes_nothing) {
     EXPECT_FALSE(s_->Stand().Geaendert[3]);
     EXPECT_FALSE(s_->Stand().Hinweis);
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe);
-    EXPECT_EQ(s_->Stand().Felder().Klimaszenario,
+    EXPECT_EQ(Klimatext(s_->Stand().Felder()),
               "20 \xC2\xB0"
               "C constant");
 }

@@ -19,7 +19,7 @@ TEST_F(Szenarioprobe, another_name_leaves_every_value_and_marks_the_simulation_o
     fertig();
     EXPECT_EQ(p().Bodendichte, 1.5);
     EXPECT_EQ(s_->Stand().gewaehlt(3), "Another");
-    EXPECT_EQ(s_->Stand().Felder().Aktuelle_Dateinamen[3], "Another");
+    EXPECT_EQ(s_->Stand().Namen[3], "Another");
     EXPECT_TRUE(s_->Stand().Geaendert[0]);
     EXPECT_TRUE(s_->Stand().Simulation_markiert);
     EXPECT_FALSE(s_->Stand().Geaendert[3]);
@@ -157,8 +157,9 @@ TEST_F(Szenarioprobe, cancel_without_a_scenario_selects_none) {
     ohne_Szenario_geladen();
     offen();
     abgebrochen();
-    EXPECT_EQ(s_->Stand().Auswahl[3], -1);
-    EXPECT_EQ(s_->Stand().Felder().Aktuelle_Dateinamen[3], "");
+    EXPECT_EQ(s_->Stand().Auswahl(3), -1);
+    EXPECT_EQ(s_->Stand().gewaehlt(3), "");
+    EXPECT_EQ(s_->Stand().Namen[3], "gone");  // as its simulation says
     EXPECT_TRUE(s_->Stand().abgedeckt);
 }
 

@@ -55,12 +55,12 @@ protected:
         gestartet();
         const auto& Liste = s_->Stand().Listen[0];
         s_->waehle_Simulation(static_cast<int>(std::find(Liste.begin(), Liste.end(), "Torn") - Liste.begin()));
-        ASSERT_EQ(s_->Stand().Auswahl[3], -1);
+        ASSERT_EQ(s_->Stand().Auswahl(3), -1);
     }
     void zweites_Szenario() {
-        Laufparameter andere = Parameter_;
-        andere.Bodendichte = 1.1;
-        Satz_schreiben(Projektordner(Wurzel_.string()), "Another", Szenario, andere, Felder_);
+        Eingabe andere = Felder_;
+        andere.Parameter.Bodendichte = 1.1;
+        Satz_schreiben(Projektordner(Wurzel_.string()), "Another", Szenario, andere, Sicht_);
     }
 };
 

@@ -58,7 +58,7 @@ protected:
         for (const std::string Name : {"alpha", "beta", "gamma"}) {
             Felder_.Name_Wirkstoff = "Compound " + Name;
             Felder_.Bodenszenario = "Soil " + Name;
-            for (const Satzart t : Saetze) Satz_schreiben(Ordner, Name, t, Parameter_, Felder_);
+            schreibe_Saetze(Name, Felder_);
             schreibe_Simulation(Ordner, Name, {"About " + Name, {"", Name, Name, Name}});
         }
         for (const Satzart t : Saetze) {
@@ -66,7 +66,7 @@ protected:
             std::filesystem::copy_file(Wurzel_ / "input" / (std::string("beta") + Endungen[t]), Vorlage);
         }
         s_ = std::make_unique<Sitzung>(Umgebung{&Antworten_, Wurzel_.string(), "", '.', &Zeit_});
-        EXPECT_TRUE(s_->starte());
+        EXPECT_TRUE(s_->oeffne_Projekt());
         s_->Starten();
         beginne_Modell();
     }
@@ -206,9 +206,9 @@ void Zufallsgang::vergleiche(const Textliste& bisher) {
     for (const Satzart t : {Simulation, Wirkstoff, Applikation, Szenario}) {
         EXPECT_EQ(z.Listen[t], m_.Liste(t));
         EXPECT_EQ(z.gewaehlt(t), m_.Name[t]);
-        EXPECT_EQ(z.Felder().Aktuelle_Dateinamen[t], m_.Name[t]);
+        EXPECT_EQ(z.Namen[t], m_.Name[t].empty() ? m_.fehlend[t] : m_.Name[t]);
         if (t != Simulation) {
-            EXPECT_EQ(Satz_als_Bytes(t, z.Parameter(), z.Felder()), m_.Schirm[t]);
+            EXPECT_EQ(Satz_als_Bytes(t, z.Vorgabe, z.Sicht), m_.Schirm[t]);
         }
     }
     const Textliste Ordner = Sicherungen();

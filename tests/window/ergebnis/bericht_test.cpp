@@ -120,17 +120,17 @@ private Q_SLOTS:
 
     // Each has a document of its own, and the one before is gone.
     void one_report_after_the_other_is_shown() {
-        auto* Ansicht = p_->Teil<QTextEdit>("Bericht");
+        auto* Blatt = p_->Teil<QTextEdit>("Bericht");
         for (const char* Simulation : {"Programcheck", "Vines, Compound D", "Potatoes, Compound C", "Programcheck"}) {
             p_->waehle_Simulation(Simulation);
             p_->klicke("Bericht_erstellen");
-            QVERIFY(Ansicht->toPlainText().contains(QString::fromStdString(p_->Programm().Stand().Felder().Beschreibung)));
+            QVERIFY(Blatt->toPlainText().contains(QString::fromStdString(p_->Programm().Stand().Felder().Beschreibung)));
             p_->klicke("Bericht_erstellen");  // over the open one
             QVERIFY(p_->sichtbar("Bericht"));
             p_->klicke("Bericht_schliessen");
-            QVERIFY(Ansicht->toPlainText().isEmpty());
+            QVERIFY(Blatt->toPlainText().isEmpty());
         }
-        QCOMPARE(Ansicht->findChildren<QTextDocument*>().size(), 1);
+        QCOMPARE(Blatt->findChildren<QTextDocument*>().size(), 1);
     }
 
     void print_is_enabled_while_a_report_is_shown() {

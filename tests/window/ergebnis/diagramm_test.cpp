@@ -13,6 +13,7 @@
 #include "painting/qt_text.h"
 #include "reports/dokumentbild.h"
 #include "window/ergebnis/diagrammprobe.h"
+#include "window/ergebnis/manuelle_skalierung.h"
 #include "window/kern/anmeldung.h"
 
 using namespace Qt::StringLiterals;
@@ -31,7 +32,7 @@ private Q_SLOTS:
         for (const auto& [Name, Metabolit] :
              {std::pair("Diagramm_8", 0), {"Diagramm_9", 0}, {"Diagramm_10", 0}, {"Diagramm_11", 0}, {"Diagramm_8", 0}}) {
             QCOMPARE(p_->vorn()->objectName(), QString::fromLatin1(Name));
-            QCOMPARE(p_->Programm().Diagramme().vorne(), p_->vorn()->Satz());
+            QCOMPARE(p_->Programm().Diagramme().vorne(), p_->vorn()->Nummer());
             p_->klicke_Diagramm();
         }
     }
@@ -91,6 +92,21 @@ private Q_SLOTS:
             QCOMPARE(d.focusWidget(), Liste(d, "Skalierung_X_Achse"));
             d.reject();
         });
+    }
+
+    void the_scaling_dialog_shows_the_separator_of_the_region() {
+        QStringList angenommen;
+        Manuelle_Skalierung d(
+            0.5, 1000, ',',
+            [&](const std::string& Start, const std::string& Ende) {
+                angenommen << in_Qt(Start) << in_Qt(Ende);
+                return true;
+            },
+            &p_->Fenster());
+        QCOMPARE(Liste(d, "Startzeitpunkt")->currentText(), u"0,5"_s);
+        QCOMPARE(Liste(d, "Skalierung_X_Achse")->currentText(), u"1000"_s);
+        d.accept();
+        QCOMPARE(angenommen, (QStringList{u"0,5"_s, u"1000"_s}));
     }
 
     void an_accepted_end_is_the_end_of_the_axis() {

@@ -11,6 +11,7 @@
 
 #include "painting/qt_text.h"
 #include "window/ergebnis/diagrammprobe.h"
+#include "window/ergebnis/flaechenrahmen.h"
 #include "window/kern/anmeldung.h"
 
 using namespace Qt::StringLiterals;
@@ -39,7 +40,7 @@ private Q_SLOTS:
         QTest::qWait(30);
         QList<QRect> belegt;
         for (const char* Name : {"Diagrammtitel_", "Diagrammkommentar_", "Name_x_Achse_", "Name_y_Achse_"}) {
-            const QString ganz = QString::fromLatin1(Name) + in_Qt(p_->vorn()->Satz());
+            const QString ganz = QString::fromLatin1(Name) + in_Qt(p_->vorn()->Nummer());
             auto* l = p_->Fenster().findChild<QLabel*>(ganz);
             QVERIFY(l->isVisible());
             QVERIFY(!l->text().isEmpty());
@@ -86,6 +87,32 @@ private Q_SLOTS:
         QTest::mouseMove(p_->vorn(), QPoint(2, 2));
         QTest::qWait(5);
         QVERIFY(!l->isVisible());
+    }
+
+    void a_value_read_off_has_the_unit_of_the_results_data() {
+        QTest::addColumn<QByteArray>("Simulation");
+        QTest::addColumn<QByteArray>("Endpunkt");
+        QTest::addColumn<QString>("Einheit");
+        QTest::newRow("soil, mg") << QByteArray("Programcheck") << QByteArray("Endpunkt_1") << u" mg/kg, "_s;
+        QTest::newRow("water, mg") << QByteArray("Programcheck") << QByteArray("Endpunkt_0") << u" mg/L, "_s;
+        QTest::newRow("soil, microgram") << QByteArray("Vines, Compound D") << QByteArray("Endpunkt_1") << u" µg/kg, "_s;
+        QTest::newRow("water, microgram") << QByteArray("Vines, Compound D") << QByteArray("Endpunkt_0") << u" µg/L, "_s;
+    }
+    void a_value_read_off_has_the_unit_of_the_results() {
+        QFETCH(QByteArray, Simulation);
+        QFETCH(QByteArray, Endpunkt);
+        QFETCH(QString, Einheit);
+        if (Simulation != "Programcheck") p_->waehle_Simulation(Simulation);
+        p_->waehle("PEC_Typ_0");
+        p_->waehle(Endpunkt);
+        auto* d = p_->vorn();
+        for (auto* r : d->findChildren<Flaechenrahmen*>()) r->hide();
+        // The pointer may stand there since the case before.
+        for (const int y : {d->height() / 3, d->height() / 2}) QTest::mouseMove(d, QPoint(d->width() / 2, y));
+        QTest::qWait(5);
+        const auto* l = d->findChild<QLabel*>(u"Ablesung_"_s + in_Qt(d->Nummer()));
+        QVERIFY(l->isVisible());
+        QVERIFY2(l->text().contains(Einheit), qPrintable(l->text()));
     }
 
     void nothing_is_read_off_covered_results() {

@@ -53,7 +53,7 @@ private Q_SLOTS:
     }
 
     void it_opens_from_the_start_page_too() {
-        im_Dialog([](Dialogprobe d) { QCOMPARE(d.Auswahl("Liste_1"), u"Programcheck"_s); });
+        im_Dialog([](Dialogprobe d) { QCOMPARE(d.gewaehlt("Liste_1"), u"Programcheck"_s); });
     }
 
     void a_field_that_refuses_its_value_is_told_and_it_does_not_open() {
@@ -188,7 +188,7 @@ private Q_SLOTS:
             d.waehle("Simulationsliste", "Potatoes, Compound C");
             QCOMPARE(d.Teil<QLineEdit>("Projektname")->text(), u"Seven treatments, biphasic parent with one metabolite"_s);
             QCOMPARE(p_->Teil<QLineEdit>("Beschreibung")->text(), u"Seven treatments, biphasic parent with one metabolite"_s);
-            QCOMPARE(d.Auswahl("Liste_2"), u"Potatoes, seven treatments"_s);
+            QCOMPARE(d.gewaehlt("Liste_2"), u"Potatoes, seven treatments"_s);
             QCOMPARE(p_->Teil<QComboBox>("Simulationsliste")->currentText(), u"Programcheck"_s);
             d.klicke("Ende");
         });

@@ -66,7 +66,7 @@ private Q_SLOTS:
         const int Anzahl = p_->Teil<QComboBox>("Liste_3")->count();
         im_Dialog([&](Dialogprobe d) {
             d.klicke("Copy_3");
-            QCOMPARE(d.Auswahl("Liste_3"), u"copy of Programcheck"_s);
+            QCOMPARE(d.gewaehlt("Liste_3"), u"copy of Programcheck"_s);
             QCOMPARE(d.Teil<QComboBox>("Liste_3")->count(), Anzahl + 1);
             QCOMPARE(p_->Teil<QComboBox>("Liste_3")->count(), Anzahl);
             d.klicke("Loeschen_3");
@@ -82,7 +82,7 @@ private Q_SLOTS:
         const int Anzahl = p_->Teil<QComboBox>("Simulationsliste")->count();
         im_Dialog([](Dialogprobe d) {
             d.klicke("Loeschen_Simulation");
-            QCOMPARE(d.Auswahl("Simulationsliste"), u"Sugar beet, Compound E"_s);
+            QCOMPARE(d.gewaehlt("Simulationsliste"), u"Sugar beet, Compound E"_s);
             d.klicke("Ende");
         });
         auto* Liste = p_->Teil<QComboBox>("Simulationsliste");
@@ -127,7 +127,7 @@ private Q_SLOTS:
             d.tippe("Neuer_Dateiname_1", "Better name.che");
             d.druecke("Neuer_Dateiname_1", Qt::Key_Return);
             QVERIFY(d.offen());
-            QCOMPARE(d.Auswahl("Liste_1"), u"Better name"_s);
+            QCOMPARE(d.gewaehlt("Liste_1"), u"Better name"_s);
             QCOMPARE(p_->Teil<QComboBox>("Liste_1")->currentText(), u"Better name"_s);
             d.klicke("Ende");
         });
@@ -156,7 +156,7 @@ private Q_SLOTS:
             d.tippe("Neuer_Dateiname_3", "Left");
             d.Teil("Liste_1")->setFocus(Qt::TabFocusReason);
             QTest::qWait(20);
-            QCOMPARE(d.Auswahl("Liste_3"), u"Left"_s);
+            QCOMPARE(d.gewaehlt("Liste_3"), u"Left"_s);
             QCOMPARE(QApplication::focusWidget(), d.Teil("Liste_1"));
             d.klicke("Umbenennen_3");
             d.tippe("Neuer_Dateiname_3", "Loam, 10 degrees");
@@ -165,7 +165,7 @@ private Q_SLOTS:
             QCOMPARE(Fragen_.nimm(),
                      QStringList{u"Runtime error: The record \"Loam, 10 degrees\" already exists. \"Left\" keeps its name."_s});
             QVERIFY(!d.Teil("Neuer_Dateiname_3")->isVisible());
-            QCOMPARE(d.Auswahl("Liste_3"), u"Left"_s);
+            QCOMPARE(d.gewaehlt("Liste_3"), u"Left"_s);
         });
     }
 
@@ -202,7 +202,7 @@ private Q_SLOTS:
         im_Dialog([&](Dialogprobe d) {
             d.Teil("Liste_2")->setFocus();
             d.druecke("Liste_2", Qt::Key_D, Qt::ControlModifier);
-            QCOMPARE(d.Auswahl("Liste_2"), u"copy of Programcheck"_s);
+            QCOMPARE(d.gewaehlt("Liste_2"), u"copy of Programcheck"_s);
             d.druecke("Liste_2", Qt::Key_Delete, Qt::ControlModifier);
             QCOMPARE(Fragen_.nimm(), QStringList{Loeschfrage});
             QVERIFY(!gibt_es("input/copy of Programcheck.app"));

@@ -28,7 +28,7 @@ public:
         return w;
     }
     QColor Zeilenfarbe(const char* Liste) const { return Teil(Liste)->parentWidget()->palette().color(QPalette::Window); }
-    QString Auswahl(const char* Liste) const { return Teil<QComboBox>(Liste)->currentText(); }
+    QString gewaehlt(const char* Liste) const { return Teil<QComboBox>(Liste)->currentText(); }
     void klicke(const char* Knopf) const {
         QTest::mouseClick(Teil(Knopf), Qt::LeftButton);
         QTest::qWait(1);

@@ -4,11 +4,11 @@
 
 #include <QPainter>
 #include <algorithm>
+#include <cmath>
 
-#include "berichtsprobe.h"
-#include "bildvergleich.h"
-#include "diagrams/diagrammbau.h"
 #include "painting/bildflaeche.h"
+#include "painting/bildprobe.h"
+#include "painting/bildvergleich.h"
 #include "painting/zeichner.h"
 
 namespace varnok::probe {
@@ -25,31 +25,40 @@ QImage gemalt(const Zeichenliste& z) {
 
 // With an averaging window of 28 days.
 Lauf_bauer Rechnung() {
-    Lauf_bauer l;
-    l.Felder.TWA_Laenge = 6;
-    return l;
+    Lauf_bauer b;
+    b.Sicht.TWA_Laenge = 6;
+    return b;
 }
 
-Diagramm einzelnes(int PEC_Typ = 0) {
-    Lauf_bauer l = Rechnung().nach_SFO(0.01).regelmaessige_Gaben(2, 60);
-    l.Felder.PEC_Typ = PEC_Typ;
-    return erstelle_Berichtsdiagramm(*gerechnet(l), Berichtsart::Standard);
+Diagramm einzelnes(PEC_Ansicht PEC_Typ = jaehrlich) {
+    Lauf_bauer b = Rechnung().nach_SFO(0.01).regelmaessige_Gaben(2, 60);
+    b.Sicht.PEC_Typ = PEC_Typ;
+    return Wirkstoffdiagramm(b);
 }
 
 Diagramm mehrfaches() {
-    const auto l = gerechnet(Rechnung().Schema(2).regelmaessige_Gaben(3, 21).nach_SFO(0.03, 1).nach_SFO(0.008, 2));
-    Diagrammbereiche b = Startbereiche(0);
-    return erstelle_Diagramm_mehrfach(*l, b, Mehrfachsatz_von(2), 0, 0);
+    const Lauf_bauer b = Rechnung().Schema(zwei_parallel).regelmaessige_Gaben(3, 21).nach_SFO(0.03, 1).nach_SFO(0.008, 2);
+    Diagrammbereiche Bereiche = Startbereiche(jaehrlich);
+    return erstelle_Diagramm_mehrfach(gerechnetes_Problem(b), Bereiche, Mehrfachsatz_von(zwei_parallel), 0, 0);
 }
 
+// Four studies, each a quarter slower than the one before.
 Diagramm aller_Studien() {
-    return erstelle_Berichtsdiagramm(*gerechnet(mit_Studien(Rechnung().nach_SFO(0.03), 4)), Berichtsart::erweitert);
+    Lauf_bauer b = Rechnung().nach_SFO(0.03);
+    for (int i = 1; i < 4; ++i) {
+        b.Studie(i).nach_SFO(0.03 * std::pow(0.75, i));
+        b.Felder.Studie.push_back("soil " + std::to_string(i + 1));
+    }
+    Diagrammbereiche Bereiche;
+    setze_Bereiche_nach_Ansicht(Bereiche, jaehrlich);
+    return erstelle_Diagramm_Zusammenfassung(gerechnetes_Problem(b), Bereiche,
+                                             Zusammenfassungssatz_von(b.Felder.Berechnungsmodus, 0), 0);
 }
 
 TEST(Bild, of_one_compound) { EXPECT_TRUE(aehnlich_der_Datei(gemalt(mit_Beschriftung(einzelnes())), "one compound.png")); }
 
 TEST(Bild, of_one_compound_in_the_background_view) {
-    EXPECT_TRUE(aehnlich_der_Datei(gemalt(mit_Beschriftung(einzelnes(1))), "one compound, background.png"));
+    EXPECT_TRUE(aehnlich_der_Datei(gemalt(mit_Beschriftung(einzelnes(Hintergrund))), "one compound, background.png"));
 }
 
 TEST(Bild, of_all_compounds) { EXPECT_TRUE(aehnlich_der_Datei(gemalt(mit_Beschriftung(mehrfaches())), "all compounds.png")); }

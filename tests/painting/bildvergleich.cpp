@@ -1,4 +1,4 @@
-#include "bildvergleich.h"
+#include "painting/bildvergleich.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -7,14 +7,12 @@
 #include <QImage>
 #include <QPainter>
 #include <QPalette>
-#include <QUrl>
 #include <algorithm>
 #include <stdexcept>
 
-#include "berichtsprobe.h"
-#include "diagrams/diagrammbau.h"
+#include "painting/bildflaeche.h"
+#include "painting/bildprobe.h"
 #include "painting/zeichner.h"
-#include "reports/dokumentbild.h"
 
 namespace varnok::probe {
 namespace {
@@ -210,8 +208,7 @@ const Schriftzug& Text(const Zeichenliste& z, const std::string& Inhalt) {
 }
 
 TEST(Berichtsbild, holds_axes_curve_and_labels) {
-    const auto l = gerechnet(Lauf_bauer().Schema(1).nach_SFO(0.02, 1));
-    const Zeichenliste z = mit_Beschriftung(erstelle_Berichtsdiagramm(*l, Berichtsart::Standard));
+    const Zeichenliste z = mit_Beschriftung(Wirkstoffdiagramm(Lauf_bauer().Schema(ein_Metabolit).nach_SFO(0.02, 1)));
     std::vector<std::string> Texte;
     for (const Schriftzug& s : z.Texte) Texte.push_back(s.Inhalt);
     for (const char* Text :
@@ -226,8 +223,7 @@ TEST(Berichtsbild, holds_axes_curve_and_labels) {
 }
 
 TEST(Berichtsbild, legend_stands_where_it_was_moved_to) {
-    const auto l = gerechnet({});
-    const Diagramm d = erstelle_Berichtsdiagramm(*l, Berichtsart::Standard);
+    const Diagramm d = Wirkstoffdiagramm();
     const QRectF Kasten = Legendenkasten(mit_Beschriftung(d, Flaechenort{0.2, 0.5}));
     EXPECT_NEAR(Kasten.left(), 128, 1e-6);
     EXPECT_NEAR(Kasten.top(), 250, 1e-6);
@@ -235,8 +231,7 @@ TEST(Berichtsbild, legend_stands_where_it_was_moved_to) {
 
 // The fractions of a window of another shape are kept inside.
 TEST(Berichtsbild, legend_stays_on_the_picture_wherever_it_was_moved_to) {
-    const auto l = gerechnet({});
-    const Diagramm d = erstelle_Berichtsdiagramm(*l, Berichtsart::Standard);
+    const Diagramm d = Wirkstoffdiagramm();
     for (const Flaechenort Ort : {Flaechenort{0.99, 0.99}, {0, 0}, {0.9, 0}}) {
         const QRectF Kasten = Legendenkasten(mit_Beschriftung(d, Ort));
         EXPECT_TRUE(Bildflaeche.contains(Kasten)) << Ort.links << ' ' << Ort.oben;
@@ -244,8 +239,7 @@ TEST(Berichtsbild, legend_stays_on_the_picture_wherever_it_was_moved_to) {
 }
 
 TEST(Berichtsbild, legend_at_home_stands_right_below_title_and_comment) {
-    const auto l = gerechnet({});
-    const Zeichenliste z = mit_Beschriftung(erstelle_Berichtsdiagramm(*l, Berichtsart::Standard));
+    const Zeichenliste z = mit_Beschriftung(Wirkstoffdiagramm());
     const QRectF Kasten = Legendenkasten(z);
     EXPECT_NEAR(Kasten.left(), 7000 / 15.0, 1e-6);
     EXPECT_NEAR(Kasten.top(), 500 / 15.0, 6);
@@ -262,11 +256,10 @@ TEST(Berichtsbild, numbers_touch_neither_each_other_nor_the_names_of_their_axes)
         int Einheit;
     };
     for (const Fall& f : {Fall{365, "1000", 0}, {3649, "1000", 0}, {1580, "0.0149", 0}, {11, "3.1", 0}, {100, "999000", 1}}) {
-        const auto l = gerechnet(Lauf_bauer().Dosis(f.Rate, "0").Einheit(f.Einheit));
-        Diagrammbereiche b = Startbereiche(0);
+        const Darstellungsprobe p = gerechnetes_Problem(Lauf_bauer().Dosis(f.Rate, "0").Einheit(f.Einheit));
+        Diagrammbereiche b = Startbereiche(jaehrlich);
         b.X_Ende.fill(f.Ende);
-        l->Felder.TWA_Laenge = 0;
-        const Zeichenliste z = mit_Beschriftung(erstelle_Diagramm(*l, b, 0, 0));
+        const Zeichenliste z = mit_Beschriftung(erstelle_Diagramm(p, b, 0, 0));
         std::vector<const Schriftzug*> Zahlen, Namen;
         for (const Schriftzug& s : z.Texte) (s.einpassen ? Namen : Zahlen).push_back(&s);
         ASSERT_GT(Zahlen.size(), 6U);
@@ -280,8 +273,7 @@ TEST(Berichtsbild, numbers_touch_neither_each_other_nor_the_names_of_their_axes)
 }
 
 TEST(Berichtsbild, names_of_the_axes_stand_in_the_middle_of_one_and_on_top_of_the_other) {
-    const auto l = gerechnet({});
-    const Zeichenliste z = mit_Beschriftung(erstelle_Berichtsdiagramm(*l, Berichtsart::Standard));
+    const Zeichenliste z = mit_Beschriftung(Wirkstoffdiagramm());
     const QPointF Anfang = auf_Flaeche(Bildflaeche, z.System, z.Linien[0].von);
     const QPointF Ende = auf_Flaeche(Bildflaeche, z.System, z.Linien[0].bis);
     const QRectF Zeit = Platz(z, Text(z, "Time after first application (d)"));
@@ -293,31 +285,10 @@ TEST(Berichtsbild, names_of_the_axes_stand_in_the_middle_of_one_and_on_top_of_th
     EXPECT_LT(Gehalt.bottom(), auf_Flaeche(Bildflaeche, z.System, z.Linien[1].bis).y());
 }
 
-// On a screen the lines themselves are drawn: with an empty picture in the place of the pixels the curve is still there.
-TEST(Berichtsbild, document_draws_the_drawing_instead_of_the_pixels) {
-    const Bericht b = Bericht_von(*gerechnet({}));
-    const auto Kurvenpunkte = [&] {
-        b.Dokument->setTextWidth(700);
-        QImage Bild(b.Dokument->size().toSize(), QImage::Format_RGB32);
-        Bild.fill(Qt::white);
-        QPainter p(&Bild);
-        b.Dokument->drawContents(&p);
-        return Punkte_der_Farbe(Bild, 0xFF000080);
-    };
-    EXPECT_GT(Kurvenpunkte(), 100);
-    QImage leer(1920, 1500, QImage::Format_RGB32);
-    leer.fill(Qt::white);
-    b.Dokument->addResource(QTextDocument::ImageResource, QUrl(QString::fromLatin1(Bildname)), leer);
-    EXPECT_EQ(Kurvenpunkte(), 0);
-    zeichne_statt_Bild(*b.Dokument);
-    EXPECT_GT(Kurvenpunkte(), 100);
-}
-
 TEST(Berichtsbild, labels_never_touch_each_other) {
-    Lauf_bauer b = Lauf_bauer().Schema(2);
+    Lauf_bauer b = Lauf_bauer().Schema(zwei_parallel);
     b.Felder.Beschreibung = "A description that is so long that its title fills the whole width of the picture";
-    const auto l = gerechnet(b);
-    const Zeichenliste z = mit_Beschriftung(erstelle_Berichtsdiagramm(*l, Berichtsart::Standard));
+    const Zeichenliste z = mit_Beschriftung(Wirkstoffdiagramm(b));
     std::vector<QRectF> Plaetze;
     for (const Schriftzug& t : z.Texte) {
         if (t.einpassen) Plaetze.push_back(Tinte(z, t));

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "exposure/ergebnistabelle.h"
+#include "session/kern/zustand.h"
+
+namespace varnok {
+
+// The result grids of the screen: of a compound for the selected study, and over all studies. Zeros where a study
+// has no results of the compound.
+Tabellentext Ergebnisse_einer_Studie(const Zustand& z, int i_substanz);
+Tabellentext Ergebnisse_aller_Studien(const Zustand& z, int i_substanz);
+
+}  // namespace varnok

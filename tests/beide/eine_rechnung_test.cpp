@@ -1,0 +1,177 @@
+// One calculation in two programs: what varnok-batch writes of a simulation is what the window shows and writes of it, byte for
+// byte: results, day series, both reports with their pictures.
+
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <nlohmann/json.hpp>
+#include <sstream>
+
+#include "batch/berichte.h"
+#include "batch/schreiber.h"
+#include "batch/serien.h"
+#include "batch/varnok_batch.h"
+#include "records/simulation.h"
+#include "session/kern/sitzung.h"
+
+namespace varnok {
+namespace {
+
+namespace fs = std::filesystem;
+using JSON = nlohmann::ordered_json;
+
+std::string Inhalt(const fs::path& Datei) {
+    std::ifstream Strom(Datei, std::ios::binary);
+    EXPECT_TRUE(Strom.good()) << Datei;
+    std::ostringstream Text;
+    Text << Strom.rdbuf();
+    return Text.str();
+}
+
+class stehende_Uhr final : public Uhr {
+public:
+    std::chrono::system_clock::time_point jetzt() const override {
+        return std::chrono::system_clock::time_point(std::chrono::hours(24 * 365 * 50));
+    }
+};
+
+// Says OK, or the first answer offered, to whatever is told.
+class Jasager final : public Rueckfrage {
+public:
+    Knopf frage(const Frage& f) override { return f.Knoepfe.front(); }
+};
+
+struct Fall {
+    fs::path Projekt;
+    std::string Simulation;
+};
+
+void PrintTo(const Fall& f, std::ostream* aus) { *aus << f.Projekt.filename().string() << ", " << f.Simulation; }
+
+// Every case of tests/cases and everything that is shipped.
+std::vector<Fall> alle_Faelle() {
+    std::vector<fs::path> Projekte = {VARNOK_DATENORDNER};
+    for (const auto& Eintrag : fs::directory_iterator(VARNOK_TESTORDNER "/cases")) Projekte.push_back(Eintrag.path());
+    std::sort(Projekte.begin(), Projekte.end());
+    std::vector<Fall> Faelle;
+    for (const fs::path& Projekt : Projekte) {
+        for (const std::string& Name : Projektordner(Projekt.string()).Namen(Endungen[Simulation]))
+            Faelle.push_back({Projekt, Name});
+    }
+    return Faelle;
+}
+
+class Eine_Rechnung : public testing::TestWithParam<Fall> {
+protected:
+    Eine_Rechnung() : Wurzel_(fs::temp_directory_path() / ("varnok-beide-" + std::to_string(::getpid()))) {
+        fs::remove_all(Wurzel_);
+        fs::create_directories(Projekt() / "output");
+        fs::copy(GetParam().Projekt / "input", Projekt() / "input", fs::copy_options::recursive);
+        fs::permissions(Projekt() / "input", fs::perms::owner_all, fs::perm_options::add);
+    }
+    ~Eine_Rechnung() override {
+        s_.reset();
+        fs::remove_all(Wurzel_);
+    }
+
+    fs::path Projekt() const { return Wurzel_ / "projekt"; }
+    fs::path Ausgabe(const std::string& Name) const { return Wurzel_ / "batch" / Name; }
+
+    // varnok-batch on this simulation with these outputs.
+    bool rufe_Batch(const std::vector<std::string>& Ausgaben) {
+        fs::create_directories(Wurzel_ / "batch");
+        std::vector<std::string> Worte = {"varnok-batch", "--quiet", "--simulation", GetParam().Simulation};
+        Worte.insert(Worte.end(), Ausgaben.begin(), Ausgaben.end());
+        Worte.push_back(Projekt().string());
+        std::vector<const char*> Argumente;
+        for (const std::string& w : Worte) Argumente.push_back(w.c_str());
+        std::ostringstream aus, fehler;
+        batch::Umgebung Umwelt;
+        Umwelt.Fehlerausgabe_ist_Terminal = [] { return false; };
+        Umwelt.Zeit = &Uhr_;
+        return batch::varnok_batch(static_cast<int>(Argumente.size()), Argumente.data(), aus, fehler, Umwelt) ==
+               batch::alles_berechnet;
+    }
+
+    // The simulation as a user opens it: the program starts with any, then this one is chosen.
+    Sitzung& oeffne() {
+        s_.reset();
+        s_ = std::make_unique<Sitzung>(Umgebung{&Fragen_, Projekt().string(), VARNOK_DATENORDNER, '.', &Uhr_});
+        EXPECT_TRUE(s_->oeffne_Projekt());
+        s_->Starten();
+        const auto& Liste = s_->Stand().Listen[Simulation];
+        const auto Platz = std::find(Liste.begin(), Liste.end(), GetParam().Simulation) - Liste.begin();
+        s_->waehle_Simulation(static_cast<int>(Platz));
+        return *s_;
+    }
+
+    // The report of what the window shows is the file that varnok-batch wrote under that name and an addition. Where the
+    // description makes no file name, neither program has a report.
+    void vergleiche_Bericht(const std::string& Zusatz) {
+        s_->erstelle_Bericht();
+        const bool geschrieben = s_->offener_Bericht() != nullptr;
+        s_->schliesse_Bericht();
+        ASSERT_EQ(geschrieben, Berichte_moeglich_);
+        if (!geschrieben) return;
+        const std::string Name = s_->Stand().Ergebnisdatei;
+        const fs::path Gegenstueck = Ausgabe("berichte") / (Name + Zusatz + ".rtf");
+        ASSERT_TRUE(fs::exists(Gegenstueck)) << Gegenstueck;
+        EXPECT_TRUE(Inhalt(Projekt() / "output" / (Name + ".rtf")) == Inhalt(Gegenstueck)) << Gegenstueck;
+    }
+
+    bool Berichte_moeglich_ = true;
+    stehende_Uhr Uhr_;
+    Jasager Fragen_;
+    std::unique_ptr<Sitzung> s_;
+    fs::path Wurzel_;
+};
+
+// The document of varnok-batch about results of the window; what was remarked while reading is not a result.
+JSON als_Dokument(const Zustand& z, const std::string& Simulation) {
+    const Simulationssatz Satz = lies_Simulation(*z.Ordner, Simulation);
+    batch::Simulationsausgang a;
+    a.Ergebnis = {Simulation, Satz.Beschreibung, Satz.Dateinamen, std::make_shared<const Eingabe>(z.Vorgabe), {}, {}};
+    for (int st = 0; st < z.Studienzahl(); ++st) a.Ergebnis.Studien.push_back(z.Werte.at(static_cast<std::size_t>(st)));
+    return JSON::parse(batch::als_JSON({a}));
+}
+
+JSON ohne_Bemerkungen(JSON Dokument) {
+    for (JSON& s : Dokument.at("simulations")) s.erase("remarks");
+    return Dokument;
+}
+
+TEST_P(Eine_Rechnung, gives_the_same_bytes_in_both_programs) {
+    const bool gelungen = rufe_Batch({"--json", Ausgabe("ergebnis.json").string(), "--series", Ausgabe("serien").string()});
+    const Zustand& z = oeffne().Stand();
+    ASSERT_EQ(gelungen, !z.abgedeckt) << "one program shows a result and the other does not";
+    if (!gelungen) return;
+    Berichte_moeglich_ = rufe_Batch({"--report", Ausgabe("berichte").string(), "--extended"});
+
+    const int Studien = z.Studienzahl();
+    for (int st = 0; st < Studien; ++st) {
+        oeffne().waehle_Studie(st);
+        const Zustand& jetzt = s_->Stand();
+        ASSERT_FALSE(jetzt.abgedeckt) << st;
+        EXPECT_TRUE(batch::Serientext(jetzt.zeige().Studie()) ==
+                    Inhalt(Ausgabe("serien") / batch::Serienname(GetParam().Simulation, st + 1)))
+            << st;
+        vergleiche_Bericht(batch::Studienzusatz(jetzt.Vorgabe, st, static_cast<std::size_t>(Studien)));
+    }
+
+    oeffne();
+    for (int st = 1; st < Studien; ++st) s_->waehle_Studie(st);
+    const JSON vom_Fenster = ohne_Bemerkungen(als_Dokument(s_->Stand(), GetParam().Simulation));
+    EXPECT_EQ(vom_Fenster, ohne_Bemerkungen(JSON::parse(Inhalt(Ausgabe("ergebnis.json")))));
+
+    if (Studien < 2) return;
+    oeffne().zeige_Zusammenfassung();
+    vergleiche_Bericht(" - extended");
+}
+
+INSTANTIATE_TEST_SUITE_P(Alle, Eine_Rechnung, testing::ValuesIn(alle_Faelle()));
+
+}  // namespace
+}  // namespace varnok
