@@ -41,7 +41,7 @@ struct Speicherplatz {
     const T& aus(const Ergebnistabelle<T>& Tabelle) const {
         return Tabelle[Platz(e)][Platz(st)][Platz(c)];
     }
-    Tagesreihe_lesend Boden() const { return s.Reihe_Bodentiefe(e, st, c, 0); }
+    Tagesreihe_lesend Boden() const { return s.Reihe_Bodentiefe(e, st, c); }
 };
 
 std::vector<Fensterergebnis> entnimm_Fenster(const Speicherplatz& p, const std::vector<float>& Fenster) {
@@ -68,7 +68,7 @@ Endpunktergebnis entnimm_Endpunkt(const Speicherplatz& p, const std::vector<floa
     r.TWA = entnimm_Fenster(p, Fenster);
     if (u == Umfang::ohne_Reihen) return r;
     r.Reihe_Bodentiefe = Tage_des_Laufs(p.Boden());
-    r.Reihe_Plateautiefe = Tage_des_Laufs(s.Reihe_Plateautiefe(p.e, p.st, p.c, 0));
+    r.Reihe_Plateautiefe = Tage_des_Laufs(s.Reihe_Plateautiefe(p.e, p.st, p.c));
     r.Integral_Bodentiefe = Tage_des_Laufs(s.Integral_Bodentiefe(p.e, p.st, p.c));
     return r;
 }

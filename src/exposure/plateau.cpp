@@ -125,6 +125,7 @@ double loese_Verhaeltnis(double m, double t_a, double t_b) {
     double oben = std::log(1E3);
     for (int i = 0; i < 100; ++i) {
         const double Mitte = (unten + oben) / 2;
+        if (Mitte == unten || Mitte == oben) break;  // nothing lies between
         (Modellverhaeltnis(std::exp(Mitte), t_a, t_b) > m ? unten : oben) = Mitte;
     }
     return std::exp((unten + oben) / 2);

@@ -1,32 +1,75 @@
 #include "exposure/twa.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <iterator>
 
 #include "base/laufzeitfehler.h"
 #include "base/zahlen.h"
+#include "run/reihensuche.h"
 
 namespace varnok {
 namespace {
+
+constexpr auto Platz = [](int i) { return static_cast<std::size_t>(i); };
 
 struct Fenstermaximum {
     float Mittel = 0;
     std::int16_t Start = 0;
 };
 
-// Largest mean over a window of `Laenge` days that ends within the run.
-Fenstermaximum suche(Tagesreihe_lesend Integral, double Laenge) {
-    Fenstermaximum m;
-    const double letzter_Start = std::nearbyint(letzter_Tag - Laenge);
-    for (int d = 0; d <= letzter_Start; ++d) {
-        const auto Ende = static_cast<std::size_t>(std::nearbyint(d + Laenge));
-        const double Zuwachs = static_cast<double>(Integral[Ende]) - static_cast<double>(Integral[static_cast<std::size_t>(d)]);
-        const auto v = static_cast<float>(Zuwachs / Laenge);
-        if (v > m.Mittel) m = {v, static_cast<std::int16_t>(d)};
+// Over how many days the largest growth is kept apart.
+constexpr int Abschnitt = 64;
+
+// The means of windows of `Laenge` days that end within the run, and the first one of the largest.
+class Fenster {
+public:
+    Fenster(Tagesreihe_lesend Integral, double Laenge)
+        : Integral_(Integral), Laenge_(Laenge), Anzahl_(static_cast<int>(std::nearbyint(letzter_Tag - Laenge)) + 1) {}
+
+    Fenstermaximum suche() const {
+        const double Versatz = std::nearbyint(Laenge_);
+        // With half a day over the rounded length differs from day to day.
+        if (Anzahl_ < 1 || std::abs(Laenge_ - Versatz) == 0.5) return suche_zwischen(0, Anzahl_, {});
+        return suche_nahe(Integral_.data() + static_cast<int>(Versatz));
     }
-    return m;
-}
+
+private:
+    Fenstermaximum suche_zwischen(int von, int bis, Fenstermaximum m) const {
+        for (int d = von; d < bis; ++d) {
+            const auto Ende = static_cast<std::size_t>(std::nearbyint(d + Laenge_));
+            const double Zuwachs = static_cast<double>(Integral_[Ende]) - static_cast<double>(Integral_[Platz(d)]);
+            const auto v = static_cast<float>(Zuwachs / Laenge_);
+            if (v > m.Mittel) m = {v, static_cast<std::int16_t>(d)};
+        }
+        return m;
+    }
+
+    // The largest growth of the integral gives the largest mean. Means are worked out only where the growth comes so near to it
+    // that rounding may have made them equal.
+    Fenstermaximum suche_nahe(const float* Enden) const {
+        std::array<float, letzter_Tag / Abschnitt + 1> groesste;
+        for (int d = 0; d < Anzahl_; d += Abschnitt) {
+            groesste[Platz(d / Abschnitt)] = groesster_Wert(Platz(std::min(Abschnitt, Anzahl_ - d)), 0, [&](std::size_t i) {
+                return Enden[Platz(d) + i] - Integral_[Platz(d) + i];
+            });
+        }
+        const int Abschnitte = (Anzahl_ + Abschnitt - 1) / Abschnitt;
+        const auto Zuwachs = static_cast<double>(*std::max_element(groesste.begin(), groesste.begin() + Abschnitte));
+        const double Grenze = Zuwachs - std::ldexp(Zuwachs, -20) - std::ldexp(Laenge_ + 1, -147);
+        Fenstermaximum m;
+        for (int d = 0; d < Anzahl_; d += Abschnitt) {
+            if (static_cast<double>(groesste[Platz(d / Abschnitt)]) < Grenze) continue;
+            m = suche_zwischen(d, std::min(d + Abschnitt, Anzahl_), m);
+        }
+        return m;
+    }
+
+    Tagesreihe_lesend Integral_;
+    double Laenge_;
+    int Anzahl_;
+};
 
 }  // namespace
 
@@ -51,15 +94,16 @@ void berechne_TWA(Lauf& l) {
     Ergebnisspeicher& s = l.Speicher;
     const auto st = static_cast<std::size_t>(l.i_studie);
     const auto c = static_cast<std::size_t>(l.i_substanz);
-    const std::vector<float> Fenster = TWA_Fenster(l.Felder.Parameter);
-    for (std::size_t j = 1; j <= Fenster.size(); ++j) {
-        const auto Laenge = static_cast<double>(Fenster[j - 1]);
+    const std::vector<float> Laengen = TWA_Fenster(l.Felder.Parameter);
+    for (std::size_t j = 1; j <= Laengen.size(); ++j) {
+        const auto Laenge = static_cast<double>(Laengen[j - 1]);
         if (!(Laenge > 0) || !std::isfinite(Laenge)) {
             melde_unmoegliche_Rechnung("length of TWA window " + std::to_string(j) + " (d) = " + allgemeine_Zahl(Laenge),
                                        {{}, 0, "TWA"});
         }
         for (std::size_t e = 0; e < Endpunkte; ++e) {
-            const Fenstermaximum m = suche(s.Integral_Bodentiefe(static_cast<int>(e), l.i_studie, l.i_substanz), Laenge);
+            const Fenstermaximum m =
+                Fenster(s.Integral_Bodentiefe(static_cast<int>(e), l.i_studie, l.i_substanz), Laenge).suche();
             if (!std::isfinite(m.Mittel)) {
                 melde_unmoegliche_Rechnung("length of TWA window (d) = " + allgemeine_Zahl(Laenge), {{}, 0, "TWA"});
             }

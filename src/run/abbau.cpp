@@ -1,5 +1,6 @@
 #include "run/abbau.h"
 
+#include <array>
 #include <cmath>
 
 #include "base/laufzeitfehler.h"
@@ -8,57 +9,70 @@
 namespace varnok {
 namespace {
 
+constexpr std::size_t Gruppe = Zeilengruppe;
+constexpr std::size_t Laenge = Slotzeilen::Zeilenlaenge;
+
+constexpr auto Platz = [](int i) { return static_cast<std::size_t>(i); };
+
+// Rows side by side, each day the rest of the day before; `Rest(j, t)` is what day t leaves of row j. The rounding of a day
+// waits for that of the day before, so that the rows of a group share the waiting.
+template <class Funktion>
+void baue_Gruppe_ab(float* erste_Zeile, int n, Funktion Rest) {
+    std::array<float, Gruppe> v{};
+    for (std::size_t j = 0; j < Gruppe; ++j) v[j] = erste_Zeile[j * Laenge];
+    for (std::size_t t = 0; t < Platz(n); ++t) {
+        for (std::size_t j = 0; j < Gruppe; ++j) {
+            v[j] = static_cast<float>(static_cast<double>(v[j]) * Rest(j, t));
+            erste_Zeile[j * Laenge + t + 1] = v[j];
+        }
+    }
+}
+
 // SFO: C(d) = C(d-1) exp(-k).
 class Abbau_SFO final : public Abbau {
 public:
     using Abbau::Abbau;
 
-    void korrigiere(const Korrektur& k) override { Rest_ = std::exp(-k.korrigiert(l_.Felder.Parameter.k_SFO[0][Studie()])); }
+    std::span<const double> Konstanten() const override { return {&Parameter().k_SFO[0][Studie()], 1}; }
 
-    void baue_ab(int d, int Anzahl) override {
-        for (int s = 1; s <= Anzahl; ++s) baue_ab(Reihen_.Plateau[s] + d);
-        for (int s = 1; s <= Bodenslots(Anzahl); ++s) baue_ab(Reihen_.Boden[s] + d);
+    void baue_ab(int d, int n, int Anzahl) override {
+        const double* Rest = &Faktoren_.Rest(0)[Platz(d)];
+        for (int i = 0; i < Zeilenzahl(Anzahl); i += Zeilengruppe) {
+            baue_Gruppe_ab(Zeilen_.Zeile(i), n, [=](std::size_t, std::size_t t) { return Rest[t]; });
+        }
     }
-
-private:
-    void baue_ab(float* heute) const { *heute = static_cast<float>(static_cast<double>(heute[-1]) * Rest_); }
-
-    double Rest_ = 1;
 };
 
 // DFOP: two compartments of double precision, each with its own rate; the store holds their sum.
 class Abbau_DFOP final : public Abbau {
 public:
-    explicit Abbau_DFOP(Lauf& l) : Abbau(l), g_(l.Felder.Parameter.g_DFOP[0][Studie()]) {}
+    explicit Abbau_DFOP(Lauf& l)
+        : Abbau(l), k_{Parameter().k1_DFOP[0][Studie()], Parameter().k2_DFOP[0][Studie()]}, g_(Parameter().g_DFOP[0][Studie()]) {}
 
-    void korrigiere(const Korrektur& k) override {
-        Rest_ = {std::exp(-k.korrigiert(l_.Felder.Parameter.k1_DFOP[0][Studie()])),
-                 std::exp(-k.korrigiert(l_.Felder.Parameter.k2_DFOP[0][Studie()]))};
-    }
+    std::span<const double> Konstanten() const override { return k_; }
 
-    void baue_ab(int d, int Anzahl) override {
-        for (int s = 1; s <= Anzahl; ++s) Reihen_.Plateau[s][d] = baue_ab(Phase_Plateau_[static_cast<std::size_t>(s)]);
-        for (int s = 1; s <= Bodenslots(Anzahl); ++s) Reihen_.Boden[s][d] = baue_ab(Phase_Boden_[static_cast<std::size_t>(s)]);
+    void baue_ab(int d, int n, int Anzahl) override {
+        for (int i = 0; i < Zeilenzahl(Anzahl); i += Zeilengruppe) baue_Gruppe_ab(i, d, n);
     }
 
     void beginne_Tag_0() override {
-        Phase_Plateau_[1] = teile(static_cast<double>(Reihen_.Plateau[1][0]));
-        Phase_Boden_[1] = teile(static_cast<double>(Reihen_.Boden[1][0]));
+        for (const Tiefe t : {Tiefe::Plateau, Tiefe::Boden}) Phasen_von(t, 1) = teile(static_cast<double>(Zeilen_.heute(t, 1)));
     }
 
     void dosiere(int Slot, int d, double C) override {
-        const auto s = static_cast<std::size_t>(Slot);
         const Phasen Teile = teile(C);
-        const Phasen Plateauteile = {Teile.schnell * Tiefe_Boden_ / Tiefe_Plateau_,
-                                     Teile.langsam * Tiefe_Boden_ / Tiefe_Plateau_};
-        Reihen_.Plateau[Slot][d] = addiere(Phase_Plateau_[s], Plateauteile);
-        if (Jahr_von(d) == 1) Reihen_.Boden[Slot][d] = addiere(Phase_Boden_[s], Teile);
+        addiere(Tiefe::Plateau, Slot,
+                {Teile.schnell * Tiefe_Boden_ / Tiefe_Plateau_, Teile.langsam * Tiefe_Boden_ / Tiefe_Plateau_});
+        if (Jahr_von(d) == 1) addiere(Tiefe::Boden, Slot, Teile);
     }
 
     void vereinige(int alter_Slot, int Slot, int d) override {
         Abbau::vereinige(alter_Slot, Slot, d);
-        addiere(Phase_Plateau_[static_cast<std::size_t>(Slot)], Phase_Plateau_[static_cast<std::size_t>(alter_Slot)]);
-        Phase_Plateau_[static_cast<std::size_t>(alter_Slot)] = {};
+        Phasen& alt = Phasen_von(Tiefe::Plateau, alter_Slot);
+        Phasen& neu = Phasen_von(Tiefe::Plateau, Slot);
+        neu.schnell += alt.schnell;
+        neu.langsam += alt.langsam;
+        alt = {};
     }
 
 private:
@@ -67,24 +81,35 @@ private:
         double langsam = 0;
     };
 
+    Phasen& Phasen_von(Tiefe t, int Slot) { return Phasen_[Platz(Zeilennummer(t, Slot))]; }
     Phasen teile(double C) const { return {g_ * C, (1 - g_) * C}; }
 
-    static float addiere(Phasen& p, const Phasen& Zuwachs) {
+    void addiere(Tiefe t, int Slot, const Phasen& Zuwachs) {
+        Phasen& p = Phasen_von(t, Slot);
         p.schnell += Zuwachs.schnell;
         p.langsam += Zuwachs.langsam;
-        return static_cast<float>(p.schnell + p.langsam);
+        Zeilen_.heute(t, Slot) = static_cast<float>(p.schnell + p.langsam);
     }
 
-    float baue_ab(Phasen& p) const {
-        p.schnell *= Rest_.schnell;
-        p.langsam *= Rest_.langsam;
-        return static_cast<float>(p.schnell + p.langsam);
+    void baue_Gruppe_ab(int erste, int d, int n) {
+        float* Zeile = Zeilen_.Zeile(erste);
+        const double* Rest_schnell = &Faktoren_.Rest(0)[Platz(d)];
+        const double* Rest_langsam = &Faktoren_.Rest(1)[Platz(d)];
+        std::array<Phasen, Gruppe> p;
+        for (std::size_t j = 0; j < Gruppe; ++j) p[j] = Phasen_[Platz(erste) + j];
+        for (std::size_t t = 0; t < Platz(n); ++t) {
+            for (std::size_t j = 0; j < Gruppe; ++j) {
+                p[j].schnell *= Rest_schnell[t];
+                p[j].langsam *= Rest_langsam[t];
+                Zeile[j * Laenge + t + 1] = static_cast<float>(p[j].schnell + p[j].langsam);
+            }
+        }
+        for (std::size_t j = 0; j < Gruppe; ++j) Phasen_[Platz(erste) + j] = p[j];
     }
 
+    std::array<double, 2> k_;
     double g_;
-    Phasen Rest_{1, 1};
-    std::array<Phasen, Slots_Plateau> Phase_Plateau_{};
-    std::array<Phasen, Slots_Boden> Phase_Boden_{};
+    std::array<Phasen, alle_Zeilen> Phasen_{};
 };
 
 // FOMC: C(d) = C(reference day) / (t / beta + 1)^alpha. Temperature and moisture act on the biological
@@ -92,103 +117,134 @@ private:
 // one in the soil depth rises back to the height of its reference day without a dose.
 class Abbau_FOMC final : public Abbau {
 public:
-    explicit Abbau_FOMC(Lauf& l)
-        : Abbau(l), alpha_(l.Felder.Parameter.alpha_FOMC[Studie()]), beta_(l.Felder.Parameter.beta_FOMC[Studie()]) {
+    explicit Abbau_FOMC(Lauf& l) : Abbau(l), alpha_(Parameter().alpha_FOMC[Studie()]), beta_(Parameter().beta_FOMC[Studie()]) {
         if (beta_ == 0) melde_unmoegliche_Rechnung("FOMC beta = 0", {{}, 0, "beta_FOMC", l.i_studie, 0});
-        if (l.Felder.Parameter.Separate_Rueckstaende != 0) bestimme_Bezugstage();
     }
 
-    void korrigiere(const Korrektur& k) override { Faktor_ = k.Faktor(); }
-
-    void baue_ab(int d, int Anzahl) override {
+    void baue_ab(int d, int n, int Anzahl) override {
+        const double* Faktor = &Faktoren_.Faktor()[Platz(d)];
+        std::array<double, Slotzeilen::Tage> Nenner{};
         for (int s = 1; s <= Anzahl; ++s) {
-            const auto i = static_cast<std::size_t>(s);
-            Zeit_[i] += Faktor_;
-            const double Nenner = std::pow(Zeit_[i] / beta_ + 1, alpha_);
-            setze(Reihen_.Plateau[s], d, Bezugstag_Plateau_[i], Nenner);
-            if (s < Slots_Boden) setze(Reihen_.Boden[s], d, Bezugstag_Boden_[i], Nenner);
+            double& Zeit = Zeit_[Platz(s)];
+            for (std::size_t t = 0; t < Platz(n); ++t) {
+                Zeit += Faktor[t];
+                Nenner[t] = std::pow(Zeit / beta_ + 1, alpha_);
+            }
+            teile(Tiefe::Plateau, s, n, Nenner.data());
+            if (s < Slots_Boden) teile(Tiefe::Boden, s, n, Nenner.data());
         }
     }
 
-    void beginne_Slot(int Slot, int d) override {
-        Zeit_[static_cast<std::size_t>(Slot)] = 0;
-        if (l_.Felder.Parameter.Separate_Rueckstaende != 0) return;
-        Bezugstag_Plateau_[1] = d;
-        if (Jahr_von(d) == 1) Bezugstag_Boden_[1] = d;
+    void beginne_Tag_0() override {
+        for (const Tiefe t : {Tiefe::Plateau, Tiefe::Boden}) merke_Bezug(t, 1);
+    }
+
+    void beginne_Slot(int Slot, int) override { Zeit_[Platz(Slot)] = 0; }
+
+    // The slot of number s refers to the day of event s. Where a row of rate 0 lets the slots run behind the events, that is a
+    // day on which the slot was still empty.
+    void dosiere(int Slot, int d, double C) override {
+        Abbau::dosiere(Slot, d, C);
+        if (getrennt() && l_.Speicher.Applikationstag[Platz(Slot)] != d) return;
+        merke_Bezug(Tiefe::Plateau, Slot);
+        if (Jahr_von(d) == 1) merke_Bezug(Tiefe::Boden, Slot);
+    }
+
+    void vereinige(int alter_Slot, int Slot, int d) override {
+        Abbau::vereinige(alter_Slot, Slot, d);
+        Bezug(Tiefe::Plateau, alter_Slot) = 0;
     }
 
 private:
-    static void setze(float* Reihe, int d, int Bezugstag, double Nenner) {
-        Reihe[d] = static_cast<float>(static_cast<double>(Reihe[Bezugstag]) / Nenner);
-    }
+    float& Bezug(Tiefe t, int Slot) { return Bezug_[Platz(Zeilennummer(t, Slot))]; }
+    void merke_Bezug(Tiefe t, int Slot) { Bezug(t, Slot) = Zeilen_.heute(t, Slot); }
 
-    // The slot of number s refers to event s, also where a row of rate 0 lets the slots run behind the
-    // events. A slot behind the first year's events holds nothing in the soil depth.
-    void bestimme_Bezugstage() {
-        const auto& Tage = l_.Speicher.Applikationstag;
-        const auto letzter = static_cast<std::size_t>(l_.Felder.Anzahl());
-        for (std::size_t s = 1; s < Ereignisplaetze; ++s) {
-            Bezugstag_Plateau_[s] = Tage[s];
-            Bezugstag_Boden_[s] = Tage[std::min(s, letzter)];
-        }
+    void teile(Tiefe Reihe, int Slot, int n, const double* Nenner) {
+        float* Zeile = Zeilen_.Zeile(Reihe, Slot) + 1;
+        const auto C = static_cast<double>(Bezug(Reihe, Slot));
+        for (std::size_t t = 0; t < Platz(n); ++t) Zeile[t] = static_cast<float>(C / Nenner[t]);
     }
 
     double alpha_;
     double beta_;
-    double Faktor_ = 1;
     std::array<double, Slots_Plateau> Zeit_{};
-    std::array<int, Slots_Plateau> Bezugstag_Plateau_{};
-    std::array<int, Slots_Plateau> Bezugstag_Boden_{};
+    std::array<float, alle_Zeilen> Bezug_{};
 };
 
 // HS: SFO with k1 up to the breakpoint in biological time, with k2 after it. A dose without separate
 // residues takes the whole residue back to the first phase.
 class Abbau_HS final : public Abbau {
 public:
-    using Abbau::Abbau;
+    explicit Abbau_HS(Lauf& l)
+        : Abbau(l), k_{Parameter().k1_HS[Studie()], Parameter().k2_HS[Studie()]}, Tb_(Parameter().Tb_HS[Studie()]) {}
 
-    void korrigiere(const Korrektur& k) override {
-        Faktor_ = k.Faktor();
-        Rest_vor_ = std::exp(-k.korrigiert(l_.Felder.Parameter.k1_HS[Studie()]));
-        Rest_nach_ = std::exp(-k.korrigiert(l_.Felder.Parameter.k2_HS[Studie()]));
-    }
+    std::span<const double> Konstanten() const override { return k_; }
 
-    void baue_ab(int d, int Anzahl) override {
-        const double Tb = l_.Felder.Parameter.Tb_HS[Studie()];
-        for (int s = 1; s <= Anzahl; ++s) {
-            double& Zeit = Zeit_[static_cast<std::size_t>(s)];
-            Zeit += Faktor_;
-            const double Rest = Zeit > Tb ? Rest_nach_ : Rest_vor_;
-            baue_ab(Reihen_.Plateau[s] + d, Rest);
-            if (s < Slots_Boden) baue_ab(Reihen_.Boden[s] + d, Rest);
+    void baue_ab(int d, int n, int Anzahl) override {
+        const int Zeilen = Zeilenzahl(Anzahl);
+        std::array<const double*, Gruppe> Rest{};
+        std::array<std::array<double, Slotzeilen::Tage>, Gruppe> Ablage;
+        for (int i = 0, s = 1; i < Zeilen; i += Zeilengruppe) {
+            for (std::size_t j = 0; j < Gruppe; ++j) {
+                // Both series of a slot have one clock; the rows behind the last slot go along with any.
+                if (s > Anzahl) {
+                    Rest[j] = Rest[0];
+                    continue;
+                }
+                Rest[j] = Restzeile(s, d, n, Ablage[j].data());
+                if (s < Slots_Boden) Rest[j + 1] = Rest[j];
+                j += s++ < Slots_Boden ? 1 : 0;
+            }
+            baue_Gruppe_ab(Zeilen_.Zeile(i), n, [&](std::size_t j, std::size_t t) { return Rest[j][t]; });
         }
     }
 
-    void beginne_Slot(int Slot, int) override { Zeit_[static_cast<std::size_t>(Slot)] = 0; }
+    void beginne_Slot(int Slot, int) override { Zeit_[Platz(Slot)] = 0; }
 
 private:
-    static void baue_ab(float* heute, double Rest) { *heute = static_cast<float>(static_cast<double>(heute[-1]) * Rest); }
+    // What each of the n days leaves of a slot.
+    const double* Restzeile(int Slot, int d, int n, double* Ablage) {
+        const double* vor = &Faktoren_.Rest(0)[Platz(d)];
+        const double* nach = &Faktoren_.Rest(1)[Platz(d)];
+        const double* Faktor = &Faktoren_.Faktor()[Platz(d)];
+        double& Zeit = Zeit_[Platz(Slot)];
+        // Once past the breakpoint it stays there; then the clock need not go on.
+        if (Zeit > Tb_ && !Faktoren_.rueckwaerts()) return nach;
+        for (std::size_t t = 0; t < Platz(n); ++t) {
+            Zeit += Faktor[t];
+            Ablage[t] = Zeit > Tb_ ? nach[t] : vor[t];
+        }
+        return Ablage;
+    }
 
-    double Faktor_ = 1;
-    double Rest_vor_ = 1;
-    double Rest_nach_ = 1;
+    std::array<double, 2> k_;
+    double Tb_;
     std::array<double, Slots_Plateau> Zeit_{};
 };
 
 }  // namespace
 
+Abbau::Abbau(Lauf& l)
+    : l_(l),
+      Zeilen_(l.Platz->Zeilen),
+      Faktoren_(l.Platz->Faktoren),
+      Tiefe_Boden_(l.Felder.Parameter.Bodentiefe / 10),
+      Tiefe_Plateau_(l.Felder.Parameter.Plateautiefe / 10) {}
+
 void Abbau::beginne_Slot(int, int) {}
 
 void Abbau::dosiere(int Slot, int d, double C) {
-    waechst_um(Reihen_.Plateau[Slot][d], C * Tiefe_Boden_ / Tiefe_Plateau_);
-    if (Jahr_von(d) == 1) waechst_um(Reihen_.Boden[Slot][d], C);
+    waechst_um(Zeilen_.heute(Tiefe::Plateau, Slot), C * Tiefe_Boden_ / Tiefe_Plateau_);
+    if (Jahr_von(d) == 1) waechst_um(Zeilen_.heute(Tiefe::Boden, Slot), C);
 }
 
-void Abbau::vereinige(int alter_Slot, int Slot, int d) {
-    float* alt = Reihen_.Plateau[alter_Slot];
-    waechst_um(Reihen_.Plateau[Slot][d], static_cast<double>(alt[d]));
-    alt[d] = 0;
-    alt[l_.Speicher.Applikationstag[static_cast<std::size_t>(alter_Slot)]] = 0;  // an FOMC curve starts there
+void Abbau::vereinige(int alter_Slot, int Slot, int) {
+    float& alt = Zeilen_.heute(Tiefe::Plateau, alter_Slot);
+    waechst_um(Zeilen_.heute(Tiefe::Plateau, Slot), static_cast<double>(alt));
+    alt = 0;
+    if (!l_.Beobachter) return;
+    const int Ereignistag = l_.Speicher.Applikationstag[Platz(alter_Slot)];  // an FOMC curve starts there
+    l_.Beobachter->sieh(0, Tiefe::Plateau, alter_Slot, Ereignistag, {&alt, 1});
 }
 
 std::unique_ptr<Abbau> erstelle_Abbau(Lauf& l) {

@@ -5,8 +5,107 @@
 
 #include "base/laufzeitfehler.h"
 #include "base/zahlen.h"
+#include "run/reihensuche.h"
 
 namespace varnok {
+namespace {
+
+constexpr auto Platz = [](int i) { return static_cast<std::size_t>(i); };
+
+// One compound's series at both endpoints.
+class Reihenauswertung {
+public:
+    explicit Reihenauswertung(Lauf& l)
+        : l_(l),
+          st_(Platz(l.i_studie)),
+          c_(Platz(l.i_substanz)),
+          letzter_(l.Platz->Faktoren.letzter()),
+          Plateau_{l.Speicher.Reihe_Plateautiefe(0, l.i_studie, l.i_substanz),
+                   l.Speicher.Reihe_Plateautiefe(1, l.i_studie, l.i_substanz)},
+          Boden_{l.Speicher.Reihe_Bodentiefe(0, l.i_studie, l.i_substanz),
+                 l.Speicher.Reihe_Bodentiefe(1, l.i_studie, l.i_substanz)},
+          Integral_{l.Speicher.Integral_Bodentiefe(0, l.i_studie, l.i_substanz),
+                    l.Speicher.Integral_Bodentiefe(1, l.i_studie, l.i_substanz)} {}
+
+    void teile_durch_PW() {
+        const Tageszahlen& PW = l_.Platz->Faktoren.PW();
+        for (std::size_t d = 1; d <= Platz(letzter_); ++d) {
+            Plateau_[1][d] = static_cast<float>(static_cast<double>(Plateau_[0][d]) / PW[d]);
+            Boden_[1][d] = static_cast<float>(static_cast<double>(Boden_[0][d]) / PW[d]);
+        }
+    }
+
+    void integriere() {
+        std::array<float, Endpunkte> Summe = {Boden_[0][0], Boden_[1][0]};
+        for (std::size_t e = 0; e < Endpunkte; ++e) Integral_[e][0] = Summe[e];
+        for (std::size_t d = 1; d <= Platz(letzter_); ++d) {
+            for (std::size_t e = 0; e < Endpunkte; ++e) {
+                const double Zuwachs = (static_cast<double>(Boden_[e][d]) + static_cast<double>(Boden_[e][d - 1])) / 2;
+                Summe[e] = static_cast<float>(Zuwachs + static_cast<double>(Summe[e]));
+                Integral_[e][d] = Summe[e];
+            }
+        }
+    }
+
+    // The integral goes wherever the soil depth goes, and stays there.
+    void pruefe() const {
+        if (std::isfinite(Integral_[0][Platz(letzter_)]) && std::isfinite(Integral_[1][Platz(letzter_)]) &&
+            endlich(Plateau_[0]) && endlich(Plateau_[1])) {
+            return;
+        }
+        for (int d = 1; d <= letzter_; ++d) {
+            for (std::size_t e = 0; e < Endpunkte; ++e)
+                pruefe_Konzentration(l_, d, Plateau_[e][Platz(d)], Integral_[e][Platz(d)]);
+        }
+    }
+
+    void bestimme_Maxima(std::size_t e) {
+        Ergebnisspeicher& s = l_.Speicher;
+        const int ab = l_.i_substanz == 0 ? 0 : 1;
+        const Tageswert Anfang = ab == 0 ? Tageswert{Boden_[e][0], 0} : Tageswert{0, -99};
+        const Tageswert Boden = suche_Maximum(Boden_[e].subspan(1, Platz(letzter_)), 1, Anfang);
+        s.Maximum_Bodentiefe[e][st_][c_] = Boden.Wert;
+        s.Maximumtag_Bodentiefe[e][st_][c_] = static_cast<std::int16_t>(Boden.Tag);
+
+        Tageswert Plateau = {-1, -99};
+        s.Maximum_Plateautiefe[e][st_][c_] = -1;
+        for (int Jahr = 1; Jahr <= Jahre; ++Jahr) {
+            const int von = std::max(ab, (Jahr - 1) * Tage_pro_Jahr);
+            const int Tage = std::max(0, std::min(letzter_ + 1, Jahr * Tage_pro_Jahr) - von);
+            Plateau = suche_Maximum(Plateau_[e].subspan(Platz(von), Platz(Tage)), von, {-1, Plateau.Tag});
+            s.Jahresmaximum[e][st_][c_][Platz(Jahr)] = Plateau.Wert;
+            s.Maximum_Plateautiefe[e][st_][c_] = std::max(s.Maximum_Plateautiefe[e][st_][c_], Plateau.Wert);
+        }
+        s.Maximumtag_Plateautiefe[e][st_][c_] = static_cast<std::int16_t>(Plateau.Tag);  // follows the years; nothing reads it
+    }
+
+private:
+    // Any number times 0 is 0, but for infinity and what is no number.
+    static bool endlich(Tagesreihe_lesend Reihe) {
+        std::array<float, 8> Probe{};
+        static_assert(Tagesplaetze % 8 == 0);
+        for (std::size_t d = 0; d < Tagesplaetze; d += 8) {
+            for (std::size_t j = 0; j < 8; ++j) Probe[j] += Reihe[d + j] * 0;
+        }
+        return std::all_of(Probe.begin(), Probe.end(), [](float p) { return p == 0; });
+    }
+
+    Lauf& l_;
+    std::size_t st_;
+    std::size_t c_;
+    int letzter_;
+    std::array<Tagesreihe, Endpunkte> Plateau_;
+    std::array<Tagesreihe, Endpunkte> Boden_;
+    std::array<Tagesreihe, Endpunkte> Integral_;
+};
+
+}  // namespace
+
+Tageswert suche_Maximum(std::span<const float> Werte, int erster_Tag, Tageswert bisher) {
+    const float m = groesster_Wert(Werte.size(), bisher.Wert, [&](std::size_t i) { return Werte[i]; });
+    if (!(m > bisher.Wert)) return bisher;
+    return {m, erster_Tag + static_cast<int>(std::find(Werte.begin(), Werte.end(), m) - Werte.begin())};
+}
 
 void pruefe_Konzentration(const Lauf& l, int d, float Plateau, float Boden) {
     if (std::isfinite(Plateau) && std::isfinite(Boden)) return;
@@ -15,58 +114,12 @@ void pruefe_Konzentration(const Lauf& l, int d, float Plateau, float Boden) {
                                {{}, 0, {}, l.i_studie, l.i_substanz});
 }
 
-Tagesauswertung::Tagesauswertung(Lauf& l)
-    : l_(&l),
-      st_(static_cast<std::size_t>(l.i_studie)),
-      c_(static_cast<std::size_t>(l.i_substanz)),
-      Plateau_{l.Speicher.Reihe_Plateautiefe(0, l.i_studie, l.i_substanz, 0),
-               l.Speicher.Reihe_Plateautiefe(1, l.i_studie, l.i_substanz, 0)},
-      Boden_{l.Speicher.Reihe_Bodentiefe(0, l.i_studie, l.i_substanz, 0),
-             l.Speicher.Reihe_Bodentiefe(1, l.i_studie, l.i_substanz, 0)},
-      Integral_{l.Speicher.Integral_Bodentiefe(0, l.i_studie, l.i_substanz),
-                l.Speicher.Integral_Bodentiefe(1, l.i_studie, l.i_substanz)} {}
-
-void Tagesauswertung::beginne() {
-    Ergebnisspeicher& s = l_->Speicher;
-    for (std::size_t e = 0; e < Endpunkte; ++e) {
-        s.Maximum_Plateautiefe[e][st_][c_] = -1;
-        s.Maximumtag_Plateautiefe[e][st_][c_] = -99;
-        s.Maximumtag_Bodentiefe[e][st_][c_] = -99;
-        auto& Jahreswerte = s.Jahresmaximum[e][st_][c_];
-        std::fill(Jahreswerte.begin() + 1, Jahreswerte.end(), -1.0F);
-    }
-}
-
-void Tagesauswertung::werte_aus(int d, double PW) {
-    const auto t = static_cast<std::size_t>(d);
-    Plateau_[1][t] = static_cast<float>(static_cast<double>(Plateau_[0][t]) / PW);
-    Boden_[1][t] = static_cast<float>(static_cast<double>(Boden_[0][t]) / PW);
-    for (std::size_t e = 0; e < Endpunkte; ++e) werte_Endpunkt_aus(e, d);
-}
-
-void Tagesauswertung::werte_Endpunkt_aus(std::size_t e, int d) {
-    Ergebnisspeicher& s = l_->Speicher;
-    const auto t = static_cast<std::size_t>(d);
-    const float C = Plateau_[e][t];
-    const float X = Boden_[e][t];
-    const double Zuwachs = (static_cast<double>(X) + static_cast<double>(Boden_[e][t - 1])) / 2;
-    Integral_[e][t] = static_cast<float>(Zuwachs + static_cast<double>(Integral_[e][t - 1]));
-    pruefe_Konzentration(*l_, d, C, Integral_[e][t]);  // the integral goes wherever the soil depth goes
-
-    const auto Tag = static_cast<std::int16_t>(d);
-    if (C > s.Maximum_Plateautiefe[e][st_][c_]) {
-        s.Maximum_Plateautiefe[e][st_][c_] = C;
-        s.Maximumtag_Plateautiefe[e][st_][c_] = Tag;
-    }
-    float& Jahreswert = s.Jahresmaximum[e][st_][c_][static_cast<std::size_t>(Jahr_von(d))];
-    if (C > Jahreswert) {
-        Jahreswert = C;
-        s.Maximumtag_Plateautiefe[e][st_][c_] = Tag;  // follows the yearly maxima; nothing reads it
-    }
-    if (X > s.Maximum_Bodentiefe[e][st_][c_]) {
-        s.Maximum_Bodentiefe[e][st_][c_] = X;
-        s.Maximumtag_Bodentiefe[e][st_][c_] = Tag;
-    }
+void werte_Reihen_aus(Lauf& l) {
+    Reihenauswertung a(l);
+    a.teile_durch_PW();
+    a.integriere();
+    a.pruefe();
+    for (std::size_t e = 0; e < Endpunkte; ++e) a.bestimme_Maxima(e);
 }
 
 }  // namespace varnok

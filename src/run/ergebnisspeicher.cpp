@@ -6,53 +6,41 @@
 namespace varnok {
 namespace {
 
-constexpr std::size_t Tage = Tagesplaetze;
-
-// First element of a daily series of a block with the index order [study][endpoint][compound][slot][day].
-// The study stands in front, so that the section of a run is one piece.
-std::size_t Platz(int i_endpunkt, int i_studie, int i_substanz, int Slot, int Slots) {
-    const auto Reihe = ((static_cast<std::size_t>(i_studie) * Endpunkte + static_cast<std::size_t>(i_endpunkt)) * Stoffe +
-                        static_cast<std::size_t>(i_substanz)) *
-                           static_cast<std::size_t>(Slots) +
-                       static_cast<std::size_t>(Slot);
-    return Reihe * Tage;
-}
-
-float* neuer_Block(int Slots) {
-    const std::size_t Anzahl = Platz(0, max_Studien, 0, 0, Slots);
-    auto* p = static_cast<float*>(std::calloc(Anzahl, sizeof(float)));
-    if (p == nullptr) throw std::bad_alloc();
-    return p;
-}
-
-void leere(float* Block, int i_studie, int Slots) {
-    std::fill(Block + Platz(0, i_studie, 0, 0, Slots), Block + Platz(0, i_studie + 1, 0, 0, Slots), 0.0F);
-}
+constexpr auto Platz = [](int i) { return static_cast<std::size_t>(i); };
 
 }  // namespace
 
-Ergebnisspeicher::Ergebnisspeicher()
-    : Plateau_(neuer_Block(Slots_Plateau)), Boden_(neuer_Block(Slots_Boden)), Integral_(neuer_Block(1)) {}
-
-Tagesreihe Ergebnisspeicher::Reihe_Plateautiefe(int i_endpunkt, int i_studie, int i_substanz, int Slot) {
-    return Tagesreihe(Plateau_.get() + Platz(i_endpunkt, i_studie, i_substanz, Slot, Slots_Plateau), Tage);
-}
-Tagesreihe_lesend Ergebnisspeicher::Reihe_Plateautiefe(int i_endpunkt, int i_studie, int i_substanz, int Slot) const {
-    return Tagesreihe_lesend(Plateau_.get() + Platz(i_endpunkt, i_studie, i_substanz, Slot, Slots_Plateau), Tage);
+Ergebnisspeicher::Ergebnisspeicher() : Reihen_(static_cast<Block*>(std::calloc(1, sizeof(Block)))) {
+    if (!Reihen_) throw std::bad_alloc();
 }
 
-Tagesreihe Ergebnisspeicher::Reihe_Bodentiefe(int i_endpunkt, int i_studie, int i_substanz, int Slot) {
-    return Tagesreihe(Boden_.get() + Platz(i_endpunkt, i_studie, i_substanz, Slot, Slots_Boden), Tage);
+Ergebnisspeicher::Stoffreihen& Ergebnisspeicher::beschreibe(int i_studie, int i_substanz) {
+    beschrieben_[Platz(i_studie)][Platz(i_substanz)] = true;
+    return (*Reihen_)[Platz(i_studie)][Platz(i_substanz)];
 }
-Tagesreihe_lesend Ergebnisspeicher::Reihe_Bodentiefe(int i_endpunkt, int i_studie, int i_substanz, int Slot) const {
-    return Tagesreihe_lesend(Boden_.get() + Platz(i_endpunkt, i_studie, i_substanz, Slot, Slots_Boden), Tage);
+const Ergebnisspeicher::Stoffreihen& Ergebnisspeicher::lies(int i_studie, int i_substanz) const {
+    return (*Reihen_)[Platz(i_studie)][Platz(i_substanz)];
+}
+
+Tagesreihe Ergebnisspeicher::Reihe_Plateautiefe(int i_endpunkt, int i_studie, int i_substanz) {
+    return beschreibe(i_studie, i_substanz).Plateau[Platz(i_endpunkt)];
+}
+Tagesreihe_lesend Ergebnisspeicher::Reihe_Plateautiefe(int i_endpunkt, int i_studie, int i_substanz) const {
+    return lies(i_studie, i_substanz).Plateau[Platz(i_endpunkt)];
+}
+
+Tagesreihe Ergebnisspeicher::Reihe_Bodentiefe(int i_endpunkt, int i_studie, int i_substanz) {
+    return beschreibe(i_studie, i_substanz).Boden[Platz(i_endpunkt)];
+}
+Tagesreihe_lesend Ergebnisspeicher::Reihe_Bodentiefe(int i_endpunkt, int i_studie, int i_substanz) const {
+    return lies(i_studie, i_substanz).Boden[Platz(i_endpunkt)];
 }
 
 Tagesreihe Ergebnisspeicher::Integral_Bodentiefe(int i_endpunkt, int i_studie, int i_substanz) {
-    return Tagesreihe(Integral_.get() + Platz(i_endpunkt, i_studie, i_substanz, 0, 1), Tage);
+    return beschreibe(i_studie, i_substanz).Integral[Platz(i_endpunkt)];
 }
 Tagesreihe_lesend Ergebnisspeicher::Integral_Bodentiefe(int i_endpunkt, int i_studie, int i_substanz) const {
-    return Tagesreihe_lesend(Integral_.get() + Platz(i_endpunkt, i_studie, i_substanz, 0, 1), Tage);
+    return lies(i_studie, i_substanz).Integral[Platz(i_endpunkt)];
 }
 
 void Ergebnisspeicher::leere_Studie(int i_studie) {
@@ -67,9 +55,11 @@ void Ergebnisspeicher::leere_Studie(int i_studie) {
         Plateautext[e][st] = {};
         Plateauprozent[e][st] = {};
     }
-    leere(Plateau_.get(), i_studie, Slots_Plateau);
-    leere(Boden_.get(), i_studie, Slots_Boden);
-    leere(Integral_.get(), i_studie, 1);
+    for (std::size_t c = 0; c < Stoffe; ++c) {
+        if (!beschrieben_[st][c]) continue;  // nobody wrote there
+        (*Reihen_)[st][c] = {};
+        beschrieben_[st][c] = false;
+    }
     for (auto& Reihe : Bildung_Plateautiefe) Reihe.fill(0);
     for (auto& Reihe : Bildung_Bodentiefe) Reihe.fill(0);
 }

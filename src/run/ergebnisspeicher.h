@@ -16,6 +16,7 @@ namespace varnok {
 template <class T>
 using Ergebnistabelle = std::array<std::array<std::array<T, Stoffe>, Studienplaetze>, Endpunkte>;
 
+using Bildungsreihen = std::array<std::array<float, Tagesplaetze>, 2>;
 using Tagesreihe = std::span<float, Tagesplaetze>;
 using Tagesreihe_lesend = std::span<const float, Tagesplaetze>;
 
@@ -27,15 +28,15 @@ public:
     Ergebnisspeicher();
 
     // Daily concentration with the doses of all ten years mixed into the tillage depth.
-    // Slot 0 is the sum, slot k the residue of application event k; pore water has slot 0 (and 1 on day 0).
-    Tagesreihe Reihe_Plateautiefe(int i_endpunkt, int i_studie, int i_substanz, int Slot);
-    Tagesreihe_lesend Reihe_Plateautiefe(int i_endpunkt, int i_studie, int i_substanz, int Slot) const;
+    // The sum of all slots; the residues of the single applications are no result.
+    Tagesreihe Reihe_Plateautiefe(int i_endpunkt, int i_studie, int i_substanz);
+    Tagesreihe_lesend Reihe_Plateautiefe(int i_endpunkt, int i_studie, int i_substanz) const;
 
     // Daily concentration with the doses of the first year only, mixed into the soil depth.
-    Tagesreihe Reihe_Bodentiefe(int i_endpunkt, int i_studie, int i_substanz, int Slot);
-    Tagesreihe_lesend Reihe_Bodentiefe(int i_endpunkt, int i_studie, int i_substanz, int Slot) const;
+    Tagesreihe Reihe_Bodentiefe(int i_endpunkt, int i_studie, int i_substanz);
+    Tagesreihe_lesend Reihe_Bodentiefe(int i_endpunkt, int i_studie, int i_substanz) const;
 
-    // Running trapezoid integral of slot 0 of `Reihe_Bodentiefe`, concentration times days.
+    // Running trapezoid integral of `Reihe_Bodentiefe`, concentration times days.
     Tagesreihe Integral_Bodentiefe(int i_endpunkt, int i_studie, int i_substanz);
     Tagesreihe_lesend Integral_Bodentiefe(int i_endpunkt, int i_studie, int i_substanz) const;
 
@@ -50,8 +51,8 @@ public:
     double Wirksame_Rate = 0;  // the year's doses, each decayed to the last one, g/ha
 
     // Amount of a metabolite (0 first, 1 second) formed on each day, in its own mass.
-    std::array<std::array<float, Tagesplaetze>, 2> Bildung_Plateautiefe{};
-    std::array<std::array<float, Tagesplaetze>, 2> Bildung_Bodentiefe{};
+    Bildungsreihen Bildung_Plateautiefe{};
+    Bildungsreihen Bildung_Bodentiefe{};
 
     Ergebnistabelle<float> Maximum_Plateautiefe{};
     Ergebnistabelle<std::int16_t> Maximumtag_Plateautiefe{};  // day of the last new yearly maximum
@@ -69,15 +70,22 @@ public:
     Ergebnistabelle<std::array<std::int16_t, TWA_Plaetze>> TWA_Starttag{};
 
 private:
-    struct Freigabe {
-        void operator()(float* p) const { std::free(p); }
+    // The daily series of one compound.
+    struct Stoffreihen {
+        std::array<std::array<float, Tagesplaetze>, Endpunkte> Plateau, Boden, Integral;
     };
-    // Zeroed by the system on first touch: studies that are never run cost no memory.
-    using Block = std::unique_ptr<float[], Freigabe>;
+    using Block = std::array<std::array<Stoffreihen, Stoffe>, max_Studien>;
+    struct Freigabe {
+        void operator()(Block* p) const { std::free(p); }
+    };
 
-    Block Plateau_;
-    Block Boden_;
-    Block Integral_;
+    Stoffreihen& beschreibe(int i_studie, int i_substanz);
+    const Stoffreihen& lies(int i_studie, int i_substanz) const;
+
+    // Zeroed by the system on first touch: studies and compounds that are never run cost no memory.
+    std::unique_ptr<Block, Freigabe> Reihen_;
+    // Whether the series of a compound may hold anything else than zeros.
+    std::array<std::array<bool, Stoffe>, max_Studien> beschrieben_{};
 };
 
 }  // namespace varnok

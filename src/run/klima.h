@@ -32,6 +32,8 @@ public:
     Wetter(std::vector<Klimatag> Tage, int App_Monat, int App_Tag);
 
     bool variabel() const { return !Tage_.empty(); }
+    // Days after which the same lines return.
+    int Laenge() const { return static_cast<int>(Tage_.size()); }
     // Weather of day 1 to 3649; only for variable climate.
     const Klimatag& Tag(int d) const { return Tage_[(Start_ + static_cast<std::size_t>(d) - 1) % Tage_.size()]; }
 

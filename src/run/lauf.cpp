@@ -54,6 +54,11 @@ bool lade_Klima(Lauf& l, const Klimaquelle& Quelle) {
     return true;
 }
 
+void verwirf(Lauf& l) {
+    l.Speicher.verwirf_Studie(l.i_studie);
+    if (l.Beobachter) l.Beobachter->verwirf(l.i_studie);
+}
+
 }  // namespace
 
 std::string Meldung(Laufausgang Ausgang) {
@@ -79,15 +84,16 @@ Laufergebnis berechne_PEC(Lauf& l, int i_studie, const Klimaquelle& Quelle, cons
     }
     l.i_studie = i_studie;
     l.Speicher.leere_Studie(i_studie);
+    if (l.Beobachter) l.Beobachter->verwirf(i_studie);
     if (!Lade_Applikationen(l.Felder, i_studie, l.Speicher)) return {Laufausgang::Datumsfolge_ungueltig};
     try {
         if (!lade_Klima(l, Quelle)) {
-            l.Speicher.verwirf_Studie(i_studie);
+            verwirf(l);
             return {Laufausgang::Klimadatei_fehlt};
         }
         rechne_Stoffe(l, Schritte);
     } catch (...) {
-        l.Speicher.verwirf_Studie(i_studie);  // half a result is none
+        verwirf(l);  // half a result is none
         throw;
     }
     return {};

@@ -1,11 +1,15 @@
 #pragma once
 
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "run/eingabe.h"
 #include "run/ergebnisspeicher.h"
 #include "run/klima.h"
+#include "run/slotbeobachter.h"
+#include "run/slotzeilen.h"
+#include "run/tagesfaktoren.h"
 
 namespace varnok {
 
@@ -21,6 +25,12 @@ struct Tageswerte {
     double Summe_Verdunstung = 0;
 };
 
+// Where a run keeps its intermediate numbers. It starts with none of them.
+struct Werkbank {
+    Tagesfaktoren Faktoren;
+    Slotzeilen Zeilen;
+};
+
 // One calculation: what goes in, what comes out and where it stands. A value without ties to
 // anything outside; runs in different threads do not know of each other.
 struct Lauf {
@@ -32,6 +42,9 @@ struct Lauf {
     Tageswerte Tag;
     Wetter Klima;
     std::vector<std::string> Warnungen;  // of the last run, each once
+
+    std::unique_ptr<Werkbank> Platz = std::make_unique<Werkbank>();
+    std::shared_ptr<Slotbeobachter> Beobachter;  // none but in tests
 };
 
 // The calculations above the parent's series that a run needs; `exposure/` supplies them.

@@ -24,6 +24,18 @@ void lies_Klimatag(Lauf& l, int d) {
     l.Tag.Bodenfeuchte = Maximum(l.Felder.Parameter.Welkepunkt, Minimum(l.Felder.Parameter.Feldkapazitaet, Bilanz));
 }
 
+void lies_Klimatage(Lauf& l) {
+    Tagesfaktoren& f = l.Platz->Faktoren;
+    for (int d = 1; d <= letzter_Tag; ++d) {
+        lies_Klimatag(l, d);
+        l.Tag.Summe_Temperatur += l.Tag.Tagestemperatur;
+        l.Tag.Summe_Niederschlag += l.Tag.Tagesniederschlag;
+        l.Tag.Summe_Verdunstung += l.Tag.Tagesverdunstung;
+        f.Temperatur[static_cast<std::size_t>(d)] = l.Tag.Tagestemperatur;
+        f.Feuchte[static_cast<std::size_t>(d)] = l.Tag.Bodenfeuchte;
+    }
+}
+
 void setze_konstantes_Klima(Lauf& l) {
     l.Tag.Tagestemperatur = l.Felder.Parameter.Szenariotemperatur;
     l.Tag.Bodenfeuchte = l.Tag.Referenzfeuchte;
@@ -56,15 +68,6 @@ Korrektur bestimme_Korrektur(const Lauf& l, int i_studie, int i_substanz) {
                                    {{}, 0, "Q10", i_studie, i_substanz});
     }
     return k;
-}
-
-bool Tageskorrektur::aktualisiere(const Lauf& l, int i_studie, int i_substanz) {
-    if (bekannt_ && l.Tag.Tagestemperatur == Temperatur_ && l.Tag.Bodenfeuchte == Feuchte_) return false;
-    Korrektur_ = bestimme_Korrektur(l, i_studie, i_substanz);
-    bekannt_ = true;
-    Temperatur_ = l.Tag.Tagestemperatur;
-    Feuchte_ = l.Tag.Bodenfeuchte;
-    return true;
 }
 
 void pruefe_Boden(const Laufparameter& p) {

@@ -18,6 +18,9 @@ void lies_Klimatag(Lauf& l, int d);
 // Constant climate of the scenario: its temperature, and moisture at field capacity.
 void setze_konstantes_Klima(Lauf& l);
 
+// The weather of all days of a run with variable climate, from `beginne_Tageswerte` on, and its sums.
+void lies_Klimatage(Lauf& l);
+
 // Divisor between total soil content (mg/kg) and pore water concentration (mg/L), in L/kg, with the
 // moisture of the day. Throws Laufzeitfehler if it is 0.
 double PW_faktor(const Lauf& l, int i_studie, int i_substanz);
@@ -34,21 +37,6 @@ struct Korrektur {
 
 // Throws Laufzeitfehler if the correction is not finite.
 Korrektur bestimme_Korrektur(const Lauf& l, int i_studie, int i_substanz);
-
-// Follows the correction through the days of a run; works the powers out anew only when temperature or
-// moisture differ from the day before.
-class Tageskorrektur {
-public:
-    // True if the correction is another than that of the day before.
-    bool aktualisiere(const Lauf& l, int i_studie, int i_substanz);
-    const Korrektur& heute() const { return Korrektur_; }
-
-private:
-    bool bekannt_ = false;
-    double Temperatur_ = 0;
-    double Feuchte_ = 0;
-    Korrektur Korrektur_;
-};
 
 // Throws Laufzeitfehler for a density, depth or field capacity that is not above 0.
 void pruefe_Boden(const Laufparameter& p);

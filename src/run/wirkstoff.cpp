@@ -1,21 +1,17 @@
 #include "run/wirkstoff.h"
 
+#include <algorithm>
 #include <vector>
 
 #include "base/laufzeitfehler.h"
 #include "base/zahlen.h"
 #include "run/abbau.h"
 #include "run/auswertung.h"
+#include "run/slotsummen.h"
 #include "run/tageswerte.h"
 
 namespace varnok {
 namespace {
-
-// How much of a metabolite comes of what the parent loses.
-struct Bildungsweg {
-    double Anteil = 0;             // fraction formed
-    double Massenverhaeltnis = 0;  // molar mass of the metabolite over that of the parent
-};
 
 std::vector<Bildungsweg> lies_Bildungswege(const Eingabe& e) {
     const int Metaboliten = Anzahl_Stoffe(e.Berechnungsmodus) - 1;
@@ -26,130 +22,120 @@ std::vector<Bildungsweg> lies_Bildungswege(const Eingabe& e) {
                                    {{}, 0, "Molmasse", -1, 0});
     }
     std::vector<Bildungsweg> Wege = {{e.Bildungsanteil_Met_1.Zahl() / 100, e.Molmasse_Met_1.Zahl() / Molmasse}};
-    if (Metaboliten == 2) Wege.push_back({e.Bildungsanteil_Met_2.Zahl() / 100, e.Molmasse_Met_2.Zahl() / Molmasse});
+    // In the sequence the first metabolite feeds the second one.
+    if (e.Berechnungsmodus == zwei_parallel) Wege.push_back({e.Bildungsanteil_Met_2.Zahl() / 100, e.Molmasse_Met_2.Zahl() / Molmasse});
     return Wege;
 }
 
 class Wirkstofflauf {
 public:
     explicit Wirkstofflauf(Lauf& l)
-        : l_(l), Reihen_(l), Abbau_(erstelle_Abbau(l)), Wege_(lies_Bildungswege(l.Felder)), Auswertung_(l) {}
+        : l_(l),
+          s_(l.Speicher),
+          Zeilen_(l.Platz->Zeilen),
+          Faktoren_(l.Platz->Faktoren),
+          Abbau_(erstelle_Abbau(l)),
+          Wege_(lies_Bildungswege(l.Felder)),
+          Plateau_(s_.Reihe_Plateautiefe(0, l.i_studie, 0)),
+          Boden_(s_.Reihe_Bodentiefe(0, l.i_studie, 0)) {}
 
     void rechne() {
         beginne_Tageswerte(l_);
         l_.Tag.Summe_Temperatur = l_.Tag.Summe_Niederschlag = l_.Tag.Summe_Verdunstung = 0;
-        Auswertung_.beginne();
+        Zeilen_.leere();
         rechne_Tag_0();
-        for (int d = 1; d <= letzter_Tag; ++d) rechne_Tag(d);
+        bestimme_Faktoren();
+        for (int d = 1; d <= Faktoren_.letzter();) d += rechne_Tage(d);
+        werte_Reihen_aus(l_);
+        Faktoren_.melde_Fehler();
     }
 
 private:
     void rechne_Tag_0();
-    void setze_Maxima_Tag_0();
-    void rechne_Tag(int d);
-    void lies_Wetter(int d);
-    void baue_ab(int d);
-    void bilde(int d, std::size_t Weg);
+    void bestimme_Faktoren();
+    int naechster_Dosistag(int d) const;
+    int rechne_Tage(int d);
     void appliziere(int d);
     void summiere(int d);
+    void zeige(int d, int erster_Platz, int n) const;
     double Konzentration(int d, double Tiefe) const;
+    Summenziel Ziel(Tagesreihe Gesamt, Bildungsreihen& Bildung, int d) const;
 
+    bool dosiert(int d) const { return s_.Tagesrate[static_cast<std::size_t>(d)] > 0; }
     bool getrennt() const { return l_.Felder.Parameter.Separate_Rueckstaende != 0; }
 
     Lauf& l_;
-    Reihenpaar Reihen_;
+    Ergebnisspeicher& s_;
+    Slotzeilen& Zeilen_;
+    Tagesfaktoren& Faktoren_;
     std::unique_ptr<Abbau> Abbau_;
     std::vector<Bildungsweg> Wege_;
-    Tagesauswertung Auswertung_;
-    Tageskorrektur Korrektur_;
+    Tagesreihe Plateau_;
+    Tagesreihe Boden_;
     int Anzahl_Slots_ = 0;
     bool Jahreswechsel_ = false;
 };
 
 // Concentration of the dose of day d in a depth in cm: g/ha over dm and kg/L gives mg/kg.
 double Wirkstofflauf::Konzentration(int d, double Tiefe) const {
-    const double Rate = static_cast<double>(l_.Speicher.Tagesrate[static_cast<std::size_t>(d)]);
+    const double Rate = static_cast<double>(s_.Tagesrate[static_cast<std::size_t>(d)]);
     const double Einheitenfaktor = l_.Felder.Parameter.Einheit == 0 ? 1 : 1000;
     return (Rate / 1000) / ((Tiefe / 10) * l_.Felder.Parameter.Bodendichte) * Einheitenfaktor;
 }
 
 void Wirkstofflauf::rechne_Tag_0() {
-    if (l_.Speicher.Tagesrate[0] > 0) {
-        const auto Plateau = static_cast<float>(Konzentration(0, l_.Felder.Parameter.Plateautiefe));
-        const auto Boden = static_cast<float>(Konzentration(0, l_.Felder.Parameter.Bodentiefe));
-        // In constant climate too, day 0 sees the mean moisture: it is set to field capacity from day 1 on.
-        const double PW = PW_faktor(l_, l_.i_studie, 0);
-        const auto Plateau_Wasser = static_cast<float>(static_cast<double>(Plateau) / PW);
-        const auto Boden_Wasser = static_cast<float>(static_cast<double>(Boden) / PW);
-        pruefe_Konzentration(l_, 0, Plateau, Boden);
-        pruefe_Konzentration(l_, 0, Plateau_Wasser, Boden_Wasser);
-        for (int Slot = 0; Slot <= 1; ++Slot) {
-            Reihen_.Plateau[Slot][0] = Plateau;
-            Reihen_.Boden[Slot][0] = Boden;
-            l_.Speicher.Reihe_Plateautiefe(1, l_.i_studie, 0, Slot)[0] = Plateau_Wasser;
-            l_.Speicher.Reihe_Bodentiefe(1, l_.i_studie, 0, Slot)[0] = Boden_Wasser;
-        }
-        // The integral starts at the first concentration, as if day 0 counted for a full day.
-        for (int e = 0; e < Endpunkte; ++e) {
-            l_.Speicher.Integral_Bodentiefe(e, l_.i_studie, 0)[0] = l_.Speicher.Reihe_Bodentiefe(e, l_.i_studie, 0, 0)[0];
-        }
-        Anzahl_Slots_ = 1;
-        Abbau_->beginne_Tag_0();
-    }
     if (!getrennt()) Anzahl_Slots_ = 1;
-    setze_Maxima_Tag_0();
+    if (!dosiert(0)) return;
+    const auto Plateau = static_cast<float>(Konzentration(0, l_.Felder.Parameter.Plateautiefe));
+    const auto Boden = static_cast<float>(Konzentration(0, l_.Felder.Parameter.Bodentiefe));
+    // In constant climate too, day 0 sees the mean moisture: it is set to field capacity from day 1 on.
+    const double PW = PW_faktor(l_, l_.i_studie, 0);
+    const auto Plateau_Wasser = static_cast<float>(static_cast<double>(Plateau) / PW);
+    const auto Boden_Wasser = static_cast<float>(static_cast<double>(Boden) / PW);
+    pruefe_Konzentration(l_, 0, Plateau, Boden);
+    pruefe_Konzentration(l_, 0, Plateau_Wasser, Boden_Wasser);
+    Plateau_[0] = Zeilen_.heute(Tiefe::Plateau, 1) = Plateau;
+    Boden_[0] = Zeilen_.heute(Tiefe::Boden, 1) = Boden;
+    s_.Reihe_Plateautiefe(1, l_.i_studie, 0)[0] = Plateau_Wasser;
+    s_.Reihe_Bodentiefe(1, l_.i_studie, 0)[0] = Boden_Wasser;
+    Anzahl_Slots_ = 1;
+    Abbau_->beginne_Tag_0();
+    zeige(0, 0, 1);
 }
 
-void Wirkstofflauf::setze_Maxima_Tag_0() {
-    Ergebnisspeicher& s = l_.Speicher;
-    const auto st = static_cast<std::size_t>(l_.i_studie);
-    for (std::size_t e = 0; e < Endpunkte; ++e) {
-        const float C = s.Reihe_Plateautiefe(static_cast<int>(e), l_.i_studie, 0, 0)[0];
-        s.Maximum_Plateautiefe[e][st][0] = C;
-        s.Maximumtag_Plateautiefe[e][st][0] = 0;
-        s.Jahresmaximum[e][st][0][1] = C;
-        s.Maximum_Bodentiefe[e][st][0] = s.Reihe_Bodentiefe(static_cast<int>(e), l_.i_studie, 0, 0)[0];
-        s.Maximumtag_Bodentiefe[e][st][0] = 0;
+void Wirkstofflauf::bestimme_Faktoren() {
+    const int erster = dosiert(0) || !getrennt() ? 1 : naechster_Dosistag(1) + 1;
+    if (l_.Klima.variabel()) {
+        lies_Klimatage(l_);
+    } else {
+        Faktoren_.Feuchte.fill(l_.Tag.Bodenfeuchte);  // up to the first residue the moisture stays at its mean
+        setze_konstantes_Klima(l_);
+        Faktoren_.Temperatur.fill(l_.Tag.Tagestemperatur);
+        std::fill(Faktoren_.Feuchte.begin() + std::min(erster, letzter_Tag + 1), Faktoren_.Feuchte.end(), l_.Tag.Bodenfeuchte);
     }
+    Faktoren_.bestimme(l_, erster, Abbau_->Konstanten());
 }
 
-void Wirkstofflauf::rechne_Tag(int d) {
-    if (l_.Klima.variabel()) lies_Wetter(d);
-    if (d % Tage_pro_Jahr == 0) Jahreswechsel_ = true;
-    baue_ab(d);
-    for (std::size_t Weg = 0; Weg < Wege_.size(); ++Weg) bilde(d, Weg);
-    if (l_.Speicher.Tagesrate[static_cast<std::size_t>(d)] > 0) appliziere(d);
-    summiere(d);
-    Auswertung_.werte_aus(d, PW_faktor(l_, l_.i_studie, 0));
+// The first day from d on with a dose, or the one behind the run.
+int Wirkstofflauf::naechster_Dosistag(int d) const {
+    while (d <= letzter_Tag && !dosiert(d)) ++d;
+    return d;
 }
 
-void Wirkstofflauf::lies_Wetter(int d) {
-    lies_Klimatag(l_, d);
-    l_.Tag.Summe_Temperatur += l_.Tag.Tagestemperatur;
-    l_.Tag.Summe_Niederschlag += l_.Tag.Tagesniederschlag;
-    l_.Tag.Summe_Verdunstung += l_.Tag.Tagesverdunstung;
-}
-
-void Wirkstofflauf::baue_ab(int d) {
-    if (Anzahl_Slots_ == 0) return;  // in constant climate the moisture then stays at its mean, too
-    if (!l_.Klima.variabel()) setze_konstantes_Klima(l_);
-    if (Korrektur_.aktualisiere(l_, l_.i_studie, 0)) Abbau_->korrigiere(Korrektur_.heute());
-    Abbau_->baue_ab(d, Anzahl_Slots_);
-}
-
-// What the parent lost on this day feeds the metabolite, in the metabolite's own mass.
-void Wirkstofflauf::bilde(int d, std::size_t Weg) {
-    const auto [Anteil, Massenverhaeltnis] = Wege_[Weg];
-    const auto bilde_Reihe = [&, Anteil = Anteil, Massenverhaeltnis = Massenverhaeltnis](const Slotreihen& Reihe, int Slots,
-                                                                                         float& Bildung) {
-        for (int s = 1; s <= Slots; ++s) {
-            const double Verlust = static_cast<double>(Reihe[s][d - 1]) - static_cast<double>(Reihe[s][d]);
-            waechst_um(Bildung, Verlust * Anteil * Massenverhaeltnis);
-        }
-    };
-    const auto t = static_cast<std::size_t>(d);
-    bilde_Reihe(Reihen_.Plateau, Anzahl_Slots_, l_.Speicher.Bildung_Plateautiefe[Weg][t]);
-    bilde_Reihe(Reihen_.Boden, Bodenslots(Anzahl_Slots_), l_.Speicher.Bildung_Bodentiefe[Weg][t]);
+// The days from d on as far as rows and sound days reach, up to the next dose. Returns their number.
+int Wirkstofflauf::rechne_Tage(int d) {
+    const int letzter = std::min({naechster_Dosistag(d), d + Slotzeilen::Tage - 1, Faktoren_.letzter()});
+    const int n = letzter - d + 1;
+    if (letzter / Tage_pro_Jahr != (d - 1) / Tage_pro_Jahr) Jahreswechsel_ = true;
+    if (Anzahl_Slots_ > 0) {
+        Abbau_->baue_ab(d, n, Anzahl_Slots_);
+        zeige(d, 1, n);
+        summiere_Slots(Zeilen_, Tiefe::Plateau, Anzahl_Slots_, n, Ziel(Plateau_, s_.Bildung_Plateautiefe, d));
+        summiere_Slots(Zeilen_, Tiefe::Boden, Slots_von(Tiefe::Boden, Anzahl_Slots_), n, Ziel(Boden_, s_.Bildung_Bodentiefe, d));
+        Zeilen_.ruecke_vor(Anzahl_Slots_, n);
+    }
+    if (dosiert(letzter)) appliziere(letzter);
+    return n;
 }
 
 void Wirkstofflauf::appliziere(int d) {
@@ -161,12 +147,32 @@ void Wirkstofflauf::appliziere(int d) {
         for (int s = 1; s < Slot; ++s) Abbau_->vereinige(s, Slot, d);
     }
     Abbau_->dosiere(Slot, d, Konzentration(d, l_.Felder.Parameter.Bodentiefe));
+    zeige(d, 0, 1);
+    summiere(d);
 }
 
+// The sum slot of a day with a dose, as the slots stand after it.
 void Wirkstofflauf::summiere(int d) {
-    for (int s = 1; s <= Anzahl_Slots_; ++s) waechst_um(Reihen_.Plateau[0][d], static_cast<double>(Reihen_.Plateau[s][d]));
-    for (int s = 1; s <= Bodenslots(Anzahl_Slots_); ++s)
-        waechst_um(Reihen_.Boden[0][d], static_cast<double>(Reihen_.Boden[s][d]));
+    for (const Tiefe t : {Tiefe::Plateau, Tiefe::Boden}) {
+        float Summe = 0;
+        for (int s = 1; s <= Slots_von(t, Anzahl_Slots_); ++s) Summe += Zeilen_.heute(t, s);
+        (t == Tiefe::Plateau ? Plateau_ : Boden_)[static_cast<std::size_t>(d)] = Summe;
+    }
+}
+
+Summenziel Wirkstofflauf::Ziel(Tagesreihe Gesamt, Bildungsreihen& Bildung, int d) const {
+    const auto t = static_cast<std::size_t>(d);
+    return {&Gesamt[t], Wege_, {&Bildung[0][t], &Bildung[1][t]}};
+}
+
+// Shows the observer n days from d on, which stand in the rows from `erster_Platz` on.
+void Wirkstofflauf::zeige(int d, int erster_Platz, int n) const {
+    if (!l_.Beobachter) return;
+    for (const Tiefe t : {Tiefe::Plateau, Tiefe::Boden}) {
+        for (int s = 1; s <= Slots_von(t, Anzahl_Slots_); ++s) {
+            l_.Beobachter->sieh(0, t, s, d, {Zeilen_.Zeile(t, s) + erster_Platz, static_cast<std::size_t>(n)});
+        }
+    }
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "support/lauf_bauer.h"
+#include "support/slotprotokoll.h"
 
 namespace varnok::probe {
 namespace {
@@ -26,7 +27,7 @@ Lauf_bauer bei(const Gitterpunkt& g) {
     return b;
 }
 
-struct Tiefe {
+struct Schicht {
     const Lauf& l;
     bool Plateau;
 
@@ -78,7 +79,7 @@ protected:
                 for (const bool Plateau : {false, true}) {
                     SCOPED_TRACE("kinetics " + std::to_string(Kinetik) + " climate " + std::to_string(Klimamodus) +
                                  (Plateau ? " tillage depth" : " soil depth"));
-                    pruefe(Tiefe{l, Plateau});
+                    pruefe(Schicht{l, Plateau});
                 }
             }
         }
@@ -86,14 +87,14 @@ protected:
 };
 
 TEST_P(Bilanz, of_the_parent_closes_over_what_it_passes_on) {
-    fuer_alle_Laeufe(1, [](const Tiefe& t) {
+    fuer_alle_Laeufe(1, [](const Schicht& t) {
         const double verloren = t.Summe_gebildet(0) / (0.6 * 150 / 200);
         EXPECT_NEAR(t.in(0, letzter_Tag, 0) + verloren, t.appliziert(), Rundung * t.appliziert());
     });
 }
 
 TEST_P(Bilanz, of_parallel_metabolites_closes) {
-    fuer_alle_Laeufe(2, [](const Tiefe& t) {
+    fuer_alle_Laeufe(2, [](const Schicht& t) {
         for (const int c : {1, 2}) {
             const double gebildet = t.Summe_gebildet(static_cast<std::size_t>(c - 1));
             EXPECT_NEAR(t.in(0, letzter_Tag, c) + t.verloren(c), gebildet, Rundung * gebildet) << c;
@@ -103,7 +104,7 @@ TEST_P(Bilanz, of_parallel_metabolites_closes) {
 }
 
 TEST_P(Bilanz, of_a_sequence_closes_and_hands_over_the_loss_of_the_first) {
-    fuer_alle_Laeufe(3, [](const Tiefe& t) {
+    fuer_alle_Laeufe(3, [](const Schicht& t) {
         for (const int c : {1, 2}) {
             const double gebildet = t.Summe_gebildet(static_cast<std::size_t>(c - 1));
             EXPECT_NEAR(t.in(0, letzter_Tag, c) + t.verloren(c), gebildet, Rundung * gebildet) << c;
@@ -140,14 +141,16 @@ TEST_P(Linear, twice_the_rate_doubles_every_store_exactly) {
     for (int e = 0; e < Endpunkte; ++e) {
         for (int c = 0; c < Stoffe; ++c) {
             erwarte_doppelt(doppelt.Speicher.Integral_Bodentiefe(e, 0, c), l.Speicher.Integral_Bodentiefe(e, 0, c), "integral");
-            for (int Slot = 0; Slot < Slots_Plateau; ++Slot) {
-                erwarte_doppelt(doppelt.Speicher.Reihe_Plateautiefe(e, 0, c, Slot), l.Speicher.Reihe_Plateautiefe(e, 0, c, Slot),
-                                "tillage");
-            }
-            for (int Slot = 0; Slot < Slots_Boden; ++Slot) {
-                erwarte_doppelt(doppelt.Speicher.Reihe_Bodentiefe(e, 0, c, Slot), l.Speicher.Reihe_Bodentiefe(e, 0, c, Slot),
-                                "soil");
-            }
+            erwarte_doppelt(doppelt.Speicher.Reihe_Plateautiefe(e, 0, c), l.Speicher.Reihe_Plateautiefe(e, 0, c), "tillage");
+            erwarte_doppelt(doppelt.Speicher.Reihe_Bodentiefe(e, 0, c), l.Speicher.Reihe_Bodentiefe(e, 0, c), "soil");
+        }
+    }
+    for (int c = 0; c < Stoffe; ++c) {
+        for (int Slot = 1; Slot < Slots_Plateau; ++Slot) {
+            erwarte_doppelt(Slotreihe(doppelt, 0, c, Tiefe::Plateau, Slot), Slotreihe(l, 0, c, Tiefe::Plateau, Slot), "tillage");
+        }
+        for (int Slot = 1; Slot < Slots_Boden; ++Slot) {
+            erwarte_doppelt(Slotreihe(doppelt, 0, c, Tiefe::Boden, Slot), Slotreihe(l, 0, c, Tiefe::Boden, Slot), "soil");
         }
     }
 }

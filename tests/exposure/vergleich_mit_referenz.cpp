@@ -12,6 +12,7 @@
 #include "base/zahlen.h"
 #include "support/lauf_bauer.h"
 #include "support/referenzlauf.h"
+#include "support/slotprotokoll.h"
 
 namespace varnok::probe {
 namespace {
@@ -36,17 +37,19 @@ void vergleiche_Reihen(const Lauf& l, const referenz::Stoffergebnis& r, int c) {
     for (int e = 0; e < Endpunkte; ++e) {
         SCOPED_TRACE("endpoint " + std::to_string(e));
         const auto i = static_cast<std::size_t>(e);
-        GLEICH(s.Reihe_Bodentiefe(e, l.i_studie, c, 0), r.Boden[i]);
-        GLEICH(s.Reihe_Plateautiefe(e, l.i_studie, c, 0), r.Plateau[i]);
+        GLEICH(s.Reihe_Bodentiefe(e, l.i_studie, c), r.Boden[i]);
+        GLEICH(s.Reihe_Plateautiefe(e, l.i_studie, c), r.Plateau[i]);
         GLEICH(s.Integral_Bodentiefe(e, l.i_studie, c), r.Integral[i]);
     }
+    // The slots of a metabolite are the compartments of DFOP; under SFO they have no meaning.
+    if (c > 0 && l.Felder.Parameter.Kinetik[static_cast<std::size_t>(c)][static_cast<std::size_t>(l.i_studie)] == SFO) return;
     for (int Slot = 0; Slot < Slots_Boden; ++Slot) {
         SCOPED_TRACE("slot " + std::to_string(Slot));
-        GLEICH(s.Reihe_Bodentiefe(0, l.i_studie, c, Slot), r.Slots_Boden[static_cast<std::size_t>(Slot)]);
+        GLEICH(Slotreihe(l, l.i_studie, c, Tiefe::Boden, Slot), r.Slots_Boden[static_cast<std::size_t>(Slot)]);
     }
     for (int Slot = 0; Slot < Slots_Plateau; ++Slot) {
         SCOPED_TRACE("slot " + std::to_string(Slot));
-        GLEICH(s.Reihe_Plateautiefe(0, l.i_studie, c, Slot), r.Slots_Plateau[static_cast<std::size_t>(Slot)]);
+        GLEICH(Slotreihe(l, l.i_studie, c, Tiefe::Plateau, Slot), r.Slots_Plateau[static_cast<std::size_t>(Slot)]);
     }
 }
 

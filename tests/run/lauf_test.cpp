@@ -9,6 +9,7 @@
 #include "base/laufzeitfehler.h"
 #include "exposure/schritte.h"
 #include "support/lauf_bauer.h"
+#include "support/slotprotokoll.h"
 
 namespace varnok::probe {
 namespace {
@@ -130,8 +131,8 @@ TEST(Lauf, a_second_run_of_the_study_leaves_nothing_of_the_first) {
     const Lauf frisch = mit_allem().rechne();
     for (int c = 0; c < Stoffe; ++c) {
         for (int Slot = 0; Slot < Slots_Plateau; ++Slot) {
-            const auto a = l.Speicher.Reihe_Plateautiefe(0, 0, c, Slot);
-            const auto b = frisch.Speicher.Reihe_Plateautiefe(0, 0, c, Slot);
+            const auto a = Slotreihe(l, 0, c, Tiefe::Plateau, Slot);
+            const auto b = Slotreihe(frisch, 0, c, Tiefe::Plateau, Slot);
             ASSERT_TRUE(std::equal(a.begin(), a.end(), b.begin())) << c << " " << Slot;
         }
     }

@@ -105,17 +105,20 @@ TEST(Porenwasser, day_0_sees_the_mean_moisture_and_later_days_field_capacity) {
     EXPECT_EQ(Boden(l, 0), Boden(l, 1));  // no step in total soil
 }
 
-TEST(Porenwasser, slot_1_holds_day_0_alone) {
-    const Lauf l = Lauf_bauer().rechne();
-    const auto Slot_1 = l.Speicher.Reihe_Bodentiefe(1, 0, 0, 1);
-    EXPECT_EQ(Slot_1[0], Boden(l, 0, 0, 1));
-    for (int d = 1; d < Tagesplaetze; ++d) ASSERT_EQ(Slot_1[static_cast<std::size_t>(d)], 0.0F) << d;
+TEST(Porenwasser, of_day_0_is_that_of_slot_1) {
+    const Lauf l = Lauf_bauer().Feuchte(40, 10).rechne();
+    const double PW = 2 * 100 / 100.0 + 0.25 / 1.5;
+    EXPECT_EQ(Boden(l, 0, 0, 1), static_cast<float>(static_cast<double>(Bodenslot(l, 1, 0)) / PW));
+    EXPECT_EQ(Plateau(l, 0, 0, 1), static_cast<float>(static_cast<double>(Plateauslot(l, 1, 0)) / PW));
 }
 
-TEST(Porenwasser, other_slots_hold_nothing) {
-    const Lauf l = Lauf_bauer().Rueckstaende(1).regelmaessige_Gaben(3, 10).rechne();
-    for (int Slot = 2; Slot < Slots_Plateau; ++Slot) {
-        for (const float v : l.Speicher.Reihe_Plateautiefe(1, 0, 0, Slot)) ASSERT_EQ(v, 0.0F) << Slot;
+TEST(Porenwasser, is_that_of_the_sum_of_all_slots) {
+    const Lauf l = Lauf_bauer().Feuchte(40, 10).Rueckstaende(1).regelmaessige_Gaben(3, 10).rechne();
+    const double PW = 2 * 100 / 100.0 + 0.4 / 1.5;
+    for (int d = 1; d < 3650; ++d) {
+        float Summe = 0;
+        for (int Slot = 1; Slot < Slots_Plateau; ++Slot) Summe += Plateauslot(l, Slot, d);
+        ASSERT_EQ(Plateau(l, d, 0, 1), static_cast<float>(static_cast<double>(Summe) / PW)) << d;
     }
 }
 

@@ -7,6 +7,7 @@
 
 #include "base/zahlen.h"
 #include "exposure/schritte.h"
+#include "support/slotprotokoll.h"
 
 namespace varnok::probe {
 namespace {
@@ -24,8 +25,11 @@ void alle_Speicher(const Lauf& l, int i_studie, Funktion f) {
     const Ergebnisspeicher& s = l.Speicher;
     for (int e = 0; e < Endpunkte; ++e) {
         for (int c = 0; c < Stoffe; ++c) {
-            for (int k = 0; k < Slots_Plateau; ++k) f("Reihe_Plateautiefe", s.Reihe_Plateautiefe(e, i_studie, c, k));
-            for (int k = 0; k < Slots_Boden; ++k) f("Reihe_Bodentiefe", s.Reihe_Bodentiefe(e, i_studie, c, k));
+            f("Reihe_Plateautiefe", s.Reihe_Plateautiefe(e, i_studie, c));
+            f("Reihe_Bodentiefe", s.Reihe_Bodentiefe(e, i_studie, c));
+            for (int k = 1; e == 0 && k < Slots_Plateau; ++k)
+                f("Reihe_Plateautiefe", Slotreihe(l, i_studie, c, Tiefe::Plateau, k));
+            for (int k = 1; e == 0 && k < Slots_Boden; ++k) f("Reihe_Bodentiefe", Slotreihe(l, i_studie, c, Tiefe::Boden, k));
             f("Integral_Bodentiefe", s.Integral_Bodentiefe(e, i_studie, c));
             f("Jahresmaximum", std::span(s.Jahresmaximum[St(e)][St(i_studie)][St(c)]));
             f("TWA_Maximum", std::span(s.TWA_Maximum[St(e)][St(i_studie)][St(c)]));
@@ -208,6 +212,7 @@ Lauf_bauer& Lauf_bauer::Studie(int i) {
 Lauf Lauf_bauer::baue() const {
     Lauf l;
     l.Felder = Felder;
+    l.Beobachter = std::make_shared<Slotprotokoll>();
     return l;
 }
 
@@ -224,19 +229,19 @@ Lauf Lauf_bauer::rechne() const {
 }
 
 float Boden(const Lauf& l, int Tag, int i_substanz, int i_endpunkt) {
-    return l.Speicher.Reihe_Bodentiefe(i_endpunkt, l.i_studie, i_substanz, 0)[St(Tag)];
+    return l.Speicher.Reihe_Bodentiefe(i_endpunkt, l.i_studie, i_substanz)[St(Tag)];
 }
 
 float Plateau(const Lauf& l, int Tag, int i_substanz, int i_endpunkt) {
-    return l.Speicher.Reihe_Plateautiefe(i_endpunkt, l.i_studie, i_substanz, 0)[St(Tag)];
+    return l.Speicher.Reihe_Plateautiefe(i_endpunkt, l.i_studie, i_substanz)[St(Tag)];
 }
 
 float Bodenslot(const Lauf& l, int Slot, int Tag, int i_substanz) {
-    return l.Speicher.Reihe_Bodentiefe(0, l.i_studie, i_substanz, Slot)[St(Tag)];
+    return Slotreihe(l, l.i_studie, i_substanz, Tiefe::Boden, Slot)[St(Tag)];
 }
 
 float Plateauslot(const Lauf& l, int Slot, int Tag, int i_substanz) {
-    return l.Speicher.Reihe_Plateautiefe(0, l.i_studie, i_substanz, Slot)[St(Tag)];
+    return Slotreihe(l, l.i_studie, i_substanz, Tiefe::Plateau, Slot)[St(Tag)];
 }
 
 std::string Abbild(const Lauf& l, int i_studie) {

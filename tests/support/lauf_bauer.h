@@ -55,7 +55,7 @@ struct Lauf_bauer {
     Lauf_bauer& Einheit(int Code);
     Lauf_bauer& Studie(int i);  // every table of that study becomes as that of study 0 so far
 
-    // A run with the input and the windows in place, not calculated.
+    // A run with the input in place, not calculated. It keeps its slots for the tests to see.
     Lauf baue() const;
     // Calculates in a run that may hold results already, after giving it the input.
     Laufergebnis rechne_in(Lauf& l) const;
@@ -75,7 +75,7 @@ float Plateau(const Lauf& l, int Tag, int i_substanz = 0, int i_endpunkt = 0);
 float Bodenslot(const Lauf& l, int Slot, int Tag, int i_substanz = 0);
 float Plateauslot(const Lauf& l, int Slot, int Tag, int i_substanz = 0);
 
-// All stored results of a study as bytes, those that depend on the study alone.
+// All results of a study as bytes, its slots too, those that depend on the study alone.
 std::string Abbild(const Lauf& l, int i_studie);
 // The doses and the formation as bytes; all studies share them.
 std::string Abbild_gemeinsam(const Lauf& l);
