@@ -19,14 +19,17 @@ struct Fenstermaximum {
     std::int16_t Start = 0;
 };
 
-// Over how many days the largest growth is kept apart.
+// Days whose growth is looked at together.
 constexpr int Abschnitt = 64;
 
 // The means of windows of `Laenge` days that end within the run, and the first one of the largest.
 class Fenster {
 public:
-    Fenster(Tagesreihe_lesend Integral, double Laenge)
-        : Integral_(Integral), Laenge_(Laenge), Anzahl_(static_cast<int>(std::nearbyint(letzter_Tag - Laenge)) + 1) {}
+    Fenster(Tagesreihe_lesend Integral, bool steigt, double Laenge)
+        : Integral_(Integral),
+          steigt_(steigt),
+          Laenge_(Laenge),
+          Anzahl_(Laenge > Tagesplaetze ? 0 : static_cast<int>(std::nearbyint(letzter_Tag - Laenge)) + 1) {}
 
     Fenstermaximum suche() const {
         const double Versatz = std::nearbyint(Laenge_);
@@ -49,24 +52,24 @@ private:
     // The largest growth of the integral gives the largest mean. Means are worked out only where the growth comes so near to it
     // that rounding may have made them equal.
     Fenstermaximum suche_nahe(const float* Enden) const {
-        std::array<float, letzter_Tag / Abschnitt + 1> groesste;
-        for (int d = 0; d < Anzahl_; d += Abschnitt) {
-            groesste[Platz(d / Abschnitt)] = groesster_Wert(Platz(std::min(Abschnitt, Anzahl_ - d)), 0, [&](std::size_t i) {
-                return Enden[Platz(d) + i] - Integral_[Platz(d) + i];
-            });
-        }
-        const int Abschnitte = (Anzahl_ + Abschnitt - 1) / Abschnitt;
-        const auto Zuwachs = static_cast<double>(*std::max_element(groesste.begin(), groesste.begin() + Abschnitte));
-        const double Grenze = Zuwachs - std::ldexp(Zuwachs, -20) - std::ldexp(Laenge_ + 1, -147);
+        const float* Anfaenge = Integral_.data();
         Fenstermaximum m;
+        double Grenze = 0;
         for (int d = 0; d < Anzahl_; d += Abschnitt) {
-            if (static_cast<double>(groesste[Platz(d / Abschnitt)]) < Grenze) continue;
-            m = suche_zwischen(d, std::min(d + Abschnitt, Anzahl_), m);
+            const int Tage = std::min(Abschnitt, Anzahl_ - d);
+            // Nowhere in the section does a rising integral grow by more than from its first start to its last end.
+            if (steigt_ && static_cast<double>(Enden[d + Tage - 1] - Anfaenge[d]) < Grenze) continue;
+            const auto Zuwachs = static_cast<double>(
+                groesster_Wert(Platz(Tage), 0, [&](std::size_t i) { return Enden[Platz(d) + i] - Anfaenge[Platz(d) + i]; }));
+            if (Zuwachs < Grenze) continue;
+            Grenze = std::max(Grenze, Zuwachs - std::ldexp(Zuwachs, -20) - std::ldexp(Laenge_ + 1, -147));
+            m = suche_zwischen(d, d + Tage, m);
         }
         return m;
     }
 
     Tagesreihe_lesend Integral_;
+    bool steigt_;
     double Laenge_;
     int Anzahl_;
 };
@@ -95,6 +98,11 @@ void berechne_TWA(Lauf& l) {
     const auto st = static_cast<std::size_t>(l.i_studie);
     const auto c = static_cast<std::size_t>(l.i_substanz);
     const std::vector<float> Laengen = TWA_Fenster(l.Felder.Parameter);
+    std::array<Tagesreihe_lesend, Endpunkte> Integral = {s.Integral_Bodentiefe(0, l.i_studie, l.i_substanz),
+                                                         s.Integral_Bodentiefe(1, l.i_studie, l.i_substanz)};
+    std::array<bool, Endpunkte> steigt;
+    for (std::size_t e = 0; e < Endpunkte; ++e)
+        steigt[e] = std::is_sorted(Integral[e].begin(), Integral[e].begin() + letzter_Tag + 1);
     for (std::size_t j = 1; j <= Laengen.size(); ++j) {
         const auto Laenge = static_cast<double>(Laengen[j - 1]);
         if (!(Laenge > 0) || !std::isfinite(Laenge)) {
@@ -102,8 +110,7 @@ void berechne_TWA(Lauf& l) {
                                        {{}, 0, "TWA"});
         }
         for (std::size_t e = 0; e < Endpunkte; ++e) {
-            const Fenstermaximum m =
-                Fenster(s.Integral_Bodentiefe(static_cast<int>(e), l.i_studie, l.i_substanz), Laenge).suche();
+            const Fenstermaximum m = Fenster(Integral[e], steigt[e], Laenge).suche();
             if (!std::isfinite(m.Mittel)) {
                 melde_unmoegliche_Rechnung("length of TWA window (d) = " + allgemeine_Zahl(Laenge), {{}, 0, "TWA"});
             }

@@ -5,6 +5,7 @@
 
 #include "base/laufzeitfehler.h"
 #include "base/zahlen.h"
+#include "run/kehrpotenz.h"
 
 namespace varnok {
 namespace {
@@ -117,21 +118,21 @@ private:
 // one in the soil depth rises back to the height of its reference day without a dose.
 class Abbau_FOMC final : public Abbau {
 public:
-    explicit Abbau_FOMC(Lauf& l) : Abbau(l), alpha_(Parameter().alpha_FOMC[Studie()]), beta_(Parameter().beta_FOMC[Studie()]) {
+    explicit Abbau_FOMC(Lauf& l)
+        : Abbau(l), alpha_(Parameter().alpha_FOMC[Studie()]), beta_(Parameter().beta_FOMC[Studie()]), Potenz_(alpha_) {
         if (beta_ == 0) melde_unmoegliche_Rechnung("FOMC beta = 0", {{}, 0, "beta_FOMC", l.i_studie, 0});
     }
 
     void baue_ab(int d, int n, int Anzahl) override {
-        const double* Faktor = &Faktoren_.Faktor()[Platz(d)];
-        std::array<double, Slotzeilen::Tage> Nenner{};
+        static_assert(Slotzeilen::Tage <= Kehrpotenz::groesste_Anzahl);
         for (int s = 1; s <= Anzahl; ++s) {
-            double& Zeit = Zeit_[Platz(s)];
-            for (std::size_t t = 0; t < Platz(n); ++t) {
-                Zeit += Faktor[t];
-                Nenner[t] = std::pow(Zeit / beta_ + 1, alpha_);
+            const Tageszeile Zeit = stelle_Uhr(s, d, n);
+            Tageszeile Kehrwert;
+            const bool genaehert = naehere(Zeit, n, Kehrwert);
+            for (const Tiefe t : {Tiefe::Plateau, Tiefe::Boden}) {
+                if (s > Slots_von(t, Anzahl)) continue;
+                if (!genaehert || !multipliziere(t, s, n, Kehrwert)) teile(t, s, n, Zeit);
             }
-            teile(Tiefe::Plateau, s, n, Nenner.data());
-            if (s < Slots_Boden) teile(Tiefe::Boden, s, n, Nenner.data());
         }
     }
 
@@ -156,17 +157,54 @@ public:
     }
 
 private:
+    using Tageszeile = std::array<double, Slotzeilen::Tage>;
+
     float& Bezug(Tiefe t, int Slot) { return Bezug_[Platz(Zeilennummer(t, Slot))]; }
     void merke_Bezug(Tiefe t, int Slot) { Bezug(t, Slot) = Zeilen_.heute(t, Slot); }
 
-    void teile(Tiefe Reihe, int Slot, int n, const double* Nenner) {
+    // Biological time of the slot on the n days.
+    Tageszeile stelle_Uhr(int Slot, int d, int n) {
+        const double* Faktor = &Faktoren_.Faktor()[Platz(d)];
+        double& Uhr = Zeit_[Platz(Slot)];
+        Tageszeile Zeit;
+        for (std::size_t t = 0; t < Platz(n); ++t) Zeit[t] = Uhr += Faktor[t];
+        return Zeit;
+    }
+
+    // 1 / (t / beta + 1)^alpha for the n days, nearly; false where that cannot be had.
+    bool naehere(const Tageszeile& Zeit, int n, Tageszeile& Kehrwert) {
+        const double Kehrwert_beta = 1 / beta_;
+        Tageszeile Basis;
+        for (std::size_t t = 0; t < Platz(n); ++t) Basis[t] = Zeit[t] * Kehrwert_beta + 1;
+        if (Faktoren_.rueckwaerts() || !Potenz_.reicht_bis(Basis[Platz(n - 1)])) return false;
+        Potenz_.rechne({Basis.data(), Platz(n)}, Kehrwert.data());
+        return true;
+    }
+
+    void teile(Tiefe Reihe, int Slot, int n, const Tageszeile& Zeit) {
         float* Zeile = Zeilen_.Zeile(Reihe, Slot) + 1;
         const auto C = static_cast<double>(Bezug(Reihe, Slot));
-        for (std::size_t t = 0; t < Platz(n); ++t) Zeile[t] = static_cast<float>(C / Nenner[t]);
+        for (std::size_t t = 0; t < Platz(n); ++t) Zeile[t] = static_cast<float>(C / std::pow(Zeit[t] / beta_ + 1, alpha_));
+    }
+
+    // The same from approximate powers; false if a result lies so near to the border between two numbers of single precision
+    // that their error may have moved it over.
+    bool multipliziere(Tiefe Reihe, int Slot, int n, const Tageszeile& Kehrwert) {
+        float* Zeile = Zeilen_.Zeile(Reihe, Slot) + 1;
+        const auto C = static_cast<double>(Bezug(Reihe, Slot));
+        const double hoch = C * (1 + Potenz_.Fehler());
+        const double tief = C * (1 - Potenz_.Fehler());
+        int anders = 0;
+        for (std::size_t t = 0; t < Platz(n); ++t) {
+            Zeile[t] = static_cast<float>(Kehrwert[t] * tief);
+            anders += Zeile[t] == static_cast<float>(Kehrwert[t] * hoch) ? 0 : 1;
+        }
+        return anders == 0;
     }
 
     double alpha_;
     double beta_;
+    Kehrpotenz Potenz_;
     std::array<double, Slots_Plateau> Zeit_{};
     std::array<float, alle_Zeilen> Bezug_{};
 };

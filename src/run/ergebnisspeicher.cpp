@@ -45,15 +45,19 @@ Tagesreihe_lesend Ergebnisspeicher::Integral_Bodentiefe(int i_endpunkt, int i_st
 
 void Ergebnisspeicher::leere_Studie(int i_studie) {
     Tagesrate.fill(0);
+    Applikationstag.fill(0);
     const auto st = static_cast<std::size_t>(i_studie);
     for (std::size_t e = 0; e < Endpunkte; ++e) {
         Maximum_Plateautiefe[e][st].fill(0);
         Maximum_Bodentiefe[e][st].fill(0);
+        Maximumtag_Plateautiefe[e][st].fill(0);
+        Maximumtag_Bodentiefe[e][st].fill(0);
         for (auto& Jahreswerte : Jahresmaximum[e][st]) std::fill(Jahreswerte.begin() + 1, Jahreswerte.end(), 0.0F);
         Plateauwert[e][st] = {};
         Plateauzuwachs[e][st] = {};
         Plateautext[e][st] = {};
         Plateauprozent[e][st] = {};
+        Plateaujahr[e][st] = {};
     }
     for (std::size_t c = 0; c < Stoffe; ++c) {
         if (!beschrieben_[st][c]) continue;  // nobody wrote there

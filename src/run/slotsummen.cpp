@@ -20,10 +20,12 @@ struct Summen {
         for (std::size_t i = 0; i < nebeneinander; ++i) Gesamt[i] += Zeile[i];
         if constexpr (Wege == 0) return;
         std::array<double, nebeneinander> Verlust;
-        for (std::size_t i = 0; i < nebeneinander; ++i) Verlust[i] = static_cast<double>(Zeile[static_cast<std::ptrdiff_t>(i) - 1]) - static_cast<double>(Zeile[i]);
+        for (std::size_t i = 0; i < nebeneinander; ++i)
+            Verlust[i] = static_cast<double>(Zeile[static_cast<std::ptrdiff_t>(i) - 1]) - static_cast<double>(Zeile[i]);
         for (std::size_t w = 0; w < Wege; ++w) {
             for (std::size_t i = 0; i < nebeneinander; ++i) {
-                Bildung[w][i] = static_cast<float>(static_cast<double>(Bildung[w][i]) + Verlust[i] * Weg[w].Anteil * Weg[w].Massenverhaeltnis);
+                Bildung[w][i] = static_cast<float>(static_cast<double>(Bildung[w][i]) +
+                                                   Verlust[i] * Weg[w].Anteil * Weg[w].Massenverhaeltnis);
             }
         }
     }

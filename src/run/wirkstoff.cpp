@@ -23,7 +23,8 @@ std::vector<Bildungsweg> lies_Bildungswege(const Eingabe& e) {
     }
     std::vector<Bildungsweg> Wege = {{e.Bildungsanteil_Met_1.Zahl() / 100, e.Molmasse_Met_1.Zahl() / Molmasse}};
     // In the sequence the first metabolite feeds the second one.
-    if (e.Berechnungsmodus == zwei_parallel) Wege.push_back({e.Bildungsanteil_Met_2.Zahl() / 100, e.Molmasse_Met_2.Zahl() / Molmasse});
+    if (e.Berechnungsmodus == zwei_parallel)
+        Wege.push_back({e.Bildungsanteil_Met_2.Zahl() / 100, e.Molmasse_Met_2.Zahl() / Molmasse});
     return Wege;
 }
 
@@ -53,7 +54,7 @@ public:
 private:
     void rechne_Tag_0();
     void bestimme_Faktoren();
-    int naechster_Dosistag(int d) const;
+    int naechster_Dosistag(int d, int letzter) const;
     int rechne_Tage(int d);
     void appliziere(int d);
     void summiere(int d);
@@ -104,7 +105,7 @@ void Wirkstofflauf::rechne_Tag_0() {
 }
 
 void Wirkstofflauf::bestimme_Faktoren() {
-    const int erster = dosiert(0) || !getrennt() ? 1 : naechster_Dosistag(1) + 1;
+    const int erster = dosiert(0) || !getrennt() ? 1 : naechster_Dosistag(1, letzter_Tag) + 1;
     if (l_.Klima.variabel()) {
         lies_Klimatage(l_);
     } else {
@@ -116,15 +117,15 @@ void Wirkstofflauf::bestimme_Faktoren() {
     Faktoren_.bestimme(l_, erster, Abbau_->Konstanten());
 }
 
-// The first day from d on with a dose, or the one behind the run.
-int Wirkstofflauf::naechster_Dosistag(int d) const {
-    while (d <= letzter_Tag && !dosiert(d)) ++d;
+// The first day from d on with a dose, `letzter` if there is none before it.
+int Wirkstofflauf::naechster_Dosistag(int d, int letzter) const {
+    while (d < letzter && !dosiert(d)) ++d;
     return d;
 }
 
 // The days from d on as far as rows and sound days reach, up to the next dose. Returns their number.
 int Wirkstofflauf::rechne_Tage(int d) {
-    const int letzter = std::min({naechster_Dosistag(d), d + Slotzeilen::Tage - 1, Faktoren_.letzter()});
+    const int letzter = naechster_Dosistag(d, std::min(d + Slotzeilen::Tage - 1, Faktoren_.letzter()));
     const int n = letzter - d + 1;
     if (letzter / Tage_pro_Jahr != (d - 1) / Tage_pro_Jahr) Jahreswechsel_ = true;
     if (Anzahl_Slots_ > 0) {

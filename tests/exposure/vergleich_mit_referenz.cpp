@@ -5,6 +5,8 @@
 #include <bit>
 #include <cmath>
 #include <cstdint>
+#include <cstdlib>
+#include <iostream>
 #include <optional>
 #include <random>
 
@@ -287,6 +289,43 @@ Lauf_bauer zufaelliger_Lauf(std::uint64_t Saat) {
     return b;
 }
 
+// What goes beyond: long weather, of which no day comes back with the same moisture, doses on neighbouring days, slow decay
+// under FOMC, and rates that make the residues pass through the denormal numbers.
+Lauf_bauer seltener_Lauf(std::uint64_t Saat) {
+    Lauf_bauer b = zufaelliger_Lauf(Saat);
+    Zufall z(Saat + 1'000'000);
+    if (b.Klima && z.mit(0.3)) {
+        std::vector<Klimatag> Tage;
+        for (int n = z.ganz(366, 4000); n > 0; --n) Tage.push_back({z.zwischen(0, 8), z.zwischen(0, 6), z.zwischen(-8, 28)});
+        b.Wetter(Tage);
+    }
+    if (z.mit(0.1)) {
+        std::vector<Applikationszeile> Zeilen;
+        for (int i = 0; i < z.ganz(5, 20); ++i) Zeilen.push_back({std::to_string(i + 1), "4", z.Text(z.zwischen(1, 900)), "0"});
+        b.Termine(Zeilen);
+    }
+    if (z.mit(0.2)) {
+        b.Felder.Parameter.Kinetik[0] = ueberall(FOMC);
+        b.Felder.Parameter.alpha_FOMC = ueberall(z.zwischen(0.1, 12));
+        b.Felder.Parameter.beta_FOMC = ueberall(z.logarithmisch(1, 300));
+    }
+    if (z.mit(0.1)) b.Dosis(z.Text(z.logarithmisch(1E-44, 1E-30)));
+    return b;
+}
+
+// A clock that runs by a correction below 0 on some days goes to and fro over the breakpoint.
+TEST(Rueckwaerts, the_clock_agrees_to_the_bit) {
+    int berechnet = 0;
+    for (int Kinetik : {SFO, DFOP, FOMC, HS}) {
+        Lauf_bauer b = bei({Kinetik, zwei_parallel, 1, 0});
+        b.nach_FOMC(0.5, 4000).nach_HS(0.002, 0.001, 7).Korrektur(-2, 0, 20);
+        b.Felder.Parameter.Kinetik[0][0] = static_cast<Kinetikart>(Kinetik);
+        b.Wetter({{0, 0, 30}, {0, 0, 40}, {0, 0, 30}, {0, 0, 30}, {0, 0, 30}});
+        vergleiche(b, berechnet);
+    }
+    EXPECT_GE(berechnet, 2);
+}
+
 constexpr int je_Block = 10;
 
 class Zufallslaeufe : public ::testing::TestWithParam<int> {};
@@ -296,10 +335,70 @@ TEST_P(Zufallslaeufe, agree_to_the_bit) {
     for (int i = 0; i < je_Block; ++i) {
         const auto Saat = static_cast<std::uint64_t>(1000 + GetParam() * je_Block + i);
         SCOPED_TRACE("seed " + std::to_string(Saat));
-        vergleiche(zufaelliger_Lauf(Saat), berechnet);
+        vergleiche(GetParam() % 2 == 0 ? zufaelliger_Lauf(Saat) : seltener_Lauf(Saat), berechnet);
         if (HasFailure()) return;
     }
     EXPECT_GE(berechnet, je_Block - 2);  // few inputs are refused, or the comparison would be worth nothing
+}
+
+// Run by tools/vergleiche_tausende.sh, which says with which seeds.
+TEST(Zufallslauf, DISABLED_thousands_agree_to_the_bit) {
+    const char* von = std::getenv("VARNOK_ERSTE_SAAT");
+    const char* Anzahl = std::getenv("VARNOK_ZUFALLSLAEUFE");
+    ASSERT_TRUE(von != nullptr && Anzahl != nullptr);
+    const auto erste = std::stoull(von);
+    const auto Laeufe = std::stoull(Anzahl);
+    int berechnet = 0;
+    for (auto Saat = erste; Saat < erste + Laeufe; ++Saat) {
+        SCOPED_TRACE("seed " + std::to_string(Saat));
+        vergleiche(Saat % 2 == 0 ? zufaelliger_Lauf(Saat) : seltener_Lauf(Saat), berechnet);
+        if (HasFailure()) return;
+    }
+    EXPECT_GE(static_cast<double>(berechnet), 0.85 * static_cast<double>(Laeufe));
+    std::cout << berechnet << " of " << Laeufe << " calculated and equal, the others refused by both\n";
+}
+
+// ---- one place of work for many inputs ----
+
+// Averages of windows behind the list in force, and of compounds that are not in the scheme, are no result.
+template <class Tabelle>
+void leere_Ungenutztes(Tabelle& Fensterwerte, int i_studie, const Eingabe& e) {
+    const auto Fenster = static_cast<std::size_t>(Anzahl_TWA(e.Parameter.TWA_Zeiten));
+    for (auto& Endpunkt : Fensterwerte) {
+        auto& Werte = Endpunkt[static_cast<std::size_t>(i_studie)];
+        for (std::size_t c = 0; c < Stoffe; ++c) {
+            const std::size_t gilt = c < static_cast<std::size_t>(Anzahl_Stoffe(e.Berechnungsmodus)) ? Fenster : 0;
+            for (std::size_t j = gilt + 1; j < Werte[c].size(); ++j) Werte[c][j] = 0;
+        }
+    }
+}
+
+// Whether a run succeeds, and what it leaves behind: all that belongs to the study of the run and to its scheme.
+std::string Hinterlassenschaft(const Lauf_bauer& b, Lauf& l) {
+    try {
+        if (!b.rechne_in(l).gelungen()) return "ended early";
+    } catch (const Laufzeitfehler& f) {
+        return f.what() + Abbild(l, b.i_studie);
+    }
+    leere_Ungenutztes(l.Speicher.TWA_Maximum, b.i_studie, b.Felder);
+    leere_Ungenutztes(l.Speicher.TWA_Starttag, b.i_studie, b.Felder);
+    return Abbild(l, b.i_studie);
+}
+
+TEST(Arbeitsplatz, used_again_in_random_order_gives_what_a_fresh_one_gives) {
+    Zufall z(77);
+    Lauf l = Lauf_bauer().baue();
+    for (int i = 0; i < 60; ++i) {
+        const auto Saat = static_cast<std::uint64_t>(z.ganz(5000, 5030));
+        SCOPED_TRACE("seed " + std::to_string(Saat));
+        Lauf_bauer b = seltener_Lauf(Saat);
+        b.i_studie = 0;
+        if (z.mit(0.15)) b.nach_SFO(-1);  // a fault in between
+        Lauf frisch = b.baue();
+        const std::string erwartet = Hinterlassenschaft(b, frisch);
+        ASSERT_TRUE(Hinterlassenschaft(b, l) == erwartet);
+        ASSERT_TRUE(Abbild_gemeinsam(l) == Abbild_gemeinsam(frisch));
+    }
 }
 
 // A loss below all numbers that is negative (a rise without a dose) feeds the next metabolite with -0.
@@ -308,7 +407,7 @@ TEST(Zufallslauf, a_vanishing_loss_is_passed_on_with_its_sign) {
     vergleiche(zufaelliger_Lauf(2363), berechnet);
 }
 
-INSTANTIATE_TEST_SUITE_P(Bloecke, Zufallslaeufe, ::testing::Range(0, 15));
+INSTANTIATE_TEST_SUITE_P(Bloecke, Zufallslaeufe, ::testing::Range(0, 20));
 
 }  // namespace
 }  // namespace varnok::probe
