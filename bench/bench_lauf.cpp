@@ -1,90 +1,59 @@
-// Time of one study: the usual case, and the worst of every kinetics.
+// Time of one study: the cases that count beside the plain calculation, the usual one, and the worst of every kinetics.
 
 #include <benchmark/benchmark.h>
 
 #include <cmath>
 #include <memory>
 
+#include "exposure/ergebnis.h"
 #include "exposure/plateau.h"
-#include "exposure/schritte.h"
-#include "exposure/twa.h"
+#include "support/tempo.h"
 
 namespace {
 
 using namespace varnok;
+using probe::Lauf_bauer;
 
-// A year whose temperature and moisture differ from day to day.
-class Jahresgang : public Klimaquelle {
-public:
-    std::optional<std::vector<Klimatag>> lade(const std::string&) const override {
-        std::vector<Klimatag> Tage;
-        for (int d = 0; d < Tage_pro_Jahr; ++d) {
-            Tage.push_back({d % 3 * 2.0, 1.5 + d % 5 * 0.2, 10 + 8 * std::sin(d * 0.0172)});
-        }
-        return Tage;
-    }
-};
-
-std::unique_ptr<Lauf> gewoehnlicher_Lauf() {
-    auto l = std::make_unique<Lauf>();
-    Laufparameter& p = l->Felder.Parameter;
-    p.Bodendichte = 1.5;
-    p.Bodentiefe = 5;
-    p.Plateautiefe = 20;
-    p.Kohlenstoffgehalt = 1.5;
-    p.Feldkapazitaet = 30;
-    p.Welkepunkt = 10;
-    p.KOC = fuer_alle(100.0);
-    p.Q10 = fuer_alle(2.58);
-    p.Walker = fuer_alle(0.7);
-    l->Felder.Studie = {"Field study"};
-    return l;
-}
-
-// Twenty applications a year, each with a slot of its own over ten years, and two metabolites.
-std::unique_ptr<Lauf> schlimmster_Lauf(int Kinetik, int Klimamodus, double DT50) {
-    auto l = gewoehnlicher_Lauf();
-    Laufparameter& p = l->Felder.Parameter;
-    p.Separate_Rueckstaende = 1;
-    p.Klimamodus = static_cast<std::uint8_t>(Klimamodus);
-    p.Kinetik[0] = ueberall(static_cast<Kinetikart>(Kinetik));
-    p.Kinetik[1] = p.Kinetik[2] = ueberall(DFOP);
+// Twenty applications a year, each with a slot of its own over ten years, and two metabolites. A DT50 of 5 days takes old
+// slots into the smallest numbers that single precision has.
+Lauf_bauer schlimmster_Fall(int Kinetik, int Klimamodus, double DT50) {
     const double k = std::log(2.0) / DT50;
-    p.k_SFO = fuer_alle(k);
-    p.k1_DFOP = fuer_alle(3 * k);
-    p.k2_DFOP = fuer_alle(k / 2);
-    p.alpha_FOMC = ueberall(0.9);
-    p.beta_FOMC = ueberall(DT50);
-    p.k1_HS = ueberall(k);
-    p.k2_HS = ueberall(k / 3);
-    Eingabe& e = l->Felder;
-    e.Applikationsmuster = regelmaessig;
-    e.Berechnungsmodus = zwei_parallel;
-    e.Molmasse_Wirkstoff = "300";
-    e.Molmasse_Met_1 = "200";
-    e.Molmasse_Met_2 = "150";
-    e.Bildungsanteil_Met_1 = "40";
-    e.Bildungsanteil_Met_2 = "30";
-    waehle_Anzahl(e, max_Applikationen);
-    return l;
+    Lauf_bauer b;
+    b.nach_SFO(k).nach_DFOP(3 * k, k / 2, 0.5).nach_FOMC(0.9, DT50).nach_HS(k, k / 3, 10);
+    b.Felder.Parameter.Kinetik[0][0] = static_cast<Kinetikart>(Kinetik);
+    b.nach_DFOP(3 * k, k / 2, 0.5, 1).nach_DFOP(3 * k, k / 2, 0.5, 2).Schema(zwei_parallel).Rueckstaende(1);
+    b.regelmaessige_Gaben(max_Applikationen, 18);
+    if (Klimamodus == 1) b.Wetter(probe::wechselndes_Wetter(Tage_pro_Jahr));
+    return b;
 }
 
-void rechne(benchmark::State& Zustand, Lauf& l) {
-    const Jahresgang Klima;
-    for (auto _ : Zustand) {
-        berechne_PEC(l, 0, Klima, alle_Rechenschritte);
-        benchmark::DoNotOptimize(l.Speicher.Plateauwert);
-    }
+void rechne(benchmark::State& Zustand, const Lauf_bauer& Fall) {
+    const auto Vorgabe = std::make_shared<const Eingabe>(Fall.Felder);
+    const probe::Klimaliste Klima(Fall.Klima.value_or(std::vector<Klimatag>()));
+    Lauf l;
+    for (auto _ : Zustand) benchmark::DoNotOptimize(berechne_Studie(l, Vorgabe, 0, Klima, Umfang::ohne_Reihen).Werte);
 }
 
-void eine_Studie_SFO(benchmark::State& Zustand) { rechne(Zustand, *gewoehnlicher_Lauf()); }
+// The cases that count, side by side with the plain calculation of the tests.
+void Verhaeltnis(benchmark::State& Zustand) {
+    const probe::Tempofall f = probe::Tempofaelle()[static_cast<std::size_t>(Zustand.range(0))];
+    probe::Tempo t;
+    for (auto _ : Zustand) t = probe::miss_Tempo(f.Fall, 10);
+    Zustand.SetLabel(f.Name);
+    Zustand.counters["ms"] = t.Lauf_ms;
+    Zustand.counters["plain_ms"] = t.Referenz_ms;
+    Zustand.counters["ratio"] = t.Verhaeltnis();
+    Zustand.counters["asked"] = f.gefordert;
+}
+BENCHMARK(Verhaeltnis)->DenseRange(0, 3)->Iterations(1)->Unit(benchmark::kMillisecond);
+
+void eine_Studie_SFO(benchmark::State& Zustand) { rechne(Zustand, Lauf_bauer()); }
 BENCHMARK(eine_Studie_SFO)->Unit(benchmark::kMillisecond);
 
-// Arguments: kinetics 0 SFO, 1 DFOP, 2 FOMC, 3 HS; climate mode; DT50 in days. A DT50 of 5 days takes old
-// slots into the smallest numbers that single precision has.
+// Arguments: kinetics 0 SFO, 1 DFOP, 2 FOMC, 3 HS; climate mode; DT50 in days.
 void zweihundert_Slots(benchmark::State& Zustand) {
-    rechne(Zustand, *schlimmster_Lauf(static_cast<int>(Zustand.range(0)), static_cast<int>(Zustand.range(1)),
-                                      static_cast<double>(Zustand.range(2))));
+    rechne(Zustand, schlimmster_Fall(static_cast<int>(Zustand.range(0)), static_cast<int>(Zustand.range(1)),
+                                     static_cast<double>(Zustand.range(2))));
 }
 BENCHMARK(zweihundert_Slots)
     ->ArgsProduct({{0, 1, 2, 3}, {0, 1}, {5, 100}})

@@ -34,15 +34,19 @@ public:
     Fenstermaximum suche() const {
         const double Versatz = std::nearbyint(Laenge_);
         // With half a day over the rounded length differs from day to day.
-        if (Anzahl_ < 1 || std::abs(Laenge_ - Versatz) == 0.5) return suche_zwischen(0, Anzahl_, {});
+        if (Anzahl_ < 1 || std::abs(Laenge_ - Versatz) == 0.5) {
+            return suche_zwischen(0, Anzahl_, {},
+                                  [&](int d) { return Integral_[Platz(static_cast<int>(std::nearbyint(d + Laenge_)))]; });
+        }
         return suche_nahe(Integral_.data() + static_cast<int>(Versatz));
     }
 
 private:
-    Fenstermaximum suche_zwischen(int von, int bis, Fenstermaximum m) const {
+    // `Ende(d)` is the integral at the end of the window that starts on day d.
+    template <class Funktion>
+    Fenstermaximum suche_zwischen(int von, int bis, Fenstermaximum m, Funktion Ende) const {
         for (int d = von; d < bis; ++d) {
-            const auto Ende = static_cast<std::size_t>(std::nearbyint(d + Laenge_));
-            const double Zuwachs = static_cast<double>(Integral_[Ende]) - static_cast<double>(Integral_[Platz(d)]);
+            const double Zuwachs = static_cast<double>(Ende(d)) - static_cast<double>(Integral_[Platz(d)]);
             const auto v = static_cast<float>(Zuwachs / Laenge_);
             if (v > m.Mittel) m = {v, static_cast<std::int16_t>(d)};
         }
@@ -63,7 +67,7 @@ private:
                 groesster_Wert(Platz(Tage), 0, [&](std::size_t i) { return Enden[Platz(d) + i] - Anfaenge[Platz(d) + i]; }));
             if (Zuwachs < Grenze) continue;
             Grenze = std::max(Grenze, Zuwachs - std::ldexp(Zuwachs, -20) - std::ldexp(Laenge_ + 1, -147));
-            m = suche_zwischen(d, d + Tage, m);
+            m = suche_zwischen(d, d + Tage, m, [=](int i) { return Enden[i]; });
         }
         return m;
     }

@@ -51,7 +51,8 @@ void Kehrpotenz::rechne(std::span<const double> x, double* Ergebnis) const {
     const auto [c0, c1, c2, c3, c4, c5] = Reihe_;
     for (std::size_t t = 0; t < x.size(); ++t) {
         const double u = x[t] * Kehrwert[t] - 1;
-        Ergebnis[t] = Potenz[t] * (c0 + u * (c1 + u * (c2 + u * (c3 + u * (c4 + u * c5)))));
+        const double u2 = u * u;  // in pairs, so that the terms need not wait for one another
+        Ergebnis[t] = Potenz[t] * ((c0 + c1 * u) + u2 * ((c2 + c3 * u) + u2 * (c4 + c5 * u)));
     }
 }
 

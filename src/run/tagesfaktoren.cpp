@@ -1,5 +1,6 @@
 #include "run/tagesfaktoren.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "base/laufzeitfehler.h"
@@ -19,6 +20,10 @@ void Tagesfaktoren::bestimme(Lauf& l, int ab, std::span<const double> Konstanten
     try {
         for (int d = 1; d <= letzter_Tag; ++d) {
             letzter_ = d - 1;
+            if (d > ab && !l.Klima.variabel()) {
+                uebernimm_alle(d);  // constant climate stays as it is
+                break;
+            }
             if (d > ab && gleicht(d, d - 1)) {
                 uebernimm(d, d - 1);
             } else if (d - Wiederkehr >= ab && gleicht(d, d - Wiederkehr)) {
@@ -45,6 +50,12 @@ bool Tagesfaktoren::gleicht(int d, int anderer) const {
 
 void Tagesfaktoren::uebernimm(int d, int von) {
     for (Tageszahlen* Zahlen : {&Faktor_, &Rest_[0], &Rest_[1], &PW_}) (*Zahlen)[Platz(d)] = (*Zahlen)[Platz(von)];
+}
+
+void Tagesfaktoren::uebernimm_alle(int ab) {
+    for (Tageszahlen* Zahlen : {&Faktor_, &Rest_[0], &Rest_[1], &PW_}) {
+        std::fill(Zahlen->begin() + ab, Zahlen->end(), (*Zahlen)[Platz(ab - 1)]);
+    }
 }
 
 void Tagesfaktoren::rechne_Tag(Lauf& l, int d, bool korrigiert, std::span<const double> Konstanten) {

@@ -39,6 +39,7 @@ public:
 private:
     bool gleicht(int d, int anderer) const;
     void uebernimm(int d, int von);
+    void uebernimm_alle(int ab);
     void rechne_Tag(Lauf& l, int d, bool korrigiert, std::span<const double> Konstanten);
 
     int letzter_ = 0;
