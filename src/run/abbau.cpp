@@ -125,22 +125,34 @@ public:
 
     void baue_ab(int d, int n, int Anzahl) override {
         static_assert(Slotzeilen::Tage <= Kehrpotenz::groesste_Anzahl);
+        if (!bereit_) bereite_vor(d);
         for (int s = 1; s <= Anzahl; ++s) {
-            const Tageszeile Zeit = stelle_Uhr(s, d, n);
-            Tageszeile Kehrwert;
-            const bool genaehert = naehere(Zeit, n, Kehrwert);
+            Tageszeile Zeit;
+            Tageszeile Ablage;
+            const bool bekannt = kennt_Kehrwerte(s);
+            double* Kehrwert = merkt_Kehrwerte(s) || bekannt ? Kehrwerte_am(s, d) : Ablage.data();
+            if (!bekannt) {
+                stelle_Uhr(Zeit_[Platz(s)], d, n, Zeit);
+                if (genaehert_) naehere(Zeit, n, Kehrwert);
+            }
             for (const Tiefe t : {Tiefe::Plateau, Tiefe::Boden}) {
-                if (s > Slots_von(t, Anzahl)) continue;
-                if (!genaehert || !multipliziere(t, s, n, Kehrwert)) teile(t, s, n, Zeit);
+                if (s > Slots_von(t, Anzahl) || (genaehert_ && multipliziere(t, s, n, Kehrwert))) continue;
+                if (bekannt) stelle_Uhr_nach(s, d, n, Zeit);
+                teile(t, s, n, Zeit);
             }
         }
     }
 
     void beginne_Tag_0() override {
         for (const Tiefe t : {Tiefe::Plateau, Tiefe::Boden}) merke_Bezug(t, 1);
+        Slots_in_Jahr_1_ = 1;
     }
 
-    void beginne_Slot(int Slot, int) override { Zeit_[Platz(Slot)] = 0; }
+    void beginne_Slot(int Slot, int d) override {
+        Zeit_[Platz(Slot)] = 0;
+        Dosistag_[Platz(Slot)] = d;
+        if (Jahr_von(d) == 1) Slots_in_Jahr_1_ = Slot;
+    }
 
     // The slot of number s refers to the day of event s. Where a row of rate 0 lets the slots run behind the events, that is a
     // day on which the slot was still empty.
@@ -162,23 +174,52 @@ private:
     float& Bezug(Tiefe t, int Slot) { return Bezug_[Platz(Zeilennummer(t, Slot))]; }
     void merke_Bezug(Tiefe t, int Slot) { Bezug(t, Slot) = Zeilen_.heute(t, Slot); }
 
-    // Biological time of the slot on the n days.
-    Tageszeile stelle_Uhr(int Slot, int d, int n) {
-        const double* Faktor = &Faktoren_.Faktor()[Platz(d)];
-        double& Uhr = Zeit_[Platz(Slot)];
-        Tageszeile Zeit;
-        for (std::size_t t = 0; t < Platz(n); ++t) Zeit[t] = Uhr += Faktor[t];
-        return Zeit;
+    // Whether the powers can be had nearly, and from which day on the correction is that of a year before.
+    void bereite_vor(int erster_Tag) {
+        const Tageszahlen& f = Faktoren_.Faktor();
+        double laengste_Zeit = 0;
+        for (int d = erster_Tag; d <= Faktoren_.letzter(); ++d) laengste_Zeit += f[Platz(d)];
+        genaehert_ = !Faktoren_.rueckwaerts() && Potenz_.reicht_bis(laengste_Zeit * 1.001 / beta_ + 1);
+        wiederholt_ab_ = letzter_Tag + 1;
+        while (wiederholt_ab_ - Tage_pro_Jahr > erster_Tag &&
+               f[Platz(wiederholt_ab_ - 1)] == f[Platz(wiederholt_ab_ - 1 - Tage_pro_Jahr)]) {
+            --wiederholt_ab_;
+        }
+        bereit_ = true;
     }
 
-    // 1 / (t / beta + 1)^alpha for the n days, nearly; false where that cannot be had.
-    bool naehere(const Tageszeile& Zeit, int n, Tageszeile& Kehrwert) {
+    // A slot of a later year has the clock, and so the powers, of the slot of the same dose in the first year, if the correction
+    // repeats from that dose on. Those of the first year are kept, by the age of the slot.
+    bool merkt_Kehrwerte(int Slot) const { return getrennt() && genaehert_ && Slot <= Slots_in_Jahr_1_; }
+    bool kennt_Kehrwerte(int Slot) const {
+        return getrennt() && genaehert_ && Slot > Slots_in_Jahr_1_ &&
+               wiederholt_ab_ <= Dosistag_[Platz(Vorgaenger(Slot))] + 1 + Tage_pro_Jahr;
+    }
+    int Vorgaenger(int Slot) const { return (Slot - 1) % Slots_in_Jahr_1_ + 1; }
+    double* Kehrwerte_am(int Slot, int d) {
+        auto& Kehrwerte = l_.Platz->Kehrwerte;
+        if (Kehrwerte.empty()) Kehrwerte.resize(Platz(max_Applikationen * letzter_Tag));
+        return &Kehrwerte[Platz((Vorgaenger(Slot) - 1) * letzter_Tag + d - Dosistag_[Platz(Slot)] - 1)];
+    }
+
+    // Biological time of n days, which goes on from `Uhr`.
+    void stelle_Uhr(double& Uhr, int d, int n, Tageszeile& Zeit) const {
+        const double* Faktor = &Faktoren_.Faktor()[Platz(d)];
+        for (std::size_t t = 0; t < Platz(n); ++t) Zeit[t] = Uhr += Faktor[t];
+    }
+    // The same for a slot whose clock has not been kept.
+    void stelle_Uhr_nach(int Slot, int d, int n, Tageszeile& Zeit) const {
+        double Uhr = 0;
+        for (int i = Dosistag_[Platz(Slot)] + 1; i < d; ++i) Uhr += Faktoren_.Faktor()[Platz(i)];
+        stelle_Uhr(Uhr, d, n, Zeit);
+    }
+
+    // 1 / (t / beta + 1)^alpha for the n days, nearly.
+    void naehere(const Tageszeile& Zeit, int n, double* Kehrwert) const {
         const double Kehrwert_beta = 1 / beta_;
         Tageszeile Basis;
         for (std::size_t t = 0; t < Platz(n); ++t) Basis[t] = Zeit[t] * Kehrwert_beta + 1;
-        if (Faktoren_.rueckwaerts() || !Potenz_.reicht_bis(Basis[Platz(n - 1)])) return false;
-        Potenz_.rechne({Basis.data(), Platz(n)}, Kehrwert.data());
-        return true;
+        Potenz_.rechne({Basis.data(), Platz(n)}, Kehrwert);
     }
 
     void teile(Tiefe Reihe, int Slot, int n, const Tageszeile& Zeit) {
@@ -189,7 +230,7 @@ private:
 
     // The same from approximate powers; false if a result lies so near to the border between two numbers of single precision
     // that their error may have moved it over.
-    bool multipliziere(Tiefe Reihe, int Slot, int n, const Tageszeile& Kehrwert) {
+    bool multipliziere(Tiefe Reihe, int Slot, int n, const double* Kehrwert) {
         float* Zeile = Zeilen_.Zeile(Reihe, Slot) + 1;
         const auto C = static_cast<double>(Bezug(Reihe, Slot));
         const double hoch = C * (1 + Potenz_.Fehler());
@@ -205,6 +246,11 @@ private:
     double alpha_;
     double beta_;
     Kehrpotenz Potenz_;
+    bool bereit_ = false;
+    bool genaehert_ = false;
+    int wiederholt_ab_ = 0;
+    int Slots_in_Jahr_1_ = 0;
+    std::array<int, Slots_Plateau> Dosistag_{};
     std::array<double, Slots_Plateau> Zeit_{};
     std::array<float, alle_Zeilen> Bezug_{};
 };

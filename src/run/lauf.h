@@ -29,6 +29,7 @@ struct Tageswerte {
 struct Werkbank {
     Tagesfaktoren Faktoren;
     Slotzeilen Zeilen;
+    std::vector<double> Kehrwerte;  // of the powers of FOMC, by slot of the first year and age; empty before they are needed
 };
 
 // One calculation: what goes in, what comes out and where it stands. A value without ties to
