@@ -61,25 +61,33 @@ public:
 
     void bestimme_Maxima(std::size_t e) {
         Ergebnisspeicher& s = l_.Speicher;
-        const int ab = l_.i_substanz == 0 ? 0 : 1;
-        const Tageswert Anfang = ab == 0 ? Tageswert{Boden_[e][0], 0} : Tageswert{0, -99};
-        const Tageswert Boden = suche_Maximum(Boden_[e].subspan(1, Platz(letzter_)), 1, Anfang);
+        const bool Stamm = l_.i_substanz == 0;
+        const auto alle_Tage = [&](Tagesreihe_lesend Reihe) { return Reihe.subspan(1, Platz(letzter_)); };
+        const Tageswert Boden = suche_Maximum(alle_Tage(Boden_[e]), 1, Stamm ? Tageswert{Boden_[e][0], 0} : Tageswert{0, -99});
         s.Maximum_Bodentiefe[e][st_][c_] = Boden.Wert;
         s.Maximumtag_Bodentiefe[e][st_][c_] = static_cast<std::int16_t>(Boden.Tag);
 
-        Tageswert Plateau = {-1, -99};
-        s.Maximum_Plateautiefe[e][st_][c_] = -1;
-        for (int Jahr = 1; Jahr <= Jahre; ++Jahr) {
-            const int von = std::max(ab, (Jahr - 1) * Tage_pro_Jahr);
-            const int Tage = std::max(0, std::min(letzter_ + 1, Jahr * Tage_pro_Jahr) - von);
-            Plateau = suche_Maximum(Plateau_[e].subspan(Platz(von), Platz(Tage)), von, {-1, Plateau.Tag});
-            s.Jahresmaximum[e][st_][c_][Platz(Jahr)] = Plateau.Wert;
-            s.Maximum_Plateautiefe[e][st_][c_] = std::max(s.Maximum_Plateautiefe[e][st_][c_], Plateau.Wert);
-        }
-        s.Maximumtag_Plateautiefe[e][st_][c_] = static_cast<std::int16_t>(Plateau.Tag);  // follows the years; nothing reads it
+        const Tageswert Anfang = Stamm ? Tageswert{Plateau_[e][0], 0} : Tageswert{-1, -99};
+        const Tageswert Plateau = suche_Maximum(alle_Tage(Plateau_[e]), 1, Anfang);
+        s.Maximum_Plateautiefe[e][st_][c_] = Plateau.Wert;
+        const int letzter_Jahrestag = bestimme_Jahresmaxima(e, Anfang);
+        s.Maximumtag_Plateautiefe[e][st_][c_] = static_cast<std::int16_t>(std::max(Plateau.Tag, letzter_Jahrestag));
     }
 
 private:
+    // The day of the last one that was found.
+    int bestimme_Jahresmaxima(std::size_t e, Tageswert Anfang) {
+        Tageswert m = Anfang;
+        for (int Jahr = 1; Jahr <= Jahre; ++Jahr) {
+            const int von = std::max(1, (Jahr - 1) * Tage_pro_Jahr);
+            const int Tage = std::max(0, std::min(letzter_ + 1, Jahr * Tage_pro_Jahr) - von);
+            m = suche_Maximum(Tagesreihe_lesend(Plateau_[e]).subspan(Platz(von), Platz(Tage)), von,
+                              Jahr == 1 ? Anfang : Tageswert{-1, m.Tag});
+            l_.Speicher.Jahresmaximum[e][st_][c_][Platz(Jahr)] = m.Wert;
+        }
+        return m.Tag;
+    }
+
     // Any number times 0 is 0, but for infinity and what is no number.
     static bool endlich(Tagesreihe_lesend Reihe) {
         std::array<float, 8> Probe{};

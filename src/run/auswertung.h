@@ -20,8 +20,8 @@ Tageswert suche_Maximum(std::span<const float> Werte, int erster_Tag, Tageswert 
 void pruefe_Konzentration(const Lauf& l, int d, float Plateau, float Boden);
 
 // What every compound calculation does with its sum slots, for `i_studie` and `i_substanz`: pore water, running
-// integral, and the maxima of the run and of the years. The parent's maxima start with its day 0, those of a metabolite on
-// day 1, below any concentration. Throws Laufzeitfehler for the first concentration that is not finite.
+// integral, and the maxima of the run and of the years. The parent's maxima start from its day 0, those of a metabolite
+// from below any concentration. Throws Laufzeitfehler for the first concentration that is not finite.
 void werte_Reihen_aus(Lauf& l);
 
 }  // namespace varnok
