@@ -39,7 +39,7 @@ public:
     void baue_ab(int d, int n, int Anzahl) override {
         const double* Rest = &Faktoren_.Rest(0)[Platz(d)];
         for (int i = 0; i < Zeilenzahl(Anzahl); i += Zeilengruppe) {
-            baue_Gruppe_ab(Zeilen_.Zeile(i), n, [=](std::size_t, std::size_t t) { return Rest[t]; });
+            baue_Gruppe_ab(Zeilen_.Slotzeile(i), n, [=](std::size_t, std::size_t t) { return Rest[t]; });
         }
     }
 };
@@ -93,7 +93,7 @@ private:
     }
 
     void baue_Gruppe_ab(int erste, int d, int n) {
-        float* Zeile = Zeilen_.Zeile(erste);
+        float* Zeile = Zeilen_.Slotzeile(erste);
         const double* Rest_schnell = &Faktoren_.Rest(0)[Platz(d)];
         const double* Rest_langsam = &Faktoren_.Rest(1)[Platz(d)];
         std::array<Phasen, Gruppe> p;
@@ -223,7 +223,7 @@ private:
     }
 
     void teile(Tiefe Reihe, int Slot, int n, const Tageszeile& Zeit) {
-        float* Zeile = Zeilen_.Zeile(Reihe, Slot) + 1;
+        float* Zeile = Zeilen_.Slotzeile(Reihe, Slot) + 1;
         const auto C = static_cast<double>(Bezug(Reihe, Slot));
         for (std::size_t t = 0; t < Platz(n); ++t) Zeile[t] = static_cast<float>(C / std::pow(Zeit[t] / beta_ + 1, alpha_));
     }
@@ -231,7 +231,7 @@ private:
     // The same from approximate powers; false if a result lies so near to the border between two numbers of single precision
     // that their error may have moved it over.
     bool multipliziere(Tiefe Reihe, int Slot, int n, const double* Kehrwert) {
-        float* Zeile = Zeilen_.Zeile(Reihe, Slot) + 1;
+        float* Zeile = Zeilen_.Slotzeile(Reihe, Slot) + 1;
         const auto C = static_cast<double>(Bezug(Reihe, Slot));
         const double hoch = C * (1 + Potenz_.Fehler());
         const double tief = C * (1 - Potenz_.Fehler());
@@ -279,7 +279,7 @@ public:
                 if (s < Slots_Boden) Rest[j + 1] = Rest[j];
                 j += s++ < Slots_Boden ? 1 : 0;
             }
-            baue_Gruppe_ab(Zeilen_.Zeile(i), n, [&](std::size_t j, std::size_t t) { return Rest[j][t]; });
+            baue_Gruppe_ab(Zeilen_.Slotzeile(i), n, [&](std::size_t j, std::size_t t) { return Rest[j][t]; });
         }
     }
 

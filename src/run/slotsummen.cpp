@@ -35,7 +35,7 @@ template <std::size_t Wege>
 void summiere(Slotzeilen& Zeilen, Tiefe t, int Slots, int n, const Summenziel& Ziel) {
     for (int d = 0; d < n; d += static_cast<int>(nebeneinander)) {
         Summen<Wege> s;
-        for (int Slot = 1; Slot <= Slots; ++Slot) s.addiere(Zeilen.Zeile(t, Slot) + 1 + d, Ziel.Wege);
+        for (int Slot = 1; Slot <= Slots; ++Slot) s.addiere(Zeilen.Slotzeile(t, Slot) + 1 + d, Ziel.Wege);
         const int Tage = std::min(n - d, static_cast<int>(nebeneinander));
         std::copy_n(s.Gesamt.begin(), Tage, Ziel.Gesamt + d);
         for (std::size_t w = 0; w < Wege; ++w) std::copy_n(s.Bildung[w].begin(), Tage, Ziel.Bildung[w] + d);

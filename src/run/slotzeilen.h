@@ -27,15 +27,15 @@ public:
     static constexpr int Tage = 32;  // that a row holds
     static constexpr int Zeilenlaenge = Tage + 4;
 
-    float* Zeile(int Nummer) { return Werte_.data() + static_cast<std::size_t>(Nummer) * Zeilenlaenge; }
-    float* Zeile(Tiefe t, int Slot) { return Zeile(Zeilennummer(t, Slot)); }
+    float* Slotzeile(int Nummer) { return Werte_.data() + static_cast<std::size_t>(Nummer) * Zeilenlaenge; }
+    float* Slotzeile(Tiefe t, int Slot) { return Slotzeile(Zeilennummer(t, Slot)); }
     // The residue of the last day calculated.
-    float& heute(Tiefe t, int Slot) { return Zeile(t, Slot)[0]; }
+    float& heute(Tiefe t, int Slot) { return Slotzeile(t, Slot)[0]; }
 
     void leere() { Werte_.fill(0); }
     // The last of n days becomes the one before the next days.
     void ruecke_vor(int Slots, int n) {
-        for (int i = 0; i < Zeilenzahl(Slots); ++i) Zeile(i)[0] = Zeile(i)[n];
+        for (int i = 0; i < Zeilenzahl(Slots); ++i) Slotzeile(i)[0] = Slotzeile(i)[n];
     }
 
 private:

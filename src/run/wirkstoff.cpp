@@ -171,7 +171,7 @@ void Wirkstofflauf::zeige(int d, int erster_Platz, int n) const {
     if (!l_.Beobachter) return;
     for (const Tiefe t : {Tiefe::Plateau, Tiefe::Boden}) {
         for (int s = 1; s <= Slots_von(t, Anzahl_Slots_); ++s) {
-            l_.Beobachter->sieh(0, t, s, d, {Zeilen_.Zeile(t, s) + erster_Platz, static_cast<std::size_t>(n)});
+            l_.Beobachter->sieh(0, t, s, d, {Zeilen_.Slotzeile(t, s) + erster_Platz, static_cast<std::size_t>(n)});
         }
     }
 }
