@@ -127,10 +127,20 @@ std::string allgemein(Gleitzahl Zahl, int Stellen, char Dezimalzeichen) {
 }
 
 template <class Gleitzahl>
-std::string genau(Gleitzahl Zahl) {
-    if (!std::isfinite(Zahl)) return nicht_endlich(Zahl);
+void haenge_genau_an(std::string& Text, Gleitzahl Zahl) {
+    if (!std::isfinite(Zahl)) {
+        Text += nicht_endlich(static_cast<double>(Zahl));
+        return;
+    }
     char Puffer[64];
-    return {Puffer, std::to_chars(Puffer, Puffer + sizeof Puffer, Zahl).ptr};
+    Text.append(Puffer, std::to_chars(Puffer, Puffer + sizeof Puffer, Zahl).ptr);
+}
+
+template <class Gleitzahl>
+std::string genau(Gleitzahl Zahl) {
+    std::string Text;
+    haenge_genau_an(Text, Zahl);
+    return Text;
 }
 
 }  // namespace
@@ -177,6 +187,10 @@ double gerundet(double Zahl, int Nachkommastellen) { return lies(feste_Zahl(Zahl
 
 std::string genaue_Zahl(float Zahl) { return genau(Zahl); }
 std::string genaue_Zahl(double Zahl) { return genau(Zahl); }
+
+void haenge_genaue_Zahl_an(std::string& Text, float Zahl) { haenge_genau_an(Text, Zahl); }
+void haenge_genaue_Zahl_an(std::string& Text, double Zahl) { haenge_genau_an(Text, Zahl); }
+void haenge_genaue_Zahl_an(std::string& Text, int Zahl) { Text += std::to_string(Zahl); }
 
 std::optional<int> ganze_Zahl(double Zahl, int von, int bis) {
     const double gerundet = std::nearbyint(Zahl);

@@ -41,6 +41,10 @@ double gerundet(double Zahl, int Nachkommastellen);
 // The shortest text that reads back as the same single or double precision value.
 std::string genaue_Zahl(float Zahl);
 std::string genaue_Zahl(double Zahl);
+// The same behind a text that grows.
+void haenge_genaue_Zahl_an(std::string& Text, float Zahl);
+void haenge_genaue_Zahl_an(std::string& Text, double Zahl);
+void haenge_genaue_Zahl_an(std::string& Text, int Zahl);
 
 // Nearest whole number, ties to even, if it lies in [von, bis]; nothing otherwise.
 std::optional<int> ganze_Zahl(double Zahl, int von, int bis);

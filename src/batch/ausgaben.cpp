@@ -2,13 +2,11 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <ostream>
 #include <system_error>
+#include <utility>
 
 #include "base/laufzeitfehler.h"
 #include "batch/dateipfad.h"
-#include "batch/schreiber.h"
-#include "records/dateien.h"
 
 namespace varnok::batch {
 namespace {
@@ -57,17 +55,6 @@ void bereite_Ordner(const std::string& Option, const std::string& Name, const Au
     throw Aufruffehler(Option + " " + Name + ": the folder cannot be made: " + Grund);
 }
 
-void schreibe(const std::string& Ziel, const std::string& Text, std::ostream& aus, std::vector<std::string>& Fehler) {
-    try {
-        if (Ziel != Standardausgabe) return schreibe_Datei(Ziel, Text);
-        aus.write(Text.data(), static_cast<std::streamsize>(Text.size()));
-        aus.flush();
-        if (!aus) throw Laufzeitfehler("The results cannot be written to standard output.");
-    } catch (const Laufzeitfehler& f) {
-        Fehler.emplace_back(f.what());
-    }
-}
-
 }  // namespace
 
 void bereite_Ausgaben_vor(const Aufruf& a, const Projektordner& Ordner) {
@@ -80,12 +67,64 @@ void bereite_Ausgaben_vor(const Aufruf& a, const Projektordner& Ordner) {
     bereite_Ordner("--report", a.Berichtsordner, a, Ordner);
 }
 
-std::vector<std::string> schreibe_Ausgaben(const Aufruf& a, const std::vector<Simulationsausgang>& Ausgaenge, std::ostream& aus) {
+Ausgaben::Ausgaben(const Aufruf& a, Standardausgabe aus) : aus_(std::move(aus)) {
+    if (a.Tabelle()) fuege_hinzu(Tabellenschreiber(), batch::Standardausgabe);
+    if (!a.JSON_Datei.empty()) fuege_hinzu(JSON_Schreiber(), a.JSON_Datei);
+    if (!a.CSV_Datei.empty()) fuege_hinzu(CSV_Schreiber(), a.CSV_Datei);
+}
+
+void Ausgaben::fuege_hinzu(std::unique_ptr<Schreiber> Dokument, const std::string& Ziel) {
+    Ausgabe& a = Ausgaben_.emplace_back();
+    a.Dokument = std::move(Dokument);
+    a.Ziel = Ziel;
+    a.wartend = a.Dokument->Anfang();
+    versuche(a, [&] {
+        if (Ziel != batch::Standardausgabe) a.Datei = std::make_unique<Dateischreiber>(Ziel);
+    });
+}
+
+// An output that cannot be written does not keep the others from it. What there is of its new file goes.
+template <class Handlung>
+void Ausgaben::versuche(Ausgabe& a, Handlung h) const {
+    if (a.Fehler) return;
+    try {
+        h();
+    } catch (const Laufzeitfehler& f) {
+        a.Fehler = f.what();
+        a.Datei.reset();
+    }
+}
+
+void Ausgaben::leere(Ausgabe& a) const {
+    versuche(a, [&] { a.Datei ? a.Datei->schreibe(a.wartend) : aus_(a.wartend); });
+    a.wartend.clear();
+}
+
+std::vector<std::string> Ausgaben::Stuecke(const Simulationsausgang& s) const {
+    std::vector<std::string> Texte;
+    for (const Ausgabe& a : Ausgaben_) Texte.push_back(a.Dokument->Stueck(s));
+    return Texte;
+}
+
+void Ausgaben::schreibe(std::vector<std::string> Stuecke, bool gescheitert) {
+    constexpr std::size_t genug = std::size_t{1} << 18;  // bytes that are worth a call of the system
+    for (std::size_t i = 0; i < Ausgaben_.size(); ++i) {
+        Ausgabe& a = Ausgaben_[i];
+        a.wartend += a.Dokument->naechstes(std::move(Stuecke[i]), gescheitert);
+        if (a.wartend.size() >= genug) leere(a);
+    }
+}
+
+std::vector<std::string> Ausgaben::beende() {
     std::vector<std::string> Fehler;
-    for (const Simulationsausgang& s : Ausgaenge) Fehler.insert(Fehler.end(), s.Schreibfehler.begin(), s.Schreibfehler.end());
-    if (a.Tabelle()) schreibe(Standardausgabe, als_Tabelle(Ausgaenge), aus, Fehler);
-    if (!a.JSON_Datei.empty()) schreibe(a.JSON_Datei, als_JSON(Ausgaenge), aus, Fehler);
-    if (!a.CSV_Datei.empty()) schreibe(a.CSV_Datei, als_CSV(Ausgaenge), aus, Fehler);
+    for (Ausgabe& a : Ausgaben_) {
+        a.wartend += a.Dokument->Ende();
+        leere(a);
+        versuche(a, [&] {
+            if (a.Datei) a.Datei->beende();
+        });
+        if (a.Fehler) Fehler.push_back(*a.Fehler);
+    }
     return Fehler;
 }
 

@@ -1,3 +1,6 @@
+#include <string_view>
+#include <utility>
+
 #include "base/zahlen.h"
 #include "batch/schreiber.h"
 #include "exposure/bezeichnungen.h"
@@ -6,82 +9,112 @@ namespace varnok::batch {
 namespace {
 
 constexpr std::size_t meiste_Fenster = 12;
-constexpr const char* Zeilenende = "\r\n";
 
-using Felder = std::vector<std::string>;
+// A row field by field; no text of its own for any of them.
+class Zeile {
+public:
+    explicit Zeile(std::string& Ziel) : Ziel_(&Ziel) {}
 
-std::string Feld(const std::string& Text) {
-    if (Text.find_first_of(",\"\r\n") == std::string::npos) return Text;
-    std::string gequotet = "\"";
-    for (const char z : Text) {
-        if (z == '"') gequotet += '"';
-        gequotet += z;
+    void Text(std::string_view Wert) {
+        trenne();
+        if (Wert.find_first_of(",\"\r\n") == std::string_view::npos) {
+            *Ziel_ += Wert;
+            return;
+        }
+        *Ziel_ += '"';
+        for (const char z : Wert) Ziel_->append(z == '"' ? 2 : 1, z);
+        *Ziel_ += '"';
     }
-    return gequotet + '"';
-}
-
-std::string Zeile(const Felder& Werte) {
-    std::string Text;
-    for (std::size_t i = 0; i < Werte.size(); ++i) {
-        if (i > 0) Text += ',';
-        Text += Feld(Werte[i]);
+    template <class Art>
+    void Zahl(Art Wert) {
+        trenne();
+        haenge_genaue_Zahl_an(*Ziel_, Wert);
     }
-    return Text + Zeilenende;
-}
+    void leer() { trenne(); }
+    void beende() { *Ziel_ += "\r\n"; }
 
-Felder Kopf() {
-    Felder k = {
-        "simulation", "study",           "study_name",    "compound",           "compound_name",         "endpoint",
-        "unit",       "Anzahl_pro_Jahr", "Wirksame_Rate", "Maximum_Bodentiefe", "Maximumtag_Bodentiefe", "Maximum_Plateautiefe"};
-    for (int j = 1; j <= Jahre; ++j) k.push_back("Jahresmaximum_" + std::to_string(j));
-    k.insert(k.end(), {"Plateauwert", "Plateauzuwachs", "Plateautext"});
+private:
+    void trenne() {
+        if (!std::exchange(erstes_, false)) *Ziel_ += ',';
+    }
+
+    std::string* Ziel_;
+    bool erstes_ = true;
+};
+
+void schreibe_Kopf(Zeile z) {
+    for (const char* Name :
+         {"simulation", "study", "study_name", "compound", "compound_name", "endpoint", "unit", "Anzahl_pro_Jahr",
+          "Wirksame_Rate", "Maximum_Bodentiefe", "Maximumtag_Bodentiefe", "Maximum_Plateautiefe"}) {
+        z.Text(Name);
+    }
+    for (int j = 1; j <= Jahre; ++j) z.Text("Jahresmaximum_" + std::to_string(j));
+    for (const char* Name : {"Plateauwert", "Plateauzuwachs", "Plateautext"}) z.Text(Name);
     for (std::size_t j = 1; j <= meiste_Fenster; ++j) {
-        for (const char* Teil : {"_days", "_maximum", "_start", "_actual"}) k.push_back("TWA_" + std::to_string(j) + Teil);
+        for (const char* Teil : {"_days", "_maximum", "_start", "_actual"}) z.Text("TWA_" + std::to_string(j) + Teil);
     }
-    return k;
+    z.beende();
 }
 
-Felder Werte(const Simulationsergebnis& r, const Ergebnis& s, int i_substanz, Endpunktart Endpunkt) {
-    const Eingabe& v = *s.Vorgabe;
-    const Endpunktergebnis& e = s.Werte(Endpunkt, i_substanz);
-    Felder w = {r.Name,
-                std::to_string(s.i_studie + 1),
-                v.Studie.at(static_cast<std::size_t>(s.i_studie)),
-                std::to_string(i_substanz),
-                Stoffname(v, i_substanz),
-                std::string(Endpunktnamen[Endpunkt]),
-                std::string(Konzentrationseinheit(v.Parameter.Einheit, Endpunkt)),
-                std::to_string(s.Anzahl_pro_Jahr),
-                genaue_Zahl(s.Wirksame_Rate),
-                genaue_Zahl(e.Maximum_Bodentiefe),
-                std::to_string(e.Maximumtag_Bodentiefe),
-                genaue_Zahl(e.Maximum_Plateautiefe)};
-    for (const float m : e.Jahresmaximum) w.push_back(genaue_Zahl(m));
-    w.insert(w.end(), {genaue_Zahl(e.Plateauwert), genaue_Zahl(e.Plateauzuwachs), e.Plateautext});
+void schreibe_Fenster(Zeile& z, const std::vector<Fensterergebnis>& TWA) {
     for (std::size_t j = 0; j < meiste_Fenster; ++j) {
-        if (j < e.TWA.size()) {
-            const Fensterergebnis& f = e.TWA[j];
-            w.insert(w.end(), {genaue_Zahl(f.Tage), genaue_Zahl(f.Maximum), std::to_string(f.Starttag), genaue_Zahl(f.aktuell)});
+        if (j < TWA.size()) {
+            z.Zahl(TWA[j].Tage);
+            z.Zahl(TWA[j].Maximum);
+            z.Zahl(TWA[j].Starttag);
+            z.Zahl(TWA[j].aktuell);
         } else {
-            w.insert(w.end(), 4, "");
+            for (int leere = 0; leere < 4; ++leere) z.leer();
         }
     }
-    return w;
 }
+
+void schreibe_Werte(Zeile z, const Simulationsergebnis& r, const Ergebnis& s, int i_substanz, Endpunktart Endpunkt) {
+    const Eingabe& v = *s.Vorgabe;
+    const Endpunktergebnis& e = s.Werte(Endpunkt, i_substanz);
+    z.Text(r.Name);
+    z.Zahl(s.i_studie + 1);
+    z.Text(v.Studie.at(static_cast<std::size_t>(s.i_studie)));
+    z.Zahl(i_substanz);
+    z.Text(Stoffname(v, i_substanz));
+    z.Text(Endpunktnamen[Endpunkt]);
+    z.Text(Konzentrationseinheit(v.Parameter.Einheit, Endpunkt));
+    z.Zahl(s.Anzahl_pro_Jahr);
+    z.Zahl(s.Wirksame_Rate);
+    z.Zahl(e.Maximum_Bodentiefe);
+    z.Zahl(e.Maximumtag_Bodentiefe);
+    z.Zahl(e.Maximum_Plateautiefe);
+    for (const float m : e.Jahresmaximum) z.Zahl(m);
+    z.Zahl(e.Plateauwert);
+    z.Zahl(e.Plateauzuwachs);
+    z.Text(e.Plateautext);
+    schreibe_Fenster(z, e.TWA);
+    z.beende();
+}
+
+class CSV : public Schreiber {
+public:
+    std::string Anfang() override {
+        std::string Text;
+        schreibe_Kopf(Zeile(Text));
+        return Text;
+    }
+
+    std::string Stueck(const Simulationsausgang& a) const override {
+        std::string Text;
+        for (const auto& s : a.Ergebnis.Studien) {
+            for (int c = 0; c < static_cast<int>(s->Stoffwerte.size()); ++c) {
+                for (const Endpunktart e : {Gesamtgehalt, Porenwasser}) schreibe_Werte(Zeile(Text), a.Ergebnis, *s, c, e);
+            }
+        }
+        return Text;
+    }
+
+    std::string naechstes(std::string Text, bool gescheitert) override { return gescheitert ? std::string() : std::move(Text); }
+};
 
 }  // namespace
 
-std::string als_CSV(const std::vector<Simulationsausgang>& Ausgaenge) {
-    std::string Text = Zeile(Kopf());
-    for (const Simulationsausgang& a : Ausgaenge) {
-        if (a.Fehler) continue;
-        for (const auto& s : a.Ergebnis.Studien) {
-            for (int c = 0; c < static_cast<int>(s->Stoffwerte.size()); ++c) {
-                for (const Endpunktart e : {Gesamtgehalt, Porenwasser}) Text += Zeile(Werte(a.Ergebnis, *s, c, e));
-            }
-        }
-    }
-    return Text;
-}
+std::unique_ptr<Schreiber> CSV_Schreiber() { return std::make_unique<CSV>(); }
 
 }  // namespace varnok::batch

@@ -37,14 +37,24 @@ void Fortschrittsbalken::zeichne_bis(const std::stop_token& Ende, std::chrono::m
     Wecker_.wait_for(Schutz, Ende, Wartezeit, [] { return false; });
     // Without any waiting time the bar shows at least once, however short the work.
     if (Ende.stop_requested() && Wartezeit.count() > 0) return;
-    std::size_t Breite = 0;
     do {
         const std::string Text = Balkentext(fertig_, gesamt_);
-        Breite = std::max(Breite, Text.size());
+        Breite_ = std::max(Breite_, Text.size());
         *Terminal_ << '\r' << Text << std::flush;
         Wecker_.wait_for(Schutz, Ende, Zeichenabstand, [] { return false; });
     } while (!Ende.stop_requested());
-    *Terminal_ << '\r' << std::string(Breite, ' ') << '\r' << std::flush;
+    wische();
+}
+
+void Fortschrittsbalken::wische() {
+    if (Breite_ > 0) *Terminal_ << '\r' << std::string(Breite_, ' ') << '\r' << std::flush;
+    Breite_ = 0;
+}
+
+std::unique_lock<std::mutex> Fortschrittsbalken::raeume() {
+    std::unique_lock Schutz(Sperre_);
+    wische();
+    return Schutz;
 }
 
 }  // namespace varnok::batch

@@ -22,7 +22,11 @@ public:
 
     void melde(std::size_t fertig, std::size_t gesamt) override;
 
+    // Wipes the line and keeps it away while the lock is held: for what else goes to the terminal.
+    [[nodiscard]] std::unique_lock<std::mutex> raeume();
+
 private:
+    void wische();
     void zeichne_bis(const std::stop_token& Ende, std::chrono::milliseconds Wartezeit);
 
     std::ostream* Terminal_;
@@ -30,7 +34,8 @@ private:
     std::condition_variable_any Wecker_;
     std::size_t fertig_ = 0;
     std::size_t gesamt_;
-    std::jthread Zeichner_;  // last: it starts when all else is there
+    std::size_t Breite_ = 0;  // of what stands on the line
+    std::jthread Zeichner_;   // last: it starts when all else is there
 };
 
 // "[#####               ] 25 of 100 simulations"

@@ -1,5 +1,6 @@
 #include <cmath>
 #include <nlohmann/json.hpp>
+#include <utility>
 
 #include "base/programm.h"
 #include "batch/schreiber.h"
@@ -83,26 +84,60 @@ JSON als_Objekt(const Simulationsergebnis& r) {
     };
 }
 
+constexpr int Einzug = 2;
+
+std::string als_Text(const JSON& Wert) {
+    // A file name that is no valid UTF-8 is no reason to lose the results.
+    return Wert.dump(Einzug, ' ', false, JSON::error_handler_t::replace);
+}
+
+// An entry of a list of the document. A line break inside a text is an escape, so each that stands here ends a line.
+std::string als_Listeneintrag(const JSON& Objekt) {
+    static const std::string neue_Zeile = '\n' + std::string(std::size_t{2} * Einzug, ' ');
+    const std::string Text = als_Text(Objekt);
+    std::string Eintrag = neue_Zeile;
+    Eintrag.reserve(2 * Text.size());
+    std::size_t von = 0;
+    for (std::size_t bis; (bis = Text.find('\n', von)) != std::string::npos; von = bis + 1) {
+        Eintrag.append(Text, von, bis - von).append(neue_Zeile);
+    }
+    return Eintrag.append(Text, von);
+}
+
+// The end of a list in the document, which stands on a line of its own unless the list is empty.
+std::string Listenende(bool leer) { return leer ? "]" : "\n  ]"; }
+
+class Dokument : public Schreiber {
+public:
+    std::string Anfang() override {
+        return "{\n  \"program\": \"VARNOK\",\n  \"version\": " + als_Text(Programmversion) + ",\n  \"simulations\": [";
+    }
+
+    std::string Stueck(const Simulationsausgang& a) const override {
+        if (!a.Fehler) return als_Listeneintrag(als_Objekt(a.Ergebnis));
+        return als_Listeneintrag({{"simulation", a.Ergebnis.Name}, {"message", *a.Fehler}});
+    }
+
+    std::string naechstes(std::string Text, bool gescheitert) override {
+        bool& leer = gescheitert ? ohne_Fehler_ : ohne_Simulation_;
+        if (!std::exchange(leer, false)) Text.insert(0, 1, ',');
+        if (!gescheitert) return Text;
+        Fehler_ += Text;
+        return {};
+    }
+
+    std::string Ende() override {
+        return Listenende(ohne_Simulation_) + ",\n  \"errors\": [" + Fehler_ + Listenende(ohne_Fehler_) + "\n}\n";
+    }
+
+private:
+    bool ohne_Simulation_ = true;
+    bool ohne_Fehler_ = true;
+    std::string Fehler_;  // they stand behind all simulations
+};
+
 }  // namespace
 
-std::string als_JSON(const std::vector<Simulationsausgang>& Ausgaenge) {
-    JSON Simulationen = JSON::array();
-    JSON Fehler = JSON::array();
-    for (const Simulationsausgang& a : Ausgaenge) {
-        if (a.Fehler) {
-            Fehler.push_back({{"simulation", a.Ergebnis.Name}, {"message", *a.Fehler}});
-        } else {
-            Simulationen.push_back(als_Objekt(a.Ergebnis));
-        }
-    }
-    const JSON Dokument = {
-        {"program", "VARNOK"},
-        {"version", Programmversion},
-        {"simulations", std::move(Simulationen)},
-        {"errors", std::move(Fehler)},
-    };
-    // A file name that is no valid UTF-8 is no reason to lose the results.
-    return Dokument.dump(2, ' ', false, JSON::error_handler_t::replace) + "\n";
-}
+std::unique_ptr<Schreiber> JSON_Schreiber() { return std::make_unique<Dokument>(); }
 
 }  // namespace varnok::batch

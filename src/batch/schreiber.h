@@ -2,6 +2,7 @@
 
 // The writers of results: each turns the same structs into a text.
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -9,16 +10,35 @@
 
 namespace varnok::batch {
 
+// A document that is written simulation by simulation, so that the results of thousands need not be held.
+class Schreiber {
+public:
+    virtual ~Schreiber() = default;
+
+    // What the document tells of a simulation. Several threads call it at once, each where it calculated.
+    virtual std::string Stueck(const Simulationsausgang& a) const = 0;
+
+    // The document from its beginning to its end: the pieces of all simulations in the order of the call.
+    virtual std::string Anfang() { return {}; }
+    virtual std::string naechstes(std::string Stueck, bool gescheitert) = 0;
+    virtual std::string Ende() { return {}; }
+};
+
 // UTF-8; calculated simulations under "simulations", the others under "errors". A single precision value is
 // written as the double that it widens to, so it reads back unchanged.
-std::string als_JSON(const std::vector<Simulationsausgang>& Ausgaenge);
+std::unique_ptr<Schreiber> JSON_Schreiber();
 
 // A header line, then a row for each simulation, study, compound and endpoint, after RFC 4180 (CR LF). Columns for
 // twelve averaging windows; those of a shorter list are empty.
-std::string als_CSV(const std::vector<Simulationsausgang>& Ausgaenge);
+std::unique_ptr<Schreiber> CSV_Schreiber();
 
 // For the eye: for each simulation and endpoint a table of peaks, plateaus and averages.
-std::string als_Tabelle(const std::vector<Simulationsausgang>& Ausgaenge);
+std::unique_ptr<Schreiber> Tabellenschreiber();
+
+// The whole document at once.
+std::string als_Text(Schreiber& s, const std::vector<Simulationsausgang>& Ausgaenge);
+std::string als_JSON(const std::vector<Simulationsausgang>& Ausgaenge);
+std::string als_CSV(const std::vector<Simulationsausgang>& Ausgaenge);
 
 // Control characters replaced by "?": a name out of a file shall not steer a terminal.
 std::string druckbar(const std::string& Text);

@@ -19,8 +19,8 @@ struct Simulationsergebnis {
     std::string Beschreibung;
     std::array<std::string, 4> Dateinamen;   // places 1 to 3: compound, application, scenario
     std::shared_ptr<const Eingabe> Vorgabe;  // as the records give it
-    Studienergebnisse Studien;               // without series
-    std::vector<std::string> Bemerkungen;    // doubts about the records, with file and line
+    Studienergebnisse Studien;
+    std::vector<std::string> Bemerkungen;  // doubts about the records, with file and line
 };
 
 // What became of one simulation. With a `Fehler` the result holds the name and the remarks alone.

@@ -12,7 +12,6 @@
 #include "batch/serien.h"
 #include "exposure/darstellung.h"
 #include "exposure/twa.h"
-#include "records/klimadatei.h"
 #include "records/simulation.h"
 
 namespace varnok::batch {
@@ -49,13 +48,12 @@ std::vector<int> gewaehlte_Studien(const Auftrag& a, const Gelesenes& g) {
     return alle;
 }
 
-std::shared_ptr<const Ergebnis> rechne_Studie(const Gelesenes& g, int st, const Klimaquelle& Klima, Umfang u,
-                                              Lauf& Arbeitsplatz) {
+std::shared_ptr<const Ergebnis> rechne_Studie(const Gelesenes& g, int st, Umfang u, const Arbeitsplatz& Platz) {
     const Eingabe& e = *g.Vorgabe;
     const std::string davor = "study " + std::to_string(st + 1) + " \"" + e.Studie[static_cast<std::size_t>(st)] + "\": ";
     Studienlauf Fertig;
     try {
-        Fertig = berechne_Studie(Arbeitsplatz, g.Vorgabe, st, Klima, u);
+        Fertig = berechne_Studie(*Platz.Rechnung, g.Vorgabe, st, *Platz.Klima, u);
     } catch (const Laufzeitfehler& f) {
         const std::string Ort = Fundstelle(f, e, g.Satz, st);
         throw Laufzeitfehler(davor + (Ort.empty() ? "" : Ort + ": ") + f.what());
@@ -66,13 +64,12 @@ std::shared_ptr<const Ergebnis> rechne_Studie(const Gelesenes& g, int st, const 
 }
 
 // The studies wanted; all of them for an extended report, which tells of every one.
-Ergebnisse rechne_Studien(const Auftrag& a, const Gelesenes& g, const std::vector<int>& Gewaehlte, Lauf& Arbeitsplatz) {
-    const Projektklima Klima(a.Ordner);
+Ergebnisse rechne_Studien(const Auftrag& a, const Gelesenes& g, const std::vector<int>& Gewaehlte, const Arbeitsplatz& Platz) {
     const Umfang u = a.Serienordner.empty() && a.Berichtsordner.empty() ? Umfang::ohne_Reihen : Umfang::vollstaendig;
     Ergebnisse Studien;
     for (int st = 0; st < g.Vorgabe->Studienzahl(); ++st) {
         if (!a.erweitert && std::find(Gewaehlte.begin(), Gewaehlte.end(), st) == Gewaehlte.end()) continue;
-        Studien.at(static_cast<std::size_t>(st)) = rechne_Studie(g, st, Klima, u, Arbeitsplatz);
+        Studien.at(static_cast<std::size_t>(st)) = rechne_Studie(g, st, u, Platz);
     }
     return Studien;
 }
@@ -99,22 +96,10 @@ void schreibe_Berichte(const Auftrag& a, const std::string& Simulation, const Ge
                            {Studien, g.Sicht, *g.Vorgabe}, Schreibfehler);
 }
 
-// The results of thousands of simulations wait for the end of the call; their days would not find room.
-std::shared_ptr<const Ergebnis> ohne_Reihen(const std::shared_ptr<const Ergebnis>& s) {
-    if (s->Tagesrate.empty()) return s;
-    auto kurz = std::make_shared<Ergebnis>(*s);
-    kurz->Tagesrate = {};
-    kurz->Bildung_Plateautiefe = {};
-    for (Stoffergebnis& c : kurz->Stoffwerte) {
-        for (Endpunktergebnis& e : c.Endpunktwerte) e.Reihe_Bodentiefe = e.Reihe_Plateautiefe = e.Integral_Bodentiefe = {};
-    }
-    return kurz;
-}
-
-void rechne(const Auftrag& a, Lauf& Arbeitsplatz, Simulationsergebnis& r, std::vector<std::string>& Schreibfehler) {
+void rechne(const Auftrag& a, const Arbeitsplatz& Platz, Simulationsergebnis& r, std::vector<std::string>& Schreibfehler) {
     const Gelesenes g = lies(a, r.Name, r.Bemerkungen);
     const std::vector<int> Gewaehlte = gewaehlte_Studien(a, g);
-    const Ergebnisse Studien = rechne_Studien(a, g, Gewaehlte, Arbeitsplatz);
+    const Ergebnisse Studien = rechne_Studien(a, g, Gewaehlte, Platz);
 
     r.Beschreibung = g.Satz.Beschreibung;
     r.Dateinamen = g.Satz.Dateinamen;
@@ -122,7 +107,6 @@ void rechne(const Auftrag& a, Lauf& Arbeitsplatz, Simulationsergebnis& r, std::v
     for (const int st : Gewaehlte) r.Studien.push_back(Studien.at(static_cast<std::size_t>(st)));
     if (!a.Berichtsordner.empty()) schreibe_Berichte(a, r.Name, g, Studien, Gewaehlte, Schreibfehler);
     if (!a.Serienordner.empty()) schreibe_Serien(a.Serienordner, r.Name, r.Studien, Schreibfehler);
-    for (auto& s : r.Studien) s = ohne_Reihen(s);
 }
 
 }  // namespace
@@ -134,12 +118,13 @@ Auftrag::Auftrag(const Projektordner& o) : Ordner(o) {
     }
 }
 
-Simulationsausgang rechne_Simulation(const Auftrag& a, const std::string& Name, std::unique_ptr<Lauf>& Arbeitsplatz) {
+Simulationsausgang rechne_Simulation(const Auftrag& a, const std::string& Name, Arbeitsplatz& Platz) {
     Simulationsausgang Ausgang;
     Ausgang.Ergebnis.Name = Name;
     try {
-        if (!Arbeitsplatz) Arbeitsplatz = std::make_unique<Lauf>();
-        rechne(a, *Arbeitsplatz, Ausgang.Ergebnis, Ausgang.Schreibfehler);
+        if (!Platz.Rechnung) Platz.Rechnung = std::make_unique<Lauf>();
+        if (!Platz.Klima) Platz.Klima.emplace(a.Ordner);
+        rechne(a, Platz, Ausgang.Ergebnis, Ausgang.Schreibfehler);
         return Ausgang;
     } catch (const std::bad_alloc&) {
         Ausgang.Fehler = "there is not enough memory for this simulation; fewer --jobs need less";

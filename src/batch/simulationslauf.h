@@ -8,6 +8,7 @@
 
 #include "base/schnittstellen.h"
 #include "batch/simulationsergebnis.h"
+#include "records/klimadatei.h"
 #include "records/projektordner.h"
 #include "run/lauf.h"
 
@@ -30,9 +31,15 @@ struct Auftrag {
     std::vector<std::string> mehrfache_Beschreibungen;
 };
 
-// Reads the records of the simulation and calculates its studies in rising order in `Arbeitsplatz`, which is made where there is
-// none and plays no part in the results. Where one study that is asked for cannot be calculated, the whole simulation is a
-// fault. Writes series and reports of a calculated simulation. Throws nothing but what naming a fault itself may throw.
-Simulationsausgang rechne_Simulation(const Auftrag& a, const std::string& Name, std::unique_ptr<Lauf>& Arbeitsplatz);
+// What a worker uses again for each of its simulations. What it was used for before plays no part in the results.
+struct Arbeitsplatz {
+    std::unique_ptr<Lauf> Rechnung;  // made where there is none
+    std::optional<Klimagedaechtnis> Klima;
+};
+
+// Reads the records of the simulation and calculates its studies in rising order. Where one study that is asked for cannot be
+// calculated, the whole simulation is a fault. Writes series and reports of a calculated simulation. Throws nothing but what
+// naming a fault itself may throw.
+Simulationsausgang rechne_Simulation(const Auftrag& a, const std::string& Name, Arbeitsplatz& Platz);
 
 }  // namespace varnok::batch

@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "base/zahlen.h"
 #include "base/zeichensatz.h"
@@ -88,6 +89,20 @@ std::string Simulationstext(const Simulationsergebnis& r) {
     return Text;
 }
 
+class Tabelle : public Schreiber {
+public:
+    std::string Stueck(const Simulationsausgang& a) const override { return a.Fehler ? "" : Simulationstext(a.Ergebnis); }
+
+    std::string naechstes(std::string Text, bool gescheitert) override {
+        if (gescheitert) return {};
+        if (!std::exchange(erste_, false)) Text.insert(0, 1, '\n');
+        return Text;
+    }
+
+private:
+    bool erste_ = true;
+};
+
 }  // namespace
 
 std::string druckbar(const std::string& Text) {
@@ -103,14 +118,6 @@ std::string druckbar(const std::string& Text) {
     return sauber;
 }
 
-std::string als_Tabelle(const std::vector<Simulationsausgang>& Ausgaenge) {
-    std::string Text;
-    for (const Simulationsausgang& a : Ausgaenge) {
-        if (a.Fehler) continue;
-        if (!Text.empty()) Text += '\n';
-        Text += Simulationstext(a.Ergebnis);
-    }
-    return Text;
-}
+std::unique_ptr<Schreiber> Tabellenschreiber() { return std::make_unique<Tabelle>(); }
 
 }  // namespace varnok::batch

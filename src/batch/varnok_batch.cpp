@@ -1,19 +1,19 @@
 #include "batch/varnok_batch.h"
 
-#include <tbb/blocked_range.h>
+#include <tbb/enumerable_thread_specific.h>
 #include <tbb/global_control.h>
-#include <tbb/parallel_for.h>
-#include <tbb/partitioner.h>
+#include <tbb/parallel_pipeline.h>
 #include <tbb/task_arena.h>
 #include <algorithm>
-#include <atomic>
 #include <exception>
 #include <map>
-#include <memory>
+#include <mutex>
 #include <optional>
 #include <ostream>
 #include <string>
+#include <string_view>
 #include <thread>
+#include <utility>
 #include <variant>
 #include <vector>
 
@@ -73,24 +73,48 @@ Auftrag erstelle_Auftrag(const Aufruf& a, const Projektordner& Ordner, const Nam
     return Arbeit;
 }
 
-// Every simulation has its own place for its outcome, so neither order nor number of threads shows in the result.
-std::vector<Simulationsausgang> rechne_alle(const Auftrag& a, const Namensliste& Namen, int Arbeiter, Fortschritt* Balken) {
-    std::vector<Simulationsausgang> Ausgaenge(Namen.size());
-    std::atomic<std::size_t> fertig = 0;
-    const auto rechne = [&](const tbb::blocked_range<std::size_t>& Bereich) {
-        for (std::size_t i = Bereich.begin(); i != Bereich.end(); ++i) {
-            std::unique_ptr<Lauf> Arbeitsplatz;
-            Ausgaenge[i] = rechne_Simulation(a, Namen[i], Arbeitsplatz);
-            const std::size_t bisher = ++fertig;
-            if (Balken != nullptr) Balken->melde(bisher, Namen.size());
-        }
+// What is left of a simulation until its turn comes: texts instead of results.
+struct Fertiges {
+    std::vector<std::string> Meldungen;
+    std::vector<std::string> Schreibfehler;
+    std::vector<std::string> Stuecke;  // of each output
+    bool gescheitert = false;
+};
+
+Fertiges rechne(const Auftrag& a, const std::string& Name, const Ausgaben& Ziele, Arbeitsplatz& Platz) {
+    Simulationsausgang s = rechne_Simulation(a, Name, Platz);
+    Fertiges f;
+    const std::string davor = druckbar(Name) + ": ";
+    for (const std::string& b : s.Ergebnis.Bemerkungen) f.Meldungen.push_back(davor + druckbar(b));
+    if (s.Fehler) f.Meldungen.push_back(davor + druckbar(*s.Fehler));
+    f.Schreibfehler = std::move(s.Schreibfehler);
+    f.Stuecke = Ziele.Stuecke(s);
+    f.gescheitert = s.Fehler.has_value();
+    return f;
+}
+
+// Calculates on several threads and hands over what is finished in the order of the names, so neither order nor number of
+// threads shows in any output. Only so many simulations are under way that a long one does not keep the others waiting.
+template <class Abnehmer>
+void rechne_alle(const Auftrag& a, const Namensliste& Namen, int Arbeiter, const Ausgaben& Ziele, Abnehmer nimm) {
+    constexpr std::size_t unterwegs_pro_Arbeiter = 16;
+    const auto Zahl = static_cast<std::size_t>(Arbeiter);
+    tbb::enumerable_thread_specific<Arbeitsplatz> Plaetze;
+    std::size_t begonnen = 0;
+    const auto beginne = [&](tbb::flow_control& Ende) -> std::size_t {
+        if (begonnen == Namen.size()) Ende.stop();
+        return begonnen++;
     };
+    const auto arbeite = [&](std::size_t i) { return rechne(a, Namen[i], Ziele, Plaetze.local()); };
     // Without this the library would not give more threads than there are cores.
-    const tbb::global_control Grenze(tbb::global_control::max_allowed_parallelism, static_cast<std::size_t>(Arbeiter));
+    const tbb::global_control Grenze(tbb::global_control::max_allowed_parallelism, Zahl);
     tbb::task_arena Arena(Arbeiter);
-    Arena.execute(
-        [&] { tbb::parallel_for(tbb::blocked_range<std::size_t>(0, Namen.size(), 1), rechne, tbb::simple_partitioner()); });
-    return Ausgaenge;
+    Arena.execute([&] {
+        tbb::parallel_pipeline(Zahl * unterwegs_pro_Arbeiter,
+                               tbb::make_filter<void, std::size_t>(tbb::filter_mode::serial_in_order, beginne) &
+                                   tbb::make_filter<std::size_t, Fertiges>(tbb::filter_mode::parallel, arbeite) &
+                                   tbb::make_filter<Fertiges, void>(tbb::filter_mode::serial_in_order, nimm));
+    });
 }
 
 int Zahl_der_Arbeiter(const Aufruf& a) {
@@ -98,34 +122,44 @@ int Zahl_der_Arbeiter(const Aufruf& a) {
     return std::max(1, static_cast<int>(std::thread::hardware_concurrency()));
 }
 
-// Remarks and faults in the order of the simulations. True if a simulation is at fault.
-bool berichte(const std::vector<Simulationsausgang>& Ausgaenge, std::ostream& fehler) {
-    bool gescheitert = false;
-    for (const Simulationsausgang& a : Ausgaenge) {
-        const std::string davor = druckbar(a.Ergebnis.Name) + ": ";
-        for (const std::string& b : a.Ergebnis.Bemerkungen) melde(fehler, davor + druckbar(b));
-        if (a.Fehler) melde(fehler, davor + druckbar(*a.Fehler));
-        gescheitert = gescheitert || a.Fehler.has_value();
-    }
-    return gescheitert;
+void schreibe_Standardausgabe(std::ostream& aus, std::string_view Text) {
+    aus.write(Text.data(), static_cast<std::streamsize>(Text.size()));
+    aus.flush();
+    if (!aus) throw Laufzeitfehler("The results cannot be written to standard output.");
 }
 
 int fuehre_aus(const Aufruf& a, std::ostream& aus, std::ostream& fehler, const Umgebung& Umwelt) {
-    const Projektordner Ordner(a.Projekt);
+    const Projektordner Ordner = Projektordner(a.Projekt).mit_Verzeichnis();
     const Namensliste Namen = waehle_Simulationen(Ordner, a);
     Auftrag Arbeit = erstelle_Auftrag(a, Ordner, Namen);
     Arbeit.Zeit = Umwelt.Zeit;
     bereite_Ausgaben_vor(a, Ordner);
     if (!a.Berichtsordner.empty()) bereite_Berichte_vor();
 
-    std::vector<Simulationsausgang> Ausgaenge;
-    {
-        std::optional<Fortschrittsbalken> Balken;
-        if (!a.leise && Umwelt.Fehlerausgabe_ist_Terminal()) Balken.emplace(fehler, Namen.size(), Umwelt.Wartezeit_bis_Balken);
-        Ausgaenge = rechne_alle(Arbeit, Namen, Zahl_der_Arbeiter(a), Balken ? &*Balken : nullptr);
-    }
-    const bool gescheitert = berichte(Ausgaenge, fehler);
-    const std::vector<std::string> Schreibfehler = schreibe_Ausgaben(a, Ausgaenge, aus);
+    std::optional<Fortschrittsbalken> Balken;
+    if (!a.leise && Umwelt.Fehlerausgabe_ist_Terminal()) Balken.emplace(fehler, Namen.size(), Umwelt.Wartezeit_bis_Balken);
+    const auto raeume = [&] { return Balken ? Balken->raeume() : std::unique_lock<std::mutex>(); };
+
+    Ausgaben Ziele(a, [&](std::string_view Text) {
+        const auto frei = raeume();
+        schreibe_Standardausgabe(aus, Text);
+    });
+    std::size_t fertig = 0;
+    bool gescheitert = false;
+    std::vector<std::string> Schreibfehler;
+    rechne_alle(Arbeit, Namen, Zahl_der_Arbeiter(a), Ziele, [&](Fertiges f) {
+        if (!f.Meldungen.empty()) {
+            const auto frei = raeume();
+            for (const std::string& m : f.Meldungen) melde(fehler, m);
+        }
+        Schreibfehler.insert(Schreibfehler.end(), f.Schreibfehler.begin(), f.Schreibfehler.end());
+        Ziele.schreibe(std::move(f.Stuecke), f.gescheitert);
+        gescheitert = gescheitert || f.gescheitert;
+        if (Balken) Balken->melde(++fertig, Namen.size());
+    });
+    const std::vector<std::string> der_Ausgaben = Ziele.beende();
+    Schreibfehler.insert(Schreibfehler.end(), der_Ausgaben.begin(), der_Ausgaben.end());
+    Balken.reset();
     for (const std::string& s : Schreibfehler) melde(fehler, s);
     if (!Schreibfehler.empty()) return falscher_Aufruf;
     return gescheitert ? Simulation_gescheitert : alles_berechnet;

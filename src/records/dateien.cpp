@@ -6,6 +6,12 @@
 #include <array>
 #include <filesystem>
 #include <system_error>
+#include <utility>
+
+#ifndef _WIN32
+#include <fcntl.h>
+#include <unistd.h>
+#endif
 
 #include "base/laufzeitfehler.h"
 
@@ -40,37 +46,84 @@ std::string lies_offene(QFile& Datei, const std::string& Pfad) {
     return Inhalt;
 }
 
-// Whether all bytes went out. A disk that becomes full takes a part of them; the reason comes with the rest.
-bool schreibe_alles(QFileDevice& Datei, const std::string& Inhalt) {
-    const auto Anzahl = static_cast<qint64>(Inhalt.size());
-    for (qint64 fertig = 0; fertig < Anzahl;) {
-        const qint64 Schritt = Datei.write(Inhalt.data() + fertig, Anzahl - fertig);
-        if (Schritt <= 0) return false;
-        fertig += Schritt;
+#ifndef _WIN32
+// The content of a file where nothing stands in the way, else nothing: a batch reads tens of thousands of small ones.
+std::optional<std::string> lies_ohne_Umstand(const std::string& Pfad) {
+    const int Datei = open(Pfad.c_str(), O_RDONLY | O_CLOEXEC);
+    if (Datei < 0) return std::nullopt;
+    std::string Inhalt;
+    std::array<char, 65536> Puffer;
+    ssize_t Anzahl = 0;
+    while ((Anzahl = read(Datei, Puffer.data(), Puffer.size())) > 0 && Inhalt.size() <= Hoechstgroesse_Datei) {
+        Inhalt.append(Puffer.data(), static_cast<std::size_t>(Anzahl));
     }
-    return Datei.flush();
+    close(Datei);
+    if (Anzahl != 0 || Inhalt.size() > Hoechstgroesse_Datei) return std::nullopt;
+    return Inhalt;
 }
-
-// A device or a pipe has no old content to keep and must not be replaced by a file.
-void schreibe_unmittelbar(const std::string& Pfad, const std::string& Inhalt) {
-    QFile Datei(als_QString(Pfad));
-    if (!Datei.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || !schreibe_alles(Datei, Inhalt)) {
-        melde("write", Pfad, Datei.errorString().toStdString());
-    }
-    Datei.close();
-    if (Datei.error() != QFileDevice::NoError) melde("write", Pfad, Datei.errorString().toStdString());
-}
-
-void ersetze(const std::string& Pfad, const std::string& Inhalt) {
-    QSaveFile Datei(als_QString(Pfad));
-    if (!Datei.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || !schreibe_alles(Datei, Inhalt) || !Datei.commit()) {
-        melde("write", Pfad, Datei.errorString().toStdString());
-    }
-}
+#else
+std::optional<std::string> lies_ohne_Umstand(const std::string&) { return std::nullopt; }
+#endif
 
 }  // namespace
 
+// Where the bytes go: a file beside the target, or the target itself.
+class Dateischreiber::Geraet {
+public:
+    explicit Geraet(const std::string& Pfad) {
+        const QFileInfo Ziel(als_QString(Pfad));
+        if (Ziel.isDir()) melde("write", Pfad, "it is a folder");
+        // A device or a pipe has no old content to keep and must not be replaced by a file.
+        if (Ziel.exists() && !Ziel.isFile()) {
+            Datei_ = std::make_unique<QFile>(als_QString(Pfad));
+        } else {
+            auto Neue = std::make_unique<QSaveFile>(als_QString(Pfad));
+            neue_ = Neue.get();
+            Datei_ = std::move(Neue);
+        }
+    }
+
+    std::string Grund() const { return Datei_->errorString().toStdString(); }
+    bool oeffne() { return Datei_->open(QIODevice::WriteOnly | QIODevice::Unbuffered); }
+
+    // Whether all bytes went out. A disk that becomes full takes a part of them; the reason comes with the rest.
+    bool schreibe(std::string_view Stueck) {
+        while (!Stueck.empty()) {
+            const qint64 Schritt = Datei_->write(Stueck.data(), static_cast<qint64>(Stueck.size()));
+            if (Schritt <= 0) return false;
+            Stueck.remove_prefix(static_cast<std::size_t>(Schritt));
+        }
+        return true;
+    }
+
+    bool beende() {
+        if (!Datei_->flush()) return false;
+        if (neue_) return neue_->commit();
+        Datei_->close();
+        return Datei_->error() == QFileDevice::NoError;
+    }
+
+private:
+    std::unique_ptr<QFileDevice> Datei_;
+    QSaveFile* neue_ = nullptr;  // the same, where it takes the place of a file
+};
+
+Dateischreiber::Dateischreiber(const std::string& Pfad) : Pfad_(Pfad), Geraet_(std::make_unique<Geraet>(Pfad)) {
+    if (!Geraet_->oeffne()) melde("write", Pfad_, Geraet_->Grund());
+}
+
+Dateischreiber::~Dateischreiber() = default;
+
+void Dateischreiber::schreibe(std::string_view Stueck) {
+    if (!Geraet_->schreibe(Stueck)) melde("write", Pfad_, Geraet_->Grund());
+}
+
+void Dateischreiber::beende() {
+    if (!Geraet_->beende()) melde("write", Pfad_, Geraet_->Grund());
+}
+
 std::string lies_Datei(const std::string& Pfad) {
+    if (auto Inhalt = lies_ohne_Umstand(Pfad)) return std::move(*Inhalt);
     QFile Datei(als_QString(Pfad));
     const std::string Hindernis = oeffne(Datei);
     if (!Hindernis.empty()) melde("read", Pfad, Hindernis);
@@ -78,19 +131,16 @@ std::string lies_Datei(const std::string& Pfad) {
 }
 
 std::optional<std::string> lies_Datei_falls_moeglich(const std::string& Pfad) {
+    if (auto Inhalt = lies_ohne_Umstand(Pfad)) return Inhalt;
     QFile Datei(als_QString(Pfad));
     if (!oeffne(Datei).empty()) return std::nullopt;
     return lies_offene(Datei, Pfad);
 }
 
 void schreibe_Datei(const std::string& Pfad, const std::string& Inhalt) {
-    const QFileInfo Ziel(als_QString(Pfad));
-    if (Ziel.isDir()) melde("write", Pfad, "it is a folder");
-    if (Ziel.exists() && !Ziel.isFile()) {
-        schreibe_unmittelbar(Pfad, Inhalt);
-    } else {
-        ersetze(Pfad, Inhalt);
-    }
+    Dateischreiber Datei(Pfad);
+    Datei.schreibe(Inhalt);
+    Datei.beende();
 }
 
 void kopiere_Datei(const std::string& von, const std::string& nach) { schreibe_Datei(nach, lies_Datei(von)); }

@@ -3,8 +3,10 @@
 // Files as bytes. Paths and messages are UTF-8.
 
 #include <cstddef>
+#include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace varnok {
 
@@ -22,6 +24,26 @@ std::optional<std::string> lies_Datei_falls_moeglich(const std::string& Pfad);
 // the old file or the new one. Throws Laufzeitfehler that names the file and the reason; the old file
 // is then untouched. What is no plain file (a device, a pipe) is written to as it stands.
 void schreibe_Datei(const std::string& Pfad, const std::string& Inhalt);
+
+// The same for a text that comes piece by piece and need not find room in memory. What was not ended is dropped: the old file
+// stays. Every routine throws as `schreibe_Datei`.
+class Dateischreiber {
+public:
+    explicit Dateischreiber(const std::string& Pfad);
+    ~Dateischreiber();
+    Dateischreiber(const Dateischreiber&) = delete;
+    Dateischreiber& operator=(const Dateischreiber&) = delete;
+
+    void schreibe(std::string_view Stueck);
+    // Flushes and takes the old file's place; nothing is written behind it.
+    void beende();
+
+private:
+    class Geraet;
+
+    std::string Pfad_;
+    std::unique_ptr<Geraet> Geraet_;
+};
 
 // A copy with the present time as its stamp. Throws as reading and writing do.
 void kopiere_Datei(const std::string& von, const std::string& nach);

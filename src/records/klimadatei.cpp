@@ -63,4 +63,13 @@ std::optional<std::vector<Klimatag>> Projektklima::lade(const std::string& Name)
     return zerlege_Klimadatei(*Bytes, Name + Klima_Endung);
 }
 
+std::optional<std::vector<Klimatag>> Klimagedaechtnis::lade(const std::string& Name) const {
+    if (Name_ != Name) {
+        Name_.reset();
+        Tage_ = Dateien_.lade(Name);
+        Name_ = Name;
+    }
+    return Tage_;
+}
+
 }  // namespace varnok

@@ -25,4 +25,16 @@ private:
     const Projektordner* Ordner_;
 };
 
+// The same for many runs one after the other: the climate asked for last is kept. Each thread needs one of its own.
+class Klimagedaechtnis : public Klimaquelle {
+public:
+    explicit Klimagedaechtnis(const Projektordner& Ordner) : Dateien_(Ordner) {}
+    std::optional<std::vector<Klimatag>> lade(const std::string& Name) const override;
+
+private:
+    Projektklima Dateien_;
+    mutable std::optional<std::string> Name_;  // nothing: no climate kept
+    mutable std::optional<std::vector<Klimatag>> Tage_;
+};
+
 }  // namespace varnok

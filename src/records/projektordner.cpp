@@ -3,6 +3,9 @@
 #include <QString>
 #include <algorithm>
 #include <filesystem>
+#include <mutex>
+#include <string_view>
+#include <unordered_map>
 #include <utility>
 
 #include "base/laufzeitfehler.h"
@@ -19,7 +22,21 @@ std::string als_Text(const fs::path& Pfad) {
     return {Text.begin(), Text.end()};
 }
 
-QString gefaltet(const std::string& Utf8) { return QString::fromStdString(Utf8).toCaseFolded(); }
+bool ist_ASCII(std::string_view Text) {
+    return std::all_of(Text.begin(), Text.end(), [](char z) { return static_cast<unsigned char>(z) < 0x80; });
+}
+
+// A text without its case, in the units that the toolkit sorts by.
+std::u16string gefaltet(std::string_view Utf8) {
+    if (!ist_ASCII(Utf8))
+        return QString::fromUtf8(Utf8.data(), static_cast<qsizetype>(Utf8.size())).toCaseFolded().toStdU16String();
+    std::u16string Text(Utf8.size(), u'\0');
+    std::transform(Utf8.begin(), Utf8.end(), Text.begin(),
+                   [](char z) { return static_cast<char16_t>(z >= 'A' && z <= 'Z' ? z - 'A' + 'a' : z); });
+    return Text;
+}
+
+bool ist_gueltiger_Text(const std::string& Utf8) { return ist_ASCII(Utf8) || QString::fromStdString(Utf8).toStdString() == Utf8; }
 
 std::string verbunden(const std::string& Ordner, const std::string& Name) {
     return Ordner.ends_with('/') ? Ordner + Name : Ordner + '/' + Name;
@@ -35,31 +52,27 @@ bool ist_Ordner(const fs::path& Pfad) {
     return fs::is_directory(Pfad, Fehler);
 }
 
-// The names in a folder in a fixed order; those that are no text at all are left out.
-std::vector<std::string> Eintraege(const std::string& Ordner) {
-    std::vector<std::string> Namen;
+struct Eintrag {
+    std::string Name;
+    enum { Datei, Ordner, anderes } Art;
+};
+
+// What lies in a folder, by name; names that are no text at all are left out.
+std::vector<Eintrag> lies_Eintraege(const std::string& Ordner) {
+    std::vector<Eintrag> Eintraege;
     std::error_code Fehler;
     for (fs::directory_iterator i(als_Pfad(Ordner), Fehler), Ende; !Fehler && i != Ende; i.increment(Fehler)) {
         std::string Name = als_Text(i->path().filename());
-        if (QString::fromStdString(Name).toStdString() == Name) Namen.push_back(std::move(Name));
+        if (!ist_gueltiger_Text(Name)) continue;
+        // The kind comes with the name nearly always; of a link it is that of its target.
+        std::error_code ohne_Ziel;
+        const auto Art = i->is_regular_file(ohne_Ziel) ? Eintrag::Datei
+                         : i->is_directory(ohne_Ziel)  ? Eintrag::Ordner
+                                                       : Eintrag::anderes;
+        Eintraege.push_back({std::move(Name), Art});
     }
-    std::sort(Namen.begin(), Namen.end());
-    return Namen;
-}
-
-// Among the names that fit, the exact one wins; without it the first.
-std::optional<std::string> passender(const std::vector<std::string>& Namen, const std::string& Name) {
-    if (std::binary_search(Namen.begin(), Namen.end(), Name)) return Name;
-    const QString gesucht = gefaltet(Name);
-    const auto Treffer = std::find_if(Namen.begin(), Namen.end(), [&](const auto& n) { return gefaltet(n) == gesucht; });
-    if (Treffer == Namen.end()) return std::nullopt;
-    return *Treffer;
-}
-
-template <class Bedingung>
-std::vector<std::string> nur(std::vector<std::string> Namen, const std::string& Ordner, Bedingung b) {
-    std::erase_if(Namen, [&](const auto& n) { return !b(als_Pfad(verbunden(Ordner, n))); });
-    return Namen;
+    std::sort(Eintraege.begin(), Eintraege.end(), [](const auto& a, const auto& b) { return a.Name < b.Name; });
+    return Eintraege;
 }
 
 bool ist_Steuerzeichen(char z) { return static_cast<unsigned char>(z) < 0x20 || z == 0x7F; }
@@ -69,7 +82,7 @@ std::string Einwand_gegen_Zeichen(const std::string& Name) {
     if (Name == "." || Name == "..") return "\"" + Name + "\" is the name of a folder";
     if (Name.find_first_of("/\\") != std::string::npos) return "it holds a slash";
     if (std::any_of(Name.begin(), Name.end(), ist_Steuerzeichen)) return "it holds a control character";
-    if (QString::fromStdString(Name).toStdString() != Name) return "it is no valid text";
+    if (!ist_gueltiger_Text(Name)) return "it is no valid text";
     return {};
 }
 
@@ -82,28 +95,74 @@ std::string Einwand_gegen_Namen(const std::string& Name) {
     return Einwand_gegen_Zeichen(Name);
 }
 
+// The content of a folder at one moment. Read by several threads at once.
+class Projektordner::Verzeichnis {
+public:
+    explicit Verzeichnis(const std::string& Ordner) : Ordner_(Ordner), Eintraege_(lies_Eintraege(Ordner)) {}
+
+    const std::string& Ordner() const { return Ordner_; }
+    const std::vector<Eintrag>& Eintraege() const { return Eintraege_; }
+
+    const Eintrag* genau(const std::string& Name) const {
+        const auto Stelle = std::lower_bound(Eintraege_.begin(), Eintraege_.end(), Name,
+                                             [](const Eintrag& e, const std::string& n) { return e.Name < n; });
+        return Stelle != Eintraege_.end() && Stelle->Name == Name ? &*Stelle : nullptr;
+    }
+
+    // Of the kind asked for the name that fits without regard to case: the exact one, else the first.
+    const Eintrag* passend(const std::string& Name, decltype(Eintrag::Art) Art) const {
+        if (const Eintrag* e = genau(Name); e && e->Art == Art) return e;
+        std::call_once(gefaltet_, [this] {
+            for (const Eintrag& e : Eintraege_) ohne_Gross_Klein_[gefaltet(e.Name)].push_back(&e);
+        });
+        const auto Gruppe = ohne_Gross_Klein_.find(gefaltet(Name));
+        if (Gruppe == ohne_Gross_Klein_.end()) return nullptr;
+        const auto Treffer =
+            std::find_if(Gruppe->second.begin(), Gruppe->second.end(), [&](const Eintrag* e) { return e->Art == Art; });
+        return Treffer == Gruppe->second.end() ? nullptr : *Treffer;
+    }
+
+private:
+    std::string Ordner_;
+    std::vector<Eintrag> Eintraege_;
+    mutable std::once_flag gefaltet_;  // most folders are written with one case throughout
+    mutable std::unordered_map<std::u16string, std::vector<const Eintrag*>> ohne_Gross_Klein_;
+};
+
 Projektordner::Projektordner(const std::string& Pfad) : Pfad_(Pfad) {
     if (!ist_Ordner(als_Pfad(Pfad))) throw Laufzeitfehler("There is no folder \"" + Pfad + "\"");
 }
 
-std::string Projektordner::Unterordner(const std::string& Name) const {
-    if (const auto genau = verbunden(Pfad_, Name); ist_Ordner(als_Pfad(genau))) return genau;
-    const auto Ordner = passender(nur(Eintraege(Pfad_), Pfad_, ist_Ordner), Name);
-    return verbunden(Pfad_, Ordner.value_or(Name));
+Projektordner Projektordner::mit_Verzeichnis() const {
+    Projektordner gelesener = *this;
+    gelesener.gelesenes_ = std::make_shared<const Verzeichnis>(Eingabeordner());
+    return gelesener;
 }
 
-std::string Projektordner::Eingabeordner() const { return Unterordner("input"); }
+std::shared_ptr<const Projektordner::Verzeichnis> Projektordner::Eingabeverzeichnis() const {
+    return gelesenes_ ? gelesenes_ : std::make_shared<const Verzeichnis>(Eingabeordner());
+}
+
+std::string Projektordner::Unterordner(const std::string& Name) const {
+    if (const auto genau = verbunden(Pfad_, Name); ist_Ordner(als_Pfad(genau))) return genau;
+    const Verzeichnis Projekt(Pfad_);
+    const Eintrag* Ordner = Projekt.passend(Name, Eintrag::Ordner);
+    return verbunden(Pfad_, Ordner ? Ordner->Name : Name);
+}
+
+std::string Projektordner::Eingabeordner() const { return gelesenes_ ? gelesenes_->Ordner() : Unterordner("input"); }
 
 std::optional<std::string> Projektordner::finde(const std::string& Name, const std::string& Endung) const {
     if (!Einwand_gegen_Zeichen(Name).empty()) return std::nullopt;
-    const std::string Ordner = Eingabeordner();
-    if (const auto genau = verbunden(Ordner, Name + Endung); ist_Datei(als_Pfad(genau))) return genau;
-    const std::vector<std::string> Namen = Eintraege(Ordner);
+    if (!gelesenes_) {
+        if (const auto genau = verbunden(Eingabeordner(), Name + Endung); ist_Datei(als_Pfad(genau))) return genau;
+    }
+    const auto Inhalt = Eingabeverzeichnis();
     // A file is meant; a folder of that name is found only to say what stands in the way.
-    auto Treffer = passender(nur(Namen, Ordner, ist_Datei), Name + Endung);
-    if (!Treffer) Treffer = passender(nur(Namen, Ordner, ist_Ordner), Name + Endung);
+    const Eintrag* Treffer = Inhalt->passend(Name + Endung, Eintrag::Datei);
+    if (!Treffer) Treffer = Inhalt->passend(Name + Endung, Eintrag::Ordner);
     if (!Treffer) return std::nullopt;
-    return verbunden(Ordner, *Treffer);
+    return verbunden(Inhalt->Ordner(), Treffer->Name);
 }
 
 std::string Projektordner::Zielpfad(const std::string& Name, const std::string& Endung) const {
@@ -113,14 +172,14 @@ std::string Projektordner::Zielpfad(const std::string& Name, const std::string& 
 }
 
 std::vector<std::string> Projektordner::Namen(const std::string& Endung) const {
-    const std::string Ordner = Eingabeordner();
-    const QString gesucht = gefaltet(Endung);
-    std::vector<std::pair<QString, std::string>> Gefunden;
-    for (const auto& Eintrag : Eintraege(Ordner)) {
-        if (Eintrag.size() <= Endung.size()) continue;
-        std::string Name = Eintrag.substr(0, Eintrag.size() - Endung.size());
-        if (gefaltet(Eintrag.substr(Name.size())) != gesucht || !Einwand_gegen_Zeichen(Name).empty()) continue;
-        if (ist_Datei(als_Pfad(verbunden(Ordner, Eintrag)))) Gefunden.emplace_back(gefaltet(Name), std::move(Name));
+    const auto Inhalt = Eingabeverzeichnis();
+    const std::u16string gesucht = gefaltet(Endung);
+    std::vector<std::pair<std::u16string, std::string>> Gefunden;
+    for (const Eintrag& e : Inhalt->Eintraege()) {
+        if (e.Art != Eintrag::Datei || e.Name.size() <= Endung.size()) continue;
+        std::string Name = e.Name.substr(0, e.Name.size() - Endung.size());
+        if (gefaltet(std::string_view(e.Name).substr(Name.size())) != gesucht || !Einwand_gegen_Zeichen(Name).empty()) continue;
+        Gefunden.emplace_back(gefaltet(Name), std::move(Name));
     }
     std::sort(Gefunden.begin(), Gefunden.end());
     // Extensions that differ in case alone make one name of two files; the exact extension is opened.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -29,6 +30,10 @@ public:
     // Throws Laufzeitfehler if there is no such folder.
     explicit Projektordner(const std::string& Pfad);
 
+    // The same folder with the content of `input` as it is now: for who looks up thousands of records and neither makes nor
+    // drops one. Copies share what was read.
+    Projektordner mit_Verzeichnis() const;
+
     const std::string& Pfad() const { return Pfad_; }
     // Path of the folder `input`, also where it does not exist yet.
     std::string Eingabeordner() const;
@@ -48,7 +53,12 @@ public:
     std::vector<std::string> Namen(const std::string& Endung) const;
 
 private:
+    class Verzeichnis;
+
+    std::shared_ptr<const Verzeichnis> Eingabeverzeichnis() const;
+
     std::string Pfad_;
+    std::shared_ptr<const Verzeichnis> gelesenes_;  // null: read anew each time
 };
 
 // Empty for a name that can be that of a record, else what is wrong with it: empty, "." or "..", a

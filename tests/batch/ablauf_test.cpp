@@ -103,9 +103,9 @@ TEST_F(Viele, runs_at_the_same_time_do_not_know_of_each_other) {
     const Auftrag Arbeit(Ordner);
     const std::vector<std::string> Namen = Ordner.Namen(Endungen[Simulation]);
     const auto alle = [&] {
-        std::unique_ptr<Lauf> Arbeitsplatz;
+        Arbeitsplatz Platz;
         std::vector<Simulationsausgang> Ausgaenge;
-        for (const std::string& n : Namen) Ausgaenge.push_back(rechne_Simulation(Arbeit, n, Arbeitsplatz));
+        for (const std::string& n : Namen) Ausgaenge.push_back(rechne_Simulation(Arbeit, n, Platz));
         return als_JSON(Ausgaenge);
     };
     const std::string einzeln = alle();
@@ -120,9 +120,9 @@ TEST_F(Viele, runs_at_the_same_time_do_not_know_of_each_other) {
 TEST_F(Viele, workplace_may_be_the_same_for_all_or_a_new_one_for_each) {
     const Projektordner Ordner(Projekt.Pfad());
     const Auftrag Arbeit(Ordner);
-    std::unique_ptr<Lauf> gemeinsamer;
+    Arbeitsplatz gemeinsamer;
     for (const std::string& n : Ordner.Namen(Endungen[Simulation])) {
-        std::unique_ptr<Lauf> eigener;
+        Arbeitsplatz eigener;
         const std::string Text = als_JSON({rechne_Simulation(Arbeit, n, eigener)});
         EXPECT_EQ(als_JSON({rechne_Simulation(Arbeit, n, gemeinsamer)}), Text) << n;
     }
