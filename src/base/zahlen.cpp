@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <cstdlib>
 #include <limits>
+#include <optional>
 #include <system_error>
 
 namespace varnok {
@@ -67,6 +68,15 @@ double lies(const std::string& Zahl) {
     // from_chars does not say which end of the range was left.
     if (Groessenordnung(Zahl) < 0) return 0.0;
     return Zahl.front() == '-' ? -std::numeric_limits<double>::infinity() : std::numeric_limits<double>::infinity();
+}
+
+// The number of a text that is nothing but one and has no sign, as nearly all in records; nothing for any other text.
+std::optional<double> schlichte_Zahl(std::string_view Text) {
+    if (Text.empty() || !ist_Ziffer(Text.front())) return std::nullopt;
+    double Zahl = 0;
+    const auto [Rest, Fehler] = std::from_chars(Text.data(), Text.data() + Text.size(), Zahl);
+    if (Fehler != std::errc() || Rest != Text.data() + Text.size()) return std::nullopt;
+    return Zahl;
 }
 
 // Decimal digits and exponent of a value: 0.d1d2d3... times 10 to the power `Zehnerpotenz`.
@@ -145,11 +155,18 @@ std::string genau(Gleitzahl Zahl) {
 
 }  // namespace
 
-double Wert(std::string_view Text) { return lies(Zahlzeichen(Text, true)); }
+double Wert(std::string_view Text) {
+    const auto schlichte = schlichte_Zahl(Text);
+    return schlichte ? *schlichte : lies(Zahlzeichen(Text, true));
+}
 
-double fuehrende_Zahl(std::string_view Text) { return lies(Zahlzeichen(Text, false)); }
+double fuehrende_Zahl(std::string_view Text) {
+    const auto schlichte = schlichte_Zahl(Text);
+    return schlichte ? *schlichte : lies(Zahlzeichen(Text, false));
+}
 
 bool ist_Zahl_oder_leer(std::string_view Text) {
+    if (!Text.empty() && ist_Ziffer(Text.front())) return true;
     return Text.find_first_not_of(" \t") == std::string_view::npos || !Zahlzeichen(Text, true).empty();
 }
 

@@ -52,7 +52,14 @@ public:
     std::vector<Bemerkung>& Bemerkungen() { return Bemerkungen_; }
 
 private:
-    std::string_view naechste_Zeile(const std::string& Name);
+    // How messages name a line: its label in quotation marks, the divider, or a row of the table.
+    struct Zeilenname {
+        std::string_view Beschriftung;
+        int Tabellenzeile = 0;
+        std::string Text() const;
+    };
+
+    std::string_view naechste_Zeile(Zeilenname Name);
     void lies(const Feld& f, std::string_view Text);
     double lies_Zahl(const Feld& f, std::string_view Text);
     void lies_ganze_Zahl(const Feld& f, std::string_view Text);
@@ -60,7 +67,7 @@ private:
 
     Zeilenfolge Zeilen_;
     char Dezimalzeichen_;
-    std::string Name_;       // of the line in work, for messages
+    Zeilenname Name_;        // of the line in work
     std::string_view Rest_;  // of the line in work
     int Stelle_ = 0;         // values of that line read so far
     std::vector<Bemerkung> Bemerkungen_;

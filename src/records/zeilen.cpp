@@ -1,10 +1,14 @@
 #include "records/zeilen.h"
 
+#include <algorithm>
+
 namespace varnok {
 
 std::optional<std::string_view> Zeilenfolge::voraus() const {
     if (Stelle_ >= Bytes_.size()) return std::nullopt;
-    return Bytes_.substr(Stelle_, Bytes_.find_first_of("\r\n", Stelle_) - Stelle_);
+    const auto ist_Zeilenende = [](char z) { return z == '\n' || z == '\r'; };
+    const auto Anfang = Bytes_.begin() + static_cast<std::ptrdiff_t>(Stelle_);
+    return std::string_view(Anfang, std::find_if(Anfang, Bytes_.end(), ist_Zeilenende));
 }
 
 std::optional<std::string_view> Zeilenfolge::naechste() {
