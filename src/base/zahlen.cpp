@@ -112,6 +112,8 @@ std::string nicht_endlich(double Zahl) { return std::isnan(Zahl) ? "nan" : Zahl 
 template <class Gleitzahl>
 std::string allgemein(Gleitzahl Zahl, int Stellen, char Dezimalzeichen) {
     if (!std::isfinite(Zahl)) return nicht_endlich(Zahl);
+    // Short whole numbers, as most inputs are, have these digits and no others.
+    if (std::abs(Zahl) < 1e5F && Zahl == std::trunc(Zahl) && Stellen >= 5) return std::to_string(static_cast<int>(Zahl));
     const Dezimaltext d = zerlege(Zahl, Stellen);
     const int Anzahl = static_cast<int>(d.Ziffern.size());
     const int Exponent = d.Zehnerpotenz - 1;

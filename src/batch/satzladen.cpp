@@ -1,6 +1,6 @@
 #include "batch/satzladen.h"
 
-#include <algorithm>
+#include <array>
 
 #include "base/laufzeitfehler.h"
 #include "batch/dateipfad.h"
@@ -16,14 +16,13 @@ constexpr std::array Lesefolge = {Wirkstoff, Szenario, Applikation};
 
 // A selector finds a record only letter for letter, even where the file system would be content with less.
 void fordere_Satz(const Auftrag& a, const std::string& Simulationsname, const Simulationssatz& Satz, Satzart Art) {
-    const auto& Namen = a.Satznamen[Art];
     const std::string& Name = Satz.Dateinamen[Art];
-    if (std::binary_search(Namen.begin(), Namen.end(), Name)) return;
+    if (a.Ordner.enthaelt(Name, Endungen[Art])) return;
     // Line 1 of the summary file is the description, so the kinds of record stand on lines 2 to 4.
     std::string Text =
         Dateistelle(Simulationsname + Endungen[Simulation], Art + 1) + ": there is no " + Satzwoerter[Art] + " \"" + Name + "\"";
     const auto aehnlich = a.Ordner.finde(Name, Endungen[Art]);
-    if (aehnlich && std::binary_search(Namen.begin(), Namen.end(), Satzname(*aehnlich))) {
+    if (aehnlich && a.Ordner.enthaelt(Satzname(*aehnlich), Endungen[Art])) {
         Text += "; there is \"" + Satzname(*aehnlich) + "\", which differs in upper and lower case";
     }
     throw Laufzeitfehler(Text);

@@ -111,13 +111,6 @@ void rechne(const Auftrag& a, const Arbeitsplatz& Platz, Simulationsergebnis& r,
 
 }  // namespace
 
-Auftrag::Auftrag(const Projektordner& o) : Ordner(o) {
-    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) {
-        Satznamen[Art] = Ordner.Namen(Endungen[Art]);
-        std::sort(Satznamen[Art].begin(), Satznamen[Art].end());
-    }
-}
-
 Simulationsausgang rechne_Simulation(const Auftrag& a, const std::string& Name, Arbeitsplatz& Platz) {
     Simulationsausgang Ausgang;
     Ausgang.Ergebnis.Name = Name;

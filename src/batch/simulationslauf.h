@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <memory>
 #include <optional>
 #include <string>
@@ -16,12 +15,10 @@ namespace varnok::batch {
 
 // What all simulations of a call have in common. Read by several threads at once.
 struct Auftrag {
-    // Looks through the project's records once, so that thousands of simulations need not.
-    explicit Auftrag(const Projektordner& o);
+    explicit Auftrag(const Projektordner& o) : Ordner(o) {}
 
     Projektordner Ordner;
-    std::array<std::vector<std::string>, 4> Satznamen;  // places 1 to 3: the records there are, sorted by bytes
-    std::optional<int> Studie;                          // counted from 1
+    std::optional<int> Studie;  // counted from 1
     std::optional<TWA_Listen> TWA;
     std::string Serienordner;    // empty: no series
     std::string Berichtsordner;  // empty: no reports

@@ -8,7 +8,12 @@
 #include <unordered_map>
 #include <utility>
 
+#ifndef _WIN32
+#include <dirent.h>
+#endif
+
 #include "base/laufzeitfehler.h"
+#include "base/text.h"
 
 namespace varnok {
 namespace {
@@ -16,11 +21,6 @@ namespace {
 namespace fs = std::filesystem;
 
 fs::path als_Pfad(const std::string& Utf8) { return {std::u8string(Utf8.begin(), Utf8.end())}; }
-
-std::string als_Text(const fs::path& Pfad) {
-    const std::u8string Text = Pfad.u8string();
-    return {Text.begin(), Text.end()};
-}
 
 bool ist_ASCII(std::string_view Text) {
     return std::all_of(Text.begin(), Text.end(), [](char z) { return static_cast<unsigned char>(z) < 0x80; });
@@ -57,20 +57,50 @@ struct Eintrag {
     enum { Datei, Ordner, anderes } Art;
 };
 
-// What lies in a folder, by name; names that are no text at all are left out.
-std::vector<Eintrag> lies_Eintraege(const std::string& Ordner) {
+using Eintragsart = decltype(Eintrag::Art);
+
+// Of a link it is that of its target.
+Eintragsart Art_von(const std::string& Pfad) {
+    return ist_Datei(als_Pfad(Pfad)) ? Eintrag::Datei : ist_Ordner(als_Pfad(Pfad)) ? Eintrag::Ordner : Eintrag::anderes;
+}
+
+#ifndef _WIN32
+// Names and kinds come together from the system, without a path for each.
+std::vector<Eintrag> lies_ungeordnet(const std::string& Ordner) {
+    const std::unique_ptr<DIR, int (*)(DIR*)> Offener(opendir(Ordner.c_str()), closedir);
+    std::vector<Eintrag> Eintraege;
+    while (const dirent* e = Offener ? readdir(Offener.get()) : nullptr) {
+        std::string Name = e->d_name;
+        if (Name == "." || Name == "..") continue;
+        const auto Art = e->d_type == DT_REG   ? Eintrag::Datei
+                         : e->d_type == DT_DIR ? Eintrag::Ordner
+                                               : Art_von(verbunden(Ordner, Name));
+        Eintraege.push_back({std::move(Name), Art});
+    }
+    return Eintraege;
+}
+#else
+std::string als_Text(const fs::path& Pfad) {
+    const std::u8string Text = Pfad.u8string();
+    return {Text.begin(), Text.end()};
+}
+
+std::vector<Eintrag> lies_ungeordnet(const std::string& Ordner) {
     std::vector<Eintrag> Eintraege;
     std::error_code Fehler;
     for (fs::directory_iterator i(als_Pfad(Ordner), Fehler), Ende; !Fehler && i != Ende; i.increment(Fehler)) {
         std::string Name = als_Text(i->path().filename());
-        if (!ist_gueltiger_Text(Name)) continue;
-        // The kind comes with the name nearly always; of a link it is that of its target.
-        std::error_code ohne_Ziel;
-        const auto Art = i->is_regular_file(ohne_Ziel) ? Eintrag::Datei
-                         : i->is_directory(ohne_Ziel)  ? Eintrag::Ordner
-                                                       : Eintrag::anderes;
+        const auto Art = Art_von(verbunden(Ordner, Name));
         Eintraege.push_back({std::move(Name), Art});
     }
+    return Eintraege;
+}
+#endif
+
+// What lies in a folder, by name; names that are no text at all are left out.
+std::vector<Eintrag> lies_Eintraege(const std::string& Ordner) {
+    std::vector<Eintrag> Eintraege = lies_ungeordnet(Ordner);
+    std::erase_if(Eintraege, [](const Eintrag& e) { return !ist_gueltiger_Text(e.Name); });
     std::sort(Eintraege.begin(), Eintraege.end(), [](const auto& a, const auto& b) { return a.Name < b.Name; });
     return Eintraege;
 }
@@ -110,19 +140,30 @@ public:
     }
 
     // Of the kind asked for the name that fits without regard to case: the exact one, else the first.
-    const Eintrag* passend(const std::string& Name, decltype(Eintrag::Art) Art) const {
+    const Eintrag* passend(const std::string& Name, Eintragsart Art) const {
         if (const Eintrag* e = genau(Name); e && e->Art == Art) return e;
+        return ersten_passenden(Name, [&](const Eintrag& e) { return e.Art == Art; });
+    }
+
+    // Whether there is a file of exactly that name, however its extension is written.
+    bool enthaelt(const std::string& Name, const std::string& Endung) const {
+        if (const Eintrag* e = genau(Name + Endung); e && e->Art == Eintrag::Datei) return true;
+        return ersten_passenden(Name + Endung,
+                                [&](const Eintrag& e) { return e.Art == Eintrag::Datei && e.Name.starts_with(Name); }) != nullptr;
+    }
+
+private:
+    template <class Bedingung>
+    const Eintrag* ersten_passenden(const std::string& Name, Bedingung b) const {
         std::call_once(gefaltet_, [this] {
             for (const Eintrag& e : Eintraege_) ohne_Gross_Klein_[gefaltet(e.Name)].push_back(&e);
         });
         const auto Gruppe = ohne_Gross_Klein_.find(gefaltet(Name));
         if (Gruppe == ohne_Gross_Klein_.end()) return nullptr;
-        const auto Treffer =
-            std::find_if(Gruppe->second.begin(), Gruppe->second.end(), [&](const Eintrag* e) { return e->Art == Art; });
+        const auto Treffer = std::find_if(Gruppe->second.begin(), Gruppe->second.end(), [&](const Eintrag* e) { return b(*e); });
         return Treffer == Gruppe->second.end() ? nullptr : *Treffer;
     }
 
-private:
     std::string Ordner_;
     std::vector<Eintrag> Eintraege_;
     mutable std::once_flag gefaltet_;  // most folders are written with one case throughout
@@ -165,6 +206,10 @@ std::optional<std::string> Projektordner::finde(const std::string& Name, const s
     return verbunden(Inhalt->Ordner(), Treffer->Name);
 }
 
+bool Projektordner::enthaelt(const std::string& Name, const std::string& Endung) const {
+    return Einwand_gegen_Zeichen(Name).empty() && Eingabeverzeichnis()->enthaelt(Name, Endung);
+}
+
 std::string Projektordner::Zielpfad(const std::string& Name, const std::string& Endung) const {
     const std::string Einwand = Einwand_gegen_Namen(Name);
     if (!Einwand.empty()) throw Laufzeitfehler("\"" + Name + "\" cannot be the name of a file: " + Einwand);
@@ -173,13 +218,13 @@ std::string Projektordner::Zielpfad(const std::string& Name, const std::string& 
 
 std::vector<std::string> Projektordner::Namen(const std::string& Endung) const {
     const auto Inhalt = Eingabeverzeichnis();
-    const std::u16string gesucht = gefaltet(Endung);
     std::vector<std::pair<std::u16string, std::string>> Gefunden;
     for (const Eintrag& e : Inhalt->Eintraege()) {
         if (e.Art != Eintrag::Datei || e.Name.size() <= Endung.size()) continue;
-        std::string Name = e.Name.substr(0, e.Name.size() - Endung.size());
-        if (gefaltet(std::string_view(e.Name).substr(Name.size())) != gesucht || !Einwand_gegen_Zeichen(Name).empty()) continue;
-        Gefunden.emplace_back(gefaltet(Name), std::move(Name));
+        const std::size_t Laenge = e.Name.size() - Endung.size();
+        if (!gleich_ohne_Gross_Klein(std::string_view(e.Name).substr(Laenge), Endung)) continue;
+        std::string Name = e.Name.substr(0, Laenge);
+        if (Einwand_gegen_Zeichen(Name).empty()) Gefunden.emplace_back(gefaltet(Name), std::move(Name));
     }
     std::sort(Gefunden.begin(), Gefunden.end());
     // Extensions that differ in case alone make one name of two files; the exact extension is opened.

@@ -52,6 +52,9 @@ public:
     // case-insensitive sort: what a selector shows.
     std::vector<std::string> Namen(const std::string& Endung) const;
 
+    // Whether `Namen(Endung)` holds that name, letter for letter.
+    bool enthaelt(const std::string& Name, const std::string& Endung) const;
+
 private:
     class Verzeichnis;
 
