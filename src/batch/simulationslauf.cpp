@@ -6,7 +6,6 @@
 #include <numeric>
 
 #include "base/laufzeitfehler.h"
-#include "batch/berichte.h"
 #include "batch/fundstelle.h"
 #include "batch/satzladen.h"
 #include "batch/serien.h"
@@ -87,13 +86,13 @@ void schreibe_Berichte(const Auftrag& a, const std::string& Simulation, const Ge
     for (const int st : Gewaehlte) {
         Ansicht Sicht = g.Sicht;
         Sicht.Studie_Index = st;
-        schreibe_Berichtsdatei({a.Berichtsordner, Berichtsart::Standard, Applikationssatz, a.Zeit,
-                                Zusatz + Studienzusatz(*g.Vorgabe, st, Gewaehlte.size())},
-                               {Studien, Sicht, *g.Vorgabe}, Schreibfehler);
+        a.schreibe_Bericht(
+            {a.Berichtsordner, false, Applikationssatz, a.Zeit, Zusatz + Studienzusatz(*g.Vorgabe, st, Gewaehlte.size())},
+            {Studien, Sicht, *g.Vorgabe}, Schreibfehler);
     }
     if (!a.erweitert) return;
-    schreibe_Berichtsdatei({a.Berichtsordner, Berichtsart::erweitert, Applikationssatz, a.Zeit, Zusatz + " - extended"},
-                           {Studien, g.Sicht, *g.Vorgabe}, Schreibfehler);
+    a.schreibe_Bericht({a.Berichtsordner, true, Applikationssatz, a.Zeit, Zusatz + " - extended"}, {Studien, g.Sicht, *g.Vorgabe},
+                       Schreibfehler);
 }
 
 void rechne(const Auftrag& a, const Arbeitsplatz& Platz, Simulationsergebnis& r, std::vector<std::string>& Schreibfehler) {

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "base/schnittstellen.h"
+#include "batch/berichtsauftrag.h"
 #include "batch/simulationsergebnis.h"
 #include "records/klimadatei.h"
 #include "records/projektordner.h"
@@ -22,8 +23,9 @@ struct Auftrag {
     std::optional<TWA_Listen> TWA;
     std::string Serienordner;    // empty: no series
     std::string Berichtsordner;  // empty: no reports
-    bool erweitert = false;      // the report of all studies, too
-    const Uhr* Zeit = nullptr;   // of reports
+    Berichtsschreiber schreibe_Bericht;
+    bool erweitert = false;     // the report of all studies, too
+    const Uhr* Zeit = nullptr;  // of reports
     // Descriptions that several of the chosen simulations share: their reports carry the simulation's name as well.
     std::vector<std::string> mehrfache_Beschreibungen;
 };

@@ -26,7 +26,6 @@
 #include "base/laufzeitfehler.h"
 #include "batch/aufruf.h"
 #include "batch/ausgaben.h"
-#include "batch/berichte.h"
 #include "batch/fortschrittsbalken.h"
 #include "batch/schreiber.h"
 #include "batch/simulationslauf.h"
@@ -134,7 +133,7 @@ int fuehre_aus(const Aufruf& a, std::ostream& aus, std::ostream& fehler, const U
     Auftrag Arbeit = erstelle_Auftrag(a, Ordner, Namen);
     Arbeit.Zeit = Umwelt.Zeit;
     bereite_Ausgaben_vor(a, Ordner);
-    if (!a.Berichtsordner.empty()) bereite_Berichte_vor();
+    if (!a.Berichtsordner.empty()) Arbeit.schreibe_Bericht = Umwelt.Berichte();
 
     std::optional<Fortschrittsbalken> Balken;
     if (!a.leise && Umwelt.Fehlerausgabe_ist_Terminal()) Balken.emplace(fehler, Namen.size(), Umwelt.Wartezeit_bis_Balken);

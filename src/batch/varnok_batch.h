@@ -5,6 +5,7 @@
 #include <iosfwd>
 
 #include "base/schnittstellen.h"
+#include "batch/berichtsauftrag.h"
 
 namespace varnok::batch {
 
@@ -19,6 +20,8 @@ struct Umgebung {
     std::function<bool()> Fehlerausgabe_ist_Terminal;
     std::chrono::milliseconds Wartezeit_bis_Balken{1000};
     const Uhr* Zeit = nullptr;  // of reports; the machine's without one
+    std::function<Berichtsschreiber()> Berichte =
+        {};  // what writes reports; asked once, before any work, for a call that wants some
 };
 
 // Whether standard error of the process is a terminal.

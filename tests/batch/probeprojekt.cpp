@@ -6,6 +6,7 @@
 #include <sstream>
 #include <stdexcept>
 
+#include "batch/berichte/berichte.h"
 #include "records/satz.h"
 #include "records/simulation.h"
 
@@ -91,7 +92,9 @@ Antwort rufe(const std::vector<std::string>& Argumente, const batch::Umgebung& U
     for (const std::string& a : Argumente) argv.push_back(a.c_str());
     std::ostringstream aus, fehler;
     Antwort r;
-    r.Status = batch::varnok_batch(static_cast<int>(argv.size()), argv.data(), aus, fehler, Umwelt);
+    batch::Umgebung mit_Berichten = Umwelt;
+    mit_Berichten.Berichte = batch::bereite_Berichte_vor;
+    r.Status = batch::varnok_batch(static_cast<int>(argv.size()), argv.data(), aus, fehler, mit_Berichten);
     r.aus = aus.str();
     r.fehler = fehler.str();
     return r;

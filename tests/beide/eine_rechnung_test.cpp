@@ -10,7 +10,7 @@
 #include <nlohmann/json.hpp>
 #include <sstream>
 
-#include "batch/berichte.h"
+#include "batch/berichte/berichte.h"
 #include "batch/schreiber.h"
 #include "batch/serien.h"
 #include "batch/varnok_batch.h"
@@ -92,6 +92,7 @@ protected:
         batch::Umgebung Umwelt;
         Umwelt.Fehlerausgabe_ist_Terminal = [] { return false; };
         Umwelt.Zeit = &Uhr_;
+        Umwelt.Berichte = batch::bereite_Berichte_vor;
         return batch::varnok_batch(static_cast<int>(Argumente.size()), Argumente.data(), aus, fehler, Umwelt) ==
                batch::alles_berechnet;
     }

@@ -1,5 +1,31 @@
+#include <unistd.h>
+#include <cerrno>
+#include <filesystem>
 #include <iostream>
+#include <system_error>
 
+#include "batch/aufruf.h"
 #include "batch/varnok_batch.h"
 
-int main(int argc, char** argv) { return varnok::batch::varnok_batch(argc, argv, std::cout, std::cerr); }
+namespace {
+
+using namespace varnok::batch;
+
+// Reports need fonts and pictures. The libraries for them take longer to load than a simulation to calculate, so a program of
+// its own has them: it lies beside this one and takes over the whole call.
+Berichtsschreiber uebergib_Aufruf(char** argv) {
+    std::error_code Fehler;
+    std::filesystem::path Programm = std::filesystem::read_symlink("/proc/self/exe", Fehler);
+    const std::filesystem::path Nachbar =
+        (Fehler ? std::filesystem::path(argv[0]) : Programm).replace_filename("varnok-batch-reports");
+    execv(Nachbar.c_str(), argv);
+    throw Aufruffehler("--report: cannot start " + Nachbar.string() + ": " + std::generic_category().message(errno));
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    Umgebung Umwelt = Umgebung_des_Prozesses();
+    Umwelt.Berichte = [argv] { return uebergib_Aufruf(argv); };
+    return varnok_batch(argc, argv, std::cout, std::cerr, Umwelt);
+}

@@ -1,15 +1,15 @@
-#include "batch/berichte.h"
+#include "batch/berichte/berichte.h"
 
 #include <QGuiApplication>
 
 #include "base/laufzeitfehler.h"
 #include "base/programm.h"
-#include "base/schnittstellen.h"
 #include "reports/bericht.h"
 
 namespace varnok::batch {
+namespace {
 
-void bereite_Berichte_vor() {
+void starte_Anwendung() {
     if (QCoreApplication::instance() != nullptr) return;
     qputenv("QT_QPA_PLATFORM", "offscreen");
     // A server without a desktop session lacks folders that the toolkit would only remark on.
@@ -23,11 +23,12 @@ void bereite_Berichte_vor() {
 }
 
 void schreibe_Berichtsdatei(const Berichtsdatei& b, const Darstellung& d, std::vector<std::string>& Schreibfehler) {
+    const Berichtsart Art = b.erweitert ? Berichtsart::erweitert : Berichtsart::Standard;
     const Systemuhr Maschine;
     const Uhr& Zeit = b.Zeit ? *b.Zeit : Maschine;
     try {
-        Bericht Fertiger = schreibe_Bericht({d, b.Art, b.Applikationssatz, Programmversion, Berichtszeit_nach(Zeit),
-                                             erstelle_Berichtsdiagramm(d, b.Art), std::nullopt});
+        Bericht Fertiger = schreibe_Bericht({d, Art, b.Applikationssatz, Programmversion, Berichtszeit_nach(Zeit),
+                                             erstelle_Berichtsdiagramm(d, Art), std::nullopt});
         Fertiger.Name += b.Namenszusatz;
         pruefe_Ausgabename(Fertiger.Name);
         speichere_Bericht(Fertiger, b.Ordner);
@@ -36,10 +37,11 @@ void schreibe_Berichtsdatei(const Berichtsdatei& b, const Darstellung& d, std::v
     }
 }
 
-std::string Studienzusatz(const Eingabe& e, int i_studie, std::size_t Studien) {
-    constexpr std::size_t Teil_Studie = 1;
-    if (Studien < 2 || e.Parameter.Ausgabename_Teile[Teil_Studie] == 1) return {};
-    return " - study " + std::to_string(i_studie + 1);
+}  // namespace
+
+Berichtsschreiber bereite_Berichte_vor() {
+    starte_Anwendung();
+    return schreibe_Berichtsdatei;
 }
 
 }  // namespace varnok::batch
