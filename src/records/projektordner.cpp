@@ -176,7 +176,7 @@ Projektordner::Projektordner(const std::string& Pfad) : Pfad_(Pfad) {
 
 Projektordner Projektordner::mit_Verzeichnis() const {
     Projektordner gelesener = *this;
-    gelesener.gelesenes_ = std::make_shared<const Verzeichnis>(Eingabeordner());
+    gelesener.gelesenes_ = std::make_shared<const Verzeichnis>(Unterordner("input"));
     return gelesener;
 }
 

@@ -128,6 +128,33 @@ TEST_F(Viele, workplace_may_be_the_same_for_all_or_a_new_one_for_each) {
     }
 }
 
+// More simulations than are under way at a time, the first the longest of all.
+TEST_F(Viele, outputs_and_messages_come_in_the_order_of_the_call) {
+    Probe Lange;
+    for (int i = 0; i < 5; ++i) fuege_Studie_an(Lange, "Further");
+    Projekt.schreibe("a first", Lange);
+    std::string erwartete_Meldungen, erwartete_Namen;
+    for (int i = 100; i < 200; ++i) {
+        const std::string Nummer = std::to_string(i);
+        Projekt.verweise("t" + Nummer, i % 2 == 0 ? "s0" : "none", "s0", "s0");
+        if (i % 2 == 0) erwartete_Namen += "t" + Nummer + "\n";
+        if (i % 2 != 0)
+            erwartete_Meldungen +=
+                "varnok-batch: t" + Nummer + ": file t" + Nummer + ".vnk, line 2: there is no compound record \"none\"\n";
+    }
+    const auto r = rufe({"--all", "--jobs", "4", "--csv", "-", Projekt.Pfad()});
+    EXPECT_EQ(r.Status, 1);
+    EXPECT_EQ(r.fehler.substr(r.fehler.find("varnok-batch: t")), erwartete_Meldungen);
+    std::string Namen, vorige;
+    for (const std::string& z : probe::Zeilen(r.aus, "\r\n")) {
+        const std::string Name = z.substr(0, z.find(','));
+        if (Name.starts_with('t') && Name != vorige) Namen += Name + "\n";
+        vorige = Name;
+    }
+    EXPECT_EQ(Namen, erwartete_Namen);
+    EXPECT_TRUE(probe::Zeilen(r.aus, "\r\n").at(1).starts_with("a first,"));
+}
+
 Umgebung Terminal(bool ist_eines) {
     return {[ist_eines] { return ist_eines; }, std::chrono::milliseconds(0)};
 }
@@ -138,6 +165,19 @@ TEST_F(Viele, progress_bar_shows_on_a_terminal_and_is_wiped) {
     EXPECT_THAT(r.fehler, HasSubstr(" of 1 simulation"));
     EXPECT_THAT(r.fehler, testing::EndsWith(" \r"));
     EXPECT_EQ(r.JSON()["simulations"].size(), 1U);
+}
+
+TEST_F(Viele, progress_bar_makes_room_for_messages_and_results) {
+    std::ostringstream Terminalausgabe;  // one place for both, as on a terminal
+    const std::string Pfad = Projekt.Pfad();
+    const char* argv[] = {"varnok-batch", "--all", "--jobs", "2", "--csv", "-", Pfad.c_str()};
+    EXPECT_EQ(varnok_batch(7, argv, Terminalausgabe, Terminalausgabe, Terminal(true)), 1);
+    const std::string Text = Terminalausgabe.str();
+    for (const char* Anfang : {"varnok-batch: bad", "simulation,study"}) {
+        const auto Stelle = Text.find(Anfang);
+        ASSERT_NE(Stelle, std::string::npos);
+        EXPECT_TRUE(Stelle == 0 || Text[Stelle - 1] == '\r' || Text[Stelle - 1] == '\n') << Anfang;
+    }
 }
 
 TEST_F(Viele, progress_bar_does_not_show_without_a_terminal_or_with_quiet) {

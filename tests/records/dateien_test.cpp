@@ -173,5 +173,45 @@ TEST(DateienDeathTest, file_without_access_rights_is_neither_read_nor_replaced) 
     EXPECT_EQ(lies_Datei(o.Pfad("x.che")), "old");
 }
 
+TEST(Dateischreiber, pieces_make_one_file_that_is_there_at_the_end) {
+    const Zeitordner o;
+    schreibe(o.Pfad("x"), "old");
+    Dateischreiber Datei(o.Pfad("x"));
+    Datei.schreibe("one, ");
+    Datei.schreibe("");
+    Datei.schreibe("two");
+    EXPECT_EQ(Inhalt(o.Pfad("x")), "old");
+    Datei.beende();
+    EXPECT_EQ(Inhalt(o.Pfad("x")), "one, two");
+    EXPECT_EQ(Eintraege(o.Pfad()), 1U);
+}
+
+TEST(Dateischreiber, what_is_not_ended_leaves_the_old_file) {
+    const Zeitordner o;
+    schreibe(o.Pfad("x"), "old");
+    { Dateischreiber(o.Pfad("x")).schreibe("new"); }
+    { Dateischreiber(o.Pfad("y")).schreibe("new"); }
+    EXPECT_EQ(Inhalt(o.Pfad("x")), "old");
+    EXPECT_EQ(Eintraege(o.Pfad()), 1U);
+}
+
+TEST(DateischreiberDeathTest, program_that_is_interrupted_leaves_the_old_file) {
+    const Zeitordner o;
+    schreibe(o.Pfad("x"), "old");
+    const auto Abbruch = [&] {
+        Dateischreiber Datei(o.Pfad("x"));
+        Datei.schreibe("new");
+        std::raise(SIGINT);
+    };
+    EXPECT_EXIT(Abbruch(), testing::KilledBySignal(SIGINT), "");
+    EXPECT_EQ(Inhalt(o.Pfad("x")), "old");
+}
+
+TEST(Dateischreiber, folder_in_the_place_of_the_file_is_told_before_anything_is_written) {
+    const Zeitordner o;
+    const std::string Text = Meldung_von([&] { Dateischreiber(o.Pfad("")); });
+    EXPECT_THAT(Text, AllOf(HasSubstr("Cannot write"), HasSubstr("it is a folder")));
+}
+
 }  // namespace
 }  // namespace varnok

@@ -184,5 +184,29 @@ TEST(Projektklima, file_that_cannot_be_used_is_told) {
     EXPECT_THROW(Projektklima(p).lade("huge"), Laufzeitfehler);
 }
 
+TEST(Klimagedaechtnis, climate_asked_for_last_is_kept) {
+    const Probeordner o;
+    o.lege_an("a.cli", Jahr(1));
+    o.lege_an("b.cli", Jahr(2));
+    const Projektordner Ordner = o.Ordner();
+    const Klimagedaechtnis Klima(Ordner);
+    EXPECT_EQ(Klima.lade("a")->size(), 1U);
+    o.lege_an("a.cli", Jahr(3));
+    EXPECT_EQ(Klima.lade("a")->size(), 1U);
+    EXPECT_EQ(Klima.lade("b")->size(), 2U);
+    EXPECT_EQ(Klima.lade("a")->size(), 3U);
+    EXPECT_FALSE(Klima.lade("none"));
+}
+
+TEST(Klimagedaechtnis, fault_of_a_file_is_told_each_time) {
+    const Probeordner o;
+    o.lege_an("a.cli", Jahr(1));
+    o.lege_an("empty.cli");
+    const Projektordner Ordner = o.Ordner();
+    const Klimagedaechtnis Klima(Ordner);
+    for (int Mal = 0; Mal < 2; ++Mal) EXPECT_THROW(Klima.lade("empty"), Laufzeitfehler);
+    EXPECT_EQ(Klima.lade("a")->size(), 1U);
+}
+
 }  // namespace
 }  // namespace varnok

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include <algorithm>
 #include <filesystem>
 
 #include "base/laufzeitfehler.h"
@@ -137,6 +138,48 @@ TEST(Projektordner, objections_to_a_name) {
     for (const std::string Name : {"a", "Größe µ", "new compound1", "...", ".hidden", "a.che", "100% \"x\" 'y'", " "}) {
         EXPECT_EQ(Einwand_gegen_Namen(Name), "") << Name;
     }
+}
+
+TEST(Projektordner, folder_read_once_answers_as_one_that_is_read_each_time) {
+    const Probeordner o("INput");
+    for (const char* Datei : {"loam.sce", "Loam.SCE", "LOAM.sce", "Größe ÄÖ.CHE", "x.che", "x.CHE", "a\tb.che", "good.che"})
+        o.lege_an(Datei);
+    fs::create_directory(o.Eingabedatei("folder.che"));
+    fs::create_directory(o.Eingabedatei("Good.sce"));
+    fs::create_symlink(o.Eingabedatei("x.che"), o.Eingabedatei("link.che"));
+    fs::create_symlink(o.Eingabedatei("none"), o.Eingabedatei("dead.che"));
+    ASSERT_EQ(mkfifo(o.Eingabedatei("pipe.che").c_str(), 0600), 0);
+    const Projektordner jedesmal = o.Ordner(), einmal = o.Ordner().mit_Verzeichnis();
+    EXPECT_EQ(einmal.Eingabeordner(), jedesmal.Eingabeordner());
+    for (const char* Endung : {".sce", ".che", ".app"}) {
+        EXPECT_EQ(einmal.Namen(Endung), jedesmal.Namen(Endung));
+        for (const char* Name :
+             {"loam", "Loam", "lOAM", "größe äö", "x", "X", "folder", "good", "GOOD", "link", "dead", "pipe", "", "../x"}) {
+            EXPECT_EQ(einmal.finde(Name, Endung), jedesmal.finde(Name, Endung)) << Name << Endung;
+            EXPECT_EQ(einmal.enthaelt(Name, Endung), jedesmal.enthaelt(Name, Endung)) << Name << Endung;
+        }
+    }
+}
+
+TEST(Projektordner, name_is_held_if_the_list_of_names_has_it) {
+    const Probeordner o;
+    for (const char* Datei : {"loam.sce", "Loam.SCE", "clay.SCE", "back\\slash.sce"}) o.lege_an(Datei);
+    fs::create_directory(o.Eingabedatei("folder.sce"));
+    const Namenliste Namen = o.Ordner().Namen(".sce");
+    EXPECT_EQ(Namen, (Namenliste{"clay", "Loam", "loam"}));
+    for (const std::string Name : {"loam", "Loam", "LOAM", "clay", "Clay", "folder", "back\\slash", ""}) {
+        EXPECT_EQ(o.Ordner().enthaelt(Name, ".sce"), std::count(Namen.begin(), Namen.end(), Name) > 0) << Name;
+    }
+}
+
+TEST(Projektordner, folder_read_once_keeps_what_it_held) {
+    const Probeordner o;
+    o.lege_an("a.che");
+    const Projektordner einmal = o.Ordner().mit_Verzeichnis();
+    o.lege_an("b.che");
+    EXPECT_EQ(einmal.Namen(".che"), Namenliste{"a"});
+    EXPECT_EQ(einmal.finde("b", ".che"), std::nullopt);
+    EXPECT_EQ(einmal.mit_Verzeichnis().Namen(".che"), (Namenliste{"a", "b"}));
 }
 
 }  // namespace
