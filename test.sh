@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Builds everything and runs all tests; arguments are passed on to ctest, e.g. ./test.sh -R zahlen
 #
-#     ./test.sh --deep     also: every header alone, clang-tidy, and the tests under the sanitizers and without Qt.
-#                          Takes an hour or two.
+#     ./test.sh --deep     also: every header alone, clang-tidy, the tests under the sanitizers and without Qt, and a long
+#                          random walk over the session. Takes an hour or two.
 set -euo pipefail
 source "$(dirname "${BASH_SOURCE[0]}")/tools/umgebung.sh"
 
@@ -37,5 +37,6 @@ if $gruendlich; then
     baue all_verify_interface_header_sets
     "$Wurzel/tools/pruefe_stil.sh" "$Bauordner"
     for Preset in engine sanitize thread; do pruefe_Preset "$Preset"; done
+    "$Wurzel/tools/sitzungsgang.sh" 100000 13 "$Bauordner"
 fi
 pruefe "$Bauordner" "$@"

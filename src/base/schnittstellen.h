@@ -9,13 +9,16 @@
 namespace varnok {
 
 enum class Symbol { keines, Ausrufezeichen, Frage, Hinweis };
-enum class Knopf { OK, Abbrechen, Ja, Nein };
+// `nicht_jetzt` stands on no button: Esc and the close box of a question with Yes and No.
+enum class Knopf { OK, Abbrechen, Ja, Nein, nicht_jetzt };
 
 struct Frage {
     std::string Titel;
     std::string Text;
     Symbol Zeichen = Symbol::Ausrufezeichen;
     std::vector<Knopf> Knoepfe = {Knopf::OK};
+    // No button answers Enter before the user has chosen one by Tab or the mouse.
+    bool ohne_Vorgabe = false;
 };
 
 class Rueckfrage {

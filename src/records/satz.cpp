@@ -18,6 +18,12 @@ namespace {
 
 constexpr int Zeile_der_Flaggen = 3;
 
+// Places of an application pattern and of a scenario that a reading may stop behind.
+constexpr int Zeile_der_Interzeption = 6;
+constexpr int Zeile_der_Anzahl = 8;
+constexpr int Zeile_des_Welkepunkts = 8;
+constexpr int Zeile_der_Temperatur = 11;
+
 // The kind of record that a template has the layout of.
 Satzart Grundart(Satzart Art) { return Art > Szenario ? static_cast<Satzart>(Art - Szenario) : Art; }
 
@@ -97,17 +103,59 @@ Lesebefund lies_Wirkstoff(Lesung& l) {
     return {};
 }
 
-Lesebefund lies_ohne_Reparatur(Lesung& l, Satzart Art) {
+// The last line that a run of the pattern reads; none where it is the table's last.
+std::optional<int> letzte_noetige_Zeile(Applikationsart Muster) {
+    if (Muster == unregelmaessig) return std::nullopt;
+    return Muster == einzeln ? Zeile_der_Interzeption : Zeile_der_Anzahl;
+}
+
+// Rows and lists that the record does not give are those of a program that has read none, never those of the record before.
+void setze_Startwerte_der_Applikation(Eingabe& e) {
+    const Eingabe Start;
+    e.Intervall_Index = Start.Intervall_Index;
+    e.Anzahl_Index = Start.Anzahl_Index;
+    e.Applikationsschema = Start.Applikationsschema;
+}
+
+Lesebefund lies_Applikation(Lesung& l) {
+    setze_Startwerte_der_Applikation(l.Felder);
     try {
-        if (Art == Applikation) {
-            gehe_durch_Applikation(l.Leser, l.Felder, l.Sicht);
-        } else {
-            gehe_durch_Szenario(l.Leser, l.Felder);
-        }
+        gehe_durch_Applikation(l.Leser, l.Felder, l.Sicht);
         return {};
     } catch (const Lesefehler& f) {
-        return abgebrochen(f);
+        const auto noetig = letzte_noetige_Zeile(l.Felder.Applikationsmuster);
+        if (!noetig || f.Zeile() <= *noetig) return abgebrochen(f);
+        waehle_Anzahl(l.Felder, l.Felder.Anzahl());
+        l.Leser.bemerke(f.Zeile(), std::string(f.what()) + "; reading stopped there, and the rest is not needed");
+        return {};
     }
+}
+
+// A record that ends before it tells of the climate comes from a time of constant 20 degrees; the climate file makes the
+// temperature needless.
+Lesebefund lies_Szenario(Lesung& l) {
+    try {
+        gehe_durch_Szenario(l.Leser, l.Felder);
+        return {};
+    } catch (const Lesefehler& f) {
+        Laufparameter& p = l.Felder.Parameter;
+        const bool vor_dem_Klima = f.am_Aufbau() && f.Zeile() > Zeile_des_Welkepunkts && f.Zeile() < Zeile_der_Temperatur;
+        const bool nur_ohne_Temperatur = f.Zeile() == Zeile_der_Temperatur && p.Klimamodus == 1;
+        if (!vor_dem_Klima && !nur_ohne_Temperatur) return abgebrochen(f);
+        p.Szenariotemperatur = 20;
+        if (vor_dem_Klima) {
+            p.Klimamodus = 0;
+            l.Felder.Klimaszenario.clear();
+        }
+        const char* Folge = vor_dem_Klima ? "the climate is 20 °C constant" : "the temperature is not needed";
+        l.Leser.bemerke(f.Zeile(), std::string(f.what()) + "; reading stopped there, and " + Folge);
+        return {};
+    }
+}
+
+Lesebefund lies(Lesung& l, Satzart Art) {
+    if (Art == Wirkstoff) return lies_Wirkstoff(l);
+    return Art == Applikation ? lies_Applikation(l) : lies_Szenario(l);
 }
 
 }  // namespace
@@ -118,8 +166,9 @@ Lesebefund Satz_lesen_aus(const std::string& Bytes, const std::string& Datei, Sa
     if (Bytes.size() > Hoechstgroesse_Datei)
         throw Laufzeitfehler("File " + Datei + ", line 1: the file is too large for a record", {Datei, 1});
     Lesung l{Satzleser(Bytes, Dezimalzeichen), Datei, e, a};
-    Lesebefund Befund = Grundart(Art) == Wirkstoff ? lies_Wirkstoff(l) : lies_ohne_Reparatur(l, Grundart(Art));
+    Lesebefund Befund = lies(l, Grundart(Art));
     Befund.Bemerkungen = std::move(l.Leser.Bemerkungen());
+    if (Befund.Ausgang == Leseausgang::abgebrochen) return Befund;
     e = std::move(l.Felder);
     a = l.Sicht;
     return Befund;

@@ -19,15 +19,15 @@ struct Bemerkung {
 };
 
 enum class Leseausgang {
-    gelesen,
-    abgebrochen,  // reading ended before the record did; what was read so far is in force
+    gelesen,      // also where the file ends early, but behind all that a run needs; a remark says where
+    abgebrochen,  // reading ended before all that a run needs was read; nothing was changed
     fehlt,        // there is no such file; nothing was changed
 };
 
 struct Lesebefund {
     Leseausgang Ausgang = Leseausgang::gelesen;
-    int Zeile = 0;      // of the end of an early stop, counted from 1
-    std::string Grund;  // why reading stopped
+    int Zeile = 0;      // where reading was broken off, counted from 1
+    std::string Grund;  // why
     std::vector<Bemerkung> Bemerkungen;
 };
 

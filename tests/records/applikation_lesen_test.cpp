@@ -148,20 +148,15 @@ struct Abbruch {
 
 class Applikation_Abbruch : public ::testing::TestWithParam<Abbruch> {};
 
-TEST_P(Applikation_Abbruch, value_outside_its_list_ends_the_reading_there) {
+TEST_P(Applikation_Abbruch, value_outside_its_list_leaves_an_irregular_pattern_unread) {
     const auto& [Zeile, Text, Grund] = GetParam();
-    Satzprobe p;
+    Satzprobe p = volle_Probe(4);
+    const Satzprobe vorher = p;
     const Lesebefund b = lies(mit_Zeile(Satz, Zeile, Text), Applikation, p);
     EXPECT_EQ(b.Ausgang, Leseausgang::abgebrochen);
     EXPECT_EQ(b.Zeile, static_cast<int>(Zeile));
     EXPECT_THAT(b.Grund, HasSubstr(Grund));
-    // Above the fault the record is in force, below it nothing has changed.
-    const Eingabe alt;
-    EXPECT_EQ(p.Felder.Applikationsmuster, Zeile > 2 ? unregelmaessig : alt.Applikationsmuster);
-    EXPECT_EQ(p.Sicht.PEC_Typ, Zeile > 3 ? Hintergrund : jaehrlich);
-    EXPECT_EQ(p.Felder.Applikationsrate.Text(), Zeile > 5 ? "750.5" : alt.Applikationsrate.Text());
-    EXPECT_EQ(p.Felder.Interzeption.Text(), Zeile > 6 ? "25" : alt.Interzeption.Text());
-    EXPECT_EQ(p.Felder.Intervall_Index, Zeile > 7 ? 13 : alt.Intervall_Index);
+    EXPECT_EQ(p, vorher);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -184,59 +179,87 @@ INSTANTIATE_TEST_SUITE_P(
         Abbruch{8, "Number of applications per year:\t21", "(2 to 20)"},
         Abbruch{8, "Number of applications per year:\t1E9", "(2 to 20)"}));
 
-TEST(Applikation_lesen, one_application_leaves_the_list_without_a_selection) {
+// The record "Satz" with another pattern: 0 single, 1 regular, 2 irregular.
+std::string mit_Muster(int Muster) { return mit_Zeile(Satz, 2, "Application type:\t" + std::to_string(Muster)); }
+
+TEST(Applikation_lesen, one_application_of_a_single_pattern_leaves_the_list_without_a_selection) {
     Satzprobe p;
-    lies(mit_Zeile(Satz, 8, "Number of applications per year:\t1"), Applikation, p);
+    const Lesebefund b = lies(mit_Zeile(mit_Muster(einzeln), 8, "Number of applications per year:\t1"), Applikation, p);
+    EXPECT_EQ(b.Ausgang, Leseausgang::gelesen);
     EXPECT_EQ(p.Felder.Anzahl_Index, -1);
-    EXPECT_EQ(p.Felder.Applikationsschema, Eingabe{}.Applikationsschema);
+    EXPECT_EQ(p.Felder.Applikationsschema, std::vector<Applikationszeile>(1));
 }
 
-TEST(Applikation_lesen, no_other_number_outside_the_list_changes_the_selection) {
-    for (const char* Text : {"Number of applications per year:\t0", "Number of applications per year:\t21"}) {
-        Satzprobe p;
-        p.Felder.Anzahl_Index = 4;
-        lies(mit_Zeile(Satz, 8, Text), Applikation, p);
-        EXPECT_EQ(p.Felder.Anzahl_Index, 4);
+TEST(Applikation_lesen, no_number_outside_the_list_enters_where_a_run_needs_it) {
+    for (const int Muster : {regelmaessig, unregelmaessig}) {
+        for (const char* Text : {"0", "1", "21"}) {
+            Satzprobe p = volle_Probe(4);
+            const Satzprobe vorher = p;
+            const std::string Zeile = std::string("Number of applications per year:\t") + Text;
+            const Lesebefund b = lies(mit_Zeile(mit_Muster(Muster), 8, Zeile), Applikation, p);
+            EXPECT_EQ(b.Ausgang, Leseausgang::abgebrochen) << Text;
+            EXPECT_EQ(b.Zeile, 8);
+            EXPECT_EQ(p, vorher);
+        }
     }
 }
 
-TEST(Applikation_lesen, month_in_force_cuts_off_a_day_that_it_does_not_have) {
+TEST(Applikation_lesen, a_day_that_the_month_does_not_have_changes_nothing) {
     Satzprobe p;
     p.Felder.App_Monat = 0;
     p.Felder.App_Tag = 30;
-    lies(mit_Zeile(Satz, 4, "Regular application date:\t2\t30"), Applikation, p);
-    EXPECT_EQ(p.Felder.App_Monat, 1);
-    EXPECT_EQ(p.Felder.App_Tag, 27);
+    EXPECT_EQ(lies(mit_Zeile(Satz, 4, "Regular application date:\t2\t30"), Applikation, p).Ausgang, Leseausgang::abgebrochen);
+    EXPECT_EQ(p.Felder.App_Monat, 0);
+    EXPECT_EQ(p.Felder.App_Tag, 30);
 }
 
-TEST(Applikation_lesen, missing_row_ends_the_reading_and_keeps_the_rows_above) {
-    Satzprobe p;
-    p.Felder.Anzahl_Index = 1;
-    p.Felder.Applikationsschema.assign(3, {"09", "09", "9", "9"});
+TEST(Applikation_lesen, missing_row_of_an_irregular_pattern_changes_nothing) {
+    Satzprobe p = volle_Probe(4);
+    const Satzprobe vorher = p;
     const Lesebefund b = lies(vor_Zeile(Satz, 12) + Trennlinie + "\r\n", Applikation, p);
     EXPECT_EQ(b.Ausgang, Leseausgang::abgebrochen);
     EXPECT_EQ(b.Zeile, 12);
     EXPECT_EQ(b.Grund, "row 3 of the application table has too few values (no tab behind value 1)");
-    EXPECT_EQ(p.Felder.Applikationsschema[1][0].Text(), "15");
-    EXPECT_EQ(p.Felder.Applikationsschema[2], (Applikationszeile{"09", "09", "9", "9"}));
+    EXPECT_EQ(p, vorher);
 }
 
-TEST(Applikation_lesen, row_without_a_tab_keeps_the_cells_before_it) {
-    Satzprobe p;
-    const Lesebefund b = lies(mit_Zeile(Satz, 11, "20\t05"), Applikation, p);
-    EXPECT_EQ(b.Zeile, 11);
-    EXPECT_EQ(p.Felder.Applikationsschema[1], (Applikationszeile{"20", "", "", ""}));
+TEST(Applikation_lesen, row_without_a_tab_of_an_irregular_pattern_changes_nothing) {
+    Satzprobe p = volle_Probe(4);
+    const Satzprobe vorher = p;
+    EXPECT_EQ(lies(mit_Zeile(Satz, 11, "20\t05"), Applikation, p).Zeile, 11);
+    EXPECT_EQ(p, vorher);
 }
 
-TEST(Applikation_lesen, file_that_ends_early_leaves_the_rest_as_it_was) {
-    for (std::size_t Zeile = 1; Zeile <= 12; ++Zeile) {
-        Satzprobe p;
-        const Lesebefund b = lies(vor_Zeile(Satz, Zeile), Applikation, p);
-        EXPECT_EQ(b.Ausgang, Leseausgang::abgebrochen) << Zeile;
-        EXPECT_EQ(b.Zeile, static_cast<int>(Zeile));
-        EXPECT_EQ(p.Sicht.PEC_Typ, Zeile > 3 ? 1 : 0) << Zeile;
-        EXPECT_EQ(p.Felder.Anzahl(), Zeile > 8 ? 3 : 2) << Zeile;
-        EXPECT_EQ(p.Felder.Applikationsschema[0][0].Text(), Zeile > 10 ? "01" : "") << Zeile;
+TEST(Applikation_lesen, table_that_no_run_reads_may_be_short_and_never_holds_rows_of_the_record_before) {
+    for (const int Muster : {einzeln, regelmaessig}) {
+        for (std::size_t Zeile = 9; Zeile <= 12; ++Zeile) {
+            Satzprobe p;
+            p.Felder.Applikationsschema.assign(5, {"09", "09", "9", "9"});
+            p.Felder.Anzahl_Index = 3;
+            const Lesebefund b = lies(vor_Zeile(mit_Muster(Muster), Zeile), Applikation, p);
+            EXPECT_EQ(b.Ausgang, Leseausgang::gelesen) << Zeile;
+            ASSERT_EQ(b.Bemerkungen.size(), 1u);
+            EXPECT_EQ(b.Bemerkungen[0].Zeile, static_cast<int>(Zeile));
+            EXPECT_THAT(b.Bemerkungen[0].Text, HasSubstr("the file ends before"));
+            EXPECT_EQ(p.Felder.Applikationsmuster, Muster);
+            ASSERT_EQ(p.Felder.Applikationsschema.size(), 3u);
+            EXPECT_EQ(p.Felder.Applikationsschema[2], Applikationszeile{});
+            EXPECT_EQ(p.Felder.Applikationsschema[0][0].Text(), Zeile > 10 ? "01" : "") << Zeile;
+        }
+    }
+}
+
+TEST(Applikation_lesen, file_that_ends_before_what_the_run_of_its_pattern_reads_changes_nothing) {
+    for (const auto& [Muster, letzte] : {std::pair{einzeln, 6}, {regelmaessig, 8}, {unregelmaessig, 12}}) {
+        for (int Zeile = 1; Zeile <= 12; ++Zeile) {
+            Satzprobe p = volle_Probe(4);
+            const Satzprobe vorher = p;
+            const Lesebefund b = lies(vor_Zeile(mit_Muster(Muster), static_cast<std::size_t>(Zeile)), Applikation, p);
+            EXPECT_EQ(b.Ausgang == Leseausgang::abgebrochen, Zeile <= letzte) << Muster << ' ' << Zeile;
+            if (Zeile > letzte) continue;
+            EXPECT_EQ(b.Zeile, Zeile);
+            EXPECT_EQ(p, vorher) << Muster << ' ' << Zeile;
+        }
     }
     Satzprobe p;
     EXPECT_EQ(lies(vor_Zeile(Satz, 13), Applikation, p).Ausgang, Leseausgang::gelesen);

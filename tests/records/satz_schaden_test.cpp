@@ -29,6 +29,7 @@ protected:
             if (b.Ausgang == Leseausgang::abgebrochen) {
                 EXPECT_GT(b.Zeile, 0);
                 EXPECT_FALSE(b.Grund.empty());
+                EXPECT_EQ(p, vorher);
             } else {
                 EXPECT_EQ(b.Ausgang, Leseausgang::gelesen);
                 EXPECT_EQ(p.Felder.Applikationsschema.size(), static_cast<std::size_t>(p.Felder.Anzahl()));

@@ -79,7 +79,8 @@ TEST(Szenario_lesen, temperature_is_whole_with_halves_to_the_even_neighbour) {
     };
     for (const auto& [Text, Temperatur] : {Fall{"20.5", 20}, Fall{"21.5", 22}, Fall{"-0.5", 0}, Fall{"255.5", 256}}) {
         Satzprobe p;
-        const Lesebefund b = lies(mit_Zeile(Satz, 11, std::string("Scenario Temperature:\t") + Text), Szenario, p);
+        const std::string konstant = mit_Zeile(Satz, 10, "Climate mode:\t0");
+        const Lesebefund b = lies(mit_Zeile(konstant, 11, std::string("Scenario Temperature:\t") + Text), Szenario, p);
         if (Temperatur == 256) {
             EXPECT_EQ(b.Ausgang, Leseausgang::abgebrochen);
             continue;
@@ -98,46 +99,83 @@ TEST(Szenario_lesen, climate_lines_know_no_decimal_comma) {
     EXPECT_THAT(b.Bemerkungen[0].Text, HasSubstr("\"19,9\" was read as 19"));
 }
 
-TEST(Szenario_lesen, value_outside_its_place_ends_the_reading_there) {
+TEST(Szenario_lesen, value_outside_its_place_that_a_run_needs_changes_nothing) {
     struct Fall {
+        int Klimamodus;
         std::size_t Zeile;
         const char* Text;
         const char* Grund;
     };
-    for (const auto& [Zeile, Text, Grund] :
-         {Fall{10, "Climate mode:\t2", "\"2\" is not valid for \"Climate mode:\" (0 to 1)"},
-          Fall{11, "Scenario Temperature:\t300", "\"300\" is not valid for \"Scenario Temperature:\" (0 to 255)"},
-          Fall{11, "Scenario Temperature:\t-1", "\"-1\" is not valid for \"Scenario Temperature:\" (0 to 255)"},
-          Fall{4, "Soil depth (cm):\t1E400", "\"1E400\" is too large a number for \"Soil depth (cm):\""}}) {
-        Satzprobe p;
+    for (const auto& [Modus, Zeile, Text, Grund] :
+         {Fall{1, 10, "Climate mode:\t2", "\"2\" is not valid for \"Climate mode:\" (0 to 1)"},
+          Fall{0, 11, "Scenario Temperature:\t300", "\"300\" is not valid for \"Scenario Temperature:\" (0 to 255)"},
+          Fall{0, 11, "Scenario Temperature:\t-1", "\"-1\" is not valid for \"Scenario Temperature:\" (0 to 255)"},
+          Fall{1, 4, "Soil depth (cm):\t1E400", "\"1E400\" is too large a number for \"Soil depth (cm):\""}}) {
+        Satzprobe p = volle_Probe(4);
         p.Felder.Klimaszenario = "old";
-        const Lesebefund b = lies(mit_Zeile(Satz, Zeile, Text), Szenario, p);
+        const Satzprobe vorher = p;
+        const std::string mit_Modus = mit_Zeile(Satz, 10, "Climate mode:\t" + std::to_string(Modus));
+        const Lesebefund b = lies(mit_Zeile(mit_Modus, Zeile, Text), Szenario, p);
         EXPECT_EQ(b.Ausgang, Leseausgang::abgebrochen);
         EXPECT_EQ(b.Zeile, static_cast<int>(Zeile));
         EXPECT_EQ(b.Grund, Grund);
-        // What stands above is in force, what stands below is as before.
-        EXPECT_EQ(p.Felder.Parameter.Bodendichte, 1.5);
-        EXPECT_EQ(p.Felder.Klimaszenario, Zeile > 9 ? "Temperate site" : "old");
-        EXPECT_EQ(p.Felder.Parameter.Szenariotemperatur, 20);
+        EXPECT_EQ(p, vorher);
     }
 }
 
-TEST(Szenario_lesen, file_that_ends_early_leaves_the_rest_as_it_was) {
-    const Satzprobe neu = volle_Probe();
-    for (std::size_t Zeile = 1; Zeile <= 11; ++Zeile) {
-        Satzprobe p;
+TEST(Szenario_lesen, file_that_ends_before_its_soil_is_whole_changes_nothing) {
+    for (std::size_t Zeile = 1; Zeile <= 8; ++Zeile) {
+        Satzprobe p = volle_Probe(4);
+        p.Felder.Parameter.Bodendichte = 7;
+        const Satzprobe vorher = p;
         const Lesebefund b = lies(vor_Zeile(Satz, Zeile), Szenario, p);
         EXPECT_EQ(b.Ausgang, Leseausgang::abgebrochen) << Zeile;
         EXPECT_EQ(b.Zeile, static_cast<int>(Zeile));
         EXPECT_THAT(b.Grund, HasSubstr("the file ends before"));
-        EXPECT_EQ(p.Felder.Bodenszenario, Zeile > 2 ? neu.Felder.Bodenszenario : "") << Zeile;
-        EXPECT_EQ(p.Felder.Parameter.Bodendichte, Zeile > 3 ? 1.5 : 0) << Zeile;
-        EXPECT_EQ(p.Felder.Parameter.Welkepunkt, Zeile > 8 ? 10.1 : 0) << Zeile;
-        EXPECT_EQ(p.Felder.Parameter.Klimamodus, Zeile > 10 ? 1 : 0) << Zeile;
-        EXPECT_EQ(p.Felder.Parameter.Szenariotemperatur, 20) << Zeile;
+        EXPECT_EQ(p, vorher) << Zeile;
     }
     Satzprobe p;
     EXPECT_EQ(lies(vor_Zeile(Satz, 12), Szenario, p).Ausgang, Leseausgang::gelesen);
+}
+
+TEST(Szenario_lesen, file_that_ends_before_its_climate_lines_means_constant_20_degrees_whatever_line_9_says) {
+    const std::string zehn_Grad = mit_Zeile(Satz, 9,
+                                            "Climatic condition:\t10 \xB0"
+                                            "C constant");
+    for (const std::size_t Zeile : {9U, 10U}) {
+        for (const int Modus : {0, 1}) {
+            Satzprobe p = volle_Probe(4);
+            p.Felder.Parameter.Klimamodus = static_cast<std::uint8_t>(Modus);
+            p.Felder.Parameter.Szenariotemperatur = 5;
+            p.Felder.Klimaszenario = "old";
+            const Lesebefund b = lies(vor_Zeile(zehn_Grad, Zeile), Szenario, p);
+            EXPECT_EQ(b.Ausgang, Leseausgang::gelesen);
+            EXPECT_EQ(p.Felder.Parameter.Klimamodus, 0);
+            EXPECT_EQ(Klimatext(p.Felder), "20 °C constant");
+            ASSERT_EQ(b.Bemerkungen.size(), 1u);
+            EXPECT_EQ(b.Bemerkungen[0].Zeile, static_cast<int>(Zeile));
+            EXPECT_THAT(b.Bemerkungen[0].Text, HasSubstr("20 °C constant"));
+        }
+    }
+}
+
+TEST(Szenario_lesen, temperature_may_be_missing_only_where_a_climate_file_is_named) {
+    Satzprobe p = volle_Probe(4);
+    p.Felder.Parameter.Szenariotemperatur = 5;
+    const Satzprobe vorher = p;
+    const std::string konstant = mit_Zeile(Satz, 10, "Climate mode:\t0");
+    EXPECT_EQ(lies(vor_Zeile(konstant, 11), Szenario, p).Ausgang, Leseausgang::abgebrochen);
+    EXPECT_EQ(p, vorher);
+    for (const std::string& Bytes : {vor_Zeile(Satz, 11), mit_Zeile(Satz, 11, "Scenario Temperature:\t300")}) {
+        p = vorher;
+        const Lesebefund b = lies(Bytes, Szenario, p);
+        EXPECT_EQ(b.Ausgang, Leseausgang::gelesen);
+        EXPECT_EQ(p.Felder.Parameter.Klimamodus, 1);
+        EXPECT_EQ(p.Felder.Klimaszenario, "Temperate site");
+        EXPECT_EQ(p.Felder.Parameter.Szenariotemperatur, 20);  // not that of the record before
+        ASSERT_EQ(b.Bemerkungen.size(), 1u);
+        EXPECT_EQ(b.Bemerkungen[0].Zeile, 11);
+    }
 }
 
 TEST(Szenario_lesen, text_without_a_number_is_0_and_noted_with_its_line) {

@@ -12,9 +12,7 @@ void Applikationstabelle::setze(Zelle z, std::string Text) {
     Zahlwert& Ziel = Tabelle[static_cast<std::size_t>(z.Zeile)][static_cast<std::size_t>(z.Spalte)];
     if (Ziel.Text() == Text) return;
     Ziel = std::move(Text);
-    z_.Geaendert[2] = true;
-    Laeufe_.verwirf_alle();
-    Laeufe_.markiere_veraltet();
+    z_.Saetze[2].Geaendert = true;
 }
 
 const std::string& Applikationstabelle::Text(Zelle z) const {
@@ -45,8 +43,7 @@ void Applikationstabelle::fuege_ein(Zelle z, const std::string& Text) {
 
 void Applikationstabelle::bestaetige() {
     z_.Zusammenfassung_aktiv = false;
-    z_.Neu_berechnen = true;
-    Laeufe_.berechne(true);
+    Laeufe_.berechne_auf_Wunsch(true);
 }
 
 }  // namespace varnok

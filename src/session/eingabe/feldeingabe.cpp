@@ -52,9 +52,7 @@ void Feldeingabe::betrete(int Feld) {
     if (aktiv_ == Feld) return;  // focus given back after a message: nothing is new
     aktiv_ = Feld;
     geaendert_ = false;
-    Alter_Wert_ = Feldwert(Feld);
-    z_.Neu_berechnen = false;
-    if (Beschreibung(Feld).Gruppe == Feldgruppe::Studie) z_.Hinweis = false;
+    Alter_Wert_ = Eintrittswert_ = Feldwert(Feld);
 }
 
 // The value goes to its table at once, as a record would give it back; a text that fails the test or is empty stands for 0 there.
@@ -75,35 +73,32 @@ void Feldeingabe::aendere(int Feld, const std::string& Text) {
     const Feldbeschreibung& f = Beschreibung(Feld);
     geaendert_ = true;
     setze(Feld, Text);
-    z_.Geaendert[Satz_von(f)] = true;
-    Laeufe_.markiere_veraltet();
-    if (gehoert_zur_Studie(f)) Laeufe_.verwirf_Studie(z_.i_studie());
-    if (f.Gruppe == Feldgruppe::Stoff) Laeufe_.verwirf_alle();
+    if (Feldwert(Feld) == Alter_Wert_) z_.Feld_abgelehnt = false;
+    z_.Saetze[Satz_von(f)].Geaendert = true;
 }
 
 bool Feldeingabe::pruefe(int Feld, bool Enter) {
     const Feldbeschreibung& f = Beschreibung(Feld);
-    if (f.gilt(Feldwert(Feld).Zahl(), Enter)) return true;
-    decke_ab(z_, Texte::nicht_gueltig);
+    z_.Feld_abgelehnt = !f.gilt(Feldwert(Feld).Zahl(), Enter);
+    if (!z_.Feld_abgelehnt) return true;
     melde(z_, Texte::keine_gueltige_Eingabe, Enter && f.Meldung_Enter ? f.Meldung_Enter : f.Meldung);
     return false;
 }
 
 bool Feldeingabe::bestaetige(int Feld) {
-    if (!z_.Gestartet || !(z_.Hinweis || geaendert_)) return true;
+    if (!z_.Gestartet || !(z_.Hinweis() || geaendert_)) return true;
     if (!pruefe(Feld, true)) return false;
     nimm_an(Feld, true);
-    z_.Neu_berechnen = false;  // the field still has the focus
     return true;
 }
 
 bool Feldeingabe::verlasse(int Feld, bool mit_Lauf) {
-    if (!pruefe(Feld, false)) return false;
-    if (Beschreibung(Feld).Name == std::string("Interzeption") && Feldwert(Feld).Zahl() == 0) setze(Feld, "0");
+    // What stands as the record gave it may be left, valid or not.
+    if (!(Feldwert(Feld) == Eintrittswert_) && !pruefe(Feld, false)) return false;
+    if (geaendert_ && Beschreibung(Feld).Name == std::string("Interzeption") && Feldwert(Feld).Zahl() == 0) setze(Feld, "0");
     aktiv_ = -1;
-    z_.Neu_berechnen = true;
-    if (z_.veraltet) nimm_an(Feld, mit_Lauf);
-    z_.Hinweis = z_.veraltet;  // comes back where the focus took it away and no run followed
+    z_.Feld_abgelehnt = false;
+    if (geaendert_ || z_.Hinweis()) nimm_an(Feld, mit_Lauf);
     geaendert_ = false;
     return true;
 }
@@ -111,6 +106,7 @@ bool Feldeingabe::verlasse(int Feld, bool mit_Lauf) {
 void Feldeingabe::nimm_zurueck(int Feld) {
     if (Feld != aktiv_ || !geaendert_) return;
     setze(Feld, Alter_Wert_);
+    geaendert_ = z_.Feld_abgelehnt = false;
 }
 
 void Feldeingabe::nimm_Ungueltiges_zurueck() {
@@ -119,22 +115,14 @@ void Feldeingabe::nimm_Ungueltiges_zurueck() {
 
 // The value has passed its test: the results follow it.
 void Feldeingabe::nimm_an(int Feld, bool mit_Lauf) {
-    z_.Neu_berechnen = true;
     const Feldbeschreibung& f = Beschreibung(Feld);
-    if (f.Gruppe == Feldgruppe::Dosis) {
-        passe_Dosis_an();
-    } else if (mit_Lauf) {
-        Laeufe_.berechne();
-    }
+    // Rate and interception: where that is a run's outcome to the bit, valid results are scaled.
+    const bool skaliert = f.Gruppe == Feldgruppe::Dosis && Laeufe_.skaliere();
+    if (!skaliert && mit_Lauf) Laeufe_.berechne();
+    // Enter runs a rate of 0 that cannot be left: Esc still brings back the text before.
+    if (!f.gilt(Feldwert(Feld).Zahl(), false)) return;
     Alter_Wert_ = Feldwert(Feld);
     geaendert_ = false;
-}
-
-// Rate and interception: where that is a run's outcome to the bit, valid results are scaled.
-void Feldeingabe::passe_Dosis_an() {
-    if (Laeufe_.skaliere()) return;
-    Laeufe_.verwirf_alle();
-    Laeufe_.berechne();
 }
 
 }  // namespace varnok

@@ -17,6 +17,8 @@ public:
     const std::string& Text(int Feld) const { return Feldwert(Feld).Text(); }
     // The field that has the focus, -1 without one.
     int aktives_Feld() const { return aktiv_; }
+    // Something was typed there that is not accepted yet.
+    bool ist_in_Arbeit() const { return aktiv_ >= 0 && geaendert_; }
 
     void betrete(int Feld);
     void aendere(int Feld, const std::string& Text);
@@ -37,7 +39,6 @@ private:
     bool pruefe(int Feld, bool Enter);
     void setze(int Feld, const Zahlwert& v);
     void nimm_an(int Feld, bool mit_Lauf);
-    void passe_Dosis_an();
     Zahlwert gespeicherter_Wert(const Feldbeschreibung& f) const;
     const Zahlwert& Feldwert(int Feld) const;
 
@@ -46,6 +47,7 @@ private:
     std::vector<Zahlwert> Studienfelder_;  // what the study fields show; the other texts stand in `Eingabe`
     int aktiv_ = -1;
     Zahlwert Alter_Wert_;     // last accepted text of the active field
+    Zahlwert Eintrittswert_;  // its text when it got the focus
     bool geaendert_ = false;  // typed in since the field got the focus
 };
 

@@ -3,18 +3,10 @@
 #include <algorithm>
 
 #include "run/kalender.h"
-#include "session/kern/texte.h"
 
 namespace varnok {
 
-void Listenwahl::rechne_nach_Aenderung() {
-    Laeufe_.verwirf_alle();
-    Laeufe_.markiere_veraltet();
-    z_.Neu_berechnen = true;
-    Laeufe_.berechne();
-}
-
-void Listenwahl::merke_Applikation() { z_.Geaendert[2] = true; }
+void Listenwahl::merke_Applikation() { z_.Saetze[2].Geaendert = true; }
 
 void Listenwahl::waehle_Substanz(int c) {
     z_.Sicht.Substanz = c;
@@ -25,10 +17,7 @@ void Listenwahl::waehle_Kinetik(int c, Kinetikart k) {
     Kinetikart& Kinetik = z_.Parameter().Kinetik[static_cast<std::size_t>(c)][static_cast<std::size_t>(z_.i_studie())];
     if (Kinetik == k) return;
     Kinetik = k;
-    z_.Geaendert[1] = true;
-    Laeufe_.verwirf_Studie(z_.i_studie());
-    Laeufe_.markiere_veraltet();
-    z_.Neu_berechnen = true;
+    z_.Saetze[1].Geaendert = true;
     Laeufe_.berechne();
 }
 
@@ -36,8 +25,6 @@ void Listenwahl::waehle_Studie(int i) {
     if (i == z_.i_studie()) return;
     z_.Sicht.Studie_Index = i;
     Felder_.fuelle();
-    Laeufe_.verwirf_Studie(i);
-    z_.Neu_berechnen = true;
     Laeufe_.berechne();
 }
 
@@ -46,13 +33,9 @@ void Listenwahl::waehle_Berechnungsmodus(Stoffschema m) {
     z_.Felder().Berechnungsmodus = m;
     if (z_.Sicht.Substanz >= Anzahl_Stoffe(m)) z_.Sicht.Substanz = 0;
     if (!z_.Gestartet) return;
-    z_.Geaendert[1] = true;
-    decke_ab(z_, Texte::Eingabe_geaendert);
+    z_.Saetze[1].Geaendert = true;
     // Nothing valid stands for the new scheme: the summary ends and every study is run.
     z_.Zusammenfassung_aktiv = false;
-    Laeufe_.verwirf_alle();
-    Laeufe_.markiere_veraltet();
-    z_.Neu_berechnen = true;
     Laeufe_.berechne_alle_Studien();
 }
 
@@ -60,14 +43,7 @@ void Listenwahl::aendere_Namen(int c, const std::string& Name) {
     std::string& Platz = c == 0 ? z_.Felder().Name_Wirkstoff : c == 1 ? z_.Felder().Name_Met_1 : z_.Felder().Name_Met_2;
     if (Platz == Name) return;
     Platz = Name;
-    Name_geaendert_ = true;
-    z_.Geaendert[1] = true;
-}
-
-void Listenwahl::verlasse_Namen() {
-    if (!Name_geaendert_) return;
-    Name_geaendert_ = false;
-    Laeufe_.berechne();  // the names go into the diagrams
+    z_.Saetze[1].Geaendert = true;
 }
 
 void Listenwahl::waehle_Muster(Applikationsart m) {
@@ -79,7 +55,7 @@ void Listenwahl::waehle_Muster(Applikationsart m) {
 
 void Listenwahl::fuehre_Muster_aus() {
     merke_Applikation();
-    rechne_nach_Aenderung();
+    Laeufe_.berechne();
 }
 
 void Listenwahl::waehle_Monat(int i) {
@@ -87,14 +63,14 @@ void Listenwahl::waehle_Monat(int i) {
     z_.Felder().App_Monat = i;
     z_.Felder().App_Tag = std::min(z_.Felder().App_Tag, Tage_im_Monat(i + 1) - 1);
     merke_Applikation();
-    rechne_nach_Aenderung();
+    Laeufe_.berechne();
 }
 
 void Listenwahl::waehle_Tag(int i) {
     if (i == z_.Felder().App_Tag) return;
     z_.Felder().App_Tag = i;
     merke_Applikation();
-    rechne_nach_Aenderung();
+    Laeufe_.berechne();
 }
 
 void Listenwahl::waehle_Intervall(int i) {
@@ -102,60 +78,48 @@ void Listenwahl::waehle_Intervall(int i) {
     z_.Felder().Intervall_Index = i;
     z_.Zusammenfassung_aktiv = false;
     merke_Applikation();
-    rechne_nach_Aenderung();
+    Laeufe_.berechne();
 }
 
 void Listenwahl::waehle_Anzahl(int i) {
     Eingabe& e = z_.Felder();
     if (i == e.Anzahl_Index) return;
     const std::size_t bisher = e.Applikationsschema.size();
-    Zeilenvorrat_.resize(max_Applikationen);
-    std::copy(e.Applikationsschema.begin(), e.Applikationsschema.end(), Zeilenvorrat_.begin());
+    z_.Zeilenvorrat.resize(max_Applikationen);
+    std::copy(e.Applikationsschema.begin(), e.Applikationsschema.end(), z_.Zeilenvorrat.begin());
     varnok::waehle_Anzahl(e, i + 2);
-    for (std::size_t k = bisher; k < e.Applikationsschema.size(); ++k) e.Applikationsschema[k] = Zeilenvorrat_[k];
-    Laeufe_.verwirf_alle();
-    Laeufe_.markiere_veraltet();
+    for (std::size_t k = bisher; k < e.Applikationsschema.size(); ++k) e.Applikationsschema[k] = z_.Zeilenvorrat[k];
     if (e.Applikationsmuster == unregelmaessig) return;  // the table takes effect with its Enter key
-    z_.Neu_berechnen = true;
     Laeufe_.berechne();
 }
 
 void Listenwahl::waehle_Endpunkt(Endpunktart e) {
     if (e == z_.Sicht.Endpunkt) return;
     z_.Sicht.Endpunkt = e;
-    Laeufe_.zeichne_neu();
 }
 
 void Listenwahl::waehle_PEC_Typ(PEC_Ansicht a) {
     if (a == z_.Sicht.PEC_Typ) return;
     z_.Sicht.PEC_Typ = a;
     Diagramme_.setze_Bereiche_nach_Ansicht();
-    Laeufe_.zeichne_neu();
     Diagramme_.bringe_nach_vorn(z_.Sicht.Substanz);
 }
 
 void Listenwahl::waehle_Fruchtwechsel(Fruchtfolge r) {
     if (r == z_.Sicht.Fruchtwechsel) return;
     z_.Sicht.Fruchtwechsel = r;
-    Laeufe_.zeichne_neu();
 }
 
 void Listenwahl::waehle_TWA_Laenge(int j) {
     if (j == z_.Sicht.TWA_Laenge) return;
     z_.Sicht.TWA_Laenge = j;
-    Laeufe_.zeichne_neu();
 }
 
-void Listenwahl::zeige_Studien() {
-    z_.Zusammenfassung_aktiv = false;
-    Laeufe_.zeichne_neu();
-}
+void Listenwahl::zeige_Studien() { z_.Zusammenfassung_aktiv = false; }
 
 void Listenwahl::zeige_Zusammenfassung() {
     if (z_.Studienzahl() <= 1) return;
     z_.Zusammenfassung_aktiv = true;
-    decke_ab(z_, Texte::Eingabe_geaendert);
-    z_.Neu_berechnen = true;
     Laeufe_.berechne();
 }
 

@@ -18,7 +18,6 @@ public:
     void waehle_Studie(int i);
     void waehle_Berechnungsmodus(Stoffschema m);
     void aendere_Namen(int c, const std::string& Name);
-    void verlasse_Namen();
 
     // application pattern
     void waehle_Muster(Applikationsart m);
@@ -37,16 +36,12 @@ public:
     void zeige_Zusammenfassung();
 
 private:
-    // A changed input of all studies leads to a run.
-    void rechne_nach_Aenderung();
     void merke_Applikation();
 
     Zustand& z_;
     Laufsteuerung& Laeufe_;
     Feldeingabe& Felder_;
     Diagrammsteuerung& Diagramme_;
-    bool Name_geaendert_ = false;
-    std::vector<Applikationszeile> Zeilenvorrat_;  // rows cut off by a smaller number, while the record stands
 };
 
 }  // namespace varnok

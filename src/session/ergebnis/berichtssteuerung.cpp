@@ -10,8 +10,9 @@
 namespace varnok {
 
 void Berichtssteuerung::erstelle() {
-    const bool aktuell = !z_.veraltet && !z_.abgedeckt;
-    if (!aktuell && !Laeufe_.berechne(true)) return;
+    const bool aktuell = !z_.Hinweis() && !z_.abgedeckt();
+    if (!aktuell && !Laeufe_.berechne_auf_Wunsch(false)) return;
+    Diagramme_.ziehe_nach(Laeufe_.nimm_Gelaufenes().get());
     const Diagramm* Bild = Diagramme_.vorderes();
     if (Bild == nullptr) return;
     try {
@@ -20,11 +21,18 @@ void Berichtssteuerung::erstelle() {
         z_.Ergebnisdatei = Bericht_->Name;
         z_.Statuszeile = "Report written: " + Pfad;
     } catch (const Laufzeitfehler& f) {
+        z_.Ergebnisdatei.clear();
+        z_.Statuszeile = "The report was not written.";
         melde(z_, Texte::Laufzeitfehler, f.what());  // the results stay valid and in sight
     }
 }
 
+void Berichtssteuerung::schliesse_veralteten() {
+    if (Bericht_ && (z_.Hinweis() || z_.abgedeckt() || z_.Zeichnung != Zeichnung_)) schliesse();
+}
+
 void Berichtssteuerung::stelle_her(const Diagramm& Bild) {
+    Zeichnung_ = z_.Zeichnung;
     const Systemuhr Maschine;
     const Uhr& Zeit = z_.Welt.Zeit ? *z_.Welt.Zeit : Maschine;
     const Berichtsart Art = z_.Zusammenfassung_aktiv ? Berichtsart::erweitert : Berichtsart::Standard;

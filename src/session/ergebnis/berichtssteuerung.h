@@ -20,6 +20,8 @@ public:
     // stands on the screen all the same.
     void erstelle();
     void schliesse() { Bericht_.reset(); }
+    // The same where it no longer tells of what is shown: other results, another view, other names.
+    void schliesse_veralteten();
 
     // The report on the screen, null without one.
     const Bericht* offener() const { return Bericht_.get(); }
@@ -34,6 +36,7 @@ private:
     Laufsteuerung& Laeufe_;
     Diagrammsteuerung& Diagramme_;
     std::unique_ptr<Bericht> Bericht_;
+    int Zeichnung_ = 0;  // the drawing that the open report tells of
 };
 
 }  // namespace varnok

@@ -17,6 +17,22 @@ void Diagrammsteuerung::setze_Startbereiche() { Bereiche_ = Startbereiche(z_.Sic
 
 void Diagrammsteuerung::setze_Bereiche_nach_Ansicht() { varnok::setze_Bereiche_nach_Ansicht(Bereiche_, z_.Sicht.PEC_Typ); }
 
+Diagrammsteuerung::Grundlage Diagrammsteuerung::jetzige_Grundlage() const {
+    Grundlage g{{}, z_.Sicht, z_.Zusammenfassung_aktiv, z_.Vorgabe.Beschreibung, z_.Vorgabe.Studie, Bereiche_};
+    for (const int st : z_.gezeigte_Studien())
+        g.Werte.at(static_cast<std::size_t>(st)) = z_.Werte().at(static_cast<std::size_t>(st));
+    for (int c = 0; c < Stoffe; ++c) g.Namen.push_back(Stoffname(z_.Vorgabe, c));
+    return g;
+}
+
+bool Diagrammsteuerung::ziehe_nach(const Ergebnis* gelaufen) {
+    if (z_.abgedeckt() || (gelaufen == nullptr && gezeichnet_ == jetzige_Grundlage())) return false;
+    zeichne(gelaufen);
+    gezeichnet_ = jetzige_Grundlage();  // the drawing may have moved the ends of its axes
+    ++z_.Zeichnung;
+    return true;
+}
+
 void Diagrammsteuerung::zeichne(const Ergebnis* gelaufen) {
     Diagramme_ = z_.Zusammenfassung_aktiv ? erstelle_Diagramme_Zusammenfassung(z_.zeige(), Bereiche_, z_.i_studie())
                                           : erstelle_Diagramme(z_.zeige(), Bereiche_, z_.i_studie());

@@ -22,9 +22,10 @@ public:
     // A view was chosen, by click or with an application pattern.
     void setze_Bereiche_nach_Ansicht();
 
-    // Draws all diagrams of the scheme, or all summary diagrams, from the results, and writes their files. `gelaufen`: what
-    // the last run has just left, for diagnosis; null for a redraw.
-    void zeichne(const Ergebnis* gelaufen);
+    // Draws all diagrams of the scheme, or all summary diagrams, and writes their files, where they would look otherwise than at
+    // the last drawing: they follow from results, view and names alone. Nothing is drawn that must not be seen. `gelaufen`: what
+    // the last run has just left, for diagnosis, or null. True if something was drawn.
+    bool ziehe_nach(const Ergebnis* gelaufen);
 
     // In the order of the scheme: its compounds, then the multi-compound diagram.
     const std::vector<Diagramm>& Diagramme() const { return Diagramme_; }
@@ -47,6 +48,20 @@ public:
     const std::optional<Flaechenort>& Legende() const;
 
 private:
+    // What a drawing follows from.
+    struct Grundlage {
+        Ergebnisse Werte;  // of the studies that are shown
+        Ansicht Sicht;
+        bool Zusammenfassung = false;
+        std::string Beschreibung;
+        std::vector<std::string> Namen;  // of studies and compounds
+        Diagrammbereiche Bereiche;
+
+        friend bool operator==(const Grundlage&, const Grundlage&) = default;
+    };
+
+    Grundlage jetzige_Grundlage() const;
+    void zeichne(const Ergebnis* gelaufen);
     int& Platz_vorne();
 
     Zustand& z_;
@@ -57,6 +72,7 @@ private:
     std::array<std::optional<Flaechenort>, Diagrammzahl> Legenden_;
     std::array<std::optional<Flaechenort>, Zusammenfassungszahl> Legenden_Zusammenfassung_;
     Nebenausgaben Nebenausgaben_;
+    std::optional<Grundlage> gezeichnet_;  // of the last drawing
 };
 
 }  // namespace varnok

@@ -26,7 +26,7 @@ bool hat_Stoff(const std::shared_ptr<const Ergebnis>& e, int i_substanz) {
 
 // The results with something in every place that a grid of the compound asks for: its rows are those of the selected study.
 Ergebnisse mit_Leerstellen(const Zustand& z, int i_substanz) {
-    Ergebnisse Studien = z.Werte;
+    Ergebnisse Studien = z.Werte();
     auto& gewaehlte = Studien.at(static_cast<std::size_t>(z.i_studie()));
     if (!hat_Stoff(gewaehlte, i_substanz)) gewaehlte = leeres_Ergebnis(std::make_shared<const Eingabe>(z.Vorgabe), z.i_studie());
     const std::shared_ptr<const Eingabe> Vorgabe = gewaehlte->Vorgabe;

@@ -1,29 +1,35 @@
 #include "session/kern/sitzung.h"
 
+#include <QDateTime>
 #include <algorithm>
+#include <chrono>
 #include <exception>
 #include <utility>
 
 #include "run/kalender.h"
 #include "session/ergebnis/ergebnisanzeige.h"
 #include "session/kern/texte.h"
+#include "session/kern/unterschied.h"
 #include "session/programm/programmende.h"
 #include "session/programm/startablauf.h"
 
 namespace varnok {
+namespace {
+
+constexpr std::array alle_Arten = {Simulation, Wirkstoff, Applikation, Szenario};
+
+}  // namespace
 
 Sitzung::Sitzung(Umgebung Welt) { z_.Welt = std::move(Welt); }
 
 void Sitzung::melde_Fehler(const std::string& Text) {
-    decke_ab(z_, Texte::nicht_gueltig);
+    z_.Meldung_steht = true;  // what stands behind the message may not be what it speaks of
     melde(z_, Texte::Laufzeitfehler, Text);
-    // A file that could not be written says nothing against the results.
-    const bool gueltig = z_.Gestartet && !z_.veraltet && Laeufe_.Saetze_vollstaendig() && Laeufe_.alles_Gezeigte_gueltig();
-    if (gueltig) z_.abgedeckt = false;
+    z_.Meldung_steht = false;
 }
 
 template <class Handlung>
-void Sitzung::tue(Handlung h) {
+void Sitzung::versuche(Handlung h) {
     try {
         h();
     } catch (const std::exception& Fehler) {
@@ -32,14 +38,101 @@ void Sitzung::tue(Handlung h) {
 }
 
 template <class Handlung>
+void Sitzung::tue(Handlung h) {
+    Laeufe_.sieh_Klima_an();
+    versuche(h);
+    schliesse_Handlung_ab();
+}
+
+template <class Handlung>
 void Sitzung::befolge(Handlung h, bool mit_Lauf) {
     const bool Feld_offen = Felder_.aktives_Feld() >= 0;
     if (!schliesse_Feld_ab(mit_Lauf)) return;
     // What a command finds is complete: a name in the box counts as typed.
     if (Studien_.Name_offen()) bestaetige_Studienname(false);
-    tue(h);
+    fuehre_Verlauf();  // a cell or a name typed before is a step of its own
+    Laeufe_.sieh_Klima_an();
+    versuche(h);
     // A command that was to run and did not leaves the accepted value without results.
-    if (Feld_offen && !mit_Lauf && z_.veraltet && !z_.abgedeckt && !z_.beendet) tue([&] { Laeufe_.berechne(); });
+    if (Feld_offen && !mit_Lauf && z_.Hinweis() && !z_.abgedeckt() && !z_.beendet) versuche([&] { Laeufe_.berechne(); });
+    schliesse_Handlung_ab();
+}
+
+// What follows from the values that an action leaves: marks without a difference go, so does a reason that results have
+// overtaken; what is shown is drawn, and then told of.
+void Sitzung::schliesse_Handlung_ab() {
+    Laeufe_.sieh_Klima_an();  // the action may have named another file, or changed this one
+    raeume_Marken_auf();
+    if (z_.Gestartet) {
+        if (z_.alles_Gezeigte_gueltig()) z_.Gerechnetes.vergiss_Grund();
+        versuche([this] { Diagramme_.ziehe_nach(Laeufe_.nimm_Gelaufenes().get()); });
+        Laeufe_.melde_Warnungen();
+        Berichte_.schliesse_veralteten();
+    }
+    fuehre_Verlauf();
+    fuehre_Statuszeile();
+}
+
+// Where a save would write nothing else than the files hold, there is nothing to ask about.
+void Sitzung::raeume_Marken_auf() {
+    const auto verschieden = [this](Satzart Art) { return z_.verschieden(Art); };
+    if (std::any_of(alle_Arten.begin(), alle_Arten.end(), verschieden)) return;
+    for (Satzplatz& p : z_.Saetze) p.Geaendert = false;
+}
+
+// A field in work is no step yet.
+void Sitzung::fuehre_Verlauf() {
+    if (std::exchange(z_.Verlauf_beginnt, false)) return z_.Schritte.beginne(z_.Vorgabe);
+    if (!Felder_.ist_in_Arbeit()) z_.Schritte.merke(z_.Vorgabe);
+}
+
+// A line stands until the next change of an input or a result; one about files is written by their commands.
+void Sitzung::fuehre_Statuszeile() {
+    const bool neue = z_.Statuszeile != letzte_Statuszeile_;
+    // The first results take no line away: until then nobody has seen it.
+    const bool andere_Werte = letzte_Werte_ != varnok::Ergebnisse{} && z_.Werte() != letzte_Werte_;
+    const bool geaendert = z_.Vorgabe != letzte_Vorgabe_ || andere_Werte;
+    if (!neue && geaendert) z_.Statuszeile.clear();
+    if (neue && !z_.Statuszeile.empty()) {
+        const Systemuhr Maschine;
+        const auto jetzt = (z_.Welt.Zeit ? *z_.Welt.Zeit : Maschine).jetzt().time_since_epoch();
+        const auto Sekunden = std::chrono::duration_cast<std::chrono::seconds>(jetzt).count();
+        z_.Statuszeit = QDateTime::fromSecsSinceEpoch(Sekunden).toString(u"HH:mm").toStdString();
+    }
+    letzte_Statuszeile_ = z_.Statuszeile;
+    letzte_Vorgabe_ = z_.Vorgabe;
+    letzte_Werte_ = z_.Werte();
+}
+
+void Sitzung::mache_rueckgaengig() {
+    befolge([&] {
+        if (z_.Schritte.kann_zurueck()) stelle_Eingabe_her(z_.Schritte.zurueck());
+    });
+}
+
+void Sitzung::wiederhole() {
+    befolge([&] {
+        if (z_.Schritte.kann_vor()) stelle_Eingabe_her(z_.Schritte.vor());
+    });
+}
+
+// An input of the history in place of the present one, with the study and the compound in view that it concerns.
+void Sitzung::stelle_Eingabe_her(const Eingabe& e) {
+    const Unterschied u = vergleiche(z_.Vorgabe, e);
+    z_.Vorgabe = e;
+    for (const Satzart Art : alle_Arten) {
+        if (u.Arten[Art]) z_.Saetze[Art].Geaendert = true;
+    }
+    if (u.i_studie >= 0) z_.Sicht.Studie_Index = u.i_studie;
+    z_.Sicht.Studie_Index = std::min(z_.Sicht.Studie_Index, z_.Studienzahl() - 1);
+    if (z_.Studienzahl() < 2) z_.Zusammenfassung_aktiv = false;
+    if (u.i_substanz >= 0) z_.Sicht.Substanz = u.i_substanz;
+    if (z_.Sicht.Substanz >= Anzahl_Stoffe(z_.Vorgabe.Berechnungsmodus)) z_.Sicht.Substanz = 0;
+    Felder_.fuelle();
+    Diagramme_.bringe_nach_vorn(z_.Sicht.Substanz);
+    Laeufe_.berechne();
+    // A run repairs the table; the step is the table as it was, or there would be no way past it.
+    z_.Vorgabe.Applikationsschema = e.Applikationsschema;
 }
 
 bool Sitzung::oeffne_Projekt() {
@@ -74,7 +167,9 @@ bool Sitzung::verlasse_Feld(int Feld) {
     return angenommen;
 }
 
-void Sitzung::nimm_Feld_zurueck(int Feld) { Felder_.nimm_zurueck(Feld); }
+void Sitzung::nimm_Feld_zurueck(int Feld) {
+    tue([&] { Felder_.nimm_zurueck(Feld); });
+}
 
 bool Sitzung::schliesse_Feld_ab(bool mit_Lauf) {
     const int Feld = Felder_.aktives_Feld();
@@ -90,17 +185,15 @@ void Sitzung::Starten() {
         z_.Gestartet = true;
         // The handler of the pattern makes the first run; what it marks is no change of the user.
         Listen_.fuehre_Muster_aus();
+        for (Satzplatz& p : z_.Saetze) p.Geaendert = false;
     });
-    z_.Geaendert.fill(false);
 }
 
 void Sitzung::Aktualisieren() {
     befolge(
         [&] {
             if (Saetze_.aktualisiere()) return;
-            z_.Neu_berechnen = true;
-            Laeufe_.verwirf_alle();
-            Laeufe_.berechne(true);
+            Laeufe_.berechne_auf_Wunsch(true);
         },
         false);
 }
@@ -129,7 +222,7 @@ void Sitzung::suche_beim_Start(std::function<void(const std::function<void()>&)>
 bool Sitzung::schliesse_Fenster() {
     if (z_.beendet) return true;
     Felder_.nimm_Ungueltiges_zurueck();
-    tue([&] { z_.beendet = schliesse(Saetze_); });
+    tue([&] { z_.beendet = schliesse(z_, Saetze_); });
     return z_.beendet;
 }
 
@@ -147,16 +240,7 @@ void Sitzung::schalte_Diagramm_weiter() {
 bool Sitzung::skaliere_Diagramm(const std::string& Start, const std::string& Ende) { return Diagramme_.skaliere(Start, Ende); }
 
 void Sitzung::schliesse_Skalierung() {
-    befolge(
-        [&] {
-            if (z_.Zusammenfassung_aktiv) {
-                Laeufe_.zeichne_neu();
-            } else {
-                z_.Neu_berechnen = true;
-                Laeufe_.berechne();
-            }
-        },
-        false);
+    befolge([&] { Laeufe_.berechne(!z_.Zusammenfassung_aktiv); }, false);
 }
 
 void Sitzung::merke_Legende(bool Zusammenfassung, int Diagrammsatz, const std::optional<Flaechenort>& Ort) {
@@ -197,7 +281,7 @@ bool Sitzung::benenne_Satz_um(Satzart Art, const std::string& Text, bool mit_Fra
 
 void Sitzung::oeffne_Beschreibung() {
     alte_Beschreibung_ = z_.Felder().Beschreibung;
-    alte_Marke_ = z_.Geaendert[0];
+    alte_Marke_ = z_.Saetze[0].Geaendert;
     z_.Beschreibung_offen = true;
 }
 
@@ -208,17 +292,19 @@ void Sitzung::aendere_Beschreibung(const std::string& Text) {
     if (eine_Zeile == z_.Felder().Beschreibung) return;
     z_.Felder().Beschreibung = eine_Zeile;
     z_.Ergebnisdatei.clear();
-    z_.Geaendert[0] = true;
+    z_.Saetze[0].Geaendert = true;
 }
 
-void Sitzung::schliesse_Beschreibung() { z_.Beschreibung_offen = false; }
+void Sitzung::schliesse_Beschreibung() {
+    tue([&] { z_.Beschreibung_offen = false; });
+}
 
 void Sitzung::nimm_Beschreibung_zurueck() {
-    if (z_.Beschreibung_offen) {
+    tue([&] {
+        if (!std::exchange(z_.Beschreibung_offen, false)) return;
         z_.Felder().Beschreibung = alte_Beschreibung_;
-        z_.Geaendert[0] = alte_Marke_;
-    }
-    z_.Beschreibung_offen = false;
+        z_.Saetze[0].Geaendert = alte_Marke_;
+    });
 }
 
 void Sitzung::waehle_Substanz(int c) {
@@ -270,8 +356,7 @@ void Sitzung::nimm_Studienname_zurueck() { Studien_.nimm_zurueck(); }
 
 void Sitzung::aendere_Namen(int c, const std::string& Name) { Listen_.aendere_Namen(c, Name); }
 void Sitzung::verlasse_Namen() {
-    // A number that was refused has taken the focus back: it is told once, and the name waits.
-    if (Felder_.aktives_Feld() < 0) tue([&] { Listen_.verlasse_Namen(); });
+    schliesse_Handlung_ab();  // diagrams carry the names
 }
 
 void Sitzung::waehle_Muster(int m) {
@@ -305,7 +390,7 @@ void Sitzung::waehle_TWA_Laenge(int j) {
 
 bool Sitzung::uebernimm_Optionen(const Optionsentwurf& Neue) {
     bool angenommen = false;
-    tue([&] { angenommen = Optionen_.uebernimm(Neue); });
+    versuche([&] { angenommen = Optionen_.uebernimm(Neue); });  // the action ends when the dialog has closed
     return angenommen;
 }
 bool Sitzung::schliesse_Optionen() {
@@ -343,23 +428,23 @@ bool Sitzung::oeffne_Organiser() {
     return offen;
 }
 void Sitzung::organisiere(const std::function<void(Organiser&)>& Befehl) {
-    tue([&] { Befehl(Organiser_); });
+    versuche([&] { Befehl(Organiser_); });  // what the dialog picks is drawn when it has closed
 }
 void Sitzung::schliesse_Organiser() {
     tue([&] { Organiser_.schliesse_ab(); });
 }
 
 void Sitzung::haenge_an_Zelle(Zelle z, char Zeichen) {
-    tue([&] { Tabelle_.haenge_an(z, Zeichen); });
+    versuche([&] { Tabelle_.haenge_an(z, Zeichen); });  // a cell in work is no step
 }
 void Sitzung::nimm_letztes_Zeichen(Zelle z) {
-    tue([&] { Tabelle_.nimm_letztes(z); });
+    versuche([&] { Tabelle_.nimm_letztes(z); });  // a cell in work is no step
 }
 void Sitzung::leere_Zelle(Zelle z) {
-    tue([&] { Tabelle_.leere(z); });
+    versuche([&] { Tabelle_.leere(z); });  // a cell in work is no step
 }
 void Sitzung::fuege_in_Tabelle_ein(Zelle z, const std::string& Text) {
-    tue([&] { Tabelle_.fuege_ein(z, Text); });
+    versuche([&] { Tabelle_.fuege_ein(z, Text); });  // a cell in work is no step
 }
 void Sitzung::bestaetige_Tabelle() {
     befolge([&] { Tabelle_.bestaetige(); }, false);

@@ -95,6 +95,12 @@ public:
     std::vector<std::string> Tooltips() { return Hilfe_.Tooltips(); }
     std::string Programmangaben() const { return Hilfe_.Programmangaben(); }
 
+    // Undo and redo; the names tell what they change, empty where there is nothing to.
+    void mache_rueckgaengig();
+    void wiederhole();
+    std::string Name_rueckgaengig() const { return z_.Schritte.Name_zurueck(); }
+    std::string Name_wiederholen() const { return z_.Schritte.Name_vor(); }
+
     // Records.
     void waehle_Simulation(int Position);
     void waehle_Satz(Satzart Art, int Position);
@@ -176,15 +182,23 @@ private:
     // The one place that turns a fault into a message: results are covered, the action ends, what was
     // entered stays, the program goes on.
     template <class Handlung>
+    void versuche(Handlung h);
+    // An action: the same, and what follows from it.
+    template <class Handlung>
     void tue(Handlung h);
     // The same for a command: the field in work is accepted first.
     template <class Handlung>
     void befolge(Handlung h, bool mit_Lauf = true);
     void melde_Fehler(const std::string& Text);
+    void schliesse_Handlung_ab();
+    void raeume_Marken_auf();
+    void fuehre_Statuszeile();
+    void fuehre_Verlauf();
+    void stelle_Eingabe_her(const Eingabe& e);
 
     Zustand z_;
     Diagrammsteuerung Diagramme_{z_};
-    Laufsteuerung Laeufe_{z_, Diagramme_};
+    Laufsteuerung Laeufe_{z_};
     Feldeingabe Felder_{z_, Laeufe_};
     Satzverwaltung Saetze_{z_, Laeufe_, Felder_, Diagramme_};
     Organiser Organiser_{z_, Saetze_};
@@ -197,6 +211,10 @@ private:
     Optionensteuerung Optionen_{z_, Laeufe_, Listen_};
     Eingabedateien Dateien_{z_, Saetze_};
     Hilfetexte Hilfe_{z_};
+    // As the last action left them.
+    Eingabe letzte_Vorgabe_;
+    varnok::Ergebnisse letzte_Werte_;
+    std::string letzte_Statuszeile_;
     std::string alte_Beschreibung_;
     bool alte_Marke_ = false;  // of the simulation, before the description was opened
 };

@@ -3,6 +3,7 @@
 // Texts of messages and of the cover, spelled as users know them.
 
 #include <array>
+#include <string>
 
 namespace varnok::Texte {
 
@@ -38,6 +39,15 @@ inline constexpr const char* nicht_gedruckt = "The report could not be printed."
 inline constexpr const char* Eingabe_geaendert = "Input changed";
 inline constexpr const char* nicht_gueltig = "Not valid";
 inline constexpr const char* Satz_geloescht = "Record deleted: choose or refresh";
+inline constexpr const char* Satz_ersetzt = "Record replaced: choose or refresh";
 inline constexpr const char* Satz_fehlt = "Record missing: choose one";
+
+// The same with the name of the file.
+inline std::string fehlender_Satz(const std::string& Dateiname) { return "Record \"" + Dateiname + "\" missing: choose one"; }
+
+// A question about a record: below its text, on a line of its own, which record it is about.
+inline std::string mit_Satzname(const std::string& Text, const std::string& Name) {
+    return Name.empty() ? Text : Text + "\n'" + Name + "'";
+}
 
 }  // namespace varnok::Texte

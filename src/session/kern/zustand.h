@@ -16,6 +16,8 @@
 #include "records/klimadatei.h"
 #include "records/projektordner.h"
 #include "records/projektsperre.h"
+#include "session/ergebnis/ergebnisstand.h"
+#include "session/kern/verlauf.h"
 
 namespace varnok {
 
@@ -61,6 +63,15 @@ struct Dateistand {
     std::string Bytes;
 };
 
+// What the program knows of the record of a kind, beside its selector.
+struct Satzplatz {
+    Dateistand Datei;
+    std::string gespeichert;  // what a save would have written right after reading or saving
+    bool gelesen = false;     // false: the values on the screen are not those of the record that the selector names
+    std::string Grund;        // why not, for the cover
+    bool Geaendert = false;   // told mark: the user changed it and is asked before it goes
+};
+
 struct Zustand : Satzlisten {
     Umgebung Welt;
     Einstellungen Einstellung;
@@ -69,30 +80,28 @@ struct Zustand : Satzlisten {
     std::shared_ptr<Projektsperre> Sperre;        // on that folder, for the time of the session
     std::optional<Projektordner> Ausgabeprojekt;  // the present project path, for all output
 
-    Eingabe Vorgabe;   // all inputs on the screen
-    Ansicht Sicht;     // what the user has chosen to look at
-    Ergebnisse Werte;  // of the studies, each with the input that it comes from
+    Eingabe Vorgabe;                              // all inputs on the screen
+    Ansicht Sicht;                                // what the user has chosen to look at
+    std::vector<Applikationszeile> Zeilenvorrat;  // of the table, cut off by a smaller number, while the record stands
+    std::array<Satzplatz, 4> Saetze;
+    Ergebnisstand Gerechnetes;
+    Klimabytes Klima;  // looked at before each command
 
-    // A record that the selector names but that could not be read or was not read yet.
-    std::array<bool, 4> nicht_gelesen{};
-    std::array<Dateistand, 4> Dateistaende;
+    Verlauf Schritte;              // of the inputs
+    bool Verlauf_beginnt = false;  // a record was read or is no more the same file: there is no way back behind it
 
     bool Gestartet = false;
-    bool Neu_berechnen = false;  // the input is valid and runs are allowed
     bool Zusammenfassung_aktiv = false;
-    std::array<bool, 4> Geaendert{};
-    std::array<bool, max_Studien> gueltig{};  // the study's results are of the present input
+    bool Feld_abgelehnt = false;  // the text of the field in work was refused and is neither accepted nor taken back yet
+    bool Meldung_steht = false;   // a fault is being told: nothing is shown meanwhile
 
-    bool veraltet = false;  // something entered is not in the results
-    bool Hinweis = false;   // the hint picture on `Aktualisieren`
-    bool abgedeckt = true;  // the results must not be seen
-    std::string Abdeckungswort;
     bool Simulation_markiert = false;  // the combination on the screen differs from the saved one
     bool Beschreibung_offen = false;
     bool Szenarioeditor_faellig = false;  // the scenario names a climate file that cannot be opened
     std::string Ergebnisdatei;            // name of the report file written last
     std::optional<Zelle> Tabellenfehler;  // the cell that a message spoke of, to be selected
     std::string Statuszeile;
+    std::string Statuszeit;              // hh:mm of the line
     int Zeichnung = 0;                   // counts the redraws of the results
     bool Aktualisierungsfehler = false;  // the last check for a newer version received no usable answer
     bool Aktualisierung_laeuft = false;
@@ -104,18 +113,41 @@ struct Zustand : Satzlisten {
     const Laufparameter& Parameter() const { return Vorgabe.Parameter; }
     int i_studie() const { return Sicht.Studie_Index; }
     int Studienzahl() const { return Vorgabe.Studienzahl(); }
+    const Ergebnisse& Werte() const { return Gerechnetes.Werte(); }
     // What tables, diagrams and reports show.
-    Darstellung zeige() const { return {Werte, Sicht, Vorgabe}; }
+    Darstellung zeige() const { return {Werte(), Sicht, Vorgabe}; }
+
+    // ---- what follows from all that; nobody keeps it ----
+
+    // The studies that the view on display shows: the selected one, in the summary view all.
+    std::vector<int> gezeigte_Studien() const;
+    bool gueltig(int i_studie) const { return Gerechnetes.gueltig(i_studie, Vorgabe, Klima); }
+    bool alles_Gezeigte_gueltig() const;
+    // Whether each selector names a record whose values are on the screen.
+    bool Saetze_vollstaendig() const;
+    // The hint picture: what is on display is not of the present input, or nothing valid is.
+    bool Hinweis() const { return Gestartet && !alles_Gezeigte_gueltig(); }
+    // The word on the cover, empty while the results may be seen.
+    std::string Abdeckungswort() const;
+    bool abgedeckt() const { return !Abdeckungswort().empty(); }
+    // Whether runs are allowed and can do something.
+    bool Neu_berechnen() const;
+    // The told marks, by kind.
+    std::array<bool, 4> Marken() const {
+        return {Saetze[0].Geaendert, Saetze[1].Geaendert, Saetze[2].Geaendert, Saetze[3].Geaendert};
+    }
+    // What a save of this kind writes. Throws Laufzeitfehler for a text or a value that no record can hold.
+    std::string Speicherbytes(Satzart Art) const;
+    // The same for comparing: where nothing can be written, the reason.
+    std::string Speicherbild(Satzart Art) const;
+    // Whether a save would now write something else than right after reading or saving. A place that was not read is different
+    // only by what the user entered there.
+    bool verschieden(Satzart Art) const;
 };
 
 // A message of the program with one button.
 inline void melde(Zustand& z, const std::string& Titel, const std::string& Text) {
     z.Welt.Fragen->frage({Titel, Text, Symbol::Ausrufezeichen, {Knopf::OK}});
-}
-
-inline void decke_ab(Zustand& z, const std::string& Wort) {
-    z.abgedeckt = true;
-    z.Abdeckungswort = Wort;
 }
 
 }  // namespace varnok

@@ -95,9 +95,8 @@ void Optionensteuerung::merke_Aenderungen(const Optionsentwurf& Neue) {
     const bool neue_Liste = Neue.TWA_Zeiten != vorher_.TWA_Zeiten;
     const bool neue_Rechnung =
         neue_Liste || Neue.Einheit != vorher_.Einheit || Neue.Separate_Rueckstaende != vorher_.Separate_Rueckstaende;
-    if (neue_Rechnung || Neue.Ausgabename_Teile != vorher_.Ausgabename_Teile) z_.Geaendert[Wirkstoff] = true;
+    if (neue_Rechnung || Neue.Ausgabename_Teile != vorher_.Ausgabename_Teile) z_.Saetze[Wirkstoff].Geaendert = true;
     if (neue_Liste) z_.Sicht.TWA_Laenge = TWA_Vorauswahl(z_.Parameter().TWA_Zeiten);
-    if (neue_Rechnung) Laeufe_.markiere_veraltet();
 }
 
 // Tooltips once attached stay until the program ends.
@@ -111,15 +110,7 @@ void Optionensteuerung::sage_Tips_ab() {
 }
 
 // The options concern all studies.
-void Optionensteuerung::rechne() {
-    Laeufe_.verwirf_alle();
-    z_.Neu_berechnen = true;
-    if (z_.Zusammenfassung_aktiv) {
-        Listen_.zeige_Zusammenfassung();
-    } else {
-        Laeufe_.berechne();
-    }
-}
+void Optionensteuerung::rechne() { Laeufe_.berechne(true); }
 
 std::optional<std::string> Optionensteuerung::lege_Ordner_an(const std::string& darin, const std::string& Name) {
     if (const std::string Einwand = Einwand_gegen_Namen(Name); !Einwand.empty()) {

@@ -1,5 +1,6 @@
 #include "session/programm/programmende.h"
 
+#include "base/laufzeitfehler.h"
 #include "records/dateien.h"
 #include "records/voreinstellungen.h"
 #include "session/kern/texte.h"
@@ -31,6 +32,7 @@ std::vector<Sicherungsstueck> Dateien_der_Startsimulation(const Zustand& z) {
 }  // namespace
 
 void Voreinstellungen_laden(Zustand& z, Satzverwaltung& Saetze) {
+    z.Statuszeile.clear();
     Saetze.sichere_Ungesichertes(Dateien_der_Startsimulation(z));
     stelle_Voreinstellungen_her(*z.Ordner, {z.Welt.installierte_Daten, z.Welt.Programmpfad});
     z.beendet = true;
@@ -39,8 +41,9 @@ void Voreinstellungen_laden(Zustand& z, Satzverwaltung& Saetze) {
           "The settings become available after the next program call.");
 }
 
-void beende_oder_stelle_her(Zustand& z, Satzverwaltung& Saetze, const std::string& Text) {
+void beende_oder_stelle_her(Zustand& z, Satzverwaltung& Saetze, const std::string& Text, bool beim_Start) {
     const Knopf Antwort = z.Welt.Fragen->frage({Texte::Datei_fehlt, Text, Symbol::Ausrufezeichen, {Knopf::Ja, Knopf::Nein}});
+    if (Antwort == Knopf::nicht_jetzt && !beim_Start) return;
     if (Antwort == Knopf::Ja) {
         Voreinstellungen_laden(z, Saetze);
     } else {
@@ -49,18 +52,55 @@ void beende_oder_stelle_her(Zustand& z, Satzverwaltung& Saetze, const std::strin
     z.beendet = true;  // not where something unsaved could not be kept
 }
 
+namespace {
+
+// What is not saved at the end goes into `backup`. Where that is not possible the user decides, or the program could never end.
+bool sichere_am_Ende(const Zustand& z, Satzverwaltung& Saetze) {
+    try {
+        Saetze.sichere_Ungesichertes();
+        return true;
+    } catch (const Laufzeitfehler& f) {
+        const std::string Text = std::string(f.what()) + "\nIt cannot be kept. Go on?";
+        return z.Welt.Fragen->frage({Texte::Laufzeitfehler, Text, Symbol::Ausrufezeichen, {Knopf::Ja, Knopf::Nein}}) == Knopf::Ja;
+    }
+}
+
+// The text of a fault, empty without one.
+template <class Handlung>
+std::string Fehler_bei(Handlung h) {
+    try {
+        h();
+        return {};
+    } catch (const Laufzeitfehler& f) {
+        return f.what();
+    }
+}
+
+}  // namespace
+
 bool Ende(Zustand& z, Satzverwaltung& Saetze) {
-    const auto Ausgang = Saetze.frage_nach_Sicherung();
-    if (Ausgang == Satzverwaltung::Sicherung::verweigert) return false;
-    if (!Saetze.pruefe_Auswahl({Knopf::OK, Knopf::Abbrechen})) return false;
+    const auto zu_sichern = Saetze.frage_nach_Sicherung();
+    if (!zu_sichern || !Saetze.pruefe_Auswahl({Knopf::OK, Knopf::Abbrechen})) return false;
+    if (!zu_sichern->empty() && !Saetze.speichere_Arten(*zu_sichern)) return false;
     // A save has just written the summary file, unless it was not read: then its time is what is missing.
-    const bool geschrieben = Ausgang == Satzverwaltung::Sicherung::erfolgt && !z.nicht_gelesen[Simulation];
-    if (!geschrieben && (z.Geaendert[0] || z.Neu_berechnen)) Saetze.schreibe_Zusammenfassungsdatei();
-    Einstellungen_schreiben(z);
+    const bool geschrieben = !zu_sichern->empty() && z.Saetze[Simulation].gelesen;
+    bool weiter = true;
+    std::string Fehler;
+    if (!geschrieben && (z.Saetze[0].Geaendert || z.Neu_berechnen()))
+        Fehler = Fehler_bei([&] { weiter = Saetze.schreibe_Zusammenfassungsdatei(); });
+    if (!weiter || !sichere_am_Ende(z, Saetze)) return false;
+    const std::string zweiter = Fehler_bei([&] { Einstellungen_schreiben(z); });
+    Fehler += (Fehler.empty() || zweiter.empty() ? "" : "\n") + zweiter;
+    if (!Fehler.empty()) melde(z, Texte::Laufzeitfehler, Fehler);
     z.beendet = true;
     return true;
 }
 
-bool schliesse(Satzverwaltung& Saetze) { return Saetze.frage_nach_Sicherung() != Satzverwaltung::Sicherung::verweigert; }
+bool schliesse(const Zustand& z, Satzverwaltung& Saetze) {
+    const auto zu_sichern = Saetze.frage_nach_Sicherung();
+    if (!zu_sichern) return false;
+    if (!zu_sichern->empty() && !Saetze.speichere_Arten(*zu_sichern)) return false;
+    return sichere_am_Ende(z, Saetze);
+}
 
 }  // namespace varnok

@@ -43,12 +43,13 @@ void oeffne_Ordner(Zustand& z) {
 bool lade_neueste(Zustand& z, Satzverwaltung& Saetze) {
     for (const std::string& Name : Simulationen_nach_Alter(*z.Ordner)) {
         try {
-            return Saetze.lade_Start(Name);
+            Saetze.lade_Start(Name);
+            return !z.beendet;
         } catch (const Laufzeitfehler& f) {
             melde(z, Texte::Laufzeitfehler, f.what());
         }
     }
-    beende_oder_stelle_her(z, Saetze, "Input files are missing. Should the default settings be loaded ");
+    beende_oder_stelle_her(z, Saetze, "Input files are missing. Should the default settings be loaded ", true);
     return false;
 }
 
@@ -62,6 +63,7 @@ bool starte_Programm(Zustand& z, Satzverwaltung& Saetze) {
     if (z.Sperre->von_anderem_gehalten()) melde(z, Texte::Ordner_in_Gebrauch, Texte::zweites_Fenster);
     Saetze.fuelle_Listen();
     z.Sicht.TWA_Laenge = TWA_Vorauswahl(z.Parameter().TWA_Zeiten);
+    z.Felder().Studie = {""};  // what stands under the cover where no compound can be read
     return lade_neueste(z, Saetze) && !z.beendet;
 }
 

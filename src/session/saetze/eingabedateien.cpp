@@ -46,11 +46,12 @@ void Eingabedateien::lade(const std::string& Dateiname) {
     const std::string Name = Dateiname.substr(0, Dateiname.size() - std::min<std::size_t>(Dateiname.size(), 4));
     pruefe_Namen(Name);
     const std::string Satz = z_.Namen[Wirkstoff];
-    if (z_.Geaendert[Wirkstoff]) {
+    z_.Statuszeile.clear();
+    if (z_.verschieden(Wirkstoff)) {
         sichere(z_, {{Satz + Endungen[Wirkstoff], Satz_als_Bytes(Wirkstoff, z_.Vorgabe, z_.Sicht, z_.Welt.Dezimalzeichen)}});
     }
     zeige_als_Simulation(Name);
-    if (Saetze_.lies_Satz(Wirkstoff, Satz)) decke_ab(z_, Texte::Eingabe_geaendert);
+    if (Saetze_.lies_Satz(Wirkstoff, Satz)) z_.Gerechnetes.melde_Grund({Texte::Eingabe_geaendert});
 }
 
 bool Eingabedateien::speichere(const std::string& Dateiname) {
@@ -59,17 +60,28 @@ bool Eingabedateien::speichere(const std::string& Dateiname) {
     const std::string Name = mit_Endung ? Dateiname.substr(0, Dateiname.size() - Endung.size()) : Dateiname;
     pruefe_Namen(Name);
     if (!Saetze_.pruefe_Auswahl({Knopf::OK, Knopf::Abbrechen})) return false;
+    z_.Statuszeile.clear();
     // Three lines, no description: read as four, the file is misread, and that is why this dialog stays out of use.
     std::string Bytes;
     for (std::size_t Art = 1; Art <= 3; ++Art) Bytes += als_Satztext(z_.Namen[Art], Satzart_Namen[Art]) + "\r\n";
-    if (const auto alte = z_.Ordner->finde(Name, Endung)) sichere(z_, {{Name + Endung, lies_Datei(*alte)}});
+    // What is replaced is kept, the records of the selectors too: their files may hold what the screen never showed.
+    std::vector<Sicherungsstueck> ersetzt;
+    const auto ersetze = [&](const std::string& Satz, std::size_t Art) {
+        const auto alte = z_.Ordner->finde(Satz, Endungen[Art]);
+        if (alte) ersetzt.push_back({Satz + Endungen[Art], lies_Datei(*alte)});
+    };
+    ersetze(Name, Simulation);
+    for (std::size_t Art = 1; Art <= 3; ++Art) {
+        if (z_.Saetze[Art].gelesen) ersetze(z_.Namen[Art], Art);
+    }
+    sichere(z_, ersetzt);
     schreibe_Datei(z_.Ordner->Zielpfad(Name, Endung), Bytes);
     zeige_als_Simulation(Name);
     z_.Simulation_markiert = false;
     for (std::size_t Art = 1; Art <= 3; ++Art) {
-        if (z_.nicht_gelesen[Art]) continue;
+        if (!z_.Saetze[Art].gelesen) continue;
         Satz_schreiben(*z_.Ordner, z_.Namen[Art], static_cast<Satzart>(Art), z_.Vorgabe, z_.Sicht, z_.Welt.Dezimalzeichen);
-        z_.Geaendert[Art] = false;
+        z_.Saetze[Art].Geaendert = false;
     }
     return true;
 }
@@ -81,6 +93,7 @@ void Eingabedateien::loesche(const std::string& Ordner, const std::string& Datei
                              z_.Ordner->Eingabeordner() + "\"");
     }
     const std::string Pfad = z_.Ordner->Eingabeordner() + "/" + Dateiname;
+    z_.Statuszeile.clear();
     sichere(z_, {{Dateiname, lies_Datei(Pfad)}});
     loesche_Datei(Pfad);
 }

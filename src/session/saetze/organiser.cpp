@@ -27,63 +27,59 @@ std::string Dateibytes(const Zustand& z, const std::string& Name) {
 // What "Done" changes on the main screen until the summary file is written.
 class Merkstand {
 public:
-    explicit Merkstand(const Zustand& z)
-        : Listen_(z),
-          nicht_gelesen_(z.nicht_gelesen),
-          Datei_(z.Dateistaende[Simulation]),
-          Beschreibung_(z.Felder().Beschreibung) {}
+    explicit Merkstand(const Zustand& z) : Listen_(z), Saetze_(z.Saetze), Beschreibung_(z.Felder().Beschreibung) {}
 
     void stelle_her(Zustand& z) const {
         static_cast<Satzlisten&>(z) = Listen_;
-        z.nicht_gelesen = nicht_gelesen_;
-        z.Dateistaende[Simulation] = Datei_;
+        z.Saetze = Saetze_;
         z.Felder().Beschreibung = Beschreibung_;
     }
 
 private:
     Satzlisten Listen_;
-    std::array<bool, 4> nicht_gelesen_;
-    Dateistand Datei_;
+    std::array<Satzplatz, 4> Saetze_;
     std::string Beschreibung_;
 };
 
 }  // namespace
 
 void Organiser::oeffne() {
-    gewaehlt_ = umbenannt_ = Szenario_bearbeitet_ = Lauf_ = false;
+    gewaehlt_.fill(false);
+    umbenannt_ = Szenario_bearbeitet_ = Lauf_ = false;
     z_.Beschreibung_offen = false;
     Projektname_ = alter_Projektname_ = alte_Beschreibung_ = z_.Felder().Beschreibung;
     Listen_.Namen = z_.Namen;
     for (const Satzart Art : alle_Arten) Befehle_.lies_Liste(Art);
     // The description on the screen may not be saved yet, but it belongs to the simulation on the screen alone.
-    const bool dieselbe = Listen_.Auswahl(Simulation) >= 0 && !z_.nicht_gelesen[Simulation];
+    const bool dieselbe = Listen_.Auswahl(Simulation) >= 0 && z_.Saetze[Simulation].gelesen;
     if (Listen_.Auswahl(Simulation) < 0)
         Listen_.waehle_Platz(Simulation, static_cast<int>(Listen_.Listen[Simulation].size()) - 1);
     gelesen_ = Dateibytes(z_, Listen_.gewaehlt(Simulation));
-    if (Listen_.Auswahl(Simulation) < 0) return;
-    lies_Simulation_in_Maske(Listen_.Auswahl(Simulation), !dieselbe);
+    // What the screen shows counts, not what the summary file of its simulation says.
+    if (Listen_.Auswahl(Simulation) < 0 || dieselbe) return;
+    lies_Simulation_in_Maske(Listen_.Auswahl(Simulation));
     alter_Projektname_ = Projektname_;
 }
 
 // Selects a simulation with the records that its file names. A file that cannot be read throws and changes nothing.
-void Organiser::lies_Simulation_in_Maske(int Position, bool mit_Beschreibung) {
+void Organiser::lies_Simulation_in_Maske(int Position) {
     const std::string Name = Listen_.Listen[Simulation].at(static_cast<std::size_t>(Position));
     const Simulationssatz Satz = lies_Simulation(*z_.Ordner, Name);
     gelesen_ = Dateibytes(z_, Name);
     Listen_.Namen = Satz.Dateinamen;
     Listen_.Namen[Simulation] = Name;
-    if (mit_Beschreibung) Projektname_ = Satz.Beschreibung;
+    Projektname_ = Satz.Beschreibung;
 }
 
 void Organiser::waehle_Simulation(int Position) {
-    lies_Simulation_in_Maske(Position, true);
-    gewaehlt_ = true;
+    lies_Simulation_in_Maske(Position);
+    gewaehlt_.fill(true);
     z_.Felder().Beschreibung = Projektname_;
 }
 
 void Organiser::waehle_Satz(Satzart Art, int Position) {
     Listen_.waehle_Platz(Art, Position);
-    gewaehlt_ = true;
+    gewaehlt_[Art] = true;
 }
 
 void Organiser::aendere_Projektname(const std::string& Text) {
@@ -94,7 +90,7 @@ void Organiser::aendere_Projektname(const std::string& Text) {
 
 // What a command has selected acts as if the user had chosen it.
 void Organiser::waehle_mit_Inhalt(Satzart Art) {
-    gewaehlt_ = true;
+    gewaehlt_[Art] = true;
     if (Art != Simulation || Listen_.Auswahl(Simulation) < 0) return;
     // Nothing of the simulation selected before may be written over this one if it cannot be read.
     Projektname_.clear();
@@ -105,15 +101,17 @@ void Organiser::waehle_mit_Inhalt(Satzart Art) {
 
 void Organiser::kopiere(Satzart Art) {
     const std::vector<std::string> vorher = Listen_.Listen[Art];
+    z_.Statuszeile.clear();
     if (!Befehle_.kopiere(Art)) return;
     // The copy may have replaced the file of what the main screen shows.
     const std::string neu = Listen_.gewaehlt(Art);
-    if (enthaelt(vorher, neu) && z_.gewaehlt(Art) == neu) entwerte_im_Hauptformular(Art);
+    if (enthaelt(vorher, neu) && z_.gewaehlt(Art) == neu) entwerte_im_Hauptformular(Art, Texte::Satz_ersetzt);
     ziehe_Hauptformular_nach(Art);
     waehle_mit_Inhalt(Art);
 }
 
 void Organiser::loesche(Satzart Art) {
+    z_.Statuszeile.clear();
     if (!Befehle_.loesche(Art)) return;
     ziehe_Hauptformular_nach(Art);
     waehle_mit_Inhalt(Art);
@@ -127,7 +125,7 @@ bool Organiser::benenne_um(Satzart Art, const std::string& Text, bool mit_Frage)
     umbenannt_ = true;
     const std::string neu = Listen_.gewaehlt(Art);
     // A file of that name was replaced if the main screen shows what stood in it.
-    if (z_.gewaehlt(Art) == neu) entwerte_im_Hauptformular(Art);
+    if (z_.gewaehlt(Art) == neu) entwerte_im_Hauptformular(Art, Texte::Satz_ersetzt);
     ziehe_Hauptformular_nach(Art, alt, neu);
     Saetze_.nenne_Simulationen_mit(Art, alt, Listen_);
     return true;
@@ -144,18 +142,19 @@ void Organiser::ziehe_Hauptformular_nach(Satzart Art, const std::string& alt, co
         if (enthaelt(vorher, Name) || (Name == neu && enthaelt(vorher, alt))) z_.Listen[Art].push_back(Name);
     }
     // Gone, or another file under the name of one that was missing.
-    if (gezeigt.empty() != (z_.Auswahl(Art) < 0)) entwerte_im_Hauptformular(Art);
+    if (gezeigt.empty() != (z_.Auswahl(Art) < 0))
+        entwerte_im_Hauptformular(Art, gezeigt.empty() ? Texte::Satz_ersetzt : Texte::Satz_geloescht);
     if (!umbenannt) return;
     Waechter_.merke_Namen(Art, neu);
-    if (z_.Gestartet) z_.Geaendert[0] = z_.Simulation_markiert = true;
+    if (z_.Gestartet) z_.Saetze[0].Geaendert = z_.Simulation_markiert = true;
 }
 
 // The file of what the main screen shows is gone: a save from there must not bring it back under a name that is taken by now.
-void Organiser::entwerte_im_Hauptformular(Satzart Art) {
+void Organiser::entwerte_im_Hauptformular(Satzart Art, const char* Grund) {
     sichere({Art});
-    z_.Geaendert[Art] = false;
-    z_.nicht_gelesen[Art] = true;
-    decke_ab(z_, Texte::Satz_geloescht);
+    z_.Saetze[Art].Geaendert = false;
+    z_.Saetze[Art].gelesen = false;
+    z_.Saetze[Art].Grund = Grund;
 }
 
 // The description of another simulation may stand on the main screen by now.
@@ -168,7 +167,7 @@ void Organiser::sichere(const std::vector<Satzart>& Arten) {
 std::string Organiser::Einwand_gegen_Bearbeiten() const {
     const std::string Name = Listen_.gewaehlt(Szenario);
     if (Name.empty()) return "No scenario is selected.";
-    if (Name == z_.gewaehlt(Szenario) && !z_.nicht_gelesen[Szenario]) return {};
+    if (Name == z_.gewaehlt(Szenario) && z_.Saetze[Szenario].gelesen) return {};
     return "The scenario \"" + Name + "\" is not loaded: leave with \"Done\", then it can be edited on the main screen.";
 }
 
@@ -186,11 +185,21 @@ void Organiser::beende_Bearbeiten() {
     Befehle_.lies_Liste(Szenario);
 }
 
-// Other names than those on the screen, over the values there, would be wrong in all that follows.
-bool Organiser::ist_Lauf_faellig() const {
-    return gewaehlt_ || std::any_of(alle_Arten.begin(), alle_Arten.end(), [this](Satzart Art) {
-               return Listen_.gewaehlt(Art) != z_.gewaehlt(Art) || z_.nicht_gelesen[Art];
-           });
+// Other names than those on the screen, over the values there, would be wrong in all that follows; what was chosen here is read
+// as it is when chosen there.
+bool Organiser::ist_zu_lesen(Satzart Art) const {
+    return gewaehlt_[Art] || Listen_.gewaehlt(Art) != z_.gewaehlt(Art) || !z_.Saetze[Art].gelesen;
+}
+
+std::vector<Satzart> Organiser::zu_lesende() const {
+    std::vector<Satzart> Arten;
+    for (const Satzart Art : alle_Arten) {
+        // The editor's values belong to the scenario that stays.
+        const bool steht = Art == Szenario && Szenario_bearbeitet_ && z_.Saetze[Szenario].gelesen &&
+                           Listen_.gewaehlt(Szenario) == z_.gewaehlt(Szenario);
+        if (ist_zu_lesen(Art) && !steht) Arten.push_back(Art);
+    }
+    return Arten;
 }
 
 bool Organiser::ist_vollstaendig() const {
@@ -217,25 +226,26 @@ void Organiser::pruefe_Dateien() {
 
 bool Organiser::uebernimm() {
     if (!ist_vollstaendig()) return false;
-    const bool Lauf = ist_Lauf_faellig();
+    const bool Lauf = std::any_of(alle_Arten.begin(), alle_Arten.end(), [this](Satzart Art) { return ist_zu_lesen(Art); });
     const bool schreiben = Lauf || umbenannt_ || Projektname_ != alter_Projektname_;
     if (!schreiben) {
         gib_Listen_weiter();
         return true;
     }
     pruefe_Dateien();
-    // The editor's values belong to the scenario that stays.
-    const bool Szenario_steht =
-        Szenario_bearbeitet_ && !z_.nicht_gelesen[Szenario] && Listen_.gewaehlt(Szenario) == z_.gewaehlt(Szenario);
-    if (Lauf) sichere(Szenario_steht ? std::vector{Simulation, Wirkstoff, Applikation} : alle_Arten);
+    const std::vector<Satzart> Arten = zu_lesende();
+    z_.Statuszeile.clear();
+    sichere(Arten);
     const bool andere_Beschreibung = Projektname_ != alte_Beschreibung_;
     if (!uebergib()) return false;
     if (andere_Beschreibung) z_.Ergebnisdatei.clear();
-    z_.Geaendert[0] = z_.Simulation_markiert = false;
+    z_.Saetze[0].Geaendert = z_.Simulation_markiert = false;
     Lauf_ = Lauf;
     if (!Lauf) return true;
-    z_.nicht_gelesen = {false, true, true, !Szenario_steht};
-    decke_ab(z_, Texte::Eingabe_geaendert);
+    for (const Satzart Art : Arten) {
+        z_.Saetze[Art].gelesen = Art == Simulation;
+        z_.Saetze[Art].Grund.clear();
+    }
     return true;
 }
 
@@ -247,12 +257,12 @@ bool Organiser::uebergib() {
     const Merkstand vorher(z_);
     gib_Listen_weiter();
     z_.Felder().Beschreibung = Projektname_;
-    z_.Dateistaende[Simulation] = {z_.gewaehlt(Simulation), gelesen_};
-    z_.nicht_gelesen[Simulation] = false;
+    z_.Saetze[Simulation].Datei = {z_.gewaehlt(Simulation), gelesen_};
+    z_.Saetze[Simulation].gelesen = true;
     if (z_.Auswahl(Simulation) < 0) return true;  // the folder has no simulation
     bool geschrieben = false;
     try {
-        geschrieben = Waechter_.schreibe({Simulation});
+        geschrieben = Waechter_.schreibe({Simulation}) == Schreibausgang::geschrieben;
     } catch (...) {
         vorher.stelle_her(z_);
         throw;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <string>
 #include <vector>
 
@@ -16,8 +17,8 @@ class Organiser {
 public:
     Organiser(Zustand& z, Satzverwaltung& Saetze) : z_(z), Saetze_(Saetze), Befehle_(z, Listen_) {}
 
-    // Fills the lists from the project folder and shows the simulation of the main screen with the records of its file; its
-    // description is that of the main screen. A file that cannot be read throws; the dialog then shows what the main screen does.
+    // Fills the lists from the project folder and shows what the main screen shows: simulation, records, description. Without a
+    // simulation there, the last one of the list with the records of its file; one that cannot be read throws.
     void oeffne();
 
     const Satzlisten& Listen() const { return Listen_; }
@@ -51,16 +52,17 @@ public:
 
 private:
     std::string Szenariowerte() const;
-    void lies_Simulation_in_Maske(int Position, bool mit_Beschreibung);
+    void lies_Simulation_in_Maske(int Position);
     void waehle_mit_Inhalt(Satzart Art);
-    bool ist_Lauf_faellig() const;
+    bool ist_zu_lesen(Satzart Art) const;
+    std::vector<Satzart> zu_lesende() const;
     bool ist_vollstaendig() const;
     void pruefe_Dateien();
     void sichere(const std::vector<Satzart>& Arten);
     bool uebergib();
     void gib_Listen_weiter();
     void ziehe_Hauptformular_nach(Satzart Art, const std::string& alt = {}, const std::string& neu = {});
-    void entwerte_im_Hauptformular(Satzart Art);
+    void entwerte_im_Hauptformular(Satzart Art, const char* Grund);
 
     Zustand& z_;
     Satzverwaltung& Saetze_;
@@ -68,11 +70,11 @@ private:
     Satzbefehle Befehle_;
     Satzwaechter Waechter_{z_};
     std::string Projektname_;
-    std::string alter_Projektname_;  // as the dialog showed it first
-    std::string alte_Beschreibung_;  // of the main screen, before the dialog was opened
-    std::string gelesen_;            // the summary file as the dialog read it
-    bool gewaehlt_ = false;          // the user chose something: a run is due
-    bool umbenannt_ = false;         // the summary file may name a record that is called otherwise now
+    std::string alter_Projektname_;   // as the dialog showed it first
+    std::string alte_Beschreibung_;   // of the main screen, before the dialog was opened
+    std::string gelesen_;             // the summary file as the dialog read it
+    std::array<bool, 4> gewaehlt_{};  // what the user chose is read, also under the same name
+    bool umbenannt_ = false;          // the summary file may name a record that is called otherwise now
     bool Szenario_bearbeitet_ = false;
     std::string Szenario_vorher_;  // the values on the screen as a record, before the editor
     bool Lauf_ = false;            // `schliesse_ab` reads and runs

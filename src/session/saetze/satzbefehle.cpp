@@ -98,9 +98,12 @@ bool Satzbefehle::kopiere(Satzart Art) {
 }
 
 bool Satzbefehle::loesche(Satzart Art, std::vector<Sicherungsstueck> dazu) {
-    const Frage f{"Delete record", "Do you really want to delete this record?", Symbol::Frage, {Knopf::Ja, Knopf::Nein}};
     const std::string Pfad = Pfad_des_gewaehlten(Art);
     const std::string Name = Listen_.gewaehlt(Art);
+    const Frage f{"Delete record",
+                  Texte::mit_Satzname("Do you really want to delete this record?", Name),
+                  Symbol::Frage,
+                  {Knopf::Ja, Knopf::Nein}};
     lies_Liste(Art);  // the last one counts in the folder, whatever the list has shown
     const bool letzte = Listen_.Listen[Art].size() < 2;
     if (letzte) throw Laufzeitfehler("\"" + Name + Endungen[Art] + "\" is the last of its kind and stays.");

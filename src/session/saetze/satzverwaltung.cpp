@@ -21,24 +21,57 @@ void Satzverwaltung::fuelle_Listen() {
     for (const Satzart Art : alle_Arten) Befehle_.lies_Liste(Art);
 }
 
+// What the screen shows stays there under the cover; it is not the record that the selector names, so it is never saved or asked
+// for.
+void Satzverwaltung::erklaere_ungelesen(Satzart Art, const std::string& Grund) {
+    z_.Saetze[Art].gelesen = z_.Saetze[Art].Geaendert = false;
+    z_.Saetze[Art].Grund = Grund;
+    z_.Verlauf_beginnt = true;
+    stelle_voran(Grund + ".");
+}
+
+// Only where its kind has no record at all is there nothing to choose.
+void Satzverwaltung::erklaere_fehlend(Satzart Art) {
+    const std::string Name = z_.Namen[Art];
+    const std::string Grund = Name.empty() ? Texte::Satz_fehlt : Texte::fehlender_Satz(Name + Endungen[Art]);
+    Befehle_.lies_Liste(Art);
+    if (z_.Saetze[Art].gelesen) {
+        stelle_voran(Grund + ".");  // the values are still those of the file that is gone, and kept as such
+    } else {
+        erklaere_ungelesen(Art, Grund);
+    }
+    if (z_.Listen[Art].empty())
+        beende_oder_stelle_her(z_, *this, "File " + Name + " is missing. Should the default settings be loaded ", beim_Start_);
+}
+
 bool Satzverwaltung::lies_Satz(Satzart Art, const std::string& Satzname) {
     const int alte_TWA_Zeiten = z_.Parameter().TWA_Zeiten;
-    const Lesebefund Befund = Satz_lesen(*z_.Ordner, Satzname, Art, z_.Vorgabe, z_.Sicht, z_.Welt.Dezimalzeichen);
-    if (Befund.Ausgang == Leseausgang::fehlt) {
-        beende_oder_stelle_her(z_, *this, "File " + Satzname + " is missing. Should the default settings be loaded ");
+    Lesebefund Befund;
+    try {
+        Befund = Satz_lesen(*z_.Ordner, Satzname, Art, z_.Vorgabe, z_.Sicht, z_.Welt.Dezimalzeichen);
+    } catch (const Laufzeitfehler& f) {
+        erklaere_ungelesen(Art, f.what());
+        melde(z_, Texte::Laufzeitfehler, f.what());
         return false;
     }
-    if (Befund.Ausgang == Leseausgang::gelesen) {
-        z_.Geaendert[Art] = false;
-    } else {
-        z_.Statuszeile = Satzname + Endungen[Art] + ", line " + std::to_string(Befund.Zeile) + ": " + Befund.Grund;
+    if (Befund.Ausgang == Leseausgang::fehlt) {
+        erklaere_fehlend(Art);
+        return false;
     }
-    z_.nicht_gelesen[Art] = false;
+    if (Befund.Ausgang == Leseausgang::abgebrochen) {
+        erklaere_ungelesen(Art, Satzname + Endungen[Art] + ", line " + std::to_string(Befund.Zeile) + ": " + Befund.Grund);
+        return false;
+    }
+    z_.Saetze[Art].Geaendert = false;
+    z_.Saetze[Art].gelesen = true;
+    z_.Saetze[Art].Grund.clear();
+    z_.Verlauf_beginnt = true;
+    if (Art == Applikation) z_.Zeilenvorrat.clear();
     Waechter_.merke(Art, Satzname);
-    Laeufe_.verwirf_alle();
     if (Art == Wirkstoff) nach_Wirkstoff(alte_TWA_Zeiten);
     if (Art == Applikation) Diagramme_.setze_Bereiche_nach_Ansicht();
     Diagramme_.bringe_nach_vorn(z_.Sicht.Substanz);
+    Waechter_.merke_Gespeichertes(Art);
     return true;
 }
 
@@ -50,100 +83,95 @@ void Satzverwaltung::nach_Wirkstoff(int alte_TWA_Zeiten) {
     Felder_.fuelle();
 }
 
-bool Satzverwaltung::lade_Start(const std::string& Simulation) {
-    const Simulationssatz Satz = lies_Simulation(*z_.Ordner, Simulation);
+void Satzverwaltung::uebernimm(const std::string& Simulation, const Simulationssatz& Satz) {
     z_.Felder().Beschreibung = Satz.Beschreibung;
     z_.Namen = Satz.Dateinamen;
-    z_.Namen[0] = Simulation;
+    z_.Namen[varnok::Simulation] = Simulation;
     Waechter_.merke(varnok::Simulation, Simulation);
-    for (const Satzart Art : {Wirkstoff, Szenario, Applikation}) {
-        if (!lies_Satz(Art, Satz.Dateinamen[Art])) return false;
+    for (Satzplatz& p : z_.Saetze) {
+        p.gelesen = p.Geaendert = false;
+        p.Grund.clear();
     }
+    z_.Saetze[varnok::Simulation].gelesen = true;
+    z_.Simulation_markiert = false;
+    Waechter_.merke_Gespeichertes(varnok::Simulation);
+}
+
+void Satzverwaltung::lade_Start(const std::string& Simulation) {
+    uebernimm(Simulation, lies_Simulation(*z_.Ordner, Simulation));
+    beim_Start_ = true;
+    lies_fehlende_Saetze();
+    beim_Start_ = false;
     Diagramme_.setze_Startbereiche();
-    z_.Geaendert.fill(false);
-    z_.Neu_berechnen = true;
-    return true;
 }
 
 void Satzverwaltung::waehle_Simulation(int Position) {
     const std::string Simulation = z_.Listen[0].at(static_cast<std::size_t>(Position));
     const std::string Fremdes = Waechter_.Fremdes(alle_Arten);
-    decke_ab(z_, Texte::Eingabe_geaendert);
     if (!z_.Ordner->finde(Simulation, Endungen[0])) Befehle_.lies_Liste(varnok::Simulation);
     const Simulationssatz Satz = lies_Simulation(*z_.Ordner, Simulation);
     z_.Statuszeile.clear();
     sichere_Ungesichertes();
     stelle_voran(Fremdes);
-    Waechter_.merke(varnok::Simulation, Simulation);
-    z_.Felder().Beschreibung = Satz.Beschreibung;
-    z_.Neu_berechnen = false;
-    z_.Namen = Satz.Dateinamen;
-    z_.Namen[0] = Simulation;
+    uebernimm(Simulation, Satz);
     for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) Befehle_.lies_Liste(Art);  // a record that went is not found
-    z_.nicht_gelesen = {false, true, true, true};
-    if (!z_.Gestartet) z_.nicht_gelesen.fill(false);
-    if (!lies_fehlende_Saetze()) return;
-    z_.Geaendert[0] = false;
-    z_.Simulation_markiert = false;
-    schliesse_Laden_ab();
+    if (lies_fehlende_Saetze()) schliesse_Laden_ab();
 }
 
-// Reads the records that the selectors name and that were not read, up to the first selector without an entry.
+// Reads the records that the selectors name and that were not read, up to the first that is missing or cannot be read.
 bool Satzverwaltung::lies_fehlende_Saetze() {
     for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) {
+        if (z_.Auswahl(Art) < 0) Befehle_.lies_Liste(Art);  // it may have come meanwhile
         if (z_.Auswahl(Art) < 0) {
-            decke_ab(z_, Texte::Satz_fehlt);
-            z_.Neu_berechnen = false;
+            erklaere_fehlend(Art);
             return false;
         }
-        if (z_.nicht_gelesen[Art] && !lies_Satz(Art, z_.gewaehlt(Art))) return false;
+        if (!z_.Saetze[Art].gelesen && !lies_Satz(Art, z_.gewaehlt(Art))) return false;
     }
     return true;
 }
 
-void Satzverwaltung::schliesse_Laden_ab() {
-    z_.Neu_berechnen = true;
-    Laeufe_.berechne();
-}
+void Satzverwaltung::schliesse_Laden_ab() { Laeufe_.berechne(); }
 
 void Satzverwaltung::merke_Kombination() {
     if (!z_.Gestartet) return;
-    z_.Geaendert[0] = true;
+    z_.Saetze[0].Geaendert = true;
     z_.Simulation_markiert = true;
 }
 
-// False if a save was refused; the values on the screen then keep their record.
-bool Satzverwaltung::verlasse_Satz(Satzart Art) {
-    if (z_.Geaendert[Art] && frage_Sicherung(Art) == Sicherung::verweigert) return false;
-    sichere_vor_dem_Lesen(Art);
-    return true;
-}
-
 void Satzverwaltung::waehle_Satz(Satzart Art, int Position) {
+    const std::string neu = z_.Listen[Art].at(static_cast<std::size_t>(Position));
     const std::string Fremdes = Waechter_.Fremdes({Art});
     const std::string vorher = z_.Namen[Art];
-    const bool geaendert = z_.Geaendert[Simulation];
+    const bool geaendert = z_.Saetze[Simulation].Geaendert;
     const bool markiert = z_.Simulation_markiert;
     const auto kehre_zurueck = [&] {
         z_.Namen[Art] = vorher;
-        z_.Geaendert[Simulation] = geaendert;
+        z_.Saetze[Simulation].Geaendert = geaendert;
         z_.Simulation_markiert = markiert;
     };
+    const Knopf Antwort = wird_gefragt(Art) ? frage_Sicherung(Art, neu) : Knopf::Nein;
+    if (Antwort == Knopf::nicht_jetzt) return;
     z_.Statuszeile.clear();
     // The selector shows the record chosen already, so Yes stores the values of the record left under the name of the one chosen.
-    z_.waehle_Platz(Art, Position);
+    z_.Namen[Art] = neu;
     merke_Kombination();
     try {
-        if (!verlasse_Satz(Art)) return kehre_zurueck();
+        if (Antwort == Knopf::Ja && !speichere_Arten({Art})) return kehre_zurueck();
+        sichere_vor_dem_Lesen(Art);
     } catch (...) {
         kehre_zurueck();
         throw;
     }
     stelle_voran(Fremdes);
-    z_.Geaendert[Art] = false;
-    z_.nicht_gelesen[Art] = true;
-    if (!lies_fehlende_Saetze()) return;
-    schliesse_Laden_ab();
+    verlange(Art);
+    if (lies_fehlende_Saetze()) schliesse_Laden_ab();
+}
+
+// What the selector names is not on the screen yet.
+void Satzverwaltung::verlange(Satzart Art) {
+    z_.Saetze[Art].gelesen = z_.Saetze[Art].Geaendert = false;
+    z_.Saetze[Art].Grund.clear();
 }
 
 void Satzverwaltung::lege_an(Satzart Art) {
@@ -153,11 +181,9 @@ void Satzverwaltung::lege_an(Satzart Art) {
     sichere_vor_dem_Lesen(Art);
     Befehle_.lege_an(Art);
     stelle_voran(Fremdes);
-    z_.Geaendert[Art] = false;
     merke_Kombination();
-    z_.nicht_gelesen[Art] = true;
-    if (!lies_fehlende_Saetze()) return;
-    schliesse_Laden_ab();
+    verlange(Art);
+    if (lies_fehlende_Saetze()) schliesse_Laden_ab();
 }
 
 void Satzverwaltung::kopiere(Satzart Art) {
@@ -175,10 +201,10 @@ void Satzverwaltung::loesche(Satzart Art) {
     z_.Statuszeile.clear();
     if (!Befehle_.loesche(Art, Waechter_.Ungesichertes({Art}))) return;
     stelle_voran(Fremdes);
-    z_.nicht_gelesen[Art] = true;
-    z_.Geaendert[Art] = false;
-    z_.Neu_berechnen = true;
-    decke_ab(z_, Texte::Satz_geloescht);
+    z_.Saetze[Art].gelesen = false;
+    z_.Saetze[Art].Grund = Texte::Satz_geloescht;
+    z_.Verlauf_beginnt = true;
+    z_.Saetze[Art].Geaendert = false;
 }
 
 bool Satzverwaltung::benenne_um(Satzart Art, const std::string& Text, bool mit_Frage) {
@@ -188,6 +214,7 @@ bool Satzverwaltung::benenne_um(Satzart Art, const std::string& Text, bool mit_F
     const Umbenennung Ausgang = Befehle_.benenne_um(Art, Text, mit_Frage);
     if (Ausgang != Umbenennung::erfolgt) return Ausgang == Umbenennung::unveraendert;
     Waechter_.merke_Namen(Art, z_.gewaehlt(Art));
+    z_.Verlauf_beginnt = true;
     merke_Kombination();
     nenne_Simulationen_mit(Art, alt, z_);
     stelle_voran(Fremdes);
@@ -213,7 +240,7 @@ void Satzverwaltung::nenne_Simulationen_mit(Satzart Art, const std::string& Name
 void Satzverwaltung::sichere_vor_dem_Lesen(Satzart Art) {
     std::vector<Satzart> Arten;
     for (const Satzart a : {Wirkstoff, Applikation, Szenario}) {
-        if (a == Art || z_.nicht_gelesen[a]) Arten.push_back(a);
+        if (a == Art || !z_.Saetze[a].gelesen) Arten.push_back(a);
     }
     Waechter_.sichere_Ungesichertes(Arten);
 }
@@ -224,20 +251,20 @@ void Satzverwaltung::stelle_voran(const std::string& Hinweis) {
 }
 
 bool Satzverwaltung::lies_nach() {
-    if (z_.nicht_gelesen[Simulation] && z_.Auswahl(Simulation) >= 0) {
+    if (!z_.Saetze[Simulation].gelesen && z_.Auswahl(Simulation) >= 0) {
         waehle_Simulation(z_.Auswahl(Simulation));
         return true;
     }
-    if (Laeufe_.Saetze_vollstaendig() || !lies_fehlende_Saetze()) return false;
+    if (z_.Saetze_vollstaendig() || !lies_fehlende_Saetze()) return false;
     schliesse_Laden_ab();
     return true;
 }
 
 bool Satzverwaltung::aktualisiere() {
-    if (z_.nicht_gelesen[Simulation] && z_.Auswahl(Simulation) >= 0) return lies_nach();
+    if (!z_.Saetze[Simulation].gelesen && z_.Auswahl(Simulation) >= 0) return lies_nach();
     const std::string Fremdes = Waechter_.Fremdes(alle_Arten);
     z_.Statuszeile.clear();
-    if (!Laeufe_.Saetze_vollstaendig()) sichere_vor_dem_Lesen(Simulation);
+    if (!z_.Saetze_vollstaendig()) sichere_vor_dem_Lesen(Simulation);
     stelle_voran(Fremdes);
     if (!lies_nach()) return false;
     merke_Kombination();
@@ -245,8 +272,8 @@ bool Satzverwaltung::aktualisiere() {
 }
 
 void Satzverwaltung::lies_Szenario_nach() {
-    if (!z_.nicht_gelesen[Szenario] || z_.Auswahl(Szenario) < 0 || !lies_Satz(Szenario, z_.gewaehlt(Szenario))) return;
-    if (Laeufe_.Saetze_vollstaendig()) schliesse_Laden_ab();
+    if (z_.Saetze[Szenario].gelesen || z_.Auswahl(Szenario) < 0 || !lies_Satz(Szenario, z_.gewaehlt(Szenario))) return;
+    if (z_.Saetze_vollstaendig()) schliesse_Laden_ab();
 }
 
 bool Satzverwaltung::pruefe_Auswahl(const std::vector<Knopf>& Knoepfe) {
@@ -258,53 +285,79 @@ bool Satzverwaltung::pruefe_Auswahl(const std::vector<Knopf>& Knoepfe) {
     return true;
 }
 
-void Satzverwaltung::schreibe_Zusammenfassungsdatei() {
-    if (!z_.nicht_gelesen[Simulation]) {
-        if (!Waechter_.schreibe({Simulation})) Waechter_.sichere_Ungesichertes({Simulation});
-        return;
-    }
-    Waechter_.sichere_Ungesichertes({Simulation});
-    if (const auto Pfad = z_.Ordner->finde(z_.gewaehlt(Simulation), Endungen[Simulation])) {
-        kopiere_Datei(*Pfad, *Pfad);
-    }
+bool Satzverwaltung::schreibe_Zusammenfassungsdatei() {
+    if (z_.Saetze[Simulation].gelesen) return Waechter_.schreibe({Simulation}) != Schreibausgang::nicht_jetzt;
+    if (const auto Pfad = z_.Ordner->finde(z_.gewaehlt(Simulation), Endungen[Simulation])) kopiere_Datei(*Pfad, *Pfad);
+    return true;
 }
 
 void Satzverwaltung::sichere_Ungesichertes(std::vector<Sicherungsstueck> dazu) {
     Waechter_.sichere_Ungesichertes(alle_Arten, std::move(dazu));
 }
 
-bool Satzverwaltung::speichere() {
+bool Satzverwaltung::speichere() { return speichere_Arten({Wirkstoff, Applikation, Szenario}); }
+
+bool Satzverwaltung::speichere_Arten(std::vector<Satzart> Arten) {
     if (!pruefe_Auswahl({Knopf::OK, Knopf::Abbrechen})) return false;
-    const std::string Fremdes = Waechter_.Fremdes(alle_Arten);
-    z_.Statuszeile.clear();
-    if (!Waechter_.schreibe(alle_Arten)) return false;
-    if (z_.Auswahl(Simulation) < 0) Befehle_.lies_Liste(Simulation);
-    for (std::size_t Art = 1; Art <= 3; ++Art) z_.Geaendert[Art] = false;
-    z_.Simulation_markiert = false;
-    for (const Satzart Art : alle_Arten) {
-        if (z_.nicht_gelesen[Art]) stelle_voran("\"" + z_.gewaehlt(Art) + Endungen[Art] + "\" was not read and stays.");
+    Arten.insert(Arten.begin(), Simulation);
+    const std::string Fremdes = Waechter_.Fremdes(Arten);
+    const std::string bisher = std::exchange(z_.Statuszeile, "");
+    if (Waechter_.schreibe(Arten) != Schreibausgang::geschrieben) {
+        z_.Statuszeile = bisher;
+        return false;
     }
+    if (z_.Auswahl(Simulation) < 0) Befehle_.lies_Liste(Simulation);
+    for (const Satzart Art : Arten) {
+        if (Art != Simulation) z_.Saetze[Art].Geaendert = false;
+    }
+    z_.Simulation_markiert = false;
     stelle_voran(Fremdes);
-    stelle_voran("All input data of \"" + z_.gewaehlt(0) + "\" saved.");
+    stelle_voran(Sicherungszeile(Arten));
     return true;
 }
 
-// The question for one changed record.
-Satzverwaltung::Sicherung Satzverwaltung::frage_Sicherung(std::size_t Art) {
-    const std::string Text = std::string("You modified ") + Satzart_Namen[Art] + " input data! " +
-                             " Do you want to save the changes in your data base?";
-    const Knopf Antwort =
-        z_.Welt.Fragen->frage({Texte::Aenderungen_sichern, Text, Symbol::Ausrufezeichen, {Knopf::Ja, Knopf::Nein}});
-    if (Antwort != Knopf::Ja) return Sicherung::keine;
-    return speichere() ? Sicherung::erfolgt : Sicherung::verweigert;
+// Nothing is called saved that is not.
+std::string Satzverwaltung::Sicherungszeile(const std::vector<Satzart>& Arten) const {
+    std::string gesichert, ungelesen;
+    for (const Satzart Art : Arten) {
+        if (z_.Namen[Art].empty()) continue;
+        const std::string Datei = "\"" + z_.Namen[Art] + Endungen[Art] + "\"";
+        if (z_.Saetze[Art].gelesen) {
+            gesichert += (gesichert.empty() ? "" : ", ") + Datei;
+        } else {
+            ungelesen += (ungelesen.empty() ? "" : " ") + Datei + " was not read and stays.";
+        }
+    }
+    const bool alles = ungelesen.empty() && Arten.size() == alle_Arten.size() && !z_.gewaehlt(Simulation).empty();
+    if (alles) return "All input data of \"" + z_.gewaehlt(Simulation) + "\" saved.";
+    if (!gesichert.empty()) gesichert = "Saved: " + gesichert + ".";
+    return gesichert + (gesichert.empty() || ungelesen.empty() ? "" : " ") + ungelesen;
 }
 
-Satzverwaltung::Sicherung Satzverwaltung::frage_nach_Sicherung() {
-    for (std::size_t Art = 1; Art <= 3; ++Art) {
-        const Sicherung Ausgang = z_.Geaendert[Art] ? frage_Sicherung(Art) : Sicherung::keine;
-        if (Ausgang != Sicherung::keine) return Ausgang;  // a Yes has saved all of them
+// A place that was not read holds nothing that could be saved.
+bool Satzverwaltung::wird_gefragt(Satzart Art) const { return z_.Saetze[Art].Geaendert && z_.Saetze[Art].gelesen; }
+
+// The question for one changed record, which a Yes writes under the name `Ziel`.
+Knopf Satzverwaltung::frage_Sicherung(Satzart Art, const std::string& Ziel) const {
+    const std::string Text = std::string("You modified ") + Satzart_Namen[Art] + " input data! " +
+                             " Do you want to save the changes in your data base?";
+    Frage f{Texte::Aenderungen_sichern, Texte::mit_Satzname(Text, Ziel), Symbol::Ausrufezeichen, {Knopf::Ja, Knopf::Nein}};
+    if (Ziel != z_.Namen[Art]) {
+        f.Text = Text + "\nYes writes these values to '" + Ziel + "'; what '" + Ziel + "' holds now goes to backup.";
+        f.ohne_Vorgabe = true;
     }
-    return Sicherung::keine;
+    return z_.Welt.Fragen->frage(f);
+}
+
+std::optional<std::vector<Satzart>> Satzverwaltung::frage_nach_Sicherung() const {
+    std::vector<Satzart> zu_sichern;
+    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) {
+        if (!wird_gefragt(Art)) continue;
+        const Knopf Antwort = frage_Sicherung(Art, z_.Namen[Art]);
+        if (Antwort == Knopf::nicht_jetzt) return std::nullopt;
+        if (Antwort == Knopf::Ja) zu_sichern.push_back(Art);
+    }
+    return zu_sichern;
 }
 
 }  // namespace varnok

@@ -1,5 +1,9 @@
 #pragma once
 
+#include <optional>
+#include <string>
+#include <vector>
+
 #include "records/satz.h"
 #include "records/simulation.h"
 #include "session/eingabe/feldeingabe.h"
@@ -18,8 +22,8 @@ public:
     // Reads the entries of all four selectors from the project folder.
     void fuelle_Listen();
 
-    // Reads the records of the summary file for the start of the program. False if the program ends.
-    bool lade_Start(const std::string& Simulation);
+    // Reads summary file and records for the start of the program. Throws Laufzeitfehler where the summary file cannot be used.
+    void lade_Start(const std::string& Simulation);
 
     // The user chose an entry.
     void waehle_Simulation(int Position);
@@ -42,25 +46,32 @@ public:
     // Reads the scenario alone, if the selector names one that was not read. A run follows once all three are there.
     void lies_Szenario_nach();
 
-    // Summary file and all three records. False if it was refused; the message has been shown.
+    // Summary file and all three records. False if it was refused or put off; the message has been shown.
     bool speichere();
+    // The same for the summary file and these records.
+    bool speichere_Arten(std::vector<Satzart> Arten);
     // At the end of the program: the summary file of the simulation shown. One that was not read only gets the present time; one
-    // that the user does not want replaced stays, and the combination on the screen goes into `backup`.
-    void schreibe_Zusammenfassungsdatei();
+    // that the user does not want replaced stays. False if he puts the end off.
+    bool schreibe_Zusammenfassungsdatei();
     // Values that no file holds go into `backup`.
     void sichere_Ungesichertes(std::vector<Sicherungsstueck> dazu = {});
-    // Asks for each changed record whether to save; Yes saves all.
-    enum class Sicherung { keine, erfolgt, verweigert };
-    Sicherung frage_nach_Sicherung();
+    // Asks for each changed record whether to save; gives those with a Yes, nothing for "not now". Nothing is done yet.
+    std::optional<std::vector<Satzart>> frage_nach_Sicherung() const;
     bool pruefe_Auswahl(const std::vector<Knopf>& Knoepfe);
 
-    // Reads a record into parameters and fields; no run. False if it is missing and the user's answer ends the program.
+    // Reads a record into parameters and fields; no run. Of one that is missing or cannot be used nothing enters: its place is
+    // not read, with the reason for the cover, and the result is false.
     bool lies_Satz(Satzart Art, const std::string& Name);
 
 private:
     void nach_Wirkstoff(int alte_TWA_Zeiten);
-    Sicherung frage_Sicherung(std::size_t Art);
-    bool verlasse_Satz(Satzart Art);
+    void uebernimm(const std::string& Simulation, const Simulationssatz& Satz);
+    void verlange(Satzart Art);
+    void erklaere_ungelesen(Satzart Art, const std::string& Grund);
+    void erklaere_fehlend(Satzart Art);
+    bool wird_gefragt(Satzart Art) const;
+    Knopf frage_Sicherung(Satzart Art, const std::string& Ziel) const;
+    std::string Sicherungszeile(const std::vector<Satzart>& Arten) const;
     void sichere_vor_dem_Lesen(Satzart Art);
     void stelle_voran(const std::string& Hinweis);
     bool lies_fehlende_Saetze();
@@ -73,6 +84,7 @@ private:
     Diagrammsteuerung& Diagramme_;
     Satzbefehle Befehle_{z_, z_};
     Satzwaechter Waechter_{z_};
+    bool beim_Start_ = false;
 };
 
 }  // namespace varnok

@@ -8,6 +8,8 @@
 
 namespace varnok {
 
+enum class Schreibausgang { geschrieben, verweigert, nicht_jetzt };
+
 // Stands between the values on the screen and the files: nothing that another program or another window wrote is replaced
 // without a question, and what is replaced or dropped is in `backup` before.
 class Satzwaechter {
@@ -16,14 +18,16 @@ public:
 
     // The file of that name was just read or written: its content is known.
     void merke(Satzart Art, const std::string& Name);
+    // The values on the screen are those of the file: what a save would write from now on is what makes a difference.
+    void merke_Gespeichertes(Satzart Art);
     // The file that was read got another name, with its content. A file that was not read is not what the values stand for.
     void merke_Namen(Satzart Art, const std::string& Name) {
-        if (!z_.nicht_gelesen[Art]) z_.Dateistaende[Art].Name = Name;
+        if (z_.Saetze[Art].gelesen) z_.Saetze[Art].Datei.Name = Name;
     }
 
-    // Writes the files that the selectors name from the values on the screen: all of them, or none and false where the user
-    // does not want one replaced. A type that was not read is left out; what was entered for such a record goes into `backup`.
-    bool schreibe(const std::vector<Satzart>& Arten);
+    // Writes the files that the selectors name from the values on the screen: all of them, or none where the user does not want
+    // one replaced, or not now. A type that was not read is left out; what was entered for such a record goes into `backup`.
+    Schreibausgang schreibe(const std::vector<Satzart>& Arten);
 
     // The values that no file holds, of the types given: what the user changed, and what was read from a file that another
     // program has changed or deleted since.
@@ -46,9 +50,8 @@ private:
     Auftrag stelle_zusammen(Satzart Art) const;
     Dateizustand Zustand_der_Datei(Satzart Art) const;
     bool haelt_keine_Datei(Satzart Art) const;
-    bool darf_speichern() const;
-    bool darf_ersetzen(const Auftrag& a, const std::string& vorhanden) const;
-    std::string Dateibytes(Satzart Art) const;
+    Knopf frage_wegen_Fenster() const;
+    Knopf frage_wegen_Ersatz(const Auftrag& a, const std::string& vorhanden) const;
 
     Zustand& z_;
 };

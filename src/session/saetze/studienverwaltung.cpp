@@ -43,16 +43,13 @@ void Studienverwaltung::bestaetige(bool Enter) {
 }
 
 void Studienverwaltung::fuege_an(const std::string& Name) {
-    z_.Geaendert[1] = true;
+    z_.Saetze[1].Geaendert = true;
     z_.Felder().Studie.push_back(Name);
     const int neu = z_.Studienzahl() - 1;
     setze_Startwerte(z_.Parameter(), static_cast<std::size_t>(neu));
     z_.Sicht.Studie_Index = neu;
     z_.Zusammenfassung_aktiv = false;
     Felder_.fuelle();
-    Laeufe_.verwirf_Studie(neu);
-    Laeufe_.markiere_veraltet();
-    z_.Neu_berechnen = true;
     Laeufe_.berechne();
 }
 
@@ -60,8 +57,7 @@ void Studienverwaltung::benenne_um(const std::string& Name) {
     std::string& Platz = z_.Felder().Studie[static_cast<std::size_t>(z_.i_studie())];
     if (Platz == Name) return;
     Platz = Name;
-    z_.Geaendert[1] = true;
-    Laeufe_.zeichne_neu();  // titles and legends carry the name
+    z_.Saetze[1].Geaendert = true;
 }
 
 void Studienverwaltung::loesche() {
@@ -74,13 +70,10 @@ void Studienverwaltung::loesche() {
     setze_Startwerte(z_.Parameter(), z_.Felder().Studie.size());
     z_.Sicht.Studie_Index = std::min(Platz, z_.Studienzahl() - 1);
     // The flag of the application pattern, not that of the compound: the question on exit has always named that record.
-    z_.Geaendert[2] = true;
+    z_.Saetze[2].Geaendert = true;
     if (z_.Studienzahl() == 1) z_.Zusammenfassung_aktiv = false;
     z_.Statuszeile = "Koc, Q10, Walker, To and kinetics of the following studies stay with their place. Please check.";
     Felder_.fuelle();
-    std::fill(z_.gueltig.begin() + Platz, z_.gueltig.end(), false);
-    Laeufe_.markiere_veraltet();
-    z_.Neu_berechnen = true;
     Laeufe_.berechne();
 }
 

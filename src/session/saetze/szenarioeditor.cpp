@@ -4,6 +4,7 @@
 #include <cmath>
 #include <utility>
 
+#include "base/laufzeitfehler.h"
 #include "base/text.h"
 #include "base/zahlen.h"
 #include "records/satztext.h"
@@ -52,8 +53,11 @@ std::string Eintrag(const std::vector<std::string>& Liste, int i) {
 }  // namespace
 
 void Szenarioeditor::oeffne() {
-    Saetze_.lies_Szenario_nach();
     z_.Szenarioeditor_faellig = false;
+    Saetze_.lies_Szenario_nach();
+    // The values of another record would stand there under the name of this one.
+    if (z_.Auswahl(varnok::Szenario) >= 0 && !z_.Saetze[varnok::Szenario].gelesen)
+        throw Laufzeitfehler(z_.Saetze[varnok::Szenario].Grund);
     e_ = {};
     geaendert_ = Lauf_faellig_ = false;
     e_.Klimamodus = z_.Parameter().Klimamodus;
@@ -132,7 +136,7 @@ void Szenarioeditor::waehle_Klimaszenario(int i) {
 }
 
 void Szenarioeditor::merke_Aenderung() {
-    z_.Geaendert[varnok::Szenario] = true;
+    z_.Saetze[varnok::Szenario].Geaendert = true;
     geaendert_ = Lauf_faellig_ = true;
 }
 
@@ -190,21 +194,19 @@ void Szenarioeditor::uebernimm_Klima() {
     if (Klimatext(z_.Vorgabe) == vorher && variabel == war_variabel) return;
     geaendert_ = true;
     if (variabel && Klima_gewaehlt_) merke_Aenderung();
-    Laeufe_.verwirf_alle();
-    Laeufe_.markiere_veraltet();
-    Lauf_faellig_ = Lauf_faellig_ || z_.abgedeckt || (variabel && war_variabel);
+    Lauf_faellig_ = Lauf_faellig_ || z_.abgedeckt() || (variabel && war_variabel);
 }
 
 void Szenarioeditor::uebernimm_Namen() {
     if (e_.Texte[Szenarioentwurf::Bodenszenario] != gezeigt_.Texte[Szenarioentwurf::Bodenszenario]) {
         z_.Felder().Bodenszenario = e_.Texte[Szenarioentwurf::Bodenszenario];
-        z_.Geaendert[varnok::Szenario] = geaendert_ = true;
+        z_.Saetze[varnok::Szenario].Geaendert = geaendert_ = true;
     }
     const std::string Name = Eintrag(e_.Szenarien, e_.Szenario);
     if (Name == z_.gewaehlt(varnok::Szenario)) return;
     z_.Listen[varnok::Szenario] = z_.Ordner->Namen(Endungen[varnok::Szenario]);
     z_.Namen[varnok::Szenario] = Name;
-    z_.Geaendert[0] = z_.Simulation_markiert = true;
+    z_.Saetze[0].Geaendert = z_.Simulation_markiert = true;
 }
 
 void Szenarioeditor::uebernimm() {
@@ -214,7 +216,7 @@ void Szenarioeditor::uebernimm() {
     uebernimm_Namen();
     if (!ohne_Satz || !geaendert_) return;
     // What was entered stands under the name chosen; else `schliesse` reads that record.
-    z_.nicht_gelesen[varnok::Szenario] = false;
+    z_.Saetze[varnok::Szenario].gelesen = true;
     Lauf_faellig_ = true;
 }
 
@@ -222,13 +224,7 @@ void Szenarioeditor::verwirf() { Lauf_faellig_ = false; }
 
 void Szenarioeditor::schliesse() {
     Saetze_.lies_Szenario_nach();
-    if (std::exchange(Lauf_faellig_, false)) {
-        decke_ab(z_, Texte::Eingabe_geaendert);
-        Laeufe_.verwirf_alle();
-        Laeufe_.markiere_veraltet();
-        z_.Neu_berechnen = true;
-        Laeufe_.berechne();
-    }
+    if (std::exchange(Lauf_faellig_, false)) Laeufe_.berechne();
     z_.Szenarioeditor_faellig = false;
 }
 

@@ -96,6 +96,7 @@ void Applikationsschema::keyPressEvent(QKeyEvent* e) {
     } else if (e->matches(QKeySequence::Copy)) {
         kopiere_Zellen(*this);
     } else if (bearbeite(*e)) {
+        zeige();
         Q_EMIT getippt();
     } else {
         QTableWidget::keyPressEvent(e);

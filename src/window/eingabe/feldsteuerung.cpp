@@ -41,9 +41,18 @@ Zahlenfeld* Feldsteuerung::erstelle(const QString& Objektname, QWidget* parent) 
 
 void Feldsteuerung::zeige() {
     for (Zahlenfeld* f : Felder_) {
-        const bool in_Arbeit = steht_im_Fokus(*f) || f->Feld() == Programm_.aktives_Feld();
-        f->zeige(f == getippt_ ? f->text() : in_Qt(Programm_.Feldtext(f->Feld())), in_Arbeit);
+        f->zeige(f == getippt_ ? f->text() : in_Qt(Programm_.Feldtext(f->Feld())), in_Arbeit(*f));
+        if (f->Feld() != Programm_.aktives_Feld()) f->vergiss_Getipptes();
     }
+}
+
+// A field that is not accepted yet stays the one in work while the focus is on its way.
+bool Feldsteuerung::in_Arbeit(const Zahlenfeld& f) const {
+    return Programm_.aktives_Feld() < 0 ? steht_im_Fokus(f) : f.Feld() == Programm_.aktives_Feld();
+}
+
+void Feldsteuerung::faerbe() {
+    for (Zahlenfeld* f : Felder_) f->zeige(f->text(), in_Arbeit(*f));
 }
 
 Zahlenfeld* Feldsteuerung::Feld_in_Arbeit() const {
@@ -64,7 +73,7 @@ bool Feldsteuerung::gib_Fokus_zurueck() {
 // The field left before is checked first: its check stands ahead in the queue of events.
 void Feldsteuerung::merke_Eintritt(Zahlenfeld* f) {
     if (zeigt_) return;
-    f->zeige(f->text(), true);
+    faerbe();
     QTimer::singleShot(0ms, f, [this, f] {
         if (steht_im_Fokus(*f)) beginne(f);
     });
@@ -77,7 +86,7 @@ void Feldsteuerung::beginne(Zahlenfeld* f) {
         if (Programm_.aktives_Feld() >= 0) return;
     }
     Programm_.betrete_Feld(f->Feld());
-    Q_EMIT gehandelt();
+    faerbe();
 }
 
 void Feldsteuerung::merke_Austritt(Zahlenfeld* f) {
@@ -87,7 +96,7 @@ void Feldsteuerung::merke_Austritt(Zahlenfeld* f) {
 
 void Feldsteuerung::verlasse(Zahlenfeld* f) {
     if (Programm_.aktives_Feld() != f->Feld()) {  // accepted meanwhile by a command
-        f->zeige(f->text(), steht_im_Fokus(*f));
+        faerbe();
         return;
     }
     // Come back to, or a box of the program is in front: no leaving.
@@ -108,9 +117,13 @@ void Feldsteuerung::verlasse(Zahlenfeld* f) {
 void Feldsteuerung::tippe(Zahlenfeld* f, const QString& Text) {
     getippt_ = f;
     beginne(f);  // the first key after a command that accepted the field
-    if (Programm_.aktives_Feld() == f->Feld()) Programm_.aendere_Feld(f->Feld(), aus_Qt(Text));
-    Q_EMIT gehandelt();
     getippt_ = nullptr;
+    if (Programm_.aktives_Feld() != f->Feld()) {  // another field keeps the focus
+        zeige();
+        return;
+    }
+    Programm_.aendere_Feld(f->Feld(), aus_Qt(Text));
+    Q_EMIT getippt();
 }
 
 void Feldsteuerung::bestaetige(Zahlenfeld* f) {
@@ -120,11 +133,13 @@ void Feldsteuerung::bestaetige(Zahlenfeld* f) {
         angenommen = Programm_.bestaetige_Feld(f->Feld());
     }
     Q_EMIT gehandelt();
-    // The next number can be typed at once.
-    if (angenommen)
-        f->selectAll();
-    else
+    if (!angenommen) {
         gib_Fokus_zurueck();
+        return;
+    }
+    // The next number can be typed at once.
+    f->vergiss_Getipptes();
+    f->selectAll();
 }
 
 void Feldsteuerung::nimm_zurueck(Zahlenfeld* f) {

@@ -18,7 +18,7 @@ public:
     // The field of that object name.
     Zahlenfeld* erstelle(const QString& Objektname, QWidget* parent);
 
-    // All texts and colours of the fields.
+    // All texts and colours of the fields. One at most is yellow: the one that the session waits for.
     void zeige();
     // Focus that moves between these two is the program's doing: no field counts as entered or left by it.
     void beginne_Zeigen() { zeigt_ = true; }
@@ -28,8 +28,12 @@ public:
 
 Q_SIGNALS:
     void gehandelt();
+    // A key: the field itself shows it.
+    void getippt();
 
 private:
+    bool in_Arbeit(const Zahlenfeld& f) const;
+    void faerbe();
     void beginne(Zahlenfeld* f);
     void tippe(Zahlenfeld* f, const QString& Text);
     void bestaetige(Zahlenfeld* f);

@@ -44,8 +44,13 @@ Kinetikschema::Kinetikschema(Sitzung& Programm, Feldsteuerung& Steuerung, QWidge
 
     Wirkstoffdaten_ = new Reiter(u"Wirkstoffdaten"_s, u"Compound data"_s, this);
     Wirkstoffdaten_->addTab(erstelle_Abbaudaten(Steuerung), u"Degradation"_s);
-    Wirkstoffdaten_->addTab(erstelle_Seite(new Sorptionsdaten(Programm, Steuerung, this)), u"Sorption"_s);
-    Wirkstoffdaten_->addTab(erstelle_Seite(new Metabolismusschema(Programm, Steuerung, this)), u"Metabolism"_s);
+    auto* Sorption = new Sorptionsdaten(Programm, Steuerung, this);
+    auto* Metabolismus = new Metabolismusschema(Programm, Steuerung, this);
+    Wirkstoffdaten_->addTab(erstelle_Seite(Sorption), u"Sorption"_s);
+    Wirkstoffdaten_->addTab(erstelle_Seite(Metabolismus), u"Metabolism"_s);
+    // Each name stands on both pages.
+    connect(Sorption, &Rahmen::getippt, Metabolismus, &Stoffseite::zeige_Namen);
+    connect(Metabolismus, &Rahmen::getippt, Sorption, &Stoffseite::zeige_Namen);
     Spalte->addSpacing(2);
     Spalte->addWidget(Wirkstoffdaten_);
 

@@ -85,13 +85,17 @@ void Stoffseite::ordne_Tabfolge() {
     }
 }
 
+void Stoffseite::zeige_Namen() {
+    for (int c = 0; c < Stoffe; ++c) Zeilen_[static_cast<std::size_t>(c)].Name->zeige(in_Qt(Stoffname(Felder(), c)));
+}
+
 void Stoffseite::zeige() {
+    zeige_Namen();
     const Stoffschema m = Felder().Berechnungsmodus;
     for (int c = 0; c < Stoffe; ++c) {
         Stoffzeile& z = Zeilen_[static_cast<std::size_t>(c)];
         const bool sichtbar = c < Anzahl_Stoffe(m);
         z.Schild->setText(Stoffschild(m, c));
-        z.Name->zeige(in_Qt(Stoffname(Felder(), c)));
         z.Schild->setVisible(sichtbar);
         z.Name->setVisible(sichtbar);
         for (QWidget* Feld : z.Felder) Feld->setVisible(sichtbar);

@@ -21,6 +21,7 @@ public:
     // `Exemplar`: each name stands on two pages, this is the number of the copy.
     Stoffseite(const QString& Name, int Exemplar, Sitzung& Programm, QWidget* parent);
     void zeige() override;
+    void zeige_Namen();
 
 protected:
     // A field below the head of its column; no name leaves the place empty.

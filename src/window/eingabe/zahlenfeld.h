@@ -31,9 +31,14 @@ protected:
     void focusInEvent(QFocusEvent* e) override;
     void focusOutEvent(QFocusEvent* e) override;
     void keyPressEvent(QKeyEvent* e) override;
+    // A double click selects the number as a whole, whatever signs are in it.
+    void mouseDoubleClickEvent(QMouseEvent* e) override;
+    void mouseMoveEvent(QMouseEvent* e) override;
+    void mouseReleaseEvent(QMouseEvent* e) override;
 
 private:
     int Feld_;
+    bool doppelt_geklickt_ = false;  // the button is still held
 };
 
 }  // namespace varnok

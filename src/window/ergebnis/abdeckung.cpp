@@ -15,6 +15,7 @@ Abdeckung::Abdeckung(QWidget* parent) : QWidget(parent) {
 }
 
 void Abdeckung::zeige(bool sichtbar, const QString& Wort) {
+    if (sichtbar != isHidden() && Wort == Wort_) return;
     Wort_ = Wort;
     setAccessibleName(Wort);
     setVisible(sichtbar);

@@ -69,7 +69,7 @@ Diagrammflaeche* Ergebnisbereich::Flaeche_vorn(const Seite& s) const {
 Diagrammflaeche* Ergebnisbereich::Flaeche_fuer_Befehl() {
     bool frei = true;
     if (Programm_.aktives_Feld() >= 0) handle([&] { frei = Programm_.schliesse_Feld_ab(); });
-    if (!frei || Stand().abgedeckt || !Stand().Gestartet) return nullptr;
+    if (!frei || Stand().abgedeckt() || !Stand().Gestartet) return nullptr;
     Diagrammflaeche* d = Flaeche_vorn(Seiten_[Felder().Berechnungsmodus]);
     return d->Inhalt() ? d : nullptr;
 }
@@ -151,7 +151,7 @@ void Ergebnisbereich::zeige_Ergebnisse(Seite& s) {
             if (d->Tafel()) d->Tafel()->erlaube(mit_Tafel);
         }
     }
-    if (!Stand().abgedeckt && Zeichnung_ != Stand().Zeichnung) {
+    if (!Stand().abgedeckt() && Zeichnung_ != Stand().Zeichnung) {
         Zeichnung_ = Stand().Zeichnung;
         // In the view without grids they keep the last text they had.
         if (mit_Tafel) fuelle_Tafeln(s);
@@ -165,9 +165,14 @@ void Ergebnisbereich::zeige() {
     bestimme_Zeilen();
     Seite& s = Seiten_[Felder().Berechnungsmodus];
     zeige_Ergebnisse(s);
-    s.Flaeche->setEnabled(!Stand().abgedeckt);
     decke_zu();
-    Abdeckung_->zeige(Stand().abgedeckt, in_Qt(Stand().Abdeckungswort));
+    zeige_Abdeckung();
+}
+
+void Ergebnisbereich::zeige_Abdeckung() {
+    const QString Wort = in_Qt(Stand().Abdeckungswort());
+    Seiten_[Felder().Berechnungsmodus].Flaeche->setEnabled(Wort.isEmpty());
+    Abdeckung_->zeige(!Wort.isEmpty(), Wort);
 }
 
 }  // namespace varnok

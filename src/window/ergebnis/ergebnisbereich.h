@@ -19,6 +19,8 @@ class Ergebnisbereich : public Rahmen {
 public:
     Ergebnisbereich(Sitzung& Programm, QWidget* parent);
     void zeige() override;
+    // The cover over the results, alone.
+    void zeige_Abdeckung();
 
     // The diagram in front, for a command; the field in work is accepted first. Null where that is refused, and where
     // there is no diagram to be seen.

@@ -94,13 +94,7 @@ void Auswahlliste::paintEvent(QPaintEvent*) {
     p.drawControl(QStyle::CE_ComboBoxLabel, Art);
 }
 
-void Auswahlliste::wheelEvent(QWheelEvent* e) {
-    if (hasFocus()) {
-        QComboBox::wheelEvent(e);
-    } else {
-        e->ignore();
-    }
-}
+void Auswahlliste::wheelEvent(QWheelEvent* e) { e->ignore(); }
 
 Textfeld::Textfeld(const QString& Name, QWidget* parent) : QLineEdit(parent) { setObjectName(Name); }
 
@@ -108,6 +102,28 @@ void Textfeld::zeige(const QString& Text) {
     if (text() == Text) return;
     setText(Text);
     setCursorPosition(0);
+}
+
+void Textfeld::vergiss_Getipptes() {
+    if (!isUndoAvailable() && !isRedoAvailable()) return;
+    const int Stelle = cursorPosition(), Anfang = selectionStart();
+    const auto Laenge = static_cast<int>(selectedText().size());
+    setText(text());
+    setCursorPosition(Stelle);
+    if (Laenge > 0) setSelection(Anfang, Laenge);
+}
+
+bool Textfeld::event(QEvent* e) {
+    if (e->type() == QEvent::ShortcutOverride) {
+        const auto* Taste = static_cast<QKeyEvent*>(e);
+        const bool nichts_zurueck = Taste->matches(QKeySequence::Undo) && !isUndoAvailable();
+        const bool nichts_vor = Taste->matches(QKeySequence::Redo) && !isRedoAvailable();
+        if (nichts_zurueck || nichts_vor) {
+            e->ignore();
+            return false;
+        }
+    }
+    return QLineEdit::event(e);
 }
 
 Kurztext::Kurztext(const QString& Name, QWidget* parent) : QLabel(parent) {

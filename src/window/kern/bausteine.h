@@ -34,7 +34,7 @@ protected:
     void keyPressEvent(QKeyEvent* e) override;
 };
 
-// A list of which the user's choice alone counts (`activated`); the wheel turns it only while it has the focus.
+// A list of which the user's choice alone counts (`activated`); closed, it is turned by no wheel.
 class Auswahlliste : public QComboBox {
     Q_OBJECT
 public:
@@ -63,7 +63,13 @@ public:
     Textfeld(const QString& Name, QWidget* parent);
     // Shows a text that differs, from its first character.
     void zeige(const QString& Text);
+    // What was typed is accepted: the field takes back nothing of it any more.
+    void vergiss_Getipptes();
     QSize sizeHint() const override { return {QLineEdit::sizeHint().width(), Zeilenhoehe(*this)}; }
+
+protected:
+    // Undo and redo are the field's own while there is something typed, else commands of the window.
+    bool event(QEvent* e) override;
 };
 
 // A line of text that is cut with dots where it finds no room; the whole text is its tip then.

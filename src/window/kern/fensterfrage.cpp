@@ -1,8 +1,11 @@
 #include "window/kern/fensterfrage.h"
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QMessageBox>
+#include <QMouseEvent>
 #include <QPushButton>
+#include <QtGui/QCloseEvent>
 #include <algorithm>
 #include <array>
 #include <utility>
@@ -26,11 +29,10 @@ QMessageBox::StandardButton Taste_von(Knopf k) {
 }
 
 // What Esc and the close box of the message mean.
-Knopf harmloser_Knopf(const Frage& f) {
-    for (const Knopf k : {Knopf::Abbrechen, Knopf::Nein, Knopf::OK}) {
-        if (std::find(f.Knoepfe.begin(), f.Knoepfe.end(), k) != f.Knoepfe.end()) return k;
-    }
-    return f.Knoepfe.front();
+Knopf harmlose_Antwort(const Frage& f) {
+    const auto hat = [&f](Knopf k) { return std::find(f.Knoepfe.begin(), f.Knoepfe.end(), k) != f.Knoepfe.end(); };
+    if (hat(Knopf::Abbrechen)) return Knopf::Abbrechen;
+    return hat(Knopf::Ja) && hat(Knopf::Nein) ? Knopf::nicht_jetzt : f.Knoepfe.front();
 }
 
 QMessageBox::Icon Bild_von(Symbol s) {
@@ -47,6 +49,61 @@ QMessageBox::Icon Bild_von(Symbol s) {
     return QMessageBox::NoIcon;
 }
 
+constexpr Qt::KeyboardModifiers Befehlstasten = Qt::AltModifier | Qt::ControlModifier | Qt::MetaModifier;
+
+// A message box that no letter answers without Alt, so that what is typed on does not answer a question that comes up. Esc
+// and the close box press none of its buttons.
+class Fragekasten : public QMessageBox {
+    Q_OBJECT
+public:
+    Fragekasten(const Frage& f, QWidget* parent)
+        : QMessageBox(Bild_von(f.Zeichen), in_Qt(f.Titel), in_Qt(f.Text), NoButton, parent), wartet_(f.ohne_Vorgabe) {
+        setTextFormat(Qt::PlainText);
+        for (const Knopf k : f.Knoepfe) addButton(Taste_von(k));
+        if (wartet_) {
+            setFocusPolicy(Qt::StrongFocus);
+            setFocus();
+            richte_Tasten_ein(false);
+        } else {
+            setDefaultButton(Taste_von(f.Knoepfe.front()));
+        }
+    }
+
+protected:
+    void keyPressEvent(QKeyEvent* e) override {
+        if (e->matches(QKeySequence::Cancel)) {
+            reject();
+        } else if (e->text().isEmpty() || (e->modifiers() & Befehlstasten) || ist_Enter(*e)) {
+            QMessageBox::keyPressEvent(e);
+        }
+    }
+    void closeEvent(QCloseEvent* e) override { QDialog::closeEvent(e); }
+    // Tab.
+    bool focusNextPrevChild(bool vor) override {
+        erwache();
+        return QMessageBox::focusNextPrevChild(vor);
+    }
+    void mousePressEvent(QMouseEvent* e) override {
+        erwache();
+        QMessageBox::mousePressEvent(e);
+    }
+
+private:
+    static bool ist_Enter(const QKeyEvent& e) { return e.key() == Qt::Key_Return || e.key() == Qt::Key_Enter; }
+    void richte_Tasten_ein(bool waehlbar) {
+        for (auto* t : findChildren<QPushButton*>()) {
+            t->setAutoDefault(waehlbar);
+            t->setFocusPolicy(waehlbar ? Qt::StrongFocus : Qt::NoFocus);
+        }
+    }
+    // From here on the keys Enter and Space have a button that they press.
+    void erwache() {
+        if (std::exchange(wartet_, false)) richte_Tasten_ein(true);
+    }
+
+    bool wartet_;  // no button can be pressed by Enter or Space yet
+};
+
 }  // namespace
 
 void Fensterfrage::setze_Fenster(QWidget* Fenster, std::function<void()> vorher) {
@@ -55,7 +112,7 @@ void Fensterfrage::setze_Fenster(QWidget* Fenster, std::function<void()> vorher)
 }
 
 Knopf Fensterfrage::frage(const Frage& f) {
-    if (offen_) return harmloser_Knopf(f);
+    if (offen_) return harmlose_Antwort(f);
     offen_ = true;
     while (QWidget* Liste = QApplication::activePopupWidget()) {
         if (!Liste->close()) break;
@@ -63,11 +120,7 @@ Knopf Fensterfrage::frage(const Frage& f) {
     if (vorher_) vorher_();
 
     QWidget* Dialog = QApplication::activeModalWidget();  // the box stands over the dialog that it belongs to
-    QMessageBox Kasten(Bild_von(f.Zeichen), in_Qt(f.Titel), in_Qt(f.Text), QMessageBox::NoButton, Dialog ? Dialog : Fenster_);
-    Kasten.setTextFormat(Qt::PlainText);
-    for (const Knopf k : f.Knoepfe) Kasten.addButton(Taste_von(k));
-    Kasten.setDefaultButton(Taste_von(f.Knoepfe.front()));
-    Kasten.setEscapeButton(Taste_von(harmloser_Knopf(f)));
+    Fragekasten Kasten(f, Dialog ? Dialog : Fenster_);
 
     QApplication::setOverrideCursor(Qt::ArrowCursor);
     const auto Antwort = static_cast<QMessageBox::StandardButton>(Kasten.exec());
@@ -76,7 +129,10 @@ Knopf Fensterfrage::frage(const Frage& f) {
 
     const auto Treffer =
         std::find_if(Knopfarten.begin(), Knopfarten.end(), [&](const Knopfart& a) { return a.Taste == Antwort; });
-    return Treffer == Knopfarten.end() ? harmloser_Knopf(f) : Treffer->Name;
+    // Esc and the close box are no button.
+    return Treffer == Knopfarten.end() ? harmlose_Antwort(f) : Treffer->Name;
 }
 
 }  // namespace varnok
+
+#include "fensterfrage.moc"

@@ -15,7 +15,8 @@ public:
     // stands beside the message.
     void setze_Fenster(QWidget* Fenster, std::function<void()> vorher);
 
-    // A question that comes while one is open is answered with its harmless button.
+    // Esc and the close box give the harmless answer: "not now" to a question with Yes and No. A question that comes while
+    // one is open is answered with it at once.
     Knopf frage(const Frage& f) override;
 
 private:

@@ -18,7 +18,8 @@ public:
 };
 
 // A frame of the main screen: shows the session and forwards what the user does to it. It knows no other
-// frame; the window hears by `gehandelt` that an action is over and lets all frames show what has become of it.
+// frame; the window hears by `gehandelt` that an action is over and lets all frames show what has become of it. By `getippt`
+// it hears of a key: the frame has shown that itself, the window adds what tells of stale results and unsaved values.
 class Rahmen : public QFrame {
     Q_OBJECT
 public:

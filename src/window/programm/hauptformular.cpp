@@ -10,6 +10,8 @@
 #include <QTimer>
 #include <QVBoxLayout>
 #include <QtGui/QCloseEvent>
+#include <algorithm>
+#include <array>
 #include <chrono>
 
 #include "extras/versionstexte.h"
@@ -50,7 +52,6 @@ Hauptformular::Hauptformular(Sitzung& Programm, Fensterfrage* Fragen, const QStr
       Steuerung_(new Feldsteuerung(Programm, this)),
       Menue_(new Menue(Programm, *this)) {
     setObjectName(u"Hauptformular"_s);
-    setWindowTitle(u"VARNOK - Soil residue forecast tool"_s);
     setWindowIcon(Bild_aus_SVG(u"varnok"_s));
 
     Blaetter_ = new QStackedWidget(this);
@@ -71,9 +72,10 @@ Hauptformular::Hauptformular(Sitzung& Programm, Fensterfrage* Fragen, const QStr
     connect(findChild<QAction*>(u"M_Versionsinfo"_s), &QAction::triggered, this, &Hauptformular::zeige_Versionsinfo);
     connect(findChild<QAction*>(u"M_Laden"_s), &QAction::triggered, this, &Hauptformular::oeffne_Organiser);
     connect(Steuerung_, &Feldsteuerung::gehandelt, this, &Hauptformular::zeige);
+    connect(Steuerung_, &Feldsteuerung::getippt, this, &Hauptformular::zeige_Getipptes);
     for (Rahmen* r : Rahmen_) {
         connect(r, &Rahmen::gehandelt, this, &Hauptformular::nach_Handlung);
-        connect(r, &Rahmen::getippt, this, &Hauptformular::zeige);
+        connect(r, &Rahmen::getippt, this, &Hauptformular::zeige_Getipptes);
     }
     if (Fragen_) Fragen_->setze_Fenster(this, [this] { zeige(); });
     stelle_Fenster_her();
@@ -157,9 +159,23 @@ void Hauptformular::zeige() {
     for (Rahmen* r : Rahmen_) r->zeige();
     Drucken_->setEnabled(Programm_.offener_Bericht() != nullptr);
     Steuerung_->zeige();
+    zeige_Titel();
     Steuerung_->beende_Zeigen();
     // Whatever action the run belonged to is over first.
     if (Programm_.Stand().Szenarioeditor_faellig) QTimer::singleShot(0ms, this, &Hauptformular::oeffne_faelligen_Editor);
+}
+
+void Hauptformular::zeige_Getipptes() {
+    Schalter_->zeige_Hinweis();
+    Ergebnisse_->zeige_Abdeckung();
+    zeige_Titel();
+}
+
+void Hauptformular::zeige_Titel() {
+    const Zustand& z = Programm_.Stand();
+    const std::array Arten = {Simulation, Wirkstoff, Applikation, Szenario};
+    const bool verschieden = std::any_of(Arten.begin(), Arten.end(), [&z](Satzart Art) { return z.verschieden(Art); });
+    setWindowTitle(u"VARNOK - Soil residue forecast tool"_s + (verschieden ? u"*"_s : QString()));
 }
 
 void Hauptformular::oeffne_faelligen_Editor() {
@@ -250,7 +266,7 @@ void Hauptformular::oeffne_Organiser() {
 
 void Hauptformular::waehle_Fehlerzelle() {
     const Zustand& z = Programm_.Stand();
-    if (z.Tabellenfehler && z.abgedeckt) Applikation_->waehle_Zelle(*z.Tabellenfehler);
+    if (z.Tabellenfehler && z.abgedeckt()) Applikation_->waehle_Zelle(*z.Tabellenfehler);
 }
 
 void Hauptformular::closeEvent(QCloseEvent* e) {

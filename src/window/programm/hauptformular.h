@@ -33,6 +33,8 @@ public:
 
     // Brings everything on the screen in line with the session.
     void zeige();
+    // After a key: whether results and files are still those of what is entered. The field has shown the key itself.
+    void zeige_Getipptes();
     // Asks for a newer version, once, while the start page is on the screen.
     void suche_beim_Start();
     // Gives the controls their tips, or anew; they stay until the program ends.
@@ -42,6 +44,8 @@ protected:
     void closeEvent(QCloseEvent* e) override;
 
 private:
+    // The mark of values that no file holds yet.
+    void zeige_Titel();
     QWidget* erstelle_Arbeitsflaeche();
     QWidget* erstelle_Eingabespalte();
     QWidget* erstelle_Ergebnisspalte();

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 
+#include "painting/qt_text.h"
 #include "window/kern/rahmen.h"
 
 namespace varnok {
@@ -33,9 +34,10 @@ struct Befehlszeile {
     void (Sitzung::*Befehl)() = nullptr;  // none: the window opens a dialog for it
     const char16_t* Taste = u"";
     bool Strich_davor = false;
-    bool (Sitzung::*erlaubt)() const = nullptr;  // none: always
+    bool (Sitzung::*erlaubt)() const = nullptr;            // none: always
+    std::string (Sitzung::*Gegenstand)() const = nullptr;  // told behind the caption; where it is empty there is nothing to do
 };
-constexpr std::array<Befehlszeile, 16> Befehle = {{
+constexpr std::array<Befehlszeile, 18> Befehle = {{
     {Datei, u"M_Neuer_Wirkstoff", u"New &Pesticide record", &Sitzung::neuer_Wirkstoff},
     {Datei, u"M_Neue_Applikationsdatei", u"New &Application record", &Sitzung::neue_Applikationsdatei},
     {Datei, u"M_Neues_Szenario", u"&New Scenario", &Sitzung::neues_Szenario},
@@ -44,7 +46,10 @@ constexpr std::array<Befehlszeile, 16> Befehle = {{
     {Datei, u"M_Drucken", u"&Print", nullptr, u"", true},
     {Datei, u"M_Speichern", u"&Save all input data", &Sitzung::Speichern, u"Ctrl+S"},
     {Datei, u"M_Ende", u"&Exit", &Sitzung::Ende, u"Ctrl+Q", true},
-    {editieren, u"M_Addiere", u"&Add study", &Sitzung::addiere_Studie, u"", false, &Sitzung::darf_Studie_addieren},
+    {editieren, u"M_Rueckgaengig", u"&Undo", &Sitzung::mache_rueckgaengig, u"Ctrl+Z", false, nullptr,
+     &Sitzung::Name_rueckgaengig},
+    {editieren, u"M_Wiederholen", u"&Redo", &Sitzung::wiederhole, u"Ctrl+Shift+Z", false, nullptr, &Sitzung::Name_wiederholen},
+    {editieren, u"M_Addiere", u"&Add study", &Sitzung::addiere_Studie, u"", true, &Sitzung::darf_Studie_addieren},
     {editieren, u"M_Loesche", u"&Delete study", &Sitzung::loesche_Studie, u"", false, &Sitzung::darf_Studie_loeschen},
     {editieren, u"M_Optionen", u"&Preferences", nullptr, u"", true},
     {ansehen, u"M_Studien", u"&Individual studies", &Sitzung::zeige_Studien},
@@ -65,7 +70,7 @@ Menue::Menue(Sitzung& Programm, QMainWindow& Fenster) : QObject(&Fenster), Progr
             QAction* Bericht = Fenster.menuBar()->addAction(u"&Report"_s);
             Bericht->setObjectName(u"M_Bericht"_s);
             Bericht->setShortcut(QKeySequence(u"Ctrl+R"_s));
-            Eintraege_.push_back({Bericht, &Sitzung::ist_gestartet});
+            Eintraege_.push_back({Bericht, &Sitzung::ist_gestartet, nullptr, {}});
             connect(Bericht, &QAction::triggered, this, [this, Bericht] { fuehre_aus(Bericht, &Sitzung::erstelle_Bericht); });
         }
         Menueliste[i] = Fenster.menuBar()->addMenu(QString::fromUtf16(Menues[i].Aufschrift));
@@ -80,7 +85,7 @@ Menue::Menue(Sitzung& Programm, QMainWindow& Fenster) : QObject(&Fenster), Progr
         Aktion->setShortcut(QKeySequence(QString::fromUtf16(b.Taste)));
         // Names like "Quit" would move entries to another menu on some desktops.
         Aktion->setMenuRole(QAction::NoRole);
-        Eintraege_.push_back({Aktion, b.erlaubt});
+        Eintraege_.push_back({Aktion, b.erlaubt, b.Gegenstand, Aktion->text()});
         if (b.Befehl)
             connect(Aktion, &QAction::triggered, this, [this, Aktion, Befehl = b.Befehl] { fuehre_aus(Aktion, Befehl); });
     }
@@ -101,7 +106,14 @@ void Menue::zeige() {
     for (QAction* m : nach_Start_) m->setEnabled(Programm_.Stand().Gestartet);
     for (const Eintrag& e : Eintraege_) {
         if (e.erlaubt) e.Aktion->setEnabled((Programm_.*e.erlaubt)());
+        if (e.Gegenstand) zeige_Gegenstand(e);
     }
+}
+
+void Menue::zeige_Gegenstand(const Eintrag& e) {
+    const QString Name = in_Qt((Programm_.*e.Gegenstand)());
+    e.Aktion->setText(Name.isEmpty() ? e.Aufschrift : e.Aufschrift + u' ' + QString(Name).replace(u'&', u"&&"_s));
+    e.Aktion->setEnabled(!Name.isEmpty());
 }
 
 }  // namespace varnok

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QObject>
+#include <QString>
+#include <string>
 #include <vector>
 
 #include "session/kern/sitzung.h"
@@ -25,10 +27,13 @@ Q_SIGNALS:
 private:
     struct Eintrag {
         QAction* Aktion;
-        bool (Sitzung::*erlaubt)() const;  // none: always
+        bool (Sitzung::*erlaubt)() const;            // none: always
+        std::string (Sitzung::*Gegenstand)() const;  // what it acts on, behind its caption; none: nothing is told
+        QString Aufschrift;
     };
 
     void fuehre_aus(QAction* Aktion, void (Sitzung::*Befehl)());
+    void zeige_Gegenstand(const Eintrag& e);
 
     Sitzung& Programm_;
     std::vector<QAction*> nach_Start_;  // enabled once the start page is left

@@ -48,10 +48,16 @@ QIcon Schalterrahmen::Hinweisbild() const {
     return Bild_aus_SVG(u"hinweis"_s);
 }
 
+void Schalterrahmen::zeige_Hinweis() {
+    const bool Hinweis = Stand().Hinweis();
+    if (Hinweis == Aktualisieren_->icon().isNull()) Aktualisieren_->setIcon(Hinweis ? Hinweisbild() : QIcon());
+}
+
 void Schalterrahmen::zeige() {
-    if (Stand().Hinweis == Aktualisieren_->icon().isNull()) Aktualisieren_->setIcon(Stand().Hinweis ? Hinweisbild() : QIcon());
+    zeige_Hinweis();
     Bericht_erstellen_->setEnabled(Stand().Gestartet);
-    Status_->setText(in_Qt(Stand().Statuszeile));
+    const std::string& Zeile = Stand().Statuszeile;
+    Status_->setText(Zeile.empty() ? QString() : in_Qt(Stand().Statuszeit + ' ' + Zeile));
 }
 
 void Schalterrahmen::gib_Ende_den_Fokus() { Ende_->setFocus(Qt::OtherFocusReason); }

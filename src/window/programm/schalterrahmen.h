@@ -13,6 +13,8 @@ class Schalterrahmen : public Rahmen {
 public:
     Schalterrahmen(Sitzung& Programm, QWidget* parent);
     void zeige() override;
+    // The picture of results that are out of date, alone.
+    void zeige_Hinweis();
     void gib_Ende_den_Fokus();
 
 private:

@@ -20,7 +20,10 @@ Beschreibungsfeld::Beschreibungsfeld(QWidget* parent) : Textfeld(u"Beschreibung"
 
 void Beschreibungsfeld::zeige(const QString& Text, bool offen, bool farbig) {
     // While it is typed in, the text on the screen is the newer one.
-    if (!offen || isReadOnly()) Textfeld::zeige(Text);
+    if (!offen || isReadOnly()) {
+        Textfeld::zeige(Text);
+        vergiss_Getipptes();
+    }
     setReadOnly(!offen);
     QPalette p = QApplication::palette(this);
     if (farbig || offen) {
@@ -34,6 +37,7 @@ void Beschreibungsfeld::zeige(const QString& Text, bool offen, bool farbig) {
 
 void Beschreibungsfeld::mousePressEvent(QMouseEvent* e) {
     if (e->button() == Qt::RightButton) {
+        setFocus(Qt::MouseFocusReason);
         if (isReadOnly()) Q_EMIT aufgeschlossen();
         e->accept();
         return;

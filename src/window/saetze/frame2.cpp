@@ -5,6 +5,7 @@
 #include "painting/qt_text.h"
 #include "window/kern/bausteine.h"
 #include "window/saetze/beschreibungsfeld.h"
+#include "window/saetze/satzauswahl.h"
 #include "window/saetze/satzliste.h"
 
 namespace varnok {
@@ -36,14 +37,18 @@ Frame2::Frame2(Sitzung& Programm, QWidget* parent) : Rahmen(u"Frame2"_s, Rahmena
     connect(Simulation_, &Satzliste::gehandelt, this, &Rahmen::gehandelt);
     // The dialog opens when the press is over.
     connect(Beschreibung_, &Beschreibungsfeld::doppelt_geklickt, this, &Frame2::Organiser_verlangt, Qt::QueuedConnection);
-    connect(Beschreibung_, &Beschreibungsfeld::aufgeschlossen, this,
-            [this] { handle([&] { Programm_.oeffne_Beschreibung(); }); });
+    connect(Beschreibung_, &Beschreibungsfeld::aufgeschlossen, this, [this] { handle([&] { schliesse_auf(); }); });
     connect(Beschreibung_, &QLineEdit::textEdited, this,
             [this](const QString& Text) { tippe([&] { Programm_.aendere_Beschreibung(aus_Qt(Text)); }); });
     connect(Beschreibung_, &Beschreibungsfeld::abgeschlossen, this,
             [this] { handle([&] { Programm_.schliesse_Beschreibung(); }); });
     connect(Beschreibung_, &Beschreibungsfeld::zurueckgenommen, this,
             [this] { handle([&] { Programm_.nimm_Beschreibung_zurueck(); }); });
+}
+
+// A number that is refused keeps the focus, and the description stays locked.
+void Frame2::schliesse_auf() {
+    if (Programm_.schliesse_Feld_ab()) Programm_.oeffne_Beschreibung();
 }
 
 void Frame2::zeige() {

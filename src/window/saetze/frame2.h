@@ -18,6 +18,8 @@ Q_SIGNALS:
     void Organiser_verlangt();
 
 private:
+    void schliesse_auf();
+
     Satzliste* Simulation_;
     Beschreibungsfeld* Beschreibung_;
 };

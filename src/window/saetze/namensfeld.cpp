@@ -19,6 +19,7 @@ Namensfeld::Namensfeld(const QString& Name, QWidget* parent) : Textfeld(Name, pa
 
 void Namensfeld::keyPressEvent(QKeyEvent* e) {
     if (e->key() == Qt::Key_Return || e->key() == Qt::Key_Enter) {
+        vergiss_Getipptes();
         Q_EMIT fertig();
         return;
     }
@@ -28,6 +29,7 @@ void Namensfeld::keyPressEvent(QKeyEvent* e) {
 void Namensfeld::focusOutEvent(QFocusEvent* e) {
     QLineEdit::focusOutEvent(e);
     if (betrifft_nur_Fenster(e->reason())) return;
+    vergiss_Getipptes();
     // A run does not start within the event that takes the focus.
     QTimer::singleShot(0ms, this, [this] { Q_EMIT fertig(); });
 }

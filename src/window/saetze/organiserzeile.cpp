@@ -8,6 +8,7 @@
 #include "painting/qt_text.h"
 #include "window/kern/bausteine.h"
 #include "window/saetze/listenbedienung.h"
+#include "window/saetze/satzauswahl.h"
 #include "window/saetze/umbenennfeld.h"
 
 namespace varnok {
@@ -45,7 +46,7 @@ QPushButton* Dialogtaste(const QString& Name, const QString& Aufschrift, QWidget
 Organiserzeile::Organiserzeile(Satzart Art, Sitzung& Programm, QWidget* parent)
     : Rahmen(u"Organiserzeile_"_s + in_Qt(Art), Zeilenarten[Art].Art, Programm, parent), Satzart_(Art) {
     const Zeilenart& z = Zeilenarten[Art];
-    Liste_ = new Auswahlliste(QString::fromUtf16(z.Liste), 28, this);
+    Liste_ = new Satzauswahl(QString::fromUtf16(z.Liste), 28, this);
     Neuer_Dateiname_ = new Umbenennfeld(u"Neuer_Dateiname_"_s + in_Qt(Art), *Liste_);
     Copy_ = erstelle_Taste(u"Copy_", u"Copy"_s);
     Loeschen_ = erstelle_Taste(u"Loeschen_", u"Delete"_s);

@@ -2,6 +2,7 @@
 
 #include "painting/qt_text.h"
 #include "window/saetze/listenbedienung.h"
+#include "window/saetze/satzauswahl.h"
 #include "window/saetze/umbenennfeld.h"
 
 namespace varnok {
@@ -10,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 Satzliste::Satzliste(Satzart Art, const Namen& n, int Zeichen, Sitzung& Programm, Rahmen& Traeger)
     : QObject(&Traeger), Art_(Art), Programm_(Programm) {
-    Liste = new Auswahlliste(n.Liste, Zeichen, &Traeger);
+    Liste = new Satzauswahl(n.Liste, Zeichen, &Traeger);
     Neuer_Dateiname_ = new Umbenennfeld(u"Neuer_Dateiname_"_s + in_Qt(Art), *Liste);
     Copy = new Schaltflaeche(n.Copy, u"Copy"_s, &Traeger);
     Loeschen = new Schaltflaeche(n.Loeschen, u"Del"_s, &Traeger);

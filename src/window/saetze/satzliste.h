@@ -6,6 +6,7 @@
 
 namespace varnok {
 
+class Satzauswahl;
 class Umbenennfeld;
 
 // A selector of the main form with what belongs to it: buttons to copy and delete the entry, the box to rename it, the keys
@@ -21,7 +22,7 @@ public:
 
     void zeige();
 
-    Auswahlliste* Liste;
+    Satzauswahl* Liste;
     Schaltflaeche* Copy;
     Schaltflaeche* Loeschen;
 

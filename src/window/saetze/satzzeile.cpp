@@ -3,6 +3,7 @@
 #include <QHBoxLayout>
 
 #include "painting/qt_text.h"
+#include "window/saetze/satzauswahl.h"
 #include "window/saetze/satzliste.h"
 
 namespace varnok {

@@ -13,6 +13,7 @@
 #include "painting/qt_text.h"
 #include "window/kern/bausteine.h"
 #include "window/kern/rahmen.h"
+#include "window/saetze/satzauswahl.h"
 #include "window/saetze/tiefenfeld.h"
 
 namespace varnok {
@@ -63,7 +64,7 @@ Szenario_Form::Szenario_Form(Sitzung& Programm, QWidget* parent) : QDialog(paren
     Blatt->addWidget(erstelle_Tasten());
     Blatt->setSizeConstraint(QLayout::SetFixedSize);
     zeige();
-    // Not in the first list, where a stray key would take another record's name.
+    // The first value that is typed.
     Texte_[E::Bodendichte]->setFocus();
     Texte_[E::Bodendichte]->selectAll();
 }
@@ -78,7 +79,7 @@ QWidget* Szenario_Form::erstelle_Boden() {
     auto* Flaeche = new QWidget(this);
     QGridLayout* r = neues_Raster(Flaeche, 0);
     r->setContentsMargins(0, 0, 0, 0);
-    Szenarioliste_ = new Auswahlliste(u"Szenarioliste"_s, 34, Flaeche);
+    Szenarioliste_ = new Satzauswahl(u"Szenarioliste"_s, 34, Flaeche);
     r->addWidget(Schild(u"Scenario:"_s, Szenarioliste_, Flaeche), 0, 0);
     r->addWidget(Szenarioliste_, 0, Feldspalte, 1, Feldspalten);
     connect(Szenarioliste_, &QComboBox::activated, this,

@@ -18,7 +18,7 @@ namespace varnok {
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
-// Knows whether a choice comes from keys or the wheel on the closed list.
+// Knows whether a choice comes from keys on the closed list.
 class Tiefenliste : public Auswahlliste {
 public:
     using Auswahlliste::Auswahlliste;
@@ -28,11 +28,6 @@ protected:
     void keyPressEvent(QKeyEvent* e) override {
         blaettert_ = true;
         Auswahlliste::keyPressEvent(e);
-        blaettert_ = false;
-    }
-    void wheelEvent(QWheelEvent* e) override {
-        blaettert_ = true;
-        Auswahlliste::wheelEvent(e);
         blaettert_ = false;
     }
 

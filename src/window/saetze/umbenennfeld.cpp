@@ -30,6 +30,7 @@ Umbenennfeld::Umbenennfeld(const QString& Name, QWidget& Liste) : Textfeld(Name,
 void Umbenennfeld::oeffne(const QString& Text) {
     setText(Text);
     selectAll();
+    faerbe_Eingabe(*this, true);
     setGeometry(Liste_.geometry());
     show();
     raise();
@@ -70,6 +71,7 @@ void Umbenennfeld::keyPressEvent(QKeyEvent* e) {
 void Umbenennfeld::focusOutEvent(QFocusEvent* e) {
     Textfeld::focusOutEvent(e);
     if (betrifft_nur_Fenster(e->reason())) return;
+    faerbe_Eingabe(*this, false);
     // Nothing is asked or written within the event that takes the focus.
     QTimer::singleShot(0ms, this, [this] {
         if (isVisible() && !hasFocus()) Q_EMIT bestaetigt(false);

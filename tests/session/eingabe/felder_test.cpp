@@ -92,8 +92,8 @@ protected:
 TEST_P(Feldprobe, accepted_value_on_leaving) {
     gestartet();
     EXPECT_TRUE(tippe(GetParam().Feld, GetParam().angenommen));
-    EXPECT_FALSE(s_->Stand().Hinweis);
-    EXPECT_FALSE(s_->Stand().abgedeckt);
+    EXPECT_FALSE(s_->Stand().Hinweis());
+    EXPECT_FALSE(s_->Stand().abgedeckt());
 }
 
 TEST_P(Feldprobe, refused_value_on_leaving) {
@@ -101,7 +101,7 @@ TEST_P(Feldprobe, refused_value_on_leaving) {
     erwarte_Ablehnung(false);
     EXPECT_FALSE(tippe(GetParam().Feld, GetParam().abgelehnt));
     EXPECT_EQ(s_->aktives_Feld(), Feld(GetParam().Feld));
-    EXPECT_TRUE(s_->Stand().abgedeckt);
+    EXPECT_TRUE(s_->Stand().abgedeckt());
 }
 
 TEST_P(Feldprobe, boundary_value_on_leaving) {
@@ -114,7 +114,7 @@ TEST_P(Feldprobe, boundary_value_on_leaving) {
 TEST_P(Feldprobe, accepted_value_on_enter) {
     gestartet();
     EXPECT_TRUE(bestaetige(GetParam().angenommen));
-    EXPECT_FALSE(s_->Stand().Hinweis);
+    EXPECT_FALSE(s_->Stand().Hinweis());
     EXPECT_EQ(s_->aktives_Feld(), Feld(GetParam().Feld));
 }
 
@@ -175,7 +175,7 @@ TEST_F(Felder, enter_with_no_change_does_nothing) {
     s_->betrete_Feld(f);
     EXPECT_TRUE(s_->bestaetige_Feld(f));
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe);
-    EXPECT_FALSE(s_->Stand().Hinweis);
+    EXPECT_FALSE(s_->Stand().Hinweis());
 }
 
 TEST_F(Felder, a_comma_and_a_point_read_alike) {
@@ -218,8 +218,8 @@ protected:
     bool ohne_Lauf(const std::string& Feldname, const std::string& Text) {
         std::filesystem::remove(Wurzel_ / "output/test.txt");
         EXPECT_TRUE(tippe(Feldname, Text));
-        EXPECT_FALSE(s_->Stand().abgedeckt);
-        EXPECT_FALSE(s_->Stand().Hinweis);
+        EXPECT_FALSE(s_->Stand().abgedeckt());
+        EXPECT_FALSE(s_->Stand().Hinweis());
         return !gibt_es("output/test.txt");
     }
     // What stands there is what a run of the input on the screen gives, to the bit.
@@ -270,7 +270,7 @@ TEST_F(Dosis, twice_the_rate_doubles_every_concentration_without_a_run) {
     EXPECT_TRUE(ohne_Lauf("Applikationsrate", "2000"));
     EXPECT_EQ(Maximum(), 2 * vorher);
     EXPECT_EQ(Werte().Wirksame_Rate, 2 * Wirksame);
-    EXPECT_TRUE(s_->Stand().Geaendert[2]);
+    EXPECT_TRUE(s_->Stand().Saetze[2].Geaendert);
 }
 
 // Powers of two leave every bit of a number's digits, so nothing is rounded in another way.
@@ -311,9 +311,9 @@ TEST_F(Dosis, one_that_no_run_takes_is_told_and_covered_in_every_view) {
     gestartet();
     Fragen_.erwarte_Anfang("Runtime error", "The calculation is not possible with these input data. Please correct!");
     tippe("Applikationsrate", "1E300");
-    EXPECT_TRUE(s_->Stand().abgedeckt);
+    EXPECT_TRUE(s_->Stand().abgedeckt());
     s_->waehle_Endpunkt(Porenwasser);
-    EXPECT_TRUE(s_->Stand().abgedeckt);
+    EXPECT_TRUE(s_->Stand().abgedeckt());
     EXPECT_FALSE(ohne_Lauf("Applikationsrate", "2000"));
     erwarte_wie_nach_Lauf();
 }
@@ -343,8 +343,8 @@ TEST_F(Felder, a_dose_typed_back_after_a_refusal_needs_no_scaling) {
     s_->aendere_Feld(f, "1000");
     EXPECT_TRUE(s_->verlasse_Feld(f));
     EXPECT_EQ(Maximum(), vorher);
-    EXPECT_FALSE(s_->Stand().Hinweis);
-    EXPECT_FALSE(s_->Stand().abgedeckt);
+    EXPECT_FALSE(s_->Stand().Hinweis());
+    EXPECT_FALSE(s_->Stand().abgedeckt());
 }
 
 TEST_F(Felder, an_interception_left_at_0_reads_0_and_marks_nothing) {
@@ -353,7 +353,7 @@ TEST_F(Felder, an_interception_left_at_0_reads_0_and_marks_nothing) {
     s_->betrete_Feld(f);
     EXPECT_TRUE(s_->verlasse_Feld(f));
     EXPECT_EQ(s_->Feldtext(f), "0");
-    EXPECT_FALSE(s_->Stand().Geaendert[2]);
+    EXPECT_FALSE(s_->Stand().Saetze[2].Geaendert);
 }
 
 TEST_F(Felder, esc_puts_the_last_accepted_text_back) {
@@ -395,7 +395,7 @@ TEST_F(Felder, showing_a_study_writes_nothing_back) {
     s_->waehle_Studie(1);
     EXPECT_EQ(s_->Stand().Parameter().TRef[0][1], -5);
     EXPECT_EQ(s_->Stand().Parameter().k_SFO[0][1], 0.0123456789012345);
-    EXPECT_FALSE(s_->Stand().Geaendert[1]);
+    EXPECT_FALSE(s_->Stand().Saetze[1].Geaendert);
 }
 
 }  // namespace

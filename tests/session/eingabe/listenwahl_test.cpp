@@ -18,7 +18,7 @@ TEST_F(Auswahlprobe, another_kinetics_stores_its_code_marks_the_record_and_runs)
     const int Laeufe = s_->Stand().Zeichnung;
     s_->waehle_Kinetik(0, FOMC);
     EXPECT_EQ(s_->Stand().Parameter().Kinetik[0][0], FOMC);
-    EXPECT_TRUE(s_->Stand().Geaendert[1]);
+    EXPECT_TRUE(s_->Stand().Saetze[1].Geaendert);
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe + 1);
 }
 
@@ -27,7 +27,7 @@ TEST_F(Auswahlprobe, the_same_kinetics_again_does_nothing) {
     const int Laeufe = s_->Stand().Zeichnung;
     s_->waehle_Kinetik(0, SFO);
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe);
-    EXPECT_FALSE(s_->Stand().Geaendert[1]);
+    EXPECT_FALSE(s_->Stand().Saetze[1].Geaendert);
 }
 
 TEST_F(Auswahlprobe, a_study_shows_its_values_and_is_run_once) {
@@ -56,7 +56,7 @@ TEST_F(Auswahlprobe, a_change_of_study_keeps_the_mark_of_the_compound_record) {
     gestartet();
     ASSERT_TRUE(tippe("S_DT50_0", "12"));
     s_->waehle_Studie(1);
-    EXPECT_TRUE(s_->Stand().Geaendert[1]);
+    EXPECT_TRUE(s_->Stand().Saetze[1].Geaendert);
 }
 
 TEST_F(Auswahlprobe, a_field_edits_its_own_compound_whatever_was_calculated_last) {
@@ -73,8 +73,8 @@ TEST_F(Auswahlprobe, another_scheme_runs_every_study) {
     s_->waehle_Berechnungsmodus(1);
     EXPECT_GT(Maximum(0, 1), 0.0F);
     EXPECT_GT(Maximum(1, 1), 0.0F);
-    EXPECT_TRUE(s_->Stand().Geaendert[1]);
-    EXPECT_FALSE(s_->Stand().abgedeckt);
+    EXPECT_TRUE(s_->Stand().Saetze[1].Geaendert);
+    EXPECT_FALSE(s_->Stand().abgedeckt());
 }
 
 TEST_F(Auswahlprobe, another_scheme_ends_the_summary_view) {
@@ -82,7 +82,7 @@ TEST_F(Auswahlprobe, another_scheme_ends_the_summary_view) {
     s_->zeige_Zusammenfassung();
     s_->waehle_Berechnungsmodus(2);
     EXPECT_FALSE(s_->Stand().Zusammenfassung_aktiv);
-    EXPECT_FALSE(s_->Stand().abgedeckt);
+    EXPECT_FALSE(s_->Stand().abgedeckt());
 }
 
 TEST_F(Auswahlprobe, a_compound_that_the_scheme_does_not_have_leaves_the_view) {
@@ -99,7 +99,7 @@ TEST_F(Auswahlprobe, a_compound_in_view_marks_nothing) {
     schreibe_Probe();
     gestartet();
     s_->waehle_Substanz(1);
-    EXPECT_FALSE(s_->Stand().Geaendert[1]);
+    EXPECT_FALSE(s_->Stand().Saetze[1].Geaendert);
 }
 
 TEST_F(Auswahlprobe, a_name_is_run_on_leaving_only_if_it_changed) {
@@ -110,7 +110,7 @@ TEST_F(Auswahlprobe, a_name_is_run_on_leaving_only_if_it_changed) {
     s_->aendere_Namen(0, "Parent Q");
     s_->verlasse_Namen();
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe + 1);
-    EXPECT_TRUE(s_->Stand().Geaendert[1]);
+    EXPECT_TRUE(s_->Stand().Saetze[1].Geaendert);
 }
 
 TEST_F(Auswahlprobe, a_month_shorter_than_the_day_takes_its_last_day) {
@@ -121,7 +121,7 @@ TEST_F(Auswahlprobe, a_month_shorter_than_the_day_takes_its_last_day) {
     s_->waehle_Monat(1);
     EXPECT_EQ(s_->Stand().Felder().App_Tag, 27);
     EXPECT_EQ(s_->Tage_der_Liste(), 28);
-    EXPECT_TRUE(s_->Stand().Geaendert[2]);
+    EXPECT_TRUE(s_->Stand().Saetze[2].Geaendert);
 }
 
 TEST_F(Auswahlprobe, more_applications_shorten_the_list_of_intervals_and_keep_the_mark) {
@@ -129,11 +129,11 @@ TEST_F(Auswahlprobe, more_applications_shorten_the_list_of_intervals_and_keep_th
     schreibe_Probe();
     gestartet();
     s_->waehle_Intervall(181);
-    const bool Marke = s_->Stand().Geaendert[2];
+    const bool Marke = s_->Stand().Saetze[2].Geaendert;
     s_->waehle_Anzahl(18);  // 20 a year
     EXPECT_EQ(s_->Intervalle_der_Liste(), 18);
     EXPECT_EQ(s_->Stand().Felder().Intervall(), 18);
-    EXPECT_EQ(s_->Stand().Geaendert[2], Marke);
+    EXPECT_EQ(s_->Stand().Saetze[2].Geaendert, Marke);
     EXPECT_EQ(Werte().Anzahl_pro_Jahr, 20);
 }
 
@@ -153,15 +153,15 @@ TEST_F(Auswahlprobe, the_summary_view_runs_every_study_and_keeps_the_selection) 
     EXPECT_TRUE(s_->Stand().Zusammenfassung_aktiv);
     EXPECT_GT(Maximum(1), 0.0F);
     EXPECT_EQ(s_->Stand().i_studie(), 0);
-    EXPECT_FALSE(s_->Stand().abgedeckt);
+    EXPECT_FALSE(s_->Stand().abgedeckt());
 }
 
 TEST_F(Auswahlprobe, in_the_summary_view_a_date_concerns_all_studies) {
     gestartet();
     s_->zeige_Zusammenfassung();
     s_->waehle_Tag(4);
-    for (int st = 0; st < 2; ++st) EXPECT_TRUE(s_->Stand().gueltig[static_cast<std::size_t>(st)]);
-    EXPECT_FALSE(s_->Stand().abgedeckt);
+    for (int st = 0; st < 2; ++st) EXPECT_TRUE(s_->Stand().gueltig(static_cast<std::size_t>(st)));
+    EXPECT_FALSE(s_->Stand().abgedeckt());
 }
 
 TEST_F(Auswahlprobe, in_the_summary_view_a_rate_scales_all_studies) {
@@ -191,7 +191,7 @@ TEST_F(Auswahlprobe, view_selectors_calculate_nothing) {
     s_->waehle_Fruchtwechsel(2);
     s_->waehle_TWA_Laenge(0);
     EXPECT_EQ(Reihe(*s_, 0, 0, 100), Wert);
-    for (const bool g : s_->Stand().Geaendert) EXPECT_FALSE(g);
+    for (const bool g : s_->Stand().Marken()) EXPECT_FALSE(g);
 }
 
 TEST_F(Auswahlprobe, a_view_selector_does_not_uncover_results_that_are_not_valid) {
@@ -201,10 +201,10 @@ TEST_F(Auswahlprobe, a_view_selector_does_not_uncover_results_that_are_not_valid
     s_->aendere_Feld(f, "-1");
     Fragen_.erwarte("No valid input!", "The DT50 is invalid. Please correct!");
     EXPECT_FALSE(s_->verlasse_Feld(f));
-    EXPECT_TRUE(s_->Stand().abgedeckt);
+    EXPECT_TRUE(s_->Stand().abgedeckt());
     Fragen_.erwarte("No valid input!", "The DT50 is invalid. Please correct!");
     s_->waehle_Endpunkt(1);
-    EXPECT_TRUE(s_->Stand().abgedeckt);
+    EXPECT_TRUE(s_->Stand().abgedeckt());
 }
 
 TEST_F(Auswahlprobe, the_accumulated_view_with_every_third_year_adds_a_third_of_the_plateau) {
@@ -257,8 +257,8 @@ TEST_F(Tabellenprobe, keys_edit_the_cell_and_mark_record_and_hint) {
     for (const char z : std::string("12.5")) s_->haenge_an_Zelle({0, 2}, z);
     s_->nimm_letztes_Zeichen({0, 2});
     EXPECT_EQ(Text(0, 2), "12.");
-    EXPECT_TRUE(s_->Stand().Geaendert[2]);
-    EXPECT_TRUE(s_->Stand().Hinweis);
+    EXPECT_TRUE(s_->Stand().Saetze[2].Geaendert);
+    EXPECT_TRUE(s_->Stand().Hinweis());
 }
 
 TEST_F(Tabellenprobe, enter_checks_once_and_makes_one_run) {
@@ -278,8 +278,8 @@ TEST_F(Tabellenprobe, an_empty_month_is_told_once_and_its_cell_selected) {
     ASSERT_TRUE(s_->Stand().Tabellenfehler);
     EXPECT_EQ(s_->Stand().Tabellenfehler->Zeile, 1);
     EXPECT_EQ(s_->Stand().Tabellenfehler->Spalte, 1);
-    EXPECT_TRUE(s_->Stand().abgedeckt);
-    EXPECT_TRUE(s_->Stand().Hinweis);
+    EXPECT_TRUE(s_->Stand().abgedeckt());
+    EXPECT_TRUE(s_->Stand().Hinweis());
 }
 
 TEST_F(Tabellenprobe, dates_that_do_not_ascend_are_told) {
@@ -287,7 +287,7 @@ TEST_F(Tabellenprobe, dates_that_do_not_ascend_are_told) {
     s_->fuege_in_Tabelle_ein({0, 0}, "15\t5\n15\t5\n");
     Fragen_.erwarte("No valid input!", "The sequence of application dates that is not valid. Please correct!");
     s_->bestaetige_Tabelle();
-    EXPECT_TRUE(s_->Stand().abgedeckt);
+    EXPECT_TRUE(s_->Stand().abgedeckt());
 }
 
 TEST_F(Tabellenprobe, a_column_of_numbers_is_pasted_downwards_and_no_row_is_made) {
@@ -305,7 +305,7 @@ TEST_F(Tabellenprobe, rows_cut_off_by_a_smaller_number_come_back_with_a_larger_o
     s_->waehle_Anzahl(0);
     s_->waehle_Anzahl(1);
     EXPECT_EQ(Text(2, 2), "80");
-    EXPECT_TRUE(s_->Stand().Hinweis);  // the table takes effect with Enter
+    EXPECT_TRUE(s_->Stand().Hinweis());  // the table takes effect with Enter
 }
 
 TEST_F(Tabellenprobe, switching_to_irregular_with_an_empty_table_tells_at_once) {
@@ -314,8 +314,8 @@ TEST_F(Tabellenprobe, switching_to_irregular_with_an_empty_table_tells_at_once) 
     gestartet();
     Fragen_.erwarte("No valid input!", Daten_ungueltig);
     s_->waehle_Muster(unregelmaessig);
-    EXPECT_TRUE(s_->Stand().abgedeckt);
-    EXPECT_TRUE(s_->Stand().Hinweis);
+    EXPECT_TRUE(s_->Stand().abgedeckt());
+    EXPECT_TRUE(s_->Stand().Hinweis());
 }
 
 }  // namespace

@@ -66,7 +66,7 @@ TEST_F(Berichtsprobe, that_cannot_be_written_is_told_and_stays_on_the_screen) {
     Fragen_.erwarte_Anfang("Runtime error", "");
     s_->erstelle_Bericht();
     EXPECT_NE(s_->offener_Bericht(), nullptr);
-    EXPECT_FALSE(s_->Stand().abgedeckt);
+    EXPECT_FALSE(s_->Stand().abgedeckt());
 }
 
 TEST_F(Berichtsprobe, with_a_description_that_no_file_can_be_called_by_is_refused) {
@@ -75,7 +75,7 @@ TEST_F(Berichtsprobe, with_a_description_that_no_file_can_be_called_by_is_refuse
     Fragen_.erwarte_Anfang("Runtime error", "");
     s_->erstelle_Bericht();
     EXPECT_EQ(s_->offener_Bericht(), nullptr);
-    EXPECT_FALSE(s_->Stand().abgedeckt);
+    EXPECT_FALSE(s_->Stand().abgedeckt());
 }
 
 TEST_F(Berichtsprobe, another_description_clears_the_name_of_the_output_file) {

@@ -69,11 +69,11 @@ TEST_F(Nebenausgabenprobe, a_run_dump_that_cannot_be_written_is_told_once_and_th
     Fragen_.erwarte("Runtime error",
                     "Cannot write the file \"" + (Wurzel_ / "output" / "test.txt").string() + "\": it is a folder");
     s_->Starten();
-    EXPECT_FALSE(s_->Stand().abgedeckt);
-    EXPECT_FALSE(s_->Stand().Hinweis);
+    EXPECT_FALSE(s_->Stand().abgedeckt());
+    EXPECT_FALSE(s_->Stand().Hinweis());
     EXPECT_NE(s_->Diagramme().vorderes(), nullptr);
     s_->Aktualisieren();
-    EXPECT_FALSE(s_->Stand().abgedeckt);
+    EXPECT_FALSE(s_->Stand().abgedeckt());
 }
 
 TEST_F(Nebenausgabenprobe, a_day_series_that_cannot_be_written_is_told_once_and_the_drawing_stands) {
@@ -81,11 +81,11 @@ TEST_F(Nebenausgabenprobe, a_day_series_that_cannot_be_written_is_told_once_and_
     nur_geladen();
     Fragen_.erwarte_Anfang("Runtime error", "Cannot write the file ");
     s_->Starten();
-    EXPECT_FALSE(s_->Stand().abgedeckt);
+    EXPECT_FALSE(s_->Stand().abgedeckt());
     EXPECT_EQ(Protokoll(), erwartetes_Protokoll());
     s_->Aktualisieren();
     s_->waehle_PEC_Typ(1);
-    EXPECT_FALSE(s_->Stand().abgedeckt);
+    EXPECT_FALSE(s_->Stand().abgedeckt());
 }
 
 // No folder at all: one message for all files of the action.
@@ -95,7 +95,7 @@ TEST_F(Nebenausgabenprobe, a_file_in_place_of_the_folder_is_told_in_one_line) {
     nur_geladen();
     Fragen_.erwarte("Runtime error", "Cannot make the folder \"" + (Wurzel_ / "output").string() + "\"");
     s_->Starten();
-    EXPECT_FALSE(s_->Stand().abgedeckt);
+    EXPECT_FALSE(s_->Stand().abgedeckt());
 }
 
 }  // namespace

@@ -53,7 +53,7 @@ TEST_F(Onlinecheck, without_a_host_answers_with_the_connection_message) {
     erwarte_keine_Verbindung();
     s_->suche_nach_Update();
     EXPECT_TRUE(s_->Stand().Aktualisierungsfehler);
-    EXPECT_FALSE(s_->Stand().abgedeckt);
+    EXPECT_FALSE(s_->Stand().abgedeckt());
 }
 
 TEST_F(Onlinecheck, without_a_host_asks_nobody) {

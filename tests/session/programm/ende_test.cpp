@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <chrono>
 #include <fstream>
 
@@ -8,10 +9,24 @@
 namespace varnok {
 namespace {
 
-using Ende = Probesitzung;
+using Liste = std::vector<std::string>;
+
+class Ende : public Probesitzung {
+protected:
+    // The names of what lies in `backup`.
+    Liste gesichert() const {
+        Liste Namen;
+        if (!gibt_es("backup")) return Namen;
+        for (const auto& f : std::filesystem::recursive_directory_iterator(Wurzel_ / "backup")) {
+            if (f.is_regular_file()) Namen.push_back(f.path().filename().string());
+        }
+        std::sort(Namen.begin(), Namen.end());
+        return Namen;
+    }
+};
 
 std::string Frage_nach(const std::string& Wort) {
-    return "You modified " + Wort + " input data!  Do you want to save the changes in your data base?";
+    return "You modified " + Wort + " input data!  Do you want to save the changes in your data base?\n'Probe'";
 }
 
 std::filesystem::file_time_type Stempel(const std::filesystem::path& p) { return std::filesystem::last_write_time(p); }
@@ -46,14 +61,77 @@ TEST_F(Ende, leaves_the_record_alone_on_no) {
     EXPECT_EQ(Datei("input/Probe.che"), vorher);
 }
 
-TEST_F(Ende, asks_once_for_each_changed_record_until_a_yes_saves_all) {
+TEST_F(Ende, asks_once_for_each_changed_record_and_saves_those_with_a_yes) {
     gestartet();
     ASSERT_TRUE(tippe("S_DT50_0", "12"));
     ASSERT_TRUE(tippe("Applikationsrate", "500"));
     Fragen_.erwarte("Save changes?", Frage_nach("pesticide"), Knopf::Nein)
         .erwarte("Save changes?", Frage_nach("application"), Knopf::Ja);
+    const std::string Wirkstoffdatei = Datei("input/Probe.che");
+    const std::string Muster = Datei("input/Probe.app");
     s_->Ende();
     EXPECT_TRUE(s_->Stand().beendet);
+    EXPECT_EQ(Datei("input/Probe.che"), Wirkstoffdatei);
+    EXPECT_NE(Datei("input/Probe.app"), Muster);
+    EXPECT_EQ(gesichert(), Liste{"unsaved Probe.che"});
+}
+
+TEST_F(Ende, not_now_at_any_question_does_nothing_and_does_not_end) {
+    gestartet();
+    ASSERT_TRUE(tippe("S_DT50_0", "12"));
+    ASSERT_TRUE(tippe("Applikationsrate", "500"));
+    const std::string Wirkstoffdatei = Datei("input/Probe.che");
+    const auto Zeit = Stempel(Wurzel_ / "input/Probe.vnk");
+    for (const bool Fenster : {false, true}) {
+        Fragen_.erwarte("Save changes?", Frage_nach("pesticide"), Knopf::Ja)
+            .erwarte("Save changes?", Frage_nach("application"), Knopf::nicht_jetzt);
+        Fenster ? static_cast<void>(s_->schliesse_Fenster()) : s_->Ende();
+        EXPECT_FALSE(s_->Stand().beendet);
+    }
+    EXPECT_EQ(Datei("input/Probe.che"), Wirkstoffdatei);
+    EXPECT_EQ(Stempel(Wurzel_ / "input/Probe.vnk"), Zeit);
+    EXPECT_TRUE(s_->Stand().Saetze[1].Geaendert && s_->Stand().Saetze[2].Geaendert);
+    EXPECT_FALSE(gibt_es("backup"));
+}
+
+TEST_F(Ende, by_the_close_box_keeps_a_changed_description_in_backup) {
+    gestartet();
+    s_->aendere_Beschreibung("In other words");
+    EXPECT_TRUE(s_->schliesse_Fenster());
+    EXPECT_EQ(Datei("input/Probe.vnk"), "A trial\r\nProbe\r\nProbe\r\nProbe\r\n");
+    EXPECT_EQ(gesichert(), Liste{"unsaved Probe.vnk"});
+}
+
+TEST_F(Ende, by_the_close_box_keeps_another_combination_and_values_without_a_mark_in_backup) {
+    schreibe_Saetze("Second", Felder_);
+    gestartet();
+    s_->waehle_Satz(Szenario, 1);
+    s_->waehle_Anzahl(3);
+    EXPECT_TRUE(s_->schliesse_Fenster());
+    EXPECT_EQ(gesichert(), (Liste{"unsaved Probe.app", "unsaved Probe.vnk"}));
+}
+
+TEST_F(Ende, tells_once_of_files_that_cannot_be_written_and_ends) {
+    gestartet();
+    for (const char* Name : {"input/Probe.vnk", "VARNOK.ini"}) {
+        std::filesystem::remove(Wurzel_ / Name);
+        std::filesystem::create_directory(Wurzel_ / Name);
+    }
+    Fragen_.erwarte_Anfang("Runtime error", "");
+    s_->Ende();
+    EXPECT_TRUE(s_->Stand().beendet);
+}
+
+TEST_F(Ende, stays_where_a_yes_cannot_be_done) {
+    gestartet();
+    ASSERT_TRUE(tippe("S_DT50_0", "12"));
+    std::filesystem::rename(Wurzel_ / "input", Wurzel_ / "elsewhere");
+    for (const bool Fenster : {false, true}) {
+        Fragen_.erwarte("Save changes?", Frage_nach("pesticide"), Knopf::Ja)
+            .erwarte_Anfang("Runtime error", "Cannot write the file");
+        Fenster ? static_cast<void>(s_->schliesse_Fenster()) : s_->Ende();
+        EXPECT_FALSE(s_->Stand().beendet);
+    }
 }
 
 TEST_F(Ende, with_an_empty_selector_is_refused_and_the_program_stays) {
@@ -61,7 +139,7 @@ TEST_F(Ende, with_an_empty_selector_is_refused_and_the_program_stays) {
     std::filesystem::last_write_time(Wurzel_ / "input/Torn.vnk", Stempel(Wurzel_ / "input/Probe.vnk") - std::chrono::hours(1));
     gestartet();
     s_->waehle_Simulation(1);
-    EXPECT_TRUE(s_->Stand().abgedeckt);
+    EXPECT_TRUE(s_->Stand().abgedeckt());
     Fragen_.erwarte("Record not set", "Application record not set. Please select!");
     s_->Ende();
     EXPECT_FALSE(s_->Stand().beendet);

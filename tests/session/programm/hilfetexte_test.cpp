@@ -39,7 +39,7 @@ TEST_F(Hilfe, a_missing_file_is_told_once_and_the_program_goes_on) {
     Fragen_.erwarte_Anfang("Runtime error", "File tooltips.uk is missing. It was sought in the folder \"input\" of \"");
     EXPECT_TRUE(s_->Tooltips().empty());
     EXPECT_TRUE(s_->Tooltips().empty());
-    EXPECT_FALSE(s_->Stand().abgedeckt);
+    EXPECT_FALSE(s_->Stand().abgedeckt());
     EXPECT_FALSE(s_->Stand().beendet);
 }
 

@@ -58,7 +58,7 @@ TEST_F(Optionsprobe, accepted_unchanged_run_once_and_mark_nothing) {
     EXPECT_EQ(s_->Stand().Parameter(), vorher);
     EXPECT_FALSE(irgendetwas_geaendert());
     EXPECT_FALSE(s_->Stand().Simulation_markiert);
-    EXPECT_FALSE(s_->Stand().abgedeckt);
+    EXPECT_FALSE(s_->Stand().abgedeckt());
     EXPECT_EQ(s_->Stand().Statuszeile, "");
 }
 
@@ -80,8 +80,8 @@ TEST_F(Optionsprobe, the_unit_multiplies_by_a_thousand_and_goes_with_the_compoun
     const std::string Einstellung = Datei("VARNOK.ini");
     bestaetige([](Optionsentwurf& o) { o.Einheit = 1; });
     EXPECT_FLOAT_EQ(Maximum(), 1333.3334F);
-    EXPECT_TRUE(s_->Stand().Geaendert[Wirkstoff]);
-    EXPECT_FALSE(s_->Stand().Hinweis);
+    EXPECT_TRUE(s_->Stand().Saetze[Wirkstoff].Geaendert);
+    EXPECT_FALSE(s_->Stand().Hinweis());
     EXPECT_EQ(Datei("input/Probe.che"), vorher);  // with Save only
     s_->Speichern();
     EXPECT_EQ(Zeile("input/Probe.che", "Unit:"), "Unit:\t1");
@@ -91,8 +91,8 @@ TEST_F(Optionsprobe, the_unit_multiplies_by_a_thousand_and_goes_with_the_compoun
 TEST_F(Optionsprobe, a_changed_unit_is_asked_about_at_the_end) {
     gestartet();
     bestaetige([](Optionsentwurf& o) { o.Einheit = 1; });
-    Fragen_.erwarte("Save changes?", "You modified pesticide input data!  Do you want to save the changes in your data base?",
-                    Knopf::Ja);
+    Fragen_.erwarte("Save changes?",
+                    "You modified pesticide input data!  Do you want to save the changes in your data base?\n'Probe'", Knopf::Ja);
     s_->Ende();
     EXPECT_EQ(Zeile("input/Probe.che", "Unit:"), "Unit:\t1");
 }
@@ -109,7 +109,7 @@ TEST_F(Optionsprobe, separate_residues_of_slowing_kinetics_last_longer) {
     const auto letzter = [&] { return Werte().Werte(Gesamtgehalt, 0).Reihe_Plateautiefe[3640]; };
     bestaetige([](Optionsentwurf& o) { o.Separate_Rueckstaende = 2; });
     const float innerhalb_des_Jahres = letzter();
-    EXPECT_TRUE(s_->Stand().Geaendert[Wirkstoff]);
+    EXPECT_TRUE(s_->Stand().Saetze[Wirkstoff].Geaendert);
     bestaetige([](Optionsentwurf& o) { o.Separate_Rueckstaende = 0; });
     const float zusammen = letzter();
     bestaetige([](Optionsentwurf& o) { o.Separate_Rueckstaende = 1; });
@@ -129,9 +129,9 @@ TEST_F(Optionsprobe, the_monthly_list_brings_its_windows_its_rows_and_its_first_
     EXPECT_EQ(s_->TWA_Liste().size(), 12U);
     EXPECT_EQ(s_->TWA_Liste().front(), "TWA (30 d)");
     EXPECT_EQ(s_->Stand().Sicht.TWA_Laenge, 0);
-    EXPECT_TRUE(s_->Stand().Geaendert[Wirkstoff]);
-    EXPECT_FALSE(s_->Stand().abgedeckt);
-    EXPECT_FALSE(s_->Stand().Hinweis);
+    EXPECT_TRUE(s_->Stand().Saetze[Wirkstoff].Geaendert);
+    EXPECT_FALSE(s_->Stand().abgedeckt());
+    EXPECT_FALSE(s_->Stand().Hinweis());
     // The mean of 30 days from the peak on, with k = 0.01: c (1 - exp(-0.3)) / 0.3.
     EXPECT_NEAR(Werte().Werte(Gesamtgehalt, 0).TWA[0].Maximum, 1.3333334 * (1 - std::exp(-0.3)) / 0.3, 1e-4);
     bestaetige([](Optionsentwurf& o) { o.TWA_Zeiten = 1; });
@@ -157,7 +157,7 @@ TEST_F(Optionsprobe, the_list_of_a_compound_record_comes_with_it) {
 TEST_F(Optionsprobe, the_parts_of_the_name_mark_the_compound_and_make_the_name) {
     gestartet();
     bestaetige([](Optionsentwurf& o) { o.Ausgabename_Teile[1] = true; });
-    EXPECT_TRUE(s_->Stand().Geaendert[Wirkstoff]);
+    EXPECT_TRUE(s_->Stand().Saetze[Wirkstoff].Geaendert);
     s_->erstelle_Bericht();
     EXPECT_NE(s_->Stand().Ergebnisdatei.find("First soil"), std::string::npos);
     s_->Speichern();
@@ -213,7 +213,7 @@ TEST_F(Optionsprobe, settings_that_cannot_be_written_are_told_and_the_run_follow
         o.Einheit = 1;
     });
     EXPECT_FLOAT_EQ(Maximum(), 1333.3334F);
-    EXPECT_FALSE(s_->Stand().abgedeckt);
+    EXPECT_FALSE(s_->Stand().abgedeckt());
 }
 
 TEST_F(Optionsprobe, the_appearance_is_kept_in_the_settings) {
@@ -232,8 +232,8 @@ TEST_F(Optionsprobe, a_run_that_fails_leaves_the_results_covered_and_the_hint_on
     }
     gestartet();
     bestaetige([](Optionsentwurf& o) { o.Einheit = 1; });
-    EXPECT_TRUE(s_->Stand().abgedeckt);
-    EXPECT_TRUE(s_->Stand().Hinweis);
+    EXPECT_TRUE(s_->Stand().abgedeckt());
+    EXPECT_TRUE(s_->Stand().Hinweis());
 }
 
 TEST_F(Optionsprobe, with_a_record_missing_stay_covered_without_a_word) {
@@ -244,9 +244,9 @@ TEST_F(Optionsprobe, with_a_record_missing_stay_covered_without_a_word) {
     nur_geladen();
     s_->Starten();
     s_->waehle_Simulation(1);
-    ASSERT_TRUE(s_->Stand().abgedeckt);
+    ASSERT_TRUE(s_->Stand().abgedeckt());
     bestaetige([](Optionsentwurf& o) { o.Einheit = 1; });
-    EXPECT_TRUE(s_->Stand().abgedeckt);
+    EXPECT_TRUE(s_->Stand().abgedeckt());
 }
 
 }  // namespace

@@ -31,7 +31,7 @@ protected:
         return i == std::string::npos ? "" : Bytes.substr(i, Bytes.find('\r', i) - i);
     }
     bool irgendetwas_geaendert() const {
-        const auto& g = s_->Stand().Geaendert;
+        const auto g = s_->Stand().Marken();
         return std::any_of(g.begin(), g.end(), [](bool x) { return x; });
     }
     std::size_t Dateizahl(const std::string& Ordner) const {

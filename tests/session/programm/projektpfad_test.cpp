@@ -46,7 +46,7 @@ TEST_F(Projektpfad, a_folder_that_cannot_be_made_is_not_reported) {
     std::ofstream(Wurzel_ / "new/input") << "a file in the folder's place";
     waehle_Projekt("new");
     EXPECT_EQ(s_->Stand().Projektpfad, (Wurzel_ / "new").string());
-    EXPECT_FALSE(s_->Stand().abgedeckt);
+    EXPECT_FALSE(s_->Stand().abgedeckt());
 }
 
 TEST_F(Projektpfad, where_no_output_can_be_written_the_run_says_so_once_and_the_results_stand) {
@@ -55,9 +55,9 @@ TEST_F(Projektpfad, where_no_output_can_be_written_the_run_says_so_once_and_the_
     std::ofstream(Wurzel_ / "new/output") << "a file in the folder's place";
     Fragen_.erwarte("Runtime error", "Cannot make the folder \"" + (Wurzel_ / "new/output").string() + "\"");
     waehle_Projekt("new");
-    EXPECT_FALSE(s_->Stand().abgedeckt);
+    EXPECT_FALSE(s_->Stand().abgedeckt());
     bestaetige_unveraendert();
-    EXPECT_FALSE(s_->Stand().abgedeckt);
+    EXPECT_FALSE(s_->Stand().abgedeckt());
 }
 
 TEST_F(Projektpfad, output_goes_to_the_new_project_at_once) {
@@ -86,11 +86,11 @@ TEST_F(Projektpfad, records_climate_and_backup_stay_with_the_old_project) {
     waehle_Projekt("new");
     s_->waehle_Satz(Szenario, 1);
     EXPECT_EQ(s_->Stand().gewaehlt(Szenario), "Weather");
-    EXPECT_FALSE(s_->Stand().abgedeckt);
+    EXPECT_FALSE(s_->Stand().abgedeckt());
     ASSERT_TRUE(tippe("S_DT50_0", "12"));
     s_->Speichern();
     EXPECT_EQ(Datei("input/Probe.vnk"), "A trial\r\nProbe\r\nProbe\r\nWeather\r\n");
-    Fragen_.erwarte("Delete record", "Do you really want to delete this record?", Knopf::Ja);
+    Fragen_.erwarte_Anfang("Delete record", "Do you really want to delete this record?", Knopf::Ja);
     s_->loesche_Satz(Szenario);
     EXPECT_FALSE(gibt_es("input/Weather.sce"));
     EXPECT_TRUE(gibt_es("backup"));

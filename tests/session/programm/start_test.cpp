@@ -70,6 +70,36 @@ TEST_F(Start, with_a_missing_record_asks_by_the_name_without_extension) {
     EXPECT_FALSE(s.oeffne_Projekt());
 }
 
+TEST_F(Start, with_a_missing_record_and_others_to_choose_is_covered_and_says_which) {
+    schreibe_Saetze("Second", Felder_);
+    std::filesystem::remove(Wurzel_ / "input/Probe.sce");
+    gestartet();
+    EXPECT_EQ(s_->Stand().Abdeckungswort(), "Record \"Probe.sce\" missing: choose one");
+    EXPECT_NE(s_->Stand().Statuszeile.find("\"Probe.sce\""), std::string::npos);
+    EXPECT_EQ(s_->Stand().Zeichnung, 0);
+    s_->waehle_Satz(Szenario, 0);
+    EXPECT_FALSE(s_->Stand().abgedeckt());
+}
+
+TEST_F(Start, after_a_rename_and_the_close_box_works_and_says_what_it_misses) {
+    gestartet();
+    ASSERT_TRUE(s_->benenne_Satz_um(Wirkstoff, "Renamed", true));
+    ASSERT_TRUE(s_->schliesse_Fenster());
+    EXPECT_TRUE(gibt_es("backup"));  // the combination that no file holds
+    gestartet();
+    EXPECT_EQ(s_->Stand().Abdeckungswort(), "Record \"Probe.che\" missing: choose one");
+    s_->waehle_Satz(Wirkstoff, 0);
+    EXPECT_EQ(s_->Stand().gewaehlt(Wirkstoff), "Renamed");
+    EXPECT_FALSE(s_->Stand().abgedeckt());
+}
+
+TEST_F(Start, esc_at_the_question_without_any_record_of_a_kind_is_no) {
+    std::filesystem::remove(Wurzel_ / "input/Probe.sce");
+    Fragen_.erwarte_Anfang("Data file missing", "", Knopf::nicht_jetzt);
+    Sitzung s({&Fragen_, Wurzel_.string(), "", '.'});
+    EXPECT_FALSE(s.oeffne_Projekt());
+}
+
 TEST_F(Start, with_a_short_summary_tells_and_takes_the_next_newest) {
     std::ofstream(Wurzel_ / "input/Torn.vnk", std::ios::binary) << "only one line\r\n";
     const auto spaeter = std::filesystem::last_write_time(Wurzel_ / "input/Probe.vnk") + std::chrono::seconds(5);
@@ -81,9 +111,9 @@ TEST_F(Start, with_a_short_summary_tells_and_takes_the_next_newest) {
 TEST_F(Start, before_ok_nothing_is_computed) {
     nur_geladen();
     EXPECT_FALSE(s_->Stand().Gestartet);
-    EXPECT_EQ(s_->Stand().Werte, Ergebnisse());
+    EXPECT_EQ(s_->Stand().Werte(), Ergebnisse());
     s_->Aktualisieren();
-    EXPECT_EQ(s_->Stand().Werte, Ergebnisse());
+    EXPECT_EQ(s_->Stand().Werte(), Ergebnisse());
 }
 
 TEST_F(Start, before_ok_the_tables_have_their_heads_and_zeros) {
@@ -104,9 +134,9 @@ TEST_F(Start, before_ok_the_tables_have_their_heads_and_zeros) {
 TEST_F(Start, ok_makes_the_first_run_and_leaves_no_mark) {
     gestartet();
     EXPECT_FLOAT_EQ(Maximum(), 1.3333334F);  // 1000 g/ha in 5 cm of 1.5 kg/L
-    EXPECT_FALSE(s_->Stand().abgedeckt);
-    EXPECT_FALSE(s_->Stand().Hinweis);
-    for (const bool g : s_->Stand().Geaendert) EXPECT_FALSE(g);
+    EXPECT_FALSE(s_->Stand().abgedeckt());
+    EXPECT_FALSE(s_->Stand().Hinweis());
+    for (const bool g : s_->Stand().Marken()) EXPECT_FALSE(g);
 }
 
 TEST_F(Start, shows_the_scheme_of_the_record) {

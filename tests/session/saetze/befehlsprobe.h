@@ -40,7 +40,7 @@ protected:
         s_->waehle_Satz(Art, static_cast<int>(std::find(l.begin(), l.end(), Name) - l.begin()));
     }
     void bejahe_Loeschen(Knopf Antwort = Knopf::Ja) {
-        Fragen_.erwarte("Delete record", "Do you really want to delete this record?", Antwort);
+        Fragen_.erwarte_Anfang("Delete record", "Do you really want to delete this record?", Antwort);
     }
     // What lies in `backup`, by file name without its folder.
     Namen gesichert() const {

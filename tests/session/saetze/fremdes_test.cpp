@@ -2,7 +2,9 @@
 
 #include <chrono>
 
+#include <gmock/gmock.h>
 #include "records/dateien.h"
+
 #include "session/saetze/befehlsprobe.h"
 
 namespace varnok {
@@ -28,7 +30,7 @@ TEST_F(Fremdes, a_changed_record_is_told_at_refresh_and_the_values_stay) {
     s_->Aktualisieren();
     EXPECT_EQ(z().Statuszeile, "\"Probe.che\" was changed by another program since it was read.");
     EXPECT_EQ(z().Felder().Name_Wirkstoff, "Parent P");
-    EXPECT_FALSE(z().abgedeckt);
+    EXPECT_FALSE(z().abgedeckt());
 }
 
 TEST_F(Fremdes, a_deleted_record_is_told_at_refresh_and_save_writes_it_anew) {
@@ -96,7 +98,7 @@ TEST_F(Fremdes, loading_a_simulation_keeps_values_whose_file_is_gone) {
     s_->waehle_Simulation(1);
     EXPECT_EQ(gesichert(), Namen{"unsaved Probe.sce"});
     EXPECT_EQ(z().Listen[Szenario], Namen{"Second"});
-    EXPECT_FALSE(z().abgedeckt);
+    EXPECT_FALSE(z().abgedeckt());
 }
 
 TEST_F(Fremdes, a_simulation_that_is_gone_is_told_when_chosen_and_leaves_the_list) {
@@ -106,7 +108,7 @@ TEST_F(Fremdes, a_simulation_that_is_gone_is_told_when_chosen_and_leaves_the_lis
     s_->waehle_Simulation(1);
     EXPECT_EQ(z().Listen[Simulation], Namen{"Probe"});
     EXPECT_EQ(z().gewaehlt(Simulation), "Probe");
-    EXPECT_FALSE(z().abgedeckt);
+    EXPECT_FALSE(z().abgedeckt());
 }
 
 TEST_F(Fremdes, a_simulation_that_names_a_record_gone_since_the_start_waits_for_a_choice) {
@@ -114,10 +116,10 @@ TEST_F(Fremdes, a_simulation_that_names_a_record_gone_since_the_start_waits_for_
     entferne_von_aussen("Second.app");
     s_->waehle_Simulation(1);
     EXPECT_EQ(z().Auswahl(Applikation), -1);
-    EXPECT_TRUE(z().abgedeckt);
+    EXPECT_TRUE(z().abgedeckt());
     EXPECT_FALSE(z().beendet);
     waehle(Applikation, "Probe");
-    EXPECT_FALSE(z().abgedeckt);
+    EXPECT_FALSE(z().abgedeckt());
     EXPECT_EQ(z().Parameter().Bodendichte, 3);
 }
 
@@ -140,17 +142,47 @@ TEST_F(Fremdes, the_last_record_in_the_folder_stays_whatever_the_list_shows) {
     s_->loesche_Satz(Szenario);
     EXPECT_TRUE(gibt_es("input/Probe.sce"));
     EXPECT_EQ(z().Listen[Szenario], Namen{"Probe"});
-    EXPECT_FALSE(z().abgedeckt);
+    EXPECT_FALSE(z().abgedeckt());
 }
 
-TEST_F(Fremdes, no_to_a_missing_record_ends_the_program_with_all_unsaved_values_in_backup) {
+TEST_F(Fremdes, a_record_that_went_is_named_and_covers_while_there_are_others_to_choose) {
     gestartet();
-    tippe("S_DT50_0", "12");
     entferne_von_aussen("Second.app");
-    Fragen_.erwarte("Data file missing", "File Second is missing. Should the default settings be loaded ", Knopf::Nein);
     waehle(Applikation, "Second");
+    EXPECT_FALSE(z().beendet);
+    EXPECT_EQ(z().Abdeckungswort(), "Record \"Second.app\" missing: choose one");
+    EXPECT_NE(z().Statuszeile.find("Second.app"), std::string::npos);
+    waehle(Applikation, "Probe");
+    EXPECT_FALSE(z().abgedeckt());
+}
+
+class LetzterSatz : public Fremdes {
+protected:
+    // The last patterns go while another one is chosen.
+    void waehle_ins_Leere(Knopf Antwort) {
+        gestartet();
+        tippe("S_DT50_0", "12");
+        entferne_von_aussen("Second.app");
+        entferne_von_aussen("Probe.app");
+        Fragen_.erwarte("Data file missing", "File Second is missing. Should the default settings be loaded ", Antwort);
+        waehle(Applikation, "Second");
+    }
+};
+
+TEST_F(LetzterSatz, no_to_the_question_ends_the_program_with_all_unsaved_values_in_backup) {
+    waehle_ins_Leere(Knopf::Nein);
     EXPECT_TRUE(z().beendet);
-    EXPECT_EQ(gesichert(), Namen({"unsaved Probe.che", "unsaved Probe.vnk"}));
+    for (const char* Name : {"unsaved Probe.app", "unsaved Probe.che", "unsaved Probe.vnk"}) {
+        EXPECT_THAT(gesichert(), testing::Contains(Name));
+    }
+}
+
+TEST_F(LetzterSatz, esc_at_the_question_never_ends_the_program) {
+    waehle_ins_Leere(Knopf::nicht_jetzt);
+    EXPECT_FALSE(z().beendet);
+    EXPECT_EQ(z().Abdeckungswort(), "Record \"Second.app\" missing: choose one");
+    EXPECT_EQ(s_->Feldtext(Feld("S_DT50_0")), "12");
+    EXPECT_TRUE(z().Saetze[Wirkstoff].Geaendert);
 }
 
 TEST_F(Fremdes, a_changed_summary_file_is_asked_about_at_exit_and_stays_on_no) {
@@ -176,12 +208,12 @@ TEST_F(Fremdes, a_changed_summary_file_is_replaced_at_exit_on_yes_and_kept_in_ba
 TEST_F(Fremdes, exit_stays_where_its_save_was_refused) {
     gestartet();
     tippe("S_DT50_0", "12");
-    aendere_von_aussen("Probe.app");
+    aendere_von_aussen("Probe.che");
     erwarte_Sicherungsfrage(Knopf::Ja);
-    erwarte_Ersatzfrage("Probe.app", Knopf::Nein);
+    erwarte_Ersatzfrage("Probe.che", Knopf::Nein);
     s_->Ende();
     EXPECT_FALSE(z().beendet);
-    EXPECT_TRUE(z().Geaendert[1]);
+    EXPECT_TRUE(z().Saetze[1].Geaendert);
 }
 
 TEST_F(Fremdes, a_record_that_cannot_be_read_is_not_replaced_and_nothing_else_is_written) {
@@ -193,7 +225,7 @@ TEST_F(Fremdes, a_record_that_cannot_be_read_is_not_replaced_and_nothing_else_is
     Fragen_.erwarte("Runtime error", "Cannot read the file \"" + Pfad("Probe.sce") + "\": it is a folder");
     s_->Speichern();
     EXPECT_EQ(Datei("input/Probe.che"), Wirkstoffdatei);
-    EXPECT_TRUE(z().Geaendert[1]);
+    EXPECT_TRUE(z().Saetze[1].Geaendert);
 }
 
 class ZweitesFenster : public Fremdes {
@@ -237,7 +269,7 @@ TEST_F(ZweitesFenster, stays_open_where_the_save_at_exit_was_refused) {
     erwarte_Fensterfrage(Knopf::Nein);
     s_->Ende();
     EXPECT_FALSE(z().beendet);
-    EXPECT_TRUE(z().Geaendert[1]);
+    EXPECT_TRUE(z().Saetze[1].Geaendert);
 }
 
 TEST_F(ZweitesFenster, sees_what_the_first_one_saved) {

@@ -30,13 +30,13 @@ TEST_F(Organiserszenario, an_edited_scenario_keeps_its_values_when_the_other_rec
     EXPECT_TRUE(fertig());
     EXPECT_EQ(Maske().Name_Wirkstoff, "Other parent");
     EXPECT_EQ(z().Parameter().Bodendichte, 6);
-    EXPECT_TRUE(z().Geaendert[3]);
-    EXPECT_FALSE(z().abgedeckt);
+    EXPECT_TRUE(z().Saetze[3].Geaendert);
+    EXPECT_FALSE(z().abgedeckt());
     EXPECT_EQ(Gesichertes().count("unsaved Probe.sce"), 0U);
 }
 
 // The file on the disk differs from the screen, so that a reading shows.
-TEST_F(Organiserszenario, a_scenario_that_the_editor_left_as_it_was_is_read) {
+TEST_F(Organiserszenario, a_scenario_that_the_editor_left_as_it_was_is_read_where_it_was_chosen) {
     for (const bool mit_Done : {true, false}) {
         schreibe_Probe();
         s_.reset();
@@ -45,7 +45,7 @@ TEST_F(Organiserszenario, a_scenario_that_the_editor_left_as_it_was_is_read) {
         andere.Parameter.Bodendichte = 6;
         Satz_schreiben(Projektordner(Wurzel_.string()), "Probe", Szenario, andere, Sicht_);
         bearbeite([&](Szenarioeditor& e) { e.aendere(Szenarioentwurf::Bodendichte, mit_Done ? "1.5" : "3"); }, mit_Done);
-        waehle(Wirkstoff, "Second");
+        waehle(Szenario, "Probe");
         EXPECT_TRUE(fertig());
         EXPECT_EQ(z().Parameter().Bodendichte, 6);
     }

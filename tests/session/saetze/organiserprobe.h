@@ -65,7 +65,7 @@ protected:
         tue([&](Organiser& x) { Art == Simulation ? x.waehle_Simulation(i) : x.waehle_Satz(Art, i); });
     }
     void loesche(Satzart Art, Knopf Antwort = Knopf::Ja) {
-        Fragen_.erwarte("Delete record", "Do you really want to delete this record?", Antwort);
+        Fragen_.erwarte_Anfang("Delete record", "Do you really want to delete this record?", Antwort);
         tue([&](Organiser& x) { x.loesche(Art); });
     }
     void kopiere(Satzart Art) {

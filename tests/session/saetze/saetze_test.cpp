@@ -44,7 +44,7 @@ TEST_F(Satzprobe, a_simulation_brings_its_description_its_records_and_one_run) {
     EXPECT_EQ(s_->Stand().Felder().Name_Wirkstoff, "Other parent");
     EXPECT_EQ(s_->Stand().Parameter().Bodendichte, 3);
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe + 1);
-    EXPECT_FALSE(s_->Stand().Geaendert[0]);
+    EXPECT_FALSE(s_->Stand().Saetze[0].Geaendert);
     EXPECT_FALSE(s_->Stand().Simulation_markiert);
 }
 
@@ -52,10 +52,10 @@ TEST_F(Satzprobe, a_simulation_with_a_missing_record_stays_covered_until_one_is_
     simulation("Torn", "Second", "no such record", "Second");
     gestartet();
     s_->waehle_Simulation(Platz(0, "Torn"));
-    EXPECT_TRUE(s_->Stand().abgedeckt);
+    EXPECT_TRUE(s_->Stand().abgedeckt());
     EXPECT_EQ(s_->Stand().Auswahl(2), -1);
     s_->waehle_Satz(Applikation, Platz(2, "Second"));
-    EXPECT_FALSE(s_->Stand().abgedeckt);
+    EXPECT_FALSE(s_->Stand().abgedeckt());
     EXPECT_EQ(s_->Stand().Parameter().Bodendichte, 3);  // the scenario behind the missing record was read, too
 }
 
@@ -64,7 +64,7 @@ TEST_F(Satzprobe, a_record_name_that_differs_only_in_case_is_not_found) {
     gestartet();
     s_->waehle_Simulation(Platz(0, "Torn"));
     EXPECT_EQ(s_->Stand().Auswahl(1), -1);
-    EXPECT_TRUE(s_->Stand().abgedeckt);
+    EXPECT_TRUE(s_->Stand().abgedeckt());
 }
 
 TEST_F(Satzprobe, refresh_with_an_empty_selector_says_which_record_is_missing) {
@@ -73,7 +73,7 @@ TEST_F(Satzprobe, refresh_with_an_empty_selector_says_which_record_is_missing) {
     s_->waehle_Simulation(Platz(0, "Torn"));
     Fragen_.erwarte("Record not set", "Scenario record not set. Please select!");
     s_->Aktualisieren();
-    EXPECT_TRUE(s_->Stand().abgedeckt);
+    EXPECT_TRUE(s_->Stand().abgedeckt());
 }
 
 TEST_F(Satzprobe, a_short_summary_is_told_and_the_inputs_stay) {
@@ -95,13 +95,13 @@ TEST_F(Satzprobe, a_compound_record_that_cannot_be_used_leaves_the_inputs_as_the
     Fragen_.erwarte_Anfang("Runtime error", "File Second.che, line 2");
     s_->waehle_Satz(Wirkstoff, Platz(1, "Second"));
     EXPECT_EQ(s_->Stand().Felder().Name_Wirkstoff, "Parent P");
-    EXPECT_TRUE(s_->Stand().abgedeckt);
+    EXPECT_TRUE(s_->Stand().abgedeckt());
 }
 
 TEST_F(Satzprobe, another_record_marks_the_simulation_and_runs) {
     gestartet();
     s_->waehle_Satz(Szenario, Platz(3, "Second"));
-    EXPECT_TRUE(s_->Stand().Geaendert[0]);
+    EXPECT_TRUE(s_->Stand().Saetze[0].Geaendert);
     EXPECT_TRUE(s_->Stand().Simulation_markiert);
     EXPECT_FLOAT_EQ(Maximum(), 0.6666667F);  // twice the density
 }
@@ -110,7 +110,9 @@ TEST_F(Satzprobe, yes_on_choosing_stores_the_values_left_in_the_record_chosen) {
     gestartet();
     ASSERT_TRUE(tippe("S_DT50_0", "12"));
     const std::string links = Datei("input/Probe.che");
-    Fragen_.erwarte("Save changes?", "You modified pesticide input data!  Do you want to save the changes in your data base?",
+    Fragen_.erwarte("Save changes?",
+                    "You modified pesticide input data!  Do you want to save the changes in your data base?\n"
+                    "Yes writes these values to 'Second'; what 'Second' holds now goes to backup.",
                     Knopf::Ja);
     s_->waehle_Satz(Wirkstoff, Platz(1, "Second"));
     EXPECT_EQ(Datei("input/Probe.che"), links);
@@ -125,7 +127,7 @@ TEST_F(Satzprobe, saving_writes_all_four_files_and_clears_the_marks_of_the_recor
     s_->aendere_Beschreibung("Another description");
     s_->Speichern();
     EXPECT_EQ(Datei("input/Probe.vnk"), "Another description\r\nProbe\r\nProbe\r\nProbe\r\n");
-    for (std::size_t t = 1; t <= 3; ++t) EXPECT_FALSE(s_->Stand().Geaendert[t]);
+    for (std::size_t t = 1; t <= 3; ++t) EXPECT_FALSE(s_->Stand().Saetze[t].Geaendert);
     Eingabe e;
     Ansicht a;
     Satz_lesen(Projektordner(Wurzel_.string()), "Probe", Applikation, e, a);
@@ -148,7 +150,7 @@ TEST_F(Satzprobe, a_line_break_in_the_description_becomes_a_blank) {
     s_->oeffne_Beschreibung();
     s_->aendere_Beschreibung("two\nlines");
     EXPECT_EQ(s_->Stand().Felder().Beschreibung, "two lines");
-    EXPECT_TRUE(s_->Stand().Geaendert[0]);
+    EXPECT_TRUE(s_->Stand().Saetze[0].Geaendert);
 }
 
 TEST_F(Satzprobe, esc_brings_the_old_description_back_and_locks_it) {
@@ -177,8 +179,8 @@ TEST_F(Satzprobe, a_climate_file_that_is_missing_is_told_and_the_results_stay_co
     Satz_schreiben(Projektordner(Wurzel_.string()), "Second", Szenario, e, Sicht_);
     Fragen_.erwarte("Data file missing", "Cannot load climate data file. Please correct!");
     s_->waehle_Satz(Szenario, Platz(3, "Second"));
-    EXPECT_TRUE(s_->Stand().abgedeckt);
-    EXPECT_TRUE(s_->Stand().Hinweis);
+    EXPECT_TRUE(s_->Stand().abgedeckt());
+    EXPECT_TRUE(s_->Stand().Hinweis());
 }
 
 TEST_F(Satzprobe, a_fault_of_the_arithmetic_is_one_box_and_what_was_entered_stays) {
@@ -189,7 +191,7 @@ TEST_F(Satzprobe, a_fault_of_the_arithmetic_is_one_box_and_what_was_entered_stay
     Fragen_.erwarte("Runtime error",
                     "The calculation is not possible with these input data. Please correct! (Soil density (kg/L) = 0)");
     s_->waehle_Satz(Szenario, Platz(3, "Second"));
-    EXPECT_TRUE(s_->Stand().abgedeckt);
+    EXPECT_TRUE(s_->Stand().abgedeckt());
     EXPECT_EQ(s_->Stand().Auswahl(3), Platz(3, "Second"));
 }
 

@@ -16,10 +16,10 @@ TEST_F(Befehlsprobe, a_new_record_takes_the_values_of_its_template_the_first_num
     EXPECT_EQ(z().gewaehlt(Szenario), "new scenario1");
     EXPECT_EQ(Datei(in("new scenario1", Szenario)), Datei(in("Second", Szenario)));
     EXPECT_EQ(z().Parameter().Bodendichte, 3);
-    EXPECT_TRUE(z().Geaendert[0]);
+    EXPECT_TRUE(z().Saetze[0].Geaendert);
     EXPECT_TRUE(z().Simulation_markiert);
     EXPECT_EQ(z().Zeichnung, Laeufe + 1);
-    EXPECT_FALSE(z().abgedeckt);
+    EXPECT_FALSE(z().abgedeckt());
     erwarte_Gleichstand(Szenario);
 }
 
@@ -50,7 +50,7 @@ TEST_F(Befehlsprobe, a_missing_template_is_named_and_nothing_changes) {
     s_->neues_Szenario();
     EXPECT_EQ(z().Listen, vorher);
     EXPECT_EQ(z().gewaehlt(Szenario), "Probe");
-    EXPECT_FALSE(z().abgedeckt);
+    EXPECT_FALSE(z().abgedeckt());
 }
 
 TEST_F(Befehlsprobe, unsaved_values_are_in_backup_before_a_new_record_replaces_them) {
@@ -58,7 +58,7 @@ TEST_F(Befehlsprobe, unsaved_values_are_in_backup_before_a_new_record_replaces_t
     tippe("S_DT50_0", "12");
     s_->neuer_Wirkstoff();
     EXPECT_EQ(gesichert(), Namen{"unsaved Probe.che"});
-    EXPECT_FALSE(z().Geaendert[1]);
+    EXPECT_FALSE(z().Saetze[1].Geaendert);
     EXPECT_NE(z().Statuszeile.find("backup/"), std::string::npos);
 }
 
@@ -70,18 +70,18 @@ TEST_F(Befehlsprobe, a_copy_has_the_file_of_the_old_name_and_the_values_of_the_s
     EXPECT_EQ(Datei("input/copy of Probe.che"), Datei("input/Probe.che"));
     EXPECT_EQ(z().gewaehlt(Wirkstoff), "copy of Probe");
     EXPECT_EQ(s_->Feldtext(Feld("S_DT50_0")), "12");
-    EXPECT_TRUE(z().Geaendert[1]);
-    EXPECT_TRUE(z().Geaendert[0]);
+    EXPECT_TRUE(z().Saetze[1].Geaendert);
+    EXPECT_TRUE(z().Saetze[0].Geaendert);
     EXPECT_TRUE(z().Simulation_markiert);
     EXPECT_EQ(z().Zeichnung, Laeufe);
-    EXPECT_FALSE(z().abgedeckt);
+    EXPECT_FALSE(z().abgedeckt());
     erwarte_Gleichstand(Wirkstoff);
 }
 
 TEST_F(Befehlsprobe, a_copy_of_a_simulation_marks_nothing_and_is_the_newest) {
     gestartet().kopiere_Satz(Simulation);
     EXPECT_EQ(z().gewaehlt(Simulation), "copy of Probe");
-    EXPECT_FALSE(z().Geaendert[0]);
+    EXPECT_FALSE(z().Saetze[0].Geaendert);
     EXPECT_EQ(neueste_Simulation(Projektordner(Wurzel_.string())), "copy of Probe");
     erwarte_Gleichstand(Simulation);
 }
@@ -106,7 +106,7 @@ TEST_F(Befehlsprobe, a_copy_over_an_existing_file_with_no_changes_nothing) {
     s_->kopiere_Satz(Wirkstoff);
     EXPECT_EQ(z().gewaehlt(Wirkstoff), "Probe");
     EXPECT_EQ(Datei("input/copy of Probe.che"), "old");
-    EXPECT_FALSE(z().Geaendert[0]);
+    EXPECT_FALSE(z().Saetze[0].Geaendert);
 }
 
 TEST_F(Befehlsprobe, no_to_the_delete_question_changes_nothing) {
@@ -114,7 +114,7 @@ TEST_F(Befehlsprobe, no_to_the_delete_question_changes_nothing) {
     bejahe_Loeschen(Knopf::Nein);
     s_->loesche_Satz(Szenario);
     EXPECT_TRUE(gibt_es("input/Probe.sce"));
-    EXPECT_FALSE(z().abgedeckt);
+    EXPECT_FALSE(z().abgedeckt());
 }
 
 TEST_F(Befehlsprobe, deleting_the_entry_before_the_last_one_selects_the_one_that_moved_up) {
@@ -150,14 +150,14 @@ TEST_F(Befehlsprobe, after_a_deletion_the_neighbour_is_not_read_until_refresh) {
     tippe("S_DT50_0", "12");
     bejahe_Loeschen();
     s_->loesche_Satz(Szenario);
-    EXPECT_TRUE(z().abgedeckt);
-    EXPECT_EQ(z().Abdeckungswort, "Record deleted: choose or refresh");
+    EXPECT_TRUE(z().abgedeckt());
+    EXPECT_EQ(z().Abdeckungswort(), "Record deleted: choose or refresh");
     EXPECT_EQ(z().Parameter().Bodendichte, 1.5);
     tippe("S_DT50_0", "13");
-    EXPECT_TRUE(z().abgedeckt);
+    EXPECT_TRUE(z().abgedeckt());
     s_->Aktualisieren();
     EXPECT_EQ(z().Parameter().Bodendichte, 3);
-    EXPECT_FALSE(z().abgedeckt);
+    EXPECT_FALSE(z().abgedeckt());
 }
 
 TEST_F(Befehlsprobe, save_never_writes_deleted_values_over_the_neighbour) {
@@ -174,7 +174,7 @@ TEST_F(Befehlsprobe, after_deleting_a_simulation_exit_only_renews_the_stamp_of_i
     const std::string Nachbar = Datei("input/Second.vnk");
     bejahe_Loeschen();
     s_->loesche_Satz(Simulation);
-    EXPECT_TRUE(z().abgedeckt);
+    EXPECT_TRUE(z().abgedeckt());
     s_->Ende();
     EXPECT_TRUE(z().beendet);
     EXPECT_EQ(Datei("input/Second.vnk"), Nachbar);
@@ -190,7 +190,7 @@ TEST_F(Befehlsprobe, after_deleting_a_simulation_refresh_loads_its_neighbour) {
     s_->Aktualisieren();
     EXPECT_EQ(z().Felder().Beschreibung, "second");
     EXPECT_EQ(z().Parameter().Bodendichte, 3);
-    EXPECT_FALSE(z().abgedeckt);
+    EXPECT_FALSE(z().abgedeckt());
 }
 
 TEST_F(Befehlsprobe, a_record_gets_another_name_and_nothing_is_read) {
@@ -201,10 +201,10 @@ TEST_F(Befehlsprobe, a_record_gets_another_name_and_nothing_is_read) {
     EXPECT_FALSE(gibt_es("input/Probe.che"));
     EXPECT_EQ(Datei("input/Renamed.che"), Inhalt);
     EXPECT_EQ(s_->Feldtext(Feld("S_DT50_0")), "12");
-    EXPECT_TRUE(z().Geaendert[1]);
-    EXPECT_TRUE(z().Geaendert[0]);
+    EXPECT_TRUE(z().Saetze[1].Geaendert);
+    EXPECT_TRUE(z().Saetze[0].Geaendert);
     EXPECT_TRUE(z().Simulation_markiert);
-    EXPECT_FALSE(z().abgedeckt);
+    EXPECT_FALSE(z().abgedeckt());
     erwarte_Gleichstand(Wirkstoff);
 }
 
@@ -225,7 +225,7 @@ TEST_F(Befehlsprobe, a_name_of_three_characters_is_taken_as_it_stands) {
 TEST_F(Befehlsprobe, an_unchanged_name_asks_nothing_and_a_change_of_case_only_renames) {
     gestartet();
     EXPECT_TRUE(s_->benenne_Satz_um(Wirkstoff, "Probe", true));
-    EXPECT_FALSE(z().Geaendert[0]);
+    EXPECT_FALSE(z().Saetze[0].Geaendert);
     EXPECT_TRUE(s_->benenne_Satz_um(Wirkstoff, "PROBE", true));
     EXPECT_TRUE(gibt_es("input/PROBE.che"));
     EXPECT_FALSE(gibt_es("input/Probe.che"));
@@ -259,7 +259,7 @@ TEST_F(Befehlsprobe, a_taken_name_is_a_fault_where_the_box_was_only_left) {
     EXPECT_FALSE(s_->benenne_Satz_um(Szenario, "Second", false));
     EXPECT_EQ(z().gewaehlt(Szenario), "Probe");
     EXPECT_TRUE(gibt_es("input/Probe.sce"));
-    EXPECT_FALSE(z().abgedeckt);
+    EXPECT_FALSE(z().abgedeckt());
 }
 
 TEST_F(Befehlsprobe, a_rename_names_the_simulations_that_lose_their_record) {
@@ -283,7 +283,7 @@ TEST_P(Unnamen, are_refused_before_a_file_is_touched) {
     EXPECT_FALSE(s_->benenne_Satz_um(Wirkstoff, GetParam().Name, true));
     EXPECT_EQ(auf_Platte(Wirkstoff), vorher);
     EXPECT_EQ(z().gewaehlt(Wirkstoff), "Probe");
-    EXPECT_FALSE(z().Geaendert[0]);
+    EXPECT_FALSE(z().Saetze[0].Geaendert);
     EXPECT_TRUE(gesichert().empty());
 }
 
@@ -297,7 +297,9 @@ TEST_F(Befehlsprobe, choosing_with_yes_stores_the_values_left_under_the_name_cho
     gestartet();
     tippe("S_DT50_0", "12");
     const std::string alt = Datei("input/Second.che");
-    Fragen_.erwarte("Save changes?", "You modified pesticide input data!  Do you want to save the changes in your data base?",
+    Fragen_.erwarte("Save changes?",
+                    "You modified pesticide input data!  Do you want to save the changes in your data base?\n"
+                    "Yes writes these values to 'Second'; what 'Second' holds now goes to backup.",
                     Knopf::Ja);
     waehle(Wirkstoff, "Second");
     EXPECT_NE(Datei("input/Second.che"), alt);
@@ -308,7 +310,9 @@ TEST_F(Befehlsprobe, choosing_with_yes_stores_the_values_left_under_the_name_cho
 TEST_F(Befehlsprobe, choosing_with_no_reads_the_record_and_keeps_the_dropped_values_in_backup) {
     gestartet();
     tippe("S_DT50_0", "12");
-    Fragen_.erwarte("Save changes?", "You modified pesticide input data!  Do you want to save the changes in your data base?",
+    Fragen_.erwarte("Save changes?",
+                    "You modified pesticide input data!  Do you want to save the changes in your data base?\n"
+                    "Yes writes these values to 'Second'; what 'Second' holds now goes to backup.",
                     Knopf::Nein);
     waehle(Wirkstoff, "Second");
     EXPECT_NE(s_->Feldtext(Feld("S_DT50_0")), "12");
@@ -342,7 +346,7 @@ TEST_F(Befehlsprobe, a_backup_that_cannot_be_written_stops_the_command_before_an
     s_->loesche_Satz(Szenario);
     EXPECT_TRUE(gibt_es("input/Probe.sce"));
     EXPECT_EQ(z().gewaehlt(Szenario), "Probe");
-    EXPECT_FALSE(z().abgedeckt);
+    EXPECT_FALSE(z().abgedeckt());
 }
 
 TEST_F(Befehlsprobe, a_record_changed_by_another_program_is_not_saved_over_without_a_question) {
@@ -354,7 +358,7 @@ TEST_F(Befehlsprobe, a_record_changed_by_another_program_is_not_saved_over_witho
     Fragen_.erwarte("Replace existing record?", Text, Knopf::Nein);
     s_->Speichern();
     EXPECT_EQ(Datei("input/Probe.che"), "theirs");
-    EXPECT_TRUE(z().Geaendert[1]);
+    EXPECT_TRUE(z().Saetze[1].Geaendert);
     Fragen_.erwarte("Replace existing record?", Text, Knopf::Ja);
     s_->Speichern();
     EXPECT_NE(Datei("input/Probe.che"), "theirs");
@@ -368,9 +372,9 @@ TEST_F(Befehlsprobe, a_record_deleted_by_another_program_is_told_at_its_next_use
     Fragen_.erwarte_Anfang("Runtime error", "File Probe.sce is missing");
     s_->kopiere_Satz(Szenario);
     EXPECT_EQ(z().Listen[Szenario], Namen{"Second"});
-    EXPECT_TRUE(z().abgedeckt);
+    EXPECT_TRUE(z().abgedeckt());
     waehle(Szenario, "Second");
-    EXPECT_FALSE(z().abgedeckt);
+    EXPECT_FALSE(z().abgedeckt());
 }
 
 TEST_F(Befehlsprobe, saving_writes_a_record_anew_that_another_program_deleted) {

@@ -20,11 +20,12 @@ inline constexpr std::array<Satzart, 3> Saetze = {Wirkstoff, Applikation, Szenar
 // What the user would expect: files, names, values on the screen in the form of records.
 struct Modell {
     Dateien Platte;
-    std::array<std::string, 4> Name;     // shown by the selectors, empty without a selection
-    std::array<std::string, 4> fehlend;  // without a selection: the name that the simulation gives and no file has
-    std::array<std::string, 4> gelesen;  // the record that the values came from
-    std::array<std::string, 4> Schirm;   // bytes of the records; [0] is the description
-    std::array<bool, 4> neu{};           // the selector names what was not read
+    std::array<std::string, 4> Name;         // shown by the selectors, empty without a selection
+    std::array<std::string, 4> fehlend;      // without a selection: the name that the simulation gives and no file has
+    std::array<std::string, 4> gelesen;      // the record that the values came from
+    std::array<std::string, 4> Schirm;       // bytes of the records; [0] is the description
+    std::array<std::string, 4> gespeichert;  // bytes that a save would have written right after reading or saving
+    std::array<bool, 4> neu{};               // the selector names what was not read
     std::array<bool, 4> geaendert{};
 
     // Of the command in work.
@@ -51,14 +52,26 @@ struct Modell {
 
     std::string Bytes_des_Schirms(Satzart t) const {
         if (t != Simulation) return Schirm[t];
-        return Schirm[0] + "\r\n" + Name[1] + "\r\n" + Name[2] + "\r\n" + Name[3] + "\r\n";
+        std::string Bytes = Schirm[0] + "\r\n";
+        for (const Satzart s : Saetze) Bytes += (Name[s].empty() ? fehlend[s] : Name[s]) + "\r\n";
+        return Bytes;
     }
 
     void frage(const std::string& Titel) { Fragen.push_back(Titel); }
     void Fehler() { frage("Runtime error"); }
 
+    // What was entered for a record that was not read is known by its mark alone.
+    bool verschieden(Satzart t) const { return neu[t] ? geaendert[t] : Bytes_des_Schirms(t) != gespeichert[t]; }
+    void merke(Satzart t) { gespeichert[t] = Bytes_des_Schirms(t); }
+
+    // After each command: marks without a difference go.
+    void raeume_Marken_auf() {
+        const auto arten = {Simulation, Wirkstoff, Applikation, Szenario};
+        if (std::none_of(arten.begin(), arten.end(), [&](Satzart t) { return verschieden(t); })) geaendert.fill(false);
+    }
+
     void sichere_Werte(Satzart t) {
-        if (geaendert[t]) gesichert["unsaved " + Datei(t, gelesen[t])] = Bytes_des_Schirms(t);
+        if (verschieden(t)) gesichert["unsaved " + Datei(t, gelesen[t])] = Bytes_des_Schirms(t);
     }
     void sichere_ungelesene() {
         for (const Satzart t : Saetze) {
@@ -70,10 +83,14 @@ struct Modell {
         Schirm[t] = Platte.at(Datei(t, Name[t]));
         gelesen[t] = Name[t];
         neu[t] = geaendert[t] = false;
+        merke(t);
     }
     bool lies_fehlende() {
         for (const Satzart t : Saetze) {
-            if (Name[t].empty()) return false;
+            if (Name[t].empty()) {
+                if (neu[t]) geaendert[t] = false;  // nothing of it is asked for; what was typed is in `backup` by now
+                return false;
+            }
             if (neu[t]) lies(t);
         }
         return true;
@@ -89,13 +106,14 @@ struct Modell {
         if (!Ziel.empty() && Ziel != Bytes && Name[t] != gelesen[t]) gesichert[Datei(t, Name[t])] = Ziel;
         Ziel = Bytes;
         gelesen[t] = Name[t];
+        merke(t);
     }
-    bool speichere() {
+    bool speichere(const std::vector<Satzart>& Arten = {Wirkstoff, Applikation, Szenario}) {
         for (const Satzart t : Saetze) {
             if (Name[t].empty()) return frage("Record not set"), false;
         }
         schreibe(Simulation);
-        for (const Satzart t : Saetze) {
+        for (const Satzart t : Arten) {
             schreibe(t);
             geaendert[t] = false;
         }
@@ -163,9 +181,9 @@ struct Modell {
     void waehle(Satzart t, const std::string& n) {
         const std::string vorher = std::exchange(Name[t], n);
         const bool Marke = std::exchange(geaendert[0], true);
-        if (geaendert[t]) {
+        if (geaendert[t] && !neu[t]) {
             frage("Save changes?");
-            if (ja && !speichere()) {
+            if (ja && !speichere({t})) {
                 Name[t] = vorher;
                 geaendert[0] = Marke;
                 return;
@@ -194,7 +212,9 @@ struct Modell {
             fehlend[t] = Text[t];
             neu[t] = true;
         }
-        if (lies_fehlende()) geaendert[0] = false;
+        merke(Simulation);
+        geaendert.fill(false);
+        lies_fehlende();
     }
 
     void aktualisiere() {

@@ -47,8 +47,8 @@ TEST_P(OhneSchreibrecht, a_command_is_one_message_and_changes_neither_lists_nor_
         EXPECT_EQ(z().Listen, vorher.Listen);
         EXPECT_EQ(z().Namen, vorher.Namen);
         EXPECT_EQ(s_->Feldtext(Feld("S_DT50_0")), "12");
-        EXPECT_TRUE(z().Geaendert[1]);
-        EXPECT_FALSE(z().abgedeckt);
+        EXPECT_TRUE(z().Saetze[1].Geaendert);
+        EXPECT_FALSE(z().abgedeckt());
     });
     std::filesystem::permissions(Wurzel_ / "input", std::filesystem::perms::owner_all);
     EXPECT_EQ(Status, 0);
@@ -123,8 +123,8 @@ TEST_F(Satzrand, a_template_that_cannot_be_used_is_told_and_the_values_are_in_ba
     Fragen_.erwarte_Anfang("Runtime error", "File new compound1.che, line ");
     s_->neuer_Wirkstoff();
     EXPECT_EQ(gesichert(), Namen{"unsaved Probe.che"});
-    EXPECT_TRUE(z().abgedeckt);
-    EXPECT_TRUE(z().nicht_gelesen[1]);
+    EXPECT_TRUE(z().abgedeckt());
+    EXPECT_FALSE(z().Saetze[1].gelesen);
     s_->Speichern();
     EXPECT_EQ(Datei("input/new compound1.che"), "Pesticide data\r\nUnit:\t7\r\n");
 }
@@ -136,7 +136,7 @@ TEST_F(Satzrand, a_missing_template_makes_no_backup) {
     Fragen_.erwarte_Anfang("Runtime error", "The template");
     s_->neuer_Wirkstoff();
     EXPECT_TRUE(gesichert().empty());
-    EXPECT_TRUE(z().Geaendert[1]);
+    EXPECT_TRUE(z().Saetze[1].Geaendert);
 }
 
 TEST_F(Satzrand, a_copy_over_a_file_in_another_case_selects_the_entry_that_is_there) {
@@ -192,7 +192,7 @@ TEST_F(Satzrand, deletion_keeps_the_file_and_the_unsaved_values_in_one_backup) {
     bejahe_Loeschen();
     s_->loesche_Satz(Wirkstoff);
     EXPECT_EQ(gesichert(), (Namen{"Probe.che", "unsaved Probe.che"}));
-    EXPECT_FALSE(z().Geaendert[1]);
+    EXPECT_FALSE(z().Saetze[1].Geaendert);
     const auto Ort = std::filesystem::directory_iterator(Wurzel_ / "backup")->path();
     EXPECT_EQ(lies_Datei((Ort / "Probe.che").string()), alt);
     EXPECT_EQ(z().Statuszeile,
@@ -208,7 +208,7 @@ TEST_F(Satzrand, what_is_typed_after_a_deletion_is_in_backup_before_the_neighbou
     EXPECT_EQ(gesichert(), (Namen{"Probe.che", "unsaved Probe.che"}));
     EXPECT_EQ(z().Felder().Name_Wirkstoff, "Parent P");
     EXPECT_TRUE(z().Simulation_markiert);
-    EXPECT_FALSE(z().abgedeckt);
+    EXPECT_FALSE(z().abgedeckt());
 }
 
 TEST_F(Satzrand, save_says_that_a_record_was_not_read_and_keeps_what_was_typed) {
@@ -223,13 +223,12 @@ TEST_F(Satzrand, save_says_that_a_record_was_not_read_and_keeps_what_was_typed) 
     EXPECT_TRUE(Status_nennt("\"unsaved Probe.che\""));
 }
 
-TEST_F(Satzrand, yes_at_exit_after_a_deletion_leaves_the_neighbour_alone) {
+TEST_F(Satzrand, exit_after_a_deletion_asks_nothing_and_leaves_the_neighbour_alone) {
     gestartet();
     const std::string Nachbar = Datei("input/Second.che");
     bejahe_Loeschen();
     s_->loesche_Satz(Wirkstoff);
     s_->aendere_Namen(0, "Typed later");
-    erwarte_Sicherungsfrage(Knopf::Ja);
     s_->Ende();
     EXPECT_TRUE(z().beendet);
     EXPECT_EQ(Datei("input/Second.che"), Nachbar);
@@ -243,7 +242,7 @@ TEST_F(Satzrand, after_a_deletion_a_choice_of_the_neighbour_reads_it) {
     s_->loesche_Satz(Szenario);
     waehle(Szenario, "Second");
     EXPECT_EQ(z().Parameter().Bodendichte, 3);
-    EXPECT_FALSE(z().abgedeckt);
+    EXPECT_FALSE(z().abgedeckt());
 }
 
 TEST_F(Satzrand, a_yes_that_cannot_save_puts_selection_and_mark_back) {
@@ -257,7 +256,7 @@ TEST_F(Satzrand, a_yes_that_cannot_save_puts_selection_and_mark_back) {
     waehle(Wirkstoff, "Probe");
     EXPECT_EQ(z().gewaehlt(Wirkstoff), "Second");
     EXPECT_EQ(z().Simulation_markiert, Marke);
-    EXPECT_TRUE(z().Geaendert[1]);
+    EXPECT_TRUE(z().Saetze[1].Geaendert);
     EXPECT_EQ(Datei("input/Probe.che"), vorher);
 }
 
@@ -278,7 +277,7 @@ TEST_F(Satzrand, exit_that_is_refused_keeps_the_marks_of_what_was_not_saved) {
     Fragen_.erwarte("Record not set", "Application record not set. Please select!");
     s_->Ende();
     EXPECT_FALSE(z().beendet);
-    EXPECT_TRUE(z().Geaendert[1]);
+    EXPECT_TRUE(z().Saetze[1].Geaendert);
 }
 
 TEST_F(Satzrand, yes_at_exit_and_at_the_close_box_with_an_empty_selector_writes_nothing_and_stays) {
@@ -297,16 +296,16 @@ TEST_F(Satzrand, yes_at_exit_and_at_the_close_box_with_an_empty_selector_writes_
     EXPECT_FALSE(gibt_es("input/.app"));
 }
 
-TEST_F(Satzrand, marks_of_types_behind_a_missing_record_stay_and_the_next_choice_asks) {
+TEST_F(Satzrand, loading_clears_the_marks_of_types_behind_a_missing_record_and_keeps_their_values_in_backup) {
     schreibe_Simulation_ohne_Satz("Torn");
     gestartet();
     s_->waehle_Tag(5);
     s_->waehle_Simulation(2);
-    EXPECT_TRUE(z().Geaendert[2]);
-    erwarte_Sicherungsfrage(Knopf::Nein, "application");
+    EXPECT_FALSE(z().Saetze[2].Geaendert);
+    EXPECT_EQ(gesichert(), Namen{"unsaved Probe.app"});
     waehle(Applikation, "Second");
-    EXPECT_FALSE(z().Geaendert[2]);
-    EXPECT_FALSE(z().abgedeckt);
+    EXPECT_FALSE(z().Saetze[2].Geaendert);
+    EXPECT_FALSE(z().abgedeckt());
 }
 
 }  // namespace

@@ -77,7 +77,7 @@ TEST_F(Szenarioprobe, a_depth_and_a_temperature_outside_the_lists_are_entries_of
     EXPECT_EQ(p().Bodentiefe, 2.54);
     EXPECT_EQ(p().Plateautiefe, 60);
     EXPECT_EQ(p().Szenariotemperatur, 45);
-    EXPECT_FALSE(s_->Stand().Geaendert[3]);
+    EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert);
 }
 
 TEST_F(Szenarioprobe, done_without_a_change_stores_nothing_and_runs_nothing) {
@@ -88,8 +88,8 @@ TEST_F(Szenarioprobe, done_without_a_change_stores_nothing_and_runs_nothing) {
     fertig();
     EXPECT_EQ(p(), vorher);
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe);
-    EXPECT_FALSE(s_->Stand().Geaendert[3]);
-    EXPECT_FALSE(s_->Stand().Geaendert[0]);
+    EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert);
+    EXPECT_FALSE(s_->Stand().Saetze[0].Geaendert);
 }
 
 TEST_F(Szenarioprobe, changed_values_are_stored_mark_the_scenario_and_lead_to_one_run) {
@@ -107,10 +107,10 @@ TEST_F(Szenarioprobe, changed_values_are_stored_mark_the_scenario_and_lead_to_on
     EXPECT_EQ(p().Feldkapazitaet, 31);
     EXPECT_EQ(p().Welkepunkt, 11);
     EXPECT_EQ(p().Bodentiefe, 2.5);
-    EXPECT_TRUE(s_->Stand().Geaendert[3]);
-    EXPECT_FALSE(s_->Stand().Geaendert[0]);
+    EXPECT_TRUE(s_->Stand().Saetze[3].Geaendert);
+    EXPECT_FALSE(s_->Stand().Saetze[0].Geaendert);
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe + 1);
-    EXPECT_FALSE(s_->Stand().abgedeckt);
+    EXPECT_FALSE(s_->Stand().abgedeckt());
 }
 
 TEST_F(Szenarioprobe, a_tillage_depth_below_the_soil_depth_is_told_and_corrected) {
@@ -118,7 +118,7 @@ TEST_F(Szenarioprobe, a_tillage_depth_below_the_soil_depth_is_told_and_corrected
     Fragen_.erwarte("Problem!", "A plateau depth was defined smaller than the current soil depth.\nThe problem was corrected.");
     fertig();
     EXPECT_EQ(p().Plateautiefe, 5);
-    EXPECT_TRUE(s_->Stand().Geaendert[3]);
+    EXPECT_TRUE(s_->Stand().Saetze[3].Geaendert);
 }
 
 TEST_F(Szenarioprobe, a_soil_depth_above_the_tillage_depth_takes_it_along_without_a_word) {
@@ -133,7 +133,7 @@ TEST_F(Szenarioprobe, a_text_without_a_number_counts_as_0_and_the_run_tells_of_i
     Fragen_.erwarte_Anfang("Runtime error", "The calculation is not possible with these input data. Please correct!");
     fertig();
     EXPECT_EQ(p().Bodendichte, 0);
-    EXPECT_TRUE(s_->Stand().abgedeckt);
+    EXPECT_TRUE(s_->Stand().abgedeckt());
 }
 
 TEST_F(Szenarioprobe, cancel_changes_nothing) {
@@ -147,7 +147,7 @@ TEST_F(Szenarioprobe, cancel_changes_nothing) {
     EXPECT_EQ(p(), vorher);
     EXPECT_EQ(s_->Stand().Namen[3], "Probe");
     EXPECT_EQ(s_->Stand().gewaehlt(3), "Probe");
-    EXPECT_FALSE(s_->Stand().veraltet);
+    EXPECT_FALSE(s_->Stand().Hinweis());
 }
 
 // Every depth of the list is found at its place, whatever its binary form.
@@ -190,8 +190,8 @@ TEST_F(Szenarioprobe, an_entry_of_its_own_can_be_left_and_taken_again) {
     fertig();
     EXPECT_EQ(p().Bodentiefe, 2.54);
     EXPECT_EQ(p().Szenariotemperatur, 45);
-    EXPECT_FALSE(s_->Stand().Geaendert[3]);
-    EXPECT_FALSE(s_->Stand().Hinweis);
+    EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert);
+    EXPECT_FALSE(s_->Stand().Hinweis());
 }
 
 // Keys that walk through the closed list pass the presets without losing it.
@@ -230,7 +230,7 @@ TEST_F(Szenarioprobe, a_tillage_depth_too_small_in_the_record_is_corrected_by_do
     offen();
     fertig();
     EXPECT_EQ(p().Plateautiefe, 5);
-    EXPECT_TRUE(s_->Stand().Geaendert[3]);
+    EXPECT_TRUE(s_->Stand().Saetze[3].Geaendert);
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe + 1);
 }
 
@@ -271,7 +271,7 @@ TEST_F(Szenarioprobe, another_text_for_the_same_number_changes_nothing) {
     e.aendere(E::Bodendichte, "1,50");
     e.aendere(E::Feldkapazitaet, "30 Vol%");
     fertig();
-    EXPECT_FALSE(s_->Stand().Geaendert[3]);
+    EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert);
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe);
 }
 
@@ -286,7 +286,7 @@ TEST_F(Szenarioprobe, a_value_that_was_not_touched_keeps_its_last_bit) {
     offen();
     fertig();
     EXPECT_EQ(p().Bodendichte, genau);
-    EXPECT_FALSE(s_->Stand().Geaendert[3]);
+    EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert);
 }
 
 TEST_F(Szenarioprobe, an_impossible_value_is_stored_told_and_can_be_corrected) {
@@ -295,10 +295,10 @@ TEST_F(Szenarioprobe, an_impossible_value_is_stored_told_and_can_be_corrected) {
         offen().aendere(E::Feldkapazitaet, Text);
         Fragen_.erwarte_Anfang("Runtime error", "The calculation is not possible with these input data. Please correct!");
         fertig();
-        EXPECT_TRUE(s_->Stand().abgedeckt) << Text;
+        EXPECT_TRUE(s_->Stand().abgedeckt()) << Text;
         offen().aendere(E::Feldkapazitaet, "30");
         fertig();
-        EXPECT_FALSE(s_->Stand().abgedeckt) << Text;
+        EXPECT_FALSE(s_->Stand().abgedeckt()) << Text;
     }
 }
 
@@ -323,7 +323,7 @@ TEST_F(Szenarioprobe, a_changed_value_runs_every_study_of_the_summary) {
     fertig();
     EXPECT_FLOAT_EQ(Maximum(0), Maximum(1));
     EXPECT_FLOAT_EQ(Maximum(1), vorher / 2);
-    EXPECT_FALSE(s_->Stand().abgedeckt);
+    EXPECT_FALSE(s_->Stand().abgedeckt());
 }
 
 // "Done" stores, but what is calculated waits until the dialog has gone.

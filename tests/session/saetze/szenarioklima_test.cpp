@@ -15,8 +15,8 @@ TEST_F(Szenarioprobe, another_temperature_alone_starts_no_run_and_shows_the_hint
               "10 \xC2\xB0"
               "C constant");
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe);
-    EXPECT_TRUE(s_->Stand().Hinweis);
-    EXPECT_FALSE(s_->Stand().Geaendert[3]);
+    EXPECT_TRUE(s_->Stand().Hinweis());
+    EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert);
 }
 
 TEST_F(Szenarioprobe, a_chosen_climate_file_marks_the_scenario_and_runs) {
@@ -31,7 +31,7 @@ TEST_F(Szenarioprobe, a_chosen_climate_file_marks_the_scenario_and_runs) {
     fertig();
     EXPECT_EQ(p().Klimamodus, 1);
     EXPECT_EQ(s_->Stand().Felder().Klimaszenario, "Site A");
-    EXPECT_TRUE(s_->Stand().Geaendert[3]);
+    EXPECT_TRUE(s_->Stand().Saetze[3].Geaendert);
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe + 1);
 }
 
@@ -46,8 +46,8 @@ TEST_F(Szenarioprobe, a_preselected_climate_file_is_stored_with_the_variable_mod
     offen().waehle_Klimabedingungen(1);
     fertig();
     EXPECT_EQ(s_->Stand().Felder().Klimaszenario, "Site A");
-    EXPECT_FALSE(s_->Stand().Geaendert[3]);
-    EXPECT_TRUE(s_->Stand().Hinweis);
+    EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert);
+    EXPECT_TRUE(s_->Stand().Hinweis());
 }
 
 TEST_F(Szenarioprobe, without_a_climate_file_the_variable_mode_cannot_be_chosen) {
@@ -66,16 +66,16 @@ TEST_F(Szenarioprobe, a_missing_climate_file_asks_for_the_editor_once_and_done_r
     Fragen_.erwarte_Anfang("Data file missing", "");
     gestartet();
     EXPECT_TRUE(s_->Stand().Szenarioeditor_faellig);
-    EXPECT_TRUE(s_->Stand().abgedeckt);
+    EXPECT_TRUE(s_->Stand().abgedeckt());
     const int Laeufe = s_->Stand().Zeichnung;
     offen();
     EXPECT_FALSE(s_->Stand().Szenarioeditor_faellig);
     abgebrochen();
-    EXPECT_TRUE(s_->Stand().abgedeckt);
+    EXPECT_TRUE(s_->Stand().abgedeckt());
     offen().waehle_Klimabedingungen(0);
     fertig();
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe + 1);
-    EXPECT_FALSE(s_->Stand().abgedeckt);
+    EXPECT_FALSE(s_->Stand().abgedeckt());
 }
 
 TEST_F(Szenarioprobe, mode_and_temperature_together_still_start_no_run) {
@@ -87,12 +87,12 @@ TEST_F(Szenarioprobe, mode_and_temperature_together_still_start_no_run) {
     e.waehle_Klimabedingungen(1);
     fertig();
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe);
-    EXPECT_TRUE(s_->Stand().Hinweis);
-    EXPECT_FALSE(s_->Stand().Geaendert[3]);
-    EXPECT_FALSE(s_->Stand().abgedeckt);
+    EXPECT_TRUE(s_->Stand().Hinweis());
+    EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert);
+    EXPECT_FALSE(s_->Stand().abgedeckt());
     s_->Aktualisieren();
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe + 1);
-    EXPECT_FALSE(s_->Stand().Hinweis);
+    EXPECT_FALSE(s_->Stand().Hinweis());
 }
 
 // Under variable climate no day has the scenario's temperature.
@@ -109,7 +109,7 @@ TEST_F(Szenarioprobe, the_temperature_of_a_variable_climate_is_kept_and_makes_no
     fertig();
     EXPECT_EQ(p().Szenariotemperatur, 7);
     EXPECT_EQ(s_->Stand().Felder().Klimaszenario, "Site A");
-    EXPECT_FALSE(s_->Stand().Hinweis);
+    EXPECT_FALSE(s_->Stand().Hinweis());
 }
 
 // All six studies of the summary are calculated with the new temperature.
@@ -120,11 +120,11 @@ TEST_F(Szenarioprobe, the_next_run_in_the_summary_uses_the_new_temperature_for_e
     s_->zeige_Zusammenfassung();
     offen().waehle_Temperatur(0);
     fertig();
-    EXPECT_FALSE(s_->Stand().gueltig[0]);
-    EXPECT_FALSE(s_->Stand().gueltig[1]);
+    EXPECT_FALSE(s_->Stand().gueltig(0));
+    EXPECT_FALSE(s_->Stand().gueltig(1));
     s_->Aktualisieren();
-    EXPECT_TRUE(s_->Stand().gueltig[0]);
-    EXPECT_TRUE(s_->Stand().gueltig[1]);
+    EXPECT_TRUE(s_->Stand().gueltig(0));
+    EXPECT_TRUE(s_->Stand().gueltig(1));
 }
 
 TEST_F(Szenarioprobe, the_same_climate_file_chosen_again_changes_nothing) {
@@ -140,7 +140,7 @@ TEST_F(Szenarioprobe, the_same_climate_file_chosen_again_changes_nothing) {
     e.waehle_Klimaszenario(1);
     e.waehle_Klimaszenario(0);
     fertig();
-    EXPECT_FALSE(s_->Stand().Geaendert[3]);
+    EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert);
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe);
 }
 
@@ -154,8 +154,8 @@ TEST_F(Szenarioprobe, a_climate_file_chosen_and_not_used_changes_nothing) {
     e.waehle_Klimaszenario(0);
     e.waehle_Klimabedingungen(0);
     fertig();
-    EXPECT_FALSE(s_->Stand().Geaendert[3]);
-    EXPECT_FALSE(s_->Stand().Hinweis);
+    EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert);
+    EXPECT_FALSE(s_->Stand().Hinweis());
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe);
     EXPECT_EQ(Klimatext(s_->Stand().Felder()),
               "20 \xC2\xB0"
@@ -189,9 +189,9 @@ TEST_F(Szenarioprobe, done_after_a_missing_climate_file_takes_the_file_on_displa
     EXPECT_EQ(Entwurf().Klima, 1);
     fertig();
     EXPECT_EQ(s_->Stand().Felder().Klimaszenario, "Site B");
-    EXPECT_FALSE(s_->Stand().Geaendert[3]);  // preselected, not chosen
+    EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert);  // preselected, not chosen
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe + 1);
-    EXPECT_FALSE(s_->Stand().abgedeckt);
+    EXPECT_FALSE(s_->Stand().abgedeckt());
 }
 
 TEST_F(Szenarioprobe, cancel_after_a_missing_climate_file_does_not_repeat_the_run) {
@@ -202,7 +202,7 @@ TEST_F(Szenarioprobe, cancel_after_a_missing_climate_file_does_not_repeat_the_ru
     offen().waehle_Klimabedingungen(0);
     abgebrochen();
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe);
-    EXPECT_TRUE(s_->Stand().abgedeckt);
+    EXPECT_TRUE(s_->Stand().abgedeckt());
     EXPECT_FALSE(s_->Stand().Szenarioeditor_faellig);
     EXPECT_EQ(s_->Stand().Felder().Klimaszenario, "gone");
 }
@@ -219,7 +219,7 @@ TEST_F(Szenarioprobe, done_without_any_climate_file_keeps_the_name_and_runs_noth
     s_->Editor().waehle_Klimabedingungen(1);
     fertig();
     EXPECT_EQ(s_->Stand().Felder().Klimaszenario, "gone");
-    EXPECT_TRUE(s_->Stand().abgedeckt);
+    EXPECT_TRUE(s_->Stand().abgedeckt());
 }
 
 TEST_F(Szenarioprobe, a_run_of_the_editor_that_fails_again_does_not_open_it_again) {
@@ -231,7 +231,7 @@ TEST_F(Szenarioprobe, a_run_of_the_editor_that_fails_again_does_not_open_it_agai
     Fragen_.erwarte("Data file missing", "Cannot load climate data file. Please correct!");
     fertig();
     EXPECT_FALSE(s_->Stand().Szenarioeditor_faellig);
-    EXPECT_TRUE(s_->Stand().abgedeckt);
+    EXPECT_TRUE(s_->Stand().abgedeckt());
 }
 
 // The field is still in work after its Enter key; opening the editor must not run its dose a second time.

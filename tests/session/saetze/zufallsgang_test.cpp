@@ -77,6 +77,7 @@ protected:
         m_.Name = m_.gelesen = {Name, Name, Name, Name};
         m_.Schirm[0] = "About " + Name;
         for (const Satzart t : Saetze) m_.Schirm[t] = m_.Platte.at(Name + Endungen[t]);
+        for (const Satzart t : {Simulation, Wirkstoff, Applikation, Szenario}) m_.merke(t);
     }
 
     Dateien lies(const std::filesystem::path& Ordner) const {
@@ -197,11 +198,12 @@ std::string Zufallsgang::handle() {
 }
 
 void Zufallsgang::vergleiche(const Textliste& bisher) {
+    m_.raeume_Marken_auf();
     const Zustand& z = s_->Stand();
     EXPECT_EQ(lies("input"), m_.Platte);
     EXPECT_EQ(Antworten_.gefragt, m_.Fragen);
-    EXPECT_EQ(z.abgedeckt, !m_.vollstaendig());
-    EXPECT_EQ(z.Geaendert, m_.geaendert);
+    EXPECT_EQ(z.abgedeckt(), !m_.vollstaendig());
+    EXPECT_EQ(z.Marken(), m_.geaendert);
     EXPECT_EQ(z.Felder().Beschreibung, m_.Schirm[0]);
     for (const Satzart t : {Simulation, Wirkstoff, Applikation, Szenario}) {
         EXPECT_EQ(z.Listen[t], m_.Liste(t));

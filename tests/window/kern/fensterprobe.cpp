@@ -34,6 +34,12 @@ void kopiere_Daten(const QString& Ziel) {
     }
 }
 
+// The button that Enter presses; of a question without one the first.
+QAbstractButton* Vorgabe(const QMessageBox& Kasten) {
+    QAbstractButton* Taste = Kasten.defaultButton();
+    return Taste ? Taste : Kasten.buttons().front();
+}
+
 }  // namespace
 
 Fensterprobe::Fensterprobe(Rueckfrage* Fragen, const std::function<void(const QString&)>& Projekt,
@@ -132,7 +138,7 @@ QString Fensterprobe::Meldung_bei(const std::function<void()>& Handlung) {
         if (!Kasten) return;
         if (!Text.isEmpty()) qFatal("a second message: %s", qPrintable(Kasten->text()));
         Text = Kasten->text();
-        Kasten->defaultButton()->click();
+        Vorgabe(*Kasten)->click();
     });
     Waechter.start(5);
     Handlung();
@@ -151,7 +157,7 @@ QStringList Fensterprobe::Kaesten_bei(const std::function<void()>& Handlung, QMe
         if (Texte.size() > 20) qFatal("a message without end: %s", qPrintable(Kasten->text()));
         Texte << Kasten->windowTitle() + u": "_s + Kasten->text();
         QAbstractButton* Taste = Kasten->button(Antwort);
-        (Taste ? Taste : Kasten->defaultButton())->click();
+        (Taste ? Taste : Vorgabe(*Kasten))->click();
     });
     Waechter.start(5);
     Handlung();

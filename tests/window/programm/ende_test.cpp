@@ -29,7 +29,7 @@ void schreibe(const QString& Datei, const QByteArray& Inhalt) {
 
 QString Frage_nach(const char* Satz) {
     return u"Save changes?: You modified "_s + QString::fromLatin1(Satz) +
-           u" input data!  Do you want to save the changes in your data base?"_s;
+           u" input data!  Do you want to save the changes in your data base?\n'Programcheck'"_s;
 }
 
 const QString Satzdatei = u"input/Programcheck.che"_s;
@@ -104,7 +104,7 @@ private Q_SLOTS:
         for (const char* Name : {"Frame2", "Kinetikschema", "Applikationsrahmen", "Szenariorahmen", "Schalterrahmen",
                                  "untere_Zeile", "Berechnungsmodus", "Label1", "Label9", "Simulationsliste", "Beschreibung"})
             QVERIFY2(p_->sichtbar(Name), Name);
-        for (const bool g : p_->Programm().Stand().Geaendert) QVERIFY(!g);
+        for (const bool g : p_->Programm().Stand().Marken()) QVERIFY(!g);
     }
 
     // end
@@ -125,12 +125,11 @@ private Q_SLOTS:
         const QByteArray alt = p_->Inhalt(Satzdatei);
         Fragen_.antworte(sichern ? Knopf::Ja : Knopf::Nein).antworte(Knopf::Nein);
         loese_aus(Weg);
-        // Yes saves all records, so that nothing is left to ask for.
-        const QStringList beide = {Frage_nach("pesticide"), Frage_nach("application")};
-        QCOMPARE(Fragen_.nimm(), sichern ? beide.first(1) : beide);
+        // All is asked before anything is done; Yes saves the record asked about.
+        QCOMPARE(Fragen_.nimm(), (QStringList{Frage_nach("pesticide"), Frage_nach("application")}));
         QVERIFY(!p_->Fenster().isVisible());
         QCOMPARE(p_->Inhalt(Satzdatei) == alt, !sichern);
-        QCOMPARE(p_->Inhalt(u"input/Programcheck.app"_s).contains("Application rate (g/ha):\t750"), sichern);
+        QVERIFY(!p_->Inhalt(u"input/Programcheck.app"_s).contains("Application rate (g/ha):\t750"));
         QCOMPARE(p_->Inhalt(Zusammenfassung).count("\r\n"), 4);
         QVERIFY(!p_->Inhalt(Einstellungsdatei).isEmpty());
     }
@@ -148,7 +147,7 @@ private Q_SLOTS:
         QVERIFY(p_->Inhalt(u"input/Programcheck.app"_s).contains("Application rate (g/ha):\t750"));
         QCOMPARE(p_->Inhalt(Zusammenfassung).count("\r\n"), 4);
         QVERIFY(p_->Inhalt(Einstellungsdatei).isEmpty());
-        for (std::size_t t = 1; t <= 3; ++t) QVERIFY(!p_->Programm().Stand().Geaendert[t]);
+        for (std::size_t t = 1; t <= 3; ++t) QVERIFY(!p_->Programm().Stand().Saetze[t].Geaendert);
         QVERIFY(p_->Fenster().isVisible());
         loese_aus("Ende");
         QCOMPARE(Fragen_.nimm(), QStringList());
@@ -166,7 +165,7 @@ private Q_SLOTS:
         QFile::remove(p_->Pfad(Zusammenfassung));
         Fragen_.antworte(sichern ? Knopf::Ja : Knopf::Nein).antworte(Knopf::Nein);
         p_->Fenster().close();
-        QCOMPARE(Fragen_.nimm().size(), sichern ? 1 : 2);
+        QCOMPARE(Fragen_.nimm().size(), 2);
         QVERIFY(!p_->Fenster().isVisible());
         QCOMPARE(p_->Inhalt(Satzdatei).contains("0.0407733635623497"), sichern);
         QCOMPARE(QFile::exists(p_->Pfad(Zusammenfassung)), sichern);
@@ -276,14 +275,14 @@ private Q_SLOTS:
         QVERIFY2(Kaesten.back().section(u"Programcheck.che"_s, 1).size() > 5, qPrintable(Kaesten.back()));
         QVERIFY(p_->Fenster().isVisible());
         QCOMPARE(p_->Teil<QLineEdit>("S_DT50_0")->text(), u"17"_s);
-        QVERIFY(p_->Programm().Stand().Geaendert[1]);
+        QVERIFY(p_->Programm().Stand().Saetze[1].Geaendert);
         // Once the way is free the same command goes through.
         QVERIFY(QDir(p_->Pfad(Satzdatei)).removeRecursively());
         p_->klicke("speichern");
         QVERIFY(p_->Inhalt(Satzdatei).contains("0.0407733635623497"));
     }
 
-    void settings_that_cannot_be_written_keep_the_program() {
+    void settings_that_cannot_be_written_are_told_once_and_the_program_ends() {
         p_ = std::make_unique<Fensterprobe>();
         p_->starte();
         QFile::remove(p_->Pfad(Einstellungsdatei));
@@ -291,7 +290,41 @@ private Q_SLOTS:
         const QStringList Kaesten = p_->Kaesten_bei([&] { p_->klicke("Ende"); }, QMessageBox::Ok);
         QCOMPARE(Kaesten.size(), 1);
         QVERIFY2(Kaesten.front().contains(u"VARNOK.ini"_s), qPrintable(Kaesten.front()));
+        QVERIFY(!p_->Fenster().isVisible());
+    }
+
+    void esc_at_the_question_keeps_the_program_and_the_values_data() {
+        QTest::addColumn<bool>("Schliessfeld");
+        QTest::newRow("exit") << false;
+        QTest::newRow("close box") << true;
+    }
+    void esc_at_the_question_keeps_the_program_and_the_values() {
+        QFETCH(bool, Schliessfeld);
+        p_ = std::make_unique<Fensterprobe>();
+        p_->starte();
+        p_->tippe("S_DT50_0", "17");
+        p_->druecke("S_DT50_0", Qt::Key_Tab);
+        const QByteArray alt = p_->Inhalt(Satzdatei);
+        int Kaesten = 0;
+        QTimer Waechter;
+        QObject::connect(&Waechter, &QTimer::timeout, &Waechter, [&] {
+            QWidget* Kasten = QApplication::activeModalWidget();
+            if (!Kasten) return;
+            ++Kaesten;
+            QTest::keyClick(Kasten, Qt::Key_Escape);
+        });
+        Waechter.start(5);
+        if (Schliessfeld)
+            p_->Fenster().close();
+        else
+            p_->klicke("Ende");
+        QTest::qWait(50);
+        QCOMPARE(Kaesten, 1);
         QVERIFY(p_->Fenster().isVisible());
+        QVERIFY(!p_->Programm().Stand().beendet);
+        QCOMPARE(p_->Teil<QLineEdit>("S_DT50_0")->text(), u"17"_s);
+        QVERIFY(p_->Programm().Stand().Saetze[1].Geaendert);
+        QCOMPARE(p_->Inhalt(Satzdatei), alt);
     }
 
     // description
@@ -305,13 +338,13 @@ private Q_SLOTS:
         QTest::mouseClick(Feld, Qt::LeftButton);
         QTest::keyClicks(Feld, u"x"_s);
         QCOMPARE(Feld->text(), alt);
-        QVERIFY(!p_->Programm().Stand().Geaendert[0]);
+        QVERIFY(!p_->Programm().Stand().Saetze[0].Geaendert);
         schliesse_auf();
         QCOMPARE(Farbe(), QColor(255, 255, 0));
         QVERIFY(!QApplication::activePopupWidget());
         p_->druecke("Beschreibung", Qt::Key_End);
         QTest::keyClicks(Feld, u" x"_s);
-        QVERIFY(p_->Programm().Stand().Geaendert[0]);
+        QVERIFY(p_->Programm().Stand().Saetze[0].Geaendert);
         p_->druecke("Beschreibung", Qt::Key_Return);
         QVERIFY(Feld->isReadOnly());
         QCOMPARE(Farbe(), Ruhefarbe);

@@ -161,12 +161,12 @@ private Q_SLOTS:
         p_->starte();
         p_->tippe("S_DT50_0", "20");
         p_->druecke("S_DT50_0", Qt::Key_S, Qt::ControlModifier);
-        QVERIFY(!p_->Programm().Stand().Geaendert[1]);
+        QVERIFY(!p_->Programm().Stand().Saetze[1].Geaendert);
         QCOMPARE(QApplication::focusWidget()->objectName(), u"S_DT50_0"_s);
         QTest::keyClick(p_->Teil<QLineEdit>("S_DT50_0"), Qt::Key_End);
         QTest::keyClicks(p_->Teil<QLineEdit>("S_DT50_0"), u"5"_s);
         QCOMPARE(p_->Teil<QLineEdit>("S_DT50_0")->text(), u"205"_s);
-        QVERIFY(p_->Programm().Stand().Geaendert[1]);
+        QVERIFY(p_->Programm().Stand().Saetze[1].Geaendert);
     }
 
     void another_cell_can_be_typed_in_after_a_message() {
@@ -234,9 +234,9 @@ private Q_SLOTS:
         QTest::keyClicks(Tafel, u"7,55"_s);
         p_->druecke("Applikationsschema", Qt::Key_Backspace);
         QCOMPARE(Tafel->item(0, 2)->text(), u"7.5"_s);
-        QVERIFY(p_->Programm().Stand().Hinweis);
+        QVERIFY(p_->Programm().Stand().Hinweis());
         p_->druecke("Applikationsschema", Qt::Key_Return);
-        QVERIFY(!p_->Programm().Stand().Hinweis);
+        QVERIFY(!p_->Programm().Stand().Hinweis());
     }
 
     void the_selection_of_a_grid_is_copied_for_spreadsheets() {

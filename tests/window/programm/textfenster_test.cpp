@@ -143,11 +143,11 @@ private Q_SLOTS:
         p_->tippe("Applikationsrate", "1");
         const Zustand& z = p_->Programm().Stand();
         const int Zeichnung = z.Zeichnung;
-        const auto Geaendert = z.Geaendert;
+        const auto Marken = z.Marken();
         oeffne("M_Versionsinfo", [](QDialog&) {});
         QCOMPARE(z.Zeichnung, Zeichnung);
-        QVERIFY(z.veraltet);
-        QVERIFY(z.Geaendert == Geaendert);
+        QVERIFY(z.Hinweis());
+        QVERIFY(z.Marken() == Marken);
         QCOMPARE(Fragen_.nimm(), QStringList());
     }
 

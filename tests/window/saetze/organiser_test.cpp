@@ -15,7 +15,9 @@ using namespace Qt::StringLiterals;
 namespace varnok {
 namespace {
 
-const QString Loeschfrage = u"Delete record: Do you really want to delete this record?"_s;
+QString Loeschfrage(const char* Name) {
+    return u"Delete record: Do you really want to delete this record?\n'"_s + QString::fromLatin1(Name) + u'\'';
+}
 
 }  // namespace
 
@@ -204,7 +206,7 @@ private Q_SLOTS:
             Fragen_.antworte(Knopf::Nein);
             d.Teil("Loeschen_1")->setFocus();
             d.druecke("Loeschen_1", Qt::Key_Return);
-            QCOMPARE(Fragen_.nimm(), QStringList{Loeschfrage});
+            QCOMPARE(Fragen_.nimm(), QStringList{Loeschfrage("Programcheck")});
             QVERIFY(d.offen());
             d.Teil("Liste_1")->setFocus();
             d.druecke("Liste_1", Qt::Key_Return);

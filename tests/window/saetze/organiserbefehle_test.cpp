@@ -3,6 +3,8 @@
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
+#include <QTextEdit>
+#include <string>
 
 #include "window/kern/anmeldung.h"
 #include "window/kern/rahmenfarben.h"
@@ -13,7 +15,9 @@ using namespace Qt::StringLiterals;
 namespace varnok {
 namespace {
 
-const QString Loeschfrage = u"Delete record: Do you really want to delete this record?"_s;
+QString Loeschfrage(const char* Name) {
+    return u"Delete record: Do you really want to delete this record?\n'"_s + QString::fromLatin1(Name) + u'\'';
+}
 
 }  // namespace
 
@@ -70,7 +74,7 @@ private Q_SLOTS:
             QCOMPARE(d.Teil<QComboBox>("Liste_3")->count(), Anzahl + 1);
             QCOMPARE(p_->Teil<QComboBox>("Liste_3")->count(), Anzahl);
             d.klicke("Loeschen_3");
-            QCOMPARE(Fragen_.nimm(), QStringList{Loeschfrage});
+            QCOMPARE(Fragen_.nimm(), QStringList{Loeschfrage("copy of Programcheck")});
             QCOMPARE(d.Teil<QComboBox>("Liste_3")->count(), Anzahl);
             QVERIFY(d.Teil<QLabel>("Statuszeile_Simulationen")->text().contains(u"backup/"_s));
         });
@@ -204,7 +208,7 @@ private Q_SLOTS:
             d.druecke("Liste_2", Qt::Key_D, Qt::ControlModifier);
             QCOMPARE(d.gewaehlt("Liste_2"), u"copy of Programcheck"_s);
             d.druecke("Liste_2", Qt::Key_Delete, Qt::ControlModifier);
-            QCOMPARE(Fragen_.nimm(), QStringList{Loeschfrage});
+            QCOMPARE(Fragen_.nimm(), QStringList{Loeschfrage("copy of Programcheck")});
             QVERIFY(!gibt_es("input/copy of Programcheck.app"));
             d.druecke("Liste_2", Qt::Key_F2);
             QVERIFY(d.Teil("Neuer_Dateiname_2")->isVisible());
@@ -215,6 +219,22 @@ private Q_SLOTS:
             QVERIFY(!Menue->findChild<QAction*>(u"Neu"_s)->isEnabled());
             Menue->close();
         });
+    }
+
+    void a_report_after_done_carries_the_new_description() {
+        p_->starte();
+        p_->klicke("Bericht_erstellen");
+        im_Dialog([](Dialogprobe d) {
+            d.tippe("Projektname", "Quite new");
+            d.klicke("Ende");
+        });
+        QCOMPARE(p_->Teil<QLineEdit>("Beschreibung")->text(), u"Quite new"_s);
+        QVERIFY(!p_->sichtbar("Bericht"));  // it told of the old one
+        p_->klicke("Bericht_erstellen");
+        QVERIFY(p_->Teil<QTextEdit>("Bericht")->toPlainText().contains(u"Quite new"_s));
+        const Diagramm* Bild = p_->Programm().Diagramme().vorderes();
+        QVERIFY(Bild != nullptr);
+        QVERIFY((Bild->Titel.Text + Bild->Kommentar.Text).find("Quite new") != std::string::npos);
     }
 
     void without_the_scenario_on_the_screen_the_editor_is_off_and_the_tip_says_why() {

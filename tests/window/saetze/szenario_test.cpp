@@ -116,7 +116,7 @@ private Q_SLOTS:
                 QTest::mouseClick(Teil<QPushButton>(f, "Ende"), Qt::LeftButton);
             });
         QCOMPARE(p_->Teil<QWidget>("Szenariorahmen")->findChild<QLineEdit*>(u"Klimaszenario"_s)->text(), u"Temperate site"_s);
-        QVERIFY(p_->Programm().Stand().Hinweis);
+        QVERIFY(p_->Programm().Stand().Hinweis());
     }
 
     void tab_walks_it_from_top_to_bottom() {
@@ -166,7 +166,7 @@ private Q_SLOTS:
         QCOMPARE(p.Feldkapazitaet, 31.0);
         QCOMPARE(p.Welkepunkt, 11.0);
         QCOMPARE(p_->Teil<QLineEdit>("Bodenszenario")->text(), u"Silt loam"_s);
-        QVERIFY(p_->Programm().Stand().Geaendert[3]);
+        QVERIFY(p_->Programm().Stand().Saetze[3].Geaendert);
     }
 
     // A list of depths under the keyboard: "4.9", "5.0", "5.1" without losing the list; left at 5.0 it goes.
@@ -220,7 +220,7 @@ private Q_SLOTS:
                 QVERIFY(!f.isVisible());
             });
         QCOMPARE(p_->Teil<QLineEdit>("Klimaszenario")->text(), u"19 \u00B0C constant"_s);
-        QVERIFY(p_->Programm().Stand().Hinweis);
+        QVERIFY(p_->Programm().Stand().Hinweis());
     }
 
     void another_scenario_of_the_list_is_the_one_of_the_window() {

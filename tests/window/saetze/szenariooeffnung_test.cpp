@@ -46,7 +46,7 @@ private Q_SLOTS:
         });
         QCOMPARE(Zahl, 1);
         QCOMPARE(Fragen_.nimm().size(), 1);
-        QVERIFY(p_->Programm().Stand().abgedeckt);
+        QVERIFY(p_->Programm().Stand().abgedeckt());
     }
 
     void a_missing_climate_file_found_on_leaving_a_field_opens_it_too() {
@@ -65,7 +65,7 @@ private Q_SLOTS:
         Fragen_.nimm();
         QCOMPARE(bei([&] { p_->druecke("Applikationsrate", Qt::Key_Return); }), 1);
         QCOMPARE(Fragen_.nimm().size(), 1);
-        QVERIFY(p_->Programm().Stand().abgedeckt);
+        QVERIFY(p_->Programm().Stand().abgedeckt());
     }
 
     // The same with the message boxes themselves: the message, then the editor, and "Done" brings the results back.

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <vector>
+
+#include "run/eingabe.h"
+
+namespace varnok {
+
+// The numbers of an input that a run of the study (0 to 5) reads, in a fixed order: two inputs with the same numbers and, in
+// variable climate, the same climate file give the same result to the bit. Names and descriptions play no part, a constant of a
+// kinetics that is not in force neither.
+std::vector<double> Laufeingang(const Eingabe& e, int i_studie);
+
+// Whether a run of the study reads the same of both.
+bool gleicher_Laufeingang(const Eingabe& a, const Eingabe& b, int i_studie);
+
+}  // namespace varnok

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "window/kern/bausteine.h"
+
+namespace varnok {
+
+// A list of records or simulations. To choose one reads it, so no key does that on the closed list: letters and arrows open
+// it, letters search in it, and Enter or a click chooses.
+class Satzauswahl : public Auswahlliste {
+    Q_OBJECT
+public:
+    using Auswahlliste::Auswahlliste;
+
+protected:
+    void keyPressEvent(QKeyEvent* e) override;
+};
+
+}  // namespace varnok
