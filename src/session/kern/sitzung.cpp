@@ -215,8 +215,9 @@ void Sitzung::suche_nach_Update() {
 }
 
 void Sitzung::suche_beim_Start(std::function<void(const std::function<void()>&)> fuehre_aus) {
-    Update_.suche_beim_Start(
-        [this, fuehre_aus](const std::string& Seite) { fuehre_aus([&] { tue([&] { Update_.melde(Seite); }); }); });
+    Update_.suche_beim_Start([this, fuehre_aus = std::move(fuehre_aus)](const std::string& Seite) {
+        fuehre_aus([&] { tue([&] { Update_.melde(Seite); }); });
+    });
 }
 
 bool Sitzung::schliesse_Fenster() {

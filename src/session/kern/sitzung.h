@@ -203,7 +203,7 @@ private:
     Satzverwaltung Saetze_{z_, Laeufe_, Felder_, Diagramme_};
     Organiser Organiser_{z_, Saetze_};
     Listenwahl Listen_{z_, Laeufe_, Felder_, Diagramme_};
-    Studienverwaltung Studien_{z_, Laeufe_, Felder_, Diagramme_};
+    Studienverwaltung Studien_{z_, Laeufe_, Felder_};
     Szenarioeditor Editor_{z_, Laeufe_, Saetze_};
     Applikationstabelle Tabelle_{z_, Laeufe_};
     Berichtssteuerung Berichte_{z_, Laeufe_, Diagramme_};

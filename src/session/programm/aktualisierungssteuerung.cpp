@@ -1,5 +1,7 @@
 #include "session/programm/aktualisierungssteuerung.h"
 
+#include <utility>
+
 #include "session/kern/texte.h"
 
 namespace varnok {
@@ -40,11 +42,12 @@ void Aktualisierungssteuerung::suche_beim_Start(std::function<void(const std::st
     const Aktualisierungswelt& Welt = z_.Welt.Update;
     if (!Welt.vorhanden()) return;
     sucht_beim_Start_ = true;
-    Welt.Netz->hole_nebenher(Welt.Ziel.Versionsseite(), Startgrenze, [this, antwortet](const Abrufantwort& Seite) {
-        sucht_beim_Start_ = false;
-        z_.Aktualisierungsfehler = !Seite || !Version_der_Seite(*Seite);
-        if (!z_.Aktualisierungsfehler && !z_.Gestartet && !z_.beendet) antwortet(*Seite);
-    });
+    Welt.Netz->hole_nebenher(Welt.Ziel.Versionsseite(), Startgrenze,
+                             [this, antwortet = std::move(antwortet)](const Abrufantwort& Seite) {
+                                 sucht_beim_Start_ = false;
+                                 z_.Aktualisierungsfehler = !Seite || !Version_der_Seite(*Seite);
+                                 if (!z_.Aktualisierungsfehler && !z_.Gestartet && !z_.beendet) antwortet(*Seite);
+                             });
 }
 
 void Aktualisierungssteuerung::melde(const std::string& Seite) {

@@ -11,8 +11,7 @@ namespace varnok {
 // open neither adding nor deleting is possible.
 class Studienverwaltung {
 public:
-    Studienverwaltung(Zustand& z, Laufsteuerung& Laeufe, Feldeingabe& Felder, Diagrammsteuerung& Diagramme)
-        : z_(z), Laeufe_(Laeufe), Felder_(Felder), Diagramme_(Diagramme) {}
+    Studienverwaltung(Zustand& z, Laufsteuerung& Laeufe, Feldeingabe& Felder) : z_(z), Laeufe_(Laeufe), Felder_(Felder) {}
 
     bool darf_addieren() const { return z_.Studienzahl() < max_Studien && !Name_offen_; }
     bool darf_loeschen() const { return z_.Studienzahl() > 1 && !Name_offen_; }
@@ -41,7 +40,6 @@ private:
     Zustand& z_;
     Laufsteuerung& Laeufe_;
     Feldeingabe& Felder_;
-    Diagrammsteuerung& Diagramme_;
     bool Name_offen_ = false;
     bool neu_ = false;
     std::string Vorschlag_;
