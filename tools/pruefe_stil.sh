@@ -28,5 +28,5 @@ ENDE
 
 # Left out is what it says of headers that are not ours.
 xargs -0 -a "$Befehle/quellen" -n 4 -P "$(nproc)" clang-tidy -p "$Befehle" --quiet 2>&1 |
-    { grep -Ev '^[0-9]+ warnings? generated\.$' || true; }
+    { grep --line-buffered -Ev '^[0-9]+ warnings? generated\.$' || true; }
 echo "$(tr -cd '\0' <"$Befehle/quellen" | wc -c) sources keep to .clang-tidy"

@@ -201,7 +201,7 @@ TEST(Batch_JSON, text_is_utf_8_and_not_escaped) {
 TEST(Batch_JSON, bytes_that_are_no_utf_8_do_not_cost_the_results) {
     Simulationsausgang a = mit_krummen_Zahlen();
     a.Ergebnis.Name = "\xFF";
-    EXPECT_NO_THROW(JSON::parse(als_JSON({a})));
+    EXPECT_TRUE(JSON::accept(als_JSON({a})));
 }
 
 TEST(Batch_JSON, no_simulation_gives_empty_lists) {

@@ -56,8 +56,7 @@ TEST(Satz_schreiben, small_scenario_line_by_line) {
                                                "Organic carbon content:\t1",
                                                "Field capacity (Vol%):\t30",
                                                "Wilting point (Vol%):\t10",
-                                               "Climatic condition:\t20 \xB0"
-                                               "C constant",
+                                               "Climatic condition:\t20 \260C constant",
                                                "Climate mode:\t0",
                                                "Scenario Temperature:\t20",
                                                Trennlinie};
@@ -217,7 +216,7 @@ TEST(Satz_schreiben, length_is_counted_in_bytes_of_the_file) {
 
 TEST(Satz_schreiben, refuses_a_number_of_studies_that_no_record_has) {
     Satzprobe p = volle_Probe(6);
-    p.Felder.Studie.push_back("seventh");
+    p.Felder.Studie.emplace_back("seventh");
     EXPECT_THAT(Einwand(Wirkstoff, p), HasSubstr("\"7\" is not valid for \"Number of studies:\" (1 to 6)"));
     p.Felder.Studie.clear();
     EXPECT_THAT(Einwand(Wirkstoff, p), HasSubstr("\"0\" is not valid for \"Number of studies:\""));

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <thread>
+#include <vector>
 
 #include "base/laufzeitfehler.h"
 #include "exposure/schritte.h"
@@ -142,9 +143,9 @@ TEST(Lauf, a_second_run_of_the_study_leaves_nothing_of_the_first) {
 
 TEST(Lauf, two_threads_give_equal_bytes) {
     std::string Bytes[2];
-    std::thread Faeden[2];
-    for (int i = 0; i < 2; ++i) {
-        Faeden[i] = std::thread([&Ziel = Bytes[i]] {
+    std::vector<std::thread> Faeden;
+    for (std::string& Ziel : Bytes) {
+        Faeden.emplace_back([&Ziel] {
             const Lauf l = mit_allem().Wetter(wechselndes_Wetter(365)).rechne();
             Ziel = Abbild(l, 0) + Abbild_gemeinsam(l);
         });
