@@ -106,12 +106,17 @@ std::vector<std::string> Worte(const std::string& Bytes) {
     return Alle;
 }
 
-// A cell of the table keeps its number, not its text.
+// A cell of the table keeps its number, not its text; an empty one is 0.
+// A text as typed stays in the record until it is read again: 0,5 becomes 0.5. Names differ where their letters do.
 bool gleiche_Zahlen(const std::string& a, const std::string& b) {
+    const auto Zahl = [](const std::string& x) {
+        return x.empty() || std::string_view(" +-.,0123456789").find(x[0]) != std::string_view::npos;
+    };
     const auto Worte_a = Worte(a);
     const auto Worte_b = Worte(b);
-    return std::equal(Worte_a.begin(), Worte_a.end(), Worte_b.begin(), Worte_b.end(),
-                      [](const std::string& x, const std::string& y) { return x == y || Wert(x) == Wert(y); });
+    return std::equal(
+        Worte_a.begin(), Worte_a.end(), Worte_b.begin(), Worte_b.end(),
+        [&](const std::string& x, const std::string& y) { return x == y || (Zahl(x) && Zahl(y) && Wert(x) == Wert(y)); });
 }
 
 // Of a cover, without the names in it.
@@ -496,7 +501,7 @@ void Gang::pruefe_Sicherung() {
     for (const Satzart Art : alle_Arten) {
         const std::string hier = z().Speicherbild(Art);
         const std::string dort = geladen.Speicherbild(Art);
-        if (hier == dort || (Art == Applikation && gleiche_Zahlen(hier, dort))) continue;
+        if (hier == dort || gleiche_Zahlen(hier, dort)) continue;
         const auto i =
             static_cast<std::size_t>(std::mismatch(hier.begin(), hier.end(), dort.begin(), dort.end()).first - hier.begin());
         throw Verstoss{"other numbers after saving and loading",
