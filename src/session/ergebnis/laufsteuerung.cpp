@@ -92,11 +92,13 @@ bool Laufsteuerung::ende_ohne_Ergebnis(const Laufergebnis& Ausgang) {
 
 bool Laufsteuerung::skaliere() {
     if (z_.Gerechnetes.Grund()) return false;
+    sieh_Klima_an();
     const auto Vorgabe = std::make_shared<const Eingabe>(z_.Vorgabe);
     Ergebnisse neue = z_.Werte();
     for (const int st : z_.gezeigte_Studien()) {
         auto& Platz = neue.at(static_cast<std::size_t>(st));
         if (!Platz || !nur_andere_Dosis(*Platz->Vorgabe, *Vorgabe, st)) return false;
+        if (!z_.Gerechnetes.gueltig(st, *Platz->Vorgabe, z_.Klima)) return false;  // the weather is another one by now
         Platz = Werte_anpassen(*Platz, Vorgabe, Dosisfaktor(*Platz->Vorgabe, *Vorgabe));
         if (!Platz) return false;
     }

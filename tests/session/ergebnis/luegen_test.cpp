@@ -5,6 +5,7 @@
 #include <fstream>
 
 #include "records/dateien.h"
+#include "session/kern/sitzungsgang_projekt.h"
 #include "session/saetze/befehlsprobe.h"
 
 namespace varnok {
@@ -135,6 +136,24 @@ TEST_F(Luegen, after_a_failed_write_nothing_tells_of_the_report_before) {
     s_->erstelle_Bericht();
     EXPECT_EQ(z().Ergebnisdatei, "");
     EXPECT_EQ(z().Statuszeile, "The report was not written.");
+}
+
+TEST_F(Luegen, half_the_dose_under_weather_that_another_program_changed_is_not_half_the_old_result) {
+    Parameter_.Klimamodus = 1;
+    Parameter_.Q10 = fuer_alle(2.58);
+    Felder_.Klimaszenario = "Weather";
+    schreibe("Weather.cli", gang::Wetterdatei(5));
+    schreibe_Saetze("Probe", Felder_);
+    gestartet();
+    const auto Mittel = [this] { return Werte().Stoffwerte.at(0).Endpunktwerte.at(0).TWA.back().Maximum; };
+    const float kalt = Mittel();
+    schreibe("Weather.cli", gang::Wetterdatei(25));
+    ASSERT_TRUE(tippe("Applikationsrate", "500"));
+    EXPECT_FALSE(z().abgedeckt());
+    const float halbe_Dosis = Mittel();
+    gestartet();
+    EXPECT_NE(Mittel(), kalt);
+    EXPECT_EQ(halbe_Dosis, Mittel() / 2);
 }
 
 TEST_F(Luegen, a_scenario_without_its_last_lines_shows_and_calculates_20_degrees) {
