@@ -1,5 +1,9 @@
 #include "session/programm/startablauf.h"
 
+#include <algorithm>
+#include <string>
+#include <vector>
+
 #include "base/laufzeitfehler.h"
 #include "exposure/twa.h"
 #include "records/dateien.h"
@@ -23,7 +27,8 @@ std::optional<Einstellungen> lies_Einstellungen(const Zustand& z) {
 void lade_Einstellungen(Zustand& z) {
     const auto gelesen = lies_Einstellungen(z);
     z.Einstellung = gelesen.value_or(Einstellungen{});
-    z.Projektpfad = z.Einstellung.Projektpfad.empty() ? z.Welt.Programmpfad : z.Einstellung.Projektpfad;
+    const bool hier = z.Welt.Projekt_genannt || z.Einstellung.Projektpfad.empty();
+    z.Projektpfad = hier ? z.Welt.Programmpfad : z.Einstellung.Projektpfad;
     z.Parameter().TWA = z.Einstellung.TWA;
     if (!gelesen) Einstellungen_schreiben(z);
 }
@@ -39,9 +44,17 @@ void oeffne_Ordner(Zustand& z) {
     z.Ausgabeprojekt = z.Ordner;
 }
 
-// Loads the newest simulation whose summary file can be read. False without any, or if the program ends.
-bool lade_neueste(Zustand& z, Satzverwaltung& Saetze) {
-    for (const std::string& Name : Simulationen_nach_Alter(*z.Ordner)) {
+// The newest first; before it the one that the program was called with.
+std::vector<std::string> Startfolge(const Zustand& z) {
+    std::vector<std::string> Namen = Simulationen_nach_Alter(*z.Ordner);
+    const auto gewollte = std::find(Namen.begin(), Namen.end(), z.Welt.erste_Simulation);
+    if (gewollte != Namen.end()) std::rotate(Namen.begin(), gewollte, gewollte + 1);
+    return Namen;
+}
+
+// Loads the first simulation of that order whose summary file can be read. False without any, or if the program ends.
+bool lade_erste(Zustand& z, Satzverwaltung& Saetze) {
+    for (const std::string& Name : Startfolge(z)) {
         try {
             Saetze.lade_Start(Name);
             return !z.beendet;
@@ -64,7 +77,7 @@ bool starte_Programm(Zustand& z, Satzverwaltung& Saetze) {
     Saetze.fuelle_Listen();
     z.Sicht.TWA_Laenge = TWA_Vorauswahl(z.Parameter().TWA_Zeiten);
     z.Felder().Studie = {""};  // what stands under the cover where no compound can be read
-    return lade_neueste(z, Saetze) && !z.beendet;
+    return lade_erste(z, Saetze) && !z.beendet;
 }
 
 }  // namespace varnok
