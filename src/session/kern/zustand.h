@@ -17,7 +17,6 @@
 #include "records/projektordner.h"
 #include "records/projektsperre.h"
 #include "session/ergebnis/ergebnisstand.h"
-#include "session/kern/verlauf.h"
 
 namespace varnok {
 
@@ -90,7 +89,6 @@ struct Zustand : Satzlisten {
     Ergebnisstand Gerechnetes;
     Klimabytes Klima;  // looked at before each command
 
-    Verlauf Schritte;              // of the inputs
     bool Verlauf_beginnt = false;  // a record was read or is no more the same file: there is no way back behind it
 
     bool Gestartet = false;

@@ -98,7 +98,7 @@ int main(int argc, char** argv) {
                               {varnok::Ziel_der_Auslieferung(), &Netz, &Tausch},
                               argc > 1,
                               Projekt.Simulation});
-    if (!Programm.oeffne_Projekt()) return 0;
+    if (!Programm.fuehre_aus<&varnok::Programmablauf::oeffne_Projekt>()) return 0;
     varnok::Hauptformular Fenster(Programm, &Fragen, Fensterdatei);
     Fenster.show();
     QTimer::singleShot(0, &Fenster, &varnok::Hauptformular::suche_beim_Start);

@@ -107,7 +107,7 @@ private Q_SLOTS:
         p_->tippe("S_DT50_0", "20");
         p_->druecke_langsam("Aktualisieren");
         QCOMPARE(p_->Programm().Stand().Zeichnung, vorher + 1);
-        QCOMPARE(p_->Programm().aktives_Feld(), -1);
+        QCOMPARE(p_->Programm().zeige<Feldeingabe>().aktives_Feld(), -1);
     }
 
     void a_button_held_down_out_of_an_invalid_field_tells_it_once() {
@@ -137,7 +137,7 @@ private Q_SLOTS:
         p_->tippe("S_DT50_0", "12");
         QTest::mouseClick(p_->Teil<QLineEdit>("S_Q10_0"), Qt::LeftButton);
         QTest::qWait(20);
-        QCOMPARE(p_->Programm().aktives_Feld(), Feld_mit_Namen("S_Q10_0"));
+        QCOMPARE(p_->Programm().zeige<Feldeingabe>().aktives_Feld(), Feld_mit_Namen("S_Q10_0"));
         QVERIFY(!p_->sichtbar("Abdeckung"));
     }
 
