@@ -83,7 +83,7 @@ int main(int argc, char** argv) {
     const varnok::Projektorte Orte = Orte_des_Programms();
     const varnok::Projektwahl Projekt = waehle(Orte);
     if (!Projekt.Einwand.empty()) {
-        std::fprintf(stderr, "varnok: %s\n", Projekt.Einwand.c_str());
+        std::fputs(("varnok: " + Projekt.Einwand + "\n").c_str(), stderr);
         Fragen.frage({varnok::Texte::Laufzeitfehler, Projekt.Einwand, varnok::Symbol::Ausrufezeichen, {varnok::Knopf::OK}});
         return falscher_Aufruf;
     }
