@@ -64,10 +64,24 @@ JSON als_Objekt(const Ergebnis& s) {
     };
 }
 
+JSON als_Objekt(const Bemerkung& b) {
+    return {
+        {"file", b.Datei},
+        {"line", b.Zeile},
+        {"kind", "remark"},
+        {"field", b.Feld},
+        {"message", b.Meldung},
+        {"text", b.Text},
+        {"value", b.Wert ? JSON(*b.Wert) : JSON()},
+    };
+}
+
 JSON als_Objekt(const Simulationsergebnis& r) {
     const Laufparameter& p = r.Vorgabe->Parameter;
     JSON Studien = JSON::array();
     for (const auto& s : r.Studien) Studien.push_back(als_Objekt(*s));
+    JSON Bemerkungen = JSON::array();
+    for (const Bemerkung& b : r.Bemerkungen) Bemerkungen.push_back(als_Objekt(b));
     return {
         {"simulation", r.Name},
         {"description", r.Beschreibung},
@@ -80,7 +94,7 @@ JSON als_Objekt(const Simulationsergebnis& r) {
         {"Klimamodus", p.Klimamodus},
         {"scheme", static_cast<int>(r.Vorgabe->Berechnungsmodus)},
         {"studies", std::move(Studien)},
-        {"remarks", r.Bemerkungen},
+        {"remarks", std::move(Bemerkungen)},
     };
 }
 

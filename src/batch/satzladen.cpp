@@ -1,6 +1,7 @@
 #include "batch/satzladen.h"
 
 #include <array>
+#include <utility>
 
 #include "base/laufzeitfehler.h"
 #include "batch/dateipfad.h"
@@ -36,14 +37,21 @@ std::string Dateistelle(const std::string& Dateiname, int Zeile) {
 
 std::string Satzdatei(const Simulationssatz& Satz, Satzart Art) { return Satz.Dateinamen[Art] + Endungen[Art]; }
 
+void haenge_an(std::vector<Bemerkung>& Bemerkungen, const std::vector<Bemerkung>& neue, const Projektordner& Ordner) {
+    for (Bemerkung b : neue) {
+        b.Datei = Ordner.Eingabedatei(b.Datei);
+        Bemerkungen.push_back(std::move(b));
+    }
+}
+
 void lade_Saetze(const Auftrag& a, const std::string& Simulation, const Simulationssatz& Satz, Eingabe& e, Ansicht& Sicht,
-                 std::vector<std::string>& Bemerkungen) {
+                 std::vector<Bemerkung>& Bemerkungen) {
     e.Beschreibung = Satz.Beschreibung;
     for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) fordere_Satz(a, Simulation, Satz, Art);
     for (const Satzart Art : Lesefolge) {
         const std::string Datei = Satzdatei(Satz, Art);
         const Lesebefund Befund = Satz_lesen(a.Ordner, Satz.Dateinamen[Art], Art, e, Sicht);
-        for (const Bemerkung& b : Befund.Bemerkungen) Bemerkungen.push_back(Dateistelle(Datei, b.Zeile) + ": " + b.Text);
+        haenge_an(Bemerkungen, Befund.Bemerkungen, a.Ordner);
         if (Befund.Ausgang == Leseausgang::fehlt) throw Laufzeitfehler(Dateistelle(Datei) + " is missing");
         if (Befund.Ausgang == Leseausgang::abgebrochen)
             throw Laufzeitfehler(Dateistelle(Datei, Befund.Zeile) + ": " + Befund.Grund);

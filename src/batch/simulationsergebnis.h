@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "base/bemerkung.h"
 #include "exposure/ergebnis.h"
 
 namespace varnok::batch {
@@ -20,7 +21,7 @@ struct Simulationsergebnis {
     std::array<std::string, 4> Dateinamen;   // places 1 to 3: compound, application, scenario
     std::shared_ptr<const Eingabe> Vorgabe;  // as the records give it
     Studienergebnisse Studien;
-    std::vector<std::string> Bemerkungen;  // doubts about the records, with file and line
+    std::vector<Bemerkung> Bemerkungen;  // about the files that were read, each under its path in the project
 };
 
 // What became of one simulation. With a `Fehler` the result holds the name and the remarks alone.

@@ -23,12 +23,18 @@ struct Gelesenes {
     Ansicht Sicht;
 };
 
-Gelesenes lies(const Auftrag& a, const std::string& Name, std::vector<std::string>& Bemerkungen) {
+Gelesenes lies(const Auftrag& a, const std::string& Name, const Arbeitsplatz& Platz, std::vector<Bemerkung>& Bemerkungen) {
     Gelesenes g;
-    g.Satz = lies_Simulation(a.Ordner, Name);
+    std::vector<Bemerkung> zur_Simulation;
+    g.Satz = lies_Simulation(a.Ordner, Name, &zur_Simulation);
+    haenge_an(Bemerkungen, zur_Simulation, a.Ordner);
     Eingabe e;
     if (a.TWA) e.Parameter.TWA = *a.TWA;
     lade_Saetze(a, Name, g.Satz, e, g.Sicht, Bemerkungen);
+    if (e.Parameter.Klimamodus == 1 && Platz.Klima->lade(e.Klimaszenario)) {
+        haenge_an(Bemerkungen, Platz.Klima->Bemerkungen(), a.Ordner);
+    }
+    Bemerkungen.insert(Bemerkungen.end(), a.zu_den_Einstellungen.begin(), a.zu_den_Einstellungen.end());
     g.Sicht.TWA_Laenge = TWA_Vorauswahl(e.Parameter.TWA_Zeiten);
     g.Vorgabe = std::make_shared<const Eingabe>(std::move(e));
     return g;
@@ -96,7 +102,7 @@ void schreibe_Berichte(const Auftrag& a, const std::string& Simulation, const Ge
 }
 
 void rechne(const Auftrag& a, const Arbeitsplatz& Platz, Simulationsergebnis& r, std::vector<std::string>& Schreibfehler) {
-    const Gelesenes g = lies(a, r.Name, r.Bemerkungen);
+    const Gelesenes g = lies(a, r.Name, Platz, r.Bemerkungen);
     const std::vector<int> Gewaehlte = gewaehlte_Studien(a, g);
     const Ergebnisse Studien = rechne_Studien(a, g, Gewaehlte, Platz);
 

@@ -21,8 +21,9 @@ struct Auftrag {
     Projektordner Ordner;
     std::optional<int> Studie;  // counted from 1
     std::optional<TWA_Listen> TWA;
-    std::string Serienordner;    // empty: no series
-    std::string Berichtsordner;  // empty: no reports
+    std::vector<Bemerkung> zu_den_Einstellungen;  // of the file that gave these lists
+    std::string Serienordner;                     // empty: no series
+    std::string Berichtsordner;                   // empty: no reports
     Berichtsschreiber schreibe_Bericht;
     bool erweitert = false;     // the report of all studies, too
     const Uhr* Zeit = nullptr;  // of reports

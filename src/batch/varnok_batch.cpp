@@ -66,8 +66,13 @@ Auftrag erstelle_Auftrag(const Aufruf& a, const Projektordner& Ordner, const Nam
     Arbeit.erweitert = a.erweitert;
     if (!a.Berichtsordner.empty()) Arbeit.mehrfache_Beschreibungen = mehrfache_Beschreibungen(Ordner, Namen);
     if (a.Einstellungsdatei.empty()) return Arbeit;
-    const auto Gelesene = zerlege_Einstellungen(lies_Datei(a.Einstellungsdatei));
-    if (!Gelesene) throw Aufruffehler("--settings " + a.Einstellungsdatei + ": this is no settings file");
+    const auto Gelesene =
+        zerlege_Einstellungen(lies_Datei(a.Einstellungsdatei), a.Einstellungsdatei, &Arbeit.zu_den_Einstellungen);
+    if (!Gelesene) {
+        const Bemerkung& Grund = Arbeit.zu_den_Einstellungen.back();
+        throw Aufruffehler("--settings " + a.Einstellungsdatei + ": this is no settings file (line " +
+                           std::to_string(Grund.Zeile) + ", " + Grund.Feld + ": " + Grund.Meldung + ")");
+    }
     Arbeit.TWA = Gelesene->TWA;
     return Arbeit;
 }
@@ -84,7 +89,7 @@ Fertiges rechne(const Auftrag& a, const std::string& Name, const Ausgaben& Ziele
     Simulationsausgang s = rechne_Simulation(a, Name, Platz);
     Fertiges f;
     const std::string davor = druckbar(Name) + ": ";
-    for (const std::string& b : s.Ergebnis.Bemerkungen) f.Meldungen.push_back(davor + druckbar(b));
+    for (const Bemerkung& b : s.Ergebnis.Bemerkungen) f.Meldungen.push_back(davor + druckbar(als_Zeile(b)));
     if (s.Fehler) f.Meldungen.push_back(davor + druckbar(*s.Fehler));
     f.Schreibfehler = std::move(s.Schreibfehler);
     f.Stuecke = Ziele.Stuecke(s);
