@@ -8,6 +8,7 @@
 
 #include "base/wertebereiche.h"
 #include "run/eingabe.h"
+#include "run/halbwertszeit.h"
 
 namespace varnok {
 
@@ -45,12 +46,5 @@ std::span<const Feldbeschreibung> Feldtabelle();
 
 // Place of the field of that object name, -1 without one.
 int Feld_mit_Namen(const std::string& Objektname);
-
-// DT50 of a rate constant and the other way round: ln(2)/v, 0 for what is not above 0.
-double Halbwertszeit(double v);
-
-// Text of the DT50 of a rate constant, with as few digits as the constant needs: 33 for the constant that a record keeps
-// of 33, although its 15 digits give back 33.0000000000001.
-std::string Text_der_Halbwertszeit(double k, char Dezimalzeichen);
 
 }  // namespace varnok
