@@ -199,7 +199,7 @@ Ausgaben::Ausgaben(const Aufruf& a, const Ausgabeplan& p) {
     const auto Text = [&](std::unique_ptr<Schreiber> Dokument, const std::string& Ziel) {
         return std::make_unique<Textausgabe>(std::move(Dokument), Ziel, p.Standardausgabe);
     };
-    fuege_hinzu(a.Tabelle(), [&] { return Text(Tabellenschreiber(), batch::Standardausgabe); });
+    fuege_hinzu(a.Tabelle(), [&] { return Text(Tabellenschreiber(p.Umfang), batch::Standardausgabe); });
     fuege_hinzu(!a.JSON_Datei.empty(), [&] { return Text(JSON_Schreiber(p.Umfang), a.JSON_Datei); });
     fuege_hinzu(!a.CSV_Datei.empty(), [&] { return Text(CSV_Schreiber(p.Umfang), a.CSV_Datei); });
     fuege_hinzu(!a.Zeilendatei.empty(), [&] { return std::make_unique<Zeilenausgabe>(a.Zeilendatei, p); });

@@ -43,7 +43,7 @@ std::unique_ptr<Schreiber> Zeilenschreiber(const Schreibumfang& u = {});
 std::unique_ptr<Schreiber> CSV_Schreiber(const Schreibumfang& u = {});
 
 // For the eye: for each simulation and endpoint a table of peaks, plateaus and averages.
-std::unique_ptr<Schreiber> Tabellenschreiber();
+std::unique_ptr<Schreiber> Tabellenschreiber(const Schreibumfang& u = {});
 
 // The whole document at once.
 std::string als_Text(Schreiber& s, const std::vector<Simulationsausgang>& Ausgaenge);

@@ -198,6 +198,11 @@ TEST_F(Vorgaben, variants_stand_behind_one_another_with_their_values) {
     EXPECT_THAT(Zeilen.at(9), testing::StartsWith("s,2,1000.5,100,µg,1,"));
 }
 
+TEST_F(Vorgaben, table_for_the_eye_tells_which_variant_it_is_about) {
+    const auto r = rufe({"--vary", schreibe_Tabelle("rate,Koc\n10,5\n20,6\n"), Projekt.Pfad()});
+    EXPECT_THAT(r.aus, HasSubstr("Simulation:  s\nVariant:     2: rate = 20, Koc = 6\n"));
+}
+
 TEST_F(Vorgaben, set_comes_first_and_a_variant_has_the_last_word) {
     const JSON s = gerechnet({"--set", "rate=5", "--set", "Koc=7", "--vary", schreibe_Tabelle("rate\n10\n20\n")});
     EXPECT_EQ(s[0]["inputs"]["rate"], 10);

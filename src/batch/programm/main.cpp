@@ -1,11 +1,10 @@
 #include <unistd.h>
-#include <atomic>
 #include <cerrno>
-#include <csignal>
 #include <filesystem>
 #include <iostream>
 #include <system_error>
 
+#include "batch/abbruch.h"
 #include "batch/aufruf.h"
 #include "batch/varnok_batch.h"
 
@@ -24,20 +23,11 @@ Berichtsschreiber uebergib_Aufruf(char** argv) {
     throw Aufruffehler("--report: cannot start " + Nachbar.string() + ": " + std::generic_category().message(errno));
 }
 
-std::atomic<bool> Abbruch = false;
-
-// The first time what is under way is brought to its end, so that lines and transactions stay whole; the second time at once.
-extern "C" void bitte_um_Ende(int Signal) {
-    Abbruch = true;
-    std::signal(Signal, SIG_DFL);
-}
-
 }  // namespace
 
 int main(int argc, char** argv) {
     Umgebung Umwelt = Umgebung_des_Prozesses();
     Umwelt.Berichte = [argv] { return uebergib_Aufruf(argv); };
-    Umwelt.Abbruch = &Abbruch;
-    for (const int Signal : {SIGINT, SIGTERM}) std::signal(Signal, bitte_um_Ende);
+    Umwelt.Abbruch = &horche_auf_Abbruch();
     return varnok_batch(argc, argv, std::cout, std::cerr, Umwelt);
 }
