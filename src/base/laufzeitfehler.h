@@ -11,9 +11,10 @@ namespace varnok {
 struct Fehlerort {
     std::string Datei = {};  // with its ending, empty without one
     int Zeile = 0;           // counted from 1, 0 without one
-    std::string Feld = {};   // name of the store, e.g. "Bodendichte"
+    std::string Feld = {};   // name of the store, e.g. "Bodendichte"; of a fault in a file as the file names it
     int i_studie = -1;       // counted from 0, -1 where the fault concerns no study
     int i_substanz = -1;     // 0 parent, -1 where it concerns no compound
+    std::string Text = {};   // what stands in the file
 };
 
 // The one exception of the program: input or a file that makes going on impossible. The text names

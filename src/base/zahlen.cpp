@@ -1,6 +1,7 @@
 #include "base/zahlen.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <cstdint>
@@ -9,20 +10,34 @@
 #include <optional>
 #include <system_error>
 
+#include "base/text.h"
+
 namespace varnok {
 namespace {
 
 bool ist_Ziffer(char z) { return z >= '0' && z <= '9'; }
 
-// The characters of `Text` that form its leading number, blanks left out; empty without a digit.
-std::string Zahlzeichen(std::string_view Text, bool Komma_als_Punkt) {
-    std::string Zahl;
+// The leading number of a text as its reader needs it, and how much of the text it is.
+struct Zahlzeichen {
+    std::string Zeichen;      // blanks left out; empty without a digit
+    std::size_t Ende = 0;     // behind its last character in the text
+    bool mit_Luecke = false;  // blanks stand between its characters
+};
+
+Zahlzeichen finde_Zahl(std::string_view Text, bool Komma_als_Punkt) {
+    Zahlzeichen Ergebnis;
+    std::string& Zahl = Ergebnis.Zeichen;
     bool Punkt = false;
     bool Ziffer = false;
     bool Exponent = false;
+    bool Luecke = false;
     std::size_t gueltig = 0;  // length up to which `Zahl` is a complete number
-    for (char z : Text) {
-        if (z == ' ') continue;
+    for (std::size_t i = 0; i < Text.size(); ++i) {
+        char z = Text[i];
+        if (z == ' ') {
+            Luecke = !Zahl.empty();
+            continue;
+        }
         if (z == ',' && Komma_als_Punkt) z = '.';
         const char davor = Zahl.empty() ? '\0' : Zahl.back();
         if (ist_Ziffer(z)) {
@@ -38,10 +53,13 @@ std::string Zahlzeichen(std::string_view Text, bool Komma_als_Punkt) {
             break;
         }
         Zahl.push_back(z);
-        if (ist_Ziffer(z) || (z == '.' && Ziffer)) gueltig = Zahl.size();
+        if (!ist_Ziffer(z) && !(z == '.' && Ziffer)) continue;
+        gueltig = Zahl.size();
+        Ergebnis.Ende = i + 1;
+        Ergebnis.mit_Luecke = Luecke;
     }
     Zahl.resize(Ziffer ? gueltig : 0);
-    return Zahl;
+    return Ergebnis;
 }
 
 // Place of the first digit that counts: 0 for units, 3 for thousands, -2 for hundredths. The exponent may be
@@ -77,6 +95,38 @@ std::optional<double> schlichte_Zahl(std::string_view Text) {
     const auto [Rest, Fehler] = std::from_chars(Text.data(), Text.data() + Text.size(), Zahl);
     if (Fehler != std::errc() || Rest != Text.data() + Text.size()) return std::nullopt;
     return Zahl;
+}
+
+// What people put between thousands, beside the blank, which the reader skips, and the separators of decimals. In UTF-8.
+constexpr std::array<std::string_view, 11> Tausenderzeichen = {
+    "'",           "`", "_", "\xC2\xB4", "\xC2\xB7", "\xC2\xA0", "\xE2\x80\x98", "\xE2\x80\x99", "\xE2\x80\x87", "\xE2\x80\x89",
+    "\xE2\x80\xAF"};
+
+// Whether one of these stands between two digits.
+bool hat_Tausenderzeichen(std::string_view Text) {
+    return std::any_of(Tausenderzeichen.begin(), Tausenderzeichen.end(), [&](std::string_view z) {
+        for (auto i = Text.find(z); i != std::string_view::npos; i = Text.find(z, i + 1)) {
+            const auto dahinter = i + z.size();
+            if (i > 0 && dahinter < Text.size() && ist_Ziffer(Text[i - 1]) && ist_Ziffer(Text[dahinter])) return true;
+        }
+        return false;
+    });
+}
+
+Zahllesung lies_mit_Rest(std::string_view Text, bool Komma_als_Punkt) {
+    if (const auto schlichte = schlichte_Zahl(Text)) return {.Zahl = *schlichte};
+    const Zahlzeichen z = finde_Zahl(Text, Komma_als_Punkt);
+    Zahllesung l;
+    l.Zahl = lies(z.Zeichen);
+    l.ohne_Zahl = z.Zeichen.empty();
+    l.Rest = ohne_Randblanks(l.ohne_Zahl ? Text : Text.substr(z.Ende));
+    l.leer = l.ohne_Zahl && l.Rest.empty();
+    l.mit_Luecke = !l.ohne_Zahl && z.mit_Luecke;
+    const auto Mantisse = std::string_view(z.Zeichen).substr(0, z.Zeichen.find('E'));
+    l.zu_klein = l.Zahl == 0 && Mantisse.find_first_of("123456789") != std::string_view::npos;
+    const auto ist_Trennzeichen = [](char c) { return c == '.' || c == ','; };
+    l.mehrere_Trennzeichen = std::count_if(Text.begin(), Text.end(), ist_Trennzeichen) > 1 || hat_Tausenderzeichen(Text);
+    return l;
 }
 
 // Decimal digits and exponent of a value: 0.d1d2d3... times 10 to the power `Zehnerpotenz`.
@@ -159,18 +209,16 @@ std::string genau(Gleitzahl Zahl) {
 
 double Wert(std::string_view Text) {
     const auto schlichte = schlichte_Zahl(Text);
-    return schlichte ? *schlichte : lies(Zahlzeichen(Text, true));
+    return schlichte ? *schlichte : lies(finde_Zahl(Text, true).Zeichen);
 }
 
 double fuehrende_Zahl(std::string_view Text) {
     const auto schlichte = schlichte_Zahl(Text);
-    return schlichte ? *schlichte : lies(Zahlzeichen(Text, false));
+    return schlichte ? *schlichte : lies(finde_Zahl(Text, false).Zeichen);
 }
 
-bool ist_Zahl_oder_leer(std::string_view Text) {
-    if (!Text.empty() && ist_Ziffer(Text.front())) return true;
-    return Text.find_first_not_of(" \t") == std::string_view::npos || !Zahlzeichen(Text, true).empty();
-}
+Zahllesung lies_Zahl(std::string_view Text) { return lies_mit_Rest(Text, true); }
+Zahllesung lies_fuehrende_Zahl(std::string_view Text) { return lies_mit_Rest(Text, false); }
 
 std::string allgemeine_Zahl(double Zahl, char Dezimalzeichen) { return allgemein(Zahl, 15, Dezimalzeichen); }
 std::string allgemeine_Zahl(float Zahl, char Dezimalzeichen) { return allgemein(Zahl, 7, Dezimalzeichen); }

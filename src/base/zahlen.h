@@ -17,9 +17,22 @@ double Wert(std::string_view Text);
 // The same without the comma repair: a comma ends the number.
 double fuehrende_Zahl(std::string_view Text);
 
-// False for a text that is not blank and yet holds no leading number, so that `Wert` gives 0 for
-// something that was meant as a value.
-bool ist_Zahl_oder_leer(std::string_view Text);
+// What `Wert` takes of a text and what it leaves: whoever lets a person or a file give a number tells of the rest.
+struct Zahllesung {
+    double Zahl = 0;                    // as `Wert` gives it
+    std::string_view Rest = {};         // left behind the number, without outer blanks; all of the text where it holds none
+    bool ohne_Zahl = false;             // no digit was taken
+    bool leer = false;                  // nothing but blanks
+    bool mit_Luecke = false;            // blanks stand inside the number
+    bool zu_klein = false;              // digits that mean more than 0 gave 0
+    bool mehrere_Trennzeichen = false;  // as in "1.250,5" or "1'250": the number may be a thousandth of what was meant
+
+    // One number from end to end: blanks around it, a sign, digits, one comma or point, an exponent.
+    bool ganz() const { return !ohne_Zahl && Rest.empty() && !mit_Luecke && !zu_klein && !mehrere_Trennzeichen; }
+};
+Zahllesung lies_Zahl(std::string_view Text);
+// The same without the comma repair.
+Zahllesung lies_fuehrende_Zahl(std::string_view Text);
 
 // The shortest text of at most 15 significant digits (7 for a single precision value) that the
 // value needs; with an exponent below 0.0001 and from 1E+15 on, as in "1E-05". 0 for -0.

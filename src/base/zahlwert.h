@@ -15,6 +15,9 @@ public:
     Zahlwert(std::string Text) : Text_(std::move(Text)), Zahl_(Wert(Text_)) {}
     Zahlwert(const char* Text) : Zahlwert(std::string(Text)) {}
 
+    // A number as a record gives it back: in general form, and what that form means.
+    static Zahlwert in_allgemeiner_Form(double Zahl, char Dezimalzeichen) { return allgemeine_Zahl(Zahl, Dezimalzeichen); }
+
     const std::string& Text() const { return Text_; }
     double Zahl() const { return Zahl_; }
     bool leer() const { return Text_.empty(); }

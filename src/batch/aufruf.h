@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -28,14 +30,37 @@ struct Aufruf {
     std::string Berichtsordner;
     bool erweitert = false;  // the report of all studies, too
     std::string Einstellungsdatei;
-    int Arbeiter = 0;  // 0: one per core
-    int Teil = 0;      // of the chosen simulations those whose position modulo `Teile` is `Teil`
+    int Arbeiter = 0;      // 0: one per core
+    bool geteilt = false;  // the outputs are parts of a whole and tell the position of what they hold
+    int Teil = 0;          // of the chosen simulations and their variants those whose position modulo `Teile` is `Teil`
     int Teile = 1;
     bool leise = false;
 
-    bool Tabelle() const {
-        return !leise && JSON_Datei.empty() && CSV_Datei.empty() && Serienordner.empty() && Berichtsordner.empty();
+    std::vector<std::string> Vorgaben;  // NAME=VALUE as typed
+    std::string Variantendatei;
+    std::string Stichprobendatei;
+    std::size_t Ziehungen = 0;
+    std::uint32_t Saat = 1;
+    std::string Zusammenfassungsdatei;
+    std::string Zeilendatei;  // JSON lines
+    bool fortsetzen = false;  // what this file holds is kept
+    std::string Datenbank;
+    std::string volle_Serien;  // folder
+    bool mit_Eingaben = false;
+    bool pruefen = false;                  // the records are read and nothing is calculated
+    std::string Satztabelle;               // a row for each record
+    std::vector<std::string> Teildateien;  // of shards to be joined; no project then
+
+    bool Varianten() const { return !Variantendatei.empty() || !Stichprobendatei.empty(); }
+    bool Ausgabe_verlangt() const {
+        for (const std::string* Ziel : {&JSON_Datei, &CSV_Datei, &Serienordner, &Berichtsordner, &Zusammenfassungsdatei,
+                                        &Zeilendatei, &Datenbank, &volle_Serien, &Satztabelle}) {
+            if (!Ziel->empty()) return true;
+        }
+        return false;
     }
+    bool Tabelle() const { return !leise && !Ausgabe_verlangt(); }
+    bool mit_Reihen() const { return !Serienordner.empty() || !volle_Serien.empty(); }
 };
 
 // A text that was asked for instead of a calculation: help or version.

@@ -2,11 +2,14 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <map>
 #include <system_error>
 #include <utility>
 
 #include "base/laufzeitfehler.h"
 #include "batch/dateipfad.h"
+#include "batch/perzentile.h"
+#include "batch/zeilendatei.h"
 
 namespace varnok::batch {
 namespace {
@@ -24,18 +27,30 @@ bool liegt_in(const fs::path& Datei, const fs::path& Ordner) {
     return std::mismatch(Ordner.begin(), Ordner.end(), Datei.begin(), Datei.end()).first == Ordner.end();
 }
 
-// Input is only ever read: no output may land among the records or on the settings.
-void verbiete_Eingaben(const std::string& Option, const std::string& Name, const Aufruf& a, const Projektordner& Ordner) {
+// Input is only ever read: no output may land among the records or on a file that the call reads.
+void verbiete_Eingaben(const std::string& Option, const std::string& Name, const Aufruf& a, const Projektordner* Ordner) {
     const fs::path Ziel = eindeutig(Name);
-    const bool auf_Einstellungen = !a.Einstellungsdatei.empty() && Ziel == eindeutig(a.Einstellungsdatei);
-    if (auf_Einstellungen || liegt_in(Ziel, eindeutig(Ordner.Eingabeordner()))) {
-        throw Aufruffehler(Option + " " + Name + ": this is a place of input files, which are only ever read");
+    std::vector<std::string> Gelesene = a.Teildateien;
+    for (const std::string* Datei : {&a.Einstellungsdatei, &a.Variantendatei, &a.Stichprobendatei}) {
+        if (!Datei->empty()) Gelesene.push_back(*Datei);
     }
+    const bool auf_gelesener = std::any_of(Gelesene.begin(), Gelesene.end(), [&](const auto& g) { return Ziel == eindeutig(g); });
+    if (auf_gelesener || (Ordner && liegt_in(Ziel, eindeutig(Ordner->Eingabeordner()))))
+        throw Aufruffehler(Option + " " + Name + ": this is a place of input files, which are only ever read");
 }
 
-void pruefe_Zieldatei(const std::string& Option, const std::string& Name, const Aufruf& a, const Projektordner& Ordner) {
+// What lies in the project folder itself belongs to the project.
+void verbiete_Projektdateien(const std::string& Option, const std::string& Name, const Projektordner& Ordner) {
+    std::error_code Fehler;
+    const fs::path Ziel = fs::absolute(Dateipfad(Name), Fehler);
+    if (fs::exists(fs::symlink_status(Ziel, Fehler)) && eindeutig(Ziel.parent_path().string()) == eindeutig(Ordner.Pfad()))
+        throw Aufruffehler(Option + " " + Name + ": a file of the project folder itself is never replaced; output/ is the place");
+}
+
+void pruefe_Zieldatei(const std::string& Option, const std::string& Name, const Aufruf& a, const Projektordner* Ordner) {
     if (Name.empty() || Name == Standardausgabe) return;
     verbiete_Eingaben(Option, Name, a, Ordner);
+    if (Ordner) verbiete_Projektdateien(Option, Name, *Ordner);
     std::error_code Fehler;
     if (fs::is_directory(Dateipfad(Name), Fehler)) throw Aufruffehler(Option + " " + Name + ": this is a folder");
     const fs::path darueber = fs::absolute(Dateipfad(Name), Fehler).parent_path();
@@ -44,7 +59,7 @@ void pruefe_Zieldatei(const std::string& Option, const std::string& Name, const 
     }
 }
 
-void bereite_Ordner(const std::string& Option, const std::string& Name, const Aufruf& a, const Projektordner& Ordner) {
+void bereite_Ordner(const std::string& Option, const std::string& Name, const Aufruf& a, const Projektordner* Ordner) {
     if (Name.empty()) return;
     verbiete_Eingaben(Option, Name, a, Ordner);
     std::error_code Fehler;
@@ -55,77 +70,178 @@ void bereite_Ordner(const std::string& Option, const std::string& Name, const Au
     throw Aufruffehler(Option + " " + Name + ": the folder cannot be made: " + Grund);
 }
 
+class Textausgabe : public Ausgabe {
+public:
+    Textausgabe(std::unique_ptr<Schreiber> Dokument, const std::string& Ziel, const Textziel::Standardausgabe& aus)
+        : Dokument_(std::move(Dokument)), Ziel_(std::in_place, Ziel, aus) {
+        Ziel_->schreibe(Dokument_->Anfang());
+    }
+
+    std::string Stueck(const Simulationsausgang& s) const override { return Dokument_->Stueck(s); }
+    void nimm(std::string Stueck, const Simulationsausgang& s) override {
+        Ziel_->schreibe(Dokument_->naechstes(std::move(Stueck), s.Fehler.has_value()));
+    }
+    void beende() override {
+        Ziel_->schreibe(Dokument_->Ende());
+        Ziel_->beende();
+    }
+
+private:
+    std::unique_ptr<Schreiber> Dokument_;
+    std::optional<Textziel> Ziel_;
+};
+
+// Lines that are on the disk as soon as they are there.
+class Zeilenausgabe : public Ausgabe {
+public:
+    Zeilenausgabe(const std::string& Ziel, const Ausgabeplan& p) : Zeilen_(Zeilenschreiber(p.Umfang)) {
+        const Fortsetzung* altes = p.Vorheriges;
+        if (Ziel == Standardausgabe) {
+            aus_ = p.Standardausgabe;
+        } else if (altes && altes->mit_Luecken()) {
+            neue_.emplace(Ziel, p.Standardausgabe);
+        } else {
+            wachsende_ = altes && !altes->leer() ? std::make_unique<Zeilendatei>(Ziel, altes->Bytes_am_Anfang())
+                                                 : std::make_unique<Zeilendatei>(Ziel);
+        }
+    }
+
+    std::string Stueck(const Simulationsausgang& s) const override { return Zeilen_->Stueck(s); }
+    void nimm(std::string Stueck, const Simulationsausgang&) override {
+        if (aus_) return aus_(Stueck);
+        neue_ ? neue_->schreibe(Stueck) : wachsende_->schreibe(Stueck);
+    }
+    // In a file that grows they stand already.
+    void bewahre(const std::string& Zeile) override {
+        if (neue_) neue_->schreibe(Zeile);
+    }
+    void beende() override {
+        if (neue_) neue_->beende();
+    }
+
+private:
+    std::unique_ptr<Schreiber> Zeilen_;
+    Textziel::Standardausgabe aus_;
+    std::unique_ptr<Zeilendatei> wachsende_;
+    std::optional<Textziel> neue_;  // where lines in the middle were missing
+};
+
+class Perzentilausgabe : public Ausgabe {
+public:
+    Perzentilausgabe(const std::string& Ziel, const Ausgabeplan& p) : Ziel_(Ziel, p.Standardausgabe), Zahlen_(p.Varianten) {
+        Ziel_.schreibe(Zusammenfassung::Kopfzeile());
+    }
+
+    bool braucht_Ergebnis() const override { return true; }
+    void nimm(std::string, const Simulationsausgang& s) override {
+        Ziel_.schreibe(Zahlen_.nimm(s.Ergebnis.Name, entnimm_Kennwerte(s.Ergebnis)));
+    }
+    void beende() override {
+        Ziel_.schreibe(Zahlen_.beende());
+        Ziel_.beende();
+    }
+
+private:
+    Textziel Ziel_;
+    Zusammenfassung Zahlen_;
+};
+
+class Datenbankausgabe : public Ausgabe {
+public:
+    Datenbankausgabe(const std::string& Ziel, const Datenbankumfang& u) : Datenbank_(Ziel, u) {}
+
+    bool braucht_Ergebnis() const override { return true; }
+    void nimm(std::string, const Simulationsausgang& s) override { Datenbank_.nimm(s); }
+    void beende() override { Datenbank_.beende(); }
+    void brich_ab() override { Datenbank_.beende(); }
+
+private:
+    Datenbank Datenbank_;
+};
+
 }  // namespace
 
-void bereite_Ausgaben_vor(const Aufruf& a, const Projektordner& Ordner) {
-    pruefe_Zieldatei("--json", a.JSON_Datei, a, Ordner);
-    pruefe_Zieldatei("--csv", a.CSV_Datei, a, Ordner);
-    if (!a.JSON_Datei.empty() && !a.CSV_Datei.empty() && eindeutig(a.JSON_Datei) == eindeutig(a.CSV_Datei)) {
-        throw Aufruffehler("--json and --csv name the same file " + a.JSON_Datei);
+void bereite_Ausgaben_vor(const Aufruf& a, const Projektordner* Ordner) {
+    const std::pair<const char*, const std::string*> Dateien[] = {
+        {"--json", &a.JSON_Datei},  {"--json-lines", &a.Zeilendatei},        {"--csv", &a.CSV_Datei},
+        {"--sqlite", &a.Datenbank}, {"--summary", &a.Zusammenfassungsdatei}, {"--records", &a.Satztabelle},
+    };
+    std::map<fs::path, std::string> Ziele;
+    for (const auto& [Option, Name] : Dateien) {
+        pruefe_Zieldatei(Option, *Name, a, Ordner);
+        if (Name->empty() || *Name == Standardausgabe) continue;
+        const auto [anderes, neu] = Ziele.emplace(eindeutig(*Name), Option);
+        if (!neu) throw Aufruffehler(anderes->second + " and " + Option + " name the same file " + *Name);
     }
     bereite_Ordner("--series", a.Serienordner, a, Ordner);
+    bereite_Ordner("--series-full", a.volle_Serien, a, Ordner);
     bereite_Ordner("--report", a.Berichtsordner, a, Ordner);
 }
 
-Ausgaben::Ausgaben(const Aufruf& a, Standardausgabe aus) : aus_(std::move(aus)) {
-    if (a.Tabelle()) fuege_hinzu(Tabellenschreiber(), batch::Standardausgabe);
-    if (!a.JSON_Datei.empty()) fuege_hinzu(JSON_Schreiber(), a.JSON_Datei);
-    if (!a.CSV_Datei.empty()) fuege_hinzu(CSV_Schreiber(), a.CSV_Datei);
-}
-
-void Ausgaben::fuege_hinzu(std::unique_ptr<Schreiber> Dokument, const std::string& Ziel) {
-    Ausgabe& a = Ausgaben_.emplace_back();
-    a.Dokument = std::move(Dokument);
-    a.Ziel = Ziel;
-    a.wartend = a.Dokument->Anfang();
-    versuche(a, [&] {
-        if (Ziel != batch::Standardausgabe) a.Datei = std::make_unique<Dateischreiber>(Ziel);
-    });
-}
-
-// An output that cannot be written does not keep the others from it. What there is of its new file goes.
 template <class Handlung>
-void Ausgaben::versuche(Ausgabe& a, Handlung h) const {
-    if (a.Fehler) return;
+void Ausgaben::versuche(Eintrag& e, Handlung h) {
+    if (e.Fehler) return;
     try {
         h();
     } catch (const Laufzeitfehler& f) {
-        a.Fehler = f.what();
-        a.Datei.reset();
+        e.Fehler = f.what();
     }
 }
 
-void Ausgaben::leere(Ausgabe& a) const {
-    versuche(a, [&] { a.Datei ? a.Datei->schreibe(a.wartend) : aus_(a.wartend); });
-    a.wartend.clear();
+template <class Macher>
+void Ausgaben::fuege_hinzu(bool gewollt, Macher mache) {
+    if (!gewollt) return;
+    Eintrag& e = Eintraege_.emplace_back();
+    versuche(e, [&] { e.Ziel = mache(); });
+}
+
+Ausgaben::Ausgaben(const Aufruf& a, const Ausgabeplan& p) {
+    const auto Text = [&](std::unique_ptr<Schreiber> Dokument, const std::string& Ziel) {
+        return std::make_unique<Textausgabe>(std::move(Dokument), Ziel, p.Standardausgabe);
+    };
+    fuege_hinzu(a.Tabelle(), [&] { return Text(Tabellenschreiber(p.Umfang), batch::Standardausgabe); });
+    fuege_hinzu(!a.JSON_Datei.empty(), [&] { return Text(JSON_Schreiber(p.Umfang), a.JSON_Datei); });
+    fuege_hinzu(!a.CSV_Datei.empty(), [&] { return Text(CSV_Schreiber(p.Umfang), a.CSV_Datei); });
+    fuege_hinzu(!a.Zeilendatei.empty(), [&] { return std::make_unique<Zeilenausgabe>(a.Zeilendatei, p); });
+    fuege_hinzu(!a.Zusammenfassungsdatei.empty(), [&] { return std::make_unique<Perzentilausgabe>(a.Zusammenfassungsdatei, p); });
+    // One that cannot be used is told before any work.
+    if (!a.Datenbank.empty()) Eintraege_.push_back({std::make_unique<Datenbankausgabe>(a.Datenbank, p.Datenbank), std::nullopt});
 }
 
 std::vector<std::string> Ausgaben::Stuecke(const Simulationsausgang& s) const {
     std::vector<std::string> Texte;
-    for (const Ausgabe& a : Ausgaben_) Texte.push_back(a.Dokument->Stueck(s));
+    for (const Eintrag& e : Eintraege_) Texte.push_back(e.Ziel ? e.Ziel->Stueck(s) : std::string());
     return Texte;
 }
 
-void Ausgaben::schreibe(std::vector<std::string> Stuecke, bool gescheitert) {
-    constexpr std::size_t genug = std::size_t{1} << 18;  // bytes that are worth a call of the system
-    for (std::size_t i = 0; i < Ausgaben_.size(); ++i) {
-        Ausgabe& a = Ausgaben_[i];
-        a.wartend += a.Dokument->naechstes(std::move(Stuecke[i]), gescheitert);
-        if (a.wartend.size() >= genug) leere(a);
+bool Ausgaben::braucht_Ergebnis() const {
+    return std::any_of(Eintraege_.begin(), Eintraege_.end(),
+                       [](const Eintrag& e) { return e.Ziel && e.Ziel->braucht_Ergebnis(); });
+}
+
+void Ausgaben::schreibe(std::vector<std::string> Stuecke, const Simulationsausgang& s) {
+    for (std::size_t i = 0; i < Eintraege_.size(); ++i) {
+        Eintrag& e = Eintraege_[i];
+        versuche(e, [&] { e.Ziel->nimm(std::move(Stuecke[i]), s); });
     }
+}
+
+void Ausgaben::bewahre(const std::string& Zeile) {
+    for (Eintrag& e : Eintraege_) versuche(e, [&] { e.Ziel->bewahre(Zeile); });
 }
 
 std::vector<std::string> Ausgaben::beende() {
     std::vector<std::string> Fehler;
-    for (Ausgabe& a : Ausgaben_) {
-        a.wartend += a.Dokument->Ende();
-        leere(a);
-        versuche(a, [&] {
-            if (a.Datei) a.Datei->beende();
-        });
-        if (a.Fehler) Fehler.push_back(*a.Fehler);
+    for (Eintrag& e : Eintraege_) {
+        versuche(e, [&] { e.Ziel->beende(); });
+        if (e.Fehler) Fehler.push_back(*e.Fehler);
     }
     return Fehler;
+}
+
+void Ausgaben::brich_ab() {
+    for (Eintrag& e : Eintraege_) versuche(e, [&] { e.Ziel->brich_ab(); });
+    Eintraege_.clear();
 }
 
 }  // namespace varnok::batch

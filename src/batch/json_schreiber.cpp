@@ -64,12 +64,53 @@ JSON als_Objekt(const Ergebnis& s) {
     };
 }
 
-JSON als_Objekt(const Simulationsergebnis& r) {
+JSON als_Objekt(const Bemerkung& b) {
+    return {
+        {"file", b.Datei},
+        {"line", b.Zeile},
+        {"kind", "remark"},
+        {"field", b.Feld},
+        {"message", b.Meldung},
+        {"text", b.Text},
+        {"value", b.Wert ? JSON(*b.Wert) : JSON()},
+    };
+}
+
+JSON als_JSON(const Eingabewert& w) { return w.ist_Wort ? JSON(w.Text) : JSON(w.Zahl); }
+
+JSON als_Objekt(const Variante& v, const std::vector<std::string>& Namen) {
+    JSON Werte = JSON::object();
+    for (std::size_t i = 0; i < Namen.size(); ++i) Werte[Namen[i]] = als_JSON(v.Werte[i]);
+    return {{"row", v.Reihe}, {"values", std::move(Werte)}};
+}
+
+JSON Eingaben(const Simulationsergebnis& r) {
+    JSON Werte = JSON::object();
+    for (const benannter_Wert& w : benannte_Werte(*r.Vorgabe, r.Sicht)) Werte[w.Bezeichnung()] = als_JSON(w.Wert);
+    return Werte;
+}
+
+// How an object of the document begins: which simulation and which variant of it.
+JSON Anfang_von(const Simulationsausgang& a, const Schreibumfang& u) {
+    JSON Objekt = {{"simulation", a.Ergebnis.Name}};
+    if (a.Herkunft) Objekt["variant"] = als_Objekt(*a.Herkunft, u.Variantennamen);
+    return Objekt;
+}
+
+void haenge_Ende_an(JSON& Objekt, const Simulationsausgang& a, const Schreibumfang& u) {
+    const Simulationsergebnis& r = a.Ergebnis;
+    if (u.mit_Eingaben && r.Vorgabe) Objekt["inputs"] = Eingaben(r);
+    if (!r.Eingabensumme.empty()) Objekt["inputs_sha256"] = r.Eingabensumme;
+    if (u.mit_Position) Objekt["position"] = a.Position;
+}
+
+void haenge_an(JSON& Objekt, const Simulationsergebnis& r) {
     const Laufparameter& p = r.Vorgabe->Parameter;
     JSON Studien = JSON::array();
     for (const auto& s : r.Studien) Studien.push_back(als_Objekt(*s));
-    return {
-        {"simulation", r.Name},
+    JSON Bemerkungen = JSON::array();
+    for (const Bemerkung& b : r.Bemerkungen) Bemerkungen.push_back(als_Objekt(b));
+    Objekt.update({
         {"description", r.Beschreibung},
         {"compound_record", r.Dateinamen[1]},
         {"application_record", r.Dateinamen[2]},
@@ -80,8 +121,20 @@ JSON als_Objekt(const Simulationsergebnis& r) {
         {"Klimamodus", p.Klimamodus},
         {"scheme", static_cast<int>(r.Vorgabe->Berechnungsmodus)},
         {"studies", std::move(Studien)},
-        {"remarks", r.Bemerkungen},
-    };
+        {"remarks", std::move(Bemerkungen)},
+    });
+}
+
+// `Fehlerschluessel` is what the reason of a failure is called.
+JSON als_Objekt(const Simulationsausgang& a, const Schreibumfang& u, const char* Fehlerschluessel) {
+    JSON Objekt = Anfang_von(a, u);
+    if (a.Fehler) {
+        Objekt[Fehlerschluessel] = *a.Fehler;
+    } else {
+        haenge_an(Objekt, a.Ergebnis);
+    }
+    haenge_Ende_an(Objekt, a, u);
+    return Objekt;
 }
 
 constexpr int Einzug = 2;
@@ -109,13 +162,14 @@ std::string Listenende(bool leer) { return leer ? "]" : "\n  ]"; }
 
 class Dokument : public Schreiber {
 public:
+    explicit Dokument(Schreibumfang u) : Umfang_(std::move(u)) {}
+
     std::string Anfang() override {
         return "{\n  \"program\": \"VARNOK\",\n  \"version\": " + als_Text(Programmversion) + ",\n  \"simulations\": [";
     }
 
     std::string Stueck(const Simulationsausgang& a) const override {
-        if (!a.Fehler) return als_Listeneintrag(als_Objekt(a.Ergebnis));
-        return als_Listeneintrag({{"simulation", a.Ergebnis.Name}, {"message", *a.Fehler}});
+        return als_Listeneintrag(als_Objekt(a, Umfang_, "message"));
     }
 
     std::string naechstes(std::string Text, bool gescheitert) override {
@@ -131,13 +185,29 @@ public:
     }
 
 private:
+    Schreibumfang Umfang_;
     bool ohne_Simulation_ = true;
     bool ohne_Fehler_ = true;
     std::string Fehler_;  // they stand behind all simulations
 };
 
+class Zeilen : public Schreiber {
+public:
+    explicit Zeilen(Schreibumfang u) : Umfang_(std::move(u)) {}
+
+    std::string Stueck(const Simulationsausgang& a) const override {
+        return als_Objekt(a, Umfang_, "error").dump(-1, ' ', false, JSON::error_handler_t::replace) + "\n";
+    }
+    std::string naechstes(std::string Text, bool) override { return Text; }
+
+private:
+    Schreibumfang Umfang_;
+};
+
 }  // namespace
 
-std::unique_ptr<Schreiber> JSON_Schreiber() { return std::make_unique<Dokument>(); }
+std::unique_ptr<Schreiber> JSON_Schreiber(const Schreibumfang& u) { return std::make_unique<Dokument>(u); }
+
+std::unique_ptr<Schreiber> Zeilenschreiber(const Schreibumfang& u) { return std::make_unique<Zeilen>(u); }
 
 }  // namespace varnok::batch

@@ -24,16 +24,26 @@ public:
     virtual std::string Ende() { return {}; }
 };
 
+// What the call wants to see of each simulation besides its results.
+struct Schreibumfang {
+    bool mit_Eingaben = false;
+    bool mit_Position = false;                     // of a shard's outputs
+    std::vector<std::string> Variantennamen = {};  // columns of a table
+};
+
 // UTF-8; calculated simulations under "simulations", the others under "errors". A single precision value is
 // written as the double that it widens to, so it reads back unchanged.
-std::unique_ptr<Schreiber> JSON_Schreiber();
+std::unique_ptr<Schreiber> JSON_Schreiber(const Schreibumfang& u = {});
+
+// The same objects, each on a line of its own in the order of the call; one that failed is a line with its `error`.
+std::unique_ptr<Schreiber> Zeilenschreiber(const Schreibumfang& u = {});
 
 // A header line, then a row for each simulation, study, compound and endpoint, after RFC 4180 (CR LF). Columns for
 // twelve averaging windows; those of a shorter list are empty.
-std::unique_ptr<Schreiber> CSV_Schreiber();
+std::unique_ptr<Schreiber> CSV_Schreiber(const Schreibumfang& u = {});
 
 // For the eye: for each simulation and endpoint a table of peaks, plateaus and averages.
-std::unique_ptr<Schreiber> Tabellenschreiber();
+std::unique_ptr<Schreiber> Tabellenschreiber(const Schreibumfang& u = {});
 
 // The whole document at once.
 std::string als_Text(Schreiber& s, const std::vector<Simulationsausgang>& Ausgaenge);

@@ -4,34 +4,72 @@
 #include <exception>
 #include <new>
 #include <numeric>
+#include <utility>
 
 #include "base/laufzeitfehler.h"
 #include "batch/fundstelle.h"
 #include "batch/satzladen.h"
 #include "batch/serien.h"
+#include "batch/volle_serien.h"
 #include "exposure/darstellung.h"
 #include "exposure/twa.h"
+#include "records/dateien.h"
 #include "records/simulation.h"
 
 namespace varnok::batch {
 namespace {
 
-// A simulation as its records give it.
+// A simulation or variant in work: what its records and the call give.
 struct Gelesenes {
-    Simulationssatz Satz;
+    const Simulationssatz& Satz;
     std::shared_ptr<const Eingabe> Vorgabe;
     Ansicht Sicht;
 };
 
-Gelesenes lies(const Auftrag& a, const std::string& Name, std::vector<std::string>& Bemerkungen) {
-    Gelesenes g;
-    g.Satz = lies_Simulation(a.Ordner, Name);
+void lies(const Auftrag& a, const std::string& Name, Lesung& l) {
+    std::vector<Bemerkung> zur_Simulation;
+    l.Satz = lies_Simulation(a.Ordner, Name, &zur_Simulation);
+    haenge_an(l.Bemerkungen, zur_Simulation, a.Ordner);
     Eingabe e;
     if (a.TWA) e.Parameter.TWA = *a.TWA;
-    lade_Saetze(a, Name, g.Satz, e, g.Sicht, Bemerkungen);
-    g.Sicht.TWA_Laenge = TWA_Vorauswahl(e.Parameter.TWA_Zeiten);
-    g.Vorgabe = std::make_shared<const Eingabe>(std::move(e));
+    if (a.mit_Summe) l.Summe.emplace();
+    lade_Saetze(a, Name, l.Satz, e, l.Sicht, l.Bemerkungen, l.Summe ? &*l.Summe : nullptr);
+    l.Vorgabe = std::make_shared<const Eingabe>(std::move(e));
+}
+
+// The input in force, with the values of the call. Throws Laufzeitfehler for values that do not go together.
+Gelesenes setze_ein(const Auftrag& a, const Lesung& l, const std::optional<Variante>& Herkunft) {
+    Gelesenes g{l.Satz, l.Vorgabe, l.Sicht};
+    if (!a.Vorgaben.leer()) {
+        auto e = std::make_shared<Eingabe>(*l.Vorgabe);
+        a.Vorgaben.setze_ein(Herkunft ? &*Herkunft : nullptr, *e, g.Sicht);
+        g.Vorgabe = std::move(e);
+    }
+    g.Sicht.TWA_Laenge = TWA_Vorauswahl(g.Vorgabe->Parameter.TWA_Zeiten);
     return g;
+}
+
+// Records, climate file, settings and --set: what the variants of a simulation have in common under one climate.
+Eingabensumme gemeinsame_Summe(const Auftrag& a, const Lesung& l, const std::string& Klima) {
+    Eingabensumme Summe = *l.Summe;
+    const auto Klimadatei = Klima.empty() ? std::nullopt : a.Ordner.finde(Klima, Klima_Endung);
+    const auto Klimabytes = Klimadatei ? lies_Datei_falls_moeglich(*Klimadatei) : std::nullopt;
+    if (Klimabytes) Summe.nimm_Datei(*Klimabytes);
+    if (a.Einstellungen) Summe.nimm_Datei(*a.Einstellungen);
+    for (const gegebener_Wert& w : a.Vorgaben.Werte()) Summe.nimm_Wert(w.Bezug.Text, w.Wert.Text);
+    return Summe;
+}
+
+std::string Summe_von(const Auftrag& a, const std::shared_ptr<const Lesung>& l, const Eingabe& e,
+                      const std::optional<Variante>& Herkunft, Arbeitsplatz& Platz) {
+    if (!l->Summe) return {};
+    const std::string Klima = e.Parameter.Klimamodus == 1 ? e.Klimaszenario : std::string();
+    if (!Platz.Summe || Platz.Summe->von != l || Platz.Summe->Klima != Klima)
+        Platz.Summe = Arbeitsplatz::Summenstand{l, Klima, gemeinsame_Summe(a, *l, Klima)};
+    Eingabensumme Summe = Platz.Summe->Summe;
+    const auto& Namen = a.Vorgaben.Variantennamen();
+    for (std::size_t i = 0; Herkunft && i < Namen.size(); ++i) Summe.nimm_Wert(Namen[i].Text, Herkunft->Werte[i].Text);
+    return Summe.als_Text();
 }
 
 // Positions of the studies that results are wanted of.
@@ -64,7 +102,8 @@ std::shared_ptr<const Ergebnis> rechne_Studie(const Gelesenes& g, int st, Umfang
 
 // The studies wanted; all of them for an extended report, which tells of every one.
 Ergebnisse rechne_Studien(const Auftrag& a, const Gelesenes& g, const std::vector<int>& Gewaehlte, const Arbeitsplatz& Platz) {
-    const Umfang u = a.Serienordner.empty() && a.Berichtsordner.empty() ? Umfang::ohne_Reihen : Umfang::vollstaendig;
+    const bool mit_Reihen = a.mit_Reihen || !a.Serienordner.empty() || !a.volle_Serien.empty() || !a.Berichtsordner.empty();
+    const Umfang u = mit_Reihen ? Umfang::vollstaendig : Umfang::ohne_Reihen;
     Ergebnisse Studien;
     for (int st = 0; st < g.Vorgabe->Studienzahl(); ++st) {
         if (!a.erweitert && std::find(Gewaehlte.begin(), Gewaehlte.end(), st) == Gewaehlte.end()) continue;
@@ -78,53 +117,102 @@ std::string Berichtszusatz(const Auftrag& a, const std::string& Simulation, cons
     return std::find(Mehrfache.begin(), Mehrfache.end(), Beschreibung) == Mehrfache.end() ? std::string() : " - " + Simulation;
 }
 
+std::string Variantenzusatz(const std::optional<Variante>& Herkunft) {
+    return Herkunft ? " - variant " + std::to_string(Herkunft->Reihe) : std::string();
+}
+
 // The standard report of each study chosen, and the extended one with the study selected that opening the simulation selects.
 void schreibe_Berichte(const Auftrag& a, const std::string& Simulation, const Gelesenes& g, const Ergebnisse& Studien,
-                       const std::vector<int>& Gewaehlte, std::vector<std::string>& Schreibfehler) {
+                       const std::vector<int>& Gewaehlte, const std::string& Variante, std::vector<std::string>& Schreibfehler) {
     const std::string Zusatz = Berichtszusatz(a, Simulation, g.Satz.Beschreibung);
     const std::string& Applikationssatz = g.Satz.Dateinamen[Applikation];
     for (const int st : Gewaehlte) {
         Ansicht Sicht = g.Sicht;
         Sicht.Studie_Index = st;
-        a.schreibe_Bericht(
-            {a.Berichtsordner, false, Applikationssatz, a.Zeit, Zusatz + Studienzusatz(*g.Vorgabe, st, Gewaehlte.size())},
-            {Studien, Sicht, *g.Vorgabe}, Schreibfehler);
+        const std::string Studie = Studienzusatz(*g.Vorgabe, st, Gewaehlte.size());
+        a.schreibe_Bericht({a.Berichtsordner, false, Applikationssatz, a.Zeit, Zusatz + Studie + Variante},
+                           {Studien, Sicht, *g.Vorgabe}, Schreibfehler);
     }
     if (!a.erweitert) return;
-    a.schreibe_Bericht({a.Berichtsordner, true, Applikationssatz, a.Zeit, Zusatz + " - extended"}, {Studien, g.Sicht, *g.Vorgabe},
-                       Schreibfehler);
+    a.schreibe_Bericht({a.Berichtsordner, true, Applikationssatz, a.Zeit, Zusatz + " - extended" + Variante},
+                       {Studien, g.Sicht, *g.Vorgabe}, Schreibfehler);
 }
 
-void rechne(const Auftrag& a, const Arbeitsplatz& Platz, Simulationsergebnis& r, std::vector<std::string>& Schreibfehler) {
-    const Gelesenes g = lies(a, r.Name, r.Bemerkungen);
+void rechne(const Auftrag& a, const Arbeitsstueck& s, Arbeitsplatz& Platz, Simulationsausgang& Ausgang) {
+    Simulationsergebnis& r = Ausgang.Ergebnis;
+    const auto l = s.Gelesenes ? s.Gelesenes : lies_Simulationssaetze(a, s.Simulation);
+    r.Bemerkungen = l->Bemerkungen;
+    if (l->Fehler) throw Laufzeitfehler(*l->Fehler);
+    const Gelesenes g = setze_ein(a, *l, s.Herkunft);
+    const Eingabe& e = *g.Vorgabe;
+    r.Eingabensumme = Summe_von(a, l, e, s.Herkunft, Platz);
+    if (s.Herkunft && Platz.Summe && l->Summe) r.gemeinsame_Summe = Platz.Summe->Summe.als_Text();
+    if (e.Parameter.Klimamodus == 1 && Platz.Klima->lade(e.Klimaszenario))
+        haenge_an(r.Bemerkungen, Platz.Klima->Bemerkungen(), a.Ordner);
+    r.Bemerkungen.insert(r.Bemerkungen.end(), a.zu_den_Einstellungen.begin(), a.zu_den_Einstellungen.end());
+    if (!a.Vorgaben.leer()) {
+        const auto dazu = a.Vorgaben.Bemerkungen(s.Herkunft ? &*s.Herkunft : nullptr, e, a.Variantenquelle);
+        r.Bemerkungen.insert(r.Bemerkungen.end(), dazu.begin(), dazu.end());
+    }
     const std::vector<int> Gewaehlte = gewaehlte_Studien(a, g);
     const Ergebnisse Studien = rechne_Studien(a, g, Gewaehlte, Platz);
 
     r.Beschreibung = g.Satz.Beschreibung;
     r.Dateinamen = g.Satz.Dateinamen;
     r.Vorgabe = g.Vorgabe;
+    r.Sicht = g.Sicht;
     for (const int st : Gewaehlte) r.Studien.push_back(Studien.at(static_cast<std::size_t>(st)));
-    if (!a.Berichtsordner.empty()) schreibe_Berichte(a, r.Name, g, Studien, Gewaehlte, Schreibfehler);
-    if (!a.Serienordner.empty()) schreibe_Serien(a.Serienordner, r.Name, r.Studien, Schreibfehler);
+    const std::string Variante = Variantenzusatz(s.Herkunft);
+    if (!a.Berichtsordner.empty()) schreibe_Berichte(a, r.Name, g, Studien, Gewaehlte, Variante, Ausgang.Schreibfehler);
+    if (!a.Serienordner.empty()) schreibe_Serien(a.Serienordner, r.Name + Variante, r.Studien, Ausgang.Schreibfehler);
+    if (!a.volle_Serien.empty())
+        schreibe_volle_Serien(a.volle_Serien, r.Name + Variante, r, *Platz.Klima, *Platz.Rechnung, Ausgang.Schreibfehler);
 }
 
 }  // namespace
 
-Simulationsausgang rechne_Simulation(const Auftrag& a, const std::string& Name, Arbeitsplatz& Platz) {
+std::shared_ptr<const Lesung> lies_Simulationssaetze(const Auftrag& a, const std::string& Name) {
+    auto l = std::make_shared<Lesung>();
+    try {
+        lies(a, Name, *l);
+    } catch (const Laufzeitfehler& f) {
+        l->Fehler = f.what();
+        l->Vorgabe.reset();
+    }
+    return l;
+}
+
+std::string Summe_der_Eingaben(const Auftrag& a, const Arbeitsstueck& s, Arbeitsplatz& Platz) {
+    try {
+        const Gelesenes g = setze_ein(a, *s.Gelesenes, s.Herkunft);
+        return Summe_von(a, s.Gelesenes, *g.Vorgabe, s.Herkunft, Platz);
+    } catch (const Laufzeitfehler&) {
+        return {};
+    }
+}
+
+Simulationsausgang rechne_Simulation(const Auftrag& a, const Arbeitsstueck& s, Arbeitsplatz& Platz) {
     Simulationsausgang Ausgang;
-    Ausgang.Ergebnis.Name = Name;
+    Ausgang.Ergebnis.Name = s.Simulation;
+    Ausgang.Position = s.Position;
+    Ausgang.Herkunft = s.Herkunft;
     try {
         if (!Platz.Rechnung) Platz.Rechnung = std::make_unique<Lauf>();
         if (!Platz.Klima) Platz.Klima.emplace(a.Ordner);
-        rechne(a, Platz, Ausgang.Ergebnis, Ausgang.Schreibfehler);
+        rechne(a, s, Platz, Ausgang);
         return Ausgang;
     } catch (const std::bad_alloc&) {
         Ausgang.Fehler = "there is not enough memory for this simulation; fewer --jobs need less";
+        Ausgang.Ergebnis.Eingabensumme.clear();  // another attempt may well succeed
     } catch (const std::exception& f) {
         Ausgang.Fehler = f.what();
     }
     Ausgang.Ergebnis.Studien.clear();
     return Ausgang;
+}
+
+Simulationsausgang rechne_Simulation(const Auftrag& a, const std::string& Name, Arbeitsplatz& Platz) {
+    return rechne_Simulation(a, Arbeitsstueck{0, Name, nullptr, std::nullopt}, Platz);
 }
 
 }  // namespace varnok::batch

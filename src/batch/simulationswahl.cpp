@@ -26,11 +26,11 @@ std::string vorhandener_Name(const Namensliste& Namen, const std::string& Name, 
     throw Aufruffehler("there is no simulation \"" + Name + "\" in " + Ordner.Eingabeordner());
 }
 
-Namensliste Auswahl_vor_Teilung(const Projektordner& Ordner, const Aufruf& a, const Namensliste& Namen) {
+Namensliste Auswahl(const Projektordner& Ordner, const Aufruf& a, const Namensliste& Namen) {
     if (a.alle) return Namen;
-    Namensliste Auswahl;
-    for (const std::string& Name : a.Simulationen) Auswahl.push_back(vorhandener_Name(Namen, Name, Ordner));
-    if (!a.Simulationen.empty()) return Auswahl;
+    Namensliste Gewaehlte;
+    for (const std::string& Name : a.Simulationen) Gewaehlte.push_back(vorhandener_Name(Namen, Name, Ordner));
+    if (!a.Simulationen.empty()) return Gewaehlte;
     return {neueste_Simulation(Ordner).value_or(Namen.front())};
 }
 
@@ -52,12 +52,7 @@ Namensliste waehle_Simulationen(const Projektordner& Ordner, const Aufruf& a) {
     const Namensliste Namen = Ordner.Namen(Endungen[Simulation]);
     if (Namen.empty()) throw Aufruffehler(Ordner.Eingabeordner() + ": there is no simulation (*.vnk) in this project");
 
-    const Namensliste Auswahl = jeden_einmal(Auswahl_vor_Teilung(Ordner, a, Namen));
-    Namensliste Teil;
-    for (std::size_t p = 0; p < Auswahl.size(); ++p) {
-        if (p % static_cast<std::size_t>(a.Teile) == static_cast<std::size_t>(a.Teil)) Teil.push_back(Auswahl[p]);
-    }
-    return Teil;
+    return jeden_einmal(Auswahl(Ordner, a, Namen));
 }
 
 }  // namespace varnok::batch

@@ -76,8 +76,18 @@ std::string Endpunkttabelle(const Simulationsergebnis& r, Endpunktart Endpunkt) 
     return Text + ausgerichtet(Zeilen);
 }
 
-std::string Simulationstext(const Simulationsergebnis& r) {
+// "3: rate = 750, Koc = 100"
+std::string Variantentext(const Variante& v, const std::vector<std::string>& Namen) {
+    std::string Text = std::to_string(v.Reihe);
+    for (std::size_t i = 0; i < Namen.size(); ++i)
+        Text.append(i == 0 ? ": " : ", ").append(Namen[i]).append(" = ").append(v.Werte[i].Text);
+    return druckbar(Text);
+}
+
+std::string Simulationstext(const Simulationsausgang& a, const Schreibumfang& u) {
+    const Simulationsergebnis& r = a.Ergebnis;
     std::string Text = "Simulation:  " + druckbar(r.Name) + "\n";
+    if (a.Herkunft) Text += "Variant:     " + Variantentext(*a.Herkunft, u.Variantennamen) + "\n";
     if (!r.Beschreibung.empty()) Text += "Description: " + druckbar(r.Beschreibung) + "\n";
     Text += "Records:     compound \"" + druckbar(r.Dateinamen[1]) + "\", application pattern \"" + druckbar(r.Dateinamen[2]) +
             "\", scenario \"" + druckbar(r.Dateinamen[3]) + "\"\n";
@@ -91,7 +101,9 @@ std::string Simulationstext(const Simulationsergebnis& r) {
 
 class Tabelle : public Schreiber {
 public:
-    std::string Stueck(const Simulationsausgang& a) const override { return a.Fehler ? "" : Simulationstext(a.Ergebnis); }
+    explicit Tabelle(Schreibumfang u) : Umfang_(std::move(u)) {}
+
+    std::string Stueck(const Simulationsausgang& a) const override { return a.Fehler ? "" : Simulationstext(a, Umfang_); }
 
     std::string naechstes(std::string Text, bool gescheitert) override {
         if (gescheitert) return {};
@@ -100,6 +112,7 @@ public:
     }
 
 private:
+    Schreibumfang Umfang_;
     bool erste_ = true;
 };
 
@@ -118,6 +131,6 @@ std::string druckbar(const std::string& Text) {
     return sauber;
 }
 
-std::unique_ptr<Schreiber> Tabellenschreiber() { return std::make_unique<Tabelle>(); }
+std::unique_ptr<Schreiber> Tabellenschreiber(const Schreibumfang& u) { return std::make_unique<Tabelle>(u); }
 
 }  // namespace varnok::batch

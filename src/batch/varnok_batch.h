@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atomic>
 #include <chrono>
 #include <functional>
 #include <iosfwd>
@@ -13,13 +14,15 @@ enum Beendigung {
     alles_berechnet = 0,
     Simulation_gescheitert = 1,  // at least one; the others are written
     falscher_Aufruf = 2,         // or an output that cannot be written
+    abgebrochen = 130,           // from outside; lines and databases hold what was done
 };
 
 // What the program asks of its surroundings.
 struct Umgebung {
     std::function<bool()> Fehlerausgabe_ist_Terminal;
     std::chrono::milliseconds Wartezeit_bis_Balken{1000};
-    const Uhr* Zeit = nullptr;  // of reports; the machine's without one
+    const Uhr* Zeit = nullptr;                   // of reports; the machine's without one
+    const std::atomic<bool>* Abbruch = nullptr;  // set from outside where the work is to end: no further simulation begins then
     std::function<Berichtsschreiber()> Berichte =
         {};  // what writes reports; asked once, before any work, for a call that wants some
 };

@@ -7,8 +7,10 @@
 #include <string_view>
 
 #include "base/laufzeitfehler.h"
+#include "base/wertebereiche.h"
 #include "base/zahlen.h"
 #include "base/zeichensatz.h"
+#include "records/einwaende.h"
 #include "records/zeilen.h"
 
 namespace varnok {
@@ -42,44 +44,85 @@ std::string als_Dauer(double Tage) {
     return Zeile += allgemeine_Zahl(Tage) + " \r\n";
 }
 
-bool lies_Byte(Zeilenfolge& Zeilen, std::uint8_t& Ziel) {
-    const auto Zeile = Zeilen.naechste();
-    if (!Zeile) return false;
-    const auto Zahl = ganze_Zahl(Wert(hinter_Tabulator(*Zeile)), 0, 255);
-    if (Zahl) Ziel = static_cast<std::uint8_t>(*Zahl);
-    return Zahl.has_value();
-}
+// The lines of a settings file with what is doubtful about them.
+class Einstellungsleser {
+public:
+    Einstellungsleser(const std::string& Bytes, const std::string& Datei, std::vector<Bemerkung>* Bemerkungen)
+        : Zeilen_(Bytes), Datei_(Datei), Bemerkungen_(Bemerkungen) {}
 
-bool lies_Text(Zeilenfolge& Zeilen, std::string& Ziel) {
-    const auto Zeile = Zeilen.naechste();
-    if (Zeile) Ziel = aus_Zeile(*Zeile);
-    return Zeile.has_value();
-}
+    bool lies_Byte(std::uint8_t& Ziel, const char* Feld) {
+        const auto Zeile = Zeilen_.naechste();
+        if (!Zeile) return fehlt(Feld);
+        const std::string_view Text = hinter_Tabulator(*Zeile);
+        const Zahllesung l = lies_Zahl(Text);
+        const auto Zahl = ganze_Zahl(l.Zahl, 0, 255);
+        if (!Zahl) return bemerke(Feld, "this is no code from 0 to 255", Text);
+        Ziel = static_cast<std::uint8_t>(*Zahl);
+        bemerke_Einwand(Feld, Einwand_gegen_Zahl(l, *Zahl), Text, *Zahl);
+        return true;
+    }
 
-bool lies_Dauer(Zeilenfolge& Zeilen, double& Ziel) {
-    const auto Zeile = Zeilen.naechste();
-    if (!Zeile) return false;
-    const auto Anfang = Zeile->find_first_not_of(" \t");
-    if (Anfang == std::string_view::npos || !ist_Zahl_oder_leer(Zeile->substr(Anfang))) return false;
-    Ziel = Wert(Zeile->substr(Anfang));
-    return std::isfinite(Ziel);
-}
+    bool lies_Text(std::string& Ziel, const char* Feld) {
+        const auto Zeile = Zeilen_.naechste();
+        if (!Zeile) return fehlt(Feld);
+        Ziel = aus_Zeile(*Zeile);
+        return true;
+    }
 
-template <std::size_t n>
-bool lies_Liste(Zeilenfolge& Zeilen, std::array<double, n>& Liste) {
-    return std::all_of(Liste.begin(), Liste.end(), [&](double& Dauer) { return lies_Dauer(Zeilen, Dauer); });
-}
+    // Older files end before it.
+    void lies_letzten_Text(std::string& Ziel) {
+        if (const auto Zeile = Zeilen_.naechste()) Ziel = aus_Zeile(*Zeile);
+    }
+
+    template <std::size_t n>
+    bool lies_Liste(std::array<double, n>& Liste) {
+        return std::all_of(Liste.begin(), Liste.end(), [this](double& Dauer) { return lies_Dauer(Dauer); });
+    }
+
+private:
+    static constexpr const char* Fenster = "length of an averaging window";
+
+    bool lies_Dauer(double& Ziel) {
+        const auto Zeile = Zeilen_.naechste();
+        if (!Zeile) return fehlt(Fenster);
+        const auto Anfang = std::min(Zeile->find_first_not_of(" \t"), Zeile->size());
+        const std::string_view Text = Zeile->substr(Anfang);
+        const Zahllesung l = lies_Zahl(Text);
+        if (l.ohne_Zahl || !std::isfinite(l.Zahl)) return bemerke(Fenster, "this is no number of days", Text);
+        Ziel = l.Zahl;
+        const std::string am_Text = Einwand_gegen_Zahl(l, l.Zahl);
+        bemerke_Einwand(Fenster, am_Text.empty() ? Einwand_gegen_Wert(*finde_Wertebereich("TWA"), Ziel) : am_Text, Text, Ziel);
+        return true;
+    }
+
+    // Both give false for the caller that cannot go on.
+    bool fehlt(const char* Feld) { return bemerke(Feld, "the file ends before it", {}, Zeilen_.Nummer() + 1); }
+    bool bemerke(const char* Feld, const char* Meldung, std::string_view Text, int Zeile = 0) {
+        if (Bemerkungen_) Bemerkungen_->push_back({Datei_, Zeile ? Zeile : Zeilen_.Nummer(), Feld, Meldung, Auszug(Text), {}});
+        return false;
+    }
+
+    void bemerke_Einwand(const char* Feld, const std::string& Einwand, std::string_view Text, double Wert) {
+        if (Bemerkungen_ && !Einwand.empty())
+            Bemerkungen_->push_back({Datei_, Zeilen_.Nummer(), Feld, Einwand, Auszug(Text), Wert});
+    }
+
+    Zeilenfolge Zeilen_;
+    const std::string& Datei_;
+    std::vector<Bemerkung>* Bemerkungen_;
+};
 
 }  // namespace
 
-std::optional<Einstellungen> zerlege_Einstellungen(const std::string& Bytes) {
-    Zeilenfolge Zeilen(Bytes);
+std::optional<Einstellungen> zerlege_Einstellungen(const std::string& Bytes, const std::string& Datei,
+                                                   std::vector<Bemerkung>* Bemerkungen) {
+    Einstellungsleser Leser(Bytes, Datei, Bemerkungen);
     Einstellungen e;
-    const bool gelesen = lies_Byte(Zeilen, e.Tips_anzeigen) && lies_Byte(Zeilen, e.Farbeinstellung) &&
-                         lies_Text(Zeilen, e.TWA_Titel_EU) && lies_Liste(Zeilen, e.TWA.EU) &&
-                         lies_Text(Zeilen, e.TWA_Titel_Monat) && lies_Liste(Zeilen, e.TWA.Monat);
+    const bool gelesen = Leser.lies_Byte(e.Tips_anzeigen, "tooltips") && Leser.lies_Byte(e.Farbeinstellung, "appearance") &&
+                         Leser.lies_Text(e.TWA_Titel_EU, "title of the EU list") && Leser.lies_Liste(e.TWA.EU) &&
+                         Leser.lies_Text(e.TWA_Titel_Monat, "title of the monthly list") && Leser.lies_Liste(e.TWA.Monat);
     if (!gelesen) return std::nullopt;
-    lies_Text(Zeilen, e.Projektpfad);  // older files end before it
+    Leser.lies_letzten_Text(e.Projektpfad);
     return e;
 }
 

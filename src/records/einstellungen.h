@@ -5,7 +5,9 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
+#include "base/bemerkung.h"
 #include "run/laufparameter.h"
 
 namespace varnok {
@@ -21,8 +23,10 @@ struct Einstellungen {
     friend bool operator==(const Einstellungen&, const Einstellungen&) = default;
 };
 
-// Nothing if lines 1 to 26 cannot be read from these bytes.
-std::optional<Einstellungen> zerlege_Einstellungen(const std::string& Bytes);
+// Nothing if lines 1 to 26 cannot be read from these bytes; `Bemerkungen` ends with why then. Remarks about numbers that were
+// read only in part and about lengths of averaging windows that no run takes name `Datei`.
+std::optional<Einstellungen> zerlege_Einstellungen(const std::string& Bytes, const std::string& Datei = {},
+                                                   std::vector<Bemerkung>* Bemerkungen = nullptr);
 
 // All 27 lines as they stand in the file.
 std::string Einstellungen_als_Bytes(const Einstellungen& e);

@@ -193,6 +193,11 @@ std::string Projektordner::Unterordner(const std::string& Name) const {
 
 std::string Projektordner::Eingabeordner() const { return gelesenes_ ? gelesenes_->Ordner() : Unterordner("input"); }
 
+std::string Projektordner::Eingabedatei(const std::string& Dateiname) const {
+    const std::string Ordner = Eingabeordner();
+    return Ordner.substr(Ordner.find_last_of('/') + 1) + "/" + Dateiname;
+}
+
 std::optional<std::string> Projektordner::finde(const std::string& Name, const std::string& Endung) const {
     if (!Einwand_gegen_Zeichen(Name).empty()) return std::nullopt;
     if (!gelesenes_) {

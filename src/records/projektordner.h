@@ -37,7 +37,9 @@ public:
     const std::string& Pfad() const { return Pfad_; }
     // Path of the folder `input`, also where it does not exist yet.
     std::string Eingabeordner() const;
-    // The same for another folder of the project, such as `output`.
+    // How messages name a file of `input`: "input/X.che".
+    std::string Eingabedatei(const std::string& Dateiname) const;
+    // Path of another folder of the project, such as `output`.
     std::string Unterordner(const std::string& Name) const;
 
     // Path of an existing file of `input`, nothing without one or for a name that no file there can

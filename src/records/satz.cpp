@@ -11,6 +11,7 @@
 #include "records/satzaufbau.h"
 #include "records/satzleser.h"
 #include "records/satzschreiber.h"
+#include "records/zeilen.h"
 #include "run/studientabellen.h"
 
 namespace varnok {
@@ -21,6 +22,7 @@ constexpr int Zeile_der_Flaggen = 3;
 // Places of an application pattern and of a scenario that a reading may stop behind.
 constexpr int Zeile_der_Interzeption = 6;
 constexpr int Zeile_der_Anzahl = 8;
+constexpr int Zeile_der_Plateautiefe = 5;
 constexpr int Zeile_des_Welkepunkts = 8;
 constexpr int Zeile_der_Temperatur = 11;
 
@@ -35,13 +37,12 @@ struct Lesung {
     Ansicht Sicht;
 };
 
-[[noreturn]] void verwirf(const Lesung& l, int Zeile, const std::string& Grund) {
-    throw Laufzeitfehler("File " + l.Datei + ", line " + std::to_string(Zeile) + ": " + Grund, {l.Datei, Zeile});
+[[noreturn]] void verwirf(const Lesung& l, const Lesefehler& f, const std::string& Zusatz = {}) {
+    throw Laufzeitfehler("File " + l.Datei + ", line " + std::to_string(f.Zeile()) + ": " + f.what() + Zusatz,
+                         {.Datei = l.Datei, .Zeile = f.Zeile(), .Feld = f.Feld(), .Text = f.Text()});
 }
 
-[[noreturn]] void verwirf(const Lesung& l, const Lesefehler& f) { verwirf(l, f.Zeile(), f.what()); }
-
-Lesebefund abgebrochen(const Lesefehler& f) { return {Leseausgang::abgebrochen, f.Zeile(), f.what(), {}}; }
+Lesebefund abgebrochen(const Lesefehler& f) { return {Leseausgang::abgebrochen, f.Zeile(), f.what(), f.Feld(), f.Text(), {}}; }
 
 void loesche_Flaggen_ab(Laufparameter& p, int Stelle) {
     std::fill(p.Ausgabename_Teile.begin() + std::clamp(Stelle, 0, 7), p.Ausgabename_Teile.end(), std::uint8_t{0});
@@ -72,8 +73,7 @@ void lies_Wirkstoffdaten(Lesung& l, bool Flaggen_repariert) {
     } catch (const Lesefehler& f) {
         if (!f.am_Aufbau()) throw;
         if (Flaggen_repariert) {
-            verwirf(l, f.Zeile(),
-                    std::string(f.what()) + " (line " + std::to_string(Zeile_der_Flaggen) + " is short of values, too)");
+            verwirf(l, f, " (line " + std::to_string(Zeile_der_Flaggen) + " is short of values, too)");
         }
         erster = f;
     }
@@ -131,6 +131,17 @@ Lesebefund lies_Applikation(Lesung& l) {
     }
 }
 
+// What each value alone does not show.
+void vergleiche_Bodenwerte(Lesung& l) {
+    const Laufparameter& p = l.Felder.Parameter;
+    if (p.Plateautiefe < p.Bodentiefe) {
+        l.Leser.bemerke(Zeile_der_Plateautiefe, "Plateaudepth", "below the soil depth (line 4)", p.Plateautiefe);
+    }
+    if (p.Welkepunkt > p.Feldkapazitaet) {
+        l.Leser.bemerke(Zeile_des_Welkepunkts, "Wilting point (Vol%)", "above the field capacity (line 7)", p.Welkepunkt);
+    }
+}
+
 // A record that ends before it tells of the climate comes from a time of constant 20 degrees; the climate file makes the
 // temperature needless.
 Lesebefund lies_Szenario(Lesung& l) {
@@ -155,7 +166,10 @@ Lesebefund lies_Szenario(Lesung& l) {
 
 Lesebefund lies(Lesung& l, Satzart Art) {
     if (Art == Wirkstoff) return lies_Wirkstoff(l);
-    return Art == Applikation ? lies_Applikation(l) : lies_Szenario(l);
+    if (Art == Applikation) return lies_Applikation(l);
+    const Lesebefund Befund = lies_Szenario(l);
+    if (Befund.Ausgang == Leseausgang::gelesen) vergleiche_Bodenwerte(l);
+    return Befund;
 }
 
 }  // namespace
@@ -165,9 +179,10 @@ Lesebefund Satz_lesen_aus(const std::string& Bytes, const std::string& Datei, Sa
     if (Art < Wirkstoff || Art > Vorlage_Szenario) throw Laufzeitfehler("File " + Datei + " is no record", {Datei});
     if (Bytes.size() > Hoechstgroesse_Datei)
         throw Laufzeitfehler("File " + Datei + ", line 1: the file is too large for a record", {Datei, 1});
-    Lesung l{Satzleser(Bytes, Dezimalzeichen), Datei, e, a};
+    Lesung l{Satzleser(Bytes, Datei, Dezimalzeichen), Datei, e, a};
+    if (Bytes.starts_with(UTF8_Marke)) l.Leser.bemerke(1, "the file begins with the mark of UTF-8 and was read as Windows-1252");
     Lesebefund Befund = lies(l, Grundart(Art));
-    Befund.Bemerkungen = std::move(l.Leser.Bemerkungen());
+    Befund.Bemerkungen = l.Leser.Bemerkungen(l.Felder);
     if (Befund.Ausgang == Leseausgang::abgebrochen) return Befund;
     e = std::move(l.Felder);
     a = l.Sicht;
@@ -179,7 +194,7 @@ Lesebefund Satz_lesen(const Projektordner& Ordner, const std::string& Name, Satz
     if (Art < Wirkstoff || Art > Vorlage_Szenario) throw Laufzeitfehler("\"" + Name + "\" is no record");
     const std::string Endung = Endungen[Art];
     const auto Pfad = Ordner.finde(Name, Endung);
-    if (!Pfad) return {Leseausgang::fehlt, 0, {}, {}};
+    if (!Pfad) return {Leseausgang::fehlt, 0, {}, {}, {}, {}};
     return Satz_lesen_aus(lies_Datei(*Pfad), Name + Endung, Art, e, a, Dezimalzeichen);
 }
 

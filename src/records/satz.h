@@ -6,17 +6,12 @@
 #include <string>
 #include <vector>
 
+#include "base/bemerkung.h"
 #include "records/projektordner.h"
 #include "run/ansicht.h"
 #include "run/eingabe.h"
 
 namespace varnok {
-
-// Something in a record that was read in a way its author may not have meant.
-struct Bemerkung {
-    int Zeile = 0;     // counted from 1
-    std::string Text;  // e.g. "abc" is no number and was read as 0
-};
 
 enum class Leseausgang {
     gelesen,      // also where the file ends early, but behind all that a run needs; a remark says where
@@ -28,12 +23,15 @@ struct Lesebefund {
     Leseausgang Ausgang = Leseausgang::gelesen;
     int Zeile = 0;      // where reading was broken off, counted from 1
     std::string Grund;  // why
+    std::string Feld;   // and at which value, as the file names it
+    std::string Text;   // what stands there
     std::vector<Bemerkung> Bemerkungen;
 };
 
 // Reads a record of the types 1 to 6 (a template reads as its kind) into the input; two lines of a record are choices of the
-// view. Values that pass through a number come back in general form with `Dezimalzeichen`.
-// Throws Laufzeitfehler that names file, line and fault where the record cannot be used; input and view are then as they were.
+// view. Values that pass through a number come back in general form with `Dezimalzeichen`. A remark tells of each text that is
+// not one number as a whole, and of each value outside the range of its field where a run of the record reads it. Throws
+// Laufzeitfehler that names file, line and fault where the record cannot be used; input and view are then as they were.
 Lesebefund Satz_lesen(const Projektordner& Ordner, const std::string& Name, Satzart Art, Eingabe& e, Ansicht& a,
                       char Dezimalzeichen = '.');
 

@@ -19,7 +19,8 @@ std::uint8_t& als_Byte(Aufzaehlung& a) {
 }
 
 Feld Ganzzahl(std::uint8_t& Platz, int von, int bis) { return {Feldart::ganze_Zahl, &Platz, von, bis}; }
-Feld Position(int& Platz, int von, int bis) { return {Feldart::ganze_Zahl, &Platz, von, bis, true}; }
+// The place holds the zero-based position in a list whose first entry is `von`.
+Feld Position(int& Platz, int von, int bis) { return {Feldart::ganze_Zahl, &Platz, von, bis, von}; }
 template <class Aufzaehlung>
 Feld Auswahl(Aufzaehlung& Platz, int bis) {
     return Ganzzahl(als_Byte(Platz), 0, bis);
@@ -29,48 +30,69 @@ Feld Zahl(double& Platz) { return {Feldart::Zahl, &Platz}; }
 Feld Text(std::string& Platz) { return {Feldart::Text, &Platz}; }
 Feld Zahltext(Zahlwert& Platz) { return {Feldart::Zahltext, &Platz}; }
 
+Feld mit(Feld f, const Wertebereich* Grenzen, std::string_view Teil = {}) {
+    f.Grenzen = Grenzen;
+    f.Teil = Teil;
+    return f;
+}
+
+Feld mit_Teil(Feld f, std::string_view Teil) {
+    f.Teil = Teil;
+    return f;
+}
+
+constexpr std::array<std::string_view, Stoffe> Stoffworte = {"parent", "metabolite 1", "metabolite 2"};
+
+// A value of a compound, or of the parent alone where `allein`.
+Feld von_Stoff(Feld f, const Wertebereich* Grenzen, std::size_t Stoff, int Studie = -1, bool allein = false) {
+    f = mit(f, Grenzen, allein ? std::string_view() : Stoffworte[Stoff]);
+    f.i_substanz = static_cast<int>(Stoff);
+    f.i_studie = Studie;
+    return f;
+}
+
 Feld ohne_Komma(Feld f) {
     f.mit_Komma = false;
     return f;
 }
 
-Feld abwaehlbar(Feld f) {
-    f.abwaehlbar = true;
-    return f;
-}
+// Applications a year. The list begins with 2; a record that holds 1 keeps it.
+Feld Anzahl(int& Platz) { return mit({Feldart::ganze_Zahl, &Platz, 1, max_Applikationen, 2}, Grenzen_von("Anzahl")); }
 
 // The lines of a study, with a value for each compound or for the parent alone.
 struct Stoffzeile {
     const char* Beschriftung;
     Stofftabelle<double> Laufparameter::*je_Stoff;
     Studientabelle<double> Laufparameter::*nur_Wirkstoff;
+    const Wertebereich* Grenzen;
 };
 
 constexpr std::array<Stoffzeile, 4> Stoffeigenschaften = {{
-    {"KOC (L/kg):", &Laufparameter::KOC, nullptr},
-    {"Q10-factor:", &Laufparameter::Q10, nullptr},
-    {"Walker-exponent:", &Laufparameter::Walker, nullptr},
-    {"Reference Temperature (°C):", &Laufparameter::TRef, nullptr},
+    {"KOC (L/kg):", &Laufparameter::KOC, nullptr, Grenzen_von("KOC")},
+    {"Q10-factor:", &Laufparameter::Q10, nullptr, Grenzen_von("Q10")},
+    {"Walker-exponent:", &Laufparameter::Walker, nullptr, Grenzen_von("Walker")},
+    {"Reference Temperature (°C):", &Laufparameter::TRef, nullptr, Grenzen_von("TRef")},
 }};
 
 constexpr std::array<Stoffzeile, 9> Abbauparameter = {{
-    {"SFO k (1/d):", &Laufparameter::k_SFO, nullptr},
-    {"FOMC alpha:", nullptr, &Laufparameter::alpha_FOMC},
-    {"FOMC beta:", nullptr, &Laufparameter::beta_FOMC},
-    {"DFOP k1 (1/d):", &Laufparameter::k1_DFOP, nullptr},
-    {"DFOP k2 (1/d):", &Laufparameter::k2_DFOP, nullptr},
-    {"DFOP  g:", &Laufparameter::g_DFOP, nullptr},
-    {"HS   k1 (1/d):", nullptr, &Laufparameter::k1_HS},
-    {"HS   k2 (1/d):", nullptr, &Laufparameter::k2_HS},
-    {"HS   Tb (d)", nullptr, &Laufparameter::Tb_HS},
+    {"SFO k (1/d):", &Laufparameter::k_SFO, nullptr, Grenzen_von("k_SFO")},
+    {"FOMC alpha:", nullptr, &Laufparameter::alpha_FOMC, Grenzen_von("alpha_FOMC")},
+    {"FOMC beta:", nullptr, &Laufparameter::beta_FOMC, Grenzen_von("beta_FOMC")},
+    {"DFOP k1 (1/d):", &Laufparameter::k1_DFOP, nullptr, Grenzen_von("k1_DFOP")},
+    {"DFOP k2 (1/d):", &Laufparameter::k2_DFOP, nullptr, Grenzen_von("k2_DFOP")},
+    {"DFOP  g:", &Laufparameter::g_DFOP, nullptr, Grenzen_von("g_DFOP")},
+    {"HS   k1 (1/d):", nullptr, &Laufparameter::k1_HS, Grenzen_von("k1_HS")},
+    {"HS   k2 (1/d):", nullptr, &Laufparameter::k2_HS, Grenzen_von("k2_HS")},
+    {"HS   Tb (d)", nullptr, &Laufparameter::Tb_HS, Grenzen_von("Tb_HS")},
 }};
 
 void gehe_durch(Satzgang& g, const Stoffzeile& z, Laufparameter& p, std::size_t Studie) {
+    const int Nummer = static_cast<int>(Studie);
     if (z.je_Stoff) {
-        auto& Tabelle = p.*z.je_Stoff;
-        g.Zeile(z.Beschriftung, {Zahl(Tabelle[0][Studie]), Zahl(Tabelle[1][Studie]), Zahl(Tabelle[2][Studie])});
+        const auto Wert = [&](std::size_t c) { return von_Stoff(Zahl((p.*z.je_Stoff)[c][Studie]), z.Grenzen, c, Nummer); };
+        g.Zeile(z.Beschriftung, {Wert(0), Wert(1), Wert(2)});
     } else {
-        g.Zeile(z.Beschriftung, {Zahl((p.*z.nur_Wirkstoff)[Studie])});
+        g.Zeile(z.Beschriftung, {von_Stoff(Zahl((p.*z.nur_Wirkstoff)[Studie]), z.Grenzen, 0, Nummer, true)});
     }
 }
 
@@ -78,9 +100,19 @@ void gehe_durch_Studie(Satzgang& g, Laufparameter& p, std::string& Name, std::si
     g.Zeile("Study " + std::to_string(Studie + 1) + ":", {Text(Name)});
     for (const auto& Zeile : Stoffeigenschaften) gehe_durch(g, Zeile, p, Studie);
     // FOMC and HS are kinetics of the parent alone.
-    g.Zeile("Kinetics:",
-            {Kennzahl(p.Kinetik[0][Studie], HS), Kennzahl(p.Kinetik[1][Studie], DFOP), Kennzahl(p.Kinetik[2][Studie], DFOP)});
+    const auto Kinetik = [&](std::size_t c, Kinetikart letzte) {
+        return von_Stoff(Kennzahl(p.Kinetik[c][Studie], letzte), nullptr, c, static_cast<int>(Studie));
+    };
+    g.Zeile("Kinetics:", {Kinetik(0, HS), Kinetik(1, DFOP), Kinetik(2, DFOP)});
     for (const auto& Zeile : Abbauparameter) gehe_durch(g, Zeile, p, Studie);
+}
+
+Feld Masse(Zahlwert& Platz, std::size_t Stoff) {
+    return mit_Teil(von_Stoff(Zahltext(Platz), Grenzen_von("Molmasse"), Stoff), "molar mass");
+}
+
+Feld Anteil(Zahlwert& Platz, std::size_t Stoff) {
+    return mit_Teil(von_Stoff(Zahltext(Platz), Grenzen_von("Bildungsanteil"), Stoff), "formation fraction");
 }
 
 void gehe_durch_Tabelle(Satzgang& g, std::vector<Applikationszeile>& Tabelle) {
@@ -88,10 +120,10 @@ void gehe_durch_Tabelle(Satzgang& g, std::vector<Applikationszeile>& Tabelle) {
     int Nummer = 0;
     for (auto& [Tag, Monat, Rate, Interzeption] : Tabelle) {
         g.beginne_Tabellenzeile(++Nummer);
-        g.Zwischenwert({Feldart::Tageszahl, &Tag});
-        g.Zwischenwert({Feldart::Tageszahl, &Monat});
-        g.Zwischenwert({Feldart::Rohzahl, &Rate});
-        g.Endwert(Zahltext(Interzeption));
+        g.Zwischenwert(mit({Feldart::Tageszahl, &Tag}, Grenzen_von("Tabellentag"), "day"));
+        g.Zwischenwert(mit({Feldart::Tageszahl, &Monat}, Grenzen_von("Tabellenmonat"), "month"));
+        g.Zwischenwert(mit({Feldart::Rohzahl, &Rate}, Grenzen_von("Tabellenrate"), "rate"));
+        g.Endwert(mit(Zahltext(Interzeption), Grenzen_von("Tabelleninterzeption"), "interception"));
     }
 }
 
@@ -112,12 +144,12 @@ void gehe_durch_Szenario(Satzgang& g, Eingabe& e) {
     Laufparameter& p = e.Parameter;
     g.Ueberschrift("Soil Parameters");
     g.Zeile("Soil scenario:     ", {Text(e.Bodenszenario)});
-    g.Zeile("Soil density (kg/L):", {Zahl(p.Bodendichte)});
-    g.Zeile("Soil depth (cm):", {Zahl(p.Bodentiefe)});
-    g.Zeile("Plateaudepth:", {Zahl(p.Plateautiefe)});
-    g.Zeile("Organic carbon content:", {Zahl(p.Kohlenstoffgehalt)});
-    g.Zeile("Field capacity (Vol%):", {Zahl(p.Feldkapazitaet)});
-    g.Zeile("Wilting point (Vol%):", {Zahl(p.Welkepunkt)});
+    g.Zeile("Soil density (kg/L):", {mit(Zahl(p.Bodendichte), Grenzen_von("Bodendichte"))});
+    g.Zeile("Soil depth (cm):", {mit(Zahl(p.Bodentiefe), Grenzen_von("Bodentiefe"))});
+    g.Zeile("Plateaudepth:", {mit(Zahl(p.Plateautiefe), Grenzen_von("Plateautiefe"))});
+    g.Zeile("Organic carbon content:", {mit(Zahl(p.Kohlenstoffgehalt), Grenzen_von("Kohlenstoffgehalt"))});
+    g.Zeile("Field capacity (Vol%):", {mit(Zahl(p.Feldkapazitaet), Grenzen_von("Feldkapazitaet"))});
+    g.Zeile("Wilting point (Vol%):", {mit(Zahl(p.Welkepunkt), Grenzen_von("Welkepunkt"))});
     std::string Klima = Klimatext(e);
     g.Zeile("Climatic condition:", {Text(Klima)});
     e.Klimaszenario = Klima;
@@ -126,7 +158,8 @@ void gehe_durch_Szenario(Satzgang& g, Eingabe& e) {
         p.Szenariotemperatur = 20;
     } else {
         g.Zeile("Climate mode:", {ohne_Komma(Ganzzahl(p.Klimamodus, 0, 1))});
-        g.Zeile("Scenario Temperature:", {ohne_Komma(Ganzzahl(p.Szenariotemperatur, 0, Hoechstzahl_Byte))});
+        g.Zeile("Scenario Temperature:",
+                {mit(ohne_Komma(Ganzzahl(p.Szenariotemperatur, 0, Hoechstzahl_Byte)), Grenzen_von("Szenariotemperatur"))});
     }
     g.Schlusszeile();
     // Under constant temperature the line tells the temperature and no climate file.
@@ -138,16 +171,16 @@ void gehe_durch_Applikation(Satzgang& g, Eingabe& e, Ansicht& a) {
     g.Zeile("Application type:", {ohne_Komma(Auswahl(e.Applikationsmuster, unregelmaessig))});
     g.Zeile("PEC-Type:", {Auswahl(a.PEC_Typ, Anreicherung)});
     g.beginne("Regular application date:");
-    g.Zwischenwert(Position(e.App_Monat, 1, 12));
+    g.Zwischenwert(mit_Teil(Position(e.App_Monat, 1, 12), "month"));
     // The list of days follows the month, so that a day of the old month does not outlive it.
     const int Tage = Tage_im_Monat(e.App_Monat + 1);
     e.App_Tag = std::min(e.App_Tag, Tage - 1);
-    g.Endwert(ohne_Komma(Position(e.App_Tag, 1, Tage)));
-    g.Zeile("Application rate (g/ha):", {Zahltext(e.Applikationsrate)});
-    g.Zeile("Crop interception (%):", {Zahltext(e.Interzeption)});
+    g.Endwert(mit_Teil(ohne_Komma(Position(e.App_Tag, 1, Tage)), "day"));
+    g.Zeile("Application rate (g/ha):", {mit(Zahltext(e.Applikationsrate), Grenzen_von("Applikationsrate"))});
+    g.Zeile("Crop interception (%):", {mit(Zahltext(e.Interzeption), Grenzen_von("Interzeption"))});
     // The list of intervals is full here and is cut to 365/number as soon as the number is known.
     g.Zeile("Time between applications:", {Position(e.Intervall_Index, 1, 365)});
-    g.Zeile("Number of applications per year:", {abwaehlbar(Position(e.Anzahl_Index, 2, 20))});
+    g.Zeile("Number of applications per year:", {Anzahl(e.Anzahl_Index)});
     waehle_Anzahl(e, e.Anzahl());
     gehe_durch_Tabelle(g, e.Applikationsschema);
     g.Schlusszeile();
@@ -161,8 +194,11 @@ void gehe_durch_Wirkstoffkopf(Satzgang& g, Eingabe& e) {
 void gehe_durch_Ausgabename(Satzgang& g, Eingabe& e) {
     auto& Teile = e.Parameter.Ausgabename_Teile;
     g.beginne("Output file name :");
-    for (std::size_t i = 0; i < 6; ++i) g.Zwischenwert(Ganzzahl(Teile[i], 0, Hoechstzahl_Byte));
-    g.Endwert(Ganzzahl(Teile[6], 0, Hoechstzahl_Byte));
+    constexpr std::array<std::string_view, 7> Worte = {"value 1", "value 2", "value 3", "value 4",
+                                                       "value 5", "value 6", "value 7"};
+    const auto Flagge = [&](std::size_t i) { return mit_Teil(Ganzzahl(Teile[i], 0, Hoechstzahl_Byte), Worte[i]); };
+    for (std::size_t i = 0; i < 6; ++i) g.Zwischenwert(Flagge(i));
+    g.Endwert(Flagge(6));
 }
 
 void gehe_durch_Wirkstoffdaten(Satzgang& g, Eingabe& e, Ansicht& a, int& Zaehler) {
@@ -181,9 +217,11 @@ void gehe_durch_Wirkstoffdaten(Satzgang& g, Eingabe& e, Ansicht& a, int& Zaehler
     g.Trennlinie();
     g.Ueberschrift("Metabolism scheme");
     g.Zeile("Type of calculation:", {Auswahl(e.Berechnungsmodus, zwei_in_Folge)});
-    g.Zeile("Parent:", {Text(e.Name_Wirkstoff), Zahltext(e.Molmasse_Wirkstoff)});
-    g.Zeile("Metabolite 1:", {Text(e.Name_Met_1), Zahltext(e.Molmasse_Met_1), Zahltext(e.Bildungsanteil_Met_1)});
-    g.Zeile("Metabolite 2:", {Text(e.Name_Met_2), Zahltext(e.Molmasse_Met_2), Zahltext(e.Bildungsanteil_Met_2)});
+    g.Zeile("Parent:", {mit_Teil(Text(e.Name_Wirkstoff), "name"), Masse(e.Molmasse_Wirkstoff, 0)});
+    g.Zeile("Metabolite 1:",
+            {mit_Teil(Text(e.Name_Met_1), "name"), Masse(e.Molmasse_Met_1, 1), Anteil(e.Bildungsanteil_Met_1, 1)});
+    g.Zeile("Metabolite 2:",
+            {mit_Teil(Text(e.Name_Met_2), "name"), Masse(e.Molmasse_Met_2, 2), Anteil(e.Bildungsanteil_Met_2, 2)});
     g.Schlusszeile();
 }
 

@@ -9,6 +9,7 @@
 #include <string_view>
 #include <variant>
 
+#include "base/wertebereiche.h"
 #include "run/ansicht.h"
 #include "run/eingabe.h"
 
@@ -30,12 +31,12 @@ struct Feld {
     std::variant<std::uint8_t*, int*, double*, std::string*, Zahlwert*> Platz;
     int von = 0;
     int bis = 0;
-    bool ist_Position = false;  // the place holds the zero-based position in a list whose first entry is `von`
-    bool mit_Komma = true;      // a decimal comma counts as a point
-    bool abwaehlbar = false;    // the number before `von` leaves the list without a selection
-
-    // What the number in the record is above the one in the place.
-    int Versatz() const { return ist_Position ? von : 0; }
+    int Versatz = 0;                        // what the number in the record is above the one in the place
+    bool mit_Komma = true;                  // a decimal comma counts as a point
+    std::string_view Teil = {};             // which value of its line this is, e.g. "parent"; empty for the only one
+    const Wertebereich* Grenzen = nullptr;  // what its field on the screen accepts; null without such a field
+    int i_studie = -1;                      // that it belongs to, counted from 0
+    int i_substanz = -1;
 };
 
 // The walk through a record. Throws what its kind of walk throws.

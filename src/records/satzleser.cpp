@@ -6,16 +6,11 @@
 #include "base/text.h"
 #include "base/zahlen.h"
 #include "base/zeichensatz.h"
+#include "records/einwaende.h"
+#include "run/laufeingang.h"
 
 namespace varnok {
 namespace {
-
-// A text of the file for a message, shortened where it is long.
-std::string Auszug(std::string_view Text) {
-    constexpr std::size_t Hoechstlaenge = 40;
-    const std::string_view Kern = ohne_Randblanks(Text);
-    return aus_Windows_1252(Kern.substr(0, Hoechstlaenge)) + (Kern.size() > Hoechstlaenge ? "..." : "");
-}
 
 // A day or month with two digits. What is far from being one stays short with an exponent.
 std::string zweistellig(double Zahl) {
@@ -27,6 +22,12 @@ std::string zweistellig(double Zahl) {
     return Text += Ziffern;
 }
 
+// With the single pattern there is one application, whatever the number says.
+bool wird_gelesen(const Eingabe& e, const Wertebereich& Speicher, int i_studie, int i_substanz) {
+    if (Speicher.Name == "Anzahl") return e.Applikationsmuster != einzeln;
+    return liest_ein_Lauf(e, Speicher.Name, i_studie, i_substanz);
+}
+
 }  // namespace
 
 std::string Satzleser::Zeilenname::Text() const {
@@ -35,12 +36,21 @@ std::string Satzleser::Zeilenname::Text() const {
     return '"' + std::string(ohne_Randblanks(Beschriftung)) + '"';
 }
 
+std::string Satzleser::Zeilenname::Feldname(const Feld& f) const {
+    std::string Name = Tabellenzeile > 0 ? Text() : std::string(ohne_Randblanks(Beschriftung));
+    if (!Name.empty() && Name.back() == ':') Name = ohne_Randblanks(Name.substr(0, Name.size() - 1));
+    if (!f.Teil.empty()) Name += ", " + std::string(f.Teil);
+    if (f.i_studie >= 0) Name += ", study " + std::to_string(f.i_studie + 1);
+    return Name;
+}
+
 std::string_view Satzleser::naechste_Zeile(Zeilenname Name) {
     Name_ = Name;
     Stelle_ = 0;
     const auto Zeile = Zeilen_.naechste();
     if (!Zeile) {
-        throw Lesefehler(Lesefehler::Ursache::Aufbau, Zeilen_.Nummer() + 1, 0, "the file ends before " + Name.Text());
+        throw Lesefehler(Lesefehler::Ursache::Aufbau, Zeilen_.Nummer() + 1, 0, "the file ends before " + Name.Text(),
+                         Name.Feldname({}));
     }
     return *Zeile;
 }
@@ -55,7 +65,8 @@ void Satzleser::Zwischenwert(const Feld& f) {
     const auto Tabulator = Rest_.find('\t');
     if (Tabulator == std::string_view::npos) {
         throw Lesefehler(Lesefehler::Ursache::Aufbau, Zeilen_.Nummer(), Stelle_,
-                         Name_.Text() + " has too few values (no tab behind value " + std::to_string(Stelle_ + 1) + ")");
+                         Name_.Text() + " has too few values (no tab behind value " + std::to_string(Stelle_ + 1) + ")",
+                         Name_.Feldname(f), Auszug(Rest_));
     }
     lies(f, ohne_Randblanks(Rest_.substr(0, Tabulator)));
     Rest_ = hinter_Tabulator(Rest_);
@@ -79,51 +90,71 @@ void Satzleser::lies(const Feld& f, std::string_view Text) {
         case Feldart::ganze_Zahl:
         case Feldart::Kennzahl:
             return lies_ganze_Zahl(f, Text);
-        case Feldart::Zahl:
-            *std::get<double*>(f.Platz) = lies_Zahl(f, Text);
-            return;
         case Feldart::Text:
             if (Text.find('\t') != std::string_view::npos)
                 bemerke(Zeilen_.Nummer(), Name_.Text() + " holds a tab, which cannot be saved again");
             *std::get<std::string*>(f.Platz) = aus_Windows_1252(Text);
             return;
-        case Feldart::Zahltext:
-            *std::get<Zahlwert*>(f.Platz) = allgemeine_Zahl(lies_Zahl(f, Text), Dezimalzeichen_);
-            return;
-        case Feldart::Tageszahl:
-            *std::get<Zahlwert*>(f.Platz) = Text.empty() ? "" : zweistellig(lies_Zahl(f, Text));
-            return;
-        case Feldart::Rohzahl:
-            lies_Zahl(f, Text);
-            *std::get<Zahlwert*>(f.Platz) = aus_Windows_1252(Text);
-            return;
+        default:
+            return lies_Wert(f, Text);
     }
 }
 
-double Satzleser::lies_Zahl(const Feld& f, std::string_view Text) {
-    const double Zahl = f.mit_Komma ? Wert(Text) : fuehrende_Zahl(Text);
-    if (!std::isfinite(Zahl)) melde_Wert('"' + Auszug(Text) + "\" is too large a number for " + Name_.Text());
-    if (!ist_Zahl_oder_leer(Text))
-        bemerke(Zeilen_.Nummer(), '"' + Auszug(Text) + "\" is no number and was read as 0 for " + Name_.Text());
-    return Zahl;
+void Satzleser::lies_Wert(const Feld& f, std::string_view Text) {
+    const Zahllesung l = lies_Zahl(f, Text);
+    double genommen = l.Zahl;
+    if (const auto* Platz = std::get_if<double*>(&f.Platz)) {
+        **Platz = l.Zahl;
+    } else {
+        Zahlwert& Ziel = *std::get<Zahlwert*>(f.Platz);
+        if (f.Art == Feldart::Zahltext) Ziel = Zahlwert::in_allgemeiner_Form(l.Zahl, Dezimalzeichen_);
+        if (f.Art == Feldart::Rohzahl) Ziel = aus_Windows_1252(Text);
+        if (f.Art == Feldart::Tageszahl) {
+            Ziel = Text.empty() ? "" : zweistellig(l.Zahl);
+            genommen = Ziel.Zahl();
+        }
+    }
+    bemerke_Wert(f, Text, l, genommen);
+}
+
+Zahllesung Satzleser::lies_Zahl(const Feld& f, std::string_view Text) {
+    const Zahllesung l = f.mit_Komma ? varnok::lies_Zahl(Text) : lies_fuehrende_Zahl(Text);
+    if (!std::isfinite(l.Zahl)) melde_Wert(f, Text, '"' + Auszug(Text) + "\" is too large a number for " + Name_.Text());
+    return l;
 }
 
 void Satzleser::lies_ganze_Zahl(const Feld& f, std::string_view Text) {
-    const double Zahl = lies_Zahl(f, Text);
-    const int Versatz = f.Versatz();
-    const auto Ganze = ganze_Zahl(Zahl - Versatz, f.von - Versatz, f.bis - Versatz);
-    if (f.abwaehlbar && ganze_Zahl(Zahl - Versatz, -1, -1)) *std::get<int*>(f.Platz) = -1;
-    if (!Ganze || (f.Art == Feldart::Kennzahl && *Ganze != Zahl)) melde_Wert(ausserhalb(Auszug(Text), Name_.Text(), f));
-    if (*Ganze + Versatz != Wert(Text)) {
-        bemerke(Zeilen_.Nummer(),
-                '"' + Auszug(Text) + "\" was read as " + std::to_string(*Ganze + Versatz) + " for " + Name_.Text());
-    }
+    const Zahllesung l = lies_Zahl(f, Text);
+    const auto Ganze = ganze_Zahl(l.Zahl - f.Versatz, f.von - f.Versatz, f.bis - f.Versatz);
+    if (!Ganze || (f.Art == Feldart::Kennzahl && *Ganze != l.Zahl))
+        melde_Wert(f, Text, ausserhalb(Auszug(Text), Name_.Text(), f));
+    bemerke_Wert(f, Text, l, *Ganze + f.Versatz);
     if (const auto Platz = std::get_if<std::uint8_t*>(&f.Platz)) **Platz = static_cast<std::uint8_t>(*Ganze);
     if (const auto Platz = std::get_if<int*>(&f.Platz)) **Platz = *Ganze;
 }
 
-void Satzleser::melde_Wert(const std::string& Grund) {
-    throw Lesefehler(Lesefehler::Ursache::Wert, Zeilen_.Nummer(), Stelle_, Grund);
+void Satzleser::bemerke_Wert(const Feld& f, std::string_view Text, const Zahllesung& l, double genommen) {
+    const std::string am_Text = Einwand_gegen_Zahl(l, genommen);
+    const std::string am_Wert = f.Grenzen ? Einwand_gegen_Wert(*f.Grenzen, genommen) : std::string();
+    if (am_Text.empty() && am_Wert.empty()) return;
+    const bool immer = !am_Text.empty() && !l.leer;
+    const std::string Meldung = am_Text + (am_Text.empty() || am_Wert.empty() ? "" : "; ") + am_Wert;
+    Bemerkungen_.push_back({{Datei_, Zeilen_.Nummer(), Name_.Feldname(f), Meldung, Auszug(Text), genommen},
+                            immer ? nullptr : f.Grenzen,
+                            f.i_studie,
+                            f.i_substanz});
+}
+
+std::vector<Bemerkung> Satzleser::Bemerkungen(const Eingabe& e) const {
+    std::vector<Bemerkung> Geltende;
+    for (const Vorgemerktes& v : Bemerkungen_) {
+        if (!v.Speicher || wird_gelesen(e, *v.Speicher, v.i_studie, v.i_substanz)) Geltende.push_back(v.Was);
+    }
+    return Geltende;
+}
+
+void Satzleser::melde_Wert(const Feld& f, std::string_view Text, const std::string& Grund) {
+    throw Lesefehler(Lesefehler::Ursache::Wert, Zeilen_.Nummer(), Stelle_, Grund, Name_.Feldname(f), Auszug(Text));
 }
 
 }  // namespace varnok

@@ -3,8 +3,11 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
+#include "base/bemerkung.h"
+#include "base/zahlen.h"
 #include "records/satz.h"
 #include "records/satzaufbau.h"
 #include "records/zeilen.h"
@@ -20,24 +23,34 @@ public:
         Wert,    // a value that its place cannot hold
     };
 
-    Lesefehler(Ursache u, int Zeile, int Stelle, const std::string& Grund)
-        : std::runtime_error(Grund), Ursache_(u), Zeile_(Zeile), Stelle_(Stelle) {}
+    Lesefehler(Ursache u, int Zeile, int Stelle, const std::string& Grund, std::string Feld, std::string Text = {})
+        : std::runtime_error(Grund),
+          Ursache_(u),
+          Zeile_(Zeile),
+          Stelle_(Stelle),
+          Feld_(std::move(Feld)),
+          Text_(std::move(Text)) {}
 
     bool am_Aufbau() const { return Ursache_ == Ursache::Aufbau; }
-    int Zeile() const { return Zeile_; }    // counted from 1
-    int Stelle() const { return Stelle_; }  // values of that line read before the fault
+    int Zeile() const { return Zeile_; }               // counted from 1
+    int Stelle() const { return Stelle_; }             // values of that line read before the fault
+    const std::string& Feld() const { return Feld_; }  // as the file names it
+    const std::string& Text() const { return Text_; }  // of the value at fault
 
 private:
     Ursache Ursache_;
     int Zeile_;
     int Stelle_;
+    std::string Feld_;
+    std::string Text_;
 };
 
 // The walk that reads. Takes each value off the bytes and puts it into its place. Throws Lesefehler;
 // the places passed before hold their new values then.
 class Satzleser : public Satzgang {
 public:
-    Satzleser(std::string_view Bytes, char Dezimalzeichen) : Zeilen_(Bytes), Dezimalzeichen_(Dezimalzeichen) {}
+    Satzleser(std::string_view Bytes, std::string Datei, char Dezimalzeichen)
+        : Zeilen_(Bytes), Datei_(std::move(Datei)), Dezimalzeichen_(Dezimalzeichen) {}
 
     void Ueberschrift(std::string_view Text) override;
     void beginne(std::string_view Beschriftung) override;
@@ -47,9 +60,14 @@ public:
     bool folgt_Trennlinie() override;
     void Schlusszeile() override {}
 
-    void bemerke(int Zeile, std::string Text) { Bemerkungen_.push_back({Zeile, std::move(Text)}); }
+    // About a line and what happened there; about a value that is doubtful beside the others.
+    void bemerke(int Zeile, std::string Meldung) { merke_vor({Datei_, Zeile, {}, std::move(Meldung), {}, {}}); }
+    void bemerke(int Zeile, std::string Feld, std::string Meldung, double Wert) {
+        merke_vor({Datei_, Zeile, std::move(Feld), std::move(Meldung), {}, Wert});
+    }
     int Zeilennummer() const { return Zeilen_.Nummer(); }
-    std::vector<Bemerkung>& Bemerkungen() { return Bemerkungen_; }
+    // The remarks in the order of the lines; of what no run of the input reads only those about its text.
+    std::vector<Bemerkung> Bemerkungen(const Eingabe& e) const;
 
 private:
     // How messages name a line: its label in quotation marks, the divider, or a row of the table.
@@ -57,20 +75,34 @@ private:
         std::string_view Beschriftung;
         int Tabellenzeile = 0;
         std::string Text() const;
+        // The same as a remark names a value of it.
+        std::string Feldname(const Feld& f) const;
     };
 
+    // A remark that counts only where a run reads the value: its store, null for one that counts always.
+    struct Vorgemerktes {
+        Bemerkung Was;
+        const Wertebereich* Speicher = nullptr;
+        int i_studie = -1;
+        int i_substanz = -1;
+    };
+
+    void merke_vor(Bemerkung b) { Bemerkungen_.push_back({std::move(b)}); }
     std::string_view naechste_Zeile(Zeilenname Name);
     void lies(const Feld& f, std::string_view Text);
-    double lies_Zahl(const Feld& f, std::string_view Text);
+    void lies_Wert(const Feld& f, std::string_view Text);
+    Zahllesung lies_Zahl(const Feld& f, std::string_view Text);
     void lies_ganze_Zahl(const Feld& f, std::string_view Text);
-    [[noreturn]] void melde_Wert(const std::string& Grund);
+    void bemerke_Wert(const Feld& f, std::string_view Text, const Zahllesung& l, double genommen);
+    [[noreturn]] void melde_Wert(const Feld& f, std::string_view Text, const std::string& Grund);
 
     Zeilenfolge Zeilen_;
+    std::string Datei_;
     char Dezimalzeichen_;
     Zeilenname Name_;        // of the line in work
     std::string_view Rest_;  // of the line in work
     int Stelle_ = 0;         // values of that line read so far
-    std::vector<Bemerkung> Bemerkungen_;
+    std::vector<Vorgemerktes> Bemerkungen_;
 };
 
 }  // namespace varnok

@@ -51,7 +51,7 @@ std::string Satzschreiber::als_Text(const Feld& f) const {
     int Zahl = 0;
     if (const auto Platz = std::get_if<std::uint8_t*>(&f.Platz)) Zahl = **Platz;
     if (const auto Platz = std::get_if<int*>(&f.Platz)) Zahl = **Platz;
-    Zahl += f.Versatz();
+    Zahl += f.Versatz;
     if (Zahl < f.von || Zahl > f.bis) melde(ausserhalb(std::to_string(Zahl), Name_, f));
     return std::to_string(Zahl);
 }

@@ -5,8 +5,10 @@
 #include <utility>
 
 #include "base/laufzeitfehler.h"
+#include "base/text.h"
 #include "base/zeichensatz.h"
 #include "records/dateien.h"
+#include "records/einwaende.h"
 #include "records/satztext.h"
 #include "records/zeilen.h"
 
@@ -17,9 +19,17 @@ constexpr std::array<const char*, 4> Zeilennamen = {"the description", "the name
                                                     "the name of the application pattern record",
                                                     "the name of the scenario record"};
 
+void bemerke_Rest(Zeilenfolge& Zeilen, const std::string& Datei, std::vector<Bemerkung>& Bemerkungen) {
+    while (const auto Zeile = Zeilen.naechste()) {
+        if (ohne_Randblanks(*Zeile).empty()) continue;
+        Bemerkungen.push_back({Datei, Zeilen.Nummer(), {}, "nothing reads the lines from here on", Auszug(*Zeile), {}});
+        return;
+    }
+}
+
 }  // namespace
 
-Simulationssatz lies_Simulation(const Projektordner& Ordner, const std::string& Name) {
+Simulationssatz lies_Simulation(const Projektordner& Ordner, const std::string& Name, std::vector<Bemerkung>* Bemerkungen) {
     const std::string Datei = Name + Endungen[Simulation];
     const auto Pfad = Ordner.finde(Name, Endungen[Simulation]);
     if (!Pfad) throw Laufzeitfehler("File " + Datei + " is missing in the folder \"" + Ordner.Eingabeordner() + "\"", {Datei});
@@ -36,6 +46,13 @@ Simulationssatz lies_Simulation(const Projektordner& Ordner, const std::string& 
         }
         (i == 0 ? Satz.Beschreibung : Satz.Dateinamen[i]) = aus_Windows_1252(*Zeile);
     }
+    if (!Bemerkungen) return Satz;
+    const std::string Einwand = Bytes.starts_with(UTF8_Marke)
+                                    ? "the file begins with the mark of UTF-8 and was read as Windows-1252"
+                                    : Einwand_gegen_Text(Satz.Beschreibung);
+    if (!Einwand.empty())
+        Bemerkungen->push_back({Datei, 1, "description", Einwand, Auszug(nach_Windows_1252(Satz.Beschreibung).value_or("")), {}});
+    bemerke_Rest(Zeilen, Datei, *Bemerkungen);
     return Satz;
 }
 

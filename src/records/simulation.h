@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "base/bemerkung.h"
 #include "records/projektordner.h"
 
 namespace varnok {
@@ -19,8 +20,10 @@ struct Simulationssatz {
     friend bool operator==(const Simulationssatz&, const Simulationssatz&) = default;
 };
 
-// Throws Laufzeitfehler that names the file: missing, unreadable, fewer than four lines.
-Simulationssatz lies_Simulation(const Projektordner& Ordner, const std::string& Name);
+// Throws Laufzeitfehler that names the file: missing, unreadable, fewer than four lines. Adds remarks about lines that nothing
+// reads and about a description that is no text of the records.
+Simulationssatz lies_Simulation(const Projektordner& Ordner, const std::string& Name,
+                                std::vector<Bemerkung>* Bemerkungen = nullptr);
 
 // The four lines as they stand in the file. Throws Laufzeitfehler that names a text with a character that has no place there.
 std::string Simulation_als_Bytes(const Simulationssatz& Satz);

@@ -27,6 +27,9 @@ private:
     int Nummer_ = 0;
 };
 
+// What editors put in front of a text in UTF-8.
+inline constexpr std::string_view UTF8_Marke = "\xEF\xBB\xBF";
+
 // A value reaches over 255 bytes at most.
 inline constexpr std::size_t Hoechstlaenge_Wert = 255;
 

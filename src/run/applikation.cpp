@@ -15,7 +15,8 @@ enum Spalte { Tag = 0, Monat = 1, Rate = 2, Bedeckung = 3 };
 // The same, checked. `Tabellenzeile` counts from 1, 0 outside the table.
 double gepruefte_Dosis(const Zahlwert& Rate, const Zahlwert& Interzeption, int Tabellenzeile = 0) {
     const double Dosis = Nettodosis(Rate, Interzeption);
-    if (!std::isfinite(static_cast<float>(Dosis))) {
+    const bool unter_0 = Rate.Zahl() < 0 || Interzeption.Zahl() > 100;
+    if (unter_0 || !std::isfinite(static_cast<float>(Dosis))) {
         melde_unmoegliche_Rechnung(
             "Application rate (g/ha) = " + Rate.Text() + ", Crop interception (%) = " + Interzeption.Text(),
             {.Datei = {}, .Zeile = Tabellenzeile, .Feld = "Applikationsrate"});

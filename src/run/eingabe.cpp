@@ -12,6 +12,8 @@ void waehle_Anzahl(Eingabe& e, int Anzahl) {
     e.Intervall_Index = std::min(e.Intervall_Index, laengstes_Intervall(Anzahl) - 1);
 }
 
+int kleinste_Anzahl(const Eingabe& e) { return std::min(2, e.Anzahl()); }
+
 const std::string& Stoffname(const Eingabe& e, int i_substanz) {
     return i_substanz == 0 ? e.Name_Wirkstoff : i_substanz == 1 ? e.Name_Met_1 : e.Name_Met_2;
 }

@@ -40,7 +40,7 @@ struct Eingabe {
     Zahlwert Applikationsrate = "1000";  // g/ha
     Zahlwert Interzeption = "0";         // %
     int Intervall_Index = 364;           // days less one; the list is full before a record is read
-    int Anzahl_Index = 0;                // applications a year less two, -1 without a selection
+    int Anzahl_Index = 0;                // applications a year less two; -1 only from a record
     std::vector<Applikationszeile> Applikationsschema = std::vector<Applikationszeile>(2);  // `Anzahl` rows
 
     // scenario record
@@ -57,6 +57,8 @@ struct Eingabe {
 // Sets `Anzahl` as its list does: the table gets as many rows, and `Intervall`, whose list then ends
 // at 365/`Anzahl`, keeps its position or takes the last one.
 void waehle_Anzahl(Eingabe& e, int Anzahl);
+// Where that list begins: with 2, with 1 only while the input holds that.
+int kleinste_Anzahl(const Eingabe& e);
 
 // Name of a compound as the scheme shows it, and its molar mass.
 const std::string& Stoffname(const Eingabe& e, int i_substanz);

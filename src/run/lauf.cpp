@@ -32,6 +32,7 @@ Rechnung Rechnung_fuer(const Schritt& s, const Rechenschritte& r) {
 
 void rechne_Stoffe(Lauf& l, const Rechenschritte& r) {
     pruefe_Boden(l.Felder.Parameter);
+    pruefe_Stoffe(l.Felder, l.i_studie);
     const auto Schema = static_cast<std::size_t>(l.Felder.Berechnungsmodus);
     if (Schema >= Schemata.size()) return;
     for (const Schritt& s : Schemata[Schema]) {

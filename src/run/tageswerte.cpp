@@ -88,4 +88,18 @@ void pruefe_Boden(const Laufparameter& p) {
     }
 }
 
+void pruefe_Stoffe(const Eingabe& e, int i_studie) {
+    const auto st = static_cast<std::size_t>(i_studie);
+    const Laufparameter& p = e.Parameter;
+    for (int i = 0; i < Anzahl_Stoffe(e.Berechnungsmodus); ++i) {
+        const auto c = static_cast<std::size_t>(i);
+        if (!(p.KOC[c][st] >= 0)) {
+            melde_unmoegliche_Rechnung("KOC (L/kg) = " + allgemeine_Zahl(p.KOC[c][st]), {{}, 0, "KOC", i_studie, i});
+        }
+        if (p.Kinetik[c][st] == DFOP && !(p.g_DFOP[c][st] >= 0 && p.g_DFOP[c][st] <= 1)) {
+            melde_unmoegliche_Rechnung("DFOP g = " + allgemeine_Zahl(p.g_DFOP[c][st]), {{}, 0, "g_DFOP", i_studie, i});
+        }
+    }
+}
+
 }  // namespace varnok

@@ -41,4 +41,8 @@ Korrektur bestimme_Korrektur(const Lauf& l, int i_studie, int i_substanz);
 // Throws Laufzeitfehler for a density, depth or field capacity that is not above 0.
 void pruefe_Boden(const Laufparameter& p);
 
+// The same for a KOC below 0 or a fraction g outside 0 to 1 of a compound of the scheme: concentrations below 0 would come of
+// them.
+void pruefe_Stoffe(const Eingabe& e, int i_studie);
+
 }  // namespace varnok

@@ -114,13 +114,95 @@ TEST(fuehrende_Zahl, a_comma_ends_the_number) {
     EXPECT_EQ(fuehrende_Zahl(""), 0.0);
 }
 
-TEST(ist_Zahl_oder_leer, tells_a_word_from_a_number_and_from_nothing) {
-    EXPECT_TRUE(ist_Zahl_oder_leer("0"));
-    EXPECT_TRUE(ist_Zahl_oder_leer("1,5 d"));
-    EXPECT_TRUE(ist_Zahl_oder_leer(""));
-    EXPECT_TRUE(ist_Zahl_oder_leer("  "));
-    EXPECT_FALSE(ist_Zahl_oder_leer("abc"));
-    EXPECT_FALSE(ist_Zahl_oder_leer("-"));
+TEST(lies_Zahl, takes_what_wert_takes_and_names_the_rest) {
+    struct Fall {
+        const char* Text;
+        double Zahl;
+        const char* Rest;
+    };
+    for (const auto& [Text, Zahl, Rest] :
+         {Fall{"12abc", 12, "abc"}, Fall{"7x5", 7, "x5"}, Fall{"20 °C", 20, "°C"}, Fall{"1e", 1, "e"}, Fall{"1e+", 1, "e+"},
+          Fall{"0x1F", 0, "x1F"}, Fall{"1,250.5", 1.25, ".5"}, Fall{"1.250,5", 1.25, ",5"}, Fall{"1'250", 1, "'250"},
+          Fall{"5-3", 5, "-3"}, Fall{"1e5.5", 1e5, ".5"}, Fall{"3\t", 3, "\t"}}) {
+        const Zahllesung l = lies_Zahl(Text);
+        EXPECT_EQ(l.Zahl, Zahl) << Text;
+        EXPECT_EQ(l.Zahl, Wert(Text)) << Text;
+        EXPECT_EQ(l.Rest, Rest) << Text;
+        EXPECT_FALSE(l.ganz()) << Text;
+        EXPECT_FALSE(l.ohne_Zahl) << Text;
+    }
+}
+
+TEST(lies_Zahl, one_number_from_end_to_end_is_whole) {
+    for (const char* Text : {"0", "12", " 12 ", "-3.5", "+3,5", "1E-05", "1e5", ".5", "5.", "0.0", "00012"}) {
+        const Zahllesung l = lies_Zahl(Text);
+        EXPECT_TRUE(l.ganz()) << Text;
+        EXPECT_EQ(l.Zahl, Wert(Text)) << Text;
+        EXPECT_EQ(l.Rest, "") << Text;
+    }
+    EXPECT_TRUE(lies_Zahl(std::string(400, '3')).Rest.empty());  // too large, and told so by whoever takes it
+    EXPECT_TRUE(lies_Zahl("0." + std::string(400, '3')).ganz());
+}
+
+TEST(lies_Zahl, text_without_a_digit_holds_no_number) {
+    for (const char* Text : {"abc", "-", "--5", "+-5", "inf", "nan", "-inf", "e5", ".", "\xD9\xA1\xD9\xA2",
+                             "\xC2\xA0"
+                             "5",
+                             "$5"}) {
+        const Zahllesung l = lies_Zahl(Text);
+        EXPECT_TRUE(l.ohne_Zahl) << Text;
+        EXPECT_FALSE(l.leer) << Text;
+        EXPECT_FALSE(l.ganz()) << Text;
+        EXPECT_EQ(l.Zahl, 0) << Text;
+        EXPECT_EQ(l.Rest, Text);
+    }
+    for (const char* Text : {"", " ", "   "}) {
+        EXPECT_TRUE(lies_Zahl(Text).leer);
+        EXPECT_TRUE(lies_Zahl(Text).ohne_Zahl);
+        EXPECT_FALSE(lies_Zahl(Text).ganz());
+    }
+}
+
+TEST(lies_Zahl, blanks_inside_a_number_are_skipped_and_told) {
+    for (const char* Text : {"1 250", "- 5", "1 .5", "1 e 3"}) {
+        EXPECT_TRUE(lies_Zahl(Text).mit_Luecke) << Text;
+        EXPECT_FALSE(lies_Zahl(Text).ganz()) << Text;
+    }
+    EXPECT_FALSE(lies_Zahl("5 e").mit_Luecke);
+    EXPECT_FALSE(lies_Zahl(" 5 ").mit_Luecke);
+}
+
+TEST(lies_Zahl, two_separators_may_mean_a_thousand_times_as_much) {
+    for (const char* Text : {"1.250,5", "1,250.5", "1.250.000", "1'250",
+                             "1\xE2\x80\x99"
+                             "250",
+                             "1\xC2\xA0"
+                             "250",
+                             "1\xE2\x80\xAF"
+                             "250",
+                             "1_250", "1`250",
+                             "1\xE2\x80\x89"
+                             "250",
+                             "1..5", "12.5 kg."}) {
+        EXPECT_TRUE(lies_Zahl(Text).mehrere_Trennzeichen) << Text;
+        EXPECT_FALSE(lies_Zahl(Text).ganz()) << Text;
+    }
+    for (const char* Text : {"1.250", "1,25", "1 250", "12'", "5' 3", "a'b", "12abc"}) {
+        EXPECT_FALSE(lies_Zahl(Text).mehrere_Trennzeichen) << Text;
+    }
+}
+
+TEST(lies_Zahl, number_too_small_for_a_double_is_not_the_0_that_is_left_of_it) {
+    EXPECT_TRUE(lies_Zahl("1e-400").zu_klein);
+    EXPECT_FALSE(lies_Zahl("1e-400").ganz());
+    EXPECT_TRUE(lies_Zahl("0e-400").ganz());
+    EXPECT_TRUE(lies_Zahl("0.000").ganz());
+}
+
+TEST(lies_fuehrende_Zahl, comma_is_left) {
+    EXPECT_EQ(lies_fuehrende_Zahl("19,9").Zahl, 19);
+    EXPECT_EQ(lies_fuehrende_Zahl("19,9").Rest, ",9");
+    EXPECT_TRUE(lies_fuehrende_Zahl("19.9").ganz());
 }
 
 TEST(ganze_Zahl, ties_go_to_the_even_number) {

@@ -82,17 +82,24 @@ TEST_P(Falscher_Aufruf, has_status_2_one_message_and_no_output) {
 }
 
 using A = std::vector<std::string>;
-INSTANTIATE_TEST_SUITE_P(Aufruf, Falscher_Aufruf,
-                         testing::Values(A{}, A{"--all"}, A{"--unknown", "soil"}, A{"soil", "second"}, A{"--json"},
-                                         A{"soil", "--json"}, A{"--json", "a", "--json", "b", "soil"}, A{"--study", "0", "soil"},
-                                         A{"--study", "-1", "soil"}, A{"--study", "1.5", "soil"}, A{"--study", "one", "soil"},
-                                         A{"--study", "99999999999999999999", "soil"}, A{"--study", "", "soil"},
-                                         A{"--jobs", "-1", "soil"}, A{"--jobs", "many", "soil"}, A{"--jobs", "1025", "soil"},
-                                         A{"--shard", "1", "soil"}, A{"--shard", "2/2", "soil"}, A{"--shard", "-1/2", "soil"},
-                                         A{"--shard", "0/0", "soil"}, A{"--shard", "1/2/3", "soil"}, A{"--shard", "/", "soil"},
-                                         A{"--shard", "a/b", "soil"}, A{"--json", "-", "--csv", "-", "soil"},
-                                         A{"--json", "", "soil"}, A{"--simulation", "", "soil"},
-                                         A{"--all", "--simulation", "x", "soil"}, A{""}, A{"--extended", "soil"}));
+INSTANTIATE_TEST_SUITE_P(
+    Aufruf, Falscher_Aufruf,
+    testing::Values(A{}, A{"--all"}, A{"--unknown", "soil"}, A{"soil", "second"}, A{"--json"}, A{"soil", "--json"},
+                    A{"--json", "a", "--json", "b", "soil"}, A{"--study", "0", "soil"}, A{"--study", "-1", "soil"},
+                    A{"--study", "1.5", "soil"}, A{"--study", "one", "soil"}, A{"--study", "99999999999999999999", "soil"},
+                    A{"--study", "", "soil"}, A{"--jobs", "-1", "soil"}, A{"--jobs", "many", "soil"}, A{"--jobs", "1025", "soil"},
+                    A{"--shard", "1", "soil"}, A{"--shard", "2/2", "soil"}, A{"--shard", "-1/2", "soil"},
+                    A{"--shard", "0/0", "soil"}, A{"--shard", "1/2/3", "soil"}, A{"--shard", "/", "soil"},
+                    A{"--shard", "a/b", "soil"}, A{"--json", "-", "--csv", "-", "soil"}, A{"--json", "", "soil"},
+                    A{"--simulation", "", "soil"}, A{"--all", "--simulation", "x", "soil"}, A{""}, A{"--extended", "soil"},
+                    A{"--vary", "a", "--sample", "b", "--draws", "3", "soil"}, A{"--sample", "b", "soil"},
+                    A{"--draws", "3", "soil"}, A{"--seed", "3", "soil"}, A{"--resume", "soil"},
+                    A{"--sample", "b", "--draws", "0", "soil"},
+                    A{"--sample", "b", "--draws", "1", "--seed", "4294967296", "soil"},
+                    A{"--sample", "b", "--draws", "1", "--seed", "-1", "soil"}, A{"--json-lines", "-", "--resume", "soil"},
+                    A{"--sqlite", "-", "soil"}, A{"--json-lines", "a", "--resume", "--csv", "b", "soil"}, A{"--merge", "a", "b"},
+                    A{"--check", "--summary", "a", "soil"}, A{"--records", "a", "--json", "b", "soil"},
+                    A{"--json", "c", "--csv", "d", "--merge", "a", "b"}));
 
 TEST(Aufruf, message_of_a_number_out_of_range_names_option_and_text) {
     EXPECT_THAT(rufe({"--study", "0x10", "soil"}).fehler, HasSubstr("--study: \"0x10\""));
@@ -113,8 +120,11 @@ TEST(Aufruf, help_names_every_option_and_shows_an_example) {
     const auto r = rufe({"--help"});
     EXPECT_EQ(r.Status, 0);
     EXPECT_EQ(r.fehler, "");
-    for (const char* Option : {"PROJECT", "--simulation", "--all", "--study", "--json", "--csv", "--series", "--jobs", "--shard",
-                               "--settings", "--quiet", "--version", "--help", "Example", "Exit status"}) {
+    for (const char* Option :
+         {"PROJECT",   "--simulation", "--all",     "--study",  "--json",   "--csv",         "--series", "--jobs",
+          "--shard",   "--settings",   "--quiet",   "--set",    "--vary",   "--sample",      "--draws",  "--seed",
+          "--summary", "--json-lines", "--resume",  "--sqlite", "--inputs", "--series-full", "--check",  "--records",
+          "--merge",   "--help-names", "--version", "--help",   "Example",  "Exit status"}) {
         EXPECT_THAT(r.aus, HasSubstr(Option));
     }
 }

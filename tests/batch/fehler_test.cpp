@@ -281,11 +281,74 @@ TEST_F(Fehler, remark_about_a_record_goes_to_remarks_and_standard_error_and_leav
     const Antwort r = rufe({"--simulation", "odd", "--json", "-", Projekt.Pfad()});
     EXPECT_EQ(r.Status, 0) << r.fehler;
     const JSON Dokument = r.JSON();
-    const JSON& Bemerkungen = Dokument["simulations"][0]["remarks"];
-    ASSERT_EQ(Bemerkungen.size(), 1U);
-    const std::string Text = Bemerkungen[0];
-    EXPECT_THAT(Text, testing::AllOf(testing::StartsWith("file odd.che, line 11: "), HasSubstr("\"abc\"")));
-    EXPECT_EQ(r.fehler, "varnok-batch: odd: " + Text + "\n");
+    const JSON erwartet = {
+        {"file", "input/odd.che"},        {"line", 11},    {"kind", "remark"}, {"field", "KOC (L/kg), parent, study 1"},
+        {"message", "this is no number"}, {"text", "abc"}, {"value", 0.0},
+    };
+    EXPECT_EQ(Dokument["simulations"][0]["remarks"], JSON::array({erwartet}));
+    EXPECT_EQ(r.fehler,
+              "varnok-batch: odd: input/odd.che:11: remark: KOC (L/kg), parent, study 1: this is no number (abc -> 0)\n");
+}
+
+// What a file holds, and where a remark must say so.
+struct Verdacht {
+    const char* Datei;
+    std::size_t Zeile;
+    const char* Inhalt;
+    const char* Feld;
+    const char* Meldung;
+    double Wert;
+};
+
+class Bemerkungen : public Fehler, public testing::WithParamInterface<Verdacht> {};
+
+TEST_P(Bemerkungen, doubtful_value_of_a_record_is_told_with_its_place_and_stops_nothing) {
+    const Verdacht& v = GetParam();
+    Projekt.schreibe("odd");
+    Projekt.ersetze_Zeile(v.Datei, v.Zeile, v.Inhalt);
+    const Antwort r = rufe({"--simulation", "odd", "--json", "-", "--quiet", Projekt.Pfad()});
+    EXPECT_NE(r.Status, 2) << r.fehler;
+    EXPECT_THAT(r.fehler, HasSubstr("varnok-batch: odd: input/" + std::string(v.Datei) + ":" + std::to_string(v.Zeile) +
+                                    ": remark: " + v.Feld + ": " + v.Meldung));
+    if (r.Status != 0) return;  // calculated only where the calculation takes it
+    const JSON b = r.JSON()["simulations"][0]["remarks"].at(0);
+    EXPECT_EQ(b["file"], "input/" + std::string(v.Datei));
+    EXPECT_EQ(b["line"], v.Zeile);
+    EXPECT_EQ(b["field"], v.Feld);
+    EXPECT_EQ(b["message"], v.Meldung);
+    EXPECT_EQ(b["value"], v.Wert);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    alle, Bemerkungen,
+    testing::Values(
+        Verdacht{"odd.che", 11, "KOC (L/kg):\t-3400\t0\t0", "KOC (L/kg), parent, study 1", "outside the range 0 or above", -3400},
+        Verdacht{"odd.che", 11, "KOC (L/kg):\t1.250,5\t0\t0", "KOC (L/kg), parent, study 1",
+                 "only its beginning was taken as a number", 1.25},
+        Verdacht{"odd.che", 11, "KOC (L/kg):\t1 250\t0\t0", "KOC (L/kg), parent, study 1", "there are blanks inside the number",
+                 1250},
+        Verdacht{"odd.che", 12, "Q10-factor:\t-2.58\t1\t1", "Q10-factor, parent, study 1", "outside the range above 0", -2.58},
+        Verdacht{"odd.app", 6, "Crop interception (%):\t150", "Crop interception (%)", "outside the range 0 to below 100", 150},
+        Verdacht{"odd.app", 5, "Application rate (g/ha):\t7x5", "Application rate (g/ha)",
+                 "only its beginning was taken as a number", 7},
+        Verdacht{"odd.sce", 3, "Soil density (kg/L):\t0.045", "Soil density (kg/L)", "outside the usual range 0.2 to 3", 0.045},
+        Verdacht{"odd.sce", 5, "Plateaudepth:\t3", "Plateaudepth", "below the soil depth (line 4)", 3}));
+
+TEST_F(Fehler, line_of_a_summary_file_that_nothing_reads_is_a_remark) {
+    Projekt.schreibe("odd");
+    Projekt.schreibe_Bytes("odd.vnk", "d\r\nodd\r\nodd\r\nodd\r\n\r\nleft over\r\n");
+    const Antwort r = rufe({"--simulation", "odd", "--quiet", Projekt.Pfad()});
+    EXPECT_EQ(r.Status, 0);
+    EXPECT_EQ(r.fehler, "varnok-batch: odd: input/odd.vnk:6: remark: nothing reads the lines from here on (left over)\n");
+}
+
+TEST_F(Fehler, line_of_the_settings_that_cannot_be_read_is_named) {
+    Projekt.schreibe("odd");
+    Projekt.schreibe_Bytes("../v.ini", "Tooltips:\t0\r\nAppearance:\t0\r\nEU\r\nseven\r\n");
+    const Antwort r = rufe({"--settings", Projekt.Pfad() + "/v.ini", Projekt.Pfad()});
+    EXPECT_EQ(r.Status, 2);
+    EXPECT_THAT(r.fehler,
+                HasSubstr("this is no settings file (line 4, length of an averaging window: this is no number of days)"));
 }
 
 TEST_F(Fehler, residues_that_grow_without_limit_are_a_warning) {

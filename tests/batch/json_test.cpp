@@ -36,9 +36,9 @@ TEST(Batch_JSON, keys_stand_in_the_order_of_the_contract) {
     const JSON Dokument = gerechnet({});
     EXPECT_THAT(Schluessel(Dokument), ElementsAre("program", "version", "simulations", "errors"));
     const JSON& s = Dokument["simulations"][0];
-    EXPECT_THAT(Schluessel(s),
-                ElementsAre("simulation", "description", "compound_record", "application_record", "scenario_record", "Einheit",
-                            "Separate_Rueckstaende", "TWA_Zeiten", "Klimamodus", "scheme", "studies", "remarks"));
+    EXPECT_THAT(Schluessel(s), ElementsAre("simulation", "description", "compound_record", "application_record",
+                                           "scenario_record", "Einheit", "Separate_Rueckstaende", "TWA_Zeiten", "Klimamodus",
+                                           "scheme", "studies", "remarks", "inputs_sha256"));
     const JSON& st = s["studies"][0];
     EXPECT_THAT(Schluessel(st),
                 ElementsAre("study", "name", "Anzahl_pro_Jahr", "Wirksame_Rate", "Applikationstag", "compounds", "warnings"));

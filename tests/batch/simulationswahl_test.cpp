@@ -63,13 +63,18 @@ TEST_F(Auswahl, case_does_not_matter_for_letters_beyond_ascii_either) {
 }
 
 TEST_F(Auswahl, shards_take_every_nth_and_together_all) {
-    EXPECT_THAT(gewaehlt({"--all", "--shard", "0/2", Projekt.Pfad()}), ElementsAre("Alpha", "gamma"));
-    EXPECT_THAT(gewaehlt({"--all", "--shard", "1/2", Projekt.Pfad()}), ElementsAre("beta"));
-    EXPECT_THAT(gewaehlt({"--all", "--shard", "0/1", Projekt.Pfad()}), ElementsAre("Alpha", "beta", "gamma"));
-}
-
-TEST_F(Auswahl, shard_without_a_simulation_is_no_fault) {
-    EXPECT_THAT(gewaehlt({"--all", "--shard", "7/9", Projekt.Pfad()}), IsEmpty());
+    const auto Teil = [&](const char* Wunsch) {
+        std::vector<std::string> Namen;
+        const auto r = rufe({"--all", "--shard", Wunsch, "--json", "-", Projekt.Pfad()});
+        EXPECT_EQ(r.Status, 0);
+        const auto Dokument = r.JSON();
+        for (const auto& s : Dokument["simulations"]) Namen.push_back(s["simulation"]);
+        return Namen;
+    };
+    EXPECT_THAT(Teil("0/2"), ElementsAre("Alpha", "gamma"));
+    EXPECT_THAT(Teil("1/2"), ElementsAre("beta"));
+    EXPECT_THAT(Teil("0/1"), ElementsAre("Alpha", "beta", "gamma"));
+    EXPECT_THAT(Teil("7/9"), IsEmpty());
 }
 
 TEST_F(Auswahl, unknown_simulation_is_a_wrong_call_that_calculates_nothing) {

@@ -1,6 +1,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "satzprobe.h"
 
 namespace varnok {
@@ -23,7 +25,7 @@ TEST(Applikation_lesen, each_line_goes_to_its_place) {
     erwartet.Felder.Interzeption = "25";
     erwartet.Felder.Intervall_Index = 13;
     erwartet.Felder.Anzahl_Index = 1;
-    erwartet.Felder.Applikationsschema = {{"01", "04", "100", "0"}, {"15", "04", "200.5", "12.5"}, {"30", "11", "", "50"}};
+    erwartet.Felder.Applikationsschema = {{"01", "04", "100", "0"}, {"15", "04", "200.5", "12.5"}, {"30", "11", "75", "50"}};
     EXPECT_EQ(p, erwartet);
 }
 
@@ -82,14 +84,27 @@ TEST(Applikation_lesen, day_and_month_of_the_table_have_two_digits_and_blanks_st
     EXPECT_EQ(p.Felder.Applikationsschema[0], (Applikationszeile{"07", "03", "", "0"}));
     EXPECT_EQ(p.Felder.Applikationsschema[1], (Applikationszeile{"", "", "", "0"}));
     EXPECT_EQ(p.Felder.Applikationsschema[2], (Applikationszeile{"-01", "1E+300", "x", "0"}));
-    ASSERT_EQ(b.Bemerkungen.size(), 2u);
-    EXPECT_EQ(b.Bemerkungen[0].Zeile, 12);
-    EXPECT_EQ(b.Bemerkungen[0].Text, "\"x\" is no number and was read as 0 for row 3 of the application table");
+    const auto steht = [&](int Zeile, const std::string& Spalte, const std::string& Meldung) {
+        return std::any_of(b.Bemerkungen.begin(), b.Bemerkungen.end(), [&](const Bemerkung& x) {
+            return x.Zeile == Zeile && x.Meldung == Meldung &&
+                   x.Feld == "row " + std::to_string(Zeile - 9) + " of the application table, " + Spalte;
+        });
+    };
+    EXPECT_TRUE(steht(10, "rate", "there is no value"));
+    EXPECT_TRUE(steht(11, "day", "there is no value; outside the range 1 to 31"));
+    EXPECT_TRUE(steht(12, "day", "outside the range 1 to 31"));
+    EXPECT_TRUE(steht(12, "month", "outside the range 1 to 12"));
+    EXPECT_TRUE(steht(12, "rate", "this is no number"));
+    EXPECT_TRUE(steht(12, "interception", "this is no number"));
 }
 
 TEST(Applikation_lesen, text_as_a_day_of_the_table_reads_as_00) {
     Satzprobe p;
-    EXPECT_EQ(lies(mit_Zeile(Satz, 10, "May\t1\t2\t3"), Applikation, p).Bemerkungen.size(), 1u);
+    const Lesebefund b = lies(mit_Zeile(Satz, 10, "May\t1\t2\t3"), Applikation, p);
+    ASSERT_EQ(b.Bemerkungen.size(), 1u);
+    EXPECT_EQ(b.Bemerkungen[0].Meldung, "this is no number; outside the range 1 to 31");
+    EXPECT_EQ(b.Bemerkungen[0].Text, "May");
+    EXPECT_EQ(b.Bemerkungen[0].Wert, 0);
     EXPECT_EQ(p.Felder.Applikationsschema[0][0].Text(), "00");
 }
 
@@ -173,32 +188,40 @@ INSTANTIATE_TEST_SUITE_P(
         Abbruch{5, "Application rate (g/ha):\t1E400", "\"1E400\" is too large a number"},
         Abbruch{6, "Crop interception (%):\t-1E400", "too large"}, Abbruch{7, "Time between applications:\t0", "(1 to 365)"},
         Abbruch{7, "Time between applications:\t366", "(1 to 365)"},
-        Abbruch{8, "Number of applications per year:\t0", "(2 to 20)"},
-        Abbruch{8, "Number of applications per year:\t1",
-                "\"1\" is not valid for \"Number of applications per year:\" (2 to 20)"},
-        Abbruch{8, "Number of applications per year:\t21", "(2 to 20)"},
-        Abbruch{8, "Number of applications per year:\t1E9", "(2 to 20)"}));
+        Abbruch{8, "Number of applications per year:\t0", "(1 to 20)"},
+        Abbruch{8, "Number of applications per year:\t21", "(1 to 20)"},
+        Abbruch{8, "Number of applications per year:\t1E9", "(1 to 20)"}));
 
 // The record "Satz" with another pattern: 0 single, 1 regular, 2 irregular.
 std::string mit_Muster(int Muster) { return mit_Zeile(Satz, 2, "Application type:\t" + std::to_string(Muster)); }
 
-TEST(Applikation_lesen, one_application_of_a_single_pattern_leaves_the_list_without_a_selection) {
-    Satzprobe p;
-    const Lesebefund b = lies(mit_Zeile(mit_Muster(einzeln), 8, "Number of applications per year:\t1"), Applikation, p);
-    EXPECT_EQ(b.Ausgang, Leseausgang::gelesen);
-    EXPECT_EQ(p.Felder.Anzahl_Index, -1);
-    EXPECT_EQ(p.Felder.Applikationsschema, std::vector<Applikationszeile>(1));
+TEST(Applikation_lesen, one_application_is_kept_and_is_doubtful_where_a_run_reads_the_number) {
+    for (const int Muster : {einzeln, regelmaessig, unregelmaessig}) {
+        Satzprobe p;
+        const std::string eine = mit_Zeile(mit_Muster(Muster), 8, "Number of applications per year:\t1");
+        const Lesebefund b = lies(eine, Applikation, p);
+        EXPECT_EQ(b.Ausgang, Leseausgang::gelesen) << b.Grund;
+        EXPECT_EQ(p.Felder.Anzahl(), 1);
+        EXPECT_EQ(p.Felder.Applikationsschema.size(), 1u);
+        EXPECT_EQ(zerlegt(Bytes(Applikation, p))[7], "Number of applications per year:\t1");
+        ASSERT_EQ(b.Bemerkungen.size(), Muster == einzeln ? 0u : 1u);
+        if (Muster == einzeln) continue;
+        EXPECT_EQ(b.Bemerkungen[0].Zeile, 8);
+        EXPECT_EQ(b.Bemerkungen[0].Meldung, "outside the range 2 to 20");
+    }
 }
 
 TEST(Applikation_lesen, no_number_outside_the_list_enters_where_a_run_needs_it) {
     for (const int Muster : {regelmaessig, unregelmaessig}) {
-        for (const char* Text : {"0", "1", "21"}) {
+        for (const char* Text : {"0", "0.4", "-1", "21"}) {
             Satzprobe p = volle_Probe(4);
             const Satzprobe vorher = p;
             const std::string Zeile = std::string("Number of applications per year:\t") + Text;
             const Lesebefund b = lies(mit_Zeile(mit_Muster(Muster), 8, Zeile), Applikation, p);
             EXPECT_EQ(b.Ausgang, Leseausgang::abgebrochen) << Text;
             EXPECT_EQ(b.Zeile, 8);
+            EXPECT_EQ(b.Feld, "Number of applications per year");
+            EXPECT_EQ(b.Text, Text);
             EXPECT_EQ(p, vorher);
         }
     }
@@ -240,7 +263,7 @@ TEST(Applikation_lesen, table_that_no_run_reads_may_be_short_and_never_holds_row
             EXPECT_EQ(b.Ausgang, Leseausgang::gelesen) << Zeile;
             ASSERT_EQ(b.Bemerkungen.size(), 1u);
             EXPECT_EQ(b.Bemerkungen[0].Zeile, static_cast<int>(Zeile));
-            EXPECT_THAT(b.Bemerkungen[0].Text, HasSubstr("the file ends before"));
+            EXPECT_THAT(b.Bemerkungen[0].Meldung, HasSubstr("the file ends before"));
             EXPECT_EQ(p.Felder.Applikationsmuster, Muster);
             ASSERT_EQ(p.Felder.Applikationsschema.size(), 3u);
             EXPECT_EQ(p.Felder.Applikationsschema[2], Applikationszeile{});

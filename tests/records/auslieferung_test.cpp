@@ -25,7 +25,7 @@ void pruefe_Saetze(const std::string& Endung, Satzart Art) {
         Satzprobe p;
         const Lesebefund b = lies(Satz, Art, p);
         EXPECT_EQ(b.Ausgang, Leseausgang::gelesen) << b.Grund;
-        EXPECT_TRUE(b.Bemerkungen.empty()) << b.Bemerkungen.front().Text;
+        EXPECT_TRUE(b.Bemerkungen.empty()) << als_Zeile(b.Bemerkungen.front());
         EXPECT_EQ(Bytes(Art, p), Satz);
     }
 }

@@ -113,6 +113,21 @@ TEST(Einstellungen, switches_are_read_behind_the_tab_as_whole_numbers) {
     }
 }
 
+TEST(Einstellungen, doubtful_number_is_a_remark_and_a_fault_is_the_last_one) {
+    const auto Bemerkungen = [](std::size_t Zeile, const char* Text) {
+        std::vector<Bemerkung> b;
+        zerlege_Einstellungen(mit_Zeile(Einstellungen_als_Bytes({}), Zeile, Text), "v.ini", &b);
+        return b.empty() ? std::string() : als_Zeile(b.back());
+    };
+    EXPECT_EQ(Bemerkungen(4, " 7 "), "");
+    EXPECT_EQ(Bemerkungen(4, "7x"),
+              "v.ini:4: remark: length of an averaging window: only its beginning was taken as a number (7x -> 7)");
+    EXPECT_EQ(Bemerkungen(4, "0"), "v.ini:4: remark: length of an averaging window: outside the range above 0 (0 -> 0)");
+    EXPECT_EQ(Bemerkungen(1, "Tooltips:\t1.4"), "v.ini:1: remark: tooltips: this is not a whole number (1.4 -> 1)");
+    EXPECT_EQ(Bemerkungen(2, "x\t256"), "v.ini:2: remark: appearance: this is no code from 0 to 255 (256)");
+    EXPECT_EQ(Bemerkungen(26, "abc"), "v.ini:26: remark: length of an averaging window: this is no number of days (abc)");
+}
+
 TEST(Einstellungen, garbage_is_no_settings_file) {
     std::string binaer;
     for (int i = 0; i < 70000; ++i) binaer += static_cast<char>((i * 7919) >> 3);

@@ -151,6 +151,84 @@ TEST(Klimadatei, leap_year_file_shifts_with_every_year) {
     EXPECT_EQ(w.Tag(367).Tagestemperatur, 1);
 }
 
+std::vector<std::string> Bemerkungen_zu(const std::string& Bytes) {
+    std::vector<Bemerkung> Gefundene;
+    zerlege_Klimadatei(Bytes, "site.cli", &Gefundene);
+    std::vector<std::string> Zeilen;
+    for (const Bemerkung& b : Gefundene) Zeilen.push_back(als_Zeile(b));
+    return Zeilen;
+}
+
+// A year of weather that there is.
+std::string Wetterjahr(int Tage = 365) {
+    std::string Datei = "header\r\n";
+    for (int i = 1; i <= Tage; ++i) Datei += Tageszeile("1.5", "0.5", "12");
+    return Datei;
+}
+
+TEST(Klimabemerkungen, a_year_of_weather_has_none) { EXPECT_TRUE(Bemerkungen_zu(Wetterjahr()).empty()); }
+
+TEST(Klimabemerkungen, number_of_days_is_told) {
+    EXPECT_EQ(Bemerkungen_zu(Wetterjahr(366)),
+              std::vector<std::string>{"site.cli:1: remark: there are 366 days behind the header line, not 365"});
+    EXPECT_EQ(Bemerkungen_zu(Wetterjahr(200)),
+              std::vector<std::string>{"site.cli:1: remark: there are 200 days behind the header line, not 365"});
+    EXPECT_EQ(Bemerkungen_zu(Wetterjahr(9000)),
+              std::vector<std::string>{"site.cli:1: remark: there are at least 4015 days behind the header line, not 365"});
+    // Without a header line the first day is taken for it.
+    EXPECT_EQ(Bemerkungen_zu(Wetterjahr().substr(8)),
+              std::vector<std::string>{"site.cli:1: remark: there are 364 days behind the header line, not 365"});
+}
+
+TEST(Klimabemerkungen, cell_that_is_no_weather_is_told_with_line_and_column) {
+    struct Fall {
+        std::string Zeile;
+        const char* Bemerkung;
+    };
+    for (const auto& [Zeile, Bemerkung] :
+         {Fall{Tageszeile("-999", "0", "1"),
+               "site.cli:3: remark: rain, columns 8 to 17: outside the range 0 to 500 (-999 -> -999)"},
+          Fall{Tageszeile("501", "0", "1"), "site.cli:3: remark: rain, columns 8 to 17: outside the range 0 to 500 (501 -> 501)"},
+          Fall{Tageszeile("0", "50.1", "1"),
+               "site.cli:3: remark: evapotranspiration, columns 18 to 27: outside the range 0 to 50 (50.1 -> 50.1)"},
+          Fall{Tageszeile("0", "0", "200"),
+               "site.cli:3: remark: temperature, columns 38 to 47: outside the range -60 to 60 (200 -> 200)"},
+          Fall{Tageszeile("0", "0", "warm"), "site.cli:3: remark: temperature, columns 38 to 47: this is no number (warm -> 0)"},
+          Fall{Tageszeile("0", "0", ""), "site.cli:3: remark: temperature, columns 38 to 47: there is no value ( -> 0)"},
+          Fall{Tageszeile("0", "0", "1 2"),
+               "site.cli:3: remark: temperature, columns 38 to 47: there are blanks inside the number (1 2 -> 12)"}}) {
+        const std::string Datei = "header\r\n" + Tageszeile("1", "1", "1") + Zeile + Wetterjahr(363).substr(8);
+        EXPECT_EQ(Bemerkungen_zu(Datei), std::vector<std::string>{Bemerkung});
+    }
+}
+
+TEST(Klimabemerkungen, ends_of_the_ranges_are_weather) {
+    const std::string Datei = "h\r\n" + Tageszeile("0", "0", "-60") + Tageszeile("500", "50", "60") + Wetterjahr(363).substr(8);
+    EXPECT_TRUE(Bemerkungen_zu(Datei).empty());
+}
+
+TEST(Klimabemerkungen, what_is_wrong_all_down_a_file_is_told_a_few_times_and_counted) {
+    std::string Tabelle = "date,rain,evapotranspiration,temperature\n";
+    for (int i = 0; i < 365; ++i) Tabelle += "2020-01-01,1.5,0.5,12.5\n";  // another kind of file under this name
+    const auto Zeilen = Bemerkungen_zu(Tabelle);
+    ASSERT_EQ(Zeilen.size(), 12u);  // three columns, each three times and once for the rest
+    EXPECT_EQ(Zeilen[0],
+              "site.cli:2: remark: rain, columns 8 to 17: only its beginning was taken as a number (-01,1.5,0. -> -1.1)");
+    EXPECT_EQ(Zeilen[2], "site.cli:2: remark: temperature, columns 38 to 47: there is no value ( -> 0)");
+    EXPECT_EQ(Zeilen.back(),
+              "site.cli:366: remark: temperature, columns 38 to 47: there is no value, in 362 more lines down to this one");
+}
+
+TEST(Klimabemerkungen, mark_of_utf8_in_the_header_says_nothing) {
+    EXPECT_TRUE(Bemerkungen_zu("\xEF\xBB\xBF" + Wetterjahr()).empty());
+}
+
+TEST(Klimabemerkungen, columns_shifted_by_one_show) {
+    std::string Datei = "header\r\n";
+    for (int i = 1; i <= 365; ++i) Datei += " " + Tageszeile("1.5", "0.5", "12");
+    EXPECT_FALSE(Bemerkungen_zu(Datei).empty());
+}
+
 TEST(Projektklima, file_is_loaded_without_regard_to_case) {
     const Probeordner o;
     o.lege_an("Site.CLI", Jahr());

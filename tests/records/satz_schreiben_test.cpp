@@ -224,8 +224,8 @@ TEST(Satz_schreiben, refuses_a_number_of_studies_that_no_record_has) {
 
 TEST(Satz_schreiben, refuses_a_value_outside_its_list) {
     Satzprobe p = volle_Probe();
-    p.Felder.Anzahl_Index = -1;
-    EXPECT_THAT(Einwand(Applikation, p), HasSubstr("\"1\" is not valid for \"Number of applications per year:\" (2 to 20)"));
+    p.Felder.Anzahl_Index = -2;
+    EXPECT_THAT(Einwand(Applikation, p), HasSubstr("\"0\" is not valid for \"Number of applications per year:\" (1 to 20)"));
     p = volle_Probe();
     p.Felder.Parameter.Kinetik[1][0] = FOMC;
     EXPECT_THAT(Einwand(Wirkstoff, p), HasSubstr("\"2\" is not valid for \"Kinetics:\" (0 to 1)"));
@@ -249,7 +249,7 @@ TEST_P(Satz_Rundgang, written_record_reads_back_and_writes_the_same_bytes) {
         Satzprobe p;
         const Lesebefund b = lies(Satz, Art, p, Dezimalzeichen);
         EXPECT_EQ(b.Ausgang, Leseausgang::gelesen);
-        EXPECT_TRUE(b.Bemerkungen.empty()) << b.Bemerkungen.front().Text;
+        EXPECT_TRUE(b.Bemerkungen.empty()) << als_Zeile(b.Bemerkungen.front());
         EXPECT_EQ(Bytes(Art, p, Dezimalzeichen), Satz);
     }
 }

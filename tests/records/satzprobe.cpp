@@ -116,7 +116,7 @@ Satzprobe volle_Probe(int Studien, char Dezimalzeichen) {
     e.Interzeption = "25";
     e.Intervall_Index = 13;
     e.Anzahl_Index = 1;
-    e.Applikationsschema = {{"01", "04", "100", "0"}, {"15", "04", "200.5", "12.5"}, {"30", "11", "", "50"}};
+    e.Applikationsschema = {{"01", "04", "100", "0"}, {"15", "04", "200.5", "12.5"}, {"30", "11", "75", "50"}};
     e.Bodenszenario = "Sandy loam, \"dry\"";
     e.Klimaszenario = "Temperate site";
     for (Zahlwert* Feld : {&e.Molmasse_Wirkstoff, &e.Molmasse_Met_2, &e.Bildungsanteil_Met_1, &e.Bildungsanteil_Met_2,

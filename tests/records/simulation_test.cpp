@@ -165,5 +165,23 @@ TEST_F(Simulation_neueste, stamp_before_1970_counts_as_any_other) {
     EXPECT_EQ(neueste_Simulation(o.Ordner()), "a");
 }
 
+TEST(lies_Simulation, text_that_no_record_holds_and_lines_behind_the_last_are_remarks) {
+    const Probeordner o;
+    const auto Bemerkungen = [&](const std::string& Bytes) {
+        o.lege_an("x.vnk", Bytes);
+        std::vector<Bemerkung> b;
+        lies_Simulation(o.Ordner(), "x", &b);
+        return b.empty() ? std::string() : als_Zeile(b.front());
+    };
+    EXPECT_EQ(Bemerkungen("d\r\nA\r\nB\r\nC\r\n"), "");
+    EXPECT_EQ(Bemerkungen("d\r\nA\r\nB\r\nC\r\n\r\n  \r\n"), "");
+    EXPECT_EQ(Bemerkungen("d\r\nA\r\nB\r\nC\r\nD\r\nE\r\n"), "x.vnk:5: remark: nothing reads the lines from here on (D)");
+    EXPECT_THAT(Bemerkungen("a\tb\r\nA\r\nB\r\nC\r\n"),
+                testing::StartsWith("x.vnk:1: remark: description: it holds a control character"));
+    EXPECT_THAT(Bemerkungen("\xEF\xBB\xBF"
+                            "d\r\nA\r\nB\r\nC\r\n"),
+                testing::StartsWith("x.vnk:1: remark: description: the file begins with the mark of UTF-8"));
+}
+
 }  // namespace
 }  // namespace varnok

@@ -96,7 +96,8 @@ TEST(Szenario_lesen, climate_lines_know_no_decimal_comma) {
     const Lesebefund b = lies(mit_Zeile(Satz, 11, "Scenario Temperature:\t19,9"), Szenario, p);
     EXPECT_EQ(p.Felder.Parameter.Szenariotemperatur, 19);
     ASSERT_EQ(b.Bemerkungen.size(), 1u);
-    EXPECT_THAT(b.Bemerkungen[0].Text, HasSubstr("\"19,9\" was read as 19"));
+    EXPECT_EQ(als_Zeile(b.Bemerkungen[0]),
+              "probe.sce:11: remark: Scenario Temperature: only its beginning was taken as a number (19,9 -> 19)");
 }
 
 TEST(Szenario_lesen, value_outside_its_place_that_a_run_needs_changes_nothing) {
@@ -154,7 +155,7 @@ TEST(Szenario_lesen, file_that_ends_before_its_climate_lines_means_constant_20_d
             EXPECT_EQ(Klimatext(p.Felder), "20 °C constant");
             ASSERT_EQ(b.Bemerkungen.size(), 1u);
             EXPECT_EQ(b.Bemerkungen[0].Zeile, static_cast<int>(Zeile));
-            EXPECT_THAT(b.Bemerkungen[0].Text, HasSubstr("20 °C constant"));
+            EXPECT_THAT(b.Bemerkungen[0].Meldung, HasSubstr("20 °C constant"));
         }
     }
 }
@@ -183,15 +184,19 @@ TEST(Szenario_lesen, text_without_a_number_is_0_and_noted_with_its_line) {
     const Lesebefund b = lies(mit_Zeile(Satz, 7, "Field capacity (Vol%):\tmuch"), Szenario, p);
     EXPECT_EQ(b.Ausgang, Leseausgang::gelesen);
     EXPECT_EQ(p.Felder.Parameter.Feldkapazitaet, 0);
-    ASSERT_EQ(b.Bemerkungen.size(), 1u);
-    EXPECT_EQ(b.Bemerkungen[0].Zeile, 7);
-    EXPECT_EQ(b.Bemerkungen[0].Text, "\"much\" is no number and was read as 0 for \"Field capacity (Vol%):\"");
+    ASSERT_EQ(b.Bemerkungen.size(), 2u);
+    EXPECT_EQ(als_Zeile(b.Bemerkungen[0]),
+              "probe.sce:7: remark: Field capacity (Vol%): this is no number; outside the range above 0 to 100 (much -> 0)");
+    EXPECT_EQ(als_Zeile(b.Bemerkungen[1]),
+              "probe.sce:8: remark: Wilting point (Vol%): above the field capacity (line 7) ( -> 10.1)");
 }
 
-TEST(Szenario_lesen, blank_value_is_0_without_a_note) {
+TEST(Szenario_lesen, blank_value_is_0_and_noted) {
     Satzprobe p = volle_Probe();
-    EXPECT_TRUE(lies(mit_Zeile(Satz, 7, "Field capacity (Vol%):\t  "), Szenario, p).Bemerkungen.empty());
-    EXPECT_EQ(p.Felder.Parameter.Feldkapazitaet, 0);
+    const Lesebefund b = lies(mit_Zeile(Satz, 6, "Organic carbon content:\t  "), Szenario, p);
+    EXPECT_EQ(p.Felder.Parameter.Kohlenstoffgehalt, 0);
+    ASSERT_EQ(b.Bemerkungen.size(), 1u);
+    EXPECT_EQ(b.Bemerkungen[0].Meldung, "there is no value");
 }
 
 TEST(Szenario_lesen, line_without_its_tab_reads_the_label_and_so_0) {
@@ -199,13 +204,55 @@ TEST(Szenario_lesen, line_without_its_tab_reads_the_label_and_so_0) {
     const Lesebefund b = lies(mit_Zeile(Satz, 4, "Soil depth (cm): 5"), Szenario, p);
     EXPECT_EQ(b.Ausgang, Leseausgang::gelesen);
     EXPECT_EQ(p.Felder.Parameter.Bodentiefe, 0);
-    EXPECT_EQ(b.Bemerkungen.size(), 1u);
+    ASSERT_EQ(b.Bemerkungen.size(), 1u);
+    EXPECT_EQ(b.Bemerkungen[0].Text, "Soil depth (cm): 5");
 }
 
-TEST(Szenario_lesen, number_with_its_unit_behind_gives_the_number) {
+TEST(Szenario_lesen, number_with_its_unit_behind_gives_the_number_and_a_note) {
     Satzprobe p;
-    EXPECT_TRUE(lies(mit_Zeile(Satz, 4, "Soil depth (cm):\t 7.5 cm"), Szenario, p).Bemerkungen.empty());
+    const Lesebefund b = lies(mit_Zeile(Satz, 4, "Soil depth (cm):\t 7.5 cm"), Szenario, p);
     EXPECT_EQ(p.Felder.Parameter.Bodentiefe, 7.5);
+    ASSERT_EQ(b.Bemerkungen.size(), 1u);
+    EXPECT_EQ(als_Zeile(b.Bemerkungen[0]),
+              "probe.sce:4: remark: Soil depth (cm): only its beginning was taken as a number (7.5 cm -> 7.5)");
+}
+
+TEST(Szenario_lesen, value_outside_its_range_is_noted_and_taken) {
+    struct Fall {
+        std::size_t Zeile;
+        const char* Text;
+        const char* Meldung;
+    };
+    for (const auto& [Zeile, Text, Meldung] : {Fall{3, "Soil density (kg/L):\t0.045", "outside the usual range 0.2 to 3"},
+                                               Fall{3, "Soil density (kg/L):\t-1", "outside the range above 0"},
+                                               Fall{5, "Plateaudepth:\t600", "outside the range 0.1 to 500"},
+                                               Fall{5, "Plateaudepth:\t4", "below the soil depth (line 4)"},
+                                               Fall{6, "Organic carbon content:\t-1", "outside the range 0 to 100"},
+                                               Fall{8, "Wilting point (Vol%):\t40", "above the field capacity (line 7)"}}) {
+        Satzprobe p;
+        const Lesebefund b = lies(mit_Zeile(Satz, Zeile, Text), Szenario, p);
+        EXPECT_EQ(b.Ausgang, Leseausgang::gelesen);
+        ASSERT_EQ(b.Bemerkungen.size(), 1u) << Text;
+        EXPECT_EQ(b.Bemerkungen[0].Zeile, static_cast<int>(Zeile));
+        EXPECT_EQ(b.Bemerkungen[0].Meldung, Meldung);
+    }
+}
+
+TEST(Szenario_lesen, temperature_is_noted_only_where_no_climate_file_takes_its_place) {
+    Satzprobe p;
+    const std::string heiss = mit_Zeile(Satz, 11, "Scenario Temperature:\t200");
+    EXPECT_TRUE(lies(heiss, Szenario, p).Bemerkungen.empty());
+    const Lesebefund b = lies(mit_Zeile(heiss, 10, "Climate mode:\t0"), Szenario, p);
+    ASSERT_EQ(b.Bemerkungen.size(), 1u);
+    EXPECT_EQ(b.Bemerkungen[0].Meldung, "outside the range 0 to 40");
+}
+
+TEST(Szenario_lesen, mark_of_utf8_is_noted) {
+    Satzprobe p;
+    const Lesebefund b = lies("\xEF\xBB\xBF" + Satz, Szenario, p);
+    EXPECT_EQ(b.Ausgang, Leseausgang::gelesen);
+    ASSERT_EQ(b.Bemerkungen.size(), 1u);
+    EXPECT_EQ(b.Bemerkungen[0].Zeile, 1);
 }
 
 TEST(Szenario_lesen, labels_are_never_compared) {

@@ -189,7 +189,8 @@ TEST(Wirkstoff_Flaggen, six_values_with_a_tab_behind_the_last_are_seven) {
     Satzprobe p;
     const Lesebefund b = lies(mit_Zeile(Satz, Flaggen, "Output file name :\t1\t2\t3\t4\t5\t6\t"), Wirkstoff, p);
     EXPECT_EQ(p.Felder.Parameter.Ausgabename_Teile, (F{1, 2, 3, 4, 5, 6, 0}));
-    EXPECT_TRUE(b.Bemerkungen.empty());
+    ASSERT_EQ(b.Bemerkungen.size(), 1u);
+    EXPECT_EQ(als_Zeile(b.Bemerkungen[0]), "probe.che:3: remark: Output file name, value 7: there is no value ( -> 0)");
 }
 
 TEST(Wirkstoff_Flaggen, error_after_the_repair_rejects_the_record) {
@@ -332,6 +333,52 @@ TEST(Wirkstoff_lesen, crop_rotation_and_pattern_are_left_alone) {
     lies(Satz, Wirkstoff, p);
     EXPECT_EQ(p.Sicht.Fruchtwechsel, 1);
     EXPECT_EQ(p.Felder.Applikationsrate.Text(), "5");
+}
+
+TEST(Wirkstoff_lesen, value_outside_its_range_is_noted_where_the_scheme_and_the_kinetics_read_it) {
+    struct Fall {
+        int Zeile;
+        const char* Text;
+        const char* Bemerkung;  // empty: nothing reads it
+    };
+    // The parent of the first study is FOMC, the first metabolite SFO, the second DFOP.
+    for (const auto& [Zeile, Text, Bemerkung] :
+         {Fall{1, "KOC (L/kg):\t-3400\t1\t1", "KOC (L/kg), parent, study 1: outside the range 0 or above (-3400 -> -3400)"},
+          Fall{1, "KOC (L/kg):\t1\t1\t-1", "KOC (L/kg), metabolite 2, study 1: outside the range 0 or above (-1 -> -1)"},
+          Fall{2, "Q10-factor:\t2\t-2.58\t2", "Q10-factor, metabolite 1, study 1: outside the range above 0 (-2.58 -> -2.58)"},
+          Fall{4, "Reference Temperature (°C):\t-5\t20\t20",
+               "Reference Temperature (°C), parent, study 1: outside the range 0 or above (-5 -> -5)"},
+          Fall{6, "SFO k (1/d):\t-0.1\t1\t1", "SFO k (1/d), parent, study 1: outside the range 0 or above (-0.1 -> -0.1)"},
+          Fall{6, "SFO k (1/d):\t1\t1\t-1", ""},  // of a compound under DFOP
+          Fall{7, "FOMC alpha:\t-1", "FOMC alpha, study 1: outside the range 0 or above (-1 -> -1)"},
+          Fall{8, "FOMC beta:\t0", "FOMC beta, study 1: outside the range above 0 (0 -> 0)"},
+          Fall{11, "DFOP  g:\t9\t9\t1.5", "DFOP  g, metabolite 2, study 1: outside the range 0 to 1 (1.5 -> 1.5)"},
+          Fall{12, "HS   k1 (1/d):\t-1", ""},
+          Fall{12, "HS   k1 (1/d):\t-1x",
+               "HS   k1 (1/d), study 1: only its beginning was taken as "
+               "a number; outside the range 0 or above (-1x -> -1)"}}) {
+        Satzprobe p;
+        const Lesebefund b = lies(mit_Zeile(Satz, static_cast<std::size_t>(erste_Studie + Zeile), Text), Wirkstoff, p);
+        EXPECT_EQ(b.Ausgang, Leseausgang::gelesen);
+        ASSERT_EQ(b.Bemerkungen.size(), *Bemerkung ? 1u : 0u) << Text;
+        if (!*Bemerkung) continue;
+        EXPECT_EQ(als_Zeile(b.Bemerkungen[0]),
+                  "probe.che:" + std::to_string(static_cast<int>(erste_Studie) + Zeile) + ": remark: " + Bemerkung);
+    }
+}
+
+TEST(Wirkstoff_lesen, masses_and_fractions_are_noted_where_there_are_metabolites) {
+    const std::size_t Metabolit = zerlegt(Satz).size() - 2;
+    const std::string leer = mit_Zeile(Satz, Metabolit, "Metabolite 1:\tM\t0\t150");
+    Satzprobe p;
+    const Lesebefund b = lies(leer, Wirkstoff, p);
+    ASSERT_EQ(b.Bemerkungen.size(), 2u);
+    EXPECT_EQ(b.Bemerkungen[0].Feld, "Metabolite 1, molar mass");
+    EXPECT_EQ(b.Bemerkungen[0].Meldung, "outside the range above 0");
+    EXPECT_EQ(b.Bemerkungen[1].Feld, "Metabolite 1, formation fraction");
+    EXPECT_EQ(b.Bemerkungen[1].Meldung, "outside the range 0 to 100");
+    const std::string allein = mit_Zeile(leer, Metabolit - 2, "Type of calculation:\t0");
+    EXPECT_TRUE(lies(allein, Wirkstoff, p).Bemerkungen.empty());
 }
 
 }  // namespace

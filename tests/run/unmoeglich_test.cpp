@@ -67,6 +67,19 @@ const std::vector<Fall> Faelle = {
      [](Lauf_bauer& b) {
          b.Termine({{"1", "3", "5", "0"}, {"1", "4", "1E308", "0"}});
      }},
+    {"rate_below_0", "Application rate (g/ha) = -5, Crop interception (%) = 0)", [](Lauf_bauer& b) { b.Dosis("-5"); }},
+    {"rate_below_0_in_a_row_of_the_table", "Application rate (g/ha) = -0.1",
+     [](Lauf_bauer& b) {
+         b.Termine({{"1", "3", "5", "0"}, {"1", "4", "-0.1", "0"}});
+     }},
+    {"interception_above_100", "Crop interception (%) = 100.5)", [](Lauf_bauer& b) { b.Dosis("100", "100.5"); }},
+    {"two_wrongs_that_make_a_dose_above_0", "Application rate (g/ha) = -5, Crop interception (%) = 150)",
+     [](Lauf_bauer& b) { b.Dosis("-5", "150"); }},
+    {"KOC_below_0", "KOC (L/kg) = -3400)", [](Lauf_bauer& b) { b.KOC(-3400); }},
+    {"KOC_of_a_metabolite_below_0", "KOC (L/kg) = -1)", [](Lauf_bauer& b) { b.Schema(1).Felder.Parameter.KOC[1][0] = -1; }},
+    {"KOC_no_number", "KOC (L/kg) = nan)", [](Lauf_bauer& b) { b.KOC(std::nan("")); }},
+    {"fraction_g_below_0", "DFOP g = -0.01)", [](Lauf_bauer& b) { b.nach_DFOP(0.1, 0.01, -0.01); }},
+    {"fraction_g_above_1", "DFOP g = 1.01)", [](Lauf_bauer& b) { b.nach_DFOP(0.1, 0.01, 1.01); }},
     {"concentration_beyond_single_precision", "concentration of parent on day",
      [](Lauf_bauer& b) { b.Dosis("3E38").Boden(0.01, 0.01, 20); }},
     {"negative_k_grows_beyond_all_numbers", "concentration of parent on day", [](Lauf_bauer& b) { b.nach_SFO(-1); }},
@@ -117,6 +130,23 @@ TEST_P(Unmoeglich, no_store_holds_a_number_that_is_not_finite) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Eingabe, Unmoeglich, ::testing::ValuesIn(Faelle), [](const auto& Info) { return Info.param.Name; });
+
+TEST(Unmoegliche_Rechnung, values_that_no_run_reads_are_no_fault) {
+    Lauf_bauer b;
+    b.Felder.Parameter.KOC[1][0] = -1;    // no metabolite
+    b.Felder.Parameter.g_DFOP[0][0] = 7;  // SFO
+    b.Felder.Parameter.KOC[0][1] = -1;    // another study
+    EXPECT_EQ(Fehlertext(b), "");
+}
+
+TEST(Unmoegliche_Rechnung, ends_of_the_ranges_are_calculated) {
+    EXPECT_EQ(Fehlertext(Lauf_bauer().KOC(0)), "");
+    EXPECT_EQ(Fehlertext(Lauf_bauer().nach_DFOP(0.1, 0.01, 0)), "");
+    EXPECT_EQ(Fehlertext(Lauf_bauer().nach_DFOP(0.1, 0.01, 1)), "");
+    EXPECT_EQ(Fehlertext(Lauf_bauer().Dosis("0", "100")), "");
+    // The table repairs what is above 99 % before any dose is made of it.
+    EXPECT_EQ(Fehlertext(Lauf_bauer().Termine({{"1", "3", "5", "150"}, {"1", "4", "5", "0"}})), "");
+}
 
 // One fault of each stage: before the parent, within its series, in a metabolite, in the averages.
 const std::vector<Lauf_bauer> je_Stufe = {Lauf_bauer().Boden(0, 5, 20), Lauf_bauer().nach_SFO(-1),

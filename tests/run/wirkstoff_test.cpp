@@ -281,9 +281,11 @@ TEST(Maxima, pore_water_has_its_own) {
     EXPECT_EQ(l.Speicher.Maximum_Bodentiefe[1][0][0], Boden(l, 10, 0, 1));
 }
 
-// A sorption below 0 makes pore water negative: the first year then starts from day 0, the others from -1.
+// An organic carbon content below 0 makes pore water negative: the first year then starts from day 0, the others from -1.
 TEST(Maxima, below_0_start_from_day_0_in_the_first_year_alone) {
-    const Lauf l = Lauf_bauer().nach_SFO(0.0001).KOC(-15).rechne();
+    Lauf_bauer b;
+    b.Felder.Parameter.Kohlenstoffgehalt *= -1;
+    const Lauf l = b.nach_SFO(0.0001).KOC(15).rechne();
     ASSERT_LT(Plateau(l, 0, 0, 1), -1.0F);
     ASSERT_LT(Plateau(l, 364, 0, 1), -1.0F);
     float groesster = Plateau(l, 0, 0, 1);

@@ -4,6 +4,7 @@
 #include <iostream>
 #include <system_error>
 
+#include "batch/abbruch.h"
 #include "batch/aufruf.h"
 #include "batch/varnok_batch.h"
 
@@ -30,5 +31,6 @@ Berichtsschreiber uebergib_Aufruf(char** argv) {
 int main(int argc, char** argv) {
     Umgebung Umwelt = Umgebung_des_Prozesses();
     Umwelt.Berichte = [argv] { return uebergib_Aufruf(argv); };
+    Umwelt.Abbruch = &horche_auf_Abbruch();
     return varnok_batch(argc, argv, std::cout, std::cerr, Umwelt);
 }

@@ -81,7 +81,7 @@ bool Feldeingabe::pruefe(int Feld, bool Enter) {
     const Feldbeschreibung& f = Beschreibung(Feld);
     z_.Feld_abgelehnt = !f.gilt(Feldwert(Feld).Zahl(), Enter);
     if (!z_.Feld_abgelehnt) return true;
-    melde(z_, Texte::keine_gueltige_Eingabe, Enter && f.Meldung_Enter ? f.Meldung_Enter : f.Meldung);
+    melde(z_, Texte::keine_gueltige_Eingabe, Enter && f.Meldung_Enter ? f.Meldung_Enter : f.Bereich->Meldung);
     return false;
 }
 

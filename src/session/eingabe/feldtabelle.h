@@ -1,12 +1,14 @@
 #pragma once
 
-// The numeric fields of the main screen as a table: range, messages and where the value goes.
+// The numeric fields of the main screen as a table: what they are called and where the value goes. Ranges: `Wertebereiche`.
 
 #include <span>
 #include <string>
 #include <variant>
 
+#include "base/wertebereiche.h"
 #include "run/eingabe.h"
+#include "run/halbwertszeit.h"
 
 namespace varnok {
 
@@ -23,23 +25,13 @@ enum class Feldgruppe {
 using Feldziel =
     std::variant<Stofftabelle<double> Laufparameter::*, Studientabelle<double> Laufparameter::*, Zahlwert Eingabe::*>;
 
-// The values that a field takes.
-struct Bereich {
-    double von;
-    bool von_gilt;  // the lower end itself is valid
-    double bis;
-    bool bis_gilt;
-};
-
 struct Feldbeschreibung {
     const char* Name;  // object name, without the compound's index
     const char* Beschriftung;
-    const char* Einheit;
+    const Wertebereich* Bereich;
     int i_substanz;  // compound of the field, -1 in a line that stands for one field of each compound
     Feldgruppe Gruppe;
     bool DT50;  // shown as ln(2)/k
-    Bereich Grenzen;
-    const char* Meldung;
     Feldziel Ziel;
     const char* Meldung_Enter = nullptr;  // where Enter words it differently
     bool Null_bei_Enter = false;          // Enter lets 0 through although leaving refuses it
@@ -54,12 +46,5 @@ std::span<const Feldbeschreibung> Feldtabelle();
 
 // Place of the field of that object name, -1 without one.
 int Feld_mit_Namen(const std::string& Objektname);
-
-// DT50 of a rate constant and the other way round: ln(2)/v, 0 for what is not above 0.
-double Halbwertszeit(double v);
-
-// Text of the DT50 of a rate constant, with as few digits as the constant needs: 33 for the constant that a record keeps
-// of 33, although its 15 digits give back 33.0000000000001.
-std::string Text_der_Halbwertszeit(double k, char Dezimalzeichen);
 
 }  // namespace varnok

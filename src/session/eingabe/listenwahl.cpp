@@ -84,11 +84,12 @@ void Listenwahl::waehle_Intervall(int i) {
 
 void Listenwahl::waehle_Anzahl(int i) {
     Eingabe& e = z_.Felder();
-    if (i == e.Anzahl_Index) return;
+    const int Anzahl = kleinste_Anzahl(e) + i;
+    if (Anzahl == e.Anzahl()) return;
     const std::size_t bisher = e.Applikationsschema.size();
     z_.Zeilenvorrat.resize(max_Applikationen);
     std::copy(e.Applikationsschema.begin(), e.Applikationsschema.end(), z_.Zeilenvorrat.begin());
-    varnok::waehle_Anzahl(e, i + 2);
+    varnok::waehle_Anzahl(e, Anzahl);
     for (std::size_t k = bisher; k < e.Applikationsschema.size(); ++k) e.Applikationsschema[k] = z_.Zeilenvorrat[k];
     if (e.Applikationsmuster == unregelmaessig) return;  // the table takes effect with its Enter key
     Laeufe_.berechne();

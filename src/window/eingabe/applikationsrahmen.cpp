@@ -143,7 +143,7 @@ void Applikationsrahmen::zeige() {
     Satz_->zeige();
     const Eingabe& e = Felder();
     Applikationsmuster_->button(e.Applikationsmuster)->setChecked(true);
-    Anzahl_->zeige(Zahlen(2, max_Applikationen), e.Anzahl_Index);
+    Anzahl_->zeige(Zahlen(kleinste_Anzahl(e), max_Applikationen), e.Anzahl() - kleinste_Anzahl(e));
     Intervall_->zeige(Zahlen(1, Programm_.zeige<Listenwahl>().Intervalle()), e.Intervall_Index);
     App_Tag_->zeige(Zahlen(1, Programm_.zeige<Listenwahl>().Tage()), e.App_Tag);
     App_Monat_->zeige(Monatsnamen, e.App_Monat);

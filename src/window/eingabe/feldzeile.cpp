@@ -21,7 +21,7 @@ Feldzeile erstelle_Feldzeile(Feldsteuerung& Felder, Raster& Gitter, int Zeile, b
     if (Objektname.startsWith(u"S_")) z.Schild->setObjectName(u"L_"_s + Objektname.mid(2));
     Gitter.addWidget(z.Schild, Zeile, rechts ? Raster::Schild_2 : Raster::Schild);
     Gitter.addWidget(z.Feld, Zeile, rechts ? Raster::Feld_2 : Raster::Feld);
-    const QString Einheit = in_Qt(f.Einheit);
+    const QString Einheit = in_Qt(std::string(f.Bereich->Einheit));
     if (Ort == Einheitsort::dahinter && !Einheit.isEmpty()) {
         z.Einheit = Einheitsschild(Einheit, parent);
         Gitter.addWidget(z.Einheit, Zeile, rechts ? Raster::Einheit_2 : Raster::Einheit);

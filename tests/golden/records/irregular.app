@@ -9,5 +9,5 @@ Number of applications per year:	3
 Date	Month	Rate (g/ha)	Interception (%)
 01	04	100	0
 15	04	200.5	12.5
-30	11		50
+30	11	75	50
 -----------------------------------------------
