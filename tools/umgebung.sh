@@ -15,12 +15,14 @@ Pakete=(
     qt6-base-dev qt6-svg-dev libcli11-dev nlohmann-json3-dev libtbb-dev libsodium-dev
     libboost-math-dev libsqlite3-dev
     libgtest-dev libgmock-dev libbenchmark-dev
-    python3 fonts-dejavu-core
+    python3 fonts-dejavu-core fonts-liberation
 )
 
 # The format of the sources is checked; the smoke tests work the real window on a display of its own, one under a trace; tests read
 # the PDF and the rich text of a report.
-Testpakete=(clang-format xvfb xauth openbox x11-apps xdotool strace poppler-utils unrtf sqlite3)
+Testpakete=(
+    clang-format xvfb xauth openbox x11-apps xdotool strace poppler-utils unrtf sqlite3 libreoffice-writer-nogui
+)
 
 # What only ./test.sh --deep needs.
 Pruefpakete=(clang-tidy)

@@ -8,6 +8,7 @@
 #include "reports/dokumentbild.h"
 #include "reports/formatierung.h"
 #include "reports/rtf_schreiber.h"
+#include "reports/zeilenpassung.h"
 
 namespace varnok {
 namespace {
@@ -57,7 +58,12 @@ Bericht schreibe_Bericht(const Berichtsauftrag& a) {
     b.Text = r.Text(a.Inhalt, {a.Programmversion, a.Zeitpunkt.Datum, a.Zeitpunkt.Zeit, a.Applikationssatz});
     b.Dokument = leeres_Dokument();
     Textauswahl w(*b.Dokument, QString::fromStdString(b.Text));
+    const std::string& Simulation = a.Inhalt.Namen.Beschreibung;
+    b.Dokument->setMetaInformation(QTextDocument::DocumentTitle,
+                                   QString::fromStdString(Simulation.empty() ? b.Name : Simulation));
     formatiere_Bericht(w, b.Text, Stoffnamen(a.Inhalt), a.Art);
+    passe_Zeilen_ein(*b.Dokument);
+    halte_Gruppen_beisammen(*b.Dokument);
 
     const Zeichenliste Bild = mit_Beschriftung(a.Bild, a.Legende);
     merke_Zeichnung(*b.Dokument, Bild);

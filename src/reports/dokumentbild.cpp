@@ -1,6 +1,7 @@
 #include "reports/dokumentbild.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QBuffer>
 #include <QObject>
 #include <QPainter>
 #include <QTextBlock>
@@ -8,6 +9,7 @@
 #include <QTextImageFormat>
 
 #include "painting/zeichner.h"
+#include "reports/tabulatoren.h"
 #include "reports/twips.h"
 
 namespace varnok {
@@ -40,6 +42,15 @@ public:
     const Zeichenliste Liste;
 };
 
+QByteArray als_PNG(const QImage& Bild) {
+    constexpr int uebliche_Kompression = -1;
+    QByteArray Bytes;
+    QBuffer Puffer(&Bytes);
+    Puffer.open(QIODevice::WriteOnly);
+    Bild.save(&Puffer, "PNG", uebliche_Kompression);
+    return Bytes;
+}
+
 void merke_Zeichnung(QTextDocument& Dokument, const Zeichenliste& z) { new Bildobjekt(&Dokument, z); }
 
 void zeichne_statt_Bild(QTextDocument& Dokument) {
@@ -52,6 +63,8 @@ QTextDocument* kopiere_Dokument(const QTextDocument& Dokument) {
     QTextDocument* Kopie = Dokument.clone();
     if (const auto* Objekt = Dokument.findChild<Bildobjekt*>()) merke_Zeichnung(*Kopie, Objekt->Liste);
     zeichne_statt_Bild(*Kopie);
+    Kopie->setUseDesignMetrics(true);
+    ergaenze_Tabulatoren(*Kopie);
     return Kopie;
 }
 
@@ -59,6 +72,7 @@ std::unique_ptr<QTextDocument> Auswahl_als_Dokument(const QTextCursor& Auswahl) 
     const QTextDocument& ganzes = *Auswahl.document();
     auto Dokument = std::make_unique<QTextDocument>();
     Dokument->setDefaultFont(ganzes.defaultFont());
+    Dokument->setMetaInformation(QTextDocument::DocumentTitle, ganzes.metaInformation(QTextDocument::DocumentTitle));
     QTextCursor(Dokument.get()).insertFragment(Auswahl.selection());
     // The first paragraph comes without its format.
     QTextCursor(Dokument.get()).setBlockFormat(ganzes.findBlock(Auswahl.selectionStart()).blockFormat());

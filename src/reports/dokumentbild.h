@@ -2,6 +2,8 @@
 
 // The picture of a report as part of its document.
 
+#include <QByteArray>
+#include <QImage>
 #include <QTextCursor>
 #include <QTextDocument>
 #include <memory>
@@ -16,6 +18,9 @@ inline constexpr int Bildhoehe_Twips = 6750;
 
 inline constexpr const char* Bildname = "varnok:diagram";
 
+// Bytes of a picture for a file that holds it.
+QByteArray als_PNG(const QImage& Bild);
+
 // Keeps the drawing of its picture with the document.
 void merke_Zeichnung(QTextDocument& Dokument, const Zeichenliste& z);
 
@@ -23,7 +28,8 @@ void merke_Zeichnung(QTextDocument& Dokument, const Zeichenliste& z);
 // text in print. It lays the document out, so it belongs into the thread of the window.
 void zeichne_statt_Bild(QTextDocument& Dokument);
 
-// A copy of the document for a device of its own, with all that; the caller owns it.
+// A copy of the document for a device of its own, with all that, laid out by the true widths of its letters and with all
+// tab stops; the caller owns it.
 QTextDocument* kopiere_Dokument(const QTextDocument& Dokument);
 
 // The same of what is selected in a document.

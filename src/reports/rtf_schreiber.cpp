@@ -1,6 +1,5 @@
 #include "reports/rtf_schreiber.h"
 
-#include <QBuffer>
 #include <QColor>
 #include <QFont>
 #include <QImage>
@@ -18,6 +17,8 @@
 #include <vector>
 
 #include "base/zeichensatz.h"
+#include "reports/dokumentbild.h"
+#include "reports/seitenmass.h"
 #include "reports/textauswahl.h"
 #include "reports/twips.h"
 
@@ -29,7 +30,6 @@ constexpr double Vorgabegroesse = 10;  // points
 
 // Without a name of its program some text processors read runs of blanks as something else and widen them.
 constexpr const char* Erzeuger = "{\\*\\generator VARNOK;}\n";
-constexpr const char* Seite = "\\paperw11906\\paperh16838\\margl1134\\margr1134\\margt1134\\margb1134\n";
 
 // What a missing font is replaced by goes by its kind.
 constexpr std::array<std::pair<const char*, const char*>, 7> Schriftarten = {{{"Arial", "\\fswiss"},
@@ -90,13 +90,10 @@ std::string als_Hexzeilen(const QByteArray& Bytes) {
     return Text;
 }
 
-QByteArray als_PNG(const QImage& Bild) {
-    constexpr int uebliche_Kompression = -1;
-    QByteArray Bytes;
-    QBuffer Puffer(&Bytes);
-    Puffer.open(QIODevice::WriteOnly);
-    Bild.save(&Puffer, "PNG", uebliche_Kompression);
-    return Bytes;
+std::string Seite() {
+    std::string Text = Befehl("paperw", Papierbreite) + Befehl("paperh", Papierhoehe);
+    for (const char* Rand : {"margl", "margr", "margt", "margb"}) Text += Befehl(Rand, Seitenrand);
+    return Text + Befehl("deftab", Tabulatorabstand) + "\n";
 }
 
 // Fonts or colours in the order of their first use.
@@ -126,7 +123,7 @@ public:
             Absaetze += Absatz(b);
         }
         // The tables are known only now.
-        return "{\\rtf1\\ansi\\ansicpg1252\\deff0\\uc1\n" + Schrifttabelle() + Farbtabelle() + Erzeuger + Seite + Absaetze +
+        return "{\\rtf1\\ansi\\ansicpg1252\\deff0\\uc1\n" + Schrifttabelle() + Farbtabelle() + Erzeuger + Seite() + Absaetze +
                "}\n";
     }
 

@@ -6,7 +6,7 @@
 namespace varnok {
 
 // The document as rich text that text processors open, pure ASCII: fonts, sizes, colours, bold, italic, alignment,
-// indents, tab stops, paragraphs that stay together and pictures (PNG). Paper A4 with margins of 2 cm. Tables, lists and
+// indents, tab stops, paragraphs that stay together and pictures (PNG). The page is that of `seitenmass.h`. Tables, lists and
 // links are not written as such, their text is.
 std::string als_RTF(const QTextDocument& Dokument);
 

@@ -10,10 +10,12 @@
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextLayout>
+#include <algorithm>
 #include <memory>
 
 #include "reports/dokumentbild.h"
-#include "reports/textauswahl.h"
+#include "reports/seitenmass.h"
+#include "reports/seitenumbruch.h"
 #include "reports/twips.h"
 
 namespace varnok {
@@ -21,21 +23,6 @@ namespace {
 
 constexpr int Punkte_Seitenzahl = 8;
 constexpr double Seitenfuss = 2.5;  // height of the foot in lines of its font
-
-// The empty lines in front of the headline are left out, lest they make a page of their own.
-void beginne_Seite_mit_Bildkopf(QTextDocument& Dokument) {
-    QTextBlock Kopf = Dokument.begin();
-    while (Kopf.isValid() && !Kopf.blockFormat().boolProperty(bleibt_beim_naechsten)) Kopf = Kopf.next();
-    if (!Kopf.isValid() || Kopf == Dokument.begin()) return;
-    QTextBlockFormat f = Kopf.blockFormat();
-    f.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
-    QTextBlock leer = Kopf.previous();
-    while (leer.isValid() && leer.text().isEmpty()) leer = leer.previous();
-    QTextCursor c(Kopf);
-    if (leer.isValid()) c.setPosition(leer.next().position(), QTextCursor::KeepAnchor);
-    c.removeSelectedText();
-    c.setBlockFormat(f);
-}
 
 // A layout for a device scales fonts, tab stops and pictures by itself, but no indents.
 void skaliere_Einzuege(QTextDocument& Dokument, double Massstab) {
@@ -47,22 +34,24 @@ void skaliere_Einzuege(QTextDocument& Dokument, double Massstab) {
     }
 }
 
-// Draws the lines that stand on a page, counted from 0, to the top of the painter's surface. Drawing a clipped document
-// would leave the line in front of the page in the file as well, out of sight but to be found and copied.
-void male_Seite(QPainter& p, const QTextDocument& Dokument, int Seite) {
-    const double Hoehe = Dokument.pageSize().height();
+// Draws the lines of a page to the top of the painter's surface. Drawing a clipped document would leave the lines in front of
+// the page in the file as well, out of sight but to be found and copied.
+void male_Seite(QPainter& p, const Druckseite& Seite) {
     p.save();
-    p.translate(0, -Seite * Hoehe);
+    p.translate(0, -Seite.front().oben);
     p.setPen(Qt::black);  // paper is white on a dark desktop, too
-    for (QTextBlock b = Dokument.begin(); b.isValid(); b = b.next()) {
-        const QTextLayout* Absatz = b.layout();
-        for (int i = 0; i < Absatz->lineCount(); ++i) {
-            const QTextLine Zeile = Absatz->lineAt(i);
-            const double Mitte = Absatz->position().y() + Zeile.y() + Zeile.height() / 2;
-            if (static_cast<int>(Mitte / Hoehe) == Seite) Zeile.draw(&p, Absatz->position());
-        }
-    }
+    for (const Druckzeile& z : Seite) z.Absatz.layout()->lineAt(z.Nummer).draw(&p, z.Absatz.layout()->position());
     p.restore();
+}
+
+// What the report is about at the left, the number of the page at the right.
+void male_Fuss(QPainter& p, const QRectF& Flaeche, const QString& Titel, std::size_t Seite, std::size_t Seiten) {
+    const QString Zahl = QString::fromStdString("page " + std::to_string(Seite) + " of " + std::to_string(Seiten));
+    const QFontMetricsF Masse(p.font(), p.device());
+    const double Platz = Flaeche.width() - Masse.horizontalAdvance(Zahl) - Masse.height();
+    p.setPen(Qt::black);
+    p.drawText(Flaeche, Qt::AlignLeft | Qt::AlignBottom, Masse.elidedText(Titel, Qt::ElideRight, Platz));
+    p.drawText(Flaeche, Qt::AlignRight | Qt::AlignBottom, Zahl);
 }
 
 }  // namespace
@@ -72,38 +61,37 @@ bool drucke_Dokument(const QTextDocument& Dokument, QPagedPaintDevice& Geraet) {
     const std::unique_ptr<QTextDocument> Kopie(kopiere_Dokument(Dokument));
     QPainter p;
     if (!p.begin(&Geraet)) return false;
+    const double Aufloesung = Geraet.logicalDpiX();
+    // Smaller paper shows the same page, smaller.
+    const double Massstab = std::min(1.0, Geraet.width() / (Textbreite * Aufloesung / Twips_pro_Zoll));
+    p.scale(Massstab, Massstab);
+    const QRectF Flaeche(0, 0, Geraet.width() / Massstab, Geraet.height() / Massstab);
     QFont Fussschrift = Kopie->defaultFont();
     Fussschrift.setPointSize(Punkte_Seitenzahl);
-    const double Fusshoehe = Seitenfuss * QFontMetricsF(Fussschrift, &Geraet).height();
-    const QRectF Flaeche(0, 0, Geraet.width(), Geraet.height());
 
-    beginne_Seite_mit_Bildkopf(*Kopie);
-    skaliere_Einzuege(*Kopie, Geraet.logicalDpiX() / Twips_in_Pixel(Twips_pro_Zoll));
+    skaliere_Einzuege(*Kopie, Aufloesung / Twips_in_Pixel(Twips_pro_Zoll));
     Kopie->documentLayout()->setPaintDevice(&Geraet);
     Kopie->setDocumentMargin(0);
-    Kopie->setPageSize(QSizeF(Flaeche.width(), Flaeche.height() - Fusshoehe));
-    const int Seiten = Kopie->pageCount();
-    for (int Seite = 0; Seite < Seiten; ++Seite) {
-        if (Seite > 0 && !Geraet.newPage()) return false;
-        male_Seite(p, *Kopie, Seite);
+    Kopie->setTextWidth(Flaeche.width());
+    const double Fusshoehe = Seitenfuss * QFontMetricsF(Fussschrift, &Geraet).height();
+    const std::vector<Druckseite> Seiten = teile_in_Seiten(*Kopie, Flaeche.height() - Fusshoehe);
+    for (std::size_t i = 0; i < Seiten.size(); ++i) {
+        if (i > 0 && !Geraet.newPage()) return false;
+        male_Seite(p, Seiten[i]);
         p.setFont(Fussschrift);
-        p.setPen(Qt::black);
-        p.drawText(Flaeche, Qt::AlignHCenter | Qt::AlignBottom,
-                   QStringLiteral("page %1 of %2")
-                       .arg(QString::fromStdString(std::to_string(Seite + 1)), QString::fromStdString(std::to_string(Seiten))));
+        male_Fuss(p, Flaeche, Kopie->metaInformation(QTextDocument::DocumentTitle), i + 1, Seiten.size());
     }
     return p.end();
 }
 
 std::string als_PDF(const QTextDocument& Dokument, const std::string& Titel) {
-    constexpr double Rand = 20;  // mm
     QByteArray Bytes;
     QBuffer Puffer(&Bytes);
     Puffer.open(QIODevice::WriteOnly);
     {
         QPdfWriter Geraet(&Puffer);
         Geraet.setPageSize(QPageSize(QPageSize::A4));
-        Geraet.setPageMargins(QMarginsF(Rand, Rand, Rand, Rand), QPageLayout::Millimeter);
+        Geraet.setPageMargins(QMarginsF(Seitenrand_mm, Seitenrand_mm, Seitenrand_mm, Seitenrand_mm), QPageLayout::Millimeter);
         Geraet.setTitle(QString::fromStdString(Titel));
         Geraet.setCreator(QStringLiteral("VARNOK"));
         drucke_Dokument(Dokument, Geraet);

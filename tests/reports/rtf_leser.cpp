@@ -197,9 +197,9 @@ private:
     }
 
     static bool bedeutungslos(const std::string& n) {
-        static const std::set<std::string> Woerter = {"rtf",   "ansi",     "deff",    "fswiss", "fmodern", "froman",
-                                                      "fnil",  "fcharset", "paperw",  "paperh", "margl",   "margr",
-                                                      "margt", "margb",    "shppict", "pngblip"};
+        static const std::set<std::string> Woerter = {"rtf",   "ansi",     "deff",   "fswiss",  "fmodern", "froman",
+                                                      "fnil",  "fcharset", "paperw", "paperh",  "margl",   "deftab",
+                                                      "margr", "margt",    "margb",  "shppict", "pngblip"};
         return Woerter.contains(n);
     }
 
