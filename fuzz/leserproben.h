@@ -8,8 +8,10 @@
 #include <string>
 
 #include "base/laufzeitfehler.h"
+#include "records/eingabenamen.h"
 #include "records/einstellungen.h"
 #include "records/klimadatei.h"
+#include "records/pruefung.h"
 #include "records/satz.h"
 
 namespace varnok::fuzz {
@@ -65,6 +67,51 @@ inline void pruefe_Einstellungen(const std::string& Eingang) {
     const std::string Bytes = Einstellungen_als_Bytes(*e);
     const auto wieder = zerlege_Einstellungen(Bytes);
     fordere(wieder && Einstellungen_als_Bytes(*wieder) == Bytes);
+}
+
+// The findings about a record: a fault where it cannot be read, and each with a line and a message. The first byte chooses the
+// kind.
+inline void pruefe_Befunde(const std::string& Eingang) {
+    static Projektpruefer Pruefer{Projektordner(".")};
+    if (Eingang.empty()) return;
+    const auto Art = static_cast<Satzart>(Wirkstoff + static_cast<unsigned char>(Eingang.front()) % 3);
+    bool lesbar = false;
+    try {
+        Eingabe e;
+        Ansicht a;
+        lesbar = Satz_lesen_aus(Eingang.substr(1), "input", Art, e, a).Ausgang == Leseausgang::gelesen;
+    } catch (const Laufzeitfehler&) {
+        lesbar = false;
+    }
+    bool Mangel = false;
+    for (const Befund& b : Pruefer.pruefe_Satz(Eingang.substr(1), "input", Art)) {
+        fordere(b.Stelle.Zeile >= 1 && !b.Stelle.Meldung.empty() && !b.Stelle.Datei.empty());
+        Mangel = Mangel || b.Mangel;
+    }
+    fordere(lesbar || Mangel);
+}
+
+// NAME=VALUE: what is taken reads back as the same text, and goes into an input without another word.
+inline void pruefe_Namen(const std::string& Eingang) {
+    static const Projektordner Ordner(".");
+    const auto Gleich = Eingang.find('=');
+    if (Gleich == std::string::npos) return;
+    try {
+        const Namensbezug b = lies_Namensbezug(std::string_view(Eingang).substr(0, Gleich));
+        const Eingabewert w = lies_Eingabewert(b, std::string_view(Eingang).substr(Gleich + 1), Ordner);
+        fordere(lies_Eingabewert(b, w.Text, Ordner) == w);
+        Eingabe e;
+        Ansicht a;
+        e.Studie = {"1", "2"};
+        e.Berechnungsmodus = zwei_in_Folge;
+        const Namensbezug* const Namen[] = {&b};
+        setze(e, a, b, w);
+        stimme_ab(e, Namen);
+        wird_gelesen(b, e);
+        benannte_Werte(e, a);
+    } catch (const Laufzeitfehler&) {
+        return;
+    }
 }
 
 }  // namespace varnok::fuzz

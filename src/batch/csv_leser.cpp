@@ -44,7 +44,7 @@ CSV_Leser::CSV_Leser(std::string Bezeichnung, const std::string& Pfad) : Bezeich
 
 void CSV_Leser::beginne_neu() {
     Strom_.clear();
-    Strom_.seekg(0);
+    if (!Strom_.seekg(0)) throw Aufruffehler(Bezeichnung_ + ": this is read more than once, so it has to be a file");
     Zeile_ = 0;
     naechste_Zeile_ = 1;
     for (const int Zeichen : {0xEF, 0xBB, 0xBF}) {

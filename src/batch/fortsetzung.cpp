@@ -31,6 +31,8 @@ std::string_view Summe_der_Zeile(std::string_view Zeile) {
 
 }  // namespace
 
+bool ist_Fehlerzeile(std::string_view Zeile) { return Zeile.find(",\"error\":") != std::string_view::npos; }
+
 Fortsetzung::Fortsetzung(const std::string& Datei, bool mit_Eingaben) : Datei_(Datei), mit_Eingaben_(mit_Eingaben) {
     std::error_code Fehler;
     if (std::filesystem::is_symlink(Dateipfad(Datei), Fehler))
@@ -68,7 +70,7 @@ void Fortsetzung::gleiche_ab(const Arbeitsstueck& s, const std::string& Summe) {
     }
     if (alte != Summe) throw Aufruffehler(davor + wessen + " comes from other inputs (inputs_sha256 " + std::string(alte) + ")");
     const bool hat_Eingaben = Zeile.find(",\"inputs\":{") != std::string::npos;
-    const bool gescheitert = Zeile.find(",\"error\":") != std::string::npos;
+    const bool gescheitert = ist_Fehlerzeile(Zeile);
     if (!gescheitert && hat_Eingaben != mit_Eingaben_)
         throw Aufruffehler(davor + (hat_Eingaben ? "the line holds the inputs" : "the line does not hold the inputs") +
                            ", unlike those of this call");

@@ -6,10 +6,14 @@
 #include <fstream>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "batch/simulationslauf.h"
 
 namespace varnok::batch {
+
+// Whether a line is that of a simulation that could not be calculated.
+bool ist_Fehlerzeile(std::string_view Zeile);
 
 // Goes through the lines of the file in step with the work of the call.
 class Fortsetzung {

@@ -76,7 +76,13 @@ JSON als_Objekt(const Bemerkung& b) {
     };
 }
 
-JSON als_JSON(const Eingabewert& w) { return w.ist_Wort ? JSON(w.Text) : JSON(w.Zahl); }
+// A whole number as such: 750, as it was typed.
+JSON als_JSON(const Eingabewert& w) {
+    constexpr double groesste = 1e15;
+    if (w.ist_Wort) return w.Text;
+    if (w.Zahl == std::floor(w.Zahl) && std::abs(w.Zahl) < groesste) return static_cast<long long>(w.Zahl);
+    return w.Zahl;
+}
 
 JSON als_Objekt(const Variante& v, const std::vector<std::string>& Namen) {
     JSON Werte = JSON::object();

@@ -1,25 +1,13 @@
 #pragma once
 
-// What is wrong or doubtful in the files of a project, found without a calculation.
+// Findings and records as texts.
 
 #include <string>
 #include <vector>
 
-#include "base/bemerkung.h"
-#include "records/projektordner.h"
+#include "records/pruefung.h"
 
 namespace varnok::batch {
-
-// A finding: a remark about a value, or a fault that keeps simulations from being calculated.
-struct Befund {
-    Bemerkung Stelle;  // its file under its path in the project
-    bool Mangel = false;
-};
-
-// Every record, template, simulation and climate file, also what no simulation names; file by file.
-std::vector<Befund> pruefe_Projekt(const Projektordner& Ordner);
-// The findings about one record.
-std::vector<Befund> pruefe_Satz(const Projektordner& Ordner, const std::string& Name, Satzart Art);
 
 // input/X.che:11: remark: KOC (L/kg), parent: only its beginning is a number (7x5 -> 7)
 std::string als_Zeile(const Befund& b);

@@ -128,11 +128,12 @@ std::string alle(const std::vector<Befund>& Befunde, bool Mangel) {
 
 std::string Satztabelle(const Projektordner& Ordner) {
     constexpr std::array<const char*, 4> Artnamen = {"", "compound", "application", "scenario"};
+    Projektpruefer Pruefer(Ordner);
     std::string Text;
     schreibe_Kopf(CSV_Zeile(Text));
     for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) {
         for (const std::string& Name : Ordner.Namen(Endungen[Art])) {
-            const auto Befunde = pruefe_Satz(Ordner, Name, Art);
+            const auto Befunde = Pruefer.pruefe_Satz(Name, Art);
             Eingabe e;
             Ansicht Sicht;
             bool gelesen = false;

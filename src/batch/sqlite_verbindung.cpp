@@ -88,7 +88,9 @@ Verbindung::Verbindung(const std::string& Datei, Art art) : Datei_(Datei) {
     if (art == Art::schreibend && std::filesystem::is_symlink(Dateipfad(Datei), unwichtig))
         std::filesystem::remove(Dateipfad(Datei), unwichtig);
     const int Wunsch = art == Art::lesend ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE;
-    if (sqlite3_open_v2(Datei.c_str(), &db_, Wunsch, nullptr) != SQLITE_OK) {
+    // A whole path, for the library knows names of another meaning.
+    const std::string Pfad = std::filesystem::absolute(Dateipfad(Datei), unwichtig).string();
+    if (sqlite3_open_v2(Pfad.c_str(), &db_, Wunsch, nullptr) != SQLITE_OK) {
         const std::string Grund = db_ == nullptr ? "not enough memory" : sqlite3_errmsg(db_);
         sqlite3_close(db_);
         melde(Datei, Grund);

@@ -22,7 +22,9 @@ using JSON = nlohmann::ordered_json;
 class Zeilenquelle {
 public:
     explicit Zeilenquelle(const std::string& Datei) : Datei_(Datei), Strom_(Dateipfad(Datei), std::ios::binary) {
-        if (!Strom_ || Strom_.peek() == std::char_traits<char>::eof()) verwirf("the file cannot be read or is empty");
+        Strom_.peek();
+        if (!Strom_.is_open() || Strom_.bad()) verwirf("the file cannot be read");
+        Strom_.clear();
     }
 
     bool lies(std::string& Zeile) {

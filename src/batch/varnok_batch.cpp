@@ -252,7 +252,7 @@ int lies_nur(const Aufruf& a, const Projektordner& Ordner, std::ostream& aus) {
     };
     if (!a.Satztabelle.empty()) schreibe(a.Satztabelle, Satztabelle(Ordner));
     if (!a.pruefen) return alles_berechnet;
-    const std::vector<Befund> Befunde = pruefe_Projekt(Ordner);
+    const std::vector<Befund> Befunde = Projektpruefer(Ordner).pruefe();
     schreibe(a.JSON_Datei, Befunde_als_JSON(Befunde));
     schreibe(a.CSV_Datei, Befunde_als_CSV(Befunde));
     const bool Zeilen =
@@ -301,7 +301,7 @@ int fuehre_aus(const Aufruf& a, std::ostream& aus, std::ostream& fehler, const U
             for (const std::string& m : Texte) melde(fehler, m);
         }
         Schreibfehler.insert(Schreibfehler.end(), s.Schreibfehler.begin(), s.Schreibfehler.end());
-        gescheitert = gescheitert || s.Fehler;
+        gescheitert = gescheitert || s.Fehler || (f.bewahrte_Zeile && ist_Fehlerzeile(*f.bewahrte_Zeile));
         f.bewahrte_Zeile ? Ziele.bewahre(*f.bewahrte_Zeile) : Ziele.schreibe(std::move(f.Stuecke), s);
         if (Balken) Balken->melde(++fertig, Liste.Anzahl());
     });

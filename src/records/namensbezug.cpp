@@ -230,7 +230,8 @@ Namensbezug lies_Namensbezug(std::string_view Text) {
         return b;
     }
     if (b.Name->Indizes == Indexart::keiner) verwirf(ganzer, std::string(Name) + " has no index");
-    if (ganzer.back() != ']') verwirf(ganzer, "the closing bracket is missing");
+    if (ganzer.back() != ']')
+        verwirf(ganzer, "the closing bracket is missing; in a table a name with a comma stands in quotation marks");
     std::vector<std::string_view> Teile = zerlege_an(ganzer.substr(Klammer + 1, ganzer.size() - Klammer - 2), ',');
     for (std::string_view& Teil : Teile) Teil = ohne_Randblanks(Teil);
     lies_Indizes(b, Teile);

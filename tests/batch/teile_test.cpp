@@ -104,6 +104,17 @@ TEST_F(Teile, four_shards_joined_are_the_call_without_shards) {
     EXPECT_EQ(Abzug("alle.db"), Abzug("ganz.db"));
 }
 
+TEST_F(Teile, part_without_any_work_is_a_part_too) {
+    std::vector<std::string> Argumente = {"--json-lines", Ort("alle"), "--merge"};
+    for (const char* Teil : {"0/3", "1/3", "2/3"}) {
+        Argumente.push_back(Ort(std::string("t") + Teil[0]));
+        EXPECT_EQ(rufe({"--simulation", "b", "--shard", Teil, "--json-lines", Argumente.back(), Projekt.Pfad()}).Status, 0);
+    }
+    EXPECT_EQ(rufe(Argumente).Status, 0);
+    EXPECT_EQ(rufe({"--simulation", "b", "--json-lines", Ort("ganz"), Projekt.Pfad()}).Status, 0);
+    EXPECT_EQ(Inhalt(Ort("alle")), Inhalt(Ort("ganz")));
+}
+
 TEST_F(Teile, parts_that_do_not_make_a_whole_are_refused) {
     for (const char* Name : {"t0", "t1"}) rechne(Name, {"--shard", std::string(Name).substr(1) + "/3"});
     rechne("ganz", {});
@@ -160,6 +171,19 @@ TEST_F(Fortsetzen, what_is_kept_is_not_calculated_again) {
     lasse(gefaelscht);
     rufe(Aufruf);
     EXPECT_EQ(Inhalt(Ort("l")), gefaelscht);
+}
+
+TEST_F(Fortsetzen, kept_line_of_a_variant_that_failed_still_makes_the_status) {
+    Probe p;
+    p.Felder.Applikationsmuster = unregelmaessig;
+    Projekt.schreibe("turned", p);
+    Projekt.schreibe_Bytes("../../turned.csv", "month[1]\n4\n8\n3\n");
+    Aufruf = {"--simulation", "turned", "--vary", Ort("turned.csv"), "--json-lines", Ort("l"), Projekt.Pfad()};
+    EXPECT_EQ(rufe(Aufruf).Status, 1);
+    const std::string alles = Inhalt(Ort("l"));
+    Aufruf.insert(Aufruf.begin(), "--resume");
+    EXPECT_EQ(rufe(Aufruf).Status, 1);
+    EXPECT_EQ(Inhalt(Ort("l")), alles);
 }
 
 TEST_F(Fortsetzen, line_of_other_inputs_is_an_error_of_the_call) {

@@ -185,8 +185,8 @@ TEST_F(Vorgaben, variants_stand_behind_one_another_with_their_values) {
     const std::string Tabelle = schreibe_Tabelle("rate,\"DT50[1,0]\",unit\r\n750,48,mg\r\n\"1000,5\",1e2,ug\r\n");
     const JSON s = gerechnet({"--vary", Tabelle});
     ASSERT_EQ(s.size(), 2U);
-    EXPECT_EQ(s[0]["variant"].dump(), R"({"row":1,"values":{"rate":750.0,"DT50[1,0]":48.0,"unit":"mg"}})");
-    EXPECT_EQ(s[1]["variant"].dump(), R"({"row":2,"values":{"rate":1000.5,"DT50[1,0]":100.0,"unit":"µg"}})");
+    EXPECT_EQ(s[0]["variant"].dump(), R"({"row":1,"values":{"rate":750,"DT50[1,0]":48,"unit":"mg"}})");
+    EXPECT_EQ(s[1]["variant"].dump(), R"({"row":2,"values":{"rate":1000.5,"DT50[1,0]":100,"unit":"µg"}})");
     EXPECT_EQ(s[1]["inputs"]["DT50[1,0]"], 100);
     EXPECT_EQ(s[1]["Einheit"], 1);
     auto Schluessel = s[0].begin();

@@ -22,6 +22,8 @@ void spiele_ab(const std::string& Ordner, void (*pruefe)(const std::string&)) {
 }
 
 TEST(Leserproben, records) { spiele_ab("satz", fuzz::pruefe_Satz); }
+TEST(Leserproben, findings_about_records) { spiele_ab("satz", fuzz::pruefe_Befunde); }
+TEST(Leserproben, names_and_values) { spiele_ab("namen", fuzz::pruefe_Namen); }
 TEST(Leserproben, climate_files) { spiele_ab("klima", fuzz::pruefe_Klima); }
 TEST(Leserproben, settings) { spiele_ab("einstellungen", fuzz::pruefe_Einstellungen); }
 
