@@ -59,7 +59,8 @@ Bildbefehle::Bildbefehle(Sitzung& Programm, Ergebnisbereich& Bereich, QMainWindo
 }
 
 void Bildbefehle::zeige() {
-    const bool zu_sehen = Programm_.Stand().Gestartet && !Programm_.Stand().abgedeckt() && Programm_.Diagramme().vorderes();
+    const bool zu_sehen =
+        Programm_.Stand().Gestartet && !Programm_.Stand().abgedeckt() && Programm_.zeige<Diagrammsteuerung>().vorderes();
     for (QAction* a : Eintraege_) a->setEnabled(zu_sehen);
 }
 
