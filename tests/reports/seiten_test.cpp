@@ -4,20 +4,25 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QAbstractTextDocumentLayout>
 #include <QMarginsF>
 #include <QPageLayout>
 #include <QPageRanges>
 #include <QPageSize>
 #include <QPdfWriter>
 #include <QTemporaryDir>
+#include <QTextBlock>
+#include <QTextLayout>
 #include <QXmlStreamReader>
 
 #include "berichtsarten.h"
 #include "fremdprogramm.h"
 #include "records/dateien.h"
 #include "reports/berichtswoerter.h"
+#include "reports/dokumentbild.h"
 #include "reports/seitenausgabe.h"
 #include "reports/seitenmass.h"
+#include "reports/twips.h"
 
 namespace varnok::probe {
 namespace {
@@ -335,6 +340,25 @@ TEST(Papier, only_the_pages_wanted_are_printed) {
     }
     const std::string von = "of" + std::to_string(Seiten);
     EXPECT_THAT(Fuesse, ::testing::ElementsAre("page2" + von, "page3" + von, "page5" + von));
+}
+
+// The sheet of the window, set for its dots: what a row takes there does not depend on the window's width.
+TEST(Blatt, every_row_stands_on_one_line) {
+    for (const Berichtsfall& f : Berichtsfaelle()) {
+        SCOPED_TRACE(f.Name);
+        const Bericht b = f.schreibe();
+        const std::unique_ptr<QTextDocument> Blatt(kopiere_Dokument(*b.Dokument));
+        Blatt->setDocumentMargin(Twips_in_Pixel(Seitenrand));
+        Blatt->setTextWidth(Twips_in_Pixel(Papierbreite));
+        Blatt->documentLayout()->documentSize();  // lays it out to its end
+        int gesehen = 0;
+        for (QTextBlock z = Blatt->begin(); z.isValid(); z = z.next()) {
+            if (!z.text().contains(u'\t')) continue;
+            EXPECT_EQ(z.layout()->lineCount(), 1) << z.text().toStdString();
+            ++gesehen;
+        }
+        EXPECT_GT(gesehen, 30);
+    }
 }
 
 }  // namespace
