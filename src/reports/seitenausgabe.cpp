@@ -4,6 +4,7 @@
 #include <QBuffer>
 #include <QMarginsF>
 #include <QPageLayout>
+#include <QPageRanges>
 #include <QPageSize>
 #include <QPainter>
 #include <QPdfWriter>
@@ -12,6 +13,8 @@
 #include <QTextLayout>
 #include <algorithm>
 #include <memory>
+#include <utility>
+#include <vector>
 
 #include "reports/dokumentbild.h"
 #include "reports/seitenmass.h"
@@ -54,32 +57,55 @@ void male_Fuss(QPainter& p, const QRectF& Flaeche, const QString& Titel, std::si
     p.drawText(Flaeche, Qt::AlignRight | Qt::AlignBottom, Zahl);
 }
 
+// A copy of the document set for a device. Documents keep a pointer to the device that they are laid out for: it ends before
+// the device does.
+struct Drucksatz {
+    std::unique_ptr<QTextDocument> Kopie;
+    double Massstab = 1;
+    QRectF Flaeche;
+    QFont Fussschrift;
+    std::vector<Druckseite> Seiten;
+};
+
+Drucksatz setze(const QTextDocument& Dokument, QPagedPaintDevice& Geraet) {
+    Drucksatz d;
+    d.Kopie.reset(kopiere_Dokument(Dokument));
+    const double Aufloesung = Geraet.logicalDpiX();
+    // Smaller paper shows the same page, smaller. A printer that is out of reach has no width.
+    constexpr double kleinster = 0.1;
+    d.Massstab = std::clamp(Geraet.width() / (Textbreite * Aufloesung / Twips_pro_Zoll), kleinster, 1.0);
+    d.Flaeche = QRectF(0, 0, Geraet.width() / d.Massstab, Geraet.height() / d.Massstab);
+    d.Fussschrift = d.Kopie->defaultFont();
+    d.Fussschrift.setPointSize(Punkte_Seitenzahl);
+    skaliere_Einzuege(*d.Kopie, Aufloesung / Twips_in_Pixel(Twips_pro_Zoll));
+    d.Kopie->documentLayout()->setPaintDevice(&Geraet);
+    d.Kopie->setDocumentMargin(0);
+    d.Kopie->setTextWidth(d.Flaeche.width());
+    const double Fusshoehe = Seitenfuss * QFontMetricsF(d.Fussschrift, &Geraet).height();
+    d.Seiten = teile_in_Seiten(*d.Kopie, d.Flaeche.height() - Fusshoehe);
+    return d;
+}
+
 }  // namespace
 
+int Seitenzahl(const QTextDocument& Dokument, QPagedPaintDevice& Geraet) {
+    return static_cast<int>(setze(Dokument, Geraet).Seiten.size());
+}
+
 bool drucke_Dokument(const QTextDocument& Dokument, QPagedPaintDevice& Geraet) {
-    // Documents keep a pointer to the device that they are laid out for: the copy ends before the device does.
-    const std::unique_ptr<QTextDocument> Kopie(kopiere_Dokument(Dokument));
+    const Drucksatz d = setze(Dokument, Geraet);
+    const QPageRanges gewuenscht = Geraet.pageRanges();
+    const QString Titel = d.Kopie->metaInformation(QTextDocument::DocumentTitle);
     QPainter p;
     if (!p.begin(&Geraet)) return false;
-    const double Aufloesung = Geraet.logicalDpiX();
-    // Smaller paper shows the same page, smaller.
-    const double Massstab = std::min(1.0, Geraet.width() / (Textbreite * Aufloesung / Twips_pro_Zoll));
-    p.scale(Massstab, Massstab);
-    const QRectF Flaeche(0, 0, Geraet.width() / Massstab, Geraet.height() / Massstab);
-    QFont Fussschrift = Kopie->defaultFont();
-    Fussschrift.setPointSize(Punkte_Seitenzahl);
-
-    skaliere_Einzuege(*Kopie, Aufloesung / Twips_in_Pixel(Twips_pro_Zoll));
-    Kopie->documentLayout()->setPaintDevice(&Geraet);
-    Kopie->setDocumentMargin(0);
-    Kopie->setTextWidth(Flaeche.width());
-    const double Fusshoehe = Seitenfuss * QFontMetricsF(Fussschrift, &Geraet).height();
-    const std::vector<Druckseite> Seiten = teile_in_Seiten(*Kopie, Flaeche.height() - Fusshoehe);
-    for (std::size_t i = 0; i < Seiten.size(); ++i) {
-        if (i > 0 && !Geraet.newPage()) return false;
-        male_Seite(p, Seiten[i]);
-        p.setFont(Fussschrift);
-        male_Fuss(p, Flaeche, Kopie->metaInformation(QTextDocument::DocumentTitle), i + 1, Seiten.size());
+    p.scale(d.Massstab, d.Massstab);
+    bool erste = true;
+    for (std::size_t i = 0; i < d.Seiten.size(); ++i) {
+        if (!gewuenscht.isEmpty() && !gewuenscht.contains(static_cast<int>(i) + 1)) continue;
+        if (!std::exchange(erste, false) && !Geraet.newPage()) return false;
+        male_Seite(p, d.Seiten[i]);
+        p.setFont(d.Fussschrift);
+        male_Fuss(p, d.Flaeche, Titel, i + 1, d.Seiten.size());
     }
     return p.end();
 }

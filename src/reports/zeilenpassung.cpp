@@ -33,17 +33,38 @@ bool ist_Tabellenzeile(const QTextBlock& b) { return b.text().count(u'\t') > 1; 
 
 using Spalten = std::vector<double>;
 
+// A size of the first so many characters of a paragraph.
+struct Schriftgrad {
+    double Punkte;
+    int Laenge;
+};
+
+QList<QTextLayout::FormatRange> Formate_in(const QTextBlock& b, Schriftgrad g) {
+    QList<QTextLayout::FormatRange> Formate;
+    for (QTextLayout::FormatRange r : b.textFormats()) {
+        const double eigene = r.format.fontPointSize();
+        const int vorn = std::clamp(g.Laenge - r.start, 0, r.length);
+        r.format.setFontPointSize(g.Punkte * Spielraum);
+        Formate.append({r.start, vorn, r.format});
+        r.format.setFontPointSize(eigene * Spielraum);
+        Formate.append({r.start + vorn, r.length - vorn, r.format});
+    }
+    return Formate;
+}
+
+int volle_Laenge(const QTextBlock& b) { return b.length() - 1; }
+
+Schriftgrad eigener(const QTextBlock& b) { return {Groesse(b), volle_Laenge(b)}; }
+
 // Where the cells behind the tabs begin if the paragraph is set in that size; nothing where it takes more than one line.
-std::optional<Spalten> Zellanfaenge(const QTextBlock& b, double Punkte) {
+std::optional<Spalten> Zellanfaenge(const QTextBlock& b, Schriftgrad g) {
     const QTextBlockFormat f = b.blockFormat();
-    QList<QTextLayout::FormatRange> Formate = b.textFormats();
-    for (QTextLayout::FormatRange& r : Formate) r.format.setFontPointSize(Punkte * Spielraum);
     QTextOption o;
     o.setTabs(alle_Tabulatoren(f));
     o.setUseDesignMetrics(true);
     QTextLayout Satz(b.text(), b.document()->defaultFont());
     Satz.setTextOption(o);
-    Satz.setFormats(Formate);
+    Satz.setFormats(Formate_in(b, g));
     Satz.beginLayout();
     QTextLine Zeile = Satz.createLine();
     Zeile.setLineWidth(Twips_in_Pixel(Textbreite) - f.leftMargin() - f.rightMargin());
@@ -65,8 +86,8 @@ struct Zeile {
     Spalten Soll;
 };
 
-bool passt(const Zeile& z, double Punkte) {
-    const std::optional<Spalten> Ist = Zellanfaenge(z.Absatz, Punkte);
+bool passt(const Zeile& z, Schriftgrad g) {
+    const std::optional<Spalten> Ist = Zellanfaenge(z.Absatz, g);
     const auto n = static_cast<std::ptrdiff_t>(Ist ? std::min(Ist->size(), z.Soll.size()) : 0);
     return Ist &&
            std::equal(Ist->begin(), Ist->begin() + n, z.Soll.begin(), [](double a, double b) { return std::abs(a - b) < 1; });
@@ -76,7 +97,7 @@ bool passt(const Zeile& z, double Punkte) {
 void richte_aus(std::vector<Zeile>& Zeilen, std::size_t von) {
     Spalten Soll;
     for (std::size_t i = von; i < Zeilen.size(); ++i) {
-        const Spalten Ist = Zellanfaenge(Zeilen[i].Absatz, Groesse(Zeilen[i].Absatz)).value_or(Spalten());
+        const Spalten Ist = Zellanfaenge(Zeilen[i].Absatz, eigener(Zeilen[i].Absatz)).value_or(Spalten());
         for (std::size_t k = 0; k < Ist.size(); ++k) {
             if (k == Soll.size()) Soll.push_back(Ist[k]);
             Soll[k] = std::min(Soll[k], Ist[k]);
@@ -102,22 +123,34 @@ std::vector<Zeile> Zeilen_von(const QTextBlock& Anfang, const QTextBlock& Ende) 
     return Zeilen;
 }
 
-void setze_Groesse(const QTextBlock& b, double Punkte) {
+void setze_Groesse(const QTextBlock& b, Schriftgrad g) {
     QTextCharFormat f;
-    f.setFontPointSize(Punkte);
+    f.setFontPointSize(g.Punkte);
     QTextCursor c(b);
-    c.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
+    c.movePosition(QTextCursor::NextCharacter, QTextCursor::KeepAnchor, g.Laenge);
     c.mergeCharFormat(f);
-    c.mergeBlockCharFormat(f);
+    if (g.Laenge == 0) c.mergeBlockCharFormat(f);  // an empty line is as high as its font
+}
+
+// The largest size of the first so many characters in which the row fits; 0 where it fits in none.
+double passende_Groesse(const Zeile& z, int Laenge, double kleinste) {
+    double Punkte = Groesse(z.Absatz);
+    while (Punkte >= kleinste && !passt(z, {Punkte, Laenge})) Punkte -= Schritt;
+    return Punkte >= kleinste ? Punkte : 0;
 }
 
 // A row that fits in no size keeps the one it has. `kleinste_Worte` is the smallest for a row that belongs to no table.
 void verkleinere_einzeln(const std::vector<Zeile>& Zeilen, double kleinste_Worte) {
     for (const Zeile& z : Zeilen) {
-        const double kleinste = z.Soll.empty() ? kleinste_Worte : kleinste_Groesse;
-        double Punkte = Groesse(z.Absatz);
-        while (Punkte >= kleinste && !passt(z, Punkte)) Punkte -= Schritt;
-        if (Punkte >= kleinste && Punkte < Groesse(z.Absatz)) setze_Groesse(z.Absatz, Punkte);
+        const bool Tabelle = !z.Soll.empty();
+        const auto erste_Zelle = static_cast<int>(z.Absatz.text().indexOf(u'\t'));
+        // The name in front of the numbers, or else all.
+        for (const int Laenge : {Tabelle ? erste_Zelle : 0, volle_Laenge(z.Absatz)}) {
+            const double Punkte = passende_Groesse(z, Laenge, Tabelle ? kleinste_Groesse : kleinste_Worte);
+            if (Punkte == 0) continue;
+            if (Punkte < Groesse(z.Absatz)) setze_Groesse(z.Absatz, {Punkte, Laenge});
+            break;
+        }
     }
 }
 
@@ -136,7 +169,7 @@ void passe_Zeilen_ein(QTextDocument& Dokument) {
     verkleinere_einzeln(Zeilen_von(Dokument.begin(), Anfang), kleinste_Eingabe);
     if (!Anfang.isValid()) return;
     const std::vector<Zeile> Ergebnisse = Zeilen_von(Anfang, Ende);
-    const auto zu_breite_Tabelle = [](const Zeile& z) { return !z.Soll.empty() && !passt(z, Groesse(z.Absatz)); };
+    const auto zu_breite_Tabelle = [](const Zeile& z) { return !z.Soll.empty() && !passt(z, eigener(z.Absatz)); };
     if (std::none_of(Ergebnisse.begin(), Ergebnisse.end(), zu_breite_Tabelle)) {
         verkleinere_einzeln(Ergebnisse, kleinste_Groesse);
         return;
@@ -144,7 +177,7 @@ void passe_Zeilen_ein(QTextDocument& Dokument) {
     const double Textgroesse = Groesse(Ergebnisse.front().Absatz);
     for (QTextBlock b = Anfang.next(); b.isValid() && b != Ende; b = b.next()) {
         const bool leer = b.text().isEmpty();
-        if (leer || Groesse(b) == Textgroesse) setze_Groesse(b, Ergebnisse_verkleinert);
+        if (leer || Groesse(b) == Textgroesse) setze_Groesse(b, {Ergebnisse_verkleinert, volle_Laenge(b)});
     }
     verkleinere_einzeln(Zeilen_von(Anfang, Ende), kleinste_Groesse);
 }

@@ -8,7 +8,7 @@
 #include <QTemporaryDir>
 #include <QTextDocumentFragment>
 
-#include "berichtsprobe.h"
+#include "berichtsarten.h"
 #include "fremdprogramm.h"
 #include "painting/bildflaeche.h"
 #include "records/dateien.h"
@@ -29,7 +29,8 @@ Bericht Bericht_mit_Metabolit(const char* Name) {
 class LibreOffice : public ::testing::Test {
 protected:
     void SetUp() override {
-        if (!ist_da("soffice")) GTEST_SKIP() << "soffice is not installed";
+        ASSERT_TRUE(ist_da("soffice")) << "libreoffice-writer-nogui is missing";
+        ASSERT_TRUE(ist_da("pdfimages")) << "poppler-utils is missing";
     }
     bool wandle(const char* Format, const QStringList& Dateien) const {
         const QString Profil = QStringLiteral("-env:UserInstallation=file://") + Ordner_.filePath(QStringLiteral("profile"));
@@ -58,7 +59,7 @@ TEST_F(LibreOffice, opens_the_rich_text) {
 
     ASSERT_TRUE(wandle("pdf", {QString::fromStdString(RTF)}));
     const auto Bilder = rufe("pdfimages", {QStringLiteral("-list"), Pfad("the problem.pdf")});
-    if (!Bilder) GTEST_SKIP() << "pdfimages is not installed";
+    ASSERT_TRUE(Bilder.has_value());
     EXPECT_THAT(*Bilder, HasSubstr(" image "));
 }
 
@@ -82,7 +83,6 @@ Bildseiten Seiten_von(const QString& PDF) {
 // Reports of different length, so that the picture comes to lie on every part of a page. Without the words that hold them
 // together some would be torn.
 TEST_F(LibreOffice, shows_headline_and_picture_on_the_last_page_however_long_the_report_is) {
-    if (!ist_da("pdfimages")) GTEST_SKIP() << "pdfimages is not installed";
     constexpr int Berichte = 6;
     QStringList Dateien;
     for (int i = 0; i < Berichte; ++i) {
@@ -108,7 +108,7 @@ TEST_F(LibreOffice, shows_headline_and_picture_on_the_last_page_however_long_the
 // A small converter that every machine can have. It keeps neither tabs nor runs of blanks, and of a character outside the
 // code page it takes the sign behind it away, so none stands at the end of the name.
 TEST(Unrtf, reads_the_text_and_the_picture) {
-    if (!ist_da("unrtf")) GTEST_SKIP() << "unrtf is not installed";
+    ASSERT_TRUE(ist_da("unrtf")) << "unrtf is missing";
     const Bericht b = Bericht_mit_Metabolit("Met {1} \\ ≥ жито µ €");
     QTemporaryDir Ordner;
     const QString RTF = QString::fromStdString(speichere_Bericht(b, Ordner.path().toStdString()));
@@ -121,6 +121,24 @@ TEST(Unrtf, reads_the_text_and_the_picture) {
     ASSERT_EQ(Bilder.size(), 1);
     const QImage Bild(Ordner.filePath(Bilder.front()));
     EXPECT_EQ(Bild.size(), QSize(Bildbreite, Bildhoehe) * Bildpunkte_pro_Einheit);
+}
+
+TEST(Unrtf, has_each_row_of_the_widest_report_as_one_line) {
+    ASSERT_TRUE(ist_da("unrtf")) << "unrtf is missing";
+    const Bericht b = Berichtsfaelle().back().schreibe();
+    QTemporaryDir Ordner;
+    const QString RTF = QString::fromStdString(speichere_Bericht(b, Ordner.path().toStdString()));
+    const std::string Html = rufe("unrtf", {QStringLiteral("--html"), RTF}, Ordner.path()).value();
+    const QString Text = QTextDocumentFragment::fromHtml(QString::fromStdString(Html)).toPlainText();
+    std::vector<std::string> gelesen;
+    for (const QString& z : Text.split(u'\n')) gelesen.push_back(ohne_Luecken(ersetzt(z.toStdString(), "\u00A0", "")));
+    int gesehen = 0;
+    for (const std::string& z : Zeilen(b.Text)) {
+        if (z.find('\t') == std::string::npos) continue;
+        EXPECT_THAT(gelesen, ::testing::Contains(ohne_Luecken(z)));
+        ++gesehen;
+    }
+    EXPECT_GT(gesehen, 100);
 }
 
 }  // namespace

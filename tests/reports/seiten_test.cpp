@@ -4,15 +4,25 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QAbstractTextDocumentLayout>
+#include <QMarginsF>
+#include <QPageLayout>
+#include <QPageRanges>
+#include <QPageSize>
+#include <QPdfWriter>
 #include <QTemporaryDir>
+#include <QTextBlock>
+#include <QTextLayout>
 #include <QXmlStreamReader>
 
 #include "berichtsarten.h"
 #include "fremdprogramm.h"
 #include "records/dateien.h"
 #include "reports/berichtswoerter.h"
+#include "reports/dokumentbild.h"
 #include "reports/seitenausgabe.h"
 #include "reports/seitenmass.h"
+#include "reports/twips.h"
 
 namespace varnok::probe {
 namespace {
@@ -287,6 +297,68 @@ TEST(Papier, pages_of_the_rich_text_are_as_those_of_the_PDF) {
     ASSERT_EQ(PDF.size(), RTF.size());
     for (const Probe& p : RTF) pruefe(p);
     for (std::size_t i = 0; i < RTF.size(); ++i) pruefe_gleiche_Tabulatoren(PDF[i], RTF[i]);
+}
+
+std::vector<Papierzeile> gedruckt_mit(const Bericht& b, const std::function<void(QPdfWriter&)>& richte_ein) {
+    const QTemporaryDir Ordner;
+    const QString Datei = Ordner.filePath(QStringLiteral("x.pdf"));
+    {
+        QPdfWriter Geraet(Datei);
+        Geraet.setPageSize(QPageSize(QPageSize::A4));
+        Geraet.setPageMargins(QMarginsF(Seitenrand_mm, Seitenrand_mm, Seitenrand_mm, Seitenrand_mm), QPageLayout::Millimeter);
+        richte_ein(Geraet);
+        EXPECT_TRUE(drucke_Dokument(*b.Dokument, Geraet));
+    }
+    return lies_PDF(Datei);
+}
+
+TEST(Papier, smaller_paper_shows_the_same_rows_smaller) {
+    ASSERT_TRUE(ist_da("pdftotext")) << "poppler-utils is missing";
+    const Berichtsfall& f = Berichtsfaelle().back();
+    Probe p{&f, f.schreibe(), {}};
+    p.Zeilen = gedruckt_mit(p.Inhalt, [](QPdfWriter& g) { g.setPageSize(QPageSize(QPageSize::A5)); });
+    pruefe_Zeilen(p);
+    for (const Papierzeile& z : p.Zeilen) EXPECT_LT(z.Woerter.back().links, 420) << z.Text();
+}
+
+TEST(Papier, only_the_pages_wanted_are_printed) {
+    ASSERT_TRUE(ist_da("pdftotext")) << "poppler-utils is missing";
+    const Bericht b = Berichtsfaelle().back().schreibe();
+    int Seiten = 0;
+    const auto Zeilen = gedruckt_mit(b, [&](QPdfWriter& g) {
+        Seiten = Seitenzahl(*b.Dokument, g);
+        QPageRanges Bereiche;
+        Bereiche.addRange(2, 3);
+        Bereiche.addPage(5);
+        g.setPageRanges(Bereiche);
+    });
+    ASSERT_GT(Seiten, 5);
+    std::vector<std::string> Fuesse;
+    for (const Papierzeile& z : Zeilen) {
+        const std::string Text = z.Text();
+        if (const auto i = Text.rfind("page"); i != std::string::npos) Fuesse.push_back(Text.substr(i));
+    }
+    const std::string von = "of" + std::to_string(Seiten);
+    EXPECT_THAT(Fuesse, ::testing::ElementsAre("page2" + von, "page3" + von, "page5" + von));
+}
+
+// The sheet of the window, set for its dots: what a row takes there does not depend on the window's width.
+TEST(Blatt, every_row_stands_on_one_line) {
+    for (const Berichtsfall& f : Berichtsfaelle()) {
+        SCOPED_TRACE(f.Name);
+        const Bericht b = f.schreibe();
+        const std::unique_ptr<QTextDocument> Blatt(kopiere_Dokument(*b.Dokument));
+        Blatt->setDocumentMargin(Twips_in_Pixel(Seitenrand));
+        Blatt->setTextWidth(Twips_in_Pixel(Papierbreite));
+        Blatt->documentLayout()->documentSize();  // lays it out to its end
+        int gesehen = 0;
+        for (QTextBlock z = Blatt->begin(); z.isValid(); z = z.next()) {
+            if (!z.text().contains(u'\t')) continue;
+            EXPECT_EQ(z.layout()->lineCount(), 1) << z.text().toStdString();
+            ++gesehen;
+        }
+        EXPECT_GT(gesehen, 30);
+    }
 }
 
 }  // namespace

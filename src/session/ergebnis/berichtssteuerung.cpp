@@ -42,7 +42,9 @@ void Berichtssteuerung::stelle_her(const Diagramm& Bild) {
 }
 
 void Berichtssteuerung::speichere_PDF(const std::string& Pfad) const {
-    if (Bericht_) schreibe_Datei(Pfad, als_PDF(*Bericht_->Dokument, Bericht_->Name));
+    if (!Bericht_) return;
+    schreibe_Datei(Pfad, als_PDF(*Bericht_->Dokument, Bericht_->Name));
+    z_.Statuszeile = "Report written: " + Pfad;
 }
 
 }  // namespace varnok

@@ -26,7 +26,7 @@ public:
     // The report on the screen, null without one.
     const Bericht* offener() const { return Bericht_.get(); }
 
-    // PDF of the open report; throws Laufzeitfehler where the file cannot be written.
+    // PDF of the open report, and where it went in the status line; throws Laufzeitfehler where the file cannot be written.
     void speichere_PDF(const std::string& Pfad) const;
 
 private:

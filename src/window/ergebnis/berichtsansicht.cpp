@@ -6,17 +6,22 @@
 #include <QFileDialog>
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QPointer>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QVBoxLayout>
+#include <cmath>
 
 #include "painting/qt_text.h"
 #include "reports/dokumentbild.h"
+#include "reports/html_schreiber.h"
 #include "reports/rtf_schreiber.h"
 #include "reports/seitenausgabe.h"
+#include "reports/seitenmass.h"
+#include "reports/twips.h"
 #include "session/kern/texte.h"
 #include "window/kern/bausteine.h"
 
@@ -31,7 +36,9 @@ Berichtsansicht::Berichtsansicht(Sitzung& Programm, QWidget* Flaeche, QWidget* p
     Bericht_->setObjectName(u"Bericht"_s);
     Bericht_->setAccessibleName(u"Report"_s);
     Bericht_->setReadOnly(true);
-    // Paper is white on every desktop.
+    // As wide as its paper, so that every row stands on one line; paper is white on every desktop.
+    Bericht_->setLineWrapMode(QTextEdit::FixedPixelWidth);
+    Bericht_->setLineWrapColumnOrWidth(static_cast<int>(std::ceil(Twips_in_Pixel(Papierbreite))));
     Bericht_->setStyleSheet(u"QTextEdit { background: white; color: black; }"_s);
 
     auto* Blatt = new QVBoxLayout(this);
@@ -72,6 +79,7 @@ void Berichtsansicht::fuelle() {
     // to the end, so the old one goes after it has taken the new one.
     auto* neues = gezeigter_ == nullptr ? new QTextDocument : kopiere_Dokument(*gezeigter_->Dokument);
     neues->setParent(Bericht_);
+    neues->setDocumentMargin(Twips_in_Pixel(Seitenrand));
     const QPointer<QTextDocument> altes(Bericht_->document());
     Bericht_->setDocument(neues);
     delete altes;
@@ -90,27 +98,43 @@ void Berichtsansicht::kopiere() {
     if (gezeigter_ == nullptr) return;
     auto* Inhalt = new QMimeData;
     Inhalt->setData(u"text/rtf"_s, QByteArray::fromStdString(gezeigter_->RTF));
-    Inhalt->setHtml(Bericht_->toHtml());
+    Inhalt->setHtml(als_HTML(*gezeigter_->Dokument));
     Inhalt->setText(Bericht_->toPlainText());
     QApplication::clipboard()->setMimeData(Inhalt);
 }
 
+QString Berichtsansicht::PDF_Vorschlag() const {
+    return in_Qt(Stand().Projektpfad) + u"/output/"_s + in_Qt(gezeigter_->Name) + u".pdf"_s;
+}
+
 void Berichtsansicht::speichere_PDF() {
-    const QString Vorschlag = in_Qt(Stand().Projektpfad) + u"/output/"_s + in_Qt(gezeigter_->Name) + u".pdf"_s;
-    QString Pfad = QFileDialog::getSaveFileName(window(), u"Save report as PDF"_s, Vorschlag, u"PDF (*.pdf)"_s);
+    if (gezeigter_ == nullptr) return;
+    QString Pfad = QFileDialog::getSaveFileName(window(), u"Save report as PDF"_s, PDF_Vorschlag(), u"PDF (*.pdf)"_s);
     if (Pfad.isEmpty()) return;
     if (!Pfad.endsWith(u".pdf"_s, Qt::CaseInsensitive)) Pfad += u".pdf"_s;
     befiehl<&Berichtssteuerung::speichere_PDF>(aus_Qt(Pfad));
 }
 
+void Berichtsansicht::richte_Drucker_ein(QPrinter& Drucker) const {
+    Drucker.setDocName(in_Qt(gezeigter_->Name));
+    Drucker.setCreator(u"VARNOK"_s);
+    Drucker.setPageSize(QPageSize(QPageSize::A4));
+    Drucker.setPageMargins(QMarginsF(Seitenrand_mm, Seitenrand_mm, Seitenrand_mm, Seitenrand_mm), QPageLayout::Millimeter);
+}
+
 void Berichtsansicht::drucke() {
     if (gezeigter_ == nullptr) return;
     QPrinter Drucker(QPrinter::HighResolution);
+    richte_Drucker_ein(Drucker);
     QPrintDialog Dialog(&Drucker, window());
-    Dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
+    // The dialog shows page numbers whether they are wanted or not: so they count.
+    Dialog.setOption(QAbstractPrintDialog::PrintPageRange, true);
+    Dialog.setMinMax(1, Seitenzahl(*gezeigter_->Dokument, Drucker));
     const bool ausgewaehlt = Bericht_->textCursor().hasSelection();
     Dialog.setOption(QAbstractPrintDialog::PrintSelection, ausgewaehlt);
     if (ausgewaehlt) Dialog.setPrintRange(QAbstractPrintDialog::Selection);
+    // Its field for the name of a file is empty where paper is printed to, also after a change to a file.
+    if (auto* Dateiname = Dialog.findChild<QLineEdit*>(u"filename"_s)) Dateiname->setText(PDF_Vorschlag());
     if (Dialog.exec() != QDialog::Accepted) return;
     bool gedruckt = false;
     if (Dialog.printRange() != QAbstractPrintDialog::Selection) {

@@ -4,6 +4,8 @@
 
 #include "window/kern/rahmen.h"
 
+class QPrinter;
+
 namespace varnok {
 
 // The report over the results: shown while the session has one open, read only, with the ways out of the program.
@@ -25,6 +27,10 @@ private:
     void schliesse();
     void kopiere();
     void speichere_PDF();
+    // Where the program would put a PDF of the report.
+    QString PDF_Vorschlag() const;
+    // Its paper, margins and the name of the document.
+    void richte_Drucker_ein(QPrinter& Drucker) const;
     // The focus went to another control of the window.
     void pruefe_Fokus(const QWidget* alt, const QWidget* neu);
 

@@ -131,6 +131,7 @@ TEST_F(Berichtsprobe, is_saved_as_a_PDF) {
     s_->fuehre_aus<&Berichtssteuerung::erstelle>();
     s_->fuehre_aus<&Berichtssteuerung::speichere_PDF>((Wurzel_ / "report.pdf").string());
     EXPECT_EQ(Datei("report.pdf").substr(0, 5), "%PDF-");
+    EXPECT_EQ(s_->Stand().Statuszeile, "Report written: " + (Wurzel_ / "report.pdf").string());
 }
 
 }  // namespace
