@@ -1,9 +1,10 @@
 // Takes the pictures of the window that the documentation shows. Walks through the program as a user would, on a copy of
 // the shipped data, without a display:
 //
-//     bildschirmfotos <folder for the pictures> [dark|large]
+//     bildschirmfotos <folder for the pictures> [dark|large|diagrams|scale <name>]
 //
-// "dark" takes them on a dark desktop, "large" with large letters.
+// "dark" takes them on a dark desktop, "large" with large letters; "diagrams" takes the diagrams alone, "scale" one of them,
+// named for the scale that the environment gives the screen.
 
 #include <QApplication>
 #include <QComboBox>
@@ -95,7 +96,57 @@ public:
         zeige_Meldung();
     }
 
+    // All kinds of diagrams in all views: on the screen at four sizes, and as pictures in colours and for print.
+    void zeige_Diagramme() {
+        Taste(u"Starten"_s);
+        const std::pair<QString, int> Arten[] = {{u"one_compound"_s, 0}, {u"metabolite"_s, 1}, {u"all_compounds"_s, 3}};
+        const std::pair<QString, QString> Ansichten[] = {
+            {u"annual"_s, u"PEC_Typ_0"_s}, {u"background"_s, u"PEC_Typ_1"_s}, {u"accumulated"_s, u"PEC_Typ_2"_s}};
+        waehle_Simulation(u"Sugar beet, Compound E"_s);
+        for (const auto& [Ansicht, Knopf] : Ansichten) {
+            for (const auto& [Art, Klicks] : Arten) {
+                Option(u"PEC_Typ_0"_s);  // with the parent in front
+                Option(Knopf);
+                klicke_weiter(Klicks);
+                nimm_Diagramm_auf(Art + u'_' + Ansicht);
+            }
+            befehle(u"M_Zusammenfassung"_s);
+            nimm_Diagramm_auf(u"all_studies_"_s + Ansicht);
+            befehle(u"M_Studien"_s);
+        }
+        waehle_Simulation(u"Maize, Compound G"_s);  // twelve averages
+        Option(u"PEC_Typ_0"_s);
+        nimm_Diagramm_auf(u"twelve_averages"_s);
+    }
+
+    // One diagram of each kind, as the screen shows it at its scale.
+    void zeige_Massstab(const QString& Massstab) {
+        Taste(u"Starten"_s);
+        waehle_Simulation(u"Sugar beet, Compound E"_s);
+        Option(u"PEC_Typ_0"_s);
+        klicke_weiter(3);
+        Fenster_->resize(900, 560);
+        QTest::qWait(60);
+        vorn()->grab().save(Ziel_.filePath(u"scale_"_s + Massstab + u".png"_s), "PNG", -1);
+    }
+
 private:
+    void nimm_Diagramm_auf(const QString& Name) {
+        for (const QSize& g : {QSize(900, 560), QSize(1180, 760), QSize(1440, 900), QSize(2000, 1200)}) {
+            Fenster_->resize(g);
+            QTest::qWait(40);
+            vorn()->grab().save(Ziel_.filePath(Name + u'_' + in_Qt(g.width()) + u".png"_s), "PNG", -1);
+        }
+        const QSizeF Groesse(mm_in_Einheiten(120), mm_in_Einheiten(90));
+        for (const bool Druck : {false, true}) {
+            const Zeichenliste z = mit_Beschriftung(*vorn()->Inhalt(), {.Groesse = Groesse, .fuer_Druck = Druck});
+            const QString Datei = Name + (Druck ? u"_for_print.png"_s : u"_saved.png"_s);
+            Bild_als_Pixel(z, Groesse, 150).save(Ziel_.filePath(Datei), "PNG", -1);
+        }
+        Fenster_->resize(1180, 760);
+        QTest::qWait(40);
+    }
+
     void kopiere_Projekt() {
         const QDir von(QStringLiteral(VARNOK_DATENORDNER "/input"));
         QDir(Projekt_.path()).mkpath(u"input"_s);
@@ -147,8 +198,9 @@ private:
 
     // The picture that "Save picture as" makes of the diagram in front.
     void gib_aus(const QString& Name) {
-        const Zeichenliste z = mit_Beschriftung(*vorn()->Inhalt(), vorn()->Legende()->gezogen());
-        Bild_als_Pixel(z, 150).save(Ziel_.filePath(Name + u".png"_s), "PNG", -1);
+        const QSizeF Groesse(mm_in_Einheiten(160), mm_in_Einheiten(125));
+        const Zeichenliste z = mit_Beschriftung(*vorn()->Inhalt(), {.Groesse = Groesse, .Legende = vorn()->Legende()->gezogen()});
+        Bild_als_Pixel(z, Groesse, 150).save(Ziel_.filePath(Name + u".png"_s), "PNG", -1);
     }
 
     // The mouse over a curve.
@@ -321,11 +373,18 @@ QPalette dunkle_Palette() {
 int main(int argc, char** argv) {
     QApplication Anwendung(argc, argv);
     const QStringList Argumente = QApplication::arguments();
-    if (argc < 2) qFatal("usage: bildschirmfotos <folder> [dark|large]");
+    if (argc < 2) qFatal("usage: bildschirmfotos <folder> [dark|large|diagrams|scale <name>]");
     QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
     QApplication::setFont(QFont(u"DejaVu Sans"_s, Argumente.contains(u"large"_s) ? 14 : 9));
     if (Argumente.contains(u"dark"_s)) QApplication::setPalette(dunkle_Palette());
     QLocale::setDefault(QLocale::c());
-    Fotograf(Argumente[1]).gehe_durch();
+    Fotograf Fotos(Argumente[1]);
+    if (Argumente.contains(u"diagrams"_s)) {
+        Fotos.zeige_Diagramme();
+    } else if (Argumente.contains(u"scale"_s)) {
+        Fotos.zeige_Massstab(Argumente.back());
+    } else {
+        Fotos.gehe_durch();
+    }
     return 0;
 }

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "base/laufzeitfehler.h"
+#include "base/text.h"
 #include "base/zahlen.h"
 #include "base/zeichensatz.h"
 #include "records/zeilen.h"
@@ -70,6 +71,26 @@ bool lies_Liste(Zeilenfolge& Zeilen, std::array<double, n>& Liste) {
     return std::all_of(Liste.begin(), Liste.end(), [&](double& Dauer) { return lies_Dauer(Zeilen, Dauer); });
 }
 
+constexpr const char* Bildzeile = "Pictures:";
+
+// Numbers out of their range, or another line than that, are none of this program.
+void lies_Bildzeile(Zeilenfolge& Zeilen, Bildeinstellung& Ziel) {
+    const auto Zeile = Zeilen.naechste();
+    if (!Zeile) return;
+    const auto Teile = zerlege_an(*Zeile, '\t');
+    if (Teile.size() != 5 || Teile[0] != Bildzeile) return;
+    const auto Breite = ganze_Zahl(Wert(Teile[1]), kleinstes_Bild, groesstes_Bild);
+    const auto Hoehe = ganze_Zahl(Wert(Teile[2]), kleinstes_Bild, groesstes_Bild);
+    const auto Aufloesung = ganze_Zahl(Wert(Teile[3]), kleinste_Aufloesung, groesste_Aufloesung);
+    if (Breite && Hoehe && Aufloesung) Ziel = {*Breite, *Hoehe, *Aufloesung, Wert(Teile[4]) > 0};
+}
+
+std::string als_Bildzeile(const Bildeinstellung& b) {
+    std::string Zeile = Bildzeile;
+    for (const int Zahl : {b.Breite, b.Hoehe, b.Aufloesung, static_cast<int>(b.fuer_Druck)}) Zeile += '\t' + std::to_string(Zahl);
+    return Zeile + "\r\n";
+}
+
 }  // namespace
 
 std::optional<Einstellungen> zerlege_Einstellungen(const std::string& Bytes) {
@@ -80,6 +101,7 @@ std::optional<Einstellungen> zerlege_Einstellungen(const std::string& Bytes) {
                          lies_Text(Zeilen, e.TWA_Titel_Monat) && lies_Liste(Zeilen, e.TWA.Monat);
     if (!gelesen) return std::nullopt;
     lies_Text(Zeilen, e.Projektpfad);  // older files end before it
+    lies_Bildzeile(Zeilen, e.Bild);
     return e;
 }
 
@@ -90,7 +112,8 @@ std::string Einstellungen_als_Bytes(const Einstellungen& e) {
     for (const double Tage : e.TWA.EU) Bytes += als_Dauer(Tage);
     Bytes += als_Zeile(e.TWA_Titel_Monat);
     for (const double Tage : e.TWA.Monat) Bytes += als_Dauer(Tage);
-    return Bytes + als_Zeile(e.Projektpfad);
+    Bytes += als_Zeile(e.Projektpfad);
+    return e.Bild == Bildeinstellung() ? Bytes : Bytes + als_Bildzeile(e.Bild);
 }
 
 }  // namespace varnok

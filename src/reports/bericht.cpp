@@ -59,7 +59,7 @@ Bericht schreibe_Bericht(const Berichtsauftrag& a) {
     Textauswahl w(*b.Dokument, QString::fromStdString(b.Text));
     formatiere_Bericht(w, b.Text, Stoffnamen(a.Inhalt), a.Art);
 
-    const Zeichenliste Bild = mit_Beschriftung(a.Bild, a.Legende);
+    const Zeichenliste Bild = mit_Beschriftung(a.Bild, {.Legende = a.Legende, .fuer_Druck = a.fuer_Druck});
     merke_Zeichnung(*b.Dokument, Bild);
     w.suche(QString::fromLatin1(Berichtswort::Bildplatz));
     w.halte_beisammen();

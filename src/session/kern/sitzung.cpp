@@ -135,6 +135,14 @@ void Sitzung::stelle_Eingabe_her(const Eingabe& e) {
     z_.Vorgabe.Applikationsschema = e.Applikationsschema;
 }
 
+void Sitzung::sieh_an(const std::function<void(Diagrammsteuerung&)>& Befehl) {
+    befolge([&] { Befehl(Diagramme_); });
+}
+
+void Sitzung::gib_aus(const std::function<void(Bildsteuerung&)>& Befehl) {
+    befolge([&] { Befehl(Bilder_); });
+}
+
 bool Sitzung::oeffne_Projekt() {
     bool weiter = false;
     tue([&] { weiter = starte_Programm(z_, Saetze_); });

@@ -13,6 +13,7 @@
 #include "session/eingabe/feldeingabe.h"
 #include "session/eingabe/listenwahl.h"
 #include "session/ergebnis/berichtssteuerung.h"
+#include "session/ergebnis/bildsteuerung.h"
 #include "session/ergebnis/laufsteuerung.h"
 #include "session/kern/zustand.h"
 #include "session/programm/aktualisierungssteuerung.h"
@@ -81,6 +82,11 @@ public:
     bool skaliere_Diagramm(const std::string& Start, const std::string& Ende);
     // After the dialog has closed, also by Cancel: a run in the single view, a drawing in the summary.
     void schliesse_Skalierung();
+
+    // A closer look at the diagram in front; pictures and data of it for other programs.
+    void sieh_an(const std::function<void(Diagrammsteuerung&)>& Befehl);
+    const Bildsteuerung& Bilder() const { return Bilder_; }
+    void gib_aus(const std::function<void(Bildsteuerung&)>& Befehl);
 
     // The legend of a diagram was dragged to a place of its surface, or called home.
     void merke_Legende(bool Zusammenfassung, int Diagrammsatz, const std::optional<Flaechenort>& Ort);
@@ -198,6 +204,7 @@ private:
 
     Zustand z_;
     Diagrammsteuerung Diagramme_{z_};
+    Bildsteuerung Bilder_{z_, Diagramme_};
     Laufsteuerung Laeufe_{z_};
     Feldeingabe Felder_{z_, Laeufe_};
     Satzverwaltung Saetze_{z_, Laeufe_, Felder_, Diagramme_};

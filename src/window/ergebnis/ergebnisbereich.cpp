@@ -53,6 +53,12 @@ Diagrammflaeche* Ergebnisbereich::erstelle_Flaeche(bool Zusammenfassung, int Num
     auto* d = new Diagrammflaeche(Zusammenfassung, Nummer, Titel, s.Flaeche);
     s.Stapel->addWidget(d);
     connect(d, &Diagrammflaeche::weiterzuschalten, this, [this] { handle([&] { Programm_.schalte_Diagramm_weiter(); }); });
+    connect(d, &Diagrammflaeche::Zeitraum_gezogen, this, [this](double von, double bis) {
+        handle([&] { Programm_.sieh_an([&](Diagrammsteuerung& t) { t.zeige_Zeitraum({von, bis}); }); });
+    });
+    connect(d, &Diagrammflaeche::gedreht, this, [this](double Faktor, double Tag) {
+        handle([&] { Programm_.sieh_an([&](Diagrammsteuerung& t) { t.strecke(Faktor, Tag); }); });
+    });
     // The press ends before the dialog takes over.
     connect(d, &Diagrammflaeche::zu_skalieren, this, &Ergebnisbereich::skaliere, Qt::QueuedConnection);
     connect(d->Legende(), &Flaechenrahmen::umgestellt, this,
@@ -70,7 +76,7 @@ Diagrammflaeche* Ergebnisbereich::Flaeche_fuer_Befehl() {
     bool frei = true;
     if (Programm_.aktives_Feld() >= 0) handle([&] { frei = Programm_.schliesse_Feld_ab(); });
     if (!frei || Stand().abgedeckt() || !Stand().Gestartet) return nullptr;
-    Diagrammflaeche* d = Flaeche_vorn(Seiten_[Felder().Berechnungsmodus]);
+    Diagrammflaeche* d = Flaeche_vorn();
     return d->Inhalt() ? d : nullptr;
 }
 
@@ -139,7 +145,7 @@ void Ergebnisbereich::fuelle_Diagramme(const Seite& s) {
         if (Treffer == Liste.end()) {
             f->leere();
         } else {
-            f->zeige(*Treffer);
+            f->zeige(*Treffer, Programm_.Diagramme().Anblick());
         }
     }
 }
