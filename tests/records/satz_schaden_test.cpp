@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
-#include <chrono>
 #include <filesystem>
 
 #include "base/laufzeitfehler.h"
@@ -125,15 +124,13 @@ TEST_P(Satz_Schaden, other_kinds_of_file) {
 
 INSTANTIATE_TEST_SUITE_P(alle, Satz_Schaden, ::testing::Values(Wirkstoff, Applikation, Szenario));
 
-TEST(Satz_Groesse, line_of_16_megabytes_is_read_at_once) {
+TEST(Satz_Groesse, line_of_16_megabytes_is_read_and_cut) {
     Satzprobe p;
-    const auto Anfang = std::chrono::steady_clock::now();
     const std::string Satz = Bytes(Szenario, volle_Probe());
     const std::string lang = mit_Zeile(Satz, 2, "Soil scenario:\t" + std::string(Hoechstgroesse_Datei - Satz.size(), 'x'));
     EXPECT_EQ(lies(lang, Szenario, p).Ausgang, Leseausgang::gelesen);
     EXPECT_EQ(p.Felder.Bodenszenario, std::string(255, 'x'));
     EXPECT_EQ(p.Felder.Parameter.Bodendichte, 1.5);
-    EXPECT_LT(std::chrono::steady_clock::now() - Anfang, std::chrono::seconds(10));
 }
 
 TEST(Satz_Groesse, larger_file_is_refused_with_its_name) {

@@ -5,6 +5,7 @@
 #include <array>
 #include <map>
 #include <memory>
+#include <tuple>
 #include <vector>
 
 #include "run/lauf.h"
@@ -21,12 +22,7 @@ public:
 
 private:
     using Reihe = std::array<float, Tagesplaetze>;
-    struct Platz {
-        int i_substanz;
-        Tiefe t;
-        int Slot;
-        auto operator<=>(const Platz&) const = default;
-    };
+    using Platz = std::tuple<int, Tiefe, int>;  // compound, depth, slot
 
     int i_studie_ = 0;
     std::array<std::map<Platz, std::unique_ptr<Reihe>>, max_Studien> Reihen_;

@@ -77,7 +77,8 @@ protected:
             QMessageBox::keyPressEvent(e);
         }
     }
-    void closeEvent(QCloseEvent* e) override { QDialog::closeEvent(e); }
+    // The close box answers a question that has no button for "not now", too; a message box alone would refuse.
+    void closeEvent(QCloseEvent*) override { reject(); }
     // Tab.
     bool focusNextPrevChild(bool vor) override {
         erwache();

@@ -3,63 +3,14 @@
 # Returns 77 where one of the tools is missing.
 set -euo pipefail
 
-programm=$(realpath "$1")
-daten=$(realpath "$2")
+name=rauchtest
+werkzeuge=(xwd python3)
+geduld=15
+source "$(dirname "${BASH_SOURCE[0]}")/buehne.sh"
 
-fehler() {
-    echo "rauchtest: $*" >&2
-    exit 1
-}
-
-if [[ ${3:-} != innen ]]; then
-    for werkzeug in xvfb-run xauth openbox xdotool xwd python3; do
-        command -v "$werkzeug" >/dev/null || { echo "rauchtest: no $werkzeug" >&2; exit 77; }
-    done
-    [[ -x $programm ]] || fehler "no program $programm"
-    ordner=$(mktemp -d)
-    trap 'rm -rf "$ordner"' EXIT
-    xvfb-run -a -s '-screen 0 1400x1000x24 -nolisten tcp' "$BASH" "$0" "$programm" "$daten" innen "$ordner"
-    exit
-fi
-
-ordner=$4
-projekt=$ordner/projekt
-mkdir -p "$projekt" "$ordner/heim" "$ordner/lauf"
-chmod 700 "$ordner/lauf"
-cp -r "$daten/input" "$projekt/input"
-chmod -R u+w "$projekt"
 # The newest simulation is the one that the program opens.
 touch -d '2 hours ago' "$projekt"/input/*.vnk
 touch -d '1 hour ago' "$projekt/input/Programcheck.vnk"
-
-export HOME=$ordner/heim XDG_CONFIG_HOME=$ordner/heim XDG_DATA_HOME=$ordner/heim XDG_CACHE_HOME=$ordner/heim
-export XDG_RUNTIME_DIR=$ordner/lauf QT_QPA_PLATFORM=xcb LC_ALL=C.UTF-8
-unset WAYLAND_DISPLAY QT_SCALE_FACTOR QT_STYLE_OVERRIDE
-
-pid_verwalter= pid_programm=
-raeume_auf() {
-    for pid in $pid_programm $pid_verwalter; do
-        kill "$pid" 2>/dev/null || continue
-        wait "$pid" 2>/dev/null || true
-    done
-    return 0
-}
-trap raeume_auf EXIT
-
-openbox --sm-disable >/dev/null 2>&1 &
-pid_verwalter=$!
-
-# warte_auf <what> <command...>: until the command succeeds, 15 s at most.
-warte_auf() {
-    local was=$1 i
-    shift
-    for ((i = 0; i < 150; ++i)); do
-        "$@" && return
-        [[ -z $pid_programm ]] || kill -0 "$pid_programm" 2>/dev/null || fehler "the program has ended while waiting for $was: $(cat "$ordner/ausgabe.txt")"
-        sleep 0.1
-    done
-    fehler "waited in vain for $was"
-}
 
 bild() { xwd -root -silent >"$ordner/$1.xwd"; }
 
@@ -82,19 +33,11 @@ print(sum(bild[i * zeile + j + von:i * zeile + j + von + 3] == gelb
 PYTHON
 }
 
-taste() {
-    timeout 10 xdotool key --clearmodifiers "$@"
-    sleep 0.15
-}
-
-hat_verwalter() { timeout 5 xdotool getwindowfocus >/dev/null 2>&1; }
 finde_fenster() {
     fenster=$(timeout 5 xdotool search --onlyvisible --name '^VARNOK - Soil residue forecast tool$' 2>/dev/null | head -n 1) && [[ -n $fenster ]]
 }
 ist_aktiv() { [[ $(timeout 5 xdotool getactivewindow 2>/dev/null) == "$fenster" ]]; }
 
-warte_auf 'the window manager' hat_verwalter
-cd "$projekt"
 "$programm" >"$ordner/ausgabe.txt" 2>&1 &
 pid_programm=$!
 warte_auf 'the window' finde_fenster
@@ -137,16 +80,7 @@ touch "$ordner/marke"
 sleep 0.05
 taste alt+f
 taste e
-ist_beendet() { ! kill -0 "$pid_programm" 2>/dev/null; }
-for ((i = 0; i < 100; ++i)); do
-    ist_beendet && break
-    sleep 0.1
-done
-ist_beendet || fehler 'the program does not end by File, Exit'
-rc=0
-wait "$pid_programm" || rc=$?
-pid_programm=
-((rc == 0)) || fehler "the program ended with $rc: $(cat "$ordner/ausgabe.txt")"
+erwarte_Ende
 
 [[ VARNOK.ini -nt $ordner/marke ]] || fehler 'VARNOK.ini was not written on exit'
 [[ input/Programcheck.vnk -nt $ordner/marke ]] || fehler 'the summary file was not written on exit'
