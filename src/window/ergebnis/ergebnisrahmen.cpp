@@ -73,7 +73,6 @@ Ergebnisrahmen::Ergebnisrahmen(const QString& Endung, const QString& Titel, QWid
     Tafel_->setTabKeyNavigation(false);
     // A press may be the start of a drag: only a click within a cell takes the focus.
     Tafel_->setFocusPolicy(Qt::TabFocus);
-    Tafel_->viewport()->setFocusPolicy(Qt::NoFocus);
     Tafel_->setShowGrid(false);
     QPalette Grund = palette();
     Grund.setColor(QPalette::Base, palette().color(QPalette::Window));
