@@ -38,10 +38,11 @@ public:
     explicit Arbeitsplatz(const char* Simulation) {
         std::filesystem::copy(VARNOK_DATENORDNER, Ordner_.path().toStdString(), std::filesystem::copy_options::recursive);
         Programm_ = std::make_unique<Sitzung>(Umgebung{&Antworten_, Ordner_.path().toStdString(), "", '.'});
-        Programm_->oeffne_Projekt();
-        Programm_->Starten();
+        Programm_->fuehre_aus<&Programmablauf::oeffne_Projekt>();
+        Programm_->fuehre_aus<&Programmablauf::starte>();
         const auto& Namen = Programm_->Stand().Listen[0];
-        Programm_->waehle_Simulation(static_cast<int>(std::find(Namen.begin(), Namen.end(), Simulation) - Namen.begin()));
+        Programm_->fuehre_aus<&Satzverwaltung::waehle_Simulation>(
+            static_cast<int>(std::find(Namen.begin(), Namen.end(), Simulation) - Namen.begin()));
         Fenster_ = std::make_unique<Hauptformular>(*Programm_, nullptr);
         Fenster_->show();
         if (!QTest::qWaitForWindowActive(Fenster_.get())) std::abort();  // without the focus nothing is measured
@@ -69,7 +70,7 @@ private:
 
 void Feld_verlassen(benchmark::State& Zustand, const char* Simulation, bool Zusammenfassung) {
     Arbeitsplatz a(Simulation);
-    if (Zusammenfassung) a.Programm().zeige_Zusammenfassung();
+    if (Zusammenfassung) a.Programm().fuehre_aus<&Listenwahl::zeige_Zusammenfassung>();
     int i = 0;
     for (auto _ : Zustand) a.tippe("S_Q10_0", ++i % 2 == 0 ? QStringLiteral("2.5") : QStringLiteral("2.6"));
     Zustand.counters["peak_MB"] = groesster_Speicher();
@@ -78,9 +79,9 @@ void Feld_verlassen(benchmark::State& Zustand, const char* Simulation, bool Zusa
 // All diagrams of the scheme built anew, with their files written; nothing is calculated.
 void Neuzeichnen(benchmark::State& Zustand, const char* Simulation, bool Zusammenfassung) {
     Arbeitsplatz a(Simulation);
-    if (Zusammenfassung) a.Programm().zeige_Zusammenfassung();
+    if (Zusammenfassung) a.Programm().fuehre_aus<&Listenwahl::zeige_Zusammenfassung>();
     int i = 0;
-    for (auto _ : Zustand) a.Programm().waehle_Endpunkt(++i % 2 == 0 ? Gesamtgehalt : Porenwasser);
+    for (auto _ : Zustand) a.Programm().fuehre_aus<&Listenwahl::waehle_Endpunkt>(++i % 2 == 0 ? Gesamtgehalt : Porenwasser);
 }
 
 BENCHMARK_CAPTURE(Neuzeichnen, three_compounds, "Sugar beet, Compound E", false)->Unit(benchmark::kMillisecond);
@@ -89,7 +90,7 @@ BENCHMARK_CAPTURE(Neuzeichnen, six_studies_summary, "Sugar beet, Compound E", tr
 // From the button to the report on the screen and its file.
 void Bericht_erstellen(benchmark::State& Zustand) {
     Arbeitsplatz a("Sugar beet, Compound E");
-    for (auto _ : Zustand) a.Programm().erstelle_Bericht();
+    for (auto _ : Zustand) a.Programm().fuehre_aus<&Berichtssteuerung::erstelle>();
 }
 BENCHMARK(Bericht_erstellen)->Unit(benchmark::kMillisecond);
 

@@ -101,20 +101,20 @@ protected:
     Sitzung& oeffne() {
         s_.reset();
         s_ = std::make_unique<Sitzung>(Umgebung{&Fragen_, Projekt().string(), VARNOK_DATENORDNER, '.', &Uhr_});
-        EXPECT_TRUE(s_->oeffne_Projekt());
-        s_->Starten();
+        EXPECT_TRUE(s_->fuehre_aus<&Programmablauf::oeffne_Projekt>());
+        s_->fuehre_aus<&Programmablauf::starte>();
         const auto& Liste = s_->Stand().Listen[Simulation];
         const auto Platz = std::find(Liste.begin(), Liste.end(), GetParam().Simulation) - Liste.begin();
-        s_->waehle_Simulation(static_cast<int>(Platz));
+        s_->fuehre_aus<&Satzverwaltung::waehle_Simulation>(static_cast<int>(Platz));
         return *s_;
     }
 
     // The report of what the window shows is the file that varnok-batch wrote under that name and an addition. Where the
     // description makes no file name, neither program has a report.
     void vergleiche_Bericht(const std::string& Zusatz) {
-        s_->erstelle_Bericht();
-        const bool geschrieben = s_->offener_Bericht() != nullptr;
-        s_->schliesse_Bericht();
+        s_->fuehre_aus<&Berichtssteuerung::erstelle>();
+        const bool geschrieben = s_->zeige<Berichtssteuerung>().offener() != nullptr;
+        s_->fuehre_aus<&Berichtssteuerung::schliesse>();
         ASSERT_EQ(geschrieben, Berichte_moeglich_);
         if (!geschrieben) return;
         const std::string Name = s_->Stand().Ergebnisdatei;
@@ -153,7 +153,7 @@ TEST_P(Eine_Rechnung, gives_the_same_bytes_in_both_programs) {
 
     const int Studien = z.Studienzahl();
     for (int st = 0; st < Studien; ++st) {
-        oeffne().waehle_Studie(st);
+        oeffne().fuehre_aus<&Listenwahl::waehle_Studie>(st);
         const Zustand& jetzt = s_->Stand();
         ASSERT_FALSE(jetzt.abgedeckt()) << st;
         EXPECT_TRUE(batch::Serientext(jetzt.zeige().Studie()) ==
@@ -163,12 +163,12 @@ TEST_P(Eine_Rechnung, gives_the_same_bytes_in_both_programs) {
     }
 
     oeffne();
-    for (int st = 1; st < Studien; ++st) s_->waehle_Studie(st);
+    for (int st = 1; st < Studien; ++st) s_->fuehre_aus<&Listenwahl::waehle_Studie>(st);
     const JSON vom_Fenster = ohne_Bemerkungen(als_Dokument(s_->Stand(), GetParam().Simulation));
     EXPECT_EQ(vom_Fenster, ohne_Bemerkungen(JSON::parse(Inhalt(Ausgabe("ergebnis.json")))));
 
     if (Studien < 2) return;
-    oeffne().zeige_Zusammenfassung();
+    oeffne().fuehre_aus<&Listenwahl::zeige_Zusammenfassung>();
     vergleiche_Bericht(" - extended");
 }
 

@@ -172,11 +172,27 @@ TEST(SVG, is_opened_by_a_word_processor) {
     EXPECT_NE(ohne_Luecken(*Text).find("Timeafterfirstapplication(d)"), std::string::npos) << *Text;
 }
 
-TEST(PDF, has_the_size_and_the_curve_as_one_path) {
-    const Zeichenliste z = mit_Beschriftung(Wirkstoffdiagramm(), {.Groesse = Groesse});
-    const QByteArray PDF = Bild_als_PDF(z, QStringLiteral("a & b"), Groesse);
+TEST(PDF, has_the_size) {
+    const QByteArray PDF =
+        Bild_als_PDF(mit_Beschriftung(Wirkstoffdiagramm(), {.Groesse = Groesse}), QStringLiteral("a & b"), Groesse);
     EXPECT_TRUE(PDF.startsWith("%PDF-"));
     EXPECT_TRUE(PDF.contains("/MediaBox [0 0 453") || PDF.contains("/MediaBox [0 0 454")) << PDF.left(600).toStdString();
+}
+
+// Read by a program of another maker; letters are paths of curves there, so the number of straight pieces tells them apart.
+TEST(PDF, a_curve_is_one_path) {
+    const QTemporaryDir Ordner;
+    const Zeichenliste z = mit_Beschriftung(Wirkstoffdiagramm(), {.Groesse = Groesse});
+    const QString PDF = geschrieben(Ordner, QStringLiteral("a.pdf"), Bild_als_PDF(z, {}, Groesse));
+    const auto SVG = rufe("pdftocairo", {QStringLiteral("-svg"), PDF, QStringLiteral("-")});
+    if (!SVG) GTEST_SKIP() << "pdftocairo is not installed";
+    static const QRegularExpression Wege(QStringLiteral(" d=\"([^\"]*)\""));
+    std::vector<qsizetype> Stuecke;
+    for (auto it = Wege.globalMatch(QString::fromStdString(*SVG)); it.hasNext();) {
+        const auto Anzahl = it.next().captured(1).count(u'L');
+        if (Anzahl > 40) Stuecke.push_back(Anzahl);
+    }
+    EXPECT_EQ(Stuecke, std::vector<qsizetype>{365});
 }
 
 }  // namespace

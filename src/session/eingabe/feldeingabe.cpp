@@ -92,7 +92,11 @@ bool Feldeingabe::bestaetige(int Feld) {
     return true;
 }
 
-bool Feldeingabe::verlasse(int Feld, bool mit_Lauf) {
+bool Feldeingabe::verlasse(int Feld) { return gib_ab(Feld, true); }
+
+bool Feldeingabe::schliesse_ab(bool mit_Lauf) { return aktiv_ < 0 || gib_ab(aktiv_, mit_Lauf); }
+
+bool Feldeingabe::gib_ab(int Feld, bool mit_Lauf) {
     // What stands as the record gave it may be left, valid or not.
     if (!(Feldwert(Feld) == Eintrittswert_) && !pruefe(Feld, false)) return false;
     if (geaendert_ && Beschreibung(Feld).Name == std::string("Interzeption") && Feldwert(Feld).Zahl() == 0) setze(Feld, "0");

@@ -24,8 +24,9 @@ public:
     void aendere(int Feld, const std::string& Text);
     // False if the value was refused: the message has been shown, the field keeps the focus.
     bool bestaetige(int Feld);
-    // `mit_Lauf` false: a command that runs anyway follows.
-    bool verlasse(int Feld, bool mit_Lauf = true);
+    bool verlasse(int Feld);
+    // The same for the field in work, if there is one. `mit_Lauf` false: a command that runs anyway follows.
+    bool schliesse_ab(bool mit_Lauf);
     // Esc: the last accepted text comes back.
     void nimm_zurueck(int Feld);
 
@@ -36,6 +37,7 @@ public:
     void fuelle();
 
 private:
+    bool gib_ab(int Feld, bool mit_Lauf);
     bool pruefe(int Feld, bool Enter);
     void setze(int Feld, const Zahlwert& v);
     void nimm_an(int Feld, bool mit_Lauf);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "exposure/twa.h"
 #include "run/kalender.h"
 
 namespace varnok {
@@ -122,5 +123,11 @@ void Listenwahl::zeige_Zusammenfassung() {
     z_.Zusammenfassung_aktiv = true;
     Laeufe_.berechne();
 }
+
+int Listenwahl::Tage() const { return Tage_im_Monat(z_.Felder().App_Monat + 1); }
+
+int Listenwahl::Intervalle() const { return laengstes_Intervall(z_.Felder().Anzahl()); }
+
+std::vector<std::string> Listenwahl::TWA_Laengen() const { return TWA_Eintraege(z_.Parameter(), z_.Welt.Dezimalzeichen); }
 
 }  // namespace varnok

@@ -18,6 +18,8 @@ public:
     void waehle_Studie(int i);
     void waehle_Berechnungsmodus(Stoffschema m);
     void aendere_Namen(int c, const std::string& Name);
+    // The text is left: what carries the name follows as at the end of any action.
+    void verlasse_Namen() {}
 
     // application pattern
     void waehle_Muster(Applikationsart m);
@@ -34,6 +36,12 @@ public:
     void waehle_TWA_Laenge(int j);
     void zeige_Studien();
     void zeige_Zusammenfassung();
+
+    // Lists whose length depends on the input, and what can be chosen now.
+    int Tage() const;
+    int Intervalle() const;
+    std::vector<std::string> TWA_Laengen() const;
+    bool darf_Zusammenfassung() const { return z_.Gestartet && z_.Studienzahl() > 1; }
 
 private:
     void merke_Applikation();

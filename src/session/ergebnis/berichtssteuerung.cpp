@@ -10,6 +10,7 @@
 namespace varnok {
 
 void Berichtssteuerung::erstelle() {
+    if (!z_.Gestartet) return;
     const bool aktuell = !z_.Hinweis() && !z_.abgedeckt();
     if (!aktuell && !Laeufe_.berechne_auf_Wunsch(false)) return;
     Diagramme_.ziehe_nach(Laeufe_.nimm_Gelaufenes().get());

@@ -133,12 +133,12 @@ void Diagrammsteuerung::zeige_Zeitraum(const Zeitraum& r) {
     if (gehalten != *ganzer) Ausschnitte_[Ausschnittplatz()] = gehalten;
 }
 
-void Diagrammsteuerung::strecke(double Faktor, double Tag) {
+void Diagrammsteuerung::strecke_um(double Faktor, double Tag) {
     if (const auto r = gesehener_Zeitraum()) zeige_Zeitraum(gestreckt(*r, Faktor, Tag));
 }
 
 void Diagrammsteuerung::strecke(double Faktor) {
-    if (const auto r = gesehener_Zeitraum()) strecke(Faktor, (r->von + r->bis) / 2);
+    if (const auto r = gesehener_Zeitraum()) strecke_um(Faktor, (r->von + r->bis) / 2);
 }
 
 void Diagrammsteuerung::verschiebe(double Anteil) {

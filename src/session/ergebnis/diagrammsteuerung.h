@@ -51,7 +51,7 @@ public:
     // A closer look at the diagram in front: other days of its axis, or so many times as many of them around the one that stays
     // at its place. A range from end to end is none. Results, ranges and files stay as they are.
     void zeige_Zeitraum(const Zeitraum& r);
-    void strecke(double Faktor, double Tag);
+    void strecke_um(double Faktor, double Tag);
     void strecke(double Faktor);
     // By that share of what is seen: earlier for a negative one.
     void verschiebe(double Anteil);

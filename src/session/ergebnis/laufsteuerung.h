@@ -23,6 +23,9 @@ public:
     // The same for every study of the list, whatever the view.
     bool berechne_alle_Studien();
 
+    // The scaling dialog has closed, also by Cancel: a run in the single view.
+    void schliesse_Skalierung() { berechne(!z_.Zusammenfassung_aktiv); }
+
     // Scales the results that are shown to the dose of the present input, where they differ in that alone and it is exact. False:
     // nothing was done.
     bool skaliere();

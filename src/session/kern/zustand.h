@@ -17,7 +17,6 @@
 #include "records/projektordner.h"
 #include "records/projektsperre.h"
 #include "session/ergebnis/ergebnisstand.h"
-#include "session/kern/verlauf.h"
 
 namespace varnok {
 
@@ -29,6 +28,9 @@ struct Umgebung {
     char Dezimalzeichen = '.';       // of the region, for records and fields
     const Uhr* Zeit = nullptr;       // the machine's without one
     Aktualisierungswelt Update = {};
+    // A call that named its project: a project path among the settings does not lead away from it.
+    bool Projekt_genannt = false;
+    std::string erste_Simulation = {};  // to begin with in place of the newest
 };
 
 // A cell of the table of applications, row and column counted from 0.
@@ -87,7 +89,6 @@ struct Zustand : Satzlisten {
     Ergebnisstand Gerechnetes;
     Klimabytes Klima;  // looked at before each command
 
-    Verlauf Schritte;              // of the inputs
     bool Verlauf_beginnt = false;  // a record was read or is no more the same file: there is no way back behind it
 
     bool Gestartet = false;

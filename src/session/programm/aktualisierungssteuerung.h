@@ -24,6 +24,7 @@ public:
     // the version page if it comes while the start page is still on the screen, and calls `melde`.
     void suche_beim_Start(std::function<void(const std::string& Seite)> antwortet);
     void melde(const std::string& Seite);
+    bool darf_suchen() const { return !z_.Aktualisierung_laeuft; }
 
 private:
     template <class Suche>

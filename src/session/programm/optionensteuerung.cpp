@@ -9,7 +9,7 @@
 #include "base/laufzeitfehler.h"
 #include "exposure/twa.h"
 #include "session/kern/texte.h"
-#include "session/programm/programmende.h"
+#include "session/programm/einstellungsdatei.h"
 
 namespace varnok {
 namespace {

@@ -77,7 +77,8 @@ void Organiser::waehle_Simulation(int Position) {
     z_.Felder().Beschreibung = Projektname_;
 }
 
-void Organiser::waehle_Satz(Satzart Art, int Position) {
+void Organiser::waehle(Satzart Art, int Position) {
+    if (Art == Simulation) return waehle_Simulation(Position);
     Listen_.waehle_Platz(Art, Position);
     gewaehlt_[Art] = true;
 }

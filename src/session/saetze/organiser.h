@@ -29,8 +29,7 @@ public:
     std::string Einwand_gegen_Bearbeiten() const;
 
     // The user chose an entry. A simulation is read; of a record the name alone is taken.
-    void waehle_Simulation(int Position);
-    void waehle_Satz(Satzart Art, int Position);
+    void waehle(Satzart Art, int Position);
     void aendere_Projektname(const std::string& Text);
 
     // See `Satzbefehle`. What copying and deleting selects counts as chosen by the user.
@@ -53,6 +52,7 @@ public:
 private:
     std::string Szenariowerte() const;
     void lies_Simulation_in_Maske(int Position);
+    void waehle_Simulation(int Position);
     void waehle_mit_Inhalt(Satzart Art);
     bool ist_zu_lesen(Satzart Art) const;
     std::vector<Satzart> zu_lesende() const;

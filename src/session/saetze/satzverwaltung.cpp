@@ -8,7 +8,6 @@
 #include "exposure/twa.h"
 #include "records/dateien.h"
 #include "session/kern/texte.h"
-#include "session/programm/programmende.h"
 
 namespace varnok {
 namespace {
@@ -41,7 +40,7 @@ void Satzverwaltung::erklaere_fehlend(Satzart Art) {
         erklaere_ungelesen(Art, Grund);
     }
     if (z_.Listen[Art].empty())
-        beende_oder_stelle_her(z_, *this, "File " + Name + " is missing. Should the default settings be loaded ", beim_Start_);
+        beende_oder_stelle_her("File " + Name + " is missing. Should the default settings be loaded ", beim_Start_);
 }
 
 bool Satzverwaltung::lies_Satz(Satzart Art, const std::string& Satzname) {
@@ -260,7 +259,8 @@ bool Satzverwaltung::lies_nach() {
     return true;
 }
 
-bool Satzverwaltung::aktualisiere() {
+// What is read over is in `backup` before, and what another program did is told. True if something was read.
+bool Satzverwaltung::lies_auf_Wunsch_nach() {
     if (!z_.Saetze[Simulation].gelesen && z_.Auswahl(Simulation) >= 0) return lies_nach();
     const std::string Fremdes = Waechter_.Fremdes(alle_Arten);
     z_.Statuszeile.clear();
@@ -269,6 +269,10 @@ bool Satzverwaltung::aktualisiere() {
     if (!lies_nach()) return false;
     merke_Kombination();
     return true;
+}
+
+void Satzverwaltung::aktualisiere() {
+    if (!lies_auf_Wunsch_nach()) Laeufe_.berechne_auf_Wunsch(true);
 }
 
 void Satzverwaltung::lies_Szenario_nach() {

@@ -41,8 +41,8 @@ public:
 
     // Reads what the selectors name and was not read, after a deletion: a simulation is loaded. True if there was something.
     bool lies_nach();
-    // The same on the user's wish: what is read over is in `backup` before, and what another program did is told.
-    bool aktualisiere();
+    // The button "Refresh": the same on the user's wish, else a run.
+    void aktualisiere();
     // Reads the scenario alone, if the selector names one that was not read. A run follows once all three are there.
     void lies_Szenario_nach();
 
@@ -53,6 +53,12 @@ public:
     // At the end of the program: the summary file of the simulation shown. One that was not read only gets the present time; one
     // that the user does not want replaced stays. False if he puts the end off.
     bool schreibe_Zusammenfassungsdatei();
+    // Makes the start simulation anew, says so, and ends the program. What it replaces and what no file holds is in `backup`
+    // before.
+    void lade_Voreinstellungen();
+    // "Data file missing": Yes restores the defaults, both answers end the program. Esc is No at the start, later the program
+    // goes on.
+    void beende_oder_stelle_her(const std::string& Text, bool beim_Start);
     // Values that no file holds go into `backup`.
     void sichere_Ungesichertes(std::vector<Sicherungsstueck> dazu = {});
     // Asks for each changed record whether to save; gives those with a Yes, nothing for "not now". Nothing is done yet.
@@ -63,7 +69,11 @@ public:
     // not read, with the reason for the cover, and the result is false.
     bool lies_Satz(Satzart Art, const std::string& Name);
 
+    bool darf_loeschen(Satzart Art) const { return z_.Listen[Art].size() > 1 && darf_kopieren(Art); }
+    bool darf_kopieren(Satzart Art) const { return z_.Auswahl(Art) >= 0; }
+
 private:
+    bool lies_auf_Wunsch_nach();
     void nach_Wirkstoff(int alte_TWA_Zeiten);
     void uebernimm(const std::string& Simulation, const Simulationssatz& Satz);
     void verlange(Satzart Art);

@@ -13,8 +13,8 @@ class Studienverwaltung {
 public:
     Studienverwaltung(Zustand& z, Laufsteuerung& Laeufe, Feldeingabe& Felder) : z_(z), Laeufe_(Laeufe), Felder_(Felder) {}
 
-    bool darf_addieren() const { return z_.Studienzahl() < max_Studien && !Name_offen_; }
-    bool darf_loeschen() const { return z_.Studienzahl() > 1 && !Name_offen_; }
+    bool darf_addieren() const { return z_.Gestartet && z_.Studienzahl() < max_Studien && !Name_offen_; }
+    bool darf_loeschen() const { return z_.Gestartet && z_.Studienzahl() > 1 && !Name_offen_; }
     // The text box is open, and what it opened with.
     bool Name_offen() const { return Name_offen_; }
     const std::string& Vorschlag() const { return Vorschlag_; }

@@ -52,7 +52,7 @@ std::string Eintrag(const std::vector<std::string>& Liste, int i) {
 
 }  // namespace
 
-void Szenarioeditor::oeffne() {
+bool Szenarioeditor::oeffne() {
     z_.Szenarioeditor_faellig = false;
     Saetze_.lies_Szenario_nach();
     // The values of another record would stand there under the name of this one.
@@ -64,6 +64,7 @@ void Szenarioeditor::oeffne() {
     fuelle_Listen();
     zeige_Werte();
     gezeigt_ = e_;
+    return !z_.beendet;
 }
 
 void Szenarioeditor::fuelle_Listen() {
@@ -90,8 +91,8 @@ void Szenarioeditor::zeige_Werte() {
                 allgemeine_Zahl(p.Feldkapazitaet, d), allgemeine_Zahl(p.Welkepunkt, d)};
     e_.Boden = Tiefenliste(p.Bodentiefe, {49, 24}, d);
     e_.Plateau = Tiefenliste(p.Plateautiefe, {49, 199}, d);
-    waehle_Tiefe(e_.Boden, e_.Boden.Position);
-    waehle_Tiefe(e_.Plateau, e_.Plateau.Position);
+    verlasse(&Szenarioentwurf::Boden);
+    verlasse(&Szenarioentwurf::Plateau);
     e_.Klima = Platz_der_Klimadatei(e_.Klimadateien, z_.Felder().Klimaszenario);
     Klima_gewaehlt_ = false;
 }
@@ -113,21 +114,23 @@ bool Szenarioeditor::aendere(Szenarioentwurf::Feld f, const std::string& Text) {
     return true;
 }
 
-void Szenarioeditor::waehle_Option(Tiefenwahl& t, int o) {
-    t.Option = o;
-    t.Liste_sichtbar = o == individuell;
-    if (o < individuell) t.Position = t.Vorgaben[static_cast<std::size_t>(o)];
+void Szenarioeditor::waehle_Option(Tiefe t, int o) {
+    Tiefenwahl& w = e_.*t;
+    w.Option = o;
+    w.Liste_sichtbar = o == individuell;
+    if (o < individuell) w.Position = w.Vorgaben[static_cast<std::size_t>(o)];
 }
 
-void Szenarioeditor::waehle_Tiefe(Tiefenwahl& t, int i) {
-    t.Position = i;
-    t.Option = static_cast<int>(std::find(t.Vorgaben.begin(), t.Vorgaben.end(), i) - t.Vorgaben.begin());
-    t.Liste_sichtbar = t.Option == individuell;
+void Szenarioeditor::waehle_Tiefe(Tiefe t, int i) {
+    Tiefenwahl& w = e_.*t;
+    w.Position = i;
+    w.Option = static_cast<int>(std::find(w.Vorgaben.begin(), w.Vorgaben.end(), i) - w.Vorgaben.begin());
+    w.Liste_sichtbar = w.Option == individuell;
 }
 
-void Szenarioeditor::blaettere(Tiefenwahl& t, int i) {
+void Szenarioeditor::blaettere(Tiefe t, int i) {
     waehle_Tiefe(t, i);
-    t.Liste_sichtbar = true;
+    (e_.*t).Liste_sichtbar = true;
 }
 
 void Szenarioeditor::waehle_Klimaszenario(int i) {
@@ -153,12 +156,12 @@ void Szenarioeditor::uebernimm_Werte() {
     Laufparameter& p = z_.Parameter();
     using E = Szenarioentwurf;
     const auto Text = [&](E::Feld f, double& Ziel) { uebernimm_Wert(e_.Texte[f], gezeigt_.Texte[f], Ziel); };
-    const auto Tiefe = [&](const Tiefenwahl& t, const Tiefenwahl& alt, double& Ziel) {
+    const auto uebernimm_Tiefe = [&](const Tiefenwahl& t, const Tiefenwahl& alt, double& Ziel) {
         return uebernimm_Wert(Eintrag(t.Eintraege, t.Position), Eintrag(alt.Eintraege, alt.Position), Ziel);
     };
     Text(E::Bodendichte, p.Bodendichte);
-    Tiefe(e_.Boden, gezeigt_.Boden, p.Bodentiefe);
-    if (Tiefe(e_.Plateau, gezeigt_.Plateau, p.Plateautiefe) && p.Plateautiefe < p.Bodentiefe) {
+    uebernimm_Tiefe(e_.Boden, gezeigt_.Boden, p.Bodentiefe);
+    if (uebernimm_Tiefe(e_.Plateau, gezeigt_.Plateau, p.Plateautiefe) && p.Plateautiefe < p.Bodentiefe) {
         const std::string Meldung =
             "A plateau depth was defined smaller than the current soil depth.\nThe problem was corrected.";
         z_.Welt.Fragen->frage({"Problem!", Meldung, Symbol::Hinweis, {Knopf::OK}});

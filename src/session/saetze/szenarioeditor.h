@@ -44,21 +44,20 @@ public:
     // Without a climate file there is nothing to choose; a record that is variable can stay so.
     bool darf_variabel() const { return !e_.Klimadateien.empty() || gezeigt_.Klimamodus == 1; }
 
-    // Shows the scenario on the screen. One that the selector names and that was not read is read before.
-    void oeffne();
+    // Shows the scenario on the screen. One that the selector names and that was not read is read before. False if there is
+    // nothing to show: the program ends.
+    bool oeffne();
     // Another name for the same values: no record is read, what was typed goes.
     void waehle_Szenario(int i);
     // False for a soil name that no record can hold, after the user was told: the text before it stands.
     bool aendere(Szenarioentwurf::Feld f, const std::string& Text);
-    void waehle_Bodentiefe_Option(int o) { waehle_Option(e_.Boden, o); }
-    void waehle_Plateautiefe_Option(int o) { waehle_Option(e_.Plateau, o); }
-    void waehle_Bodentiefe(int i) { waehle_Tiefe(e_.Boden, i); }
-    void waehle_Plateautiefe(int i) { waehle_Tiefe(e_.Plateau, i); }
+    // One of the two depths of the draft.
+    using Tiefe = Tiefenwahl Szenarioentwurf::*;
+    void waehle_Option(Tiefe t, int o);
+    void waehle_Tiefe(Tiefe t, int i);
     // Keys or the wheel walk through the closed list: at a preset it stays until it is left.
-    void blaettere_Bodentiefe(int i) { blaettere(e_.Boden, i); }
-    void blaettere_Plateautiefe(int i) { blaettere(e_.Plateau, i); }
-    void verlasse_Bodentiefe() { waehle_Tiefe(e_.Boden, e_.Boden.Position); }
-    void verlasse_Plateautiefe() { waehle_Tiefe(e_.Plateau, e_.Plateau.Position); }
+    void blaettere(Tiefe t, int i);
+    void verlasse(Tiefe t) { waehle_Tiefe(t, (e_.*t).Position); }
     void waehle_Klimabedingungen(int m) { e_.Klimamodus = m; }
     void waehle_Temperatur(int i) { e_.Temperatur = i; }
     void waehle_Klimaszenario(int i);
@@ -71,9 +70,6 @@ public:
     void schliesse();
 
 private:
-    static void waehle_Option(Tiefenwahl& t, int o);
-    static void waehle_Tiefe(Tiefenwahl& t, int i);
-    static void blaettere(Tiefenwahl& t, int i);
     void fuelle_Listen();
     void zeige_Werte();
     bool uebernimm_Wert(const std::string& Text, const std::string& gezeigt, double& Parameter);

@@ -127,14 +127,16 @@ void Applikationsrahmen::zeige_bei(unsigned Muster, std::initializer_list<QWidge
 
 void Applikationsrahmen::verbinde() {
     horche_auf(Satz_);
-    connect(Applikationsmuster_, &QButtonGroup::idClicked, this, [this](int m) { handle([&] { Programm_.waehle_Muster(m); }); });
-    connect(Anzahl_, &QComboBox::activated, this, [this](int i) { handle([&] { Programm_.waehle_Anzahl(i); }); });
-    connect(Intervall_, &QComboBox::activated, this, [this](int i) { handle([&] { Programm_.waehle_Intervall(i); }); });
-    connect(App_Tag_, &QComboBox::activated, this, [this](int i) { handle([&] { Programm_.waehle_Tag(i); }); });
-    connect(App_Monat_, &QComboBox::activated, this, [this](int i) { handle([&] { Programm_.waehle_Monat(i); }); });
-    connect(Fruchtwechsel_, &QComboBox::activated, this, [this](int r) { handle([&] { Programm_.waehle_Fruchtwechsel(r); }); });
+    connect(Applikationsmuster_, &QButtonGroup::idClicked, this,
+            [this](int m) { befiehl<&Listenwahl::waehle_Muster>(static_cast<Applikationsart>(m)); });
+    connect(Anzahl_, &QComboBox::activated, this, [this](int i) { befiehl<&Listenwahl::waehle_Anzahl>(i); });
+    connect(Intervall_, &QComboBox::activated, this, [this](int i) { befiehl<&Listenwahl::waehle_Intervall>(i); });
+    connect(App_Tag_, &QComboBox::activated, this, [this](int i) { befiehl<&Listenwahl::waehle_Tag>(i); });
+    connect(App_Monat_, &QComboBox::activated, this, [this](int i) { befiehl<&Listenwahl::waehle_Monat>(i); });
+    connect(Fruchtwechsel_, &QComboBox::activated, this,
+            [this](int r) { befiehl<&Listenwahl::waehle_Fruchtwechsel>(static_cast<Fruchtfolge>(r)); });
     connect(Schema_, &Applikationsschema::getippt, this, &Rahmen::getippt);
-    connect(Schema_, &Applikationsschema::bestaetigt, this, [this] { handle([&] { Programm_.bestaetige_Tabelle(); }); });
+    connect(Schema_, &Applikationsschema::bestaetigt, this, [this] { befiehl<&Applikationstabelle::bestaetige>(); });
 }
 
 void Applikationsrahmen::zeige() {
@@ -142,8 +144,8 @@ void Applikationsrahmen::zeige() {
     const Eingabe& e = Felder();
     Applikationsmuster_->button(e.Applikationsmuster)->setChecked(true);
     Anzahl_->zeige(Zahlen(2, max_Applikationen), e.Anzahl_Index);
-    Intervall_->zeige(Zahlen(1, Programm_.Intervalle_der_Liste()), e.Intervall_Index);
-    App_Tag_->zeige(Zahlen(1, Programm_.Tage_der_Liste()), e.App_Tag);
+    Intervall_->zeige(Zahlen(1, Programm_.zeige<Listenwahl>().Intervalle()), e.Intervall_Index);
+    App_Tag_->zeige(Zahlen(1, Programm_.zeige<Listenwahl>().Tage()), e.App_Tag);
     App_Monat_->zeige(Monatsnamen, e.App_Monat);
     Fruchtwechsel_->zeige(Fruchtwechselnamen, Sicht().Fruchtwechsel);
     Schema_->zeige();

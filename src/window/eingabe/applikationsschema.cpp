@@ -77,13 +77,13 @@ bool Applikationsschema::bearbeite(const QKeyEvent& e) {
     const Zelle z = aktuelle_Zelle();
     if (z.Zeile < 0 || z.Spalte < 0) return false;
     if (const char Zeichen = Zeichen_der_Taste(e)) {
-        Programm_.haenge_an_Zelle(z, Zeichen);
+        Programm_.fuehre_aus<&Applikationstabelle::haenge_an>(z, Zeichen);
     } else if (e.key() == Qt::Key_Backspace) {
-        Programm_.nimm_letztes_Zeichen(z);
+        Programm_.fuehre_aus<&Applikationstabelle::nimm_letztes>(z);
     } else if (e.key() == Qt::Key_Delete) {
-        Programm_.leere_Zelle(z);
+        Programm_.fuehre_aus<&Applikationstabelle::leere>(z);
     } else if (e.matches(QKeySequence::Paste)) {
-        Programm_.fuege_in_Tabelle_ein(z, aus_Qt(QApplication::clipboard()->text()));
+        Programm_.fuehre_aus<&Applikationstabelle::fuege_ein>(z, aus_Qt(QApplication::clipboard()->text()));
     } else {
         return false;
     }

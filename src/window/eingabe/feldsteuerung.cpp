@@ -41,14 +41,16 @@ Zahlenfeld* Feldsteuerung::erstelle(const QString& Objektname, QWidget* parent) 
 
 void Feldsteuerung::zeige() {
     for (Zahlenfeld* f : Felder_) {
-        f->zeige(f == getippt_ ? f->text() : in_Qt(Programm_.Feldtext(f->Feld())), in_Arbeit(*f));
-        if (f->Feld() != Programm_.aktives_Feld()) f->vergiss_Getipptes();
+        f->zeige(f == getippt_ ? f->text() : in_Qt(Programm_.zeige<Feldeingabe>().Text(f->Feld())), in_Arbeit(*f));
+        if (f->Feld() != aktives_Feld()) f->vergiss_Getipptes();
     }
 }
 
+int Feldsteuerung::aktives_Feld() const { return Programm_.zeige<Feldeingabe>().aktives_Feld(); }
+
 // A field that is not accepted yet stays the one in work while the focus is on its way.
 bool Feldsteuerung::in_Arbeit(const Zahlenfeld& f) const {
-    return Programm_.aktives_Feld() < 0 ? steht_im_Fokus(f) : f.Feld() == Programm_.aktives_Feld();
+    return aktives_Feld() < 0 ? steht_im_Fokus(f) : f.Feld() == aktives_Feld();
 }
 
 void Feldsteuerung::faerbe() {
@@ -57,7 +59,7 @@ void Feldsteuerung::faerbe() {
 
 Zahlenfeld* Feldsteuerung::Feld_in_Arbeit() const {
     for (Zahlenfeld* f : Felder_) {
-        if (f->Feld() == Programm_.aktives_Feld()) return f;
+        if (f->Feld() == aktives_Feld()) return f;
     }
     return nullptr;
 }
@@ -80,12 +82,12 @@ void Feldsteuerung::merke_Eintritt(Zahlenfeld* f) {
 }
 
 void Feldsteuerung::beginne(Zahlenfeld* f) {
-    if (Programm_.aktives_Feld() == f->Feld()) return;
+    if (aktives_Feld() == f->Feld()) return;
     if (Zahlenfeld* anderes = Feld_in_Arbeit()) {
         verlasse(anderes);
-        if (Programm_.aktives_Feld() >= 0) return;
+        if (aktives_Feld() >= 0) return;
     }
-    Programm_.betrete_Feld(f->Feld());
+    Programm_.fuehre_aus<&Feldeingabe::betrete>(f->Feld());
     faerbe();
 }
 
@@ -95,7 +97,7 @@ void Feldsteuerung::merke_Austritt(Zahlenfeld* f) {
 }
 
 void Feldsteuerung::verlasse(Zahlenfeld* f) {
-    if (Programm_.aktives_Feld() != f->Feld()) {  // accepted meanwhile by a command
+    if (aktives_Feld() != f->Feld()) {  // accepted meanwhile by a command
         faerbe();
         return;
     }
@@ -108,7 +110,7 @@ void Feldsteuerung::verlasse(Zahlenfeld* f) {
     bool angenommen = false;
     {
         const Wartezeiger warte;
-        angenommen = Programm_.verlasse_Feld(f->Feld());
+        angenommen = Programm_.fuehre_aus<&Feldeingabe::verlasse>(f->Feld());
     }
     Q_EMIT gehandelt();
     if (!angenommen) gib_Fokus_zurueck();
@@ -118,11 +120,11 @@ void Feldsteuerung::tippe(Zahlenfeld* f, const QString& Text) {
     getippt_ = f;
     beginne(f);  // the first key after a command that accepted the field
     getippt_ = nullptr;
-    if (Programm_.aktives_Feld() != f->Feld()) {  // another field keeps the focus
+    if (aktives_Feld() != f->Feld()) {  // another field keeps the focus
         zeige();
         return;
     }
-    Programm_.aendere_Feld(f->Feld(), aus_Qt(Text));
+    Programm_.fuehre_aus<&Feldeingabe::aendere>(f->Feld(), aus_Qt(Text));
     Q_EMIT getippt();
 }
 
@@ -130,7 +132,7 @@ void Feldsteuerung::bestaetige(Zahlenfeld* f) {
     bool angenommen = false;
     {
         const Wartezeiger warte;
-        angenommen = Programm_.bestaetige_Feld(f->Feld());
+        angenommen = Programm_.fuehre_aus<&Feldeingabe::bestaetige>(f->Feld());
     }
     Q_EMIT gehandelt();
     if (!angenommen) {
@@ -143,7 +145,7 @@ void Feldsteuerung::bestaetige(Zahlenfeld* f) {
 }
 
 void Feldsteuerung::nimm_zurueck(Zahlenfeld* f) {
-    Programm_.nimm_Feld_zurueck(f->Feld());
+    Programm_.fuehre_aus<&Feldeingabe::nimm_zurueck>(f->Feld());
     Q_EMIT gehandelt();
     f->selectAll();
 }

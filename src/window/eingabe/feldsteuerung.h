@@ -32,6 +32,7 @@ Q_SIGNALS:
     void getippt();
 
 private:
+    int aktives_Feld() const;
     bool in_Arbeit(const Zahlenfeld& f) const;
     void faerbe();
     void beginne(Zahlenfeld* f);

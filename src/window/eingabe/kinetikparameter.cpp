@@ -62,7 +62,7 @@ Kinetikparameter::Kinetikparameter(int i_substanz, int Einzug, Sitzung& Programm
         Gitter->setRowMinimumHeight(Zeile++, z.Feld->sizeHint().height());
     }
     connect(S_Kinetik_, &QComboBox::activated, this,
-            [this](int k) { handle([&] { Programm_.waehle_Kinetik(c_, static_cast<Kinetikart>(k)); }); });
+            [this](int k) { befiehl<&Listenwahl::waehle_Kinetik>(c_, static_cast<Kinetikart>(k)); });
 }
 
 void Kinetikparameter::zeige() {

@@ -55,37 +55,33 @@ Kinetikschema::Kinetikschema(Sitzung& Programm, Feldsteuerung& Steuerung, QWidge
     Spalte->addWidget(Wirkstoffdaten_);
 
     verbinde_Studien();
-    Wirkstoffdaten_->Leiste()->darf_wechseln = [this] {
-        bool frei = true;
-        if (Programm_.aktives_Feld() >= 0) handle([&] { frei = Programm_.schliesse_Feld_ab(); });
-        return frei;
-    };
+    Wirkstoffdaten_->Leiste()->darf_wechseln = [this] { return schliesse_Feld_ab(); };
     connect(Wirkstoffdaten_, &QTabWidget::currentChanged, this, &Kinetikschema::wechsle_Seite);
     horche_auf(Satz_);
     for (Rahmen* r : Seiten_) horche_auf(r);
 }
 
 void Kinetikschema::verbinde_Studien() {
-    connect(Studie_, &QComboBox::activated, this, [this](int i) { handle([&] { Programm_.waehle_Studie(i); }); });
-    connect(Addiere_Studie_, &QPushButton::clicked, this, [this] { handle([&] { Programm_.addiere_Studie(); }); });
+    connect(Studie_, &QComboBox::activated, this, [this](int i) { befiehl<&Listenwahl::waehle_Studie>(i); });
+    connect(Addiere_Studie_, &QPushButton::clicked, this, [this] { befiehl<&Studienverwaltung::addiere>(); });
     auto* Bedienung = new Listenbedienung(*Studie_, [this] {
-        return Listenbedienung::Rechte{Programm_.darf_Studie_addieren(), false, true, Programm_.darf_Studie_loeschen()};
+        const auto& Studien = Programm_.zeige<Studienverwaltung>();
+        return Listenbedienung::Rechte{Studien.darf_addieren(), false, true, Studien.darf_loeschen()};
     });
-    connect(Bedienung, &Listenbedienung::anlegen, this, [this] { handle([&] { Programm_.addiere_Studie(); }); });
-    connect(Bedienung, &Listenbedienung::umbenennen, this, [this] { handle([&] { Programm_.beginne_Studienname(); }); });
-    connect(Bedienung, &Listenbedienung::loeschen, this, [this] { handle([&] { Programm_.loesche_Studie(); }); });
+    connect(Bedienung, &Listenbedienung::anlegen, this, [this] { befiehl<&Studienverwaltung::addiere>(); });
+    connect(Bedienung, &Listenbedienung::umbenennen, this, [this] { befiehl<&Studienverwaltung::beginne_Umbenennen>(); });
+    connect(Bedienung, &Listenbedienung::loeschen, this, [this] { befiehl<&Studienverwaltung::loesche>(); });
     connect(Studienname_, &QLineEdit::textEdited, this,
-            [this](const QString& Text) { Programm_.aendere_Studienname(aus_Qt(Text)); });
+            [this](const QString& Text) { Programm_.fuehre_aus<&Studienverwaltung::aendere>(aus_Qt(Text)); });
     connect(Studienname_, &Umbenennfeld::bestaetigt, this,
-            [this](bool Enter) { handle([&] { Programm_.bestaetige_Studienname(Enter); }); });
-    connect(Studienname_, &Umbenennfeld::zurueckgenommen, this,
-            [this] { handle([&] { Programm_.nimm_Studienname_zurueck(); }); });
+            [this](bool Enter) { befiehl<&Studienverwaltung::bestaetige>(Enter); });
+    connect(Studienname_, &Umbenennfeld::zurueckgenommen, this, [this] { befiehl<&Studienverwaltung::nimm_zurueck>(); });
 }
 
 void Kinetikschema::zeige_Studien() {
-    const Studienverwaltung& Studien = Programm_.Studien();
+    const Studienverwaltung& Studien = Programm_.zeige<Studienverwaltung>();
     Studie_->zeige(Felder().Studie, Stand().i_studie());
-    Addiere_Studie_->setEnabled(Programm_.darf_Studie_addieren());
+    Addiere_Studie_->setEnabled(Studien.darf_addieren());
     if (Studien.Name_offen() && !Studienname_->isVisible()) Studienname_->oeffne(in_Qt(Studien.Vorschlag()));
     if (!Studien.Name_offen() && Studienname_->isVisible()) Studienname_->schliesse();
     // The fields still hold the values of the study before.
@@ -122,7 +118,7 @@ QWidget* Kinetikschema::erstelle_Abbaudaten(Feldsteuerung& Steuerung) {
     }
     Zeile->addStretch(1);
     Spalte->addLayout(Zeile);
-    connect(Substanz_, &QButtonGroup::idClicked, this, [this](int c) { handle([&] { Programm_.waehle_Substanz(c); }); });
+    connect(Substanz_, &QButtonGroup::idClicked, this, [this](int c) { befiehl<&Listenwahl::waehle_Substanz>(c); });
 
     Kinetikfelder_ = new QStackedWidget(Seite);
     for (int c = 0; c < Stoffe; ++c) {
@@ -139,9 +135,7 @@ QWidget* Kinetikschema::erstelle_Abbaudaten(Feldsteuerung& Steuerung) {
 }
 
 void Kinetikschema::wechsle_Seite(int i) {
-    bool frei = true;
-    if (Programm_.aktives_Feld() >= 0) handle([&] { frei = Programm_.schliesse_Feld_ab(); });
-    if (frei) Seite_ = i;
+    if (schliesse_Feld_ab()) Seite_ = i;
     Wirkstoffdaten_->zeige_Seite(Seite_);
 }
 

@@ -48,9 +48,10 @@ Stoffseite::Stoffseite(const QString& Name, int Exemplar, Sitzung& Programm, QWi
         z.Schild->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         Gitter_->addWidget(z.Schild, c + 1, 0);
         Gitter_->addWidget(z.Name, c + 1, 1);
-        connect(z.Name, &QLineEdit::textEdited, this,
-                [this, c](const QString& Text) { tippe([&] { Programm_.aendere_Namen(c, aus_Qt(Text)); }); });
-        connect(z.Name, &Namensfeld::fertig, this, [this] { handle([&] { Programm_.verlasse_Namen(); }); });
+        connect(z.Name, &QLineEdit::textEdited, this, [this, c](const QString& Text) {
+            tippe([&] { Programm_.fuehre_aus<&Listenwahl::aendere_Namen>(c, aus_Qt(Text)); });
+        });
+        connect(z.Name, &Namensfeld::fertig, this, [this] { befiehl<&Listenwahl::verlasse_Namen>(); });
     }
 }
 

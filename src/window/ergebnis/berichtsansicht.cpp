@@ -60,7 +60,7 @@ Berichtsansicht::Berichtsansicht(Sitzung& Programm, QWidget* Flaeche, QWidget* p
 }
 
 void Berichtsansicht::zeige() {
-    const Bericht* b = Programm_.offener_Bericht();
+    const Bericht* b = Programm_.zeige<Berichtssteuerung>().offener();
     setVisible(b != nullptr);
     if (b == gezeigter_) return;
     gezeigter_ = b;
@@ -82,7 +82,7 @@ void Berichtsansicht::fuelle() {
 }
 
 void Berichtsansicht::schliesse() {
-    Programm_.schliesse_Bericht();
+    Programm_.fuehre_aus<&Berichtssteuerung::schliesse>();
     Q_EMIT gehandelt();
 }
 
@@ -100,7 +100,7 @@ void Berichtsansicht::speichere_PDF() {
     QString Pfad = QFileDialog::getSaveFileName(window(), u"Save report as PDF"_s, Vorschlag, u"PDF (*.pdf)"_s);
     if (Pfad.isEmpty()) return;
     if (!Pfad.endsWith(u".pdf"_s, Qt::CaseInsensitive)) Pfad += u".pdf"_s;
-    handle([&] { Programm_.speichere_Bericht_als_PDF(aus_Qt(Pfad)); });
+    befiehl<&Berichtssteuerung::speichere_PDF>(aus_Qt(Pfad));
 }
 
 void Berichtsansicht::drucke() {

@@ -25,6 +25,15 @@ constexpr double Schritt = 0.25;
 
 }  // namespace
 
+template <auto Befehl, class... Angaben>
+void Bildbefehle::befiehl(Angaben&&... a) {
+    {
+        const Wartezeiger warte;
+        Programm_.fuehre_aus<Befehl>(std::forward<Angaben>(a)...);
+    }
+    Q_EMIT gehandelt();
+}
+
 QAction* Bildbefehle::fuege_an(const char16_t* Name, const char16_t* Aufschrift, const char16_t* Taste,
                                std::function<void()> Befehl) {
     QAction* a = Menue_->addAction(QString::fromUtf16(Aufschrift));
@@ -49,15 +58,12 @@ Bildbefehle::Bildbefehle(Sitzung& Programm, Ergebnisbereich& Bereich, QMainWindo
 }
 
 void Bildbefehle::fuege_Blick_an() {
-    fuege_an(u"M_naechstes_Diagramm", u"&Next diagram", u"F6", [this] {
-        Programm_.schalte_Diagramm_weiter();
-        Q_EMIT gehandelt();
-    });
+    fuege_an(u"M_naechstes_Diagramm", u"&Next diagram", u"F6", [this] { befiehl<&Diagrammsteuerung::schalte_weiter>(); });
     fuege_an(u"M_Zeitraum", u"&Time range...", u"F7", [this] { Bereich_.skaliere(); });
-    fuege_an(u"M_naeher", u"&Zoom in", u"Ctrl++", [this] { sieh_an([](Diagrammsteuerung& d) { d.strecke(naeher); }); });
-    fuege_an(u"M_ferner", u"Zoom &out", u"Ctrl+-", [this] { sieh_an([](Diagrammsteuerung& d) { d.strecke(1 / naeher); }); });
-    fuege_an(u"M_frueher", u"&Earlier", u"Alt+Left", [this] { sieh_an([](Diagrammsteuerung& d) { d.verschiebe(-Schritt); }); });
-    fuege_an(u"M_spaeter", u"L&ater", u"Alt+Right", [this] { sieh_an([](Diagrammsteuerung& d) { d.verschiebe(Schritt); }); });
+    fuege_an(u"M_naeher", u"&Zoom in", u"Ctrl++", [this] { befiehl<&Diagrammsteuerung::strecke>(naeher); });
+    fuege_an(u"M_ferner", u"Zoom &out", u"Ctrl+-", [this] { befiehl<&Diagrammsteuerung::strecke>(1 / naeher); });
+    fuege_an(u"M_frueher", u"&Earlier", u"Alt+Left", [this] { befiehl<&Diagrammsteuerung::verschiebe>(-Schritt); });
+    fuege_an(u"M_spaeter", u"L&ater", u"Alt+Right", [this] { befiehl<&Diagrammsteuerung::verschiebe>(Schritt); });
     // Told in the menu and no shortcut: fields and lists need the key, the window hears of it where they do not.
     fuege_an(u"M_ganzer_Zeitraum", u"&Whole range\tHome", u"", [this] { zeige_alles(); });
     fuege_an(u"M_Rahmen_zeigen", u"Show &legend and table", u"", [this] {
@@ -77,25 +83,13 @@ void Bildbefehle::fuege_Ausgabe_an() {
 }
 
 void Bildbefehle::zeige() {
-    const bool zu_sehen = Programm_.Stand().Gestartet && !Programm_.Stand().abgedeckt() && Programm_.Diagramme().vorderes();
+    const bool zu_sehen =
+        Programm_.Stand().Gestartet && !Programm_.Stand().abgedeckt() && Programm_.zeige<Diagrammsteuerung>().vorderes();
     for (QAction* a : Eintraege_) a->setEnabled(zu_sehen);
 }
 
 void Bildbefehle::zeige_alles() {
-    if (Eintraege_.front()->isEnabled()) sieh_an([](Diagrammsteuerung& d) { d.zeige_alles(); });
-}
-
-void Bildbefehle::sieh_an(const std::function<void(Diagrammsteuerung&)>& Befehl) {
-    Programm_.sieh_an(Befehl);
-    Q_EMIT gehandelt();
-}
-
-void Bildbefehle::gib_aus(const std::function<void(Bildsteuerung&)>& Befehl) {
-    {
-        const Wartezeiger warte;
-        Programm_.gib_aus(Befehl);
-    }
-    Q_EMIT gehandelt();
+    if (Eintraege_.front()->isEnabled()) befiehl<&Diagrammsteuerung::zeige_alles>();
 }
 
 bool Bildbefehle::mit_Legende() const { return !Bereich_.Flaeche_vorn()->Legende()->verborgen(); }
@@ -108,7 +102,7 @@ std::optional<Bildbefehle::Dateiwahl> Bildbefehle::frage_nach_Datei(const QStrin
     Dialog.setAcceptMode(QFileDialog::AcceptSave);
     Dialog.setNameFilters(Filter);
     Dialog.setDefaultSuffix(Endung);
-    Dialog.selectFile(in_Qt(Programm_.Bilder().Vorschlag()) + u'.' + Endung);
+    Dialog.selectFile(in_Qt(Programm_.zeige<Bildsteuerung>().Vorschlag()) + u'.' + Endung);
     if (Dialog.exec() != QDialog::Accepted || Dialog.selectedFiles().isEmpty()) return std::nullopt;
     return Dateiwahl{Dialog.selectedFiles().front(), Filter.indexOf(Dialog.selectedNameFilter())};
 }
@@ -116,13 +110,13 @@ std::optional<Bildbefehle::Dateiwahl> Bildbefehle::frage_nach_Datei(const QStrin
 void Bildbefehle::speichere(Bildart Art) {
     static const std::array<QString, 3> Bildendungen = {u"png"_s, u"svg"_s, u"pdf"_s};
     const QString& Endung = Bildendungen.at(static_cast<std::size_t>(Art));
-    const Bildeinstellung& e = Programm_.Bilder().Einstellung();
+    const Bildeinstellung& e = Programm_.zeige<Bildsteuerung>().Einstellung();
     QString Form = in_Qt(e.Breite) + u" x "_s + in_Qt(e.Hoehe) + u" mm"_s;
     if (Art == Bildart::PNG) Form += u", "_s + in_Qt(e.Aufloesung) + u" dpi"_s;
     if (e.fuer_Druck) Form += u", for print"_s;
     const auto Wahl = frage_nach_Datei(u"Save picture as "_s + Endung.toUpper(),
                                        {Endung.toUpper() + u" picture, "_s + Form + u" (*."_s + Endung + u')'}, Endung);
-    if (Wahl) gib_aus([&](Bildsteuerung& b) { b.speichere(aus_Qt(Wahl->Pfad), Art, mit_Legende()); });
+    if (Wahl) befiehl<&Bildsteuerung::speichere>(aus_Qt(Wahl->Pfad), Art, mit_Legende());
 }
 
 void Bildbefehle::speichere_Daten() {
@@ -134,31 +128,29 @@ void Bildbefehle::speichere_Daten() {
     const auto Wahl = frage_nach_Datei(u"Save data"_s, Filter, u"csv"_s);
     if (!Wahl) return;
     const char Dezimalzeichen = Zeichen.at(static_cast<std::size_t>(std::max<qsizetype>(0, Wahl->Filter)));
-    gib_aus([&](Bildsteuerung& b) { b.speichere_Daten(aus_Qt(Wahl->Pfad), Dezimalzeichen); });
+    befiehl<&Bildsteuerung::speichere_Daten>(aus_Qt(Wahl->Pfad), Dezimalzeichen);
 }
 
 void Bildbefehle::kopiere() {
     if (!Bereich_.Flaeche_fuer_Befehl()) return;
-    gib_aus([this](Bildsteuerung& b) {
-        const Bild Kopie = b.erstelle(mit_Legende());
-        kopiere_Bild(Kopie.Liste, in_Qt(Kopie.Titel), Kopie.Groesse, b.Einstellung().Aufloesung);
-        b.melde_kopiert("Picture");
-    });
+    const auto& Bilder = Programm_.zeige<Bildsteuerung>();
+    const Bild Kopie = Bilder.erstelle(mit_Legende());
+    kopiere_Bild(Kopie.Liste, in_Qt(Kopie.Titel), Kopie.Groesse, Bilder.Einstellung().Aufloesung);
+    befiehl<&Bildsteuerung::melde_kopiert>("Picture");
 }
 
 void Bildbefehle::kopiere_Daten() {
     if (!Bereich_.Flaeche_fuer_Befehl()) return;
-    gib_aus([this](Bildsteuerung& b) {
-        const char Region = Programm_.Stand().Welt.Dezimalzeichen;
-        kopiere_Zahlen(in_Qt(b.Daten({'\t', Region})), in_Qt(b.Daten(CSV_mit(Region))));
-        b.melde_kopiert("Data");
-    });
+    const auto& Bilder = Programm_.zeige<Bildsteuerung>();
+    const char Region = Programm_.Stand().Welt.Dezimalzeichen;
+    kopiere_Zahlen(in_Qt(Bilder.Daten({'\t', Region})), in_Qt(Bilder.Daten(CSV_mit(Region))));
+    befiehl<&Bildsteuerung::melde_kopiert>("Data");
 }
 
 void Bildbefehle::waehle_Einstellung() {
     if (!Bereich_.Flaeche_fuer_Befehl()) return;
-    Bildeinstellungen Dialog(Programm_.Bilder().Einstellung(), &Fenster_);
-    if (Dialog.exec() == QDialog::Accepted) gib_aus([&](Bildsteuerung& b) { b.setze(Dialog.gewaehlte()); });
+    Bildeinstellungen Dialog(Programm_.zeige<Bildsteuerung>().Einstellung(), &Fenster_);
+    if (Dialog.exec() == QDialog::Accepted) befiehl<&Bildsteuerung::setze>(Dialog.gewaehlte());
 }
 
 }  // namespace varnok

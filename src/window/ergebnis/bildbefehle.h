@@ -35,8 +35,8 @@ private:
     QAction* fuege_an(const char16_t* Name, const char16_t* Aufschrift, const char16_t* Taste, std::function<void()> Befehl);
     void fuege_Blick_an();
     void fuege_Ausgabe_an();
-    void sieh_an(const std::function<void(Diagrammsteuerung&)>& Befehl);
-    void gib_aus(const std::function<void(Bildsteuerung&)>& Befehl);
+    template <auto Befehl, class... Angaben>
+    void befiehl(Angaben&&... a);
     bool mit_Legende() const;
 
     struct Dateiwahl {

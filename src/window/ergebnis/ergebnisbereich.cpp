@@ -7,6 +7,7 @@
 
 #include "exposure/bezeichnungen.h"
 #include "painting/qt_text.h"
+#include "session/ergebnis/ergebnisanzeige.h"
 #include "window/ergebnis/abdeckung.h"
 #include "window/ergebnis/diagrammflaeche.h"
 #include "window/ergebnis/ergebnisrahmen.h"
@@ -27,13 +28,9 @@ Ergebnisbereich::Ergebnisbereich(Sitzung& Programm, QWidget* parent)
     auto* Spalte = new QVBoxLayout(this);
     Spalte->setContentsMargins(0, 0, 0, 0);
     Spalte->addWidget(Berechnungsmodus_);
-    Berechnungsmodus_->Leiste()->darf_wechseln = [this] {
-        bool frei = true;
-        if (Programm_.aktives_Feld() >= 0) handle([&] { frei = Programm_.schliesse_Feld_ab(false); });
-        return frei;
-    };
+    Berechnungsmodus_->Leiste()->darf_wechseln = [this] { return schliesse_Feld_ab(false); };
     connect(Berechnungsmodus_, &QTabWidget::currentChanged, this,
-            [this](int m) { handle([&] { Programm_.waehle_Berechnungsmodus(m); }); });
+            [this](int m) { befiehl<&Listenwahl::waehle_Berechnungsmodus>(static_cast<Stoffschema>(m)); });
 }
 
 void Ergebnisbereich::erstelle_Seite(Stoffschema m) {
@@ -52,30 +49,28 @@ Diagrammflaeche* Ergebnisbereich::erstelle_Flaeche(bool Zusammenfassung, int Num
     const QString Titel = Zusammenfassung ? u"Calculated soil concentrations (TWA):"_s : u"Calculated soil concentrations:"_s;
     auto* d = new Diagrammflaeche(Zusammenfassung, Nummer, Titel, s.Flaeche);
     s.Stapel->addWidget(d);
-    connect(d, &Diagrammflaeche::weiterzuschalten, this, [this] { handle([&] { Programm_.schalte_Diagramm_weiter(); }); });
+    connect(d, &Diagrammflaeche::weiterzuschalten, this, [this] { befiehl<&Diagrammsteuerung::schalte_weiter>(); });
     connect(d, &Diagrammflaeche::Zeitraum_gezogen, this, [this](double von, double bis) {
-        handle([&] { Programm_.sieh_an([&](Diagrammsteuerung& t) { t.zeige_Zeitraum({von, bis}); }); });
+        befiehl<&Diagrammsteuerung::zeige_Zeitraum>(Zeitraum{von, bis});
     });
-    connect(d, &Diagrammflaeche::gedreht, this, [this](double Faktor, double Tag) {
-        handle([&] { Programm_.sieh_an([&](Diagrammsteuerung& t) { t.strecke(Faktor, Tag); }); });
-    });
+    connect(d, &Diagrammflaeche::gedreht, this,
+            [this](double Faktor, double Tag) { befiehl<&Diagrammsteuerung::strecke_um>(Faktor, Tag); });
     // The press ends before the dialog takes over.
     connect(d, &Diagrammflaeche::zu_skalieren, this, &Ergebnisbereich::skaliere, Qt::QueuedConnection);
-    connect(d->Legende(), &Flaechenrahmen::umgestellt, this,
-            [this, d, Zusammenfassung] { Programm_.merke_Legende(Zusammenfassung, d->Nummer(), d->Legende()->gezogen()); });
+    connect(d->Legende(), &Flaechenrahmen::umgestellt, this, [this, d, Zusammenfassung] {
+        Programm_.fuehre_aus<&Diagrammsteuerung::merke_Legende>(Zusammenfassung, d->Nummer(), d->Legende()->gezogen());
+    });
     return d;
 }
 
 Diagrammflaeche* Ergebnisbereich::Flaeche_vorn(const Seite& s) const {
     const auto& Flaechen = Stand().Zusammenfassung_aktiv ? s.Zusammenfassungen : s.Diagramme;
-    const int vorn = Programm_.Diagramme().vorne();
+    const int vorn = Programm_.zeige<Diagrammsteuerung>().vorne();
     return *std::find_if(Flaechen.begin(), Flaechen.end(), [vorn](const Diagrammflaeche* d) { return d->Nummer() == vorn; });
 }
 
 Diagrammflaeche* Ergebnisbereich::Flaeche_fuer_Befehl() {
-    bool frei = true;
-    if (Programm_.aktives_Feld() >= 0) handle([&] { frei = Programm_.schliesse_Feld_ab(); });
-    if (!frei || Stand().abgedeckt() || !Stand().Gestartet) return nullptr;
+    if (!schliesse_Feld_ab() || Stand().abgedeckt() || !Stand().Gestartet) return nullptr;
     Diagrammflaeche* d = Flaeche_vorn();
     return d->Inhalt() ? d : nullptr;
 }
@@ -83,10 +78,14 @@ Diagrammflaeche* Ergebnisbereich::Flaeche_fuer_Befehl() {
 void Ergebnisbereich::skaliere() {
     if (QApplication::activeModalWidget() || !Flaeche_fuer_Befehl()) return;
     Manuelle_Skalierung Dialog(
-        Programm_.Diagramme().X_Start(), Programm_.Diagramme().X_Ende(), Stand().Welt.Dezimalzeichen,
-        [this](const std::string& Start, const std::string& Ende) { return Programm_.skaliere_Diagramm(Start, Ende); }, window());
+        Programm_.zeige<Diagrammsteuerung>().X_Start(), Programm_.zeige<Diagrammsteuerung>().X_Ende(),
+        Stand().Welt.Dezimalzeichen,
+        [this](const std::string& Start, const std::string& Ende) {
+            return Programm_.fuehre_aus<&Diagrammsteuerung::skaliere>(Start, Ende);
+        },
+        window());
     Dialog.exec();
-    handle([&] { Programm_.schliesse_Skalierung(); });
+    befiehl<&Laufsteuerung::schliesse_Skalierung>();
 }
 
 void Ergebnisbereich::hole_Ergebnisrahmen() {
@@ -126,10 +125,10 @@ void Ergebnisbereich::fuelle_Tafeln(const Seite& s) {
     for (int c = 0; c < n; ++c) {
         const auto k = static_cast<std::size_t>(c);
         if (Stand().Zusammenfassung_aktiv) {
-            s.Zusammenfassungen[k]->Tafel()->zeige(Programm_.Ergebnisse_Zusammenfassung(c));
+            s.Zusammenfassungen[k]->Tafel()->zeige(Ergebnisse_aller_Studien(Stand(), c));
             continue;
         }
-        Tabellentext Tabelle = Programm_.Ergebnisse(c);
+        Tabellentext Tabelle = Ergebnisse_einer_Studie(Stand(), c);
         if (!Ersatzzeile_) Tabelle.pop_back();
         s.Diagramme[k]->Tafel()->zeige(Tabelle);
     }
@@ -137,7 +136,7 @@ void Ergebnisbereich::fuelle_Tafeln(const Seite& s) {
 
 void Ergebnisbereich::fuelle_Diagramme(const Seite& s) {
     const auto& Flaechen = Stand().Zusammenfassung_aktiv ? s.Zusammenfassungen : s.Diagramme;
-    const auto& Liste = Programm_.Diagramme().Diagramme();
+    const auto& Liste = Programm_.zeige<Diagrammsteuerung>().Diagramme();
     for (Diagrammflaeche* f : Flaechen) {
         const auto Treffer = std::find_if(Liste.begin(), Liste.end(), [&](const Diagramm& d) {
             return d.Nummer == f->Nummer() && d.Zusammenfassung == Stand().Zusammenfassung_aktiv;
@@ -145,7 +144,7 @@ void Ergebnisbereich::fuelle_Diagramme(const Seite& s) {
         if (Treffer == Liste.end()) {
             f->leere();
         } else {
-            f->zeige(*Treffer, Programm_.Diagramme().Anblick());
+            f->zeige(*Treffer, Programm_.zeige<Diagrammsteuerung>().Anblick());
         }
     }
 }

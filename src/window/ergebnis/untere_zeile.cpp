@@ -63,18 +63,18 @@ Untere_Zeile::Untere_Zeile(Sitzung& Programm, QWidget* parent)
     Spalte->addLayout(unten);
 
     connect(Endpunkt_, &QButtonGroup::idClicked, this,
-            [this](int i) { handle([&] { Programm_.waehle_Endpunkt(Option_zu_Endpunkt(i)); }); });
+            [this](int i) { befiehl<&Listenwahl::waehle_Endpunkt>(static_cast<Endpunktart>(Option_zu_Endpunkt(i))); });
     connect(PEC_Typ_, &QButtonGroup::idClicked, this, [this](int a) {
         Q_EMIT Ansicht_gewaehlt();
-        handle([&] { Programm_.waehle_PEC_Typ(a); });
+        befiehl<&Listenwahl::waehle_PEC_Typ>(static_cast<PEC_Ansicht>(a));
     });
-    connect(TWA_Laenge_, &QComboBox::activated, this, [this](int j) { handle([&] { Programm_.waehle_TWA_Laenge(j); }); });
+    connect(TWA_Laenge_, &QComboBox::activated, this, [this](int j) { befiehl<&Listenwahl::waehle_TWA_Laenge>(j); });
 }
 
 void Untere_Zeile::zeige() {
     Endpunkt_->button(Option_zu_Endpunkt(Sicht().Endpunkt))->setChecked(true);
     PEC_Typ_->button(Sicht().PEC_Typ)->setChecked(true);
-    TWA_Laenge_->zeige(Programm_.TWA_Liste(), Sicht().TWA_Laenge);
+    TWA_Laenge_->zeige(Programm_.zeige<Listenwahl>().TWA_Laengen(), Sicht().TWA_Laenge);
     Ergebnisdatei_->setText(in_Qt(Stand().Ergebnisdatei));
 }
 

@@ -31,6 +31,11 @@ void Rahmen::paintEvent(QPaintEvent*) {
     p.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 5, 5);
 }
 
+bool Rahmen::schliesse_Feld_ab(bool mit_Lauf) {
+    if (Programm_.zeige<Feldeingabe>().aktives_Feld() < 0) return true;
+    return befiehl<&Feldeingabe::schliesse_ab>(mit_Lauf);
+}
+
 void Rahmen::changeEvent(QEvent* e) {
     QFrame::changeEvent(e);
     if (e->type() != QEvent::FontChange) return;

@@ -44,6 +44,15 @@ protected:
         }
         Q_EMIT gehandelt();
     }
+    // A command of the session, and all frames show what has become of it.
+    template <auto Befehl, class... Angaben>
+    auto befiehl(Angaben&&... a) {
+        decltype(Programm_.fuehre_aus<Befehl>(std::forward<Angaben>(a)...)) Antwort{};
+        handle([&] { Antwort = Programm_.fuehre_aus<Befehl>(std::forward<Angaben>(a)...); });
+        return Antwort;
+    }
+    // Before the focus goes over to something that is no command yet. False if the field in work keeps it.
+    bool schliesse_Feld_ab(bool mit_Lauf = true);
     template <class Handlung>
     void tippe(Handlung h) {
         h();

@@ -146,7 +146,7 @@ QWidget* Hauptformular::erstelle_Ergebnisspalte() {
 void Hauptformular::starte() {
     {
         const Wartezeiger warte;
-        Programm_.Starten();
+        Programm_.fuehre_aus<&Programmablauf::starte>();
     }
     nach_Handlung();
     Schalter_->gib_Ende_den_Fokus();
@@ -158,7 +158,7 @@ void Hauptformular::zeige() {
     Menue_->zeige();
     Bilder_->zeige();
     for (Rahmen* r : Rahmen_) r->zeige();
-    Drucken_->setEnabled(Programm_.offener_Bericht() != nullptr);
+    Drucken_->setEnabled(Programm_.zeige<Berichtssteuerung>().offener() != nullptr);
     Steuerung_->zeige();
     zeige_Titel();
     Steuerung_->beende_Zeigen();
@@ -188,11 +188,11 @@ void Hauptformular::oeffne_faelligen_Editor() {
 
 void Hauptformular::erstelle_tooltips() {
     if (!Tooltips_) Tooltips_ = new cTooltip(this);
-    varnok::erstelle_tooltips(*Tooltips_, *this, Programm_.Tooltips());
+    varnok::erstelle_tooltips(*Tooltips_, *this, Programm_.fuehre_aus<&Hilfetexte::Tooltips>());
 }
 
 void Hauptformular::zeige_Info() {
-    Textfenster Fenster(u"Info"_s, u"About VARNOK"_s, in_Qt(Programm_.Programmangaben()), this);
+    Textfenster Fenster(u"Info"_s, u"About VARNOK"_s, in_Qt(Programm_.zeige<Hilfetexte>().Programmangaben()), this);
     Fenster.exec();
 }
 
@@ -214,11 +214,11 @@ void Hauptformular::nach_Handlung() {
 }
 
 void Hauptformular::suche_beim_Start() {
-    Programm_.suche_beim_Start([Fenster = QPointer(this)](const std::function<void()>& Handlung) {
+    Programm_.fuehre_aus<&Aktualisierungssteuerung::suche_beim_Start>([Fenster = QPointer(this)](const std::string& Seite) {
         if (!Fenster) return;
         {
             const Wartezeiger warte;
-            Handlung();
+            Fenster->Programm_.fuehre_aus<&Aktualisierungssteuerung::melde>(Seite);
         }
         Fenster->nach_Handlung();
     });
@@ -228,7 +228,7 @@ void Hauptformular::oeffne_Optionen() {
     bool frei = false;
     {
         const Wartezeiger warte;
-        frei = Programm_.schliesse_Feld_ab();
+        frei = Programm_.fuehre_aus<&Feldeingabe::schliesse_ab>(true);
     }
     nach_Handlung();
     if (!frei) return;
@@ -241,13 +241,13 @@ void Hauptformular::nach_Optionen() {
     farbe_einstellen(*this, Programm_.Stand().Einstellung);
     {
         const Wartezeiger warte;
-        if (Programm_.schliesse_Optionen()) erstelle_tooltips();
+        if (Programm_.fuehre_aus<&Optionensteuerung::schliesse>()) erstelle_tooltips();
     }
     nach_Handlung();
 }
 
 void Hauptformular::oeffne_Organiser() {
-    const bool offen = Programm_.oeffne_Organiser();
+    const bool offen = Programm_.fuehre_aus<&Organiser::oeffne>();
     nach_Handlung();
     if (!offen) return;
     {
@@ -260,7 +260,7 @@ void Hauptformular::oeffne_Organiser() {
     QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     {
         const Wartezeiger warte;
-        Programm_.schliesse_Organiser();
+        Programm_.fuehre_aus<&Organiser::schliesse_ab>();
     }
     nach_Handlung();
 }
@@ -272,7 +272,7 @@ void Hauptformular::waehle_Fehlerzelle() {
 
 void Hauptformular::closeEvent(QCloseEvent* e) {
     // What waits for the server would go on without its window.
-    if (Programm_.Stand().Aktualisierung_laeuft || !Programm_.schliesse_Fenster()) {
+    if (Programm_.Stand().Aktualisierung_laeuft || !Programm_.fuehre_aus<&Programmablauf::schliesse_Fenster>()) {
         e->ignore();
         zeige();
         return;

@@ -27,35 +27,52 @@ constexpr std::array<Menuezeile, 4> Menues = {{{u"M_Datei", u"&File", false},
                                                {u"M_Ansicht", u"&View", true},
                                                {u"M_Hilfe", u"&Help", false}}};
 
+template <auto Befehl, auto... Angaben>
+void befiehl(Sitzung& s) {
+    s.fuehre_aus<Befehl>(Angaben...);
+}
+
+// What a part says.
+template <auto Auskunft>
+auto frage(const Sitzung& s) {
+    return std::invoke(Auskunft, s.zeige<Teil_mit<Auskunft>>());
+}
+
+bool ist_gestartet(const Sitzung& s) { return s.Stand().Gestartet; }
+
 struct Befehlszeile {
     Menuename Menue;
     const char16_t* Name;
     const char16_t* Aufschrift;
-    void (Sitzung::*Befehl)() = nullptr;  // none: the window opens a dialog for it
+    Menue::Befehl befiehl = nullptr;  // none: the window opens a dialog for it
     const char16_t* Taste = u"";
     bool Strich_davor = false;
-    bool (Sitzung::*erlaubt)() const = nullptr;            // none: always
-    std::string (Sitzung::*Gegenstand)() const = nullptr;  // told behind the caption; where it is empty there is nothing to do
+    Menue::Erlaubnis erlaubt = nullptr;    // none: always
+    Menue::Auskunft Gegenstand = nullptr;  // told behind the caption; where it is empty there is nothing to do
 };
 constexpr std::array<Befehlszeile, 18> Befehle = {{
-    {Datei, u"M_Neuer_Wirkstoff", u"New &Pesticide record", &Sitzung::neuer_Wirkstoff},
-    {Datei, u"M_Neue_Applikationsdatei", u"New &Application record", &Sitzung::neue_Applikationsdatei},
-    {Datei, u"M_Neues_Szenario", u"&New Scenario", &Sitzung::neues_Szenario},
+    {Datei, u"M_Neuer_Wirkstoff", u"New &Pesticide record", befiehl<&Satzverwaltung::lege_an, Wirkstoff>},
+    {Datei, u"M_Neue_Applikationsdatei", u"New &Application record", befiehl<&Satzverwaltung::lege_an, Applikation>},
+    {Datei, u"M_Neues_Szenario", u"&New Scenario", befiehl<&Satzverwaltung::lege_an, Szenario>},
     {Datei, u"M_Laden", u"&Load simulation", nullptr, u"", true},
-    {Datei, u"M_Defaults", u"&Load program defaults", &Sitzung::lade_Voreinstellungen},
+    {Datei, u"M_Defaults", u"&Load program defaults", befiehl<&Satzverwaltung::lade_Voreinstellungen>},
     {Datei, u"M_Drucken", u"&Print", nullptr, u"", true},
-    {Datei, u"M_Speichern", u"&Save all input data", &Sitzung::Speichern, u"Ctrl+S"},
-    {Datei, u"M_Ende", u"&Exit", &Sitzung::Ende, u"Ctrl+Q", true},
-    {editieren, u"M_Rueckgaengig", u"&Undo", &Sitzung::mache_rueckgaengig, u"Ctrl+Z", false, nullptr,
-     &Sitzung::Name_rueckgaengig},
-    {editieren, u"M_Wiederholen", u"&Redo", &Sitzung::wiederhole, u"Ctrl+Shift+Z", false, nullptr, &Sitzung::Name_wiederholen},
-    {editieren, u"M_Addiere", u"&Add study", &Sitzung::addiere_Studie, u"", true, &Sitzung::darf_Studie_addieren},
-    {editieren, u"M_Loesche", u"&Delete study", &Sitzung::loesche_Studie, u"", false, &Sitzung::darf_Studie_loeschen},
+    {Datei, u"M_Speichern", u"&Save all input data", befiehl<&Satzverwaltung::speichere>, u"Ctrl+S"},
+    {Datei, u"M_Ende", u"&Exit", befiehl<&Programmablauf::beende>, u"Ctrl+Q", true},
+    {editieren, u"M_Rueckgaengig", u"&Undo", befiehl<&Ruecknahme::mache_rueckgaengig>, u"Ctrl+Z", false, nullptr,
+     frage<&Ruecknahme::Name_zurueck>},
+    {editieren, u"M_Wiederholen", u"&Redo", befiehl<&Ruecknahme::wiederhole>, u"Ctrl+Shift+Z", false, nullptr,
+     frage<&Ruecknahme::Name_vor>},
+    {editieren, u"M_Addiere", u"&Add study", befiehl<&Studienverwaltung::addiere>, u"", true,
+     frage<&Studienverwaltung::darf_addieren>},
+    {editieren, u"M_Loesche", u"&Delete study", befiehl<&Studienverwaltung::loesche>, u"", false,
+     frage<&Studienverwaltung::darf_loeschen>},
     {editieren, u"M_Optionen", u"&Preferences", nullptr, u"", true},
-    {ansehen, u"M_Studien", u"&Individual studies", &Sitzung::zeige_Studien},
-    {ansehen, u"M_Zusammenfassung", u"&Summary", &Sitzung::zeige_Zusammenfassung, u"", false, &Sitzung::darf_Zusammenfassung},
-    {Hilfe, u"M_suche_nach_Update", u"&Onlinecheck for updates", &Sitzung::suche_nach_Update, u"", false,
-     &Sitzung::darf_nach_Update_suchen},
+    {ansehen, u"M_Studien", u"&Individual studies", befiehl<&Listenwahl::zeige_Studien>},
+    {ansehen, u"M_Zusammenfassung", u"&Summary", befiehl<&Listenwahl::zeige_Zusammenfassung>, u"", false,
+     frage<&Listenwahl::darf_Zusammenfassung>},
+    {Hilfe, u"M_suche_nach_Update", u"&Onlinecheck for updates", befiehl<&Aktualisierungssteuerung::suche>, u"", false,
+     frage<&Aktualisierungssteuerung::darf_suchen>},
     {Hilfe, u"M_Versionsinfo", u"&Release notes"},
     {Hilfe, u"M_ueber", u"&About", nullptr, u"", true},
 }};
@@ -70,8 +87,9 @@ Menue::Menue(Sitzung& Programm, QMainWindow& Fenster) : QObject(&Fenster), Progr
             QAction* Bericht = Fenster.menuBar()->addAction(u"&Report"_s);
             Bericht->setObjectName(u"M_Bericht"_s);
             Bericht->setShortcut(QKeySequence(u"Ctrl+R"_s));
-            Eintraege_.push_back({Bericht, &Sitzung::ist_gestartet, nullptr, {}});
-            connect(Bericht, &QAction::triggered, this, [this, Bericht] { fuehre_aus(Bericht, &Sitzung::erstelle_Bericht); });
+            Eintraege_.push_back({Bericht, ist_gestartet, nullptr, {}});
+            connect(Bericht, &QAction::triggered, this,
+                    [this, Bericht] { fuehre_aus(Bericht, befiehl<&Berichtssteuerung::erstelle>); });
         }
         Menueliste[i] = Fenster.menuBar()->addMenu(QString::fromUtf16(Menues[i].Aufschrift));
         Menueliste[i]->setObjectName(QString::fromUtf16(Menues[i].Name));
@@ -86,17 +104,16 @@ Menue::Menue(Sitzung& Programm, QMainWindow& Fenster) : QObject(&Fenster), Progr
         // Names like "Quit" would move entries to another menu on some desktops.
         Aktion->setMenuRole(QAction::NoRole);
         Eintraege_.push_back({Aktion, b.erlaubt, b.Gegenstand, Aktion->text()});
-        if (b.Befehl)
-            connect(Aktion, &QAction::triggered, this, [this, Aktion, Befehl = b.Befehl] { fuehre_aus(Aktion, Befehl); });
+        if (b.befiehl) connect(Aktion, &QAction::triggered, this, [this, Aktion, Tat = b.befiehl] { fuehre_aus(Aktion, Tat); });
     }
 }
 
 // A command that waits for an answer from outside is not started again meanwhile.
-void Menue::fuehre_aus(QAction* Aktion, void (Sitzung::*Befehl)()) {
+void Menue::fuehre_aus(QAction* Aktion, Befehl b) {
     {
         const Wartezeiger warte;
         Aktion->setEnabled(false);
-        (Programm_.*Befehl)();
+        b(Programm_);
         Aktion->setEnabled(true);
     }
     Q_EMIT gehandelt();
@@ -105,13 +122,13 @@ void Menue::fuehre_aus(QAction* Aktion, void (Sitzung::*Befehl)()) {
 void Menue::zeige() {
     for (QAction* m : nach_Start_) m->setEnabled(Programm_.Stand().Gestartet);
     for (const Eintrag& e : Eintraege_) {
-        if (e.erlaubt) e.Aktion->setEnabled((Programm_.*e.erlaubt)());
+        if (e.erlaubt) e.Aktion->setEnabled(e.erlaubt(Programm_));
         if (e.Gegenstand) zeige_Gegenstand(e);
     }
 }
 
 void Menue::zeige_Gegenstand(const Eintrag& e) {
-    const QString Name = in_Qt((Programm_.*e.Gegenstand)());
+    const QString Name = in_Qt(e.Gegenstand(Programm_));
     e.Aktion->setText(Name.isEmpty() ? e.Aufschrift : e.Aufschrift + u' ' + QString(Name).replace(u'&', u"&&"_s));
     e.Aktion->setEnabled(!Name.isEmpty());
 }

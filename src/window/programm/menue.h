@@ -17,6 +17,10 @@ namespace varnok {
 class Menue : public QObject {
     Q_OBJECT
 public:
+    using Befehl = void (*)(Sitzung&);
+    using Erlaubnis = bool (*)(const Sitzung&);
+    using Auskunft = std::string (*)(const Sitzung&);
+
     Menue(Sitzung& Programm, QMainWindow& Fenster);
     // Enables what can be done now.
     void zeige();
@@ -27,12 +31,12 @@ Q_SIGNALS:
 private:
     struct Eintrag {
         QAction* Aktion;
-        bool (Sitzung::*erlaubt)() const;            // none: always
-        std::string (Sitzung::*Gegenstand)() const;  // what it acts on, behind its caption; none: nothing is told
+        Erlaubnis erlaubt;    // none: always
+        Auskunft Gegenstand;  // what it acts on, behind its caption; none: nothing is told
         QString Aufschrift;
     };
 
-    void fuehre_aus(QAction* Aktion, void (Sitzung::*Befehl)());
+    void fuehre_aus(QAction* Aktion, Befehl b);
     void zeige_Gegenstand(const Eintrag& e);
 
     Sitzung& Programm_;

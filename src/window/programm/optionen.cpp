@@ -57,7 +57,7 @@ Optionskasten erstelle_Optionskasten(const QString& Name, const QString& Titel, 
 Optionen::Optionen(Sitzung& Programm, QWidget* parent) : QDialog(parent), Programm_(Programm) {
     setObjectName(u"Optionen"_s);
     setWindowTitle(u"Options"_s);
-    const Optionsentwurf o = Programm.oeffne_Optionen();
+    const Optionsentwurf o = Programm.fuehre_aus<&Optionensteuerung::oeffne>();
 
     auto* Spalten = new QHBoxLayout;
     Spalten->setSpacing(16);
@@ -182,7 +182,7 @@ void Optionen::lege_Ordner_an() {
     const QString Name = QInputDialog::getText(this, u"Make folder"_s, u"Name of the new folder in \"%1\":"_s.arg(Dir1_->Pfad()),
                                                QLineEdit::Normal, {}, &gegeben);
     if (!gegeben) return;
-    const auto Neuer = Programm_.lege_Ordner_an(aus_Qt(Dir1_->Pfad()), aus_Qt(Name));
+    const auto Neuer = Programm_.fuehre_aus<&Optionensteuerung::lege_Ordner_an>(aus_Qt(Dir1_->Pfad()), aus_Qt(Name));
     if (Neuer) Dir1_->waehle(in_Qt(*Neuer));
 }
 
@@ -199,7 +199,7 @@ Optionsentwurf Optionen::Entwurf() const {
 }
 
 void Optionen::accept() {
-    if (Programm_.uebernimm_Optionen(Entwurf())) QDialog::accept();
+    if (Programm_.fuehre_aus<&Optionensteuerung::uebernimm>(Entwurf())) QDialog::accept();
 }
 
 }  // namespace varnok

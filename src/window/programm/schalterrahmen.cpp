@@ -32,10 +32,10 @@ Schalterrahmen::Schalterrahmen(Sitzung& Programm, QWidget* parent)
     Zeile->addSpacing(18);
     Zeile->addWidget(Status_, 1);
 
-    connect(Aktualisieren_, &QPushButton::clicked, this, [this] { handle([&] { Programm_.Aktualisieren(); }); });
-    connect(speichern_, &QPushButton::clicked, this, [this] { handle([&] { Programm_.Speichern(); }); });
-    connect(Bericht_erstellen_, &QPushButton::clicked, this, [this] { handle([&] { Programm_.erstelle_Bericht(); }); });
-    connect(Ende_, &QPushButton::clicked, this, [this] { handle([&] { Programm_.Ende(); }); });
+    connect(Aktualisieren_, &QPushButton::clicked, this, [this] { befiehl<&Satzverwaltung::aktualisiere>(); });
+    connect(speichern_, &QPushButton::clicked, this, [this] { befiehl<&Satzverwaltung::speichere>(); });
+    connect(Bericht_erstellen_, &QPushButton::clicked, this, [this] { befiehl<&Berichtssteuerung::erstelle>(); });
+    connect(Ende_, &QPushButton::clicked, this, [this] { befiehl<&Programmablauf::beende>(); });
 }
 
 QIcon Schalterrahmen::Hinweisbild() const {

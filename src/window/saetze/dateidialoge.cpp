@@ -72,7 +72,7 @@ QString Dateidialog::gewaehlte_Datei() const {
 }
 
 bool Dateidialog::darf_loeschen() const {
-    return !gewaehlte_Datei().isEmpty() && Programm_.darf_Eingabedatei_loeschen(aus_Qt(Verzeichnis_->Pfad()));
+    return !gewaehlte_Datei().isEmpty() && Programm_.zeige<Eingabedateien>().darf_loeschen(aus_Qt(Verzeichnis_->Pfad()));
 }
 
 void Dateidialog::fuelle_Dateien() {
@@ -87,7 +87,7 @@ void Dateidialog::lies_Dateien() {
 }
 
 void Dateidialog::loesche() {
-    Programm_.loesche_Eingabedatei(aus_Qt(Verzeichnis_->Pfad()), aus_Qt(gewaehlte_Datei()));
+    Programm_.fuehre_aus<&Eingabedateien::loesche>(aus_Qt(Verzeichnis_->Pfad()), aus_Qt(gewaehlte_Datei()));
     lies_Dateien();
 }
 
@@ -105,7 +105,7 @@ void Eingabedaten_Laden::zeige_Wahl() {
 
 void Eingabedaten_Laden::accept() {
     if (gewaehlte_Datei().isEmpty()) return;
-    if (Programm_.lade_Eingabedaten(aus_Qt(gewaehlte_Datei()))) QDialog::accept();
+    if (Programm_.fuehre_aus<&Eingabedateien::lade>(aus_Qt(gewaehlte_Datei()))) QDialog::accept();
 }
 
 Eingabedaten_Speichern_unter::Eingabedaten_Speichern_unter(Sitzung& Programm, QWidget* parent)
@@ -127,7 +127,7 @@ void Eingabedaten_Speichern_unter::zeige_Wahl() {
 }
 
 void Eingabedaten_Speichern_unter::accept() {
-    if (Programm_.speichere_Eingabedaten_unter(aus_Qt(Dateiname_->text()))) QDialog::accept();
+    if (Programm_.fuehre_aus<&Eingabedateien::speichere>(aus_Qt(Dateiname_->text()))) QDialog::accept();
 }
 
 }  // namespace varnok

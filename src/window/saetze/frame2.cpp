@@ -33,22 +33,20 @@ Frame2::Frame2(Sitzung& Programm, QWidget* parent) : Rahmen(u"Frame2"_s, Rahmena
     Zeile->addWidget(Schild_Beschreibung);
     Zeile->addWidget(Beschreibung_, 1);
 
-    connect(Simulation_->Liste, &QComboBox::activated, this, [this](int i) { handle([&] { Programm_.waehle_Simulation(i); }); });
+    connect(Simulation_->Liste, &QComboBox::activated, this, [this](int i) { befiehl<&Satzverwaltung::waehle_Simulation>(i); });
     connect(Simulation_, &Satzliste::gehandelt, this, &Rahmen::gehandelt);
     // The dialog opens when the press is over.
     connect(Beschreibung_, &Beschreibungsfeld::doppelt_geklickt, this, &Frame2::Organiser_verlangt, Qt::QueuedConnection);
     connect(Beschreibung_, &Beschreibungsfeld::aufgeschlossen, this, [this] { handle([&] { schliesse_auf(); }); });
     connect(Beschreibung_, &QLineEdit::textEdited, this,
-            [this](const QString& Text) { tippe([&] { Programm_.aendere_Beschreibung(aus_Qt(Text)); }); });
-    connect(Beschreibung_, &Beschreibungsfeld::abgeschlossen, this,
-            [this] { handle([&] { Programm_.schliesse_Beschreibung(); }); });
-    connect(Beschreibung_, &Beschreibungsfeld::zurueckgenommen, this,
-            [this] { handle([&] { Programm_.nimm_Beschreibung_zurueck(); }); });
+            [this](const QString& Text) { tippe([&] { Programm_.fuehre_aus<&Beschreibungseingabe::aendere>(aus_Qt(Text)); }); });
+    connect(Beschreibung_, &Beschreibungsfeld::abgeschlossen, this, [this] { befiehl<&Beschreibungseingabe::schliesse>(); });
+    connect(Beschreibung_, &Beschreibungsfeld::zurueckgenommen, this, [this] { befiehl<&Beschreibungseingabe::nimm_zurueck>(); });
 }
 
 // A number that is refused keeps the focus, and the description stays locked.
 void Frame2::schliesse_auf() {
-    if (Programm_.schliesse_Feld_ab()) Programm_.oeffne_Beschreibung();
+    if (Programm_.fuehre_aus<&Feldeingabe::schliesse_ab>(true)) Programm_.fuehre_aus<&Beschreibungseingabe::oeffne>();
 }
 
 void Frame2::zeige() {

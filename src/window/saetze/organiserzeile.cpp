@@ -103,12 +103,7 @@ void Organiserzeile::haenge_an(const QString& Aufschrift, QWidget* Feld) {
 }
 
 void Organiserzeile::verbinde_Tasten() {
-    connect(Liste_, &QComboBox::activated, this, [this](int i) {
-        handle([&] {
-            Programm_.organisiere(
-                [&](Organiser& o) { Satzart_ == Simulation ? o.waehle_Simulation(i) : o.waehle_Satz(Satzart_, i); });
-        });
-    });
+    connect(Liste_, &QComboBox::activated, this, [this](int i) { befiehl<&Organiser::waehle>(Satzart_, i); });
     connect(Copy_, &QPushButton::clicked, this, &Organiserzeile::kopiere);
     connect(Loeschen_, &QPushButton::clicked, this, &Organiserzeile::loesche);
     connect(Umbenennen_, &QPushButton::clicked, this, &Organiserzeile::beginne_Umbenennen);
@@ -116,8 +111,9 @@ void Organiserzeile::verbinde_Tasten() {
 
 void Organiserzeile::verbinde_Bedienung() {
     auto* Bedienung = new Listenbedienung(*Liste_, [this] {
-        const bool da = Programm_.Organisation().darf_kopieren(Satzart_);
-        return Listenbedienung::Rechte{false, da, da, Programm_.Organisation().darf_loeschen(Satzart_)};
+        const auto& o = Programm_.zeige<Organiser>();
+        const bool da = o.darf_kopieren(Satzart_);
+        return Listenbedienung::Rechte{false, da, da, o.darf_loeschen(Satzart_)};
     });
     connect(Bedienung, &Listenbedienung::kopieren, this, &Organiserzeile::kopiere);
     connect(Bedienung, &Listenbedienung::loeschen, this, &Organiserzeile::loesche);
@@ -125,24 +121,19 @@ void Organiserzeile::verbinde_Bedienung() {
     connect(Neuer_Dateiname_, &Umbenennfeld::bestaetigt, this, &Organiserzeile::benenne_um);
 }
 
-void Organiserzeile::kopiere() {
-    handle([this] { Programm_.organisiere([this](Organiser& o) { o.kopiere(Satzart_); }); });
-}
+void Organiserzeile::kopiere() { befiehl<&Organiser::kopiere>(Satzart_); }
 
-void Organiserzeile::loesche() {
-    handle([this] { Programm_.organisiere([this](Organiser& o) { o.loesche(Satzart_); }); });
-}
+void Organiserzeile::loesche() { befiehl<&Organiser::loesche>(Satzart_); }
 
 void Organiserzeile::beginne_Umbenennen() {
-    Neuer_Dateiname_->oeffne(in_Qt(Programm_.Organisation().Listen().gewaehlt(Satzart_)));
+    Neuer_Dateiname_->oeffne(in_Qt(Programm_.zeige<Organiser>().Listen().gewaehlt(Satzart_)));
 }
 
 // A name that was refused can be corrected while the box has the focus; left, it is given up.
 bool Organiserzeile::benenne_um(bool Enter) {
     const std::string Text = aus_Qt(Neuer_Dateiname_->text());
     if (!Enter) Neuer_Dateiname_->schliesse();
-    bool fertig = false;
-    handle([&] { Programm_.organisiere([&](Organiser& o) { fertig = o.benenne_um(Satzart_, Text, Enter); }); });
+    const bool fertig = befiehl<&Organiser::benenne_um>(Satzart_, Text, Enter);
     if (fertig) {
         Neuer_Dateiname_->schliesse();
     } else if (Enter) {
@@ -155,7 +146,7 @@ bool Organiserzeile::benenne_um(bool Enter) {
 bool Organiserzeile::schliesse_Umbenennen() { return !Neuer_Dateiname_->isVisible() || benenne_um(false); }
 
 void Organiserzeile::zeige() {
-    const Organiser& o = Programm_.Organisation();
+    const Organiser& o = Programm_.zeige<Organiser>();
     faerbe();
     Liste_->zeige(o.Listen().Listen[Satzart_], o.Listen().Auswahl(Satzart_));
     Copy_->setEnabled(o.darf_kopieren(Satzart_));

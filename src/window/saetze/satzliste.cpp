@@ -18,26 +18,29 @@ Satzliste::Satzliste(Satzart Art, const Namen& n, int Zeichen, Sitzung& Programm
     verbinde_Bedienung();
 }
 
-template <class Handlung>
-void Satzliste::handle(Handlung h) {
+template <auto Befehl, class... Angaben>
+bool Satzliste::befiehl(Angaben&&... a) {
+    bool getan = false;
     {
         const Wartezeiger warte;
-        h();
+        getan = Programm_.fuehre_aus<Befehl>(std::forward<Angaben>(a)...);
     }
     Q_EMIT gehandelt();
+    return getan;
 }
 
 void Satzliste::verbinde_Bedienung() {
-    const auto kopiere = [this] { handle([this] { Programm_.kopiere_Satz(Art_); }); };
-    const auto loesche = [this] { handle([this] { Programm_.loesche_Satz(Art_); }); };
+    const auto kopiere = [this] { befiehl<&Satzverwaltung::kopiere>(Art_); };
+    const auto loesche = [this] { befiehl<&Satzverwaltung::loesche>(Art_); };
     connect(Copy, &QPushButton::clicked, this, kopiere);
     connect(Loeschen, &QPushButton::clicked, this, loesche);
 
     auto* Bedienung = new Listenbedienung(*Liste, [this] {
-        const bool da = Programm_.darf_kopieren(Art_);
-        return Listenbedienung::Rechte{Art_ != Simulation, da, da, Programm_.darf_loeschen(Art_)};
+        const auto& Saetze = Programm_.zeige<Satzverwaltung>();
+        const bool da = Saetze.darf_kopieren(Art_);
+        return Listenbedienung::Rechte{Art_ != Simulation, da, da, Saetze.darf_loeschen(Art_)};
     });
-    connect(Bedienung, &Listenbedienung::anlegen, this, [this] { handle([this] { Programm_.lege_Satz_an(Art_); }); });
+    connect(Bedienung, &Listenbedienung::anlegen, this, [this] { befiehl<&Satzverwaltung::lege_an>(Art_); });
     connect(Bedienung, &Listenbedienung::kopieren, this, kopiere);
     connect(Bedienung, &Listenbedienung::loeschen, this, loesche);
     connect(Bedienung, &Listenbedienung::umbenennen, this,
@@ -49,8 +52,7 @@ void Satzliste::verbinde_Bedienung() {
 void Satzliste::benenne_um(bool Enter) {
     const std::string Text = aus_Qt(Neuer_Dateiname_->text());
     if (!Enter) Neuer_Dateiname_->schliesse();
-    bool fertig = true;
-    handle([&] { fertig = Programm_.benenne_Satz_um(Art_, Text, Enter); });
+    const bool fertig = befiehl<&Satzverwaltung::benenne_um>(Art_, Text, Enter);
     if (fertig) {
         Neuer_Dateiname_->schliesse();
     } else if (Enter) {
@@ -61,8 +63,9 @@ void Satzliste::benenne_um(bool Enter) {
 void Satzliste::zeige() {
     const Zustand& z = Programm_.Stand();
     Liste->zeige(z.Listen[Art_], z.Auswahl(Art_));
-    Copy->setEnabled(Programm_.darf_kopieren(Art_));
-    Loeschen->setEnabled(Programm_.darf_loeschen(Art_));
+    const auto& Saetze = Programm_.zeige<Satzverwaltung>();
+    Copy->setEnabled(Saetze.darf_kopieren(Art_));
+    Loeschen->setEnabled(Saetze.darf_loeschen(Art_));
 }
 
 }  // namespace varnok

@@ -30,8 +30,8 @@ Q_SIGNALS:
     void gehandelt();
 
 private:
-    template <class Handlung>
-    void handle(Handlung h);
+    template <auto Befehl, class... Angaben>
+    bool befiehl(Angaben&&... a);
     void verbinde_Bedienung();
     void benenne_um(bool Enter);
 

@@ -21,7 +21,7 @@ Satzzeile::Satzzeile(Satzart Art, const QString& Bedeutung, Sitzung& Programm, Q
     Zeile->addWidget(Satz_->Liste, 1);
     Zeile->addWidget(Satz_->Copy);
     Zeile->addWidget(Satz_->Loeschen);
-    connect(Satz_->Liste, &QComboBox::activated, this, [this, Art](int i) { handle([&] { Programm_.waehle_Satz(Art, i); }); });
+    connect(Satz_->Liste, &QComboBox::activated, this, [this, Art](int i) { befiehl<&Satzverwaltung::waehle_Satz>(Art, i); });
     connect(Satz_, &Satzliste::gehandelt, this, &Rahmen::gehandelt);
 }
 

@@ -64,9 +64,7 @@ void Simulationen::erstelle_Zeilen() {
 }
 
 void Simulationen::verbinde_Projektname() {
-    const auto uebergib = [this](const QString& Text) {
-        Programm_.organisiere([&](Organiser& o) { o.aendere_Projektname(aus_Qt(Text)); });
-    };
+    const auto uebergib = [this](const QString& Text) { Programm_.fuehre_aus<&Organiser::aendere_Projektname>(aus_Qt(Text)); };
     connect(Projektname_, &QLineEdit::textEdited, this, uebergib);
     connect(Projektname_, &Projektnamenfeld::zurueckgenommen, this, [this, uebergib](const QString& alter_Text) {
         uebergib(alter_Text);
@@ -77,7 +75,7 @@ void Simulationen::verbinde_Projektname() {
 }
 
 void Simulationen::zeige() {
-    const Organiser& o = Programm_.Organisation();
+    const Organiser& o = Programm_.zeige<Organiser>();
     for (Organiserzeile* z : Zeilen_) z->zeige();
     Projektname_->zeige(in_Qt(o.Projektname()));
     const QString Einwand = in_Qt(o.Einwand_gegen_Bearbeiten());
@@ -90,9 +88,9 @@ void Simulationen::zeige() {
 }
 
 void Simulationen::bearbeite_Szenario() {
-    Programm_.organisiere([](Organiser& o) { o.beginne_Bearbeiten(); });
+    Programm_.fuehre_aus<&Organiser::beginne_Bearbeiten>();
     oeffne_Szenarioeditor_(this);
-    Programm_.organisiere([](Organiser& o) { o.beende_Bearbeiten(); });
+    Programm_.fuehre_aus<&Organiser::beende_Bearbeiten>();
     activateWindow();
     zeige();
 }
@@ -104,7 +102,7 @@ void Simulationen::accept() {
     bool fertig = false;
     {
         const Wartezeiger warte;
-        Programm_.organisiere([&](Organiser& o) { fertig = o.uebernimm(); });
+        fertig = Programm_.fuehre_aus<&Organiser::uebernimm>();
     }
     if (fertig) {
         QDialog::accept();
@@ -115,7 +113,7 @@ void Simulationen::accept() {
 }
 
 void Simulationen::reject() {
-    Programm_.organisiere([](Organiser& o) { o.verwirf(); });
+    Programm_.fuehre_aus<&Organiser::verwirf>();
     QDialog::reject();
 }
 

@@ -69,9 +69,9 @@ Szenario_Form::Szenario_Form(Sitzung& Programm, QWidget* parent) : QDialog(paren
     Texte_[E::Bodendichte]->selectAll();
 }
 
-template <class Handlung>
-void Szenario_Form::tue(Handlung h) {
-    h(Programm_.Editor());
+template <auto Befehl, class... Angaben>
+void Szenario_Form::befiehl(Angaben... a) {
+    Programm_.fuehre_aus<Befehl>(a...);
     zeige();
 }
 
@@ -82,8 +82,7 @@ QWidget* Szenario_Form::erstelle_Boden() {
     Szenarioliste_ = new Satzauswahl(u"Szenarioliste"_s, 34, Flaeche);
     r->addWidget(Schild(u"Scenario:"_s, Szenarioliste_, Flaeche), 0, 0);
     r->addWidget(Szenarioliste_, 0, Feldspalte, 1, Feldspalten);
-    connect(Szenarioliste_, &QComboBox::activated, this,
-            [this](int i) { tue([i](Szenarioeditor& e) { e.waehle_Szenario(i); }); });
+    connect(Szenarioliste_, &QComboBox::activated, this, [this](int i) { befiehl<&Szenarioeditor::waehle_Szenario>(i); });
     for (int f = 0; f < E::Anzahl_Felder; ++f) erstelle_Textzeile(*r, 1 + f, static_cast<E::Feld>(f));
     Bodentiefe_ = erstelle_Tiefe(*r, 1 + E::Anzahl_Felder, true);
     Plateautiefe_ = erstelle_Tiefe(*r, 2 + E::Anzahl_Felder, false);
@@ -107,9 +106,9 @@ void Szenario_Form::erstelle_Textzeile(QGridLayout& Raster, int Zeile, Szenarioe
 
 // What was refused goes, and the cursor stands where it stood before.
 void Szenario_Form::tippe(Szenarioentwurf::Feld f, const QString& Text) {
-    if (Programm_.Editor().aendere(f, aus_Qt(Text))) return;
+    if (Programm_.fuehre_aus<&Szenarioeditor::aendere>(f, aus_Qt(Text))) return;
     QLineEdit* Feld = Texte_[f];
-    const QString angenommen = in_Qt(Programm_.Editor().Entwurf().Texte[f]);
+    const QString angenommen = in_Qt(Programm_.zeige<Szenarioeditor>().Entwurf().Texte[f]);
     const auto zuviel = Text.size() - angenommen.size();
     const int Stelle = Feld->cursorPosition();
     Feld->setText(angenommen);
@@ -122,16 +121,11 @@ Tiefenfeld* Szenario_Form::erstelle_Tiefe(QGridLayout& Raster, int Zeile, bool B
     const Tiefenfeld::Beschriftung Plateautext = {u"Tillage depth(cm):"_s, {u"5"_s, u"20"_s, u"Individual"_s}};
     const QString Groesse = Boden ? u"Bodentiefe"_s : u"Plateautiefe"_s;
     auto* Feld = new Tiefenfeld(Groesse, Boden ? Bodentext : Plateautext, this, Raster, Zeile);
-    connect(Feld, &Tiefenfeld::Option_gewaehlt, this, [this, Boden](int o) {
-        tue([=](Szenarioeditor& e) { Boden ? e.waehle_Bodentiefe_Option(o) : e.waehle_Plateautiefe_Option(o); });
-    });
-    connect(Feld, &Tiefenfeld::Tiefe_gewaehlt, this,
-            [this, Boden](int i) { tue([=](Szenarioeditor& e) { Boden ? e.waehle_Bodentiefe(i) : e.waehle_Plateautiefe(i); }); });
-    connect(Feld, &Tiefenfeld::geblaettert, this, [this, Boden](int i) {
-        tue([=](Szenarioeditor& e) { Boden ? e.blaettere_Bodentiefe(i) : e.blaettere_Plateautiefe(i); });
-    });
-    connect(Feld, &Tiefenfeld::verlassen, this,
-            [this, Boden] { tue([=](Szenarioeditor& e) { Boden ? e.verlasse_Bodentiefe() : e.verlasse_Plateautiefe(); }); });
+    const Szenarioeditor::Tiefe t = Boden ? &E::Boden : &E::Plateau;
+    connect(Feld, &Tiefenfeld::Option_gewaehlt, this, [this, t](int o) { befiehl<&Szenarioeditor::waehle_Option>(t, o); });
+    connect(Feld, &Tiefenfeld::Tiefe_gewaehlt, this, [this, t](int i) { befiehl<&Szenarioeditor::waehle_Tiefe>(t, i); });
+    connect(Feld, &Tiefenfeld::geblaettert, this, [this, t](int i) { befiehl<&Szenarioeditor::blaettere>(t, i); });
+    connect(Feld, &Tiefenfeld::verlassen, this, [this, t] { befiehl<&Szenarioeditor::verlasse>(t); });
     return Feld;
 }
 
@@ -162,10 +156,9 @@ QWidget* Szenario_Form::erstelle_Klima() {
     r->addWidget(Temperatur_, 1, Feldspalte, 1, Feldspalten, Qt::AlignLeft);
     r->addWidget(Klimaszenario_, 1, Feldspalte, 1, Feldspalten);
     connect(Klimabedingungen_, &QButtonGroup::idClicked, this,
-            [this](int m) { tue([m](Szenarioeditor& e) { e.waehle_Klimabedingungen(m); }); });
-    connect(Temperatur_, &QComboBox::activated, this, [this](int i) { tue([i](Szenarioeditor& e) { e.waehle_Temperatur(i); }); });
-    connect(Klimaszenario_, &QComboBox::activated, this,
-            [this](int i) { tue([i](Szenarioeditor& e) { e.waehle_Klimaszenario(i); }); });
+            [this](int m) { befiehl<&Szenarioeditor::waehle_Klimabedingungen>(m); });
+    connect(Temperatur_, &QComboBox::activated, this, [this](int i) { befiehl<&Szenarioeditor::waehle_Temperatur>(i); });
+    connect(Klimaszenario_, &QComboBox::activated, this, [this](int i) { befiehl<&Szenarioeditor::waehle_Klimaszenario>(i); });
     return Kasten;
 }
 
@@ -181,7 +174,7 @@ QWidget* Szenario_Form::erstelle_Tasten() {
 }
 
 void Szenario_Form::zeige() {
-    const Szenarioeditor& Editor = Programm_.Editor();
+    const auto& Editor = Programm_.zeige<Szenarioeditor>();
     const E& e = Editor.Entwurf();
     Szenarioliste_->zeige(e.Szenarien, e.Szenario);
     for (std::size_t f = 0; f < Texte_.size(); ++f) {
@@ -198,24 +191,24 @@ void Szenario_Form::zeige() {
 }
 
 void Szenario_Form::accept() {
-    Programm_.uebernimm_Szenario();
+    Programm_.fuehre_aus<&Szenarioeditor::uebernimm>();
     QDialog::accept();
 }
 
 // Cancel, Esc and the close box.
 void Szenario_Form::reject() {
-    Programm_.Editor().verwirf();
+    Programm_.fuehre_aus<&Szenarioeditor::verwirf>();
     QDialog::reject();
 }
 
 bool zeige_Szenarioeditor(Sitzung& Programm, QWidget* Fenster) {
     {
         const Wartezeiger warte;
-        if (!Programm.oeffne_Szenarioeditor()) return false;
+        if (!Programm.fuehre_aus<&Szenarioeditor::oeffne>()) return false;
     }
     const bool fertig = Szenario_Form(Programm, Fenster).exec() == QDialog::Accepted;
     const Wartezeiger warte;
-    Programm.schliesse_Szenarioeditor();
+    Programm.fuehre_aus<&Szenarioeditor::schliesse>();
     return fertig;
 }
 

@@ -34,8 +34,8 @@ private:
     void tippe(Szenarioentwurf::Feld f, const QString& Text);
     Tiefenfeld* erstelle_Tiefe(QGridLayout& Raster, int Zeile, bool Boden);
     void zeige();
-    template <class Handlung>
-    void tue(Handlung h);
+    template <auto Befehl, class... Angaben>
+    void befiehl(Angaben... a);
 
     Sitzung& Programm_;
     Auswahlliste* Szenarioliste_;

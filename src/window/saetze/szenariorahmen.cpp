@@ -56,9 +56,7 @@ Szenariorahmen::Szenariorahmen(Sitzung& Programm, QWidget* parent)
 }
 
 void Szenariorahmen::oeffne_Editor() {
-    bool frei = true;
-    if (Programm_.aktives_Feld() >= 0) handle([&] { frei = Programm_.schliesse_Feld_ab(); });
-    if (!frei || QApplication::activeModalWidget()) return;
+    if (!schliesse_Feld_ab() || QApplication::activeModalWidget()) return;
     zeige_Szenarioeditor(Programm_, window());
     Q_EMIT gehandelt();
 }

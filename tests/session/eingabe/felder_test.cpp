@@ -83,9 +83,9 @@ protected:
     }
     bool bestaetige(const char* Text) {
         const int f = Feld(GetParam().Feld);
-        s_->betrete_Feld(f);
-        s_->aendere_Feld(f, Text);
-        return s_->bestaetige_Feld(f);
+        s_->fuehre_aus<&Feldeingabe::betrete>(f);
+        s_->fuehre_aus<&Feldeingabe::aendere>(f, Text);
+        return s_->fuehre_aus<&Feldeingabe::bestaetige>(f);
     }
 };
 
@@ -100,7 +100,7 @@ TEST_P(Feldprobe, refused_value_on_leaving) {
     gestartet();
     erwarte_Ablehnung(false);
     EXPECT_FALSE(tippe(GetParam().Feld, GetParam().abgelehnt));
-    EXPECT_EQ(s_->aktives_Feld(), Feld(GetParam().Feld));
+    EXPECT_EQ(s_->zeige<Feldeingabe>().aktives_Feld(), Feld(GetParam().Feld));
     EXPECT_TRUE(s_->Stand().abgedeckt());
 }
 
@@ -115,7 +115,7 @@ TEST_P(Feldprobe, accepted_value_on_enter) {
     gestartet();
     EXPECT_TRUE(bestaetige(GetParam().angenommen));
     EXPECT_FALSE(s_->Stand().Hinweis());
-    EXPECT_EQ(s_->aktives_Feld(), Feld(GetParam().Feld));
+    EXPECT_EQ(s_->zeige<Feldeingabe>().aktives_Feld(), Feld(GetParam().Feld));
 }
 
 TEST_P(Feldprobe, refused_value_on_enter) {
@@ -159,11 +159,11 @@ TEST_F(Felder, typing_12_starts_no_run_at_1) {
     gestartet();
     const int Laeufe = s_->Stand().Zeichnung;
     const int f = Feld("S_DT50_0");
-    s_->betrete_Feld(f);
-    s_->aendere_Feld(f, "1");
-    s_->aendere_Feld(f, "12");
+    s_->fuehre_aus<&Feldeingabe::betrete>(f);
+    s_->fuehre_aus<&Feldeingabe::aendere>(f, "1");
+    s_->fuehre_aus<&Feldeingabe::aendere>(f, "12");
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe);
-    EXPECT_TRUE(s_->verlasse_Feld(f));
+    EXPECT_TRUE(s_->fuehre_aus<&Feldeingabe::verlasse>(f));
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe + 1);
     EXPECT_DOUBLE_EQ(k_SFO(*s_), std::log(2.0) / 12);
 }
@@ -172,8 +172,8 @@ TEST_F(Felder, enter_with_no_change_does_nothing) {
     gestartet();
     const int Laeufe = s_->Stand().Zeichnung;
     const int f = Feld("S_DT50_0");
-    s_->betrete_Feld(f);
-    EXPECT_TRUE(s_->bestaetige_Feld(f));
+    s_->fuehre_aus<&Feldeingabe::betrete>(f);
+    EXPECT_TRUE(s_->fuehre_aus<&Feldeingabe::bestaetige>(f));
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe);
     EXPECT_FALSE(s_->Stand().Hinweis());
 }
@@ -193,10 +193,10 @@ TEST_F(Felder, the_text_12abc_is_taken_as_12) {
 TEST_F(Felder, a_text_that_fails_its_test_stands_as_0_in_the_table_until_it_is_corrected) {
     gestartet();
     const int f = Feld("S_g_0");
-    s_->betrete_Feld(f);
-    s_->aendere_Feld(f, "3");
+    s_->fuehre_aus<&Feldeingabe::betrete>(f);
+    s_->fuehre_aus<&Feldeingabe::aendere>(f, "3");
     EXPECT_EQ(s_->Stand().Parameter().g_DFOP[0][0], 0);
-    s_->aendere_Feld(f, "0.25");
+    s_->fuehre_aus<&Feldeingabe::aendere>(f, "0.25");
     EXPECT_EQ(s_->Stand().Parameter().g_DFOP[0][0], 0.25);
 }
 
@@ -208,7 +208,7 @@ TEST_F(Felder, saving_and_reading_change_no_bit_of_a_number) {
     }
     const Laufparameter getippt = s_->Stand().Parameter();
     EXPECT_NEAR(getippt.KOC[0][0], 0.12345678901234567, 1e-15);
-    s_->Speichern();
+    s_->fuehre_aus<&Satzverwaltung::speichere>();
     EXPECT_EQ(nur_geladen().Stand().Parameter(), getippt);
 }
 
@@ -226,7 +226,7 @@ protected:
     void erwarte_wie_nach_Lauf() {
         const Ergebnis vorher = Werte();
         EXPECT_EQ(*vorher.Vorgabe, s_->Stand().Vorgabe);
-        s_->Aktualisieren();
+        s_->fuehre_aus<&Satzverwaltung::aktualisiere>();
         const Ergebnis& Lauf = Werte();
         EXPECT_EQ(vorher.Wirksame_Rate, Lauf.Wirksame_Rate);
         EXPECT_EQ(vorher.erste_Rate, Lauf.erste_Rate);
@@ -312,7 +312,7 @@ TEST_F(Dosis, one_that_no_run_takes_is_told_and_covered_in_every_view) {
     Fragen_.erwarte_Anfang("Runtime error", "The calculation is not possible with these input data. Please correct!");
     tippe("Applikationsrate", "1E300");
     EXPECT_TRUE(s_->Stand().abgedeckt());
-    s_->waehle_Endpunkt(Porenwasser);
+    s_->fuehre_aus<&Listenwahl::waehle_Endpunkt>(Porenwasser);
     EXPECT_TRUE(s_->Stand().abgedeckt());
     EXPECT_FALSE(ohne_Lauf("Applikationsrate", "2000"));
     erwarte_wie_nach_Lauf();
@@ -322,12 +322,12 @@ TEST_F(Felder, a_rate_of_0_by_enter_is_a_run_without_a_dose_and_a_later_rate_a_r
     gestartet();
     const float vorher = Maximum();
     const int f = Feld("Applikationsrate");
-    s_->betrete_Feld(f);
-    s_->aendere_Feld(f, "0");
-    ASSERT_TRUE(s_->bestaetige_Feld(f));
+    s_->fuehre_aus<&Feldeingabe::betrete>(f);
+    s_->fuehre_aus<&Feldeingabe::aendere>(f, "0");
+    ASSERT_TRUE(s_->fuehre_aus<&Feldeingabe::bestaetige>(f));
     EXPECT_EQ(Maximum(), 0.0F);
-    s_->aendere_Feld(f, "1000");
-    ASSERT_TRUE(s_->verlasse_Feld(f));
+    s_->fuehre_aus<&Feldeingabe::aendere>(f, "1000");
+    ASSERT_TRUE(s_->fuehre_aus<&Feldeingabe::verlasse>(f));
     EXPECT_EQ(Maximum(), vorher);
 }
 
@@ -335,13 +335,13 @@ TEST_F(Felder, a_dose_typed_back_after_a_refusal_needs_no_scaling) {
     gestartet();
     const float vorher = Maximum();
     const int f = Feld("Applikationsrate");
-    s_->betrete_Feld(f);
-    s_->aendere_Feld(f, "");
+    s_->fuehre_aus<&Feldeingabe::betrete>(f);
+    s_->fuehre_aus<&Feldeingabe::aendere>(f, "");
     Fragen_.erwarte(ungueltig, "The applikations rate is invalid. Please correct!");
-    EXPECT_FALSE(s_->verlasse_Feld(f));
-    s_->betrete_Feld(f);  // the focus comes back
-    s_->aendere_Feld(f, "1000");
-    EXPECT_TRUE(s_->verlasse_Feld(f));
+    EXPECT_FALSE(s_->fuehre_aus<&Feldeingabe::verlasse>(f));
+    s_->fuehre_aus<&Feldeingabe::betrete>(f);  // the focus comes back
+    s_->fuehre_aus<&Feldeingabe::aendere>(f, "1000");
+    EXPECT_TRUE(s_->fuehre_aus<&Feldeingabe::verlasse>(f));
     EXPECT_EQ(Maximum(), vorher);
     EXPECT_FALSE(s_->Stand().Hinweis());
     EXPECT_FALSE(s_->Stand().abgedeckt());
@@ -350,30 +350,30 @@ TEST_F(Felder, a_dose_typed_back_after_a_refusal_needs_no_scaling) {
 TEST_F(Felder, an_interception_left_at_0_reads_0_and_marks_nothing) {
     gestartet();
     const int f = Feld("Interzeption");
-    s_->betrete_Feld(f);
-    EXPECT_TRUE(s_->verlasse_Feld(f));
-    EXPECT_EQ(s_->Feldtext(f), "0");
+    s_->fuehre_aus<&Feldeingabe::betrete>(f);
+    EXPECT_TRUE(s_->fuehre_aus<&Feldeingabe::verlasse>(f));
+    EXPECT_EQ(s_->zeige<Feldeingabe>().Text(f), "0");
     EXPECT_FALSE(s_->Stand().Saetze[2].Geaendert);
 }
 
 TEST_F(Felder, esc_puts_the_last_accepted_text_back) {
     gestartet();
     const int f = Feld("S_DT50_0");
-    const std::string vorher = s_->Feldtext(f);
-    s_->betrete_Feld(f);
-    s_->aendere_Feld(f, "abc");
-    s_->nimm_Feld_zurueck(f);
-    EXPECT_EQ(s_->Feldtext(f), vorher);
+    const std::string vorher = s_->zeige<Feldeingabe>().Text(f);
+    s_->fuehre_aus<&Feldeingabe::betrete>(f);
+    s_->fuehre_aus<&Feldeingabe::aendere>(f, "abc");
+    s_->fuehre_aus<&Feldeingabe::nimm_zurueck>(f);
+    EXPECT_EQ(s_->zeige<Feldeingabe>().Text(f), vorher);
     EXPECT_NEAR(k_SFO(*s_), 0.01, 1e-15);
 }
 
 TEST_F(Felder, a_command_out_of_an_invalid_field_is_not_done) {
     gestartet();
     const int f = Feld("S_DT50_0");
-    s_->betrete_Feld(f);
-    s_->aendere_Feld(f, "-1");
+    s_->fuehre_aus<&Feldeingabe::betrete>(f);
+    s_->fuehre_aus<&Feldeingabe::aendere>(f, "-1");
     Fragen_.erwarte(ungueltig, DT50);
-    s_->waehle_Muster(1);
+    s_->fuehre_aus<&Listenwahl::waehle_Muster>(regelmaessig);
     EXPECT_EQ(s_->Stand().Felder().Applikationsmuster, 0);
 }
 
@@ -381,9 +381,9 @@ TEST_F(Felder, refresh_out_of_a_changed_field_makes_one_run) {
     gestartet();
     const int Laeufe = s_->Stand().Zeichnung;
     const int f = Feld("S_DT50_0");
-    s_->betrete_Feld(f);
-    s_->aendere_Feld(f, "33");
-    s_->Aktualisieren();
+    s_->fuehre_aus<&Feldeingabe::betrete>(f);
+    s_->fuehre_aus<&Feldeingabe::aendere>(f, "33");
+    s_->fuehre_aus<&Satzverwaltung::aktualisiere>();
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe + 1);
 }
 
@@ -392,7 +392,7 @@ TEST_F(Felder, showing_a_study_writes_nothing_back) {
     Parameter_.k_SFO[0][1] = 0.0123456789012345;
     schreibe_Probe();
     gestartet();
-    s_->waehle_Studie(1);
+    s_->fuehre_aus<&Listenwahl::waehle_Studie>(1);
     EXPECT_EQ(s_->Stand().Parameter().TRef[0][1], -5);
     EXPECT_EQ(s_->Stand().Parameter().k_SFO[0][1], 0.0123456789012345);
     EXPECT_FALSE(s_->Stand().Saetze[1].Geaendert);

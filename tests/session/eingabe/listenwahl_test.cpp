@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include "exposure/ergebnistabelle.h"
+#include "session/ergebnis/ergebnisanzeige.h"
 #include "session/kern/probesitzung.h"
 
 namespace varnok {
@@ -16,7 +18,7 @@ float Reihe(const Sitzung& s, int Studie, int Stoff, std::size_t Tag) {
 TEST_F(Auswahlprobe, another_kinetics_stores_its_code_marks_the_record_and_runs) {
     gestartet();
     const int Laeufe = s_->Stand().Zeichnung;
-    s_->waehle_Kinetik(0, FOMC);
+    s_->fuehre_aus<&Listenwahl::waehle_Kinetik>(0, FOMC);
     EXPECT_EQ(s_->Stand().Parameter().Kinetik[0][0], FOMC);
     EXPECT_TRUE(s_->Stand().Saetze[1].Geaendert);
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe + 1);
@@ -25,7 +27,7 @@ TEST_F(Auswahlprobe, another_kinetics_stores_its_code_marks_the_record_and_runs)
 TEST_F(Auswahlprobe, the_same_kinetics_again_does_nothing) {
     gestartet();
     const int Laeufe = s_->Stand().Zeichnung;
-    s_->waehle_Kinetik(0, SFO);
+    s_->fuehre_aus<&Listenwahl::waehle_Kinetik>(0, SFO);
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe);
     EXPECT_FALSE(s_->Stand().Saetze[1].Geaendert);
 }
@@ -35,8 +37,8 @@ TEST_F(Auswahlprobe, a_study_shows_its_values_and_is_run_once) {
     schreibe_Probe();
     gestartet();
     const int Laeufe = s_->Stand().Zeichnung;
-    s_->waehle_Studie(1);
-    EXPECT_EQ(s_->Feldtext(Feld("S_DT50_0")), "34.6573590279973");
+    s_->fuehre_aus<&Listenwahl::waehle_Studie>(1);
+    EXPECT_EQ(s_->zeige<Feldeingabe>().Text(Feld("S_DT50_0")), "34.6573590279973");
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe + 1);
     EXPECT_GT(Maximum(1), 0.0F);
 }
@@ -48,14 +50,14 @@ TEST_F(Auswahlprobe, a_DT50_of_0_shows_as_0_after_a_study_change) {
     Fragen_.erwarte("No final plateau",
                     "The residues of Parent P grow without limit: there is no final plateau. "
                     "The growth over 10 years is shown instead.");
-    s_->waehle_Studie(1);
-    EXPECT_EQ(s_->Feldtext(Feld("S_DT50_0")), "0");
+    s_->fuehre_aus<&Listenwahl::waehle_Studie>(1);
+    EXPECT_EQ(s_->zeige<Feldeingabe>().Text(Feld("S_DT50_0")), "0");
 }
 
 TEST_F(Auswahlprobe, a_change_of_study_keeps_the_mark_of_the_compound_record) {
     gestartet();
     ASSERT_TRUE(tippe("S_DT50_0", "12"));
-    s_->waehle_Studie(1);
+    s_->fuehre_aus<&Listenwahl::waehle_Studie>(1);
     EXPECT_TRUE(s_->Stand().Saetze[1].Geaendert);
 }
 
@@ -70,7 +72,7 @@ TEST_F(Auswahlprobe, a_field_edits_its_own_compound_whatever_was_calculated_last
 
 TEST_F(Auswahlprobe, another_scheme_runs_every_study) {
     gestartet();
-    s_->waehle_Berechnungsmodus(1);
+    s_->fuehre_aus<&Listenwahl::waehle_Berechnungsmodus>(ein_Metabolit);
     EXPECT_GT(Maximum(0, 1), 0.0F);
     EXPECT_GT(Maximum(1, 1), 0.0F);
     EXPECT_TRUE(s_->Stand().Saetze[1].Geaendert);
@@ -79,8 +81,8 @@ TEST_F(Auswahlprobe, another_scheme_runs_every_study) {
 
 TEST_F(Auswahlprobe, another_scheme_ends_the_summary_view) {
     gestartet();
-    s_->zeige_Zusammenfassung();
-    s_->waehle_Berechnungsmodus(2);
+    s_->fuehre_aus<&Listenwahl::zeige_Zusammenfassung>();
+    s_->fuehre_aus<&Listenwahl::waehle_Berechnungsmodus>(zwei_parallel);
     EXPECT_FALSE(s_->Stand().Zusammenfassung_aktiv);
     EXPECT_FALSE(s_->Stand().abgedeckt());
 }
@@ -89,8 +91,8 @@ TEST_F(Auswahlprobe, a_compound_that_the_scheme_does_not_have_leaves_the_view) {
     Felder_.Berechnungsmodus = zwei_parallel;
     schreibe_Probe();
     gestartet();
-    s_->waehle_Substanz(2);
-    s_->waehle_Berechnungsmodus(1);
+    s_->fuehre_aus<&Listenwahl::waehle_Substanz>(2);
+    s_->fuehre_aus<&Listenwahl::waehle_Berechnungsmodus>(ein_Metabolit);
     EXPECT_EQ(s_->Stand().Sicht.Substanz, 0);
 }
 
@@ -98,17 +100,17 @@ TEST_F(Auswahlprobe, a_compound_in_view_marks_nothing) {
     Felder_.Berechnungsmodus = ein_Metabolit;
     schreibe_Probe();
     gestartet();
-    s_->waehle_Substanz(1);
+    s_->fuehre_aus<&Listenwahl::waehle_Substanz>(1);
     EXPECT_FALSE(s_->Stand().Saetze[1].Geaendert);
 }
 
 TEST_F(Auswahlprobe, a_name_is_run_on_leaving_only_if_it_changed) {
     gestartet();
     const int Laeufe = s_->Stand().Zeichnung;
-    s_->verlasse_Namen();
+    s_->fuehre_aus<&Listenwahl::verlasse_Namen>();
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe);
-    s_->aendere_Namen(0, "Parent Q");
-    s_->verlasse_Namen();
+    s_->fuehre_aus<&Listenwahl::aendere_Namen>(0, "Parent Q");
+    s_->fuehre_aus<&Listenwahl::verlasse_Namen>();
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe + 1);
     EXPECT_TRUE(s_->Stand().Saetze[1].Geaendert);
 }
@@ -118,9 +120,9 @@ TEST_F(Auswahlprobe, a_month_shorter_than_the_day_takes_its_last_day) {
     Felder_.App_Tag = 30;
     schreibe_Probe();
     gestartet();
-    s_->waehle_Monat(1);
+    s_->fuehre_aus<&Listenwahl::waehle_Monat>(1);
     EXPECT_EQ(s_->Stand().Felder().App_Tag, 27);
-    EXPECT_EQ(s_->Tage_der_Liste(), 28);
+    EXPECT_EQ(s_->zeige<Listenwahl>().Tage(), 28);
     EXPECT_TRUE(s_->Stand().Saetze[2].Geaendert);
 }
 
@@ -128,10 +130,10 @@ TEST_F(Auswahlprobe, more_applications_shorten_the_list_of_intervals_and_keep_th
     Felder_.Applikationsmuster = regelmaessig;
     schreibe_Probe();
     gestartet();
-    s_->waehle_Intervall(181);
+    s_->fuehre_aus<&Listenwahl::waehle_Intervall>(181);
     const bool Marke = s_->Stand().Saetze[2].Geaendert;
-    s_->waehle_Anzahl(18);  // 20 a year
-    EXPECT_EQ(s_->Intervalle_der_Liste(), 18);
+    s_->fuehre_aus<&Listenwahl::waehle_Anzahl>(18);  // 20 a year
+    EXPECT_EQ(s_->zeige<Listenwahl>().Intervalle(), 18);
     EXPECT_EQ(s_->Stand().Felder().Intervall(), 18);
     EXPECT_EQ(s_->Stand().Saetze[2].Geaendert, Marke);
     EXPECT_EQ(Werte().Anzahl_pro_Jahr, 20);
@@ -141,15 +143,15 @@ TEST_F(Auswahlprobe, an_interval_ends_the_summary_view) {
     Felder_.Applikationsmuster = regelmaessig;
     schreibe_Probe();
     gestartet();
-    s_->zeige_Zusammenfassung();
-    s_->waehle_Intervall(6);
+    s_->fuehre_aus<&Listenwahl::zeige_Zusammenfassung>();
+    s_->fuehre_aus<&Listenwahl::waehle_Intervall>(6);
     EXPECT_FALSE(s_->Stand().Zusammenfassung_aktiv);
     EXPECT_EQ(Werte().Applikationstag[1], 7);
 }
 
 TEST_F(Auswahlprobe, the_summary_view_runs_every_study_and_keeps_the_selection) {
     gestartet();
-    s_->zeige_Zusammenfassung();
+    s_->fuehre_aus<&Listenwahl::zeige_Zusammenfassung>();
     EXPECT_TRUE(s_->Stand().Zusammenfassung_aktiv);
     EXPECT_GT(Maximum(1), 0.0F);
     EXPECT_EQ(s_->Stand().i_studie(), 0);
@@ -158,15 +160,15 @@ TEST_F(Auswahlprobe, the_summary_view_runs_every_study_and_keeps_the_selection) 
 
 TEST_F(Auswahlprobe, in_the_summary_view_a_date_concerns_all_studies) {
     gestartet();
-    s_->zeige_Zusammenfassung();
-    s_->waehle_Tag(4);
+    s_->fuehre_aus<&Listenwahl::zeige_Zusammenfassung>();
+    s_->fuehre_aus<&Listenwahl::waehle_Tag>(4);
     for (int st = 0; st < 2; ++st) EXPECT_TRUE(s_->Stand().gueltig(static_cast<std::size_t>(st)));
     EXPECT_FALSE(s_->Stand().abgedeckt());
 }
 
 TEST_F(Auswahlprobe, in_the_summary_view_a_rate_scales_all_studies) {
     gestartet();
-    s_->zeige_Zusammenfassung();
+    s_->fuehre_aus<&Listenwahl::zeige_Zusammenfassung>();
     const std::array<float, 2> vorher{Maximum(0), Maximum(1)};
     ASSERT_TRUE(tippe("Applikationsrate", "2000"));
     EXPECT_EQ(Maximum(0), 2 * vorher[0]);
@@ -177,7 +179,7 @@ TEST_F(Auswahlprobe, in_the_summary_view_a_formation_fraction_runs_all_studies) 
     Felder_.Berechnungsmodus = ein_Metabolit;
     schreibe_Probe();
     gestartet();
-    s_->zeige_Zusammenfassung();
+    s_->fuehre_aus<&Listenwahl::zeige_Zusammenfassung>();
     const float vorher = Maximum(1, 1);
     ASSERT_TRUE(tippe("Bildungsanteil_Met_1", "80"));
     EXPECT_NEAR(Maximum(1, 1) / vorher, 2, 1e-5);
@@ -186,10 +188,10 @@ TEST_F(Auswahlprobe, in_the_summary_view_a_formation_fraction_runs_all_studies) 
 TEST_F(Auswahlprobe, view_selectors_calculate_nothing) {
     gestartet();
     const float Wert = Reihe(*s_, 0, 0, 100);
-    s_->waehle_Endpunkt(1);
-    s_->waehle_PEC_Typ(2);
-    s_->waehle_Fruchtwechsel(2);
-    s_->waehle_TWA_Laenge(0);
+    s_->fuehre_aus<&Listenwahl::waehle_Endpunkt>(Porenwasser);
+    s_->fuehre_aus<&Listenwahl::waehle_PEC_Typ>(Anreicherung);
+    s_->fuehre_aus<&Listenwahl::waehle_Fruchtwechsel>(jedes_dritte_Jahr);
+    s_->fuehre_aus<&Listenwahl::waehle_TWA_Laenge>(0);
     EXPECT_EQ(Reihe(*s_, 0, 0, 100), Wert);
     for (const bool g : s_->Stand().Marken()) EXPECT_FALSE(g);
 }
@@ -197,13 +199,13 @@ TEST_F(Auswahlprobe, view_selectors_calculate_nothing) {
 TEST_F(Auswahlprobe, a_view_selector_does_not_uncover_results_that_are_not_valid) {
     gestartet();
     const int f = Feld("S_DT50_0");
-    s_->betrete_Feld(f);
-    s_->aendere_Feld(f, "-1");
+    s_->fuehre_aus<&Feldeingabe::betrete>(f);
+    s_->fuehre_aus<&Feldeingabe::aendere>(f, "-1");
     Fragen_.erwarte("No valid input!", "The DT50 is invalid. Please correct!");
-    EXPECT_FALSE(s_->verlasse_Feld(f));
+    EXPECT_FALSE(s_->fuehre_aus<&Feldeingabe::verlasse>(f));
     EXPECT_TRUE(s_->Stand().abgedeckt());
     Fragen_.erwarte("No valid input!", "The DT50 is invalid. Please correct!");
-    s_->waehle_Endpunkt(1);
+    s_->fuehre_aus<&Listenwahl::waehle_Endpunkt>(Porenwasser);
     EXPECT_TRUE(s_->Stand().abgedeckt());
 }
 
@@ -211,29 +213,29 @@ TEST_F(Auswahlprobe, the_accumulated_view_with_every_third_year_adds_a_third_of_
     Parameter_.k_SFO[0][0] = std::log(2.0) / 300;
     schreibe_Probe();
     gestartet();
-    s_->waehle_PEC_Typ(2);
-    s_->waehle_Fruchtwechsel(2);
+    s_->fuehre_aus<&Listenwahl::waehle_PEC_Typ>(Anreicherung);
+    s_->fuehre_aus<&Listenwahl::waehle_Fruchtwechsel>(jedes_dritte_Jahr);
     const double erwartet = Maximum() + static_cast<double>(Werte().Werte(Gesamtgehalt, 0).Plateauwert) / 3;
-    EXPECT_EQ(s_->Ergebnisse(0)[1][1], Formatiere_Zahl(erwartet, false, true, 0));
+    EXPECT_EQ(Ergebnisse_einer_Studie(s_->Stand(), 0)[1][1], Formatiere_Zahl(erwartet, false, true, 0));
 }
 
 // Results of a scheme without the compound: nothing of it is known.
 TEST_F(Auswahlprobe, a_table_of_a_compound_that_was_not_calculated_shows_zeros) {
     gestartet();
-    EXPECT_NE(s_->Ergebnisse(0)[1][1], "<0.0001");
-    EXPECT_EQ(s_->Ergebnisse(1)[1][1], "<0.0001");
-    const auto Zusammenfassung = s_->Ergebnisse_Zusammenfassung(0);  // the second study was not run
-    EXPECT_EQ(Zusammenfassung[1][1], "    " + s_->Ergebnisse(0)[1][1]);
+    EXPECT_NE(Ergebnisse_einer_Studie(s_->Stand(), 0)[1][1], "<0.0001");
+    EXPECT_EQ(Ergebnisse_einer_Studie(s_->Stand(), 1)[1][1], "<0.0001");
+    const auto Zusammenfassung = Ergebnisse_aller_Studien(s_->Stand(), 0);  // the second study was not run
+    EXPECT_EQ(Zusammenfassung[1][1], "    " + Ergebnisse_einer_Studie(s_->Stand(), 0)[1][1]);
     EXPECT_EQ(Zusammenfassung[1][2], "    <0.0001");
 }
 
 TEST_F(Auswahlprobe, result_rows_are_13_with_the_EU_list_and_15_with_the_monthly_list) {
     gestartet();
-    EXPECT_EQ(s_->Ergebnisse(0).size(), 13U);
+    EXPECT_EQ(Ergebnisse_einer_Studie(s_->Stand(), 0).size(), 13U);
     Parameter_.TWA_Zeiten = 0;
     schreibe_Probe();
     gestartet();
-    EXPECT_EQ(s_->Ergebnisse(0).size(), 15U);
+    EXPECT_EQ(Ergebnisse_einer_Studie(s_->Stand(), 0).size(), 15U);
 }
 
 constexpr const char* Daten_ungueltig = "You entered application dates that are not valid. Please correct!";
@@ -253,9 +255,9 @@ protected:
 
 TEST_F(Tabellenprobe, keys_edit_the_cell_and_mark_record_and_hint) {
     oeffne();
-    s_->leere_Zelle({0, 2});
-    for (const char z : std::string("12.5")) s_->haenge_an_Zelle({0, 2}, z);
-    s_->nimm_letztes_Zeichen({0, 2});
+    s_->fuehre_aus<&Applikationstabelle::leere>(Zelle{0, 2});
+    for (const char z : std::string("12.5")) s_->fuehre_aus<&Applikationstabelle::haenge_an>(Zelle{0, 2}, z);
+    s_->fuehre_aus<&Applikationstabelle::nimm_letztes>(Zelle{0, 2});
     EXPECT_EQ(Text(0, 2), "12.");
     EXPECT_TRUE(s_->Stand().Saetze[2].Geaendert);
     EXPECT_TRUE(s_->Stand().Hinweis());
@@ -263,18 +265,18 @@ TEST_F(Tabellenprobe, keys_edit_the_cell_and_mark_record_and_hint) {
 
 TEST_F(Tabellenprobe, enter_checks_once_and_makes_one_run) {
     oeffne();
-    s_->haenge_an_Zelle({1, 2}, '0');
+    s_->fuehre_aus<&Applikationstabelle::haenge_an>(Zelle{1, 2}, '0');
     const int Laeufe = s_->Stand().Zeichnung;
-    s_->bestaetige_Tabelle();
+    s_->fuehre_aus<&Applikationstabelle::bestaetige>();
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe + 1);
     EXPECT_EQ(Werte().Tagesrate[31], 1000.0F);
 }
 
 TEST_F(Tabellenprobe, an_empty_month_is_told_once_and_its_cell_selected) {
     oeffne();
-    s_->leere_Zelle({1, 1});
+    s_->fuehre_aus<&Applikationstabelle::leere>(Zelle{1, 1});
     Fragen_.erwarte("No valid input!", Daten_ungueltig);
-    s_->bestaetige_Tabelle();
+    s_->fuehre_aus<&Applikationstabelle::bestaetige>();
     ASSERT_TRUE(s_->Stand().Tabellenfehler);
     EXPECT_EQ(s_->Stand().Tabellenfehler->Zeile, 1);
     EXPECT_EQ(s_->Stand().Tabellenfehler->Spalte, 1);
@@ -284,15 +286,15 @@ TEST_F(Tabellenprobe, an_empty_month_is_told_once_and_its_cell_selected) {
 
 TEST_F(Tabellenprobe, dates_that_do_not_ascend_are_told) {
     oeffne();
-    s_->fuege_in_Tabelle_ein({0, 0}, "15\t5\n15\t5\n");
+    s_->fuehre_aus<&Applikationstabelle::fuege_ein>(Zelle{0, 0}, "15\t5\n15\t5\n");
     Fragen_.erwarte("No valid input!", "The sequence of application dates that is not valid. Please correct!");
-    s_->bestaetige_Tabelle();
+    s_->fuehre_aus<&Applikationstabelle::bestaetige>();
     EXPECT_TRUE(s_->Stand().abgedeckt());
 }
 
 TEST_F(Tabellenprobe, a_column_of_numbers_is_pasted_downwards_and_no_row_is_made) {
     oeffne();
-    s_->fuege_in_Tabelle_ein({0, 2}, "10\r\n20\r\n30\r\n");
+    s_->fuehre_aus<&Applikationstabelle::fuege_ein>(Zelle{0, 2}, "10\r\n20\r\n30\r\n");
     EXPECT_EQ(Text(0, 2), "10");
     EXPECT_EQ(Text(1, 2), "20");
     EXPECT_EQ(s_->Stand().Felder().Applikationsschema.size(), 2U);
@@ -300,10 +302,10 @@ TEST_F(Tabellenprobe, a_column_of_numbers_is_pasted_downwards_and_no_row_is_made
 
 TEST_F(Tabellenprobe, rows_cut_off_by_a_smaller_number_come_back_with_a_larger_one) {
     oeffne();
-    s_->waehle_Anzahl(1);  // 3 rows
-    s_->fuege_in_Tabelle_ein({2, 0}, "01\t07\t80\t5");
-    s_->waehle_Anzahl(0);
-    s_->waehle_Anzahl(1);
+    s_->fuehre_aus<&Listenwahl::waehle_Anzahl>(1);  // 3 rows
+    s_->fuehre_aus<&Applikationstabelle::fuege_ein>(Zelle{2, 0}, "01\t07\t80\t5");
+    s_->fuehre_aus<&Listenwahl::waehle_Anzahl>(0);
+    s_->fuehre_aus<&Listenwahl::waehle_Anzahl>(1);
     EXPECT_EQ(Text(2, 2), "80");
     EXPECT_TRUE(s_->Stand().Hinweis());  // the table takes effect with Enter
 }
@@ -313,7 +315,7 @@ TEST_F(Tabellenprobe, switching_to_irregular_with_an_empty_table_tells_at_once) 
     schreibe_Probe();
     gestartet();
     Fragen_.erwarte("No valid input!", Daten_ungueltig);
-    s_->waehle_Muster(unregelmaessig);
+    s_->fuehre_aus<&Listenwahl::waehle_Muster>(unregelmaessig);
     EXPECT_TRUE(s_->Stand().abgedeckt());
     EXPECT_TRUE(s_->Stand().Hinweis());
 }

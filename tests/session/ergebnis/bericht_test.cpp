@@ -14,49 +14,49 @@ class Berichtsprobe : public Probesitzung {
 protected:
     // The picture of the open report.
     QImage Bild() const {
-        const QTextDocument& d = *s_->offener_Bericht()->Dokument;
+        const QTextDocument& d = *s_->zeige<Berichtssteuerung>().offener()->Dokument;
         return d.resource(QTextDocument::ImageResource, QUrl(QString::fromLatin1(Bildname))).value<QImage>();
     }
     QImage Bild_mit_Legende(const std::optional<Flaechenort>& Ort) const {
-        return erstelle_Berichtsbild(mit_Beschriftung(*s_->Diagramme().vorderes(), {.Legende = Ort}));
+        return erstelle_Berichtsbild(mit_Beschriftung(*s_->zeige<Diagrammsteuerung>().vorderes(), {.Legende = Ort}));
     }
 };
 
 TEST_F(Berichtsprobe, of_the_selected_study_is_shown_and_written_to_output) {
     gestartet();
-    s_->erstelle_Bericht();
-    ASSERT_NE(s_->offener_Bericht(), nullptr);
-    EXPECT_NE(s_->offener_Bericht()->Text.find("RESULTS OF THE CALCULATION"), std::string::npos);
+    s_->fuehre_aus<&Berichtssteuerung::erstelle>();
+    ASSERT_NE(s_->zeige<Berichtssteuerung>().offener(), nullptr);
+    EXPECT_NE(s_->zeige<Berichtssteuerung>().offener()->Text.find("RESULTS OF THE CALCULATION"), std::string::npos);
     EXPECT_EQ(s_->Stand().Ergebnisdatei, "A trial");  // all name parts off
     EXPECT_TRUE(gibt_es("output/A trial.rtf"));
 }
 
 TEST_F(Berichtsprobe, in_the_summary_view_is_that_of_all_studies) {
     gestartet();
-    s_->zeige_Zusammenfassung();
-    s_->erstelle_Bericht();
-    ASSERT_NE(s_->offener_Bericht(), nullptr);
-    EXPECT_NE(s_->offener_Bericht()->Text.find("Second soil"), std::string::npos);
+    s_->fuehre_aus<&Listenwahl::zeige_Zusammenfassung>();
+    s_->fuehre_aus<&Berichtssteuerung::erstelle>();
+    ASSERT_NE(s_->zeige<Berichtssteuerung>().offener(), nullptr);
+    EXPECT_NE(s_->zeige<Berichtssteuerung>().offener()->Text.find("Second soil"), std::string::npos);
 }
 
 TEST_F(Berichtsprobe, first_accepts_the_field_in_work_and_runs) {
     gestartet();
     const int f = Feld("S_DT50_0");
-    s_->betrete_Feld(f);
-    s_->aendere_Feld(f, "12");
-    s_->erstelle_Bericht();
-    ASSERT_NE(s_->offener_Bericht(), nullptr);
-    EXPECT_NE(s_->offener_Bericht()->Text.find("DT50 (d):\t12\r\n"), std::string::npos);
+    s_->fuehre_aus<&Feldeingabe::betrete>(f);
+    s_->fuehre_aus<&Feldeingabe::aendere>(f, "12");
+    s_->fuehre_aus<&Berichtssteuerung::erstelle>();
+    ASSERT_NE(s_->zeige<Berichtssteuerung>().offener(), nullptr);
+    EXPECT_NE(s_->zeige<Berichtssteuerung>().offener()->Text.find("DT50 (d):\t12\r\n"), std::string::npos);
 }
 
 TEST_F(Berichtsprobe, out_of_an_invalid_field_there_is_none) {
     gestartet();
     const int f = Feld("S_DT50_0");
-    s_->betrete_Feld(f);
-    s_->aendere_Feld(f, "-1");
+    s_->fuehre_aus<&Feldeingabe::betrete>(f);
+    s_->fuehre_aus<&Feldeingabe::aendere>(f, "-1");
     Fragen_.erwarte("No valid input!", "The DT50 is invalid. Please correct!");
-    s_->erstelle_Bericht();
-    EXPECT_EQ(s_->offener_Bericht(), nullptr);
+    s_->fuehre_aus<&Berichtssteuerung::erstelle>();
+    EXPECT_EQ(s_->zeige<Berichtssteuerung>().offener(), nullptr);
 }
 
 TEST_F(Berichtsprobe, that_cannot_be_written_is_told_and_stays_on_the_screen) {
@@ -64,72 +64,72 @@ TEST_F(Berichtsprobe, that_cannot_be_written_is_told_and_stays_on_the_screen) {
     std::filesystem::remove_all(Wurzel_ / "output");
     std::ofstream(Wurzel_ / "output") << "a file in the folder's place";
     Fragen_.erwarte_Anfang("Runtime error", "");
-    s_->erstelle_Bericht();
-    EXPECT_NE(s_->offener_Bericht(), nullptr);
+    s_->fuehre_aus<&Berichtssteuerung::erstelle>();
+    EXPECT_NE(s_->zeige<Berichtssteuerung>().offener(), nullptr);
     EXPECT_FALSE(s_->Stand().abgedeckt());
 }
 
 TEST_F(Berichtsprobe, with_a_description_that_no_file_can_be_called_by_is_refused) {
     gestartet();
-    s_->aendere_Beschreibung("spring/autumn");
+    s_->fuehre_aus<&Beschreibungseingabe::aendere>("spring/autumn");
     Fragen_.erwarte_Anfang("Runtime error", "");
-    s_->erstelle_Bericht();
-    EXPECT_EQ(s_->offener_Bericht(), nullptr);
+    s_->fuehre_aus<&Berichtssteuerung::erstelle>();
+    EXPECT_EQ(s_->zeige<Berichtssteuerung>().offener(), nullptr);
     EXPECT_FALSE(s_->Stand().abgedeckt());
 }
 
 TEST_F(Berichtsprobe, another_description_clears_the_name_of_the_output_file) {
     gestartet();
-    s_->erstelle_Bericht();
-    s_->aendere_Beschreibung("Another");
+    s_->fuehre_aus<&Berichtssteuerung::erstelle>();
+    s_->fuehre_aus<&Beschreibungseingabe::aendere>("Another");
     EXPECT_EQ(s_->Stand().Ergebnisdatei, "");
 }
 
 TEST_F(Berichtsprobe, has_the_legend_where_it_was_dragged_to_in_the_diagram_in_front) {
     constexpr Flaechenort Ort = {0.3, 0.6};
     gestartet();
-    s_->waehle_Berechnungsmodus(1);
-    s_->merke_Legende(false, 1, Ort);
-    s_->erstelle_Bericht();
+    s_->fuehre_aus<&Listenwahl::waehle_Berechnungsmodus>(ein_Metabolit);
+    s_->fuehre_aus<&Diagrammsteuerung::merke_Legende>(false, 1, Ort);
+    s_->fuehre_aus<&Berichtssteuerung::erstelle>();
     EXPECT_EQ(Bild(), Bild_mit_Legende(Ort));
     EXPECT_NE(Bild(), Bild_mit_Legende({}));
-    s_->schalte_Diagramm_weiter();  // the legend of the metabolite's diagram is still at home
-    s_->erstelle_Bericht();
+    s_->fuehre_aus<&Diagrammsteuerung::schalte_weiter>();  // the legend of the metabolite's diagram is still at home
+    s_->fuehre_aus<&Berichtssteuerung::erstelle>();
     EXPECT_EQ(Bild(), Bild_mit_Legende({}));
 }
 
 TEST_F(Berichtsprobe, of_all_studies_goes_by_the_legend_of_the_summary_diagram) {
     constexpr Flaechenort Ort = {0.1, 0.4};
     gestartet();
-    s_->merke_Legende(false, 0, Flaechenort{0.5, 0.5});
-    s_->merke_Legende(true, 0, Ort);
-    s_->zeige_Zusammenfassung();
-    s_->erstelle_Bericht();
+    s_->fuehre_aus<&Diagrammsteuerung::merke_Legende>(false, 0, Flaechenort{0.5, 0.5});
+    s_->fuehre_aus<&Diagrammsteuerung::merke_Legende>(true, 0, Ort);
+    s_->fuehre_aus<&Listenwahl::zeige_Zusammenfassung>();
+    s_->fuehre_aus<&Berichtssteuerung::erstelle>();
     EXPECT_EQ(Bild(), Bild_mit_Legende(Ort));
 }
 
 TEST_F(Berichtsprobe, has_a_legend_that_was_called_home_at_home) {
     gestartet();
-    s_->merke_Legende(false, 0, Flaechenort{0.5, 0.5});
-    s_->merke_Legende(false, 0, std::nullopt);
-    s_->erstelle_Bericht();
+    s_->fuehre_aus<&Diagrammsteuerung::merke_Legende>(false, 0, Flaechenort{0.5, 0.5});
+    s_->fuehre_aus<&Diagrammsteuerung::merke_Legende>(false, 0, std::nullopt);
+    s_->fuehre_aus<&Berichtssteuerung::erstelle>();
     EXPECT_EQ(Bild(), Bild_mit_Legende({}));
 }
 
 TEST_F(Berichtsprobe, shows_the_diagram_in_front) {
     gestartet();
-    s_->waehle_Berechnungsmodus(2);
+    s_->fuehre_aus<&Listenwahl::waehle_Berechnungsmodus>(zwei_parallel);
     for (int i = 0; i < 4; ++i) {
-        s_->erstelle_Bericht();
-        EXPECT_EQ(Bild(), Bild_mit_Legende({})) << s_->Diagramme().vorne();
-        s_->schalte_Diagramm_weiter();
+        s_->fuehre_aus<&Berichtssteuerung::erstelle>();
+        EXPECT_EQ(Bild(), Bild_mit_Legende({})) << s_->zeige<Diagrammsteuerung>().vorne();
+        s_->fuehre_aus<&Diagrammsteuerung::schalte_weiter>();
     }
 }
 
 TEST_F(Berichtsprobe, is_saved_as_a_PDF) {
     gestartet();
-    s_->erstelle_Bericht();
-    s_->speichere_Bericht_als_PDF((Wurzel_ / "report.pdf").string());
+    s_->fuehre_aus<&Berichtssteuerung::erstelle>();
+    s_->fuehre_aus<&Berichtssteuerung::speichere_PDF>((Wurzel_ / "report.pdf").string());
     EXPECT_EQ(Datei("report.pdf").substr(0, 5), "%PDF-");
 }
 

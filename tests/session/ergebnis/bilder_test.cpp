@@ -73,8 +73,8 @@ protected:
         std::filesystem::create_directories(Wurzel_ / "output");
         std::filesystem::copy(std::filesystem::path(VARNOK_DATENORDNER) / "input", Wurzel_ / "input");
         s_ = std::make_unique<Sitzung>(Umgebung{&Fragen_, Wurzel_.string(), VARNOK_DATENORDNER, '.'});
-        EXPECT_TRUE(s_->oeffne_Projekt());
-        s_->Starten();
+        EXPECT_TRUE(s_->fuehre_aus<&Programmablauf::oeffne_Projekt>());
+        s_->fuehre_aus<&Programmablauf::starte>();
     }
     ~Ausgelieferte_Bilder() override {
         s_.reset();
@@ -82,7 +82,7 @@ protected:
     }
 
     void pruefe(const std::string& Name) {
-        for (const Diagramm& d : s_->Diagramme().Diagramme()) {
+        for (const Diagramm& d : s_->zeige<Diagrammsteuerung>().Diagramme()) {
             for (const QSizeF& Groesse : {QSizeF(640, 500), QSizeF(mm_in_Einheiten(160), mm_in_Einheiten(125)),
                                           QSizeF(mm_in_Einheiten(90), mm_in_Einheiten(70)), QSizeF(1440, 900)}) {
                 for (const bool Druck : {false, true}) {
@@ -109,16 +109,16 @@ TEST_F(Ausgelieferte_Bilder, have_no_point_of_a_curve_under_a_text) {
     const auto Simulationen = s_->Stand().Listen[Simulation];
     ASSERT_GE(Simulationen.size(), 12U);
     for (std::size_t i = 0; i < Simulationen.size(); ++i) {
-        s_->waehle_Simulation(static_cast<int>(i));
-        for (const int Ansicht : {0, 1, 2}) {
-            s_->waehle_PEC_Typ(Ansicht);
-            for (const int Endpunkt : {0, 1}) {
-                s_->waehle_Endpunkt(Endpunkt);
+        s_->fuehre_aus<&Satzverwaltung::waehle_Simulation>(static_cast<int>(i));
+        for (const PEC_Ansicht Ansicht : {jaehrlich, Hintergrund, Anreicherung}) {
+            s_->fuehre_aus<&Listenwahl::waehle_PEC_Typ>(Ansicht);
+            for (const Endpunktart Endpunkt : {Gesamtgehalt, Porenwasser}) {
+                s_->fuehre_aus<&Listenwahl::waehle_Endpunkt>(Endpunkt);
                 pruefe(Simulationen[i]);
-                if (!s_->darf_Zusammenfassung()) continue;
-                s_->zeige_Zusammenfassung();
+                if (!s_->zeige<Listenwahl>().darf_Zusammenfassung()) continue;
+                s_->fuehre_aus<&Listenwahl::zeige_Zusammenfassung>();
                 pruefe(Simulationen[i] + ", all studies");
-                s_->zeige_Studien();
+                s_->fuehre_aus<&Listenwahl::zeige_Studien>();
             }
         }
     }
@@ -129,29 +129,29 @@ TEST_F(Ausgelieferte_Bilder, have_no_point_of_a_curve_under_a_text) {
 class Bildprobe : public Probesitzung {};
 
 TEST_F(Bildprobe, options_are_kept_in_the_settings) {
-    gestartet().gib_aus([](Bildsteuerung& b) { b.setze({90, 70, 600, true}); });
-    s_->Ende();
+    gestartet().fuehre_aus<&Bildsteuerung::setze>(Bildeinstellung{90, 70, 600, true});
+    s_->fuehre_aus<&Programmablauf::beende>();
     EXPECT_NE(Datei("VARNOK.ini").find("Pictures:\t90\t70\t600\t1\r\n"), std::string::npos);
 }
 
 TEST_F(Bildprobe, a_file_that_cannot_be_written_is_told_and_results_stand) {
     gestartet();
     Fragen_.erwarte_Anfang("Runtime error", "");
-    s_->gib_aus([&](Bildsteuerung& b) { b.speichere((Wurzel_ / "no such folder" / "a.svg").string(), Bildart::SVG, true); });
+    s_->fuehre_aus<&Bildsteuerung::speichere>((Wurzel_ / "no such folder" / "a.svg").string(), Bildart::SVG, true);
     EXPECT_FALSE(s_->Stand().abgedeckt());
     EXPECT_EQ(s_->Stand().Statuszeile.find("written"), std::string::npos);
 }
 
 TEST_F(Bildprobe, a_report_for_print_has_another_picture) {
-    gestartet().erstelle_Bericht();
-    const std::string farbig = s_->offener_Bericht()->RTF;
-    s_->gib_aus([](Bildsteuerung& b) { b.setze({160, 125, 300, true}); });
-    s_->zeige_Zusammenfassung();
-    s_->erstelle_Bericht();
-    const std::string gestrichelt = s_->offener_Bericht()->RTF;
-    s_->gib_aus([](Bildsteuerung& b) { b.setze({160, 125, 300, false}); });
-    s_->erstelle_Bericht();
-    EXPECT_NE(s_->offener_Bericht()->RTF, gestrichelt);
+    gestartet().fuehre_aus<&Berichtssteuerung::erstelle>();
+    const std::string farbig = s_->zeige<Berichtssteuerung>().offener()->RTF;
+    s_->fuehre_aus<&Bildsteuerung::setze>(Bildeinstellung{160, 125, 300, true});
+    s_->fuehre_aus<&Listenwahl::zeige_Zusammenfassung>();
+    s_->fuehre_aus<&Berichtssteuerung::erstelle>();
+    const std::string gestrichelt = s_->zeige<Berichtssteuerung>().offener()->RTF;
+    s_->fuehre_aus<&Bildsteuerung::setze>(Bildeinstellung{160, 125, 300, false});
+    s_->fuehre_aus<&Berichtssteuerung::erstelle>();
+    EXPECT_NE(s_->zeige<Berichtssteuerung>().offener()->RTF, gestrichelt);
     EXPECT_NE(farbig, gestrichelt);
 }
 

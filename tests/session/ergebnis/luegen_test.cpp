@@ -5,6 +5,7 @@
 #include <fstream>
 
 #include "records/dateien.h"
+#include "session/ergebnis/ergebnisanzeige.h"
 #include "session/kern/sitzungsgang_projekt.h"
 #include "session/saetze/befehlsprobe.h"
 
@@ -34,42 +35,42 @@ protected:
 
 TEST_F(Luegen, rows_of_another_irregular_record_never_come_back) {
     mache_unregelmaessig();
-    gestartet().waehle_Anzahl(0);
+    gestartet().fuehre_aus<&Listenwahl::waehle_Anzahl>(0);
     waehle(Applikation, "Second");
-    s_->waehle_Anzahl(3);
+    s_->fuehre_aus<&Listenwahl::waehle_Anzahl>(3);
     const auto& Tabelle = z().Felder().Applikationsschema;
     ASSERT_EQ(Tabelle.size(), 5U);
     for (std::size_t i = 2; i < 5; ++i) EXPECT_EQ(Tabelle[i], Applikationszeile{}) << i;
     Fragen_.erwarte_Anfang("No valid input!", "");
-    s_->bestaetige_Tabelle();
+    s_->fuehre_aus<&Applikationstabelle::bestaetige>();
     EXPECT_TRUE(z().abgedeckt());
 }
 
 TEST_F(Luegen, rows_cut_off_come_back_while_the_record_stands) {
     mache_unregelmaessig();
-    gestartet().waehle_Anzahl(0);
-    s_->waehle_Anzahl(3);
+    gestartet().fuehre_aus<&Listenwahl::waehle_Anzahl>(0);
+    s_->fuehre_aus<&Listenwahl::waehle_Anzahl>(3);
     EXPECT_EQ(z().Felder().Applikationsschema, Felder_.Applikationsschema);
 }
 
 TEST_F(Luegen, a_digit_typed_into_a_cell_leaves_table_and_diagram_of_the_new_view_with_the_hint) {
     mache_unregelmaessig();
     gestartet();
-    s_->waehle_Endpunkt(Porenwasser);
-    s_->waehle_PEC_Typ(Anreicherung);
-    const auto Tabelle = s_->Ergebnisse(0);
-    const Zeichenliste Bild = s_->Diagramme().vorderes()->Liste;
-    s_->waehle_Endpunkt(Gesamtgehalt);
-    s_->waehle_PEC_Typ(jaehrlich);
-    ASSERT_NE(s_->Ergebnisse(0), Tabelle);
-    s_->haenge_an_Zelle({0, 2}, '5');
+    s_->fuehre_aus<&Listenwahl::waehle_Endpunkt>(Porenwasser);
+    s_->fuehre_aus<&Listenwahl::waehle_PEC_Typ>(Anreicherung);
+    const auto Tabelle = Ergebnisse_einer_Studie(s_->Stand(), 0);
+    const Zeichenliste Bild = s_->zeige<Diagrammsteuerung>().vorderes()->Liste;
+    s_->fuehre_aus<&Listenwahl::waehle_Endpunkt>(Gesamtgehalt);
+    s_->fuehre_aus<&Listenwahl::waehle_PEC_Typ>(jaehrlich);
+    ASSERT_NE(Ergebnisse_einer_Studie(s_->Stand(), 0), Tabelle);
+    s_->fuehre_aus<&Applikationstabelle::haenge_an>(Zelle{0, 2}, '5');
     ASSERT_TRUE(z().Hinweis());
-    s_->waehle_Endpunkt(Porenwasser);
-    s_->waehle_PEC_Typ(Anreicherung);
+    s_->fuehre_aus<&Listenwahl::waehle_Endpunkt>(Porenwasser);
+    s_->fuehre_aus<&Listenwahl::waehle_PEC_Typ>(Anreicherung);
     EXPECT_TRUE(z().Hinweis());
     EXPECT_FALSE(z().abgedeckt());
-    EXPECT_EQ(s_->Ergebnisse(0), Tabelle);
-    EXPECT_EQ(s_->Diagramme().vorderes()->Liste, Bild);
+    EXPECT_EQ(Ergebnisse_einer_Studie(s_->Stand(), 0), Tabelle);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().vorderes()->Liste, Bild);
 }
 
 TEST_F(Luegen, esc_after_typing_leaves_no_hint_no_run_and_no_question) {
@@ -77,63 +78,61 @@ TEST_F(Luegen, esc_after_typing_leaves_no_hint_no_run_and_no_question) {
     const int Zeichnung = z().Zeichnung;
     const Ergebnisse vorher = z().Werte();
     const int f = Feld("S_DT50_0");
-    s_->betrete_Feld(f);
-    s_->aendere_Feld(f, "12");
+    s_->fuehre_aus<&Feldeingabe::betrete>(f);
+    s_->fuehre_aus<&Feldeingabe::aendere>(f, "12");
     EXPECT_TRUE(z().Hinweis());
-    s_->nimm_Feld_zurueck(f);
+    s_->fuehre_aus<&Feldeingabe::nimm_zurueck>(f);
     EXPECT_FALSE(z().Hinweis());
-    EXPECT_TRUE(s_->verlasse_Feld(f));
+    EXPECT_TRUE(s_->fuehre_aus<&Feldeingabe::verlasse>(f));
     EXPECT_EQ(z().Zeichnung, Zeichnung);
     EXPECT_EQ(z().Werte(), vorher);
-    s_->Ende();
+    s_->fuehre_aus<&Programmablauf::beende>();
     EXPECT_TRUE(z().beendet);
     EXPECT_TRUE(gesichert().empty());
 }
 
 TEST_F(Luegen, a_change_without_a_mark_goes_to_backup_when_another_record_is_chosen) {
-    gestartet().waehle_Anzahl(3);
+    gestartet().fuehre_aus<&Listenwahl::waehle_Anzahl>(3);
     ASSERT_FALSE(z().Saetze[Applikation].Geaendert);
     waehle(Applikation, "Second");
     EXPECT_EQ(gesichert(), Namen{"unsaved Probe.app"});
 }
 
 TEST_F(Luegen, a_record_replaced_is_not_called_deleted) {
-    gestartet().kopiere_Satz(Szenario);
+    gestartet().fuehre_aus<&Satzverwaltung::kopiere>(Szenario);
     ASSERT_EQ(z().gewaehlt(Szenario), "copy of Probe");
-    ASSERT_TRUE(s_->oeffne_Organiser());
+    ASSERT_TRUE(s_->fuehre_aus<&Organiser::oeffne>());
     Fragen_.erwarte_Anfang("Replace existing record?", "", Knopf::Ja);
-    s_->organisiere([](Organiser& o) {
-        const auto& l = o.Listen().Listen[Szenario];
-        o.waehle_Satz(Szenario, static_cast<int>(std::find(l.begin(), l.end(), "Probe") - l.begin()));
-        o.kopiere(Szenario);
-        o.verwirf();
-    });
-    s_->schliesse_Organiser();
+    const auto& l = s_->zeige<Organiser>().Listen().Listen[Szenario];
+    s_->fuehre_aus<&Organiser::waehle>(Szenario, static_cast<int>(std::find(l.begin(), l.end(), "Probe") - l.begin()));
+    s_->fuehre_aus<&Organiser::kopiere>(Szenario);
+    s_->fuehre_aus<&Organiser::verwirf>();
+    s_->fuehre_aus<&Organiser::schliesse_ab>();
     EXPECT_EQ(z().Abdeckungswort(), "Record replaced: choose or refresh");
 }
 
 TEST_F(Luegen, a_report_closes_over_other_results_other_inputs_and_the_summary) {
     gestartet();
     const auto mit_Bericht = [&](auto&& Tat) {
-        s_->erstelle_Bericht();
-        ASSERT_NE(s_->offener_Bericht(), nullptr);
+        s_->fuehre_aus<&Berichtssteuerung::erstelle>();
+        ASSERT_NE(s_->zeige<Berichtssteuerung>().offener(), nullptr);
         Tat();
-        EXPECT_EQ(s_->offener_Bericht(), nullptr);
+        EXPECT_EQ(s_->zeige<Berichtssteuerung>().offener(), nullptr);
     };
     mit_Bericht([&] { EXPECT_TRUE(tippe("S_DT50_0", "12")); });
-    mit_Bericht([&] { s_->zeige_Zusammenfassung(); });
-    mit_Bericht([&] { s_->waehle_Simulation(1); });
-    mit_Bericht([&] { s_->waehle_Endpunkt(Porenwasser); });
+    mit_Bericht([&] { s_->fuehre_aus<&Listenwahl::zeige_Zusammenfassung>(); });
+    mit_Bericht([&] { s_->fuehre_aus<&Satzverwaltung::waehle_Simulation>(1); });
+    mit_Bericht([&] { s_->fuehre_aus<&Listenwahl::waehle_Endpunkt>(Porenwasser); });
 }
 
 TEST_F(Luegen, after_a_failed_write_nothing_tells_of_the_report_before) {
-    gestartet().erstelle_Bericht();
+    gestartet().fuehre_aus<&Berichtssteuerung::erstelle>();
     ASSERT_FALSE(z().Ergebnisdatei.empty());
-    s_->schliesse_Bericht();
+    s_->fuehre_aus<&Berichtssteuerung::schliesse>();
     std::filesystem::remove_all(Wurzel_ / "output");
     std::ofstream(Wurzel_ / "output") << "no folder";
     Fragen_.erwarte_Anfang("Runtime error", "");
-    s_->erstelle_Bericht();
+    s_->fuehre_aus<&Berichtssteuerung::erstelle>();
     EXPECT_EQ(z().Ergebnisdatei, "");
     EXPECT_EQ(z().Statuszeile, "The report was not written.");
 }
@@ -181,9 +180,9 @@ TEST_F(Luegen, a_record_that_cannot_be_read_is_covered_with_file_line_and_reason
     EXPECT_EQ(z().Felder(), vorher);
     EXPECT_FALSE(z().Saetze[Wirkstoff].Geaendert);
     ASSERT_TRUE(tippe("S_DT50_0", "13"));
-    s_->Speichern();
+    s_->fuehre_aus<&Satzverwaltung::speichere>();
     EXPECT_THAT(z().Statuszeile, AllOf(HasSubstr("\"Second.che\" was not read"), Not(HasSubstr("All input data"))));
-    s_->Ende();
+    s_->fuehre_aus<&Programmablauf::beende>();
     EXPECT_TRUE(z().beendet);
     EXPECT_EQ(Datei("input/Second.che"), "rubbish");
     EXPECT_EQ(z().Werte()[0]->Vorgabe->Parameter.k_SFO[0][0], vorher.Parameter.k_SFO[0][0]);  // no run since
@@ -207,11 +206,11 @@ TEST_F(Luegen, a_start_with_an_empty_compound_record_is_covered_and_shows_no_cur
     gestartet();
     EXPECT_EQ(z().Abdeckungswort(), "Probe.che, line 1: the file ends before \"Pesticide data\"");
     EXPECT_EQ(z().Zeichnung, 0);
-    s_->erstelle_Bericht();
-    EXPECT_EQ(s_->offener_Bericht(), nullptr);
+    s_->fuehre_aus<&Berichtssteuerung::erstelle>();
+    EXPECT_EQ(s_->zeige<Berichtssteuerung>().offener(), nullptr);
     EXPECT_TRUE(tippe("S_DT50_0", "12"));
-    s_->mache_rueckgaengig();
-    s_->zeige_Zusammenfassung();
+    s_->fuehre_aus<&Ruecknahme::mache_rueckgaengig>();
+    s_->fuehre_aus<&Listenwahl::zeige_Zusammenfassung>();
     EXPECT_EQ(z().Zeichnung, 0);
     waehle(Wirkstoff, "Second");
     EXPECT_FALSE(z().abgedeckt());
@@ -221,15 +220,13 @@ TEST_F(Luegen, a_start_with_an_empty_compound_record_is_covered_and_shows_no_cur
 
 TEST_F(Luegen, no_line_names_what_has_no_name) {
     gestartet();
-    ASSERT_TRUE(s_->oeffne_Organiser());
+    ASSERT_TRUE(s_->fuehre_aus<&Organiser::oeffne>());
     bejahe_Loeschen();
-    s_->organisiere([](Organiser& o) {
-        o.loesche(Simulation);
-        o.verwirf();
-    });
-    s_->schliesse_Organiser();
+    s_->fuehre_aus<&Organiser::loesche>(Simulation);
+    s_->fuehre_aus<&Organiser::verwirf>();
+    s_->fuehre_aus<&Organiser::schliesse_ab>();
     ASSERT_EQ(z().Auswahl(Simulation), -1);
-    s_->Speichern();
+    s_->fuehre_aus<&Satzverwaltung::speichere>();
     EXPECT_THAT(z().Statuszeile, Not(HasSubstr("\"\"")));
     EXPECT_THAT(z().Statuszeile, HasSubstr("\"Probe.che\""));
 }
@@ -243,13 +240,13 @@ TEST_F(Luegen, undo_of_a_deleted_study_brings_back_all_of_it) {
     schreibe_Saetze("Probe", Felder_);
     gestartet();
     const Eingabe vorher = z().Felder();
-    const auto Tabelle = s_->Ergebnisse(0);
+    const auto Tabelle = Ergebnisse_einer_Studie(s_->Stand(), 0);
     Fragen_.erwarte_Anfang("Delete study", "", Knopf::Ja);
-    s_->loesche_Studie();
+    s_->fuehre_aus<&Studienverwaltung::loesche>();
     ASSERT_EQ(z().Studienzahl(), 1);
-    s_->mache_rueckgaengig();
+    s_->fuehre_aus<&Ruecknahme::mache_rueckgaengig>();
     EXPECT_EQ(z().Felder(), vorher);
-    EXPECT_EQ(s_->Ergebnisse(0), Tabelle);
+    EXPECT_EQ(Ergebnisse_einer_Studie(s_->Stand(), 0), Tabelle);
     EXPECT_FALSE(z().Hinweis());
     EXPECT_FALSE(z().abgedeckt());
 }
@@ -259,17 +256,17 @@ TEST_F(Luegen, undo_and_redo_pass_a_table_that_a_run_repairs) {
     mache_unregelmaessig();
     gestartet();
     const Eingabe geladen = z().Felder();
-    s_->fuege_in_Tabelle_ein({0, 3}, "150");
+    s_->fuehre_aus<&Applikationstabelle::fuege_ein>(Zelle{0, 3}, "150");
     const Eingabe getippt = z().Felder();
     Fragen_.erwarte_Anfang("Delete study", "", Knopf::Ja);
-    s_->loesche_Studie();
+    s_->fuehre_aus<&Studienverwaltung::loesche>();
     const Eingabe geloescht = z().Felder();
-    s_->mache_rueckgaengig();
+    s_->fuehre_aus<&Ruecknahme::mache_rueckgaengig>();
     EXPECT_EQ(z().Felder(), getippt);
-    s_->mache_rueckgaengig();
+    s_->fuehre_aus<&Ruecknahme::mache_rueckgaengig>();
     EXPECT_EQ(z().Felder(), geladen);
-    s_->wiederhole();
-    s_->wiederhole();
+    s_->fuehre_aus<&Ruecknahme::wiederhole>();
+    s_->fuehre_aus<&Ruecknahme::wiederhole>();
     EXPECT_EQ(z().Felder(), geloescht);
 }
 
@@ -320,13 +317,13 @@ public:
 TEST_F(Luegen, only_the_question_that_writes_into_the_record_chosen_has_no_default_button) {
     Merker m;
     Sitzung s(Umgebung{&m, Wurzel_.string(), "", '.'});
-    ASSERT_TRUE(s.oeffne_Projekt());
-    s.Starten();
-    s.aendere_Namen(0, "Another");
-    s.waehle_Satz(Wirkstoff, 1);
-    s.aendere_Namen(0, "Another again");
-    s.waehle_Satz(Wirkstoff, 1);
-    s.loesche_Satz(Wirkstoff);
+    ASSERT_TRUE(s.fuehre_aus<&Programmablauf::oeffne_Projekt>());
+    s.fuehre_aus<&Programmablauf::starte>();
+    s.fuehre_aus<&Listenwahl::aendere_Namen>(0, "Another");
+    s.fuehre_aus<&Satzverwaltung::waehle_Satz>(Wirkstoff, 1);
+    s.fuehre_aus<&Listenwahl::aendere_Namen>(0, "Another again");
+    s.fuehre_aus<&Satzverwaltung::waehle_Satz>(Wirkstoff, 1);
+    s.fuehre_aus<&Satzverwaltung::loesche>(Wirkstoff);
     ASSERT_EQ(m.Fragen.size(), 3U);
     EXPECT_TRUE(m.Fragen[0].ohne_Vorgabe);
     EXPECT_THAT(m.Fragen[0].Text, HasSubstr("\nYes writes these values to 'Second'; what 'Second' holds now goes to backup."));

@@ -19,7 +19,7 @@ protected:
 TEST_F(Nebenausgabenprobe, run_dump_is_there_after_the_first_run) {
     nur_geladen();
     EXPECT_FALSE(gibt_es("output/test.txt"));
-    s_->Starten();
+    s_->fuehre_aus<&Programmablauf::starte>();
     const std::string Text = Protokoll();
     EXPECT_EQ(Text, erwartetes_Protokoll());
     EXPECT_EQ(std::count(Text.begin(), Text.end(), '\n'), 3650);
@@ -35,22 +35,22 @@ TEST_F(Nebenausgabenprobe, run_dump_is_that_of_the_last_run) {
 
 TEST_F(Nebenausgabenprobe, run_dump_of_a_scheme_holds_the_compound_calculated_last) {
     gestartet();
-    s_->waehle_Berechnungsmodus(3);
+    s_->fuehre_aus<&Listenwahl::waehle_Berechnungsmodus>(zwei_in_Folge);
     EXPECT_EQ(Werte().Stoffwerte.size(), 3U);
     EXPECT_EQ(Protokoll(), erwartetes_Protokoll(1));
 }
 
 TEST_F(Nebenausgabenprobe, run_dump_of_all_studies_is_that_of_the_last_one) {
     gestartet();
-    s_->zeige_Zusammenfassung();
+    s_->fuehre_aus<&Listenwahl::zeige_Zusammenfassung>();
     EXPECT_EQ(Protokoll(), erwartetes_Protokoll(1));
 }
 
 TEST_F(Nebenausgabenprobe, a_redraw_without_a_run_leaves_the_run_dump_alone) {
     gestartet();
     std::filesystem::remove(Wurzel_ / "output" / "test.txt");
-    s_->waehle_Endpunkt(1);
-    s_->waehle_PEC_Typ(2);
+    s_->fuehre_aus<&Listenwahl::waehle_Endpunkt>(Porenwasser);
+    s_->fuehre_aus<&Listenwahl::waehle_PEC_Typ>(Anreicherung);
     EXPECT_FALSE(gibt_es("output/test.txt"));
     EXPECT_TRUE(gibt_es("output/Detailed Results - Parent P.tab"));
 }
@@ -68,11 +68,11 @@ TEST_F(Nebenausgabenprobe, a_run_dump_that_cannot_be_written_is_told_once_and_th
     nur_geladen();
     Fragen_.erwarte("Runtime error",
                     "Cannot write the file \"" + (Wurzel_ / "output" / "test.txt").string() + "\": it is a folder");
-    s_->Starten();
+    s_->fuehre_aus<&Programmablauf::starte>();
     EXPECT_FALSE(s_->Stand().abgedeckt());
     EXPECT_FALSE(s_->Stand().Hinweis());
-    EXPECT_NE(s_->Diagramme().vorderes(), nullptr);
-    s_->Aktualisieren();
+    EXPECT_NE(s_->zeige<Diagrammsteuerung>().vorderes(), nullptr);
+    s_->fuehre_aus<&Satzverwaltung::aktualisiere>();
     EXPECT_FALSE(s_->Stand().abgedeckt());
 }
 
@@ -80,11 +80,11 @@ TEST_F(Nebenausgabenprobe, a_day_series_that_cannot_be_written_is_told_once_and_
     versperre("Detailed Results - Parent P.tab");
     nur_geladen();
     Fragen_.erwarte_Anfang("Runtime error", "Cannot write the file ");
-    s_->Starten();
+    s_->fuehre_aus<&Programmablauf::starte>();
     EXPECT_FALSE(s_->Stand().abgedeckt());
     EXPECT_EQ(Protokoll(), erwartetes_Protokoll());
-    s_->Aktualisieren();
-    s_->waehle_PEC_Typ(1);
+    s_->fuehre_aus<&Satzverwaltung::aktualisiere>();
+    s_->fuehre_aus<&Listenwahl::waehle_PEC_Typ>(Hintergrund);
     EXPECT_FALSE(s_->Stand().abgedeckt());
 }
 
@@ -94,7 +94,7 @@ TEST_F(Nebenausgabenprobe, a_file_in_place_of_the_folder_is_told_in_one_line) {
     std::ofstream(Wurzel_ / "output") << "in the way";
     nur_geladen();
     Fragen_.erwarte("Runtime error", "Cannot make the folder \"" + (Wurzel_ / "output").string() + "\"");
-    s_->Starten();
+    s_->fuehre_aus<&Programmablauf::starte>();
     EXPECT_FALSE(s_->Stand().abgedeckt());
 }
 

@@ -61,12 +61,12 @@ void Probesitzung::schreibe_Saetze(const std::string& Name, const Eingabe& e) co
 Sitzung& Probesitzung::nur_geladen() {
     s_.reset();  // of two windows on one folder the second would ask
     s_ = std::make_unique<Sitzung>(Umgebung{&Fragen_, Wurzel_.string(), "", '.'});
-    EXPECT_TRUE(s_->oeffne_Projekt());
+    EXPECT_TRUE(s_->fuehre_aus<&Programmablauf::oeffne_Projekt>());
     return *s_;
 }
 
 Sitzung& Probesitzung::gestartet() {
-    nur_geladen().Starten();
+    nur_geladen().fuehre_aus<&Programmablauf::starte>();
     return *s_;
 }
 
@@ -81,9 +81,9 @@ int Probesitzung::Feld(const std::string& Objektname) { return Feld_mit_Namen(Ob
 
 bool Probesitzung::tippe(const std::string& Objektname, const std::string& Text) {
     const int f = Feld(Objektname);
-    s_->betrete_Feld(f);
-    s_->aendere_Feld(f, Text);
-    return s_->verlasse_Feld(f);
+    s_->fuehre_aus<&Feldeingabe::betrete>(f);
+    s_->fuehre_aus<&Feldeingabe::aendere>(f, Text);
+    return s_->fuehre_aus<&Feldeingabe::verlasse>(f);
 }
 
 const Ergebnis& Probesitzung::Werte(int i_studie) const { return s_->Stand().zeige().Studie(i_studie); }

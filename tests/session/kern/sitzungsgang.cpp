@@ -192,11 +192,11 @@ void Gang::starte() {
         }
         Fragen_.bestehe_auf(Knopf::Nein);
         s_ = std::make_unique<Sitzung>(Umgebung{&Fragen_, Projekt_.Wurzel().string(), "", '.', &Zeit_});
-        const bool offen = s_->oeffne_Projekt();
+        const bool offen = s_->fuehre_aus<&Programmablauf::oeffne_Projekt>();
         if (offen) break;
         if (zweiter) throw Verstoss{"start", "the program does not start although all files are there"};
     }
-    s_->Starten();
+    s_->fuehre_aus<&Programmablauf::starte>();
     Fragen_.bestehe_auf(std::nullopt);
     Name_in_Arbeit = getippt_ = false;
     letzter_Stand_ = z().Vorgabe;
@@ -217,7 +217,8 @@ Gang::Vorher Gang::merke() const {
         }
     }
     v.Vorgabe = z().Vorgabe;
-    v.etwas_in_Arbeit = Feld_in_Arbeit() || s_->Studien().Name_offen() || z().Beschreibung_offen || Name_in_Arbeit;
+    v.etwas_in_Arbeit =
+        Feld_in_Arbeit() || s_->zeige<Studienverwaltung>().Name_offen() || z().Beschreibung_offen || Name_in_Arbeit;
     return v;
 }
 
@@ -232,7 +233,7 @@ void Gang::tue(const Aktion& a) {
     } catch (const std::exception& f) {
         throw Verstoss{"exception", f.what()};
     }
-    if (s_->aktives_Feld() < 0) getippt_ = false;
+    if (s_->zeige<Feldeingabe>().aktives_Feld() < 0) getippt_ = false;
     Protokoll_.back() += Fragen_.Bericht();
     if ((Art.Merkmale & immer) != 0) Name_in_Arbeit = false;
     pruefe_Dateien(Art, v);
@@ -354,14 +355,15 @@ void Gang::pruefe_Tabellen(const Zustand& frisch) {
     const auto st = static_cast<std::size_t>(z().gezeigte_Studien().front());
     const int Anzahl = static_cast<int>(frisch.Werte().at(st)->Stoffwerte.size());
     for (int c = 0; c < Anzahl; ++c) {
-        const bool gleich = z().Zusammenfassung_aktiv ? s_->Ergebnisse_Zusammenfassung(c) == Ergebnisse_aller_Studien(frisch, c)
-                                                      : s_->Ergebnisse(c) == Ergebnisse_einer_Studie(frisch, c);
+        const bool gleich = z().Zusammenfassung_aktiv
+                                ? Ergebnisse_aller_Studien(s_->Stand(), c) == Ergebnisse_aller_Studien(frisch, c)
+                                : Ergebnisse_einer_Studie(s_->Stand(), c) == Ergebnisse_einer_Studie(frisch, c);
         if (!gleich) throw Verstoss{"table of results", "compound " + std::to_string(c)};
     }
 }
 
 void Gang::pruefe_Diagramm(const Zustand& frisch) {
-    const Diagrammsteuerung& d = s_->Diagramme();
+    const Diagrammsteuerung& d = s_->zeige<Diagrammsteuerung>();
     const Diagramm* Bild = d.vorderes();
     if (Bild == nullptr) throw Verstoss{"no diagram in front", std::to_string(d.vorne())};
     Diagrammbereiche b = Startbereiche(z().Sicht.PEC_Typ);
@@ -383,7 +385,8 @@ void Gang::pruefe_Diagramm(const Zustand& frisch) {
 
 // Undo gives the inputs before, redo those after.
 void Gang::pruefe_Verlauf(const Aktionsart& a, const Vorher& v) {
-    const bool offen = Feld_in_Arbeit() || s_->Studien().Name_offen() || z().Beschreibung_offen || Name_in_Arbeit;
+    const bool offen =
+        Feld_in_Arbeit() || s_->zeige<Studienverwaltung>().Name_offen() || z().Beschreibung_offen || Name_in_Arbeit;
     // Cells are no step before a command that surely was done.
     if ((a.Merkmale & immer) != 0) Zelle_in_Arbeit_ = false;
     if ((a.Merkmale & (Befehl | Handlung | fremd)) == 0 && v.Vorgabe.Applikationsschema != z().Vorgabe.Applikationsschema)
@@ -410,14 +413,14 @@ void Gang::pruefe_Verlauf(const Aktionsart& a, const Vorher& v) {
     const int hoechstens = 1 + 2 * ausstehend_ + (v.etwas_in_Arbeit ? 2 : 0);
     int n = 0;
     Fragen_.beginne();
-    while (n < hoechstens && !(z().Vorgabe == *letzter_Stand_) && z().Schritte.kann_zurueck()) {
-        s_->mache_rueckgaengig();
+    while (n < hoechstens && !(z().Vorgabe == *letzter_Stand_) && !s_->zeige<Ruecknahme>().Name_zurueck().empty()) {
+        s_->fuehre_aus<&Ruecknahme::mache_rueckgaengig>();
         ++n;
     }
     const std::string Nachsatz =
         std::to_string(n) + " steps back, differs in " + vergleiche(z().Vorgabe, *letzter_Stand_).Name + Fragen_.Bericht();
     if (!(z().Vorgabe == *letzter_Stand_)) throw Verstoss{"undo does not give the input before", Nachsatz};
-    for (int i = 0; i < n; ++i) s_->wiederhole();
+    for (int i = 0; i < n; ++i) s_->fuehre_aus<&Ruecknahme::wiederhole>();
     // A table that was typed and not run yet is repaired by the run.
     Eingabe wieder = z().Vorgabe;
     if (ausstehend_ > 0 && jetzt.Applikationsmuster == unregelmaessig) wieder.Applikationsschema = jetzt.Applikationsschema;
@@ -432,9 +435,10 @@ void Gang::pruefe_Verlauf(const Aktionsart& a, const Vorher& v) {
 namespace {
 
 void Esc(Sitzung& s) {
-    if (s.aktives_Feld() >= 0) s.nimm_Feld_zurueck(s.aktives_Feld());
-    s.nimm_Studienname_zurueck();
-    if (s.Stand().Beschreibung_offen) s.nimm_Beschreibung_zurueck();
+    if (s.zeige<Feldeingabe>().aktives_Feld() >= 0)
+        s.fuehre_aus<&Feldeingabe::nimm_zurueck>(s.zeige<Feldeingabe>().aktives_Feld());
+    s.fuehre_aus<&Studienverwaltung::nimm_zurueck>();
+    if (s.Stand().Beschreibung_offen) s.fuehre_aus<&Beschreibungseingabe::nimm_zurueck>();
 }
 
 }  // namespace
@@ -443,8 +447,8 @@ void Gang::pruefe_Ende(Knopf Antwort) {
     Fragen_.bestehe_auf(Antwort);
     for (const bool nach_Esc : {false, true}) {
         if (nach_Esc) Esc(*s_);
-        s_->Ende();
-        if (!z().beendet) s_->schliesse_Fenster();
+        s_->fuehre_aus<&Programmablauf::beende>();
+        if (!z().beendet) s_->fuehre_aus<&Programmablauf::schliesse_Fenster>();
         if (z().beendet) return;
     }
     // A save that cannot be done is told, and then only No ends the program.
@@ -465,10 +469,10 @@ void Gang::pruefe_andere_Simulation() {
         } catch (const Laufzeitfehler&) {
             continue;
         }
-        s_->waehle_Simulation(static_cast<int>(i));
+        s_->fuehre_aus<&Satzverwaltung::waehle_Simulation>(static_cast<int>(i));
         if (z().gewaehlt(Simulation) != Name && !z().beendet) {
             Esc(*s_);
-            s_->waehle_Simulation(static_cast<int>(i));
+            s_->fuehre_aus<&Satzverwaltung::waehle_Simulation>(static_cast<int>(i));
         }
         if (z().gewaehlt(Simulation) != Name && !z().beendet)
             throw Verstoss{"no other simulation can be chosen", Name + Fragen_.Bericht()};
@@ -479,10 +483,10 @@ void Gang::pruefe_andere_Simulation() {
 // Saved and loaded by another program: the same numbers, the same results.
 void Gang::pruefe_Sicherung() {
     Fragen_.bestehe_auf(Knopf::Ja);
-    s_->Speichern();
+    s_->fuehre_aus<&Satzverwaltung::speichere>();
     const bool gesagt =
         Fragen_.gefragt("Record not set") || Fragen_.gefragt("Runtime error") || Fragen_.gefragt("No valid input!");
-    if (gesagt || z().beendet || s_->aktives_Feld() >= 0) return;
+    if (gesagt || z().beendet || s_->zeige<Feldeingabe>().aktives_Feld() >= 0) return;
     const Dateien da = Projekt_.lies();
     for (const Satzart Art : alle_Arten) {
         if (!z().Saetze[Art].gelesen) return;
@@ -495,7 +499,8 @@ void Gang::pruefe_Sicherung() {
     Antworter andere(&keiner);
     andere.bestehe_auf(Knopf::Nein);
     Sitzung zweite(Umgebung{&andere, Projekt_.Wurzel().string(), "", '.', &Zeit_});
-    if (!zweite.oeffne_Projekt()) throw Verstoss{"what was saved cannot be loaded", andere.Bericht()};
+    if (!zweite.fuehre_aus<&Programmablauf::oeffne_Projekt>())
+        throw Verstoss{"what was saved cannot be loaded", andere.Bericht()};
     const Zustand& geladen = zweite.Stand();
     if (geladen.gewaehlt(Simulation) != z().gewaehlt(Simulation)) return;  // another one was written at the same time
     for (const Satzart Art : alle_Arten) {

@@ -135,7 +135,7 @@ private:
 
     void starte();
     Vorher merke() const;
-    bool Feld_in_Arbeit() const { return s_->aktives_Feld() >= 0 && getippt_; }
+    bool Feld_in_Arbeit() const { return s_->zeige<Feldeingabe>().aktives_Feld() >= 0 && getippt_; }
     void pruefe_Dateien(const Aktionsart& a, const Vorher& v);
     void pruefe_Verworfenes(const Aktionsart& a, const Vorher& v, const Dateien& nachher);
     void pruefe_Ergebnisse(const Aktionsart& a);

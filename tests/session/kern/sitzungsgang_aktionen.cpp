@@ -24,21 +24,22 @@ int sichtbares_Feld(Gang& g) {
 
 void betrete_Feld(Gang& g) {
     const int f = sichtbares_Feld(g);
-    const int bisher = g.s().aktives_Feld();
-    if (bisher >= 0 && bisher != f && !g.s().verlasse_Feld(bisher)) return g.sage("the field before keeps the focus");
-    g.s().betrete_Feld(f);
+    const int bisher = g.s().zeige<Feldeingabe>().aktives_Feld();
+    if (bisher >= 0 && bisher != f && !g.s().fuehre_aus<&Feldeingabe::verlasse>(bisher))
+        return g.sage("the field before keeps the focus");
+    g.s().fuehre_aus<&Feldeingabe::betrete>(f);
     g.sage(Feldname(f));
 }
 
 void tippe(Gang& g) {
-    if (g.s().aktives_Feld() < 0) betrete_Feld(g);
-    const int f = g.s().aktives_Feld();
+    if (g.s().zeige<Feldeingabe>().aktives_Feld() < 0) betrete_Feld(g);
+    const int f = g.s().zeige<Feldeingabe>().aktives_Feld();
     if (f < 0) return;
-    const std::string jetzt = g.s().Feldtext(f);
+    const std::string jetzt = g.s().zeige<Feldeingabe>().Text(f);
     std::string Text = g.r().eins_von(Texte_der_Felder);
     if (g.r().einmal_von(4)) Text = jetzt + "0";
     if (g.r().einmal_von(6) && !jetzt.empty()) Text = jetzt.substr(0, jetzt.size() - 1);
-    g.s().aendere_Feld(f, Text);
+    g.s().fuehre_aus<&Feldeingabe::aendere>(f, Text);
     g.getippt();
     g.sage(Feldname(f) + " \"" + Text + "\"");
 }
@@ -46,110 +47,121 @@ void tippe(Gang& g) {
 // Twice or half the dose, which is scaled.
 void tippe_Dosis(Gang& g) {
     const int f = Feld_mit_Namen("Applikationsrate");
-    const int bisher = g.s().aktives_Feld();
-    if (bisher >= 0 && bisher != f && !g.s().verlasse_Feld(bisher)) return;
-    g.s().betrete_Feld(f);
+    const int bisher = g.s().zeige<Feldeingabe>().aktives_Feld();
+    if (bisher >= 0 && bisher != f && !g.s().fuehre_aus<&Feldeingabe::verlasse>(bisher)) return;
+    g.s().fuehre_aus<&Feldeingabe::betrete>(f);
     const std::string Text = g.r().eins_von(std::array{"125", "250", "500", "1000", "2000", "4000"});
-    g.s().aendere_Feld(f, Text);
+    g.s().fuehre_aus<&Feldeingabe::aendere>(f, Text);
     g.getippt();
     g.sage(Text);
-    if (g.r().einmal_von(2)) g.s().verlasse_Feld(f);
+    if (g.r().einmal_von(2)) g.s().fuehre_aus<&Feldeingabe::verlasse>(f);
 }
 
 void waehle_mit_Namen(Gang& g, const std::string& Name) {
     const auto& Liste = g.z().Listen[Simulation];
     const auto i = std::find(Liste.begin(), Liste.end(), Name) - Liste.begin();
-    if (i < static_cast<std::ptrdiff_t>(Liste.size())) g.s().waehle_Simulation(static_cast<int>(i));
+    if (i < static_cast<std::ptrdiff_t>(Liste.size())) g.s().fuehre_aus<&Satzverwaltung::waehle_Simulation>(static_cast<int>(i));
 }
 
 // The rarer questions, each by the way that leads to it.
 void speichere_Luecke(Gang& g) {
     waehle_mit_Namen(g, "Torn");
-    g.s().Speichern();
+    g.s().fuehre_aus<&Satzverwaltung::speichere>();
 }
 void rechne_ohne_Wetter(Gang& g) {
     g.Projekt().stelle_her();
     waehle_mit_Namen(g, "Beta");
     g.merke_Wetter();
     for (int i = 0; i < 2; ++i) g.Projekt().loesche(Klima_Endung, g.r());
-    g.s().Aktualisieren();
+    g.s().fuehre_aus<&Satzverwaltung::aktualisiere>();
 }
 void skaliere_falsch(Gang& g) {
-    if (g.s().schliesse_Feld_ab() && !g.s().skaliere_Diagramm("0", "1")) g.s().schliesse_Skalierung();
+    if (g.s().fuehre_aus<&Feldeingabe::schliesse_ab>(true) && !g.s().fuehre_aus<&Diagrammsteuerung::skaliere>("0", "1"))
+        g.s().fuehre_aus<&Laufsteuerung::schliesse_Skalierung>();
 }
 void Plateau_zu_flach(Gang& g) {
-    if (!g.s().oeffne_Szenarioeditor()) return;
-    g.s().Editor().waehle_Bodentiefe(150 + g.r().unter(9));
-    g.s().Editor().waehle_Plateautiefe(50 + g.r().unter(50));
-    g.s().uebernimm_Szenario();
-    g.s().schliesse_Szenarioeditor();
+    if (!g.s().fuehre_aus<&Szenarioeditor::oeffne>()) return;
+    g.s().fuehre_aus<&Szenarioeditor::waehle_Tiefe>(&Szenarioentwurf::Boden, 150 + g.r().unter(9));
+    g.s().fuehre_aus<&Szenarioeditor::waehle_Tiefe>(&Szenarioentwurf::Plateau, 50 + g.r().unter(50));
+    g.s().fuehre_aus<&Szenarioeditor::uebernimm>();
+    g.s().fuehre_aus<&Szenarioeditor::schliesse>();
 }
 
 // Nothing decays, or hardly anything: there is no plateau.
 void tippe_langsam(Gang& g) {
-    if (g.s().aktives_Feld() >= 0 && !g.s().verlasse_Feld(g.s().aktives_Feld())) return;
+    if (g.s().zeige<Feldeingabe>().aktives_Feld() >= 0 &&
+        !g.s().fuehre_aus<&Feldeingabe::verlasse>(g.s().zeige<Feldeingabe>().aktives_Feld()))
+        return;
     const int f = Feld_mit_Namen("S_DT50_0");
-    g.s().betrete_Feld(f);
-    g.s().aendere_Feld(f, g.r().eins_von(std::array{"0", "0", "100000"}));
+    g.s().fuehre_aus<&Feldeingabe::betrete>(f);
+    g.s().fuehre_aus<&Feldeingabe::aendere>(f, g.r().eins_von(std::array{"0", "0", "100000"}));
     g.getippt();
-    g.s().verlasse_Feld(f);
+    g.s().fuehre_aus<&Feldeingabe::verlasse>(f);
 }
 
-template <bool (Sitzung::*Befehl_)(int)>
+template <auto Feldbefehl>
 void am_Feld(Gang& g) {
-    if (g.s().aktives_Feld() < 0) betrete_Feld(g);
-    const int f = g.s().aktives_Feld();
+    if (g.s().zeige<Feldeingabe>().aktives_Feld() < 0) betrete_Feld(g);
+    const int f = g.s().zeige<Feldeingabe>().aktives_Feld();
     if (f < 0) return;
-    g.sage(Feldname(f) + " \"" + g.s().Feldtext(f) + "\"");
-    (g.s().*Befehl_)(f);
+    g.sage(Feldname(f) + " \"" + g.s().zeige<Feldeingabe>().Text(f) + "\"");
+    g.s().fuehre_aus<Feldbefehl>(f);
 }
 
 void Esc_im_Feld(Gang& g) {
-    if (g.s().aktives_Feld() >= 0) g.s().nimm_Feld_zurueck(g.s().aktives_Feld());
+    if (g.s().zeige<Feldeingabe>().aktives_Feld() >= 0)
+        g.s().fuehre_aus<&Feldeingabe::nimm_zurueck>(g.s().zeige<Feldeingabe>().aktives_Feld());
 }
 
-template <void (Sitzung::*Wahl)(int), int Anzahl>
+// One of the first entries of a list or an enumeration.
+template <auto Wahl, int Anzahl, class Eintrag = int>
 void waehle(Gang& g) {
     const int i = g.r().unter(Anzahl);
     g.sage(std::to_string(i));
-    (g.s().*Wahl)(i);
+    g.s().fuehre_aus<Wahl>(static_cast<Eintrag>(i));
 }
 
-template <void (Sitzung::*Tat)()>
+template <auto Tat>
 void tue(Gang& g) {
-    (g.s().*Tat)();
+    g.s().fuehre_aus<Tat>();
 }
 
-void waehle_Substanz(Gang& g) { g.s().waehle_Substanz(g.r().unter(Anzahl_Stoffe(g.z().Felder().Berechnungsmodus))); }
+void waehle_Substanz(Gang& g) {
+    g.s().fuehre_aus<&Listenwahl::waehle_Substanz>(g.r().unter(Anzahl_Stoffe(g.z().Felder().Berechnungsmodus)));
+}
 void waehle_Kinetik(Gang& g) {
     const int c = g.r().unter(Anzahl_Stoffe(g.z().Felder().Berechnungsmodus));
     const auto k = static_cast<Kinetikart>(g.r().unter(c == 0 ? 4 : 2));
     g.sage(std::to_string(c) + " " + std::to_string(k));
-    g.s().waehle_Kinetik(c, k);
+    g.s().fuehre_aus<&Listenwahl::waehle_Kinetik>(c, k);
 }
 void waehle_Studie(Gang& g) {
     const int i = g.r().unter(g.z().Studienzahl());
     g.sage(std::to_string(i));
-    g.s().waehle_Studie(i);
+    g.s().fuehre_aus<&Listenwahl::waehle_Studie>(i);
 }
-void waehle_Tag(Gang& g) { g.s().waehle_Tag(g.r().unter(g.s().Tage_der_Liste())); }
+void waehle_Tag(Gang& g) { g.s().fuehre_aus<&Listenwahl::waehle_Tag>(g.r().unter(g.s().zeige<Listenwahl>().Tage())); }
 void waehle_Intervall(Gang& g) {
-    const int i = g.r().unter(std::min(40, g.s().Intervalle_der_Liste()));
+    const int i = g.r().unter(std::min(40, g.s().zeige<Listenwahl>().Intervalle()));
     g.sage(std::to_string(i));
-    g.s().waehle_Intervall(i);
+    g.s().fuehre_aus<&Listenwahl::waehle_Intervall>(i);
 }
-void waehle_TWA(Gang& g) { g.s().waehle_TWA_Laenge(g.r().unter(static_cast<int>(g.s().TWA_Liste().size()))); }
+void waehle_TWA(Gang& g) {
+    g.s().fuehre_aus<&Listenwahl::waehle_TWA_Laenge>(
+        g.r().unter(static_cast<int>(g.s().zeige<Listenwahl>().TWA_Laengen().size())));
+}
 
 void skaliere(Gang& g) {
     const std::string Start = g.r().eins_von(std::array{"0", "30", "400"});
     const std::string Ende = g.r().eins_von(std::array{"50", "365", "3650", "1", "abc", "9999"});
     g.sage(Start + " to " + Ende);
-    if (!g.s().schliesse_Feld_ab()) return;  // the menu entry
-    g.s().skaliere_Diagramm(Start, Ende);
-    g.s().schliesse_Skalierung();
+    if (!g.s().fuehre_aus<&Feldeingabe::schliesse_ab>(true)) return;  // the menu entry
+    g.s().fuehre_aus<&Diagrammsteuerung::skaliere>(Start, Ende);
+    g.s().fuehre_aus<&Laufsteuerung::schliesse_Skalierung>();
 }
 void ziehe_Legende(Gang& g) {
-    g.s().merke_Legende(g.z().Zusammenfassung_aktiv, g.s().Diagramme().vorne(), Flaechenort{0.1 * g.r().unter(9), 0.3});
+    g.s().fuehre_aus<&Diagrammsteuerung::merke_Legende>(g.z().Zusammenfassung_aktiv, g.s().zeige<Diagrammsteuerung>().vorne(),
+                                                        Flaechenort{0.1 * g.r().unter(9), 0.3});
 }
 
 bool hat_Tabelle(Gang& g) { return g.z().Felder().Applikationsmuster == unregelmaessig; }
@@ -159,26 +171,26 @@ Zelle eine_Zelle(Gang& g) {
     return z;
 }
 void tippe_Zelle(Gang& g) {
-    if (!hat_Tabelle(g)) g.s().waehle_Muster(unregelmaessig);
+    if (!hat_Tabelle(g)) g.s().fuehre_aus<&Listenwahl::waehle_Muster>(unregelmaessig);
     const Zelle z = eine_Zelle(g);
-    g.s().haenge_an_Zelle(z, g.r().eins_von(std::array{'0', '1', '2', '5', '.', 'x'}));
+    g.s().fuehre_aus<&Applikationstabelle::haenge_an>(z, g.r().eins_von(std::array{'0', '1', '2', '5', '.', 'x'}));
 }
 void kuerze_Zelle(Gang& g) {
-    if (hat_Tabelle(g)) g.s().nimm_letztes_Zeichen(eine_Zelle(g));
+    if (hat_Tabelle(g)) g.s().fuehre_aus<&Applikationstabelle::nimm_letztes>(eine_Zelle(g));
 }
 void leere_Zelle(Gang& g) {
-    if (hat_Tabelle(g)) g.s().leere_Zelle(eine_Zelle(g));
+    if (hat_Tabelle(g)) g.s().fuehre_aus<&Applikationstabelle::leere>(eine_Zelle(g));
 }
 void fuege_ein(Gang& g) {
-    if (!hat_Tabelle(g)) g.s().waehle_Muster(unregelmaessig);
+    if (!hat_Tabelle(g)) g.s().fuehre_aus<&Listenwahl::waehle_Muster>(unregelmaessig);
     std::string Text;
     const int n = g.r().unter(4) + 1;
     for (int i = 0; i < n; ++i)
         Text += "05\t0" + std::to_string(i + 3) + "\t" + std::to_string(100 + g.r().unter(5) * 50) + "\t0\r\n";
-    g.s().fuege_in_Tabelle_ein({0, 0}, Text);
+    g.s().fuehre_aus<&Applikationstabelle::fuege_ein>(Zelle{0, 0}, Text);
 }
 void bestaetige_Tabelle(Gang& g) {
-    if (hat_Tabelle(g)) g.s().bestaetige_Tabelle();
+    if (hat_Tabelle(g)) g.s().fuehre_aus<&Applikationstabelle::bestaetige>();
 }
 
 Satzart eine_Art(Gang& g, bool mit_Simulation = true) {
@@ -192,14 +204,14 @@ void waehle_Simulation(Gang& g) {
     if (Liste.empty()) return;
     const int i = g.r().unter(static_cast<int>(Liste.size()));
     g.sage("\"" + Liste[static_cast<std::size_t>(i)] + "\"");
-    g.s().waehle_Simulation(i);
+    g.s().fuehre_aus<&Satzverwaltung::waehle_Simulation>(i);
 }
 void waehle_Satz(Gang& g) {
     const Satzart Art = eine_Art(g, false);
     if (g.z().Listen[Art].empty()) return;
     const int i = g.r().unter(static_cast<int>(g.z().Listen[Art].size()));
     g.sage("\"" + g.z().Listen[Art][static_cast<std::size_t>(i)] + "\"");
-    g.s().waehle_Satz(Art, i);
+    g.s().fuehre_aus<&Satzverwaltung::waehle_Satz>(Art, i);
 }
 
 constexpr std::size_t viele_Saetze = 6;
@@ -209,23 +221,23 @@ void loesche(Gang& g) {
     for (const Satzart t : {Simulation, Wirkstoff, Applikation, Szenario}) {
         if (g.z().Listen[t].size() > viele_Saetze) Art = t;
     }
-    if (g.s().darf_loeschen(Art)) g.s().loesche_Satz(Art);
+    if (g.s().zeige<Satzverwaltung>().darf_loeschen(Art)) g.s().fuehre_aus<&Satzverwaltung::loesche>(Art);
 }
 void lege_an(Gang& g) {
     const Satzart Art = eine_Art(g, false);
     if (g.z().Listen[Art].size() > viele_Saetze) return loesche(g);
-    g.s().lege_Satz_an(Art);
+    g.s().fuehre_aus<&Satzverwaltung::lege_an>(Art);
 }
 void kopiere(Gang& g) {
     const Satzart Art = eine_Art(g);
     if (g.z().Listen[Art].size() > viele_Saetze) return loesche(g);
-    if (g.s().darf_kopieren(Art)) g.s().kopiere_Satz(Art);
+    if (g.s().zeige<Satzverwaltung>().darf_kopieren(Art)) g.s().fuehre_aus<&Satzverwaltung::kopiere>(Art);
 }
 void benenne_um(Gang& g) {
     const Satzart Art = eine_Art(g);
     const std::string Name = g.r().eins_von(Namenstexte);
     g.sage("\"" + Name + "\"");
-    g.s().benenne_Satz_um(Art, Name, !g.r().einmal_von(4));
+    g.s().fuehre_aus<&Satzverwaltung::benenne_um>(Art, Name, !g.r().einmal_von(4));
 }
 
 void ersetze(Gang& g) {
@@ -234,155 +246,154 @@ void ersetze(Gang& g) {
     if (Liste.empty()) return;
     const std::string Name = g.r().eins_von(Liste);
     g.sage("\"" + Name + "\"");
-    g.s().benenne_Satz_um(Art, Name, true);
+    g.s().fuehre_aus<&Satzverwaltung::benenne_um>(Art, Name, true);
 }
 
 void addiere_Studie(Gang& g) {
-    if (g.s().darf_Studie_addieren()) g.s().addiere_Studie();
+    if (g.s().zeige<Studienverwaltung>().darf_addieren()) g.s().fuehre_aus<&Studienverwaltung::addiere>();
 }
 void loesche_Studie(Gang& g) {
-    if (g.s().darf_Studie_addieren() && g.z().Studienzahl() == 1) {
-        g.s().addiere_Studie();
-        g.s().bestaetige_Studienname(true);
+    if (g.s().zeige<Studienverwaltung>().darf_addieren() && g.z().Studienzahl() == 1) {
+        g.s().fuehre_aus<&Studienverwaltung::addiere>();
+        g.s().fuehre_aus<&Studienverwaltung::bestaetige>(true);
     }
-    if (g.s().darf_Studie_loeschen()) g.s().loesche_Studie();
+    if (g.s().zeige<Studienverwaltung>().darf_loeschen()) g.s().fuehre_aus<&Studienverwaltung::loesche>();
 }
-void beginne_Studienname(Gang& g) { g.s().beginne_Studienname(); }
+void beginne_Studienname(Gang& g) { g.s().fuehre_aus<&Studienverwaltung::beginne_Umbenennen>(); }
 void tippe_Studienname(Gang& g) {
-    if (!g.s().Studien().Name_offen()) beginne_Studienname(g);
+    if (!g.s().zeige<Studienverwaltung>().Name_offen()) beginne_Studienname(g);
     const std::string Name = g.r().eins_von(std::array{"", "A soil", "tab\there", "Another soil"});
-    g.s().aendere_Studienname(Name);
+    g.s().fuehre_aus<&Studienverwaltung::aendere>(Name);
     g.sage("\"" + Name + "\"");
 }
 void bestaetige_Studienname(Gang& g) {
-    if (g.s().Studien().Name_offen()) g.s().bestaetige_Studienname(g.r().einmal_von(2));
+    if (g.s().zeige<Studienverwaltung>().Name_offen()) g.s().fuehre_aus<&Studienverwaltung::bestaetige>(g.r().einmal_von(2));
 }
-void Studienname_zurueck(Gang& g) { g.s().nimm_Studienname_zurueck(); }
+void Studienname_zurueck(Gang& g) { g.s().fuehre_aus<&Studienverwaltung::nimm_zurueck>(); }
 
 void tippe_Namen(Gang& g) {
-    if (!g.s().schliesse_Feld_ab()) return;  // the focus goes over
+    if (!g.s().fuehre_aus<&Feldeingabe::schliesse_ab>(true)) return;  // the focus goes over
     const int c = g.r().unter(Anzahl_Stoffe(g.z().Felder().Berechnungsmodus));
-    g.s().aendere_Namen(c, "Name " + std::to_string(g.r().unter(5)));
+    g.s().fuehre_aus<&Listenwahl::aendere_Namen>(c, "Name " + std::to_string(g.r().unter(5)));
     g.Name_in_Arbeit = true;
     if (g.r().einmal_von(2)) return;
-    g.s().verlasse_Namen();
+    g.s().fuehre_aus<&Listenwahl::verlasse_Namen>();
     g.Name_in_Arbeit = false;
 }
 void verlasse_Namen(Gang& g) {
-    g.s().verlasse_Namen();
+    g.s().fuehre_aus<&Listenwahl::verlasse_Namen>();
     g.Name_in_Arbeit = false;
 }
 void oeffne_Beschreibung(Gang& g) {
-    if (!g.z().Beschreibung_offen && g.s().schliesse_Feld_ab()) g.s().oeffne_Beschreibung();
+    if (!g.z().Beschreibung_offen && g.s().fuehre_aus<&Feldeingabe::schliesse_ab>(true))
+        g.s().fuehre_aus<&Beschreibungseingabe::oeffne>();
 }
 void tippe_Beschreibung(Gang& g) {
     oeffne_Beschreibung(g);
     if (!g.z().Beschreibung_offen) return;
-    g.s().aendere_Beschreibung("Text " + std::to_string(g.r().unter(5)));
+    g.s().fuehre_aus<&Beschreibungseingabe::aendere>("Text " + std::to_string(g.r().unter(5)));
 }
 void schliesse_Beschreibung(Gang& g) {
-    if (g.z().Beschreibung_offen) g.s().schliesse_Beschreibung();
+    if (g.z().Beschreibung_offen) g.s().fuehre_aus<&Beschreibungseingabe::schliesse>();
 }
 void Beschreibung_zurueck(Gang& g) {
-    if (g.z().Beschreibung_offen) g.s().nimm_Beschreibung_zurueck();
+    if (g.z().Beschreibung_offen) g.s().fuehre_aus<&Beschreibungseingabe::nimm_zurueck>();
 }
 
 void aendere_Szenario(Gang& g) {
-    Szenarioeditor& e = g.s().Editor();
+    Sitzung& s = g.s();
+    const auto& e = s.zeige<Szenarioeditor>();
     using E = Szenarioentwurf;
     const int Anzahl = 1 + g.r().unter(3);
     for (int i = 0; i < Anzahl; ++i) {
         const int Klimata = static_cast<int>(e.Entwurf().Klimadateien.size());
         switch (g.r().unter(8)) {
             case 0:
-                e.aendere(E::Bodenszenario, g.r().eins_von(std::array{"Loam", "Clay"}));
+                s.fuehre_aus<&Szenarioeditor::aendere>(E::Bodenszenario, g.r().eins_von(std::array{"Loam", "Clay"}));
                 break;
             case 1:
-                e.aendere(E::Bodendichte, g.r().eins_von(std::array{"1.1", "1.4", "0", "abc"}));
+                s.fuehre_aus<&Szenarioeditor::aendere>(E::Bodendichte, g.r().eins_von(std::array{"1.1", "1.4", "0", "abc"}));
                 break;
             case 2:
-                e.aendere(E::Feldkapazitaet, g.r().eins_von(std::array{"25", "35"}));
+                s.fuehre_aus<&Szenarioeditor::aendere>(E::Feldkapazitaet, g.r().eins_von(std::array{"25", "35"}));
                 break;
             case 3:
-                e.waehle_Bodentiefe(g.r().unter(300));
+                s.fuehre_aus<&Szenarioeditor::waehle_Tiefe>(&Szenarioentwurf::Boden, g.r().unter(300));
                 break;
             case 4:
-                e.waehle_Plateautiefe_Option(g.r().unter(2));
+                s.fuehre_aus<&Szenarioeditor::waehle_Option>(&Szenarioentwurf::Plateau, g.r().unter(2));
                 break;
             case 5:
-                if (e.darf_variabel()) e.waehle_Klimabedingungen(g.r().unter(2));
+                if (e.darf_variabel()) s.fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(g.r().unter(2));
                 break;
             case 6:
-                e.waehle_Temperatur(g.r().unter(30));
+                s.fuehre_aus<&Szenarioeditor::waehle_Temperatur>(g.r().unter(30));
                 break;
             default:
-                if (Klimata > 0) e.waehle_Klimaszenario(g.r().unter(Klimata));
+                if (Klimata > 0) s.fuehre_aus<&Szenarioeditor::waehle_Klimaszenario>(g.r().unter(Klimata));
         }
     }
     if (g.r().einmal_von(5) && !e.Entwurf().Szenarien.empty())
-        e.waehle_Szenario(g.r().unter(static_cast<int>(e.Entwurf().Szenarien.size())));
+        s.fuehre_aus<&Szenarioeditor::waehle_Szenario>(g.r().unter(static_cast<int>(e.Entwurf().Szenarien.size())));
 }
 void Editor_Done(Gang& g) {
-    if (!g.s().oeffne_Szenarioeditor()) return;
+    if (!g.s().fuehre_aus<&Szenarioeditor::oeffne>()) return;
     aendere_Szenario(g);
-    g.s().uebernimm_Szenario();
-    g.s().schliesse_Szenarioeditor();
+    g.s().fuehre_aus<&Szenarioeditor::uebernimm>();
+    g.s().fuehre_aus<&Szenarioeditor::schliesse>();
 }
 void Editor_Cancel(Gang& g) {
-    if (!g.s().oeffne_Szenarioeditor()) return;
+    if (!g.s().fuehre_aus<&Szenarioeditor::oeffne>()) return;
     aendere_Szenario(g);
-    g.s().Editor().verwirf();
-    g.s().schliesse_Szenarioeditor();
+    g.s().fuehre_aus<&Szenarioeditor::verwirf>();
+    g.s().fuehre_aus<&Szenarioeditor::schliesse>();
 }
 
 void tue_im_Organiser(Gang& g) {
     const auto Art = static_cast<Satzart>(g.r().unter(4));
-    const int n = static_cast<int>(g.s().Organisation().Listen().Listen[Art].size());
+    const int n = static_cast<int>(g.s().zeige<Organiser>().Listen().Listen[Art].size());
     const int i = g.r().unter(n);
     const int was = g.r().unter(8);
     const std::string Name = g.r().eins_von(Namenstexte);
     const bool Enter = g.r().einmal_von(2);
     g.sage("[" + std::to_string(was) + " " + Endungen[Art] + " " + std::to_string(i) + " " + Name + "]");
-    g.s().organisiere([&](Organiser& o) {
-        switch (was) {
-            case 0:
-                o.aendere_Projektname("Organised " + std::to_string(i));
-                break;
-            case 1:
-                if (o.darf_kopieren(Art) && n <= static_cast<int>(viele_Saetze)) o.kopiere(Art);
-                break;
-            case 2:
-                if (o.darf_loeschen(Art)) o.loesche(Art);
-                break;
-            case 3:
-                if (o.darf_kopieren(Art)) o.benenne_um(Art, Name, Enter);
-                break;
-            default:
-                if (n == 0) return;
-                Art == Simulation ? o.waehle_Simulation(i) : o.waehle_Satz(Art, i);
-        }
-    });
+    const auto& o = g.s().zeige<Organiser>();
+    switch (was) {
+        case 0:
+            g.s().fuehre_aus<&Organiser::aendere_Projektname>("Organised " + std::to_string(i));
+            break;
+        case 1:
+            if (o.darf_kopieren(Art) && n <= static_cast<int>(viele_Saetze)) g.s().fuehre_aus<&Organiser::kopiere>(Art);
+            break;
+        case 2:
+            if (o.darf_loeschen(Art)) g.s().fuehre_aus<&Organiser::loesche>(Art);
+            break;
+        case 3:
+            if (o.darf_kopieren(Art)) g.s().fuehre_aus<&Organiser::benenne_um>(Art, Name, Enter);
+            break;
+        default:
+            if (n > 0) g.s().fuehre_aus<&Organiser::waehle>(Art, i);
+    }
 }
 void Organiser_Done(Gang& g) {
-    if (!g.s().oeffne_Organiser()) return;
+    if (!g.s().fuehre_aus<&Organiser::oeffne>()) return;
     const int Anzahl = g.r().unter(4);
     for (int i = 0; i < Anzahl; ++i) tue_im_Organiser(g);
-    bool zu = false;
-    g.s().organisiere([&](Organiser& o) { zu = o.uebernimm(); });
-    if (!zu) g.s().organisiere([](Organiser& o) { o.verwirf(); });
-    g.s().schliesse_Organiser();
+    const bool zu = g.s().fuehre_aus<&Organiser::uebernimm>();
+    if (!zu) g.s().fuehre_aus<&Organiser::verwirf>();
+    g.s().fuehre_aus<&Organiser::schliesse_ab>();
 }
 void Organiser_Esc(Gang& g) {
-    if (!g.s().oeffne_Organiser()) return;
+    if (!g.s().fuehre_aus<&Organiser::oeffne>()) return;
     const int Anzahl = g.r().unter(4);
     for (int i = 0; i < Anzahl; ++i) tue_im_Organiser(g);
-    g.s().organisiere([](Organiser& o) { o.verwirf(); });
-    g.s().schliesse_Organiser();
+    g.s().fuehre_aus<&Organiser::verwirf>();
+    g.s().fuehre_aus<&Organiser::schliesse_ab>();
 }
 
 void Optionen_OK(Gang& g) {
-    if (!g.s().schliesse_Feld_ab()) return;  // the menu entry
-    Optionsentwurf o = g.s().oeffne_Optionen();
+    if (!g.s().fuehre_aus<&Feldeingabe::schliesse_ab>(true)) return;  // the menu entry
+    Optionsentwurf o = g.s().fuehre_aus<&Optionensteuerung::oeffne>();
     switch (g.r().unter(5)) {
         case 0:
             o.Einheit = g.r().unter(2);
@@ -399,31 +410,33 @@ void Optionen_OK(Gang& g) {
         default:
             break;
     }
-    if (g.s().uebernimm_Optionen(o)) g.s().schliesse_Optionen();
+    if (g.s().fuehre_aus<&Optionensteuerung::uebernimm>(o)) g.s().fuehre_aus<&Optionensteuerung::schliesse>();
 }
 void Optionen_Cancel(Gang& g) {
-    if (!g.s().schliesse_Feld_ab()) return;  // the menu entry
-    g.s().oeffne_Optionen();
-    g.s().schliesse_Optionen();
+    if (!g.s().fuehre_aus<&Feldeingabe::schliesse_ab>(true)) return;  // the menu entry
+    g.s().fuehre_aus<&Optionensteuerung::oeffne>();
+    g.s().fuehre_aus<&Optionensteuerung::schliesse>();
 }
 
-void PDF(Gang& g) { g.s().speichere_Bericht_als_PDF((g.Projekt().Wurzel() / "report.pdf").string()); }
+void PDF(Gang& g) { g.s().fuehre_aus<&Berichtssteuerung::speichere_PDF>((g.Projekt().Wurzel() / "report.pdf").string()); }
 
 void Hilfe(Gang& g) {
-    g.s().Tooltips();
-    g.s().Programmangaben();
+    g.s().fuehre_aus<&Hilfetexte::Tooltips>();
+    g.s().zeige<Hilfetexte>().Programmangaben();
 }
 
 void speichere_unter(Gang& g) {
     const std::string Name = g.r().eins_von(std::array{"Epsilon", "Zeta.vnk"});
     g.sage(Name);
-    if (g.s().schliesse_Feld_ab()) g.s().speichere_Eingabedaten_unter(Name);
+    if (g.s().fuehre_aus<&Feldeingabe::schliesse_ab>(true)) g.s().fuehre_aus<&Eingabedateien::speichere>(Name);
 }
 void lade(Gang& g) {
-    if (g.s().schliesse_Feld_ab()) g.s().lade_Eingabedaten(g.r().eins_von(std::array{"Alpha.vnk", "Beta.vnk", "a/b.vnk"}));
+    if (g.s().fuehre_aus<&Feldeingabe::schliesse_ab>(true))
+        g.s().fuehre_aus<&Eingabedateien::lade>(g.r().eins_von(std::array{"Alpha.vnk", "Beta.vnk", "a/b.vnk"}));
 }
 void loesche_Datei(Gang& g) {
-    g.s().loesche_Eingabedatei((g.Projekt().Wurzel() / "input").string(), g.r().eins_von(std::array{"Gamma.che", "Epsilon.vnk"}));
+    g.s().fuehre_aus<&Eingabedateien::loesche>((g.Projekt().Wurzel() / "input").string(),
+                                               g.r().eins_von(std::array{"Gamma.che", "Epsilon.vnk"}));
 }
 
 const char* eine_Endung(Gang& g) { return Endungen[static_cast<std::size_t>(g.r().unter(4))]; }
@@ -443,25 +456,25 @@ const std::vector<Aktionsart>& Aktionsarten() {
         {"type", 60, Handlung, tippe},
         {"type a dose", 15, Handlung, tippe_Dosis},
         {"type a slow decay", 30, Handlung, tippe_langsam},
-        {"Enter in a field", 20, Handlung, am_Feld<&Sitzung::bestaetige_Feld>},
-        {"leave a field", 40, Handlung, am_Feld<&Sitzung::verlasse_Feld>},
+        {"Enter in a field", 20, Handlung, am_Feld<&Feldeingabe::bestaetige>},
+        {"leave a field", 40, Handlung, am_Feld<&Feldeingabe::verlasse>},
         {"Esc in a field", 15, Handlung, Esc_im_Feld},
         {"compound", 10, Befehl, waehle_Substanz},
         {"kinetics", 12, Befehl, waehle_Kinetik},
         {"study", 15, Befehl, waehle_Studie},
-        {"scheme", 12, Befehl, waehle<&Sitzung::waehle_Berechnungsmodus, 4>},
-        {"pattern", 12, Befehl, waehle<&Sitzung::waehle_Muster, 3>},
-        {"month", 10, Befehl, waehle<&Sitzung::waehle_Monat, 12>},
+        {"scheme", 12, Befehl, waehle<&Listenwahl::waehle_Berechnungsmodus, 4, Stoffschema>},
+        {"pattern", 12, Befehl, waehle<&Listenwahl::waehle_Muster, 3, Applikationsart>},
+        {"month", 10, Befehl, waehle<&Listenwahl::waehle_Monat, 12>},
         {"day", 10, Befehl, waehle_Tag},
         {"interval", 10, Befehl, waehle_Intervall},
-        {"number", 12, Befehl, waehle<&Sitzung::waehle_Anzahl, 8>},
-        {"endpoint", 12, Befehl | immer, waehle<&Sitzung::waehle_Endpunkt, 2>},
-        {"view", 14, Befehl | immer, waehle<&Sitzung::waehle_PEC_Typ, 3>},
-        {"rotation", 12, Befehl | immer, waehle<&Sitzung::waehle_Fruchtwechsel, 3>},
+        {"number", 12, Befehl, waehle<&Listenwahl::waehle_Anzahl, 8>},
+        {"endpoint", 12, Befehl | immer, waehle<&Listenwahl::waehle_Endpunkt, 2, Endpunktart>},
+        {"view", 14, Befehl | immer, waehle<&Listenwahl::waehle_PEC_Typ, 3, PEC_Ansicht>},
+        {"rotation", 12, Befehl | immer, waehle<&Listenwahl::waehle_Fruchtwechsel, 3, Fruchtfolge>},
         {"window", 12, Befehl, waehle_TWA},
-        {"studies", 10, Befehl | immer, tue<&Sitzung::zeige_Studien>},
-        {"summary", 14, Befehl, tue<&Sitzung::zeige_Zusammenfassung>},
-        {"next diagram", 10, Befehl | immer, tue<&Sitzung::schalte_Diagramm_weiter>},
+        {"studies", 10, Befehl | immer, tue<&Listenwahl::zeige_Studien>},
+        {"summary", 14, Befehl, tue<&Listenwahl::zeige_Zusammenfassung>},
+        {"next diagram", 10, Befehl | immer, tue<&Diagrammsteuerung::schalte_weiter>},
         {"scaling", 26, Befehl, skaliere},
         {"legend", 10, 0, ziehe_Legende},
         {"type into a cell", 12, 0, tippe_Zelle},
@@ -498,17 +511,17 @@ const std::vector<Aktionsart>& Aktionsarten() {
         {"organiser, Esc", 12, Befehl | schreibt | liest, Organiser_Esc},
         {"options, OK", 14, Befehl, Optionen_OK},
         {"options, Cancel", 10, Befehl, Optionen_Cancel},
-        {"report", 12, Befehl, tue<&Sitzung::erstelle_Bericht>},
-        {"close report", 10, 0, tue<&Sitzung::schliesse_Bericht>},
+        {"report", 12, Befehl, tue<&Berichtssteuerung::erstelle>},
+        {"close report", 10, 0, tue<&Berichtssteuerung::schliesse>},
         {"report as PDF", 10, Handlung, PDF},
-        {"save", 26, Befehl | schreibt, tue<&Sitzung::Speichern>},
-        {"refresh", 15, Befehl | immer | liest, tue<&Sitzung::Aktualisieren>},
-        {"undo", 14, Befehl | Pruefung, tue<&Sitzung::mache_rueckgaengig>},
-        {"redo", 14, Befehl | Pruefung, tue<&Sitzung::wiederhole>},
-        {"exit", 50, Befehl | schreibt | liest, tue<&Sitzung::Ende>},
-        {"close box", 50, Befehl | liest, [](Gang& g) { g.s().schliesse_Fenster(); }},
-        {"default settings", 10, Befehl | schreibt | liest, tue<&Sitzung::lade_Voreinstellungen>},
-        {"look for an update", 10, Befehl, tue<&Sitzung::suche_nach_Update>},
+        {"save", 26, Befehl | schreibt, tue<&Satzverwaltung::speichere>},
+        {"refresh", 15, Befehl | immer | liest, tue<&Satzverwaltung::aktualisiere>},
+        {"undo", 14, Befehl | Pruefung, tue<&Ruecknahme::mache_rueckgaengig>},
+        {"redo", 14, Befehl | Pruefung, tue<&Ruecknahme::wiederhole>},
+        {"exit", 50, Befehl | schreibt | liest, tue<&Programmablauf::beende>},
+        {"close box", 50, Befehl | liest, [](Gang& g) { g.s().fuehre_aus<&Programmablauf::schliesse_Fenster>(); }},
+        {"default settings", 10, Befehl | schreibt | liest, tue<&Satzverwaltung::lade_Voreinstellungen>},
+        {"look for an update", 10, Befehl, tue<&Aktualisierungssteuerung::suche>},
         {"help", 10, 0, Hilfe},
         {"load input data", 45, Handlung | liest, lade},
         {"save input data as", 10, Handlung | schreibt, speichere_unter},

@@ -54,13 +54,13 @@ using Gangfund = Probesitzung;
 TEST_F(Gangfund, EscNachEnterMitRateNullBringtDenWertDavorZurueck) {
     Sitzung& s = gestartet();
     const int f = Feld("Applikationsrate");
-    const std::string vorher = s.Feldtext(f);
-    s.betrete_Feld(f);
-    s.aendere_Feld(f, "0");
-    EXPECT_TRUE(s.bestaetige_Feld(f));
-    s.nimm_Feld_zurueck(f);
-    EXPECT_EQ(s.Feldtext(f), vorher);
-    EXPECT_TRUE(s.verlasse_Feld(f));
+    const std::string vorher = s.zeige<Feldeingabe>().Text(f);
+    s.fuehre_aus<&Feldeingabe::betrete>(f);
+    s.fuehre_aus<&Feldeingabe::aendere>(f, "0");
+    EXPECT_TRUE(s.fuehre_aus<&Feldeingabe::bestaetige>(f));
+    s.fuehre_aus<&Feldeingabe::nimm_zurueck>(f);
+    EXPECT_EQ(s.zeige<Feldeingabe>().Text(f), vorher);
+    EXPECT_TRUE(s.fuehre_aus<&Feldeingabe::verlasse>(f));
 }
 
 }  // namespace

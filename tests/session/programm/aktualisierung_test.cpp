@@ -25,19 +25,19 @@ protected:
 
     Sitzung& geladene() {
         s_ = std::make_unique<Sitzung>(Umgebung{&Fragen_, Wurzel_.string(), "", '.', nullptr, {Ziel_, &Netz_, &Tausch_}});
-        EXPECT_TRUE(s_->oeffne_Projekt());
+        EXPECT_TRUE(s_->fuehre_aus<&Programmablauf::oeffne_Projekt>());
         return *s_;
     }
     Sitzung& gestartete() {
-        geladene().Starten();
+        geladene().fuehre_aus<&Programmablauf::starte>();
         return *s_;
     }
     void Server_bietet(const std::string& Version) { Netz_.Antworten[Ziel_.Versionsseite()] = Seite(Version); }
     // The check of the start; counts the actions that it leads to.
     void suche_beim_Start() {
-        s_->suche_beim_Start([this](const std::function<void()>& Handlung) {
+        s_->fuehre_aus<&Aktualisierungssteuerung::suche_beim_Start>([this](const std::string& Seite) {
             ++Handlungen_;
-            Handlung();
+            s_->fuehre_aus<&Aktualisierungssteuerung::melde>(Seite);
         });
     }
     void erwarte_keine_Verbindung() { Fragen_.erwarte("Connection error", "Varnok could not connect to the update server"); }
@@ -51,7 +51,7 @@ protected:
 TEST_F(Onlinecheck, without_a_host_answers_with_the_connection_message) {
     gestartet();
     erwarte_keine_Verbindung();
-    s_->suche_nach_Update();
+    s_->fuehre_aus<&Aktualisierungssteuerung::suche>();
     EXPECT_TRUE(s_->Stand().Aktualisierungsfehler);
     EXPECT_FALSE(s_->Stand().abgedeckt());
 }
@@ -61,7 +61,7 @@ TEST_F(Onlinecheck, without_a_host_asks_nobody) {
     gestartete();
     suche_beim_Start();
     erwarte_keine_Verbindung();
-    s_->suche_nach_Update();
+    s_->fuehre_aus<&Aktualisierungssteuerung::suche>();
     EXPECT_TRUE(Netz_.gefragt.empty());
     EXPECT_TRUE(Netz_.nebenher_gefragt.empty());
     EXPECT_EQ(Netz_.abgebrochen, 0);
@@ -70,7 +70,7 @@ TEST_F(Onlinecheck, without_a_host_asks_nobody) {
 TEST_F(Onlinecheck, without_an_answer_tells_that_there_is_no_connection) {
     gestartete();
     erwarte_keine_Verbindung();
-    s_->suche_nach_Update();
+    s_->fuehre_aus<&Aktualisierungssteuerung::suche>();
     EXPECT_TRUE(s_->Stand().Aktualisierungsfehler);
     EXPECT_EQ(Netz_.gefragt, std::vector<std::string>{Ziel_.Versionsseite()});
 }
@@ -78,10 +78,10 @@ TEST_F(Onlinecheck, without_an_answer_tells_that_there_is_no_connection) {
 TEST_F(Onlinecheck, with_the_latest_version_says_so_and_clears_the_error) {
     gestartete();
     erwarte_keine_Verbindung();
-    s_->suche_nach_Update();
+    s_->fuehre_aus<&Aktualisierungssteuerung::suche>();
     Server_bietet("20180921");
     Fragen_.erwarte("VARNOK", "You have the latest version of the software.");
-    s_->suche_nach_Update();
+    s_->fuehre_aus<&Aktualisierungssteuerung::suche>();
     EXPECT_FALSE(s_->Stand().Aktualisierungsfehler);
     EXPECT_FALSE(s_->Stand().beendet);
 }
@@ -90,7 +90,7 @@ TEST_F(Onlinecheck, with_an_older_version_on_the_server_calls_this_one_unofficia
     Server_bietet("20180920");
     gestartete();
     Fragen_.erwarte("VARNOK", "You are using an unofficial version of the software.\n", Knopf::Abbrechen);
-    s_->suche_nach_Update();
+    s_->fuehre_aus<&Aktualisierungssteuerung::suche>();
     EXPECT_FALSE(s_->Stand().Aktualisierungsfehler);
 }
 
@@ -98,7 +98,7 @@ TEST_F(Onlinecheck, with_a_newer_version_that_is_not_wanted_goes_on) {
     Server_bietet("20180922");
     gestartete();
     Fragen_.erwarte("Update available!", neue_Version, Knopf::Nein);
-    s_->suche_nach_Update();
+    s_->fuehre_aus<&Aktualisierungssteuerung::suche>();
     EXPECT_FALSE(s_->Stand().beendet);
     EXPECT_TRUE(Tausch_.bereit.empty());
 }
@@ -109,11 +109,11 @@ TEST_F(Onlinecheck, an_update_drops_what_is_not_saved_and_ends) {
     tippe("Applikationsrate", "500");
     const std::string vorher = Datei("input/Probe.app");
     Fragen_.erwarte("Update available!", neue_Version, Knopf::Ja).erwarte("VARNOK", geladen);
-    s_->suche_nach_Update();
+    s_->fuehre_aus<&Aktualisierungssteuerung::suche>();
     EXPECT_EQ(Tausch_.bereit, "new program");
     EXPECT_EQ(Tausch_.gestartet, 1);
     EXPECT_TRUE(s_->Stand().beendet);
-    EXPECT_TRUE(s_->schliesse_Fenster());  // without a question
+    EXPECT_TRUE(s_->fuehre_aus<&Programmablauf::schliesse_Fenster>());  // without a question
     EXPECT_EQ(Datei("input/Probe.app"), vorher);
 }
 
@@ -123,7 +123,7 @@ TEST_F(Onlinecheck, a_download_that_fails_tells_that_there_is_no_connection) {
     gestartete();
     Fragen_.erwarte("Update available!", neue_Version, Knopf::Ja);
     erwarte_keine_Verbindung();
-    s_->suche_nach_Update();
+    s_->fuehre_aus<&Aktualisierungssteuerung::suche>();
     EXPECT_TRUE(s_->Stand().Aktualisierungsfehler);
     EXPECT_FALSE(s_->Stand().beendet);
 }
@@ -136,7 +136,7 @@ TEST_F(Onlinecheck, a_wrong_signature_has_one_message_of_its_own) {
                  "The signature of the new version does not fit: "
                  "it was damaged on its way, or it is not from the maker of VARNOK.\n"
                  "Nothing was replaced.");
-    s_->suche_nach_Update();
+    s_->fuehre_aus<&Aktualisierungssteuerung::suche>();
     EXPECT_TRUE(s_->Stand().Aktualisierungsfehler);
     EXPECT_TRUE(Tausch_.bereit.empty());
     EXPECT_FALSE(s_->Stand().beendet);
@@ -149,7 +149,7 @@ TEST_F(Onlinecheck, a_script_that_does_not_start_keeps_the_program_running) {
     Fragen_.erwarte("Update available!", neue_Version, Knopf::Ja)
         .erwarte("VARNOK", geladen)
         .erwarte("Update not installed", "The program that replaces this one could not be started.\nNothing was replaced.");
-    s_->suche_nach_Update();
+    s_->fuehre_aus<&Aktualisierungssteuerung::suche>();
     EXPECT_TRUE(Tausch_.bereit.empty());
     EXPECT_FALSE(s_->Stand().beendet);
 }
@@ -160,7 +160,7 @@ TEST_F(Onlinecheck, of_a_program_that_cannot_be_replaced_gives_the_address) {
     gestartete();
     Fragen_.erwarte("Update available!",
                     "There is a new version of the software available.\nhttp://example.org/download/permanent/zq/VARNOK/");
-    s_->suche_nach_Update();
+    s_->fuehre_aus<&Aktualisierungssteuerung::suche>();
     EXPECT_EQ(Netz_.gefragt.size(), 1U);
 }
 
@@ -170,7 +170,7 @@ TEST_F(Onlinecheck, is_known_to_run_while_it_waits_for_the_server) {
     bool laeuft = false;
     Netz_.waehrend = [&] { laeuft = s_->Stand().Aktualisierung_laeuft; };
     erwarte_keine_Verbindung();
-    s_->suche_nach_Update();
+    s_->fuehre_aus<&Aktualisierungssteuerung::suche>();
     EXPECT_TRUE(laeuft);
     EXPECT_FALSE(s_->Stand().Aktualisierung_laeuft);
 }
@@ -178,10 +178,10 @@ TEST_F(Onlinecheck, is_known_to_run_while_it_waits_for_the_server) {
 TEST_F(Onlinecheck, waits_for_a_field_that_is_not_valid) {
     gestartete();
     const int f = Feld("Applikationsrate");
-    s_->betrete_Feld(f);
-    s_->aendere_Feld(f, "-1");
+    s_->fuehre_aus<&Feldeingabe::betrete>(f);
+    s_->fuehre_aus<&Feldeingabe::aendere>(f, "-1");
     Fragen_.erwarte_Anfang("No valid input!", "");
-    s_->suche_nach_Update();
+    s_->fuehre_aus<&Aktualisierungssteuerung::suche>();
     EXPECT_TRUE(Netz_.gefragt.empty());
 }
 
@@ -235,7 +235,7 @@ TEST_F(Onlinecheck, at_the_start_a_download_that_fails_is_told) {
 TEST_F(Onlinecheck, at_the_start_says_nothing_any_more_on_the_working_screen) {
     geladene();
     suche_beim_Start();
-    s_->Starten();
+    s_->fuehre_aus<&Programmablauf::starte>();
     Netz_.antworte(Seite("20180922"));
     EXPECT_EQ(Handlungen_, 0);
 }
@@ -244,7 +244,7 @@ TEST_F(Onlinecheck, by_the_menu_takes_the_place_of_the_one_at_the_start) {
     geladene();
     suche_beim_Start();
     erwarte_keine_Verbindung();
-    s_->suche_nach_Update();
+    s_->fuehre_aus<&Aktualisierungssteuerung::suche>();
     EXPECT_EQ(Netz_.abgebrochen, 1);
     Netz_.antworte(Seite("20180922"));
     EXPECT_EQ(Handlungen_, 0);
@@ -261,7 +261,7 @@ TEST_F(Onlinecheck, leaves_no_file_of_the_version_page) {
     Server_bietet("20180921");
     gestartete();
     Fragen_.erwarte("VARNOK", "You have the latest version of the software.");
-    s_->suche_nach_Update();
+    s_->fuehre_aus<&Aktualisierungssteuerung::suche>();
     EXPECT_FALSE(gibt_es("Version.htm"));
 }
 

@@ -35,7 +35,7 @@ TEST_F(Ende, writes_the_summary_and_the_settings_without_a_question_when_nothing
     gestartet();
     const auto alt = Stempel(Wurzel_ / "input/Probe.vnk") - std::chrono::hours(1);
     std::filesystem::last_write_time(Wurzel_ / "input/Probe.vnk", alt);
-    s_->Ende();
+    s_->fuehre_aus<&Programmablauf::beende>();
     EXPECT_TRUE(s_->Stand().beendet);
     EXPECT_GT(Stempel(Wurzel_ / "input/Probe.vnk"), alt);  // this is what makes the next start find it
 }
@@ -44,7 +44,7 @@ TEST_F(Ende, asks_for_the_changed_record_and_saves_on_yes) {
     gestartet();
     ASSERT_TRUE(tippe("S_DT50_0", "12"));
     Fragen_.erwarte("Save changes?", Frage_nach("pesticide"), Knopf::Ja);
-    s_->Ende();
+    s_->fuehre_aus<&Programmablauf::beende>();
     EXPECT_TRUE(s_->Stand().beendet);
     Eingabe e;
     Ansicht a;
@@ -57,7 +57,7 @@ TEST_F(Ende, leaves_the_record_alone_on_no) {
     const std::string vorher = Datei("input/Probe.che");
     ASSERT_TRUE(tippe("S_DT50_0", "12"));
     Fragen_.erwarte("Save changes?", Frage_nach("pesticide"), Knopf::Nein);
-    s_->Ende();
+    s_->fuehre_aus<&Programmablauf::beende>();
     EXPECT_EQ(Datei("input/Probe.che"), vorher);
 }
 
@@ -69,7 +69,7 @@ TEST_F(Ende, asks_once_for_each_changed_record_and_saves_those_with_a_yes) {
         .erwarte("Save changes?", Frage_nach("application"), Knopf::Ja);
     const std::string Wirkstoffdatei = Datei("input/Probe.che");
     const std::string Muster = Datei("input/Probe.app");
-    s_->Ende();
+    s_->fuehre_aus<&Programmablauf::beende>();
     EXPECT_TRUE(s_->Stand().beendet);
     EXPECT_EQ(Datei("input/Probe.che"), Wirkstoffdatei);
     EXPECT_NE(Datei("input/Probe.app"), Muster);
@@ -85,7 +85,7 @@ TEST_F(Ende, not_now_at_any_question_does_nothing_and_does_not_end) {
     for (const bool Fenster : {false, true}) {
         Fragen_.erwarte("Save changes?", Frage_nach("pesticide"), Knopf::Ja)
             .erwarte("Save changes?", Frage_nach("application"), Knopf::nicht_jetzt);
-        Fenster ? static_cast<void>(s_->schliesse_Fenster()) : s_->Ende();
+        Fenster ? s_->fuehre_aus<&Programmablauf::schliesse_Fenster>() : s_->fuehre_aus<&Programmablauf::beende>();
         EXPECT_FALSE(s_->Stand().beendet);
     }
     EXPECT_EQ(Datei("input/Probe.che"), Wirkstoffdatei);
@@ -96,8 +96,8 @@ TEST_F(Ende, not_now_at_any_question_does_nothing_and_does_not_end) {
 
 TEST_F(Ende, by_the_close_box_keeps_a_changed_description_in_backup) {
     gestartet();
-    s_->aendere_Beschreibung("In other words");
-    EXPECT_TRUE(s_->schliesse_Fenster());
+    s_->fuehre_aus<&Beschreibungseingabe::aendere>("In other words");
+    EXPECT_TRUE(s_->fuehre_aus<&Programmablauf::schliesse_Fenster>());
     EXPECT_EQ(Datei("input/Probe.vnk"), "A trial\r\nProbe\r\nProbe\r\nProbe\r\n");
     EXPECT_EQ(gesichert(), Liste{"unsaved Probe.vnk"});
 }
@@ -105,9 +105,9 @@ TEST_F(Ende, by_the_close_box_keeps_a_changed_description_in_backup) {
 TEST_F(Ende, by_the_close_box_keeps_another_combination_and_values_without_a_mark_in_backup) {
     schreibe_Saetze("Second", Felder_);
     gestartet();
-    s_->waehle_Satz(Szenario, 1);
-    s_->waehle_Anzahl(3);
-    EXPECT_TRUE(s_->schliesse_Fenster());
+    s_->fuehre_aus<&Satzverwaltung::waehle_Satz>(Szenario, 1);
+    s_->fuehre_aus<&Listenwahl::waehle_Anzahl>(3);
+    EXPECT_TRUE(s_->fuehre_aus<&Programmablauf::schliesse_Fenster>());
     EXPECT_EQ(gesichert(), (Liste{"unsaved Probe.app", "unsaved Probe.vnk"}));
 }
 
@@ -118,7 +118,7 @@ TEST_F(Ende, tells_once_of_files_that_cannot_be_written_and_ends) {
         std::filesystem::create_directory(Wurzel_ / Name);
     }
     Fragen_.erwarte_Anfang("Runtime error", "");
-    s_->Ende();
+    s_->fuehre_aus<&Programmablauf::beende>();
     EXPECT_TRUE(s_->Stand().beendet);
 }
 
@@ -129,7 +129,7 @@ TEST_F(Ende, stays_where_a_yes_cannot_be_done) {
     for (const bool Fenster : {false, true}) {
         Fragen_.erwarte("Save changes?", Frage_nach("pesticide"), Knopf::Ja)
             .erwarte_Anfang("Runtime error", "Cannot write the file");
-        Fenster ? static_cast<void>(s_->schliesse_Fenster()) : s_->Ende();
+        Fenster ? s_->fuehre_aus<&Programmablauf::schliesse_Fenster>() : s_->fuehre_aus<&Programmablauf::beende>();
         EXPECT_FALSE(s_->Stand().beendet);
     }
 }
@@ -138,10 +138,10 @@ TEST_F(Ende, with_an_empty_selector_is_refused_and_the_program_stays) {
     schreibe_Simulation(Projektordner(Wurzel_.string()), "Torn", {"", {"", "Probe", "no such record", "Probe"}});
     std::filesystem::last_write_time(Wurzel_ / "input/Torn.vnk", Stempel(Wurzel_ / "input/Probe.vnk") - std::chrono::hours(1));
     gestartet();
-    s_->waehle_Simulation(1);
+    s_->fuehre_aus<&Satzverwaltung::waehle_Simulation>(1);
     EXPECT_TRUE(s_->Stand().abgedeckt());
     Fragen_.erwarte("Record not set", "Application record not set. Please select!");
-    s_->Ende();
+    s_->fuehre_aus<&Programmablauf::beende>();
     EXPECT_FALSE(s_->Stand().beendet);
 }
 
@@ -149,7 +149,7 @@ TEST_F(Ende, by_the_close_box_leaves_the_summary_stamp_old_and_writes_no_setting
     gestartet();
     std::filesystem::remove(Wurzel_ / "VARNOK.ini");
     const auto alt = Stempel(Wurzel_ / "input/Probe.vnk");
-    EXPECT_TRUE(s_->schliesse_Fenster());
+    EXPECT_TRUE(s_->fuehre_aus<&Programmablauf::schliesse_Fenster>());
     EXPECT_EQ(Stempel(Wurzel_ / "input/Probe.vnk"), alt);
     EXPECT_FALSE(gibt_es("VARNOK.ini"));
 }
@@ -157,11 +157,11 @@ TEST_F(Ende, by_the_close_box_leaves_the_summary_stamp_old_and_writes_no_setting
 TEST_F(Ende, by_the_close_box_puts_an_invalid_text_back_before_it_asks) {
     gestartet();
     const int f = Feld("S_g_0");
-    s_->betrete_Feld(f);
-    s_->aendere_Feld(f, "7");
+    s_->fuehre_aus<&Feldeingabe::betrete>(f);
+    s_->fuehre_aus<&Feldeingabe::aendere>(f, "7");
     Fragen_.erwarte("Save changes?", Frage_nach("pesticide"), Knopf::Nein);
-    EXPECT_TRUE(s_->schliesse_Fenster());
-    EXPECT_EQ(s_->Feldtext(f), "0.5");
+    EXPECT_TRUE(s_->fuehre_aus<&Programmablauf::schliesse_Fenster>());
+    EXPECT_EQ(s_->zeige<Feldeingabe>().Text(f), "0.5");
 }
 
 TEST_F(Ende, a_save_that_fails_names_the_file_and_keeps_the_program_and_the_values) {
@@ -169,9 +169,9 @@ TEST_F(Ende, a_save_that_fails_names_the_file_and_keeps_the_program_and_the_valu
     ASSERT_TRUE(tippe("S_DT50_0", "12"));
     std::filesystem::rename(Wurzel_ / "input", Wurzel_ / "elsewhere");
     Fragen_.erwarte_Anfang("Runtime error", "Cannot write the file \"" + (Wurzel_ / "input/Probe.vnk").string());
-    s_->Speichern();
+    s_->fuehre_aus<&Satzverwaltung::speichere>();
     EXPECT_FALSE(s_->Stand().beendet);
-    EXPECT_EQ(s_->Feldtext(Feld("S_DT50_0")), "12");
+    EXPECT_EQ(s_->zeige<Feldeingabe>().Text(Feld("S_DT50_0")), "12");
 }
 
 TEST_F(Ende, program_defaults_restore_the_start_simulation_and_end_without_a_question) {
@@ -181,7 +181,7 @@ TEST_F(Ende, program_defaults_restore_the_start_simulation_and_end_without_a_que
                     "The settings become available after the next program call.");
     std::filesystem::copy(std::filesystem::path(VARNOK_DATENORDNER) / "input", Wurzel_ / "input",
                           std::filesystem::copy_options::overwrite_existing | std::filesystem::copy_options::recursive);
-    s_->lade_Voreinstellungen();
+    s_->fuehre_aus<&Satzverwaltung::lade_Voreinstellungen>();
     EXPECT_TRUE(s_->Stand().beendet);
 }
 

@@ -6,6 +6,7 @@
 
 #include "records/einstellungen.h"
 #include "records/satz.h"
+#include "session/ergebnis/ergebnisanzeige.h"
 #include "session/programm/optionsprobe.h"
 
 namespace varnok {
@@ -23,7 +24,7 @@ TEST_F(Optionsprobe, are_shown_as_they_are) {
     std::ofstream(Wurzel_ / "VARNOK.ini", std::ios::binary) << Einstellungen_als_Bytes(e);
     gestartet();
     const Optionsentwurf erwartet{1, 2, 0, {true, false, true, false, false, true}, 1, 1, Wurzel_.string()};
-    EXPECT_EQ(s_->oeffne_Optionen(), erwartet);
+    EXPECT_EQ(s_->fuehre_aus<&Optionensteuerung::oeffne>(), erwartet);
 }
 
 TEST_F(Optionsprobe, cancelled_change_nothing_and_run_nothing) {
@@ -31,8 +32,8 @@ TEST_F(Optionsprobe, cancelled_change_nothing_and_run_nothing) {
     const Laufparameter vorher = s_->Stand().Parameter();
     const std::string Einstellung = Datei("VARNOK.ini");
     const int Zeichnung = s_->Stand().Zeichnung;
-    s_->oeffne_Optionen();
-    EXPECT_FALSE(s_->schliesse_Optionen());
+    s_->fuehre_aus<&Optionensteuerung::oeffne>();
+    EXPECT_FALSE(s_->fuehre_aus<&Optionensteuerung::schliesse>());
     EXPECT_EQ(s_->Stand().Parameter(), vorher);
     EXPECT_EQ(s_->Stand().Projektpfad, Wurzel_.string());
     EXPECT_EQ(s_->Stand().Zeichnung, Zeichnung);
@@ -44,8 +45,8 @@ TEST_F(Optionsprobe, cancelled_after_an_earlier_OK_run_nothing_either) {
     gestartet();
     bestaetige_unveraendert();
     const int Zeichnung = s_->Stand().Zeichnung;
-    s_->oeffne_Optionen();
-    s_->schliesse_Optionen();
+    s_->fuehre_aus<&Optionensteuerung::oeffne>();
+    s_->fuehre_aus<&Optionensteuerung::schliesse>();
     EXPECT_EQ(s_->Stand().Zeichnung, Zeichnung);
 }
 
@@ -64,7 +65,7 @@ TEST_F(Optionsprobe, accepted_unchanged_run_once_and_mark_nothing) {
 
 TEST_F(Optionsprobe, in_the_summary_view_run_all_studies_and_stay_there) {
     gestartet();
-    s_->zeige_Zusammenfassung();
+    s_->fuehre_aus<&Listenwahl::zeige_Zusammenfassung>();
     const int Zeichnung = s_->Stand().Zeichnung;
     bestaetige([](Optionsentwurf& o) { o.Einheit = 1; });
     EXPECT_TRUE(s_->Stand().Zusammenfassung_aktiv);
@@ -83,7 +84,7 @@ TEST_F(Optionsprobe, the_unit_multiplies_by_a_thousand_and_goes_with_the_compoun
     EXPECT_TRUE(s_->Stand().Saetze[Wirkstoff].Geaendert);
     EXPECT_FALSE(s_->Stand().Hinweis());
     EXPECT_EQ(Datei("input/Probe.che"), vorher);  // with Save only
-    s_->Speichern();
+    s_->fuehre_aus<&Satzverwaltung::speichere>();
     EXPECT_EQ(Zeile("input/Probe.che", "Unit:"), "Unit:\t1");
     EXPECT_EQ(Datei("VARNOK.ini"), Einstellung);
 }
@@ -93,7 +94,7 @@ TEST_F(Optionsprobe, a_changed_unit_is_asked_about_at_the_end) {
     bestaetige([](Optionsentwurf& o) { o.Einheit = 1; });
     Fragen_.erwarte("Save changes?",
                     "You modified pesticide input data!  Do you want to save the changes in your data base?\n'Probe'", Knopf::Ja);
-    s_->Ende();
+    s_->fuehre_aus<&Programmablauf::beende>();
     EXPECT_EQ(Zeile("input/Probe.che", "Unit:"), "Unit:\t1");
 }
 
@@ -116,18 +117,18 @@ TEST_F(Optionsprobe, separate_residues_of_slowing_kinetics_last_longer) {
     const float getrennt = letzter();
     EXPECT_GT(getrennt, 1.5F * zusammen);
     EXPECT_FLOAT_EQ(innerhalb_des_Jahres, zusammen);
-    s_->Speichern();
+    s_->fuehre_aus<&Satzverwaltung::speichere>();
     EXPECT_EQ(Zeile("input/Probe.che", "Separate residues:"), "Separate residues:\t1");
 }
 
 TEST_F(Optionsprobe, the_monthly_list_brings_its_windows_its_rows_and_its_first_entry) {
     gestartet();
-    ASSERT_EQ(s_->Ergebnisse(0).size(), 13U);
-    s_->waehle_TWA_Laenge(2);
+    ASSERT_EQ(Ergebnisse_einer_Studie(s_->Stand(), 0).size(), 13U);
+    s_->fuehre_aus<&Listenwahl::waehle_TWA_Laenge>(2);
     bestaetige([](Optionsentwurf& o) { o.TWA_Zeiten = 0; });
-    EXPECT_EQ(s_->Ergebnisse(0).size(), 15U);
-    EXPECT_EQ(s_->TWA_Liste().size(), 12U);
-    EXPECT_EQ(s_->TWA_Liste().front(), "TWA (30 d)");
+    EXPECT_EQ(Ergebnisse_einer_Studie(s_->Stand(), 0).size(), 15U);
+    EXPECT_EQ(s_->zeige<Listenwahl>().TWA_Laengen().size(), 12U);
+    EXPECT_EQ(s_->zeige<Listenwahl>().TWA_Laengen().front(), "TWA (30 d)");
     EXPECT_EQ(s_->Stand().Sicht.TWA_Laenge, 0);
     EXPECT_TRUE(s_->Stand().Saetze[Wirkstoff].Geaendert);
     EXPECT_FALSE(s_->Stand().abgedeckt());
@@ -135,10 +136,10 @@ TEST_F(Optionsprobe, the_monthly_list_brings_its_windows_its_rows_and_its_first_
     // The mean of 30 days from the peak on, with k = 0.01: c (1 - exp(-0.3)) / 0.3.
     EXPECT_NEAR(Werte().Werte(Gesamtgehalt, 0).TWA[0].Maximum, 1.3333334 * (1 - std::exp(-0.3)) / 0.3, 1e-4);
     bestaetige([](Optionsentwurf& o) { o.TWA_Zeiten = 1; });
-    EXPECT_EQ(s_->Ergebnisse(0).size(), 13U);
-    EXPECT_EQ(s_->TWA_Liste().size(), 10U);
+    EXPECT_EQ(Ergebnisse_einer_Studie(s_->Stand(), 0).size(), 13U);
+    EXPECT_EQ(s_->zeige<Listenwahl>().TWA_Laengen().size(), 10U);
     EXPECT_EQ(s_->Stand().Sicht.TWA_Laenge, 6);  // 28 days
-    s_->Speichern();
+    s_->fuehre_aus<&Satzverwaltung::speichere>();
     EXPECT_EQ(Zeile("input/Probe.che", "TWA according"), "TWA according to EU:\t1");
 }
 
@@ -147,20 +148,20 @@ TEST_F(Optionsprobe, the_list_of_a_compound_record_comes_with_it) {
     e.Parameter.TWA_Zeiten = 0;
     Satz_schreiben(Projektordner(Wurzel_.string()), "Monthly", Wirkstoff, e, Sicht_);
     gestartet();
-    s_->waehle_Satz(Wirkstoff, 0);
+    s_->fuehre_aus<&Satzverwaltung::waehle_Satz>(Wirkstoff, 0);
     ASSERT_EQ(s_->Stand().gewaehlt(Wirkstoff), "Monthly");
-    EXPECT_EQ(s_->TWA_Liste().size(), 12U);
+    EXPECT_EQ(s_->zeige<Listenwahl>().TWA_Laengen().size(), 12U);
     EXPECT_EQ(s_->Stand().Sicht.TWA_Laenge, 0);
-    EXPECT_EQ(s_->oeffne_Optionen().TWA_Zeiten, 0);
+    EXPECT_EQ(s_->fuehre_aus<&Optionensteuerung::oeffne>().TWA_Zeiten, 0);
 }
 
 TEST_F(Optionsprobe, the_parts_of_the_name_mark_the_compound_and_make_the_name) {
     gestartet();
     bestaetige([](Optionsentwurf& o) { o.Ausgabename_Teile[1] = true; });
     EXPECT_TRUE(s_->Stand().Saetze[Wirkstoff].Geaendert);
-    s_->erstelle_Bericht();
+    s_->fuehre_aus<&Berichtssteuerung::erstelle>();
     EXPECT_NE(s_->Stand().Ergebnisdatei.find("First soil"), std::string::npos);
-    s_->Speichern();
+    s_->fuehre_aus<&Satzverwaltung::speichere>();
     EXPECT_EQ(Zeile("input/Probe.che", "Output file name"), "Output file name :\t0\t1\t0\t0\t0\t0\t0");
 }
 
@@ -171,7 +172,7 @@ TEST_F(Optionsprobe, the_seventh_part_of_the_name_survives_any_number_of_passes)
     for (int i = 0; i < 3; ++i) {
         bestaetige([](Optionsentwurf& o) { o.Ausgabename_Teile.fill(!o.Ausgabename_Teile[0]); });
     }
-    s_->Speichern();
+    s_->fuehre_aus<&Satzverwaltung::speichere>();
     EXPECT_EQ(Zeile("input/Probe.che", "Output file name"), "Output file name :\t1\t1\t1\t1\t1\t1\t1");
 }
 
@@ -183,7 +184,7 @@ TEST_F(Optionsprobe, tooltips_switched_on_are_told_to_the_window_alone) {
     EXPECT_EQ(Datei("VARNOK.ini"), Einstellung);  // with the end of the program
     EXPECT_FALSE(irgendetwas_geaendert());
     EXPECT_FALSE(bestaetige_unveraendert());  // they are on already
-    s_->Ende();
+    s_->fuehre_aus<&Programmablauf::beende>();
     EXPECT_EQ(Zeile("VARNOK.ini", "Tooltips:"), "Tooltips:\t1");
 }
 
@@ -220,7 +221,7 @@ TEST_F(Optionsprobe, the_appearance_is_kept_in_the_settings) {
     gestartet();
     bestaetige([](Optionsentwurf& o) { o.Farbeinstellung = 1; });
     EXPECT_FALSE(irgendetwas_geaendert());
-    s_->Ende();
+    s_->fuehre_aus<&Programmablauf::beende>();
     EXPECT_EQ(Zeile("VARNOK.ini", "Appearance:"), "Appearance:\t1");
 }
 
@@ -242,8 +243,8 @@ TEST_F(Optionsprobe, with_a_record_missing_stay_covered_without_a_word) {
     std::filesystem::last_write_time(Wurzel_ / "input/Torn.vnk",
                                      std::filesystem::last_write_time(Wurzel_ / "input/Probe.vnk") - std::chrono::hours(1));
     nur_geladen();
-    s_->Starten();
-    s_->waehle_Simulation(1);
+    s_->fuehre_aus<&Programmablauf::starte>();
+    s_->fuehre_aus<&Satzverwaltung::waehle_Simulation>(1);
     ASSERT_TRUE(s_->Stand().abgedeckt());
     bestaetige([](Optionsentwurf& o) { o.Einheit = 1; });
     EXPECT_TRUE(s_->Stand().abgedeckt());

@@ -13,10 +13,10 @@ protected:
     // The dialog is opened, changed and left with OK. True if the tooltips have been switched on.
     template <class Aenderung>
     bool bestaetige(Aenderung a) {
-        Optionsentwurf o = s_->oeffne_Optionen();
+        Optionsentwurf o = s_->fuehre_aus<&Optionensteuerung::oeffne>();
         a(o);
-        EXPECT_TRUE(s_->uebernimm_Optionen(o));
-        return s_->schliesse_Optionen();
+        EXPECT_TRUE(s_->fuehre_aus<&Optionensteuerung::uebernimm>(o));
+        return s_->fuehre_aus<&Optionensteuerung::schliesse>();
     }
     bool bestaetige_unveraendert() {
         return bestaetige([](Optionsentwurf&) {});

@@ -67,9 +67,9 @@ TEST_F(Projektpfad, output_goes_to_the_new_project_at_once) {
     std::filesystem::remove_all(Wurzel_ / "output");
     waehle_Projekt("new");
     EXPECT_TRUE(gibt_es("new/" + Reihe));
-    s_->erstelle_Bericht();
+    s_->fuehre_aus<&Berichtssteuerung::erstelle>();
     EXPECT_TRUE(gibt_es("new/output/A trial.rtf"));
-    s_->zeige_Zusammenfassung();
+    s_->fuehre_aus<&Listenwahl::zeige_Zusammenfassung>();
     EXPECT_TRUE(gibt_es("new/Diagram.txt"));
     EXPECT_FALSE(gibt_es("output"));
     EXPECT_FALSE(gibt_es("Diagram.txt"));
@@ -82,16 +82,16 @@ TEST_F(Projektpfad, records_climate_and_backup_stay_with_the_old_project) {
     e.Klimaszenario = "Temperate site";
     std::filesystem::copy(std::filesystem::path(VARNOK_DATENORDNER) / "input/Temperate site.cli", Wurzel_ / "input");
     Satz_schreiben(Projektordner(Wurzel_.string()), "Weather", Szenario, e, Sicht_);
-    nur_geladen().Starten();
+    nur_geladen().fuehre_aus<&Programmablauf::starte>();
     waehle_Projekt("new");
-    s_->waehle_Satz(Szenario, 1);
+    s_->fuehre_aus<&Satzverwaltung::waehle_Satz>(Szenario, 1);
     EXPECT_EQ(s_->Stand().gewaehlt(Szenario), "Weather");
     EXPECT_FALSE(s_->Stand().abgedeckt());
     ASSERT_TRUE(tippe("S_DT50_0", "12"));
-    s_->Speichern();
+    s_->fuehre_aus<&Satzverwaltung::speichere>();
     EXPECT_EQ(Datei("input/Probe.vnk"), "A trial\r\nProbe\r\nProbe\r\nWeather\r\n");
     Fragen_.erwarte_Anfang("Delete record", "Do you really want to delete this record?", Knopf::Ja);
-    s_->loesche_Satz(Szenario);
+    s_->fuehre_aus<&Satzverwaltung::loesche>(Szenario);
     EXPECT_FALSE(gibt_es("input/Weather.sce"));
     EXPECT_TRUE(gibt_es("backup"));
     EXPECT_FALSE(gibt_es("new/backup"));
@@ -101,7 +101,7 @@ TEST_F(Projektpfad, records_climate_and_backup_stay_with_the_old_project) {
 TEST_F(Projektpfad, the_settings_file_stays_beside_the_program_and_names_the_new_path) {
     gestartet();
     waehle_Projekt("new");
-    s_->Ende();
+    s_->fuehre_aus<&Programmablauf::beende>();
     EXPECT_FALSE(gibt_es("new/VARNOK.ini"));
     EXPECT_EQ(zerlege_Einstellungen(Datei("VARNOK.ini"))->Projektpfad, (Wurzel_ / "new").string());
     EXPECT_EQ(Datei("input/Probe.vnk"), "A trial\r\nProbe\r\nProbe\r\nProbe\r\n");
@@ -112,7 +112,7 @@ TEST_F(Projektpfad, the_settings_file_stays_beside_the_program_and_names_the_new
 TEST_F(Projektpfad, any_name_of_a_folder_comes_back_from_the_settings_file) {
     gestartet();
     waehle_Projekt("Δ 土 µ");
-    s_->Ende();
+    s_->fuehre_aus<&Programmablauf::beende>();
     EXPECT_EQ(zerlege_Einstellungen(Datei("VARNOK.ini"))->Projektpfad, (Wurzel_ / "Δ 土 µ").string());
 }
 
@@ -121,12 +121,12 @@ TEST_F(Projektpfad, what_is_no_folder_is_refused_and_nothing_is_changed) {
     const int Zeichnung = s_->Stand().Zeichnung;
     const std::string hier = Wurzel_.string() + "/";
     for (const std::string& Pfad : {hier + "no such folder", hier + "input/Probe.che", std::string()}) {
-        Optionsentwurf o = s_->oeffne_Optionen();
+        Optionsentwurf o = s_->fuehre_aus<&Optionensteuerung::oeffne>();
         o.Einheit = 1;
         o.Projektpfad = Pfad;
         Fragen_.erwarte("Project path", "There is no folder \"" + Pfad + "\".");
-        EXPECT_FALSE(s_->uebernimm_Optionen(o));
-        s_->schliesse_Optionen();
+        EXPECT_FALSE(s_->fuehre_aus<&Optionensteuerung::uebernimm>(o));
+        s_->fuehre_aus<&Optionensteuerung::schliesse>();
     }
     EXPECT_EQ(s_->Stand().Parameter().Einheit, 0);
     EXPECT_EQ(s_->Stand().Projektpfad, Wurzel_.string());
@@ -141,7 +141,7 @@ TEST_F(Projektpfad, a_folder_with_a_line_end_in_its_name_is_refused) {
 
 TEST_F(Projektpfad, a_folder_is_made_where_it_is_asked_for) {
     gestartet();
-    EXPECT_EQ(s_->lege_Ordner_an(Wurzel_.string(), "2026"), (Wurzel_ / "2026").string());
+    EXPECT_EQ(s_->fuehre_aus<&Optionensteuerung::lege_Ordner_an>(Wurzel_.string(), "2026"), (Wurzel_ / "2026").string());
     EXPECT_TRUE(std::filesystem::is_directory(Wurzel_ / "2026"));
     EXPECT_EQ(s_->Stand().Projektpfad, Wurzel_.string());
 }
@@ -154,7 +154,7 @@ TEST_F(Projektpfad, a_folder_that_cannot_be_made_by_its_button_is_told) {
         .erwarte("Make folder", "The folder \"" + hier + "/input\" already exists.")
         .erwarte_Anfang("Make folder", "Cannot make the folder \"" + hier + "/VARNOK.ini/x\": ");
     for (const auto& [darin, Name] : {std::pair(hier, "a/b"), {hier, ""}, {hier, "input"}, {hier + "/VARNOK.ini", "x"}}) {
-        EXPECT_FALSE(s_->lege_Ordner_an(darin, Name));
+        EXPECT_FALSE(s_->fuehre_aus<&Optionensteuerung::lege_Ordner_an>(darin, Name));
     }
     EXPECT_FALSE(gibt_es("a"));
 }
@@ -163,19 +163,47 @@ TEST_F(Projektpfad, a_folder_that_cannot_be_made_by_its_button_is_told) {
 TEST_F(Projektpfad, the_next_start_is_in_the_new_project) {
     gestartet();
     waehle_Projekt("new");
-    s_->Ende();
+    s_->fuehre_aus<&Programmablauf::beende>();
     ASSERT_TRUE(s_->Stand().beendet);
 
     const Umgebung Welt{&Fragen_, Wurzel_.string(), VARNOK_DATENORDNER, '.'};
     Fragen_.erwarte("Data file missing", Vorgaben_fehlen, Knopf::Ja).erwarte("Default settings", Vorgaben_geladen);
-    EXPECT_FALSE(Sitzung(Welt).oeffne_Projekt());
+    EXPECT_FALSE(Sitzung(Welt).fuehre_aus<&Programmablauf::oeffne_Projekt>());
     EXPECT_FALSE(gibt_es("input/Programcheck.vnk"));
     EXPECT_EQ(Datei("new/input/Programcheck.vnk"), "Programcheck\r\nProgramcheck\r\nProgramcheck\r\nProgramcheck\r\n");
 
     Sitzung drittes(Welt);
-    EXPECT_TRUE(drittes.oeffne_Projekt());
+    EXPECT_TRUE(drittes.fuehre_aus<&Programmablauf::oeffne_Projekt>());
     EXPECT_EQ(drittes.Stand().Projektpfad, (Wurzel_ / "new").string());
     EXPECT_EQ(drittes.Stand().Listen[Wirkstoff], std::vector<std::string>{"Programcheck"});
+}
+
+// A call that names a project means this one, wherever its settings lead.
+TEST_F(Projektpfad, a_project_named_in_the_call_is_opened_all_the_same) {
+    gestartet();
+    waehle_Projekt("new");
+    s_->fuehre_aus<&Programmablauf::beende>();
+    ASSERT_TRUE(s_->Stand().beendet);
+    s_.reset();
+
+    Umgebung Welt{&Fragen_, Wurzel_.string(), VARNOK_DATENORDNER, '.'};
+    Welt.Projekt_genannt = true;
+    Sitzung zweites(Welt);
+    EXPECT_TRUE(zweites.fuehre_aus<&Programmablauf::oeffne_Projekt>());
+    EXPECT_EQ(zweites.Stand().Projektpfad, Wurzel_.string());
+}
+
+TEST_F(Projektpfad, a_simulation_named_in_the_call_is_opened_in_place_of_the_newest) {
+    std::filesystem::copy(std::filesystem::path(VARNOK_DATENORDNER) / "input", Wurzel_ / "input",
+                          std::filesystem::copy_options::overwrite_existing | std::filesystem::copy_options::recursive);
+    Umgebung Welt{&Fragen_, Wurzel_.string(), "", '.'};
+    Welt.Projekt_genannt = true;
+    for (const char* Name : {"Apples, Compound F", "Vines, Compound D"}) {
+        Welt.erste_Simulation = Name;
+        Sitzung s(Welt);
+        EXPECT_TRUE(s.fuehre_aus<&Programmablauf::oeffne_Projekt>());
+        EXPECT_EQ(s.Stand().gewaehlt(Simulation), Name);
+    }
 }
 
 TEST_F(Projektpfad, the_defaults_of_a_new_project_come_from_the_program_folder_too) {
@@ -184,9 +212,9 @@ TEST_F(Projektpfad, the_defaults_of_a_new_project_come_from_the_program_folder_t
     }
     gestartet();
     waehle_Projekt("new");
-    s_->Ende();
+    s_->fuehre_aus<&Programmablauf::beende>();
     Fragen_.erwarte("Data file missing", Vorgaben_fehlen, Knopf::Ja).erwarte("Default settings", Vorgaben_geladen);
-    EXPECT_FALSE(Sitzung({&Fragen_, Wurzel_.string(), "", '.'}).oeffne_Projekt());
+    EXPECT_FALSE(Sitzung({&Fragen_, Wurzel_.string(), "", '.'}).fuehre_aus<&Programmablauf::oeffne_Projekt>());
     EXPECT_EQ(Datei("new/input/Programcheck.sce"), Datei("input/Do not delete this file.scn"));
 }
 
@@ -197,7 +225,7 @@ TEST_F(Projektpfad, program_defaults_before_the_restart_go_to_the_project_of_the
                           std::filesystem::copy_options::overwrite_existing | std::filesystem::copy_options::recursive);
     std::filesystem::remove(Wurzel_ / "input/Programcheck.vnk");
     Fragen_.erwarte("Default settings", Vorgaben_geladen);
-    s_->lade_Voreinstellungen();
+    s_->fuehre_aus<&Satzverwaltung::lade_Voreinstellungen>();
     EXPECT_TRUE(gibt_es("input/Programcheck.vnk"));
     EXPECT_EQ(Dateizahl("new/input"), 0U);
 }

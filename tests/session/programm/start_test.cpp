@@ -4,6 +4,7 @@
 #include "records/einstellungen.h"
 #include "records/satz.h"
 #include "records/simulation.h"
+#include "session/ergebnis/ergebnisanzeige.h"
 #include "session/kern/probesitzung.h"
 
 namespace varnok {
@@ -47,7 +48,7 @@ TEST_F(Start, without_a_simulation_offers_the_defaults_and_ends_on_no) {
     std::filesystem::remove(Wurzel_ / "input/Probe.vnk");
     Fragen_.erwarte("Data file missing", "Input files are missing. Should the default settings be loaded ", Knopf::Nein);
     Sitzung s({&Fragen_, Wurzel_.string(), "", '.'});
-    EXPECT_FALSE(s.oeffne_Projekt());
+    EXPECT_FALSE(s.fuehre_aus<&Programmablauf::oeffne_Projekt>());
     EXPECT_FALSE(gibt_es("input/Programcheck.vnk"));
 }
 
@@ -58,7 +59,7 @@ TEST_F(Start, without_a_simulation_restores_the_defaults_on_yes_and_ends) {
                  "The default parameters have been loaded and VARNOK will now quit.\n"
                  "The settings become available after the next program call.");
     Sitzung s({&Fragen_, Wurzel_.string(), VARNOK_DATENORDNER, '.'});
-    EXPECT_FALSE(s.oeffne_Projekt());
+    EXPECT_FALSE(s.fuehre_aus<&Programmablauf::oeffne_Projekt>());
     EXPECT_TRUE(gibt_es("input/Programcheck.che"));
     EXPECT_EQ(Datei("input/Programcheck.vnk"), "Programcheck\r\nProgramcheck\r\nProgramcheck\r\nProgramcheck\r\n");
 }
@@ -67,7 +68,7 @@ TEST_F(Start, with_a_missing_record_asks_by_the_name_without_extension) {
     std::filesystem::remove(Wurzel_ / "input/Probe.sce");
     Fragen_.erwarte("Data file missing", "File Probe is missing. Should the default settings be loaded ", Knopf::Nein);
     Sitzung s({&Fragen_, Wurzel_.string(), "", '.'});
-    EXPECT_FALSE(s.oeffne_Projekt());
+    EXPECT_FALSE(s.fuehre_aus<&Programmablauf::oeffne_Projekt>());
 }
 
 TEST_F(Start, with_a_missing_record_and_others_to_choose_is_covered_and_says_which) {
@@ -77,18 +78,18 @@ TEST_F(Start, with_a_missing_record_and_others_to_choose_is_covered_and_says_whi
     EXPECT_EQ(s_->Stand().Abdeckungswort(), "Record \"Probe.sce\" missing: choose one");
     EXPECT_NE(s_->Stand().Statuszeile.find("\"Probe.sce\""), std::string::npos);
     EXPECT_EQ(s_->Stand().Zeichnung, 0);
-    s_->waehle_Satz(Szenario, 0);
+    s_->fuehre_aus<&Satzverwaltung::waehle_Satz>(Szenario, 0);
     EXPECT_FALSE(s_->Stand().abgedeckt());
 }
 
 TEST_F(Start, after_a_rename_and_the_close_box_works_and_says_what_it_misses) {
     gestartet();
-    ASSERT_TRUE(s_->benenne_Satz_um(Wirkstoff, "Renamed", true));
-    ASSERT_TRUE(s_->schliesse_Fenster());
+    ASSERT_TRUE(s_->fuehre_aus<&Satzverwaltung::benenne_um>(Wirkstoff, "Renamed", true));
+    ASSERT_TRUE(s_->fuehre_aus<&Programmablauf::schliesse_Fenster>());
     EXPECT_TRUE(gibt_es("backup"));  // the combination that no file holds
     gestartet();
     EXPECT_EQ(s_->Stand().Abdeckungswort(), "Record \"Probe.che\" missing: choose one");
-    s_->waehle_Satz(Wirkstoff, 0);
+    s_->fuehre_aus<&Satzverwaltung::waehle_Satz>(Wirkstoff, 0);
     EXPECT_EQ(s_->Stand().gewaehlt(Wirkstoff), "Renamed");
     EXPECT_FALSE(s_->Stand().abgedeckt());
 }
@@ -97,7 +98,7 @@ TEST_F(Start, esc_at_the_question_without_any_record_of_a_kind_is_no) {
     std::filesystem::remove(Wurzel_ / "input/Probe.sce");
     Fragen_.erwarte_Anfang("Data file missing", "", Knopf::nicht_jetzt);
     Sitzung s({&Fragen_, Wurzel_.string(), "", '.'});
-    EXPECT_FALSE(s.oeffne_Projekt());
+    EXPECT_FALSE(s.fuehre_aus<&Programmablauf::oeffne_Projekt>());
 }
 
 TEST_F(Start, with_a_short_summary_tells_and_takes_the_next_newest) {
@@ -112,20 +113,20 @@ TEST_F(Start, before_ok_nothing_is_computed) {
     nur_geladen();
     EXPECT_FALSE(s_->Stand().Gestartet);
     EXPECT_EQ(s_->Stand().Werte(), Ergebnisse());
-    s_->Aktualisieren();
+    s_->fuehre_aus<&Satzverwaltung::aktualisiere>();
     EXPECT_EQ(s_->Stand().Werte(), Ergebnisse());
 }
 
 TEST_F(Start, before_ok_the_tables_have_their_heads_and_zeros) {
     nur_geladen();
-    for (const auto& Tabelle : {s_->Ergebnisse(0), s_->Ergebnisse(2)}) {
+    for (const auto& Tabelle : {Ergebnisse_einer_Studie(s_->Stand(), 0), Ergebnisse_einer_Studie(s_->Stand(), 2)}) {
         ASSERT_EQ(Tabelle.size(), 13U);
         EXPECT_EQ(Tabelle[0][1], "     PECactual");
         EXPECT_EQ(Tabelle[1][1], "<0.0001");
         EXPECT_EQ(Tabelle[8][1], "<0.0001");
         EXPECT_EQ(Tabelle[8][2], "<0.0001      ");
     }
-    const auto Zusammenfassung = s_->Ergebnisse_Zusammenfassung(1);
+    const auto Zusammenfassung = Ergebnisse_aller_Studien(s_->Stand(), 1);
     ASSERT_EQ(Zusammenfassung.size(), 13U);
     EXPECT_EQ(Zusammenfassung[0][2], "Second soil");
     EXPECT_EQ(Zusammenfassung[8][2], "    <0.0001");

@@ -28,49 +28,52 @@ struct Befehl {
 
 void erwarte_Ja(Drehbuch& d, const char* Titel) { d.erwarte_Anfang(Titel, "", Knopf::Ja); }
 
-void tippe_Namen(Sitzung& s) { s.aendere_Namen(0, "Another parent"); }
+void tippe_Namen(Sitzung& s) { s.fuehre_aus<&Listenwahl::aendere_Namen>(0, "Another parent"); }
 void nichts(Sitzung&) {}
 
 void loesche(Sitzung& s, Drehbuch& d, Satzart Art) {
     erwarte_Ja(d, "Delete record");
-    s.loesche_Satz(Art);
+    s.fuehre_aus<&Satzverwaltung::loesche>(Art);
 }
 
 const std::vector<Befehl> Befehle = {
-    {"new_record_over_unsaved_values", tippe_Namen, [](Sitzung& s, Drehbuch&) { s.neuer_Wirkstoff(); }},
-    {"copy_of_a_record", nichts, [](Sitzung& s, Drehbuch&) { s.kopiere_Satz(Szenario); }},
-    {"copy_of_a_simulation", nichts, [](Sitzung& s, Drehbuch&) { s.kopiere_Satz(Simulation); }},
+    {"new_record_over_unsaved_values", tippe_Namen,
+     [](Sitzung& s, Drehbuch&) { s.fuehre_aus<&Satzverwaltung::lege_an>(Wirkstoff); }},
+    {"copy_of_a_record", nichts, [](Sitzung& s, Drehbuch&) { s.fuehre_aus<&Satzverwaltung::kopiere>(Szenario); }},
+    {"copy_of_a_simulation", nichts, [](Sitzung& s, Drehbuch&) { s.fuehre_aus<&Satzverwaltung::kopiere>(Simulation); }},
     {"copy_over_a_record", nichts,
      [](Sitzung& s, Drehbuch& d) {
          erwarte_Ja(d, "Replace existing record?");
-         s.kopiere_Satz(Applikation);
+         s.fuehre_aus<&Satzverwaltung::kopiere>(Applikation);
      }},
     {"deletion_with_unsaved_values", tippe_Namen, [](Sitzung& s, Drehbuch& d) { loesche(s, d, Wirkstoff); }},
     {"deletion_of_a_simulation", nichts, [](Sitzung& s, Drehbuch& d) { loesche(s, d, Simulation); }},
-    {"rename", nichts, [](Sitzung& s, Drehbuch&) { s.benenne_Satz_um(Szenario, "Other", true); }},
-    {"rename_to_another_case", nichts, [](Sitzung& s, Drehbuch&) { s.benenne_Satz_um(Szenario, "PROBE", true); }},
+    {"rename", nichts, [](Sitzung& s, Drehbuch&) { s.fuehre_aus<&Satzverwaltung::benenne_um>(Szenario, "Other", true); }},
+    {"rename_to_another_case", nichts,
+     [](Sitzung& s, Drehbuch&) { s.fuehre_aus<&Satzverwaltung::benenne_um>(Szenario, "PROBE", true); }},
     {"rename_over_a_record_in_another_case", nichts,
      [](Sitzung& s, Drehbuch& d) {
          erwarte_Ja(d, "Replace existing record?");
-         s.benenne_Satz_um(Szenario, "SECOND", true);
+         s.fuehre_aus<&Satzverwaltung::benenne_um>(Szenario, "SECOND", true);
      }},
-    {"save", tippe_Namen, [](Sitzung& s, Drehbuch&) { s.Speichern(); }, true},
+    {"save", tippe_Namen, [](Sitzung& s, Drehbuch&) { s.fuehre_aus<&Satzverwaltung::speichere>(); }, true},
     {"choice_with_yes", tippe_Namen,
      [](Sitzung& s, Drehbuch& d) {
          erwarte_Ja(d, "Save changes?");
-         s.waehle_Satz(Wirkstoff, 1);
+         s.fuehre_aus<&Satzverwaltung::waehle_Satz>(Wirkstoff, 1);
      },
      true},
-    {"simulation_over_unsaved_values", tippe_Namen, [](Sitzung& s, Drehbuch&) { s.waehle_Simulation(1); }},
+    {"simulation_over_unsaved_values", tippe_Namen,
+     [](Sitzung& s, Drehbuch&) { s.fuehre_aus<&Satzverwaltung::waehle_Simulation>(1); }},
     {"program_defaults", tippe_Namen,
      [](Sitzung& s, Drehbuch& d) {
          d.erwarte_Anfang("Default settings", "");
-         s.lade_Voreinstellungen();
+         s.fuehre_aus<&Satzverwaltung::lade_Voreinstellungen>();
      }},
     {"exit_with_yes", tippe_Namen,
      [](Sitzung& s, Drehbuch& d) {
          erwarte_Ja(d, "Save changes?");
-         s.Ende();
+         s.fuehre_aus<&Programmablauf::beende>();
      },
      true},
 };

@@ -37,7 +37,7 @@ protected:
     Namen auf_Platte(Satzart Art) const { return Projektordner(Wurzel_.string()).Namen(Endungen[Art]); }
     void waehle(Satzart Art, const std::string& Name) {
         const auto& l = z().Listen[Art];
-        s_->waehle_Satz(Art, static_cast<int>(std::find(l.begin(), l.end(), Name) - l.begin()));
+        s_->fuehre_aus<&Satzverwaltung::waehle_Satz>(Art, static_cast<int>(std::find(l.begin(), l.end(), Name) - l.begin()));
     }
     void bejahe_Loeschen(Knopf Antwort = Knopf::Ja) {
         Fragen_.erwarte_Anfang("Delete record", "Do you really want to delete this record?", Antwort);

@@ -39,7 +39,7 @@ TEST_F(Dateidialogprobe, loading_names_the_simulation_reads_the_compound_again_a
     ASSERT_TRUE(tippe("S_DT50_0", "12"));
     const std::string auf_dem_Schirm = Satz_als_Bytes(Wirkstoff, s_->Stand().Vorgabe, s_->Stand().Sicht);
     const auto Listen = s_->Stand().Listen;
-    EXPECT_TRUE(s_->lade_Eingabedaten("maize trial.txt"));
+    EXPECT_TRUE(s_->fuehre_aus<&Eingabedateien::lade>("maize trial.txt"));
     EXPECT_EQ(s_->Stand().gewaehlt(Simulation), "maize trial");
     EXPECT_EQ(s_->Stand().Listen[Wirkstoff], Listen[Wirkstoff]);
     EXPECT_NEAR(s_->Stand().Parameter().k_SFO[0][0], 0.01, 1e-12);
@@ -50,7 +50,7 @@ TEST_F(Dateidialogprobe, loading_names_the_simulation_reads_the_compound_again_a
 
 TEST_F(Dateidialogprobe, loading_a_name_of_the_list_selects_its_entry) {
     gestartet();
-    EXPECT_TRUE(s_->lade_Eingabedaten("Probe.txt"));
+    EXPECT_TRUE(s_->fuehre_aus<&Eingabedateien::lade>("Probe.txt"));
     EXPECT_EQ(s_->Stand().Listen[Simulation], std::vector<std::string>{"Probe"});
     EXPECT_EQ(s_->Stand().Auswahl(Simulation), 0);
 }
@@ -58,7 +58,7 @@ TEST_F(Dateidialogprobe, loading_a_name_of_the_list_selects_its_entry) {
 TEST_F(Dateidialogprobe, loading_a_file_without_a_name_is_refused) {
     gestartet();
     Fragen_.erwarte("Runtime error", "\"\" cannot be the name of a simulation: it is empty");
-    EXPECT_FALSE(s_->lade_Eingabedaten(".txt"));
+    EXPECT_FALSE(s_->fuehre_aus<&Eingabedateien::lade>(".txt"));
     EXPECT_EQ(s_->Stand().gewaehlt(Simulation), "Probe");
 }
 
@@ -66,7 +66,7 @@ TEST_F(Dateidialogprobe, loading_asks_where_the_folder_has_no_compound_record_le
     gestartet();
     std::filesystem::remove(Wurzel_ / "input/Probe.che");
     Fragen_.erwarte("Data file missing", "File Probe is missing. Should the default settings be loaded ", Knopf::Nein);
-    s_->lade_Eingabedaten("Probe.txt");
+    s_->fuehre_aus<&Eingabedateien::lade>("Probe.txt");
     EXPECT_TRUE(s_->Stand().beendet);
 }
 
@@ -74,7 +74,7 @@ TEST_F(Dateidialogprobe, loading_asks_where_the_folder_has_no_compound_record_le
 TEST_F(Dateidialogprobe, saving_writes_three_names_and_the_records) {
     gestartet();
     ASSERT_TRUE(tippe("S_DT50_0", "12"));
-    EXPECT_TRUE(s_->speichere_Eingabedaten_unter("Other.vnk"));
+    EXPECT_TRUE(s_->fuehre_aus<&Eingabedateien::speichere>("Other.vnk"));
     EXPECT_EQ(Datei("input/Other.vnk"), "Probe\r\nProbe\r\nProbe\r\n");
     EXPECT_EQ(Datei("input/Probe.vnk"), "A trial\r\nProbe\r\nProbe\r\nProbe\r\n");
     EXPECT_EQ(s_->Stand().gewaehlt(Simulation), "Other");
@@ -89,7 +89,7 @@ TEST_F(Dateidialogprobe, saving_writes_three_names_and_the_records) {
 TEST_F(Dateidialogprobe, the_extension_is_taken_off_a_longer_name_only) {
     gestartet();
     for (const auto& [getippt, Name] : {std::pair("plain", "plain"), {".vnk", ".vnk"}, {"x.vnk", "x"}, {"x.VNK", "x.VNK"}}) {
-        EXPECT_TRUE(s_->speichere_Eingabedaten_unter(getippt));
+        EXPECT_TRUE(s_->fuehre_aus<&Eingabedateien::speichere>(getippt));
         EXPECT_EQ(s_->Stand().gewaehlt(Simulation), Name);
         EXPECT_TRUE(gibt_es("input/" + std::string(Name) + ".vnk"));
     }
@@ -97,7 +97,7 @@ TEST_F(Dateidialogprobe, the_extension_is_taken_off_a_longer_name_only) {
 
 TEST_F(Dateidialogprobe, a_summary_that_is_replaced_is_kept_first) {
     gestartet();
-    EXPECT_TRUE(s_->speichere_Eingabedaten_unter("Probe.vnk"));
+    EXPECT_TRUE(s_->fuehre_aus<&Eingabedateien::speichere>("Probe.vnk"));
     EXPECT_EQ(Sicherung("Probe.vnk"), "A trial\r\nProbe\r\nProbe\r\nProbe\r\n");
 }
 
@@ -106,7 +106,7 @@ TEST_F(Dateidialogprobe, names_that_are_none_are_refused_before_any_file_is_touc
     const std::string lang(241, 'x');
     for (const std::string& Name : {std::string(), std::string(".."), std::string("../out"), std::string("a\tb"), lang}) {
         Fragen_.erwarte_Anfang("Runtime error", "\"" + Name + "\" cannot be the name of a simulation: ");
-        EXPECT_FALSE(s_->speichere_Eingabedaten_unter(Name));
+        EXPECT_FALSE(s_->fuehre_aus<&Eingabedateien::speichere>(Name));
     }
     EXPECT_FALSE(gibt_es("out.vnk"));
     EXPECT_FALSE(gibt_es("backup"));
@@ -118,16 +118,16 @@ TEST_F(Dateidialogprobe, saving_with_an_empty_selector_writes_nothing) {
     std::filesystem::last_write_time(Wurzel_ / "input/Torn.vnk",
                                      std::filesystem::last_write_time(Wurzel_ / "input/Probe.vnk") - std::chrono::hours(1));
     gestartet();
-    s_->waehle_Simulation(1);
+    s_->fuehre_aus<&Satzverwaltung::waehle_Simulation>(1);
     Fragen_.erwarte("Record not set", "Application record not set. Please select!");
-    EXPECT_FALSE(s_->speichere_Eingabedaten_unter("Other"));
+    EXPECT_FALSE(s_->fuehre_aus<&Eingabedateien::speichere>("Other"));
     EXPECT_FALSE(gibt_es("input/Other.vnk"));
 }
 
 TEST_F(Dateidialogprobe, a_file_of_the_input_folder_is_deleted_and_kept_in_backup) {
     lege_ab("input/old.txt", "its text");
     gestartet();
-    s_->loesche_Eingabedatei(Eingabeordner(), "old.txt");
+    s_->fuehre_aus<&Eingabedateien::loesche>(Eingabeordner(), "old.txt");
     EXPECT_FALSE(gibt_es("input/old.txt"));
     EXPECT_EQ(Sicherung("old.txt"), "its text");
 }
@@ -141,13 +141,13 @@ TEST_F(Dateidialogprobe, nothing_is_deleted_outside_the_input_folder) {
     const std::string Einwand = "files are only deleted in the folder \"" + Eingabeordner() + "\"";
     for (const char* Ordner : {"", "input/below", "nowhere"}) {
         Fragen_.erwarte("Runtime error", "\"out.txt\" is not deleted: " + Einwand);
-        s_->loesche_Eingabedatei((Wurzel_ / Ordner).string(), "out.txt");
+        s_->fuehre_aus<&Eingabedateien::loesche>((Wurzel_ / Ordner).string(), "out.txt");
     }
     Fragen_.erwarte_Anfang("Runtime error", "\"../out.txt\" cannot be the name");
-    s_->loesche_Eingabedatei(Eingabeordner(), "../out.txt");
+    s_->fuehre_aus<&Eingabedateien::loesche>(Eingabeordner(), "../out.txt");
     for (const char* Name : {"out.txt", "input/out.txt", "input/below/out.txt"}) EXPECT_TRUE(gibt_es(Name)) << Name;
-    EXPECT_TRUE(s_->darf_Eingabedatei_loeschen(Eingabeordner() + "/../input"));
-    EXPECT_FALSE(s_->darf_Eingabedatei_loeschen(Wurzel_.string()));
+    EXPECT_TRUE(s_->zeige<Eingabedateien>().darf_loeschen(Eingabeordner() + "/../input"));
+    EXPECT_FALSE(s_->zeige<Eingabedateien>().darf_loeschen(Wurzel_.string()));
 }
 
 }  // namespace

@@ -27,7 +27,7 @@ protected:
 TEST_F(Fremdes, a_changed_record_is_told_at_refresh_and_the_values_stay) {
     gestartet();
     aendere_von_aussen("Probe.che");
-    s_->Aktualisieren();
+    s_->fuehre_aus<&Satzverwaltung::aktualisiere>();
     EXPECT_EQ(z().Statuszeile, "\"Probe.che\" was changed by another program since it was read.");
     EXPECT_EQ(z().Felder().Name_Wirkstoff, "Parent P");
     EXPECT_FALSE(z().abgedeckt());
@@ -37,36 +37,36 @@ TEST_F(Fremdes, a_deleted_record_is_told_at_refresh_and_save_writes_it_anew) {
     gestartet();
     const std::string Inhalt = Datei("input/Probe.app");
     entferne_von_aussen("Probe.app");
-    s_->Aktualisieren();
+    s_->fuehre_aus<&Satzverwaltung::aktualisiere>();
     EXPECT_EQ(z().Statuszeile, "\"Probe.app\" was deleted by another program since it was read.");
     EXPECT_EQ(z().gewaehlt(Applikation), "Probe");
-    s_->Speichern();
+    s_->fuehre_aus<&Satzverwaltung::speichere>();
     EXPECT_EQ(Datei("input/Probe.vnk"), "A trial\r\nProbe\r\nProbe\r\nProbe\r\n");
     EXPECT_TRUE(gibt_es("input/Probe.app"));
     EXPECT_TRUE(Status_nennt("saved. \"Probe.app\" was deleted by another program"));
-    s_->Aktualisieren();
+    s_->fuehre_aus<&Satzverwaltung::aktualisiere>();
     EXPECT_EQ(z().Statuszeile, "");
 }
 
 TEST_F(Fremdes, a_copy_of_a_changed_record_is_theirs_and_is_not_saved_over_unasked) {
     gestartet();
     aendere_von_aussen("Probe.che");
-    s_->kopiere_Satz(Wirkstoff);
+    s_->fuehre_aus<&Satzverwaltung::kopiere>(Wirkstoff);
     EXPECT_TRUE(Status_nennt("changed by another program"));
     const std::string ihres = Datei("input/copy of Probe.che");
     EXPECT_EQ(ihres, Datei("input/Probe.che"));
     erwarte_Ersatzfrage("copy of Probe.che", Knopf::Nein);
-    s_->Speichern();
+    s_->fuehre_aus<&Satzverwaltung::speichere>();
     EXPECT_EQ(Datei("input/copy of Probe.che"), ihres);
 }
 
 TEST_F(Fremdes, a_changed_record_that_got_another_name_is_not_saved_over_unasked) {
     gestartet();
     aendere_von_aussen("Probe.che");
-    s_->benenne_Satz_um(Wirkstoff, "Renamed", true);
+    s_->fuehre_aus<&Satzverwaltung::benenne_um>(Wirkstoff, "Renamed", true);
     EXPECT_TRUE(Status_nennt("\"Probe.che\" was changed by another program"));
     erwarte_Ersatzfrage("Renamed.che", Knopf::Nein);
-    s_->Speichern();
+    s_->fuehre_aus<&Satzverwaltung::speichere>();
     EXPECT_TRUE(Datei("input/Renamed.che").ends_with("theirs"));
 }
 
@@ -76,7 +76,7 @@ TEST_F(Fremdes, deleting_a_changed_record_keeps_theirs_and_what_was_read_before)
     aendere_von_aussen("Probe.app");
     const std::string ihres = Datei("input/Probe.app");
     bejahe_Loeschen();
-    s_->loesche_Satz(Applikation);
+    s_->fuehre_aus<&Satzverwaltung::loesche>(Applikation);
     EXPECT_EQ(gesichert(), (Namen{"Probe.app", "unsaved Probe.app"}));
     EXPECT_TRUE(Status_nennt("\"Probe.app\" was changed by another program"));
     EXPECT_TRUE(Status_nennt("backup/"));
@@ -89,13 +89,13 @@ TEST_F(Fremdes, choosing_a_changed_record_again_reads_theirs_and_keeps_the_value
     EXPECT_EQ(z().Parameter().Bodendichte, 3);
     EXPECT_EQ(gesichert(), Namen{"unsaved Probe.sce"});
     EXPECT_TRUE(Status_nennt("\"Probe.sce\" was changed by another program"));
-    s_->Speichern();  // what is on the disk is what was read: no question
+    s_->fuehre_aus<&Satzverwaltung::speichere>();  // what is on the disk is what was read: no question
 }
 
 TEST_F(Fremdes, loading_a_simulation_keeps_values_whose_file_is_gone) {
     gestartet();
     entferne_von_aussen("Probe.sce");
-    s_->waehle_Simulation(1);
+    s_->fuehre_aus<&Satzverwaltung::waehle_Simulation>(1);
     EXPECT_EQ(gesichert(), Namen{"unsaved Probe.sce"});
     EXPECT_EQ(z().Listen[Szenario], Namen{"Second"});
     EXPECT_FALSE(z().abgedeckt());
@@ -105,7 +105,7 @@ TEST_F(Fremdes, a_simulation_that_is_gone_is_told_when_chosen_and_leaves_the_lis
     gestartet();
     entferne_von_aussen("Second.vnk");
     Fragen_.erwarte("Runtime error", "File Second.vnk is missing in the folder \"" + (Wurzel_ / "input").string() + "\"");
-    s_->waehle_Simulation(1);
+    s_->fuehre_aus<&Satzverwaltung::waehle_Simulation>(1);
     EXPECT_EQ(z().Listen[Simulation], Namen{"Probe"});
     EXPECT_EQ(z().gewaehlt(Simulation), "Probe");
     EXPECT_FALSE(z().abgedeckt());
@@ -114,7 +114,7 @@ TEST_F(Fremdes, a_simulation_that_is_gone_is_told_when_chosen_and_leaves_the_lis
 TEST_F(Fremdes, a_simulation_that_names_a_record_gone_since_the_start_waits_for_a_choice) {
     gestartet();
     entferne_von_aussen("Second.app");
-    s_->waehle_Simulation(1);
+    s_->fuehre_aus<&Satzverwaltung::waehle_Simulation>(1);
     EXPECT_EQ(z().Auswahl(Applikation), -1);
     EXPECT_TRUE(z().abgedeckt());
     EXPECT_FALSE(z().beendet);
@@ -127,9 +127,9 @@ TEST_F(Fremdes, a_simulation_that_left_the_list_is_written_anew_under_its_name) 
     gestartet();
     entferne_von_aussen("Probe.vnk");
     Fragen_.erwarte_Anfang("Runtime error", "File Probe.vnk is missing");
-    s_->kopiere_Satz(Simulation);
+    s_->fuehre_aus<&Satzverwaltung::kopiere>(Simulation);
     EXPECT_EQ(z().Auswahl(Simulation), -1);
-    s_->Speichern();
+    s_->fuehre_aus<&Satzverwaltung::speichere>();
     EXPECT_EQ(Datei("input/Probe.vnk"), "A trial\r\nProbe\r\nProbe\r\nProbe\r\n");
     EXPECT_EQ(z().gewaehlt(Simulation), "Probe");
     erwarte_Gleichstand(Simulation);
@@ -139,7 +139,7 @@ TEST_F(Fremdes, the_last_record_in_the_folder_stays_whatever_the_list_shows) {
     gestartet();
     entferne_von_aussen("Second.sce");
     Fragen_.erwarte("Runtime error", "\"Probe.sce\" is the last of its kind and stays.");
-    s_->loesche_Satz(Szenario);
+    s_->fuehre_aus<&Satzverwaltung::loesche>(Szenario);
     EXPECT_TRUE(gibt_es("input/Probe.sce"));
     EXPECT_EQ(z().Listen[Szenario], Namen{"Probe"});
     EXPECT_FALSE(z().abgedeckt());
@@ -181,16 +181,16 @@ TEST_F(LetzterSatz, esc_at_the_question_never_ends_the_program) {
     waehle_ins_Leere(Knopf::nicht_jetzt);
     EXPECT_FALSE(z().beendet);
     EXPECT_EQ(z().Abdeckungswort(), "Record \"Second.app\" missing: choose one");
-    EXPECT_EQ(s_->Feldtext(Feld("S_DT50_0")), "12");
+    EXPECT_EQ(s_->zeige<Feldeingabe>().Text(Feld("S_DT50_0")), "12");
     EXPECT_TRUE(z().Saetze[Wirkstoff].Geaendert);
 }
 
 TEST_F(Fremdes, a_changed_summary_file_is_asked_about_at_exit_and_stays_on_no) {
     gestartet();
-    s_->aendere_Beschreibung("mine");
+    s_->fuehre_aus<&Beschreibungseingabe::aendere>("mine");
     schreibe_Datei(Pfad("Probe.vnk"), "theirs\r\nSecond\r\nSecond\r\nSecond\r\n");
     erwarte_Ersatzfrage("Probe.vnk", Knopf::Nein);
-    s_->Ende();
+    s_->fuehre_aus<&Programmablauf::beende>();
     EXPECT_TRUE(z().beendet);
     EXPECT_EQ(Datei("input/Probe.vnk"), "theirs\r\nSecond\r\nSecond\r\nSecond\r\n");
     EXPECT_EQ(gesichert(), Namen{"unsaved Probe.vnk"});
@@ -200,7 +200,7 @@ TEST_F(Fremdes, a_changed_summary_file_is_replaced_at_exit_on_yes_and_kept_in_ba
     gestartet();
     schreibe_Datei(Pfad("Probe.vnk"), "theirs\r\nSecond\r\nSecond\r\nSecond\r\n");
     erwarte_Ersatzfrage("Probe.vnk", Knopf::Ja);
-    s_->Ende();
+    s_->fuehre_aus<&Programmablauf::beende>();
     EXPECT_EQ(Datei("input/Probe.vnk"), "A trial\r\nProbe\r\nProbe\r\nProbe\r\n");
     EXPECT_EQ(gesichert(), Namen{"Probe.vnk"});
 }
@@ -211,7 +211,7 @@ TEST_F(Fremdes, exit_stays_where_its_save_was_refused) {
     aendere_von_aussen("Probe.che");
     erwarte_Sicherungsfrage(Knopf::Ja);
     erwarte_Ersatzfrage("Probe.che", Knopf::Nein);
-    s_->Ende();
+    s_->fuehre_aus<&Programmablauf::beende>();
     EXPECT_FALSE(z().beendet);
     EXPECT_TRUE(z().Saetze[1].Geaendert);
 }
@@ -223,7 +223,7 @@ TEST_F(Fremdes, a_record_that_cannot_be_read_is_not_replaced_and_nothing_else_is
     entferne_von_aussen("Probe.sce");
     std::filesystem::create_directory(Pfad("Probe.sce"));
     Fragen_.erwarte("Runtime error", "Cannot read the file \"" + Pfad("Probe.sce") + "\": it is a folder");
-    s_->Speichern();
+    s_->fuehre_aus<&Satzverwaltung::speichere>();
     EXPECT_EQ(Datei("input/Probe.che"), Wirkstoffdatei);
     EXPECT_TRUE(z().Saetze[1].Geaendert);
 }
@@ -231,7 +231,7 @@ TEST_F(Fremdes, a_record_that_cannot_be_read_is_not_replaced_and_nothing_else_is
 class ZweitesFenster : public Fremdes {
 protected:
     ZweitesFenster() : erstes_(Umgebung{&Antworten_, Wurzel_.string(), "", '.'}) {
-        EXPECT_TRUE(erstes_.oeffne_Projekt());
+        EXPECT_TRUE(erstes_.fuehre_aus<&Programmablauf::oeffne_Projekt>());
         Fragen_.erwarte_Anfang("Project folder in use", "Another window of VARNOK works on this project folder.");
         gestartet();
     }
@@ -245,9 +245,9 @@ protected:
 };
 
 TEST_F(ZweitesFenster, writes_nothing_at_exit_after_a_no) {
-    s_->aendere_Beschreibung("mine");
+    s_->fuehre_aus<&Beschreibungseingabe::aendere>("mine");
     erwarte_Fensterfrage(Knopf::Nein);
-    s_->Ende();
+    s_->fuehre_aus<&Programmablauf::beende>();
     EXPECT_TRUE(z().beendet);
     EXPECT_EQ(Datei("input/Probe.vnk"), "A trial\r\nProbe\r\nProbe\r\nProbe\r\n");
     EXPECT_EQ(gesichert(), Namen{"unsaved Probe.vnk"});
@@ -258,7 +258,7 @@ TEST_F(ZweitesFenster, asks_once_for_an_exit_that_saves) {
     const std::string vorher = Datei("input/Probe.che");
     erwarte_Sicherungsfrage(Knopf::Ja);
     erwarte_Fensterfrage(Knopf::Ja);
-    s_->Ende();
+    s_->fuehre_aus<&Programmablauf::beende>();
     EXPECT_TRUE(z().beendet);
     EXPECT_NE(Datei("input/Probe.che"), vorher);
 }
@@ -267,18 +267,18 @@ TEST_F(ZweitesFenster, stays_open_where_the_save_at_exit_was_refused) {
     tippe("S_DT50_0", "12");
     erwarte_Sicherungsfrage(Knopf::Ja);
     erwarte_Fensterfrage(Knopf::Nein);
-    s_->Ende();
+    s_->fuehre_aus<&Programmablauf::beende>();
     EXPECT_FALSE(z().beendet);
     EXPECT_TRUE(z().Saetze[1].Geaendert);
 }
 
 TEST_F(ZweitesFenster, sees_what_the_first_one_saved) {
-    erstes_.Starten();
-    erstes_.aendere_Namen(0, "Saved by the first");
-    erstes_.Speichern();
+    erstes_.fuehre_aus<&Programmablauf::starte>();
+    erstes_.fuehre_aus<&Listenwahl::aendere_Namen>(0, "Saved by the first");
+    erstes_.fuehre_aus<&Satzverwaltung::speichere>();
     erwarte_Fensterfrage(Knopf::Ja);
     erwarte_Ersatzfrage("Probe.che", Knopf::Nein);
-    s_->Speichern();
+    s_->fuehre_aus<&Satzverwaltung::speichere>();
     EXPECT_NE(Datei("input/Probe.che").find("Saved by the first"), std::string::npos);
 }
 

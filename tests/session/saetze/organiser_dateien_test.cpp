@@ -26,7 +26,7 @@ TEST_F(Organiserdateien, a_copied_record_is_selected_and_counts_as_chosen) {
     EXPECT_TRUE(fertig());
     EXPECT_EQ(Datei("input/Probe.vnk"), Zeilen("A trial", "copy of Probe", "Probe", "Probe"));
     EXPECT_EQ(z().gewaehlt(Wirkstoff), "copy of Probe");
-    EXPECT_NE(s_->Feldtext(Feld("S_DT50_0")), "12");  // the copy is that of the file, and was read
+    EXPECT_NE(s_->zeige<Feldeingabe>().Text(Feld("S_DT50_0")), "12");  // the copy is that of the file, and was read
     EXPECT_EQ(Gesichertes().count("unsaved Probe.che"), 1U);
     EXPECT_FALSE(z().Hinweis());
 }
@@ -79,7 +79,7 @@ TEST_F(Organiserdateien, a_copy_over_an_existing_file_asks_and_keeps_what_it_rep
 TEST_F(Organiserdateien, a_copy_over_the_record_on_the_screen_leaves_its_values_unread) {
     schreibe_Saetze("copy of Second", "Parent C", 2);
     gestartet();
-    s_->waehle_Satz(Wirkstoff, 0);
+    s_->fuehre_aus<&Satzverwaltung::waehle_Satz>(Wirkstoff, 0);
     ASSERT_EQ(z().gewaehlt(Wirkstoff), "copy of Second");
     ASSERT_TRUE(tippe("S_DT50_0", "12"));
     oeffne();
@@ -91,9 +91,9 @@ TEST_F(Organiserdateien, a_copy_over_the_record_on_the_screen_leaves_its_values_
     schliesse();
     EXPECT_TRUE(z().abgedeckt());
     EXPECT_FALSE(z().Saetze[1].Geaendert);
-    s_->Speichern();  // writes no file of a record that was not read
+    s_->fuehre_aus<&Satzverwaltung::speichere>();  // writes no file of a record that was not read
     EXPECT_EQ(Datei("input/copy of Second.che"), Datei("input/Second.che"));
-    s_->Aktualisieren();
+    s_->fuehre_aus<&Satzverwaltung::aktualisiere>();
     EXPECT_EQ(Maske().Name_Wirkstoff, "Other parent");
     EXPECT_FALSE(z().abgedeckt());
 }
@@ -140,7 +140,7 @@ TEST_F(Organiserdateien, a_neighbour_that_cannot_be_read_takes_nothing_from_the_
     waehle(Simulation, "Second");
     Fragen_.erwarte_Anfang("Delete record", "Do you really want to delete this record?", Knopf::Ja);
     Fragen_.erwarte_Anfang("Runtime error", "File Torn.vnk, line 2");
-    tue([](Organiser& x) { x.loesche(Simulation); });
+    tue<&Organiser::loesche>(Simulation);
     EXPECT_EQ(gewaehlt(Simulation), "Torn");
     EXPECT_EQ(o().Projektname(), "");
     for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) EXPECT_EQ(gewaehlt(Art), "");
@@ -191,9 +191,9 @@ TEST_F(Organiserdateien, after_deleting_a_record_on_the_screen_and_closing_it_is
     EXPECT_EQ(z().Abdeckungswort(), "Record deleted: choose or refresh");
     EXPECT_EQ(Gesichertes().count("unsaved Probe.che"), 1U);
     Fragen_.erwarte("Record not set", "Pesticide record not set. Please select!");
-    s_->Speichern();
+    s_->fuehre_aus<&Satzverwaltung::speichere>();
     EXPECT_FALSE(gibt_es("input/Probe.che"));
-    s_->waehle_Satz(Wirkstoff, 0);
+    s_->fuehre_aus<&Satzverwaltung::waehle_Satz>(Wirkstoff, 0);
     EXPECT_EQ(Maske().Name_Wirkstoff, "Other parent");
     EXPECT_FALSE(z().abgedeckt());
 }
@@ -207,7 +207,7 @@ TEST_F(Organiserdateien, after_deleting_the_simulation_and_closing_saving_and_le
     EXPECT_TRUE(z().abgedeckt());
     EXPECT_EQ(Maske().Beschreibung, "A trial");
     const auto vorher = Dateien();
-    s_->Ende();
+    s_->fuehre_aus<&Programmablauf::beende>();
     EXPECT_EQ(Dateien(), vorher);
     EXPECT_TRUE(z().beendet);
 }
@@ -239,12 +239,12 @@ TEST_F(Organiserdateien, a_renamed_record_alone_is_written_into_the_summary_and_
     EXPECT_EQ(Dateien(), erwartet);
     EXPECT_EQ(z().gewaehlt(Wirkstoff), "Better name");
     EXPECT_EQ(z().Namen[1], "Better name");
-    EXPECT_EQ(s_->Feldtext(Feld("S_DT50_0")), "12");
+    EXPECT_EQ(s_->zeige<Feldeingabe>().Text(Feld("S_DT50_0")), "12");
     EXPECT_TRUE(z().Saetze[1].Geaendert);
     EXPECT_EQ(z().Zeichnung, Zeichnung);
     EXPECT_TRUE(Gesichertes().empty());
     EXPECT_FALSE(z().Simulation_markiert);
-    s_->Speichern();  // the file is the one that was read: no question, and nothing to be kept
+    s_->fuehre_aus<&Satzverwaltung::speichere>();  // the file is the one that was read: no question, and nothing to be kept
     EXPECT_NE(Datei("input/Better name.che"), erwartet["Better name.che"]);
     EXPECT_TRUE(Gesichertes().empty());
 }
@@ -254,7 +254,7 @@ TEST_F(Organiserdateien, a_record_renamed_to_the_name_of_a_missing_one_counts_as
     gestartet();
     std::filesystem::remove(Wurzel_ / "input/Probe.sce");
     Fragen_.erwarte_Anfang("Runtime error", "File Probe.sce is missing");
-    s_->kopiere_Satz(Szenario);
+    s_->fuehre_aus<&Satzverwaltung::kopiere>(Szenario);
     EXPECT_EQ(z().gewaehlt(Szenario), "");
     EXPECT_EQ(z().Namen[Szenario], "Probe");
     oeffne();
@@ -265,7 +265,7 @@ TEST_F(Organiserdateien, a_record_renamed_to_the_name_of_a_missing_one_counts_as
     EXPECT_EQ(z().Parameter().Bodendichte, 1.5);
     EXPECT_TRUE(z().abgedeckt());
     EXPECT_EQ(Gesichertes().count("unsaved Probe.sce"), 1U);
-    s_->Aktualisieren();
+    s_->fuehre_aus<&Satzverwaltung::aktualisiere>();
     EXPECT_EQ(z().Parameter().Bodendichte, 3);
     EXPECT_FALSE(z().abgedeckt());
 }
@@ -357,7 +357,7 @@ TEST_F(Organiserdateien, a_rename_over_the_record_on_the_screen_leaves_its_value
     EXPECT_EQ(z().gewaehlt(Wirkstoff), "Probe");
     EXPECT_TRUE(z().abgedeckt());
     EXPECT_EQ(Maske().Name_Wirkstoff, "Parent P");
-    s_->Aktualisieren();
+    s_->fuehre_aus<&Satzverwaltung::aktualisiere>();
     EXPECT_EQ(Maske().Name_Wirkstoff, "Other parent");
     EXPECT_FALSE(z().abgedeckt());
 }

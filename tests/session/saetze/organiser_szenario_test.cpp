@@ -25,7 +25,7 @@ TEST_F(Organiserszenario, a_scenario_can_be_edited_while_it_is_the_one_on_the_sc
 
 TEST_F(Organiserszenario, an_edited_scenario_keeps_its_values_when_the_other_records_are_read) {
     oeffne();
-    bearbeite([](Szenarioeditor& e) { e.aendere(Szenarioentwurf::Bodendichte, "6"); });
+    bearbeite([](Sitzung& s) { s.fuehre_aus<&Szenarioeditor::aendere>(Szenarioentwurf::Bodendichte, "6"); });
     waehle(Wirkstoff, "Second");
     EXPECT_TRUE(fertig());
     EXPECT_EQ(Maske().Name_Wirkstoff, "Other parent");
@@ -44,7 +44,9 @@ TEST_F(Organiserszenario, a_scenario_that_the_editor_left_as_it_was_is_read_wher
         Eingabe andere = Felder_;
         andere.Parameter.Bodendichte = 6;
         Satz_schreiben(Projektordner(Wurzel_.string()), "Probe", Szenario, andere, Sicht_);
-        bearbeite([&](Szenarioeditor& e) { e.aendere(Szenarioentwurf::Bodendichte, mit_Done ? "1.5" : "3"); }, mit_Done);
+        bearbeite(
+            [&](Sitzung& s) { s.fuehre_aus<&Szenarioeditor::aendere>(Szenarioentwurf::Bodendichte, mit_Done ? "1.5" : "3"); },
+            mit_Done);
         waehle(Szenario, "Probe");
         EXPECT_TRUE(fertig());
         EXPECT_EQ(z().Parameter().Bodendichte, 6);
@@ -53,7 +55,7 @@ TEST_F(Organiserszenario, a_scenario_that_the_editor_left_as_it_was_is_read_wher
 
 TEST_F(Organiserszenario, an_edited_scenario_is_in_the_backup_where_another_one_is_read) {
     oeffne();
-    bearbeite([](Szenarioeditor& e) { e.aendere(Szenarioentwurf::Bodendichte, "6"); });
+    bearbeite([](Sitzung& s) { s.fuehre_aus<&Szenarioeditor::aendere>(Szenarioentwurf::Bodendichte, "6"); });
     waehle(Szenario, "Second");
     EXPECT_TRUE(fertig());
     EXPECT_EQ(z().Parameter().Bodendichte, 3);
@@ -62,7 +64,7 @@ TEST_F(Organiserszenario, an_edited_scenario_is_in_the_backup_where_another_one_
 
 TEST_F(Organiserszenario, a_name_picked_in_the_editor_is_followed_and_saved_and_no_record_is_read) {
     oeffne();
-    bearbeite([](Szenarioeditor& e) { e.waehle_Szenario(1); });
+    bearbeite([](Sitzung& s) { s.fuehre_aus<&Szenarioeditor::waehle_Szenario>(1); });
     EXPECT_EQ(gewaehlt(Szenario), "Second");
     const int Zeichnung = z().Zeichnung;
     EXPECT_TRUE(fertig());
@@ -75,7 +77,7 @@ TEST_F(Organiserszenario, a_name_picked_in_the_editor_is_followed_and_saved_and_
 TEST_F(Organiserszenario, the_editor_does_not_take_back_what_was_picked_before_it) {
     oeffne();
     waehle(Wirkstoff, "Second");
-    bearbeite([](Szenarioeditor&) {}, false);
+    bearbeite([](Sitzung&) {}, false);
     EXPECT_EQ(gewaehlt(Wirkstoff), "Second");
     EXPECT_TRUE(fertig());
     EXPECT_EQ(Datei("input/Probe.vnk"), Zeilen("A trial", "Second", "Probe", "Probe"));

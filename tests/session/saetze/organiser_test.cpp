@@ -32,7 +32,7 @@ TEST_F(Organisertest, opening_reads_the_folder_anew) {
 
 TEST_F(Organisertest, a_description_that_is_not_saved_survives_the_opening_and_is_shown) {
     gestartet();
-    s_->aendere_Beschreibung("not saved yet");
+    s_->fuehre_aus<&Beschreibungseingabe::aendere>("not saved yet");
     const auto vorher = Dateien();
     oeffne();
     EXPECT_EQ(o().Projektname(), "not saved yet");
@@ -43,7 +43,7 @@ TEST_F(Organisertest, a_description_that_is_not_saved_survives_the_opening_and_i
 }
 
 TEST_F(Organisertest, a_description_in_work_is_closed_by_the_opening) {
-    gestartet().oeffne_Beschreibung();
+    gestartet().fuehre_aus<&Beschreibungseingabe::oeffne>();
     oeffne();
     EXPECT_FALSE(z().Beschreibung_offen);
 }
@@ -71,10 +71,10 @@ TEST_F(Organisertest, a_summary_file_that_was_torn_meanwhile_does_not_keep_the_m
 
 TEST_F(Organisertest, a_field_that_refuses_its_value_keeps_the_dialog_closed) {
     gestartet();
-    s_->betrete_Feld(Feld("S_DT50_0"));
-    s_->aendere_Feld(Feld("S_DT50_0"), "-1");
+    s_->fuehre_aus<&Feldeingabe::betrete>(Feld("S_DT50_0"));
+    s_->fuehre_aus<&Feldeingabe::aendere>(Feld("S_DT50_0"), "-1");
     Fragen_.erwarte("No valid input!", "The DT50 is invalid. Please correct!");
-    EXPECT_FALSE(s_->oeffne_Organiser());
+    EXPECT_FALSE(s_->fuehre_aus<&Organiser::oeffne>());
 }
 
 // "Done"
@@ -193,7 +193,7 @@ TEST_F(Organisertest, a_simulation_that_cannot_be_read_leaves_the_dialog_as_it_w
 
 TEST_F(Organisertest, opening_and_done_leave_another_combination_on_the_screen_alone) {
     gestartet();
-    s_->waehle_Satz(Szenario, 1);
+    s_->fuehre_aus<&Satzverwaltung::waehle_Satz>(Szenario, 1);
     ASSERT_EQ(z().gewaehlt(Szenario), "Second");
     const auto vorher = Dateien();
     oeffne();
@@ -206,13 +206,13 @@ TEST_F(Organisertest, opening_and_done_leave_another_combination_on_the_screen_a
 
 TEST_F(Organisertest, another_record_and_what_was_typed_into_it_survive_a_changed_description) {
     gestartet();
-    s_->waehle_Satz(Wirkstoff, 1);
+    s_->fuehre_aus<&Satzverwaltung::waehle_Satz>(Wirkstoff, 1);
     ASSERT_TRUE(tippe("S_DT50_0", "12"));
     oeffne();
     beschreibe("In other words");
     EXPECT_TRUE(fertig());
     EXPECT_EQ(Maske().Name_Wirkstoff, "Other parent");
-    EXPECT_EQ(s_->Feldtext(Feld("S_DT50_0")), "12");
+    EXPECT_EQ(s_->zeige<Feldeingabe>().Text(Feld("S_DT50_0")), "12");
     EXPECT_TRUE(z().Saetze[1].Geaendert);
     EXPECT_EQ(Datei("input/Probe.vnk"), Zeilen("In other words", "Second", "Probe", "Probe"));
     EXPECT_TRUE(Gesichertes().empty());
@@ -221,7 +221,7 @@ TEST_F(Organisertest, another_record_and_what_was_typed_into_it_survive_a_change
 TEST_F(Organisertest, values_that_done_reads_over_are_in_the_backup_and_nothing_is_asked) {
     gestartet();
     ASSERT_TRUE(tippe("S_DT50_0", "12"));
-    s_->aendere_Beschreibung("not saved yet");
+    s_->fuehre_aus<&Beschreibungseingabe::aendere>("not saved yet");
     const std::string alt = Datei("input/Probe.che");
     oeffne();
     waehle(Simulation, "Second");
@@ -242,11 +242,11 @@ TEST_F(Organisertest, values_that_done_reads_over_are_in_the_backup_and_nothing_
 TEST_F(Organisertest, choosing_the_same_entry_again_reads_its_record_again) {
     gestartet();
     ASSERT_TRUE(tippe("S_DT50_0", "12"));
-    const std::string Feldtext = s_->Feldtext(Feld("S_DT50_0"));
+    const std::string Feldtext = s_->zeige<Feldeingabe>().Text(Feld("S_DT50_0"));
     oeffne();
     waehle(Wirkstoff, "Probe");
     EXPECT_TRUE(fertig());
-    EXPECT_NE(s_->Feldtext(Feld("S_DT50_0")), Feldtext);
+    EXPECT_NE(s_->zeige<Feldeingabe>().Text(Feld("S_DT50_0")), Feldtext);
     EXPECT_EQ(Gesichertes().count("unsaved Probe.che"), 1U);
 }
 
@@ -259,16 +259,16 @@ TEST_F(Organisertest, a_changed_description_alone_is_written_and_shown_and_nothi
     EXPECT_TRUE(fertig());
     EXPECT_EQ(Datei("input/Probe.vnk"), Zeilen("In other words", "Probe", "Probe", "Probe"));
     EXPECT_EQ(Maske().Beschreibung, "In other words");
-    EXPECT_EQ(s_->Feldtext(Feld("S_DT50_0")), "12");
+    EXPECT_EQ(s_->zeige<Feldeingabe>().Text(Feld("S_DT50_0")), "12");
     EXPECT_TRUE(z().Saetze[1].Geaendert);
     EXPECT_EQ(z().Zeichnung, Zeichnung + 1);  // the picture carries the description
-    EXPECT_EQ(s_->Diagramme().vorderes()->Titel.Text.find("A trial"), std::string::npos);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().vorderes()->Titel.Text.find("A trial"), std::string::npos);
     EXPECT_TRUE(Gesichertes().empty());
 }
 
 TEST_F(Organisertest, a_changed_description_clears_the_name_of_the_report) {
-    gestartet().erstelle_Bericht();
-    s_->schliesse_Bericht();
+    gestartet().fuehre_aus<&Berichtssteuerung::erstelle>();
+    s_->fuehre_aus<&Berichtssteuerung::schliesse>();
     ASSERT_FALSE(z().Ergebnisdatei.empty());
     oeffne();
     beschreibe("In other words");
@@ -302,18 +302,18 @@ TEST_F(Organisertest, a_summary_file_that_cannot_be_written_leaves_the_main_scre
 
 TEST_F(Organisertest, before_the_start_the_records_are_read_and_nothing_is_run) {
     nur_geladen();
-    ASSERT_TRUE(s_->oeffne_Organiser());
+    ASSERT_TRUE(s_->fuehre_aus<&Organiser::oeffne>());
     waehle(Simulation, "Second");
     EXPECT_TRUE(fertig());
     EXPECT_EQ(Maske().Name_Wirkstoff, "Other parent");
     EXPECT_EQ(z().Zeichnung, 0);
-    s_->Starten();
+    s_->fuehre_aus<&Programmablauf::starte>();
     EXPECT_EQ(z().Zeichnung, 1);
     EXPECT_FALSE(z().abgedeckt());
 }
 
 TEST_F(Organisertest, done_shows_in_the_summary_view_the_studies_of_the_new_input) {
-    gestartet().zeige_Zusammenfassung();
+    gestartet().fuehre_aus<&Listenwahl::zeige_Zusammenfassung>();
     oeffne();
     waehle(Szenario, "Second");
     EXPECT_TRUE(fertig());
@@ -326,7 +326,7 @@ TEST_F(Organisertest, done_shows_in_the_summary_view_the_studies_of_the_new_inpu
 
 TEST_F(Organisertest, closing_hands_nothing_over_and_writes_nothing) {
     gestartet();
-    s_->aendere_Beschreibung("not saved yet");
+    s_->fuehre_aus<&Beschreibungseingabe::aendere>("not saved yet");
     ASSERT_TRUE(tippe("S_DT50_0", "12"));
     const auto vorher = Dateien();
     const int Zeichnung = z().Zeichnung;
@@ -338,7 +338,7 @@ TEST_F(Organisertest, closing_hands_nothing_over_and_writes_nothing) {
     EXPECT_EQ(Dateien(), vorher);
     EXPECT_EQ(Maske().Beschreibung, "not saved yet");
     EXPECT_EQ(z().gewaehlt(Simulation), "Probe");
-    EXPECT_EQ(s_->Feldtext(Feld("S_DT50_0")), "12");
+    EXPECT_EQ(s_->zeige<Feldeingabe>().Text(Feld("S_DT50_0")), "12");
     EXPECT_EQ(z().Zeichnung, Zeichnung);
     EXPECT_FALSE(z().abgedeckt());
     EXPECT_TRUE(Gesichertes().empty());

@@ -44,60 +44,53 @@ protected:
 
     void oeffne() {
         if (!s_) gestartet();
-        ASSERT_TRUE(s_->oeffne_Organiser());
+        ASSERT_TRUE(s_->fuehre_aus<&Organiser::oeffne>());
     }
 
-    const Organiser& o() const { return s_->Organisation(); }
+    const Organiser& o() const { return s_->zeige<Organiser>(); }
     const Zustand& z() const { return s_->Stand(); }
     const Eingabe& Maske() const { return s_->Stand().Felder(); }
     std::string gewaehlt(Satzart Art) const { return o().Listen().gewaehlt(Art); }
 
     // What the user does in the dialog.
-    template <class Handlung>
-    void tue(Handlung h) {
-        s_->organisiere([&](Organiser& x) { h(x); });
+    template <auto Befehl, class... Angaben>
+    auto tue(Angaben&&... a) {
+        return s_->fuehre_aus<Befehl>(std::forward<Angaben>(a)...);
     }
     static int Platz(const std::vector<std::string>& Liste, const std::string& Name) {
         return static_cast<int>(std::find(Liste.begin(), Liste.end(), Name) - Liste.begin());
     }
     void waehle(Satzart Art, const std::string& Name) {
         const int i = Platz(o().Listen().Listen[Art], Name);
-        tue([&](Organiser& x) { Art == Simulation ? x.waehle_Simulation(i) : x.waehle_Satz(Art, i); });
+        tue<&Organiser::waehle>(Art, i);
     }
     void loesche(Satzart Art, Knopf Antwort = Knopf::Ja) {
         Fragen_.erwarte_Anfang("Delete record", "Do you really want to delete this record?", Antwort);
-        tue([&](Organiser& x) { x.loesche(Art); });
+        tue<&Organiser::loesche>(Art);
     }
-    void kopiere(Satzart Art) {
-        tue([&](Organiser& x) { x.kopiere(Art); });
-    }
+    void kopiere(Satzart Art) { tue<&Organiser::kopiere>(Art); }
     bool benenne_um(Satzart Art, const std::string& Text, bool mit_Frage = true) {
-        bool fertig = false;
-        tue([&](Organiser& x) { fertig = x.benenne_um(Art, Text, mit_Frage); });
-        return fertig;
+        return tue<&Organiser::benenne_um>(Art, Text, mit_Frage);
     }
-    void beschreibe(const std::string& Text) {
-        tue([&](Organiser& x) { x.aendere_Projektname(Text); });
-    }
+    void beschreibe(const std::string& Text) { tue<&Organiser::aendere_Projektname>(Text); }
     // The scenario editor, left with "Done" or with "Cancel".
     template <class Handlung>
     void bearbeite(Handlung h, bool mit_Done = true) {
-        tue([](Organiser& x) { x.beginne_Bearbeiten(); });
-        s_->Editor().oeffne();
-        h(s_->Editor());
-        mit_Done ? s_->Editor().uebernimm() : s_->Editor().verwirf();
-        tue([](Organiser& x) { x.beende_Bearbeiten(); });
+        tue<&Organiser::beginne_Bearbeiten>();
+        s_->fuehre_aus<&Szenarioeditor::oeffne>();
+        h(*s_);
+        mit_Done ? s_->fuehre_aus<&Szenarioeditor::uebernimm>() : s_->fuehre_aus<&Szenarioeditor::verwirf>();
+        tue<&Organiser::beende_Bearbeiten>();
     }
     // "Done", and what the caller does when the dialog has closed.
     bool fertig() {
-        bool zu = false;
-        tue([&](Organiser& x) { zu = x.uebernimm(); });
-        if (zu) s_->schliesse_Organiser();
+        const bool zu = tue<&Organiser::uebernimm>();
+        if (zu) s_->fuehre_aus<&Organiser::schliesse_ab>();
         return zu;
     }
     void schliesse() {
-        tue([](Organiser& x) { x.verwirf(); });
-        s_->schliesse_Organiser();
+        tue<&Organiser::verwirf>();
+        s_->fuehre_aus<&Organiser::schliesse_ab>();
     }
 
     // Every file of the input folder.

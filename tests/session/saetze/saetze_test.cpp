@@ -39,7 +39,7 @@ protected:
 TEST_F(Satzprobe, a_simulation_brings_its_description_its_records_and_one_run) {
     gestartet();
     const int Laeufe = s_->Stand().Zeichnung;
-    s_->waehle_Simulation(Platz(0, "Second"));
+    s_->fuehre_aus<&Satzverwaltung::waehle_Simulation>(Platz(0, "Second"));
     EXPECT_EQ(s_->Stand().Felder().Beschreibung, "Second");
     EXPECT_EQ(s_->Stand().Felder().Name_Wirkstoff, "Other parent");
     EXPECT_EQ(s_->Stand().Parameter().Bodendichte, 3);
@@ -51,10 +51,10 @@ TEST_F(Satzprobe, a_simulation_brings_its_description_its_records_and_one_run) {
 TEST_F(Satzprobe, a_simulation_with_a_missing_record_stays_covered_until_one_is_picked) {
     simulation("Torn", "Second", "no such record", "Second");
     gestartet();
-    s_->waehle_Simulation(Platz(0, "Torn"));
+    s_->fuehre_aus<&Satzverwaltung::waehle_Simulation>(Platz(0, "Torn"));
     EXPECT_TRUE(s_->Stand().abgedeckt());
     EXPECT_EQ(s_->Stand().Auswahl(2), -1);
-    s_->waehle_Satz(Applikation, Platz(2, "Second"));
+    s_->fuehre_aus<&Satzverwaltung::waehle_Satz>(Applikation, Platz(2, "Second"));
     EXPECT_FALSE(s_->Stand().abgedeckt());
     EXPECT_EQ(s_->Stand().Parameter().Bodendichte, 3);  // the scenario behind the missing record was read, too
 }
@@ -62,7 +62,7 @@ TEST_F(Satzprobe, a_simulation_with_a_missing_record_stays_covered_until_one_is_
 TEST_F(Satzprobe, a_record_name_that_differs_only_in_case_is_not_found) {
     simulation("Torn", "SECOND", "Second", "Second");
     gestartet();
-    s_->waehle_Simulation(Platz(0, "Torn"));
+    s_->fuehre_aus<&Satzverwaltung::waehle_Simulation>(Platz(0, "Torn"));
     EXPECT_EQ(s_->Stand().Auswahl(1), -1);
     EXPECT_TRUE(s_->Stand().abgedeckt());
 }
@@ -70,9 +70,9 @@ TEST_F(Satzprobe, a_record_name_that_differs_only_in_case_is_not_found) {
 TEST_F(Satzprobe, refresh_with_an_empty_selector_says_which_record_is_missing) {
     simulation("Torn", "Second", "Second", "no such record");
     gestartet();
-    s_->waehle_Simulation(Platz(0, "Torn"));
+    s_->fuehre_aus<&Satzverwaltung::waehle_Simulation>(Platz(0, "Torn"));
     Fragen_.erwarte("Record not set", "Scenario record not set. Please select!");
-    s_->Aktualisieren();
+    s_->fuehre_aus<&Satzverwaltung::aktualisiere>();
     EXPECT_TRUE(s_->Stand().abgedeckt());
 }
 
@@ -82,7 +82,7 @@ TEST_F(Satzprobe, a_short_summary_is_told_and_the_inputs_stay) {
                                      std::filesystem::last_write_time(Wurzel_ / "input/Probe.vnk") - std::chrono::hours(2));
     gestartet();
     Fragen_.erwarte("Runtime error", "File Torn.vnk, line 3: the file ends before the name of the application pattern record");
-    s_->waehle_Simulation(Platz(0, "Torn"));
+    s_->fuehre_aus<&Satzverwaltung::waehle_Simulation>(Platz(0, "Torn"));
     EXPECT_EQ(s_->Stand().Namen[0], "Probe");
     EXPECT_EQ(s_->Stand().Felder().Name_Wirkstoff, "Parent P");
 }
@@ -93,14 +93,14 @@ TEST_F(Satzprobe, a_compound_record_that_cannot_be_used_leaves_the_inputs_as_the
     std::ofstream(Wurzel_ / "input/Second.che", std::ios::binary) << Bytes;
     gestartet();
     Fragen_.erwarte_Anfang("Runtime error", "File Second.che, line 2");
-    s_->waehle_Satz(Wirkstoff, Platz(1, "Second"));
+    s_->fuehre_aus<&Satzverwaltung::waehle_Satz>(Wirkstoff, Platz(1, "Second"));
     EXPECT_EQ(s_->Stand().Felder().Name_Wirkstoff, "Parent P");
     EXPECT_TRUE(s_->Stand().abgedeckt());
 }
 
 TEST_F(Satzprobe, another_record_marks_the_simulation_and_runs) {
     gestartet();
-    s_->waehle_Satz(Szenario, Platz(3, "Second"));
+    s_->fuehre_aus<&Satzverwaltung::waehle_Satz>(Szenario, Platz(3, "Second"));
     EXPECT_TRUE(s_->Stand().Saetze[0].Geaendert);
     EXPECT_TRUE(s_->Stand().Simulation_markiert);
     EXPECT_FLOAT_EQ(Maximum(), 0.6666667F);  // twice the density
@@ -114,18 +114,18 @@ TEST_F(Satzprobe, yes_on_choosing_stores_the_values_left_in_the_record_chosen) {
                     "You modified pesticide input data!  Do you want to save the changes in your data base?\n"
                     "Yes writes these values to 'Second'; what 'Second' holds now goes to backup.",
                     Knopf::Ja);
-    s_->waehle_Satz(Wirkstoff, Platz(1, "Second"));
+    s_->fuehre_aus<&Satzverwaltung::waehle_Satz>(Wirkstoff, Platz(1, "Second"));
     EXPECT_EQ(Datei("input/Probe.che"), links);
     EXPECT_EQ(s_->Stand().Felder().Name_Wirkstoff, "Parent P");
-    EXPECT_EQ(s_->Feldtext(Feld("S_DT50_0")), "12");
+    EXPECT_EQ(s_->zeige<Feldeingabe>().Text(Feld("S_DT50_0")), "12");
 }
 
 TEST_F(Satzprobe, saving_writes_all_four_files_and_clears_the_marks_of_the_records) {
     gestartet();
     ASSERT_TRUE(tippe("S_DT50_0", "12"));
-    s_->waehle_Tag(9);
-    s_->aendere_Beschreibung("Another description");
-    s_->Speichern();
+    s_->fuehre_aus<&Listenwahl::waehle_Tag>(9);
+    s_->fuehre_aus<&Beschreibungseingabe::aendere>("Another description");
+    s_->fuehre_aus<&Satzverwaltung::speichere>();
     EXPECT_EQ(Datei("input/Probe.vnk"), "Another description\r\nProbe\r\nProbe\r\nProbe\r\n");
     for (std::size_t t = 1; t <= 3; ++t) EXPECT_FALSE(s_->Stand().Saetze[t].Geaendert);
     Eingabe e;
@@ -137,27 +137,27 @@ TEST_F(Satzprobe, saving_writes_all_four_files_and_clears_the_marks_of_the_recor
 TEST_F(Satzprobe, saving_with_an_empty_selector_writes_nothing) {
     simulation("Torn", "Second", "Second", "no such record");
     gestartet();
-    s_->waehle_Simulation(Platz(0, "Torn"));
+    s_->fuehre_aus<&Satzverwaltung::waehle_Simulation>(Platz(0, "Torn"));
     const std::string vorher = Datei("input/Torn.vnk");
     Fragen_.erwarte("Record not set", "Scenario record not set. Please select!");
-    s_->Speichern();
+    s_->fuehre_aus<&Satzverwaltung::speichere>();
     EXPECT_EQ(Datei("input/Torn.vnk"), vorher);
     EXPECT_FALSE(gibt_es("input/.sce"));
 }
 
 TEST_F(Satzprobe, a_line_break_in_the_description_becomes_a_blank) {
     gestartet();
-    s_->oeffne_Beschreibung();
-    s_->aendere_Beschreibung("two\nlines");
+    s_->fuehre_aus<&Beschreibungseingabe::oeffne>();
+    s_->fuehre_aus<&Beschreibungseingabe::aendere>("two\nlines");
     EXPECT_EQ(s_->Stand().Felder().Beschreibung, "two lines");
     EXPECT_TRUE(s_->Stand().Saetze[0].Geaendert);
 }
 
 TEST_F(Satzprobe, esc_brings_the_old_description_back_and_locks_it) {
     gestartet();
-    s_->oeffne_Beschreibung();
-    s_->aendere_Beschreibung("typed by mistake");
-    s_->nimm_Beschreibung_zurueck();
+    s_->fuehre_aus<&Beschreibungseingabe::oeffne>();
+    s_->fuehre_aus<&Beschreibungseingabe::aendere>("typed by mistake");
+    s_->fuehre_aus<&Beschreibungseingabe::nimm_zurueck>();
     EXPECT_EQ(s_->Stand().Felder().Beschreibung, "A trial");
     EXPECT_FALSE(s_->Stand().Beschreibung_offen);
 }
@@ -165,9 +165,9 @@ TEST_F(Satzprobe, esc_brings_the_old_description_back_and_locks_it) {
 TEST_F(Satzprobe, a_character_without_a_place_in_the_file_is_told_on_saving_and_the_old_file_stays) {
     gestartet();
     const std::string vorher = Datei("input/Probe.che");
-    s_->aendere_Namen(0, "Δ-compound");
+    s_->fuehre_aus<&Listenwahl::aendere_Namen>(0, "Δ-compound");
     Fragen_.erwarte_Anfang("Runtime error", "");
-    s_->Speichern();
+    s_->fuehre_aus<&Satzverwaltung::speichere>();
     EXPECT_EQ(Datei("input/Probe.che"), vorher);
 }
 
@@ -178,7 +178,7 @@ TEST_F(Satzprobe, a_climate_file_that_is_missing_is_told_and_the_results_stay_co
     e.Klimaszenario = "no such climate";
     Satz_schreiben(Projektordner(Wurzel_.string()), "Second", Szenario, e, Sicht_);
     Fragen_.erwarte("Data file missing", "Cannot load climate data file. Please correct!");
-    s_->waehle_Satz(Szenario, Platz(3, "Second"));
+    s_->fuehre_aus<&Satzverwaltung::waehle_Satz>(Szenario, Platz(3, "Second"));
     EXPECT_TRUE(s_->Stand().abgedeckt());
     EXPECT_TRUE(s_->Stand().Hinweis());
 }
@@ -190,7 +190,7 @@ TEST_F(Satzprobe, a_fault_of_the_arithmetic_is_one_box_and_what_was_entered_stay
     gestartet();
     Fragen_.erwarte("Runtime error",
                     "The calculation is not possible with these input data. Please correct! (Soil density (kg/L) = 0)");
-    s_->waehle_Satz(Szenario, Platz(3, "Second"));
+    s_->fuehre_aus<&Satzverwaltung::waehle_Satz>(Szenario, Platz(3, "Second"));
     EXPECT_TRUE(s_->Stand().abgedeckt());
     EXPECT_EQ(s_->Stand().Auswahl(3), Platz(3, "Second"));
 }

@@ -12,7 +12,7 @@ namespace {
 TEST_F(Befehlsprobe, a_new_record_takes_the_values_of_its_template_the_first_number_and_one_run) {
     gestartet();
     const int Laeufe = z().Zeichnung;
-    s_->neues_Szenario();
+    s_->fuehre_aus<&Satzverwaltung::lege_an>(Szenario);
     EXPECT_EQ(z().gewaehlt(Szenario), "new scenario1");
     EXPECT_EQ(Datei(in("new scenario1", Szenario)), Datei(in("Second", Szenario)));
     EXPECT_EQ(z().Parameter().Bodendichte, 3);
@@ -25,8 +25,8 @@ TEST_F(Befehlsprobe, a_new_record_takes_the_values_of_its_template_the_first_num
 
 TEST_F(Befehlsprobe, each_kind_has_its_base_name) {
     gestartet();
-    s_->neuer_Wirkstoff();
-    s_->neue_Applikationsdatei();
+    s_->fuehre_aus<&Satzverwaltung::lege_an>(Wirkstoff);
+    s_->fuehre_aus<&Satzverwaltung::lege_an>(Applikation);
     EXPECT_EQ(z().gewaehlt(Wirkstoff), "new compound1");
     EXPECT_EQ(z().gewaehlt(Applikation), "new application pattern1");
     erwarte_Gleichstand(Wirkstoff);
@@ -35,8 +35,8 @@ TEST_F(Befehlsprobe, each_kind_has_its_base_name) {
 
 TEST_F(Befehlsprobe, a_second_new_record_gets_the_number_2) {
     gestartet();
-    s_->neuer_Wirkstoff();
-    s_->neuer_Wirkstoff();
+    s_->fuehre_aus<&Satzverwaltung::lege_an>(Wirkstoff);
+    s_->fuehre_aus<&Satzverwaltung::lege_an>(Wirkstoff);
     EXPECT_EQ(z().gewaehlt(Wirkstoff), "new compound2");
     EXPECT_TRUE(gibt_es("input/new compound1.che"));
 }
@@ -47,7 +47,7 @@ TEST_F(Befehlsprobe, a_missing_template_is_named_and_nothing_changes) {
     const auto vorher = z().Listen;
     Fragen_.erwarte("Runtime error", "The template \"do not delete this file.scn\" is missing in the folder \"" +
                                          (Wurzel_ / "input").string() + "\"");
-    s_->neues_Szenario();
+    s_->fuehre_aus<&Satzverwaltung::lege_an>(Szenario);
     EXPECT_EQ(z().Listen, vorher);
     EXPECT_EQ(z().gewaehlt(Szenario), "Probe");
     EXPECT_FALSE(z().abgedeckt());
@@ -56,7 +56,7 @@ TEST_F(Befehlsprobe, a_missing_template_is_named_and_nothing_changes) {
 TEST_F(Befehlsprobe, unsaved_values_are_in_backup_before_a_new_record_replaces_them) {
     gestartet();
     tippe("S_DT50_0", "12");
-    s_->neuer_Wirkstoff();
+    s_->fuehre_aus<&Satzverwaltung::lege_an>(Wirkstoff);
     EXPECT_EQ(gesichert(), Namen{"unsaved Probe.che"});
     EXPECT_FALSE(z().Saetze[1].Geaendert);
     EXPECT_NE(z().Statuszeile.find("backup/"), std::string::npos);
@@ -66,10 +66,10 @@ TEST_F(Befehlsprobe, a_copy_has_the_file_of_the_old_name_and_the_values_of_the_s
     gestartet();
     tippe("S_DT50_0", "12");
     const int Laeufe = z().Zeichnung;
-    s_->kopiere_Satz(Wirkstoff);
+    s_->fuehre_aus<&Satzverwaltung::kopiere>(Wirkstoff);
     EXPECT_EQ(Datei("input/copy of Probe.che"), Datei("input/Probe.che"));
     EXPECT_EQ(z().gewaehlt(Wirkstoff), "copy of Probe");
-    EXPECT_EQ(s_->Feldtext(Feld("S_DT50_0")), "12");
+    EXPECT_EQ(s_->zeige<Feldeingabe>().Text(Feld("S_DT50_0")), "12");
     EXPECT_TRUE(z().Saetze[1].Geaendert);
     EXPECT_TRUE(z().Saetze[0].Geaendert);
     EXPECT_TRUE(z().Simulation_markiert);
@@ -79,7 +79,7 @@ TEST_F(Befehlsprobe, a_copy_has_the_file_of_the_old_name_and_the_values_of_the_s
 }
 
 TEST_F(Befehlsprobe, a_copy_of_a_simulation_marks_nothing_and_is_the_newest) {
-    gestartet().kopiere_Satz(Simulation);
+    gestartet().fuehre_aus<&Satzverwaltung::kopiere>(Simulation);
     EXPECT_EQ(z().gewaehlt(Simulation), "copy of Probe");
     EXPECT_FALSE(z().Saetze[0].Geaendert);
     EXPECT_EQ(neueste_Simulation(Projektordner(Wurzel_.string())), "copy of Probe");
@@ -92,7 +92,7 @@ TEST_F(Befehlsprobe, a_copy_over_an_existing_file_with_yes_adds_no_second_entry_
     const std::size_t Zahl = z().Listen[Wirkstoff].size();
     Fragen_.erwarte("Replace existing record?", "The record 'copy of Probe.che' already exists. Do you want to replace it?",
                     Knopf::Ja);
-    s_->kopiere_Satz(Wirkstoff);
+    s_->fuehre_aus<&Satzverwaltung::kopiere>(Wirkstoff);
     EXPECT_EQ(z().Listen[Wirkstoff].size(), Zahl);
     EXPECT_EQ(Datei("input/copy of Probe.che"), Datei("input/Probe.che"));
     EXPECT_EQ(gesichert(), Namen{"copy of Probe.che"});
@@ -103,7 +103,7 @@ TEST_F(Befehlsprobe, a_copy_over_an_existing_file_with_no_changes_nothing) {
     gestartet();
     Fragen_.erwarte("Replace existing record?", "The record 'copy of Probe.che' already exists. Do you want to replace it?",
                     Knopf::Nein);
-    s_->kopiere_Satz(Wirkstoff);
+    s_->fuehre_aus<&Satzverwaltung::kopiere>(Wirkstoff);
     EXPECT_EQ(z().gewaehlt(Wirkstoff), "Probe");
     EXPECT_EQ(Datei("input/copy of Probe.che"), "old");
     EXPECT_FALSE(z().Saetze[0].Geaendert);
@@ -112,7 +112,7 @@ TEST_F(Befehlsprobe, a_copy_over_an_existing_file_with_no_changes_nothing) {
 TEST_F(Befehlsprobe, no_to_the_delete_question_changes_nothing) {
     gestartet();
     bejahe_Loeschen(Knopf::Nein);
-    s_->loesche_Satz(Szenario);
+    s_->fuehre_aus<&Satzverwaltung::loesche>(Szenario);
     EXPECT_TRUE(gibt_es("input/Probe.sce"));
     EXPECT_FALSE(z().abgedeckt());
 }
@@ -120,7 +120,7 @@ TEST_F(Befehlsprobe, no_to_the_delete_question_changes_nothing) {
 TEST_F(Befehlsprobe, deleting_the_entry_before_the_last_one_selects_the_one_that_moved_up) {
     gestartet();
     bejahe_Loeschen();
-    s_->loesche_Satz(Szenario);  // "Probe" of "Probe", "Second"
+    s_->fuehre_aus<&Satzverwaltung::loesche>(Szenario);  // "Probe" of "Probe", "Second"
     EXPECT_FALSE(gibt_es("input/Probe.sce"));
     EXPECT_EQ(z().gewaehlt(Szenario), "Second");
     EXPECT_EQ(gesichert(), Namen{"Probe.sce"});
@@ -131,31 +131,31 @@ TEST_F(Befehlsprobe, deleting_the_last_entry_selects_the_new_last_one) {
     gestartet();
     waehle(Szenario, "Second");
     bejahe_Loeschen();
-    s_->loesche_Satz(Szenario);
+    s_->fuehre_aus<&Satzverwaltung::loesche>(Szenario);
     EXPECT_EQ(z().gewaehlt(Szenario), "Probe");
 }
 
 TEST_F(Befehlsprobe, the_last_record_of_a_kind_can_never_be_deleted) {
     gestartet();
-    EXPECT_TRUE(s_->darf_loeschen(Szenario));
+    EXPECT_TRUE(s_->zeige<Satzverwaltung>().darf_loeschen(Szenario));
     bejahe_Loeschen();
-    s_->loesche_Satz(Szenario);
-    EXPECT_FALSE(s_->darf_loeschen(Szenario));
-    s_->kopiere_Satz(Szenario);
-    EXPECT_TRUE(s_->darf_loeschen(Szenario));
+    s_->fuehre_aus<&Satzverwaltung::loesche>(Szenario);
+    EXPECT_FALSE(s_->zeige<Satzverwaltung>().darf_loeschen(Szenario));
+    s_->fuehre_aus<&Satzverwaltung::kopiere>(Szenario);
+    EXPECT_TRUE(s_->zeige<Satzverwaltung>().darf_loeschen(Szenario));
 }
 
 TEST_F(Befehlsprobe, after_a_deletion_the_neighbour_is_not_read_until_refresh) {
     gestartet();
     tippe("S_DT50_0", "12");
     bejahe_Loeschen();
-    s_->loesche_Satz(Szenario);
+    s_->fuehre_aus<&Satzverwaltung::loesche>(Szenario);
     EXPECT_TRUE(z().abgedeckt());
     EXPECT_EQ(z().Abdeckungswort(), "Record deleted: choose or refresh");
     EXPECT_EQ(z().Parameter().Bodendichte, 1.5);
     tippe("S_DT50_0", "13");
     EXPECT_TRUE(z().abgedeckt());
-    s_->Aktualisieren();
+    s_->fuehre_aus<&Satzverwaltung::aktualisiere>();
     EXPECT_EQ(z().Parameter().Bodendichte, 3);
     EXPECT_FALSE(z().abgedeckt());
 }
@@ -164,8 +164,8 @@ TEST_F(Befehlsprobe, save_never_writes_deleted_values_over_the_neighbour) {
     gestartet();
     const std::string Nachbar = Datei("input/Second.sce");
     bejahe_Loeschen();
-    s_->loesche_Satz(Szenario);
-    s_->Speichern();
+    s_->fuehre_aus<&Satzverwaltung::loesche>(Szenario);
+    s_->fuehre_aus<&Satzverwaltung::speichere>();
     EXPECT_EQ(Datei("input/Second.sce"), Nachbar);
 }
 
@@ -173,9 +173,9 @@ TEST_F(Befehlsprobe, after_deleting_a_simulation_exit_only_renews_the_stamp_of_i
     gestartet();
     const std::string Nachbar = Datei("input/Second.vnk");
     bejahe_Loeschen();
-    s_->loesche_Satz(Simulation);
+    s_->fuehre_aus<&Satzverwaltung::loesche>(Simulation);
     EXPECT_TRUE(z().abgedeckt());
-    s_->Ende();
+    s_->fuehre_aus<&Programmablauf::beende>();
     EXPECT_TRUE(z().beendet);
     EXPECT_EQ(Datei("input/Second.vnk"), Nachbar);
     const auto Alter =
@@ -186,8 +186,8 @@ TEST_F(Befehlsprobe, after_deleting_a_simulation_exit_only_renews_the_stamp_of_i
 TEST_F(Befehlsprobe, after_deleting_a_simulation_refresh_loads_its_neighbour) {
     gestartet();
     bejahe_Loeschen();
-    s_->loesche_Satz(Simulation);
-    s_->Aktualisieren();
+    s_->fuehre_aus<&Satzverwaltung::loesche>(Simulation);
+    s_->fuehre_aus<&Satzverwaltung::aktualisiere>();
     EXPECT_EQ(z().Felder().Beschreibung, "second");
     EXPECT_EQ(z().Parameter().Bodendichte, 3);
     EXPECT_FALSE(z().abgedeckt());
@@ -197,10 +197,10 @@ TEST_F(Befehlsprobe, a_record_gets_another_name_and_nothing_is_read) {
     gestartet();
     tippe("S_DT50_0", "12");
     const std::string Inhalt = Datei("input/Probe.che");
-    EXPECT_TRUE(s_->benenne_Satz_um(Wirkstoff, "Renamed", true));
+    EXPECT_TRUE(s_->fuehre_aus<&Satzverwaltung::benenne_um>(Wirkstoff, "Renamed", true));
     EXPECT_FALSE(gibt_es("input/Probe.che"));
     EXPECT_EQ(Datei("input/Renamed.che"), Inhalt);
-    EXPECT_EQ(s_->Feldtext(Feld("S_DT50_0")), "12");
+    EXPECT_EQ(s_->zeige<Feldeingabe>().Text(Feld("S_DT50_0")), "12");
     EXPECT_TRUE(z().Saetze[1].Geaendert);
     EXPECT_TRUE(z().Saetze[0].Geaendert);
     EXPECT_TRUE(z().Simulation_markiert);
@@ -210,23 +210,23 @@ TEST_F(Befehlsprobe, a_record_gets_another_name_and_nothing_is_read) {
 
 TEST_F(Befehlsprobe, a_typed_extension_of_the_kind_is_not_added_twice_and_another_one_stays) {
     gestartet();
-    s_->benenne_Satz_um(Wirkstoff, "abc.che", true);
+    s_->fuehre_aus<&Satzverwaltung::benenne_um>(Wirkstoff, "abc.che", true);
     EXPECT_TRUE(gibt_es("input/abc.che"));
-    s_->benenne_Satz_um(Wirkstoff, "abc.app", true);
+    s_->fuehre_aus<&Satzverwaltung::benenne_um>(Wirkstoff, "abc.app", true);
     EXPECT_TRUE(gibt_es("input/abc.app.che"));
 }
 
 TEST_F(Befehlsprobe, a_name_of_three_characters_is_taken_as_it_stands) {
     gestartet();
-    s_->benenne_Satz_um(Wirkstoff, "che", true);
+    s_->fuehre_aus<&Satzverwaltung::benenne_um>(Wirkstoff, "che", true);
     EXPECT_TRUE(gibt_es("input/che.che"));
 }
 
 TEST_F(Befehlsprobe, an_unchanged_name_asks_nothing_and_a_change_of_case_only_renames) {
     gestartet();
-    EXPECT_TRUE(s_->benenne_Satz_um(Wirkstoff, "Probe", true));
+    EXPECT_TRUE(s_->fuehre_aus<&Satzverwaltung::benenne_um>(Wirkstoff, "Probe", true));
     EXPECT_FALSE(z().Saetze[0].Geaendert);
-    EXPECT_TRUE(s_->benenne_Satz_um(Wirkstoff, "PROBE", true));
+    EXPECT_TRUE(s_->fuehre_aus<&Satzverwaltung::benenne_um>(Wirkstoff, "PROBE", true));
     EXPECT_TRUE(gibt_es("input/PROBE.che"));
     EXPECT_FALSE(gibt_es("input/Probe.che"));
     erwarte_Gleichstand(Wirkstoff);
@@ -236,7 +236,7 @@ TEST_F(Befehlsprobe, a_taken_name_is_replaced_after_a_yes_and_kept_in_backup) {
     gestartet();
     const std::string Inhalt = Datei("input/Probe.sce");
     Fragen_.erwarte("Replace existing record?", "The record ' Second ' already exists. Do you want to replace it?", Knopf::Ja);
-    EXPECT_TRUE(s_->benenne_Satz_um(Szenario, "Second", true));
+    EXPECT_TRUE(s_->fuehre_aus<&Satzverwaltung::benenne_um>(Szenario, "Second", true));
     EXPECT_EQ(Datei("input/Second.sce"), Inhalt);
     EXPECT_EQ(z().Listen[Szenario], Namen{"Second"});
     EXPECT_EQ(gesichert(), Namen{"Second.sce"});
@@ -245,10 +245,10 @@ TEST_F(Befehlsprobe, a_taken_name_is_replaced_after_a_yes_and_kept_in_backup) {
 TEST_F(Befehlsprobe, a_name_that_differs_only_in_case_from_another_record_is_told_as_existing) {
     gestartet();
     Fragen_.erwarte("Replace existing record?", "The record ' SECOND ' already exists. Do you want to replace it?", Knopf::Nein);
-    EXPECT_FALSE(s_->benenne_Satz_um(Szenario, "SECOND", true));
+    EXPECT_FALSE(s_->fuehre_aus<&Satzverwaltung::benenne_um>(Szenario, "SECOND", true));
     EXPECT_EQ(z().gewaehlt(Szenario), "Probe");
     Fragen_.erwarte("Replace existing record?", "The record ' SECOND ' already exists. Do you want to replace it?", Knopf::Ja);
-    EXPECT_TRUE(s_->benenne_Satz_um(Szenario, "SECOND", true));
+    EXPECT_TRUE(s_->fuehre_aus<&Satzverwaltung::benenne_um>(Szenario, "SECOND", true));
     EXPECT_EQ(z().Listen[Szenario], Namen{"SECOND"});
     erwarte_Gleichstand(Szenario);
 }
@@ -256,7 +256,7 @@ TEST_F(Befehlsprobe, a_name_that_differs_only_in_case_from_another_record_is_tol
 TEST_F(Befehlsprobe, a_taken_name_is_a_fault_where_the_box_was_only_left) {
     gestartet();
     Fragen_.erwarte("Runtime error", "The record \"Second\" already exists. \"Probe\" keeps its name.");
-    EXPECT_FALSE(s_->benenne_Satz_um(Szenario, "Second", false));
+    EXPECT_FALSE(s_->fuehre_aus<&Satzverwaltung::benenne_um>(Szenario, "Second", false));
     EXPECT_EQ(z().gewaehlt(Szenario), "Probe");
     EXPECT_TRUE(gibt_es("input/Probe.sce"));
     EXPECT_FALSE(z().abgedeckt());
@@ -266,7 +266,7 @@ TEST_F(Befehlsprobe, a_rename_names_the_simulations_that_lose_their_record) {
     schreibe_Simulation(Projektordner(Wurzel_.string()), "Third", {"", {"", "Probe", "Second", "Second"}});
     std::filesystem::last_write_time(Wurzel_ / "input/Third.vnk", std::filesystem::last_write_time(Wurzel_ / "input/Second.vnk"));
     gestartet();
-    s_->benenne_Satz_um(Wirkstoff, "Renamed", true);
+    s_->fuehre_aus<&Satzverwaltung::benenne_um>(Wirkstoff, "Renamed", true);
     EXPECT_EQ(z().Statuszeile, "Simulations that still name \"Probe\": \"Third\"");
 }
 
@@ -280,7 +280,7 @@ TEST_P(Unnamen, are_refused_before_a_file_is_touched) {
     gestartet();
     const Namen vorher = auf_Platte(Wirkstoff);
     Fragen_.erwarte_Anfang("Runtime error", "\"" + GetParam().Name + "\" cannot be the name of a record: ");
-    EXPECT_FALSE(s_->benenne_Satz_um(Wirkstoff, GetParam().Name, true));
+    EXPECT_FALSE(s_->fuehre_aus<&Satzverwaltung::benenne_um>(Wirkstoff, GetParam().Name, true));
     EXPECT_EQ(auf_Platte(Wirkstoff), vorher);
     EXPECT_EQ(z().gewaehlt(Wirkstoff), "Probe");
     EXPECT_FALSE(z().Saetze[0].Geaendert);
@@ -303,7 +303,7 @@ TEST_F(Befehlsprobe, choosing_with_yes_stores_the_values_left_under_the_name_cho
                     Knopf::Ja);
     waehle(Wirkstoff, "Second");
     EXPECT_NE(Datei("input/Second.che"), alt);
-    EXPECT_EQ(s_->Feldtext(Feld("S_DT50_0")), "12");
+    EXPECT_EQ(s_->zeige<Feldeingabe>().Text(Feld("S_DT50_0")), "12");
     EXPECT_EQ(gesichert(), Namen{"Second.che"});
 }
 
@@ -315,15 +315,15 @@ TEST_F(Befehlsprobe, choosing_with_no_reads_the_record_and_keeps_the_dropped_val
                     "Yes writes these values to 'Second'; what 'Second' holds now goes to backup.",
                     Knopf::Nein);
     waehle(Wirkstoff, "Second");
-    EXPECT_NE(s_->Feldtext(Feld("S_DT50_0")), "12");
+    EXPECT_NE(s_->zeige<Feldeingabe>().Text(Feld("S_DT50_0")), "12");
     EXPECT_EQ(gesichert(), Namen{"unsaved Probe.che"});
 }
 
 TEST_F(Befehlsprobe, loading_a_simulation_asks_nothing_and_keeps_all_dropped_values_in_one_backup) {
     gestartet();
     tippe("S_DT50_0", "12");
-    s_->waehle_Tag(5);
-    s_->waehle_Simulation(1);
+    s_->fuehre_aus<&Listenwahl::waehle_Tag>(5);
+    s_->fuehre_aus<&Satzverwaltung::waehle_Simulation>(1);
     EXPECT_EQ(gesichert(), (Namen{"unsaved Probe.app", "unsaved Probe.che"}));
     const auto Ordner = std::filesystem::directory_iterator(Wurzel_ / "backup");
     EXPECT_EQ(std::distance(Ordner, std::filesystem::directory_iterator()), 1);
@@ -334,7 +334,7 @@ TEST_F(Befehlsprobe, program_defaults_keep_the_files_they_replace_and_unsaved_va
     gestartet();
     tippe("S_DT50_0", "12");
     Fragen_.erwarte_Anfang("Default settings", "The default parameters");
-    s_->lade_Voreinstellungen();
+    s_->fuehre_aus<&Satzverwaltung::lade_Voreinstellungen>();
     EXPECT_EQ(gesichert(), (Namen{"Programcheck.che", "unsaved Probe.che"}));
 }
 
@@ -343,7 +343,7 @@ TEST_F(Befehlsprobe, a_backup_that_cannot_be_written_stops_the_command_before_an
     gestartet();
     bejahe_Loeschen();
     Fragen_.erwarte_Anfang("Runtime error", "Cannot make the folder");
-    s_->loesche_Satz(Szenario);
+    s_->fuehre_aus<&Satzverwaltung::loesche>(Szenario);
     EXPECT_TRUE(gibt_es("input/Probe.sce"));
     EXPECT_EQ(z().gewaehlt(Szenario), "Probe");
     EXPECT_FALSE(z().abgedeckt());
@@ -356,21 +356,21 @@ TEST_F(Befehlsprobe, a_record_changed_by_another_program_is_not_saved_over_witho
     const std::string Text =
         "The record 'Probe.che' was changed by another program since it was read. Do you want to replace it?";
     Fragen_.erwarte("Replace existing record?", Text, Knopf::Nein);
-    s_->Speichern();
+    s_->fuehre_aus<&Satzverwaltung::speichere>();
     EXPECT_EQ(Datei("input/Probe.che"), "theirs");
     EXPECT_TRUE(z().Saetze[1].Geaendert);
     Fragen_.erwarte("Replace existing record?", Text, Knopf::Ja);
-    s_->Speichern();
+    s_->fuehre_aus<&Satzverwaltung::speichere>();
     EXPECT_NE(Datei("input/Probe.che"), "theirs");
     EXPECT_EQ(gesichert(), Namen{"Probe.che"});
-    s_->Speichern();  // one's own state now: no further question
+    s_->fuehre_aus<&Satzverwaltung::speichere>();  // one's own state now: no further question
 }
 
 TEST_F(Befehlsprobe, a_record_deleted_by_another_program_is_told_at_its_next_use_and_leaves_the_list) {
     gestartet();
     std::filesystem::remove(Wurzel_ / "input/Probe.sce");
     Fragen_.erwarte_Anfang("Runtime error", "File Probe.sce is missing");
-    s_->kopiere_Satz(Szenario);
+    s_->fuehre_aus<&Satzverwaltung::kopiere>(Szenario);
     EXPECT_EQ(z().Listen[Szenario], Namen{"Second"});
     EXPECT_TRUE(z().abgedeckt());
     waehle(Szenario, "Second");
@@ -381,7 +381,7 @@ TEST_F(Befehlsprobe, saving_writes_a_record_anew_that_another_program_deleted) {
     gestartet();
     const std::string Inhalt = Datei("input/Probe.sce");
     std::filesystem::remove(Wurzel_ / "input/Probe.sce");
-    s_->Speichern();
+    s_->fuehre_aus<&Satzverwaltung::speichere>();
     EXPECT_TRUE(gibt_es("input/Probe.sce"));
 }
 
@@ -390,23 +390,23 @@ TEST_F(Befehlsprobe, a_second_window_on_the_folder_says_so_and_saves_only_after_
     Drehbuch Antworten;
     Sitzung zweite(Umgebung{&Antworten, Wurzel_.string(), "", '.'});
     Antworten.erwarte_Anfang("Project folder in use", "Another window of VARNOK works on this project folder.");
-    ASSERT_TRUE(zweite.oeffne_Projekt());
-    zweite.Starten();
+    ASSERT_TRUE(zweite.fuehre_aus<&Programmablauf::oeffne_Projekt>());
+    zweite.fuehre_aus<&Programmablauf::starte>();
     const auto vorher = std::filesystem::last_write_time(Wurzel_ / "input/Probe.che");
     Antworten.erwarte_Anfang("Save changes?", "Another window of VARNOK works on this project folder.", Knopf::Nein);
-    zweite.Speichern();
+    zweite.fuehre_aus<&Satzverwaltung::speichere>();
     EXPECT_EQ(std::filesystem::last_write_time(Wurzel_ / "input/Probe.che"), vorher);
     s_.reset();
-    zweite.Speichern();  // alone now: no question
+    zweite.fuehre_aus<&Satzverwaltung::speichere>();  // alone now: no question
 }
 
 TEST_F(Befehlsprobe, the_folder_of_backups_keeps_the_newest_50) {
     gestartet();
     for (int i = 0; i < 52; ++i) {
-        s_->kopiere_Satz(Szenario);
+        s_->fuehre_aus<&Satzverwaltung::kopiere>(Szenario);
         bejahe_Loeschen();
-        s_->loesche_Satz(Szenario);
-        s_->Aktualisieren();
+        s_->fuehre_aus<&Satzverwaltung::loesche>(Szenario);
+        s_->fuehre_aus<&Satzverwaltung::aktualisiere>();
     }
     const auto Ordner = std::filesystem::directory_iterator(Wurzel_ / "backup");
     EXPECT_EQ(std::distance(Ordner, std::filesystem::directory_iterator()), 50);

@@ -46,7 +46,7 @@ TEST_P(OhneSchreibrecht, a_command_is_one_message_and_changes_neither_lists_nor_
         GetParam().Tat(*s_, Fragen_);
         EXPECT_EQ(z().Listen, vorher.Listen);
         EXPECT_EQ(z().Namen, vorher.Namen);
-        EXPECT_EQ(s_->Feldtext(Feld("S_DT50_0")), "12");
+        EXPECT_EQ(s_->zeige<Feldeingabe>().Text(Feld("S_DT50_0")), "12");
         EXPECT_TRUE(z().Saetze[1].Geaendert);
         EXPECT_FALSE(z().abgedeckt());
     });
@@ -62,40 +62,40 @@ INSTANTIATE_TEST_SUITE_P(Commands, OhneSchreibrecht,
                          ::testing::Values(Befehl{"new_record",
                                                   [](Sitzung& s, Drehbuch& d) {
                                                       erwarte_Fehler(d, "write");
-                                                      s.neuer_Wirkstoff();
+                                                      s.fuehre_aus<&Satzverwaltung::lege_an>(Wirkstoff);
                                                   }},
                                            Befehl{"copy",
                                                   [](Sitzung& s, Drehbuch& d) {
                                                       erwarte_Fehler(d, "write");
-                                                      s.kopiere_Satz(Wirkstoff);
+                                                      s.fuehre_aus<&Satzverwaltung::kopiere>(Wirkstoff);
                                                   }},
                                            Befehl{"deletion",
                                                   [](Sitzung& s, Drehbuch& d) {
                                                       d.erwarte_Anfang("Delete record", "", Knopf::Ja);
                                                       erwarte_Fehler(d, "delete");
-                                                      s.loesche_Satz(Wirkstoff);
+                                                      s.fuehre_aus<&Satzverwaltung::loesche>(Wirkstoff);
                                                   }},
                                            Befehl{"rename",
                                                   [](Sitzung& s, Drehbuch& d) {
                                                       erwarte_Fehler(d, "rename");
-                                                      s.benenne_Satz_um(Wirkstoff, "x", true);
+                                                      s.fuehre_aus<&Satzverwaltung::benenne_um>(Wirkstoff, "x", true);
                                                   }},
                                            Befehl{"rename_over_a_record",
                                                   [](Sitzung& s, Drehbuch& d) {
                                                       d.erwarte_Anfang("Replace existing record?", "", Knopf::Ja);
                                                       erwarte_Fehler(d, "rename");
-                                                      s.benenne_Satz_um(Wirkstoff, "Second", true);
+                                                      s.fuehre_aus<&Satzverwaltung::benenne_um>(Wirkstoff, "Second", true);
                                                   }},
                                            Befehl{"save",
                                                   [](Sitzung& s, Drehbuch& d) {
                                                       erwarte_Fehler(d, "write");
-                                                      s.Speichern();
+                                                      s.fuehre_aus<&Satzverwaltung::speichere>();
                                                   }},
                                            Befehl{"choice_with_yes",
                                                   [](Sitzung& s, Drehbuch& d) {
                                                       d.erwarte_Anfang("Save changes?", "", Knopf::Ja);
                                                       erwarte_Fehler(d, "write");
-                                                      s.waehle_Satz(Wirkstoff, 1);
+                                                      s.fuehre_aus<&Satzverwaltung::waehle_Satz>(Wirkstoff, 1);
                                                   }}),
                          [](const auto& i) { return std::string(i.param.Fall); });
 
@@ -104,14 +104,14 @@ TEST_F(Satzrand, a_folder_in_the_place_of_the_copy_is_told_and_stays) {
     gestartet();
     Fragen_.erwarte_Anfang("Replace existing record?", "The record 'copy of Probe.che' already exists.", Knopf::Ja)
         .erwarte_Anfang("Runtime error", "Cannot read the file");
-    s_->kopiere_Satz(Wirkstoff);
+    s_->fuehre_aus<&Satzverwaltung::kopiere>(Wirkstoff);
     EXPECT_EQ(z().gewaehlt(Wirkstoff), "Probe");
     EXPECT_TRUE(std::filesystem::is_directory(Wurzel_ / "input/copy of Probe.che"));
 }
 
 TEST_F(Satzrand, a_new_record_leaves_out_a_number_taken_in_another_case) {
     schreibe_Datei((Wurzel_ / "input/NEW COMPOUND1.CHE").string(), "mine");
-    gestartet().neuer_Wirkstoff();
+    gestartet().fuehre_aus<&Satzverwaltung::lege_an>(Wirkstoff);
     EXPECT_EQ(z().gewaehlt(Wirkstoff), "new compound2");
     EXPECT_EQ(Datei("input/NEW COMPOUND1.CHE"), "mine");
 }
@@ -121,11 +121,11 @@ TEST_F(Satzrand, a_template_that_cannot_be_used_is_told_and_the_values_are_in_ba
     gestartet();
     tippe("S_DT50_0", "12");
     Fragen_.erwarte_Anfang("Runtime error", "File new compound1.che, line ");
-    s_->neuer_Wirkstoff();
+    s_->fuehre_aus<&Satzverwaltung::lege_an>(Wirkstoff);
     EXPECT_EQ(gesichert(), Namen{"unsaved Probe.che"});
     EXPECT_TRUE(z().abgedeckt());
     EXPECT_FALSE(z().Saetze[1].gelesen);
-    s_->Speichern();
+    s_->fuehre_aus<&Satzverwaltung::speichere>();
     EXPECT_EQ(Datei("input/new compound1.che"), "Pesticide data\r\nUnit:\t7\r\n");
 }
 
@@ -134,7 +134,7 @@ TEST_F(Satzrand, a_missing_template_makes_no_backup) {
     gestartet();
     tippe("S_DT50_0", "12");
     Fragen_.erwarte_Anfang("Runtime error", "The template");
-    s_->neuer_Wirkstoff();
+    s_->fuehre_aus<&Satzverwaltung::lege_an>(Wirkstoff);
     EXPECT_TRUE(gesichert().empty());
     EXPECT_TRUE(z().Saetze[1].Geaendert);
 }
@@ -143,7 +143,7 @@ TEST_F(Satzrand, a_copy_over_a_file_in_another_case_selects_the_entry_that_is_th
     schreibe_Datei((Wurzel_ / "input/COPY OF PROBE.che").string(), "old");
     gestartet();
     Fragen_.erwarte_Anfang("Replace existing record?", "The record 'copy of Probe.che' already exists.", Knopf::Ja);
-    s_->kopiere_Satz(Wirkstoff);
+    s_->fuehre_aus<&Satzverwaltung::kopiere>(Wirkstoff);
     EXPECT_EQ(z().gewaehlt(Wirkstoff), "COPY OF PROBE");
     EXPECT_EQ(Datei("input/COPY OF PROBE.che"), Datei("input/Probe.che"));
     EXPECT_FALSE(gibt_es("input/copy of Probe.che"));
@@ -152,36 +152,36 @@ TEST_F(Satzrand, a_copy_over_a_file_in_another_case_selects_the_entry_that_is_th
 
 TEST_F(Satzrand, a_copy_whose_name_grows_too_long_is_refused) {
     gestartet();
-    ASSERT_TRUE(s_->benenne_Satz_um(Szenario, std::string(235, 'x'), true));
+    ASSERT_TRUE(s_->fuehre_aus<&Satzverwaltung::benenne_um>(Szenario, std::string(235, 'x'), true));
     Fragen_.erwarte_Anfang("Runtime error", "\"copy of xxx");
-    s_->kopiere_Satz(Szenario);
+    s_->fuehre_aus<&Satzverwaltung::kopiere>(Szenario);
     EXPECT_EQ(z().gewaehlt(Szenario), std::string(235, 'x'));
     EXPECT_EQ(z().Listen[Szenario].size(), 2u);
 }
 
 TEST_F(Satzrand, a_name_of_the_longest_kind_can_be_left_with_unsaved_values) {
     gestartet();
-    ASSERT_TRUE(s_->benenne_Satz_um(Wirkstoff, std::string(240, 'x'), true));
+    ASSERT_TRUE(s_->fuehre_aus<&Satzverwaltung::benenne_um>(Wirkstoff, std::string(240, 'x'), true));
     tippe("S_DT50_0", "12");
-    s_->waehle_Simulation(1);
+    s_->fuehre_aus<&Satzverwaltung::waehle_Simulation>(1);
     EXPECT_EQ(z().gewaehlt(Wirkstoff), "Second");
     EXPECT_EQ(gesichert().size(), 2u);  // record and simulation
 }
 
 TEST_F(Satzrand, unchanged_text_stays_also_where_the_name_ends_like_an_extension) {
     gestartet();
-    ASSERT_TRUE(s_->benenne_Satz_um(Szenario, "field.sce.sce", true));
+    ASSERT_TRUE(s_->fuehre_aus<&Satzverwaltung::benenne_um>(Szenario, "field.sce.sce", true));
     EXPECT_EQ(z().gewaehlt(Szenario), "field.sce");
-    EXPECT_TRUE(s_->benenne_Satz_um(Szenario, "field.sce", true));
+    EXPECT_TRUE(s_->fuehre_aus<&Satzverwaltung::benenne_um>(Szenario, "field.sce", true));
     EXPECT_EQ(z().gewaehlt(Szenario), "field.sce");
 }
 
 TEST_F(Satzrand, a_copy_without_a_selection_is_refused) {
     schreibe_Simulation_ohne_Satz("Torn");
-    gestartet().waehle_Simulation(2);
-    EXPECT_FALSE(s_->darf_kopieren(Applikation));
+    gestartet().fuehre_aus<&Satzverwaltung::waehle_Simulation>(2);
+    EXPECT_FALSE(s_->zeige<Satzverwaltung>().darf_kopieren(Applikation));
     Fragen_.erwarte("Runtime error", "No entry is selected. Please select!");
-    s_->kopiere_Satz(Applikation);
+    s_->fuehre_aus<&Satzverwaltung::kopiere>(Applikation);
     EXPECT_FALSE(gibt_es("input/copy of .app"));
 }
 
@@ -190,7 +190,7 @@ TEST_F(Satzrand, deletion_keeps_the_file_and_the_unsaved_values_in_one_backup) {
     tippe("S_DT50_0", "12");
     const std::string alt = Datei("input/Probe.che");
     bejahe_Loeschen();
-    s_->loesche_Satz(Wirkstoff);
+    s_->fuehre_aus<&Satzverwaltung::loesche>(Wirkstoff);
     EXPECT_EQ(gesichert(), (Namen{"Probe.che", "unsaved Probe.che"}));
     EXPECT_FALSE(z().Saetze[1].Geaendert);
     const auto Ort = std::filesystem::directory_iterator(Wurzel_ / "backup")->path();
@@ -202,9 +202,9 @@ TEST_F(Satzrand, deletion_keeps_the_file_and_the_unsaved_values_in_one_backup) {
 TEST_F(Satzrand, what_is_typed_after_a_deletion_is_in_backup_before_the_neighbour_is_read) {
     gestartet();
     bejahe_Loeschen();
-    s_->loesche_Satz(Wirkstoff);
-    s_->aendere_Namen(0, "Typed later");
-    s_->Aktualisieren();
+    s_->fuehre_aus<&Satzverwaltung::loesche>(Wirkstoff);
+    s_->fuehre_aus<&Listenwahl::aendere_Namen>(0, "Typed later");
+    s_->fuehre_aus<&Satzverwaltung::aktualisiere>();
     EXPECT_EQ(gesichert(), (Namen{"Probe.che", "unsaved Probe.che"}));
     EXPECT_EQ(z().Felder().Name_Wirkstoff, "Parent P");
     EXPECT_TRUE(z().Simulation_markiert);
@@ -215,9 +215,9 @@ TEST_F(Satzrand, save_says_that_a_record_was_not_read_and_keeps_what_was_typed) 
     gestartet();
     const std::string Nachbar = Datei("input/Second.che");
     bejahe_Loeschen();
-    s_->loesche_Satz(Wirkstoff);
-    s_->aendere_Namen(0, "Typed later");
-    s_->Speichern();
+    s_->fuehre_aus<&Satzverwaltung::loesche>(Wirkstoff);
+    s_->fuehre_aus<&Listenwahl::aendere_Namen>(0, "Typed later");
+    s_->fuehre_aus<&Satzverwaltung::speichere>();
     EXPECT_EQ(Datei("input/Second.che"), Nachbar);
     EXPECT_TRUE(Status_nennt("\"Second.che\" was not read and stays."));
     EXPECT_TRUE(Status_nennt("\"unsaved Probe.che\""));
@@ -227,9 +227,9 @@ TEST_F(Satzrand, exit_after_a_deletion_asks_nothing_and_leaves_the_neighbour_alo
     gestartet();
     const std::string Nachbar = Datei("input/Second.che");
     bejahe_Loeschen();
-    s_->loesche_Satz(Wirkstoff);
-    s_->aendere_Namen(0, "Typed later");
-    s_->Ende();
+    s_->fuehre_aus<&Satzverwaltung::loesche>(Wirkstoff);
+    s_->fuehre_aus<&Listenwahl::aendere_Namen>(0, "Typed later");
+    s_->fuehre_aus<&Programmablauf::beende>();
     EXPECT_TRUE(z().beendet);
     EXPECT_EQ(Datei("input/Second.che"), Nachbar);
     EXPECT_EQ(gesichert(), (Namen{"Probe.che", "unsaved Probe.che"}));
@@ -239,7 +239,7 @@ TEST_F(Satzrand, exit_after_a_deletion_asks_nothing_and_leaves_the_neighbour_alo
 TEST_F(Satzrand, after_a_deletion_a_choice_of_the_neighbour_reads_it) {
     gestartet();
     bejahe_Loeschen();
-    s_->loesche_Satz(Szenario);
+    s_->fuehre_aus<&Satzverwaltung::loesche>(Szenario);
     waehle(Szenario, "Second");
     EXPECT_EQ(z().Parameter().Bodendichte, 3);
     EXPECT_FALSE(z().abgedeckt());
@@ -247,8 +247,8 @@ TEST_F(Satzrand, after_a_deletion_a_choice_of_the_neighbour_reads_it) {
 
 TEST_F(Satzrand, a_yes_that_cannot_save_puts_selection_and_mark_back) {
     schreibe_Simulation_ohne_Satz("Torn");
-    gestartet().waehle_Simulation(2);
-    s_->aendere_Namen(0, "Typed");
+    gestartet().fuehre_aus<&Satzverwaltung::waehle_Simulation>(2);
+    s_->fuehre_aus<&Listenwahl::aendere_Namen>(0, "Typed");
     const bool Marke = z().Simulation_markiert;
     const std::string vorher = Datei("input/Probe.che");
     erwarte_Sicherungsfrage(Knopf::Ja);
@@ -262,7 +262,7 @@ TEST_F(Satzrand, a_yes_that_cannot_save_puts_selection_and_mark_back) {
 
 TEST_F(Satzrand, no_to_one_s_own_record_reads_the_file_again) {
     gestartet();
-    s_->aendere_Namen(0, "Typed");
+    s_->fuehre_aus<&Listenwahl::aendere_Namen>(0, "Typed");
     erwarte_Sicherungsfrage(Knopf::Nein);
     waehle(Wirkstoff, "Probe");
     EXPECT_EQ(z().Felder().Name_Wirkstoff, "Parent P");
@@ -271,26 +271,26 @@ TEST_F(Satzrand, no_to_one_s_own_record_reads_the_file_again) {
 
 TEST_F(Satzrand, exit_that_is_refused_keeps_the_marks_of_what_was_not_saved) {
     schreibe_Simulation_ohne_Satz("Torn");
-    gestartet().waehle_Simulation(2);
-    s_->aendere_Namen(0, "Typed");
+    gestartet().fuehre_aus<&Satzverwaltung::waehle_Simulation>(2);
+    s_->fuehre_aus<&Listenwahl::aendere_Namen>(0, "Typed");
     erwarte_Sicherungsfrage(Knopf::Nein);
     Fragen_.erwarte("Record not set", "Application record not set. Please select!");
-    s_->Ende();
+    s_->fuehre_aus<&Programmablauf::beende>();
     EXPECT_FALSE(z().beendet);
     EXPECT_TRUE(z().Saetze[1].Geaendert);
 }
 
 TEST_F(Satzrand, yes_at_exit_and_at_the_close_box_with_an_empty_selector_writes_nothing_and_stays) {
     schreibe_Simulation_ohne_Satz("Torn");
-    gestartet().waehle_Simulation(2);
-    s_->aendere_Namen(0, "Typed");
+    gestartet().fuehre_aus<&Satzverwaltung::waehle_Simulation>(2);
+    s_->fuehre_aus<&Listenwahl::aendere_Namen>(0, "Typed");
     const std::string vorher = Datei("input/Second.che");
     for (int i = 0; i < 2; ++i) {
         erwarte_Sicherungsfrage(Knopf::Ja);
         Fragen_.erwarte("Record not set", "Application record not set. Please select!");
     }
-    s_->Ende();
-    EXPECT_FALSE(s_->schliesse_Fenster());
+    s_->fuehre_aus<&Programmablauf::beende>();
+    EXPECT_FALSE(s_->fuehre_aus<&Programmablauf::schliesse_Fenster>());
     EXPECT_FALSE(z().beendet);
     EXPECT_EQ(Datei("input/Second.che"), vorher);
     EXPECT_FALSE(gibt_es("input/.app"));
@@ -299,8 +299,8 @@ TEST_F(Satzrand, yes_at_exit_and_at_the_close_box_with_an_empty_selector_writes_
 TEST_F(Satzrand, loading_clears_the_marks_of_types_behind_a_missing_record_and_keeps_their_values_in_backup) {
     schreibe_Simulation_ohne_Satz("Torn");
     gestartet();
-    s_->waehle_Tag(5);
-    s_->waehle_Simulation(2);
+    s_->fuehre_aus<&Listenwahl::waehle_Tag>(5);
+    s_->fuehre_aus<&Satzverwaltung::waehle_Simulation>(2);
     EXPECT_FALSE(z().Saetze[2].Geaendert);
     EXPECT_EQ(gesichert(), Namen{"unsaved Probe.app"});
     waehle(Applikation, "Second");

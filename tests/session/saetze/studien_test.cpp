@@ -29,14 +29,14 @@ protected:
     }
 
     void addiere(const std::string& Name) {
-        s_->addiere_Studie();
-        s_->aendere_Studienname(Name);
-        s_->bestaetige_Studienname(true);
+        s_->fuehre_aus<&Studienverwaltung::addiere>();
+        s_->fuehre_aus<&Studienverwaltung::aendere>(Name);
+        s_->fuehre_aus<&Studienverwaltung::bestaetige>(true);
     }
 
     void loesche() {
         Fragen_.erwarte("Delete study", "Do you really want to delete this study?", Knopf::Ja);
-        s_->loesche_Studie();
+        s_->fuehre_aus<&Studienverwaltung::loesche>();
     }
 
     const Laufparameter& p() const { return s_->Stand().Parameter(); }
@@ -44,12 +44,12 @@ protected:
 };
 
 TEST_F(Studienprobe, the_box_of_a_new_study_proposes_the_next_number_and_nothing_else_is_possible_meanwhile) {
-    gestartet().addiere_Studie();
-    EXPECT_TRUE(s_->Studien().Name_offen());
-    EXPECT_TRUE(s_->Studien().neu());
-    EXPECT_EQ(s_->Studien().Vorschlag(), "new Study 3");
-    EXPECT_FALSE(s_->darf_Studie_addieren());
-    EXPECT_FALSE(s_->darf_Studie_loeschen());
+    gestartet().fuehre_aus<&Studienverwaltung::addiere>();
+    EXPECT_TRUE(s_->zeige<Studienverwaltung>().Name_offen());
+    EXPECT_TRUE(s_->zeige<Studienverwaltung>().neu());
+    EXPECT_EQ(s_->zeige<Studienverwaltung>().Vorschlag(), "new Study 3");
+    EXPECT_FALSE(s_->zeige<Studienverwaltung>().darf_addieren());
+    EXPECT_FALSE(s_->zeige<Studienverwaltung>().darf_loeschen());
     EXPECT_EQ(Studien().size(), 2U);
 }
 
@@ -63,7 +63,7 @@ TEST_F(Studienprobe, a_new_study_is_selected_run_once_and_marks_the_compound) {
     EXPECT_TRUE(s_->Stand().Saetze[1].Geaendert);
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe + 1);
     EXPECT_FALSE(s_->Stand().abgedeckt());
-    EXPECT_FALSE(s_->Studien().Name_offen());
+    EXPECT_FALSE(s_->zeige<Studienverwaltung>().Name_offen());
 }
 
 TEST_F(Studienprobe, a_new_study_starts_from_the_start_values_whatever_stood_in_its_place) {
@@ -82,30 +82,30 @@ TEST_F(Studienprobe, a_new_study_starts_from_the_start_values_whatever_stood_in_
 }
 
 TEST_F(Studienprobe, leaving_the_box_adds_the_study_too) {
-    gestartet().addiere_Studie();
-    s_->bestaetige_Studienname(false);
+    gestartet().fuehre_aus<&Studienverwaltung::addiere>();
+    s_->fuehre_aus<&Studienverwaltung::bestaetige>(false);
     EXPECT_EQ(Studien().back(), "new Study 3");
 }
 
 TEST_F(Studienprobe, esc_takes_everything_back) {
-    gestartet().addiere_Studie();
-    s_->aendere_Studienname("never");
-    s_->nimm_Studienname_zurueck();
-    s_->bestaetige_Studienname(false);  // the focus that moves on afterwards
+    gestartet().fuehre_aus<&Studienverwaltung::addiere>();
+    s_->fuehre_aus<&Studienverwaltung::aendere>("never");
+    s_->fuehre_aus<&Studienverwaltung::nimm_zurueck>();
+    s_->fuehre_aus<&Studienverwaltung::bestaetige>(false);  // the focus that moves on afterwards
     EXPECT_EQ(Studien().size(), 2U);
     EXPECT_EQ(s_->Stand().Studienzahl(), 2);
     EXPECT_FALSE(s_->Stand().Saetze[1].Geaendert);
-    EXPECT_TRUE(s_->darf_Studie_addieren());
-    EXPECT_TRUE(s_->darf_Studie_loeschen());
+    EXPECT_TRUE(s_->zeige<Studienverwaltung>().darf_addieren());
+    EXPECT_TRUE(s_->zeige<Studienverwaltung>().darf_loeschen());
 }
 
 TEST_F(Studienprobe, an_empty_name_becomes_the_proposal_or_the_old_name) {
     gestartet();
     addiere("");
     EXPECT_EQ(Studien().back(), "new Study 3");
-    s_->beginne_Studienname();
-    s_->aendere_Studienname("");
-    s_->bestaetige_Studienname(true);
+    s_->fuehre_aus<&Studienverwaltung::beginne_Umbenennen>();
+    s_->fuehre_aus<&Studienverwaltung::aendere>("");
+    s_->fuehre_aus<&Studienverwaltung::bestaetige>(true);
     EXPECT_EQ(Studien().back(), "new Study 3");
 }
 
@@ -113,54 +113,54 @@ TEST_F(Studienprobe, a_seventh_study_cannot_be_added) {
     gestartet();
     for (int i = 3; i <= 6; ++i) addiere("");
     EXPECT_EQ(Studien().size(), 6U);
-    EXPECT_FALSE(s_->darf_Studie_addieren());
-    s_->addiere_Studie();
-    EXPECT_FALSE(s_->Studien().Name_offen());
+    EXPECT_FALSE(s_->zeige<Studienverwaltung>().darf_addieren());
+    s_->fuehre_aus<&Studienverwaltung::addiere>();
+    EXPECT_FALSE(s_->zeige<Studienverwaltung>().Name_offen());
     loesche();
-    EXPECT_TRUE(s_->darf_Studie_addieren());
+    EXPECT_TRUE(s_->zeige<Studienverwaltung>().darf_addieren());
 }
 
 TEST_F(Studienprobe, a_name_that_no_record_can_hold_is_told_and_can_be_corrected) {
-    gestartet().addiere_Studie();
-    s_->aendere_Studienname("a\tb");
+    gestartet().fuehre_aus<&Studienverwaltung::addiere>();
+    s_->fuehre_aus<&Studienverwaltung::aendere>("a\tb");
     Fragen_.erwarte("No valid input!", "\"a\tb\" cannot be the name of a study: it holds a control character");
-    s_->bestaetige_Studienname(true);
-    EXPECT_TRUE(s_->Studien().Name_offen());
-    s_->aendere_Studienname("\xCE\xB1");
+    s_->fuehre_aus<&Studienverwaltung::bestaetige>(true);
+    EXPECT_TRUE(s_->zeige<Studienverwaltung>().Name_offen());
+    s_->fuehre_aus<&Studienverwaltung::aendere>("\xCE\xB1");
     Fragen_.erwarte("No valid input!", "\"\xCE\xB1\" cannot be the name of a study: the records have no character \"\xCE\xB1\"");
-    s_->bestaetige_Studienname(false);
+    s_->fuehre_aus<&Studienverwaltung::bestaetige>(false);
     EXPECT_EQ(Studien().back(), "new Study 3");
 }
 
 TEST_F(Studienprobe, a_study_is_renamed_without_a_run_and_a_taken_name_is_allowed) {
     gestartet();
-    s_->beginne_Studienname();
-    EXPECT_EQ(s_->Studien().Vorschlag(), "First soil");
-    EXPECT_FALSE(s_->Studien().neu());
-    s_->aendere_Studienname("Second soil");
-    s_->bestaetige_Studienname(false);
+    s_->fuehre_aus<&Studienverwaltung::beginne_Umbenennen>();
+    EXPECT_EQ(s_->zeige<Studienverwaltung>().Vorschlag(), "First soil");
+    EXPECT_FALSE(s_->zeige<Studienverwaltung>().neu());
+    s_->fuehre_aus<&Studienverwaltung::aendere>("Second soil");
+    s_->fuehre_aus<&Studienverwaltung::bestaetige>(false);
     EXPECT_EQ(Studien(), (std::vector<std::string>{"Second soil", "Second soil"}));
     EXPECT_TRUE(s_->Stand().Saetze[1].Geaendert);
     EXPECT_FALSE(s_->Stand().abgedeckt());
 }
 
 TEST_F(Studienprobe, an_unchanged_name_marks_nothing) {
-    gestartet().beginne_Studienname();
-    s_->bestaetige_Studienname(true);
+    gestartet().fuehre_aus<&Studienverwaltung::beginne_Umbenennen>();
+    s_->fuehre_aus<&Studienverwaltung::bestaetige>(true);
     EXPECT_FALSE(s_->Stand().Saetze[1].Geaendert);
 }
 
 TEST_F(Studienprobe, a_command_takes_the_name_in_the_box_as_typed) {
-    gestartet().addiere_Studie();
-    s_->aendere_Studienname("typed");
-    s_->Speichern();
+    gestartet().fuehre_aus<&Studienverwaltung::addiere>();
+    s_->fuehre_aus<&Studienverwaltung::aendere>("typed");
+    s_->fuehre_aus<&Satzverwaltung::speichere>();
     EXPECT_NE(Datei("input/Probe.che").find("Study 3:\ttyped"), std::string::npos);
 }
 
 TEST_F(Studienprobe, no_to_the_question_deletes_nothing) {
     gestartet();
     Fragen_.erwarte("Delete study", "Do you really want to delete this study?", Knopf::Nein);
-    s_->loesche_Studie();
+    s_->fuehre_aus<&Studienverwaltung::loesche>();
     EXPECT_EQ(Studien().size(), 2U);
     EXPECT_FALSE(s_->Stand().Saetze[2].Geaendert);
 }
@@ -198,30 +198,30 @@ TEST_F(Studienprobe, deleting_marks_the_application_pattern_and_says_what_to_che
 
 TEST_F(Studienprobe, after_deleting_the_study_that_moved_up_is_shown_and_run) {
     drei_Studien();
-    s_->waehle_Studie(1);
+    s_->fuehre_aus<&Listenwahl::waehle_Studie>(1);
     const int Laeufe = s_->Stand().Zeichnung;
     loesche();
     EXPECT_EQ(s_->Stand().i_studie(), 1);
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe + 1);
-    EXPECT_EQ(s_->Feldtext(Feld("S_KOC_0")), "200");  // of the place, not of the study
+    EXPECT_EQ(s_->zeige<Feldeingabe>().Text(Feld("S_KOC_0")), "200");  // of the place, not of the study
     EXPECT_FALSE(s_->Stand().abgedeckt());
 }
 
 TEST_F(Studienprobe, deleting_the_last_entry_selects_the_new_last_one) {
     drei_Studien();
-    s_->waehle_Studie(2);
+    s_->fuehre_aus<&Listenwahl::waehle_Studie>(2);
     loesche();
     EXPECT_EQ(s_->Stand().i_studie(), 1);
 }
 
 TEST_F(Studienprobe, with_one_study_left_there_is_nothing_to_delete_and_no_summary) {
-    gestartet().zeige_Zusammenfassung();
+    gestartet().fuehre_aus<&Listenwahl::zeige_Zusammenfassung>();
     EXPECT_TRUE(s_->Stand().Zusammenfassung_aktiv);
     loesche();
     EXPECT_FALSE(s_->Stand().Zusammenfassung_aktiv);
-    EXPECT_FALSE(s_->darf_Studie_loeschen());
-    EXPECT_FALSE(s_->darf_Zusammenfassung());
-    s_->loesche_Studie();
+    EXPECT_FALSE(s_->zeige<Studienverwaltung>().darf_loeschen());
+    EXPECT_FALSE(s_->zeige<Listenwahl>().darf_Zusammenfassung());
+    s_->fuehre_aus<&Studienverwaltung::loesche>();
     EXPECT_EQ(Studien().size(), 1U);
 }
 

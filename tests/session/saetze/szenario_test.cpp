@@ -31,34 +31,34 @@ TEST_F(Szenarioprobe, two_and_a_half_centimetres_are_the_second_preset_at_positi
 }
 
 TEST_F(Szenarioprobe, a_preset_option_moves_the_list_and_individual_shows_it) {
-    Szenarioeditor& e = offen();
-    e.waehle_Bodentiefe_Option(1);
+    Sitzung& s = offen();
+    s.fuehre_aus<&Szenarioeditor::waehle_Option>(&Szenarioentwurf::Boden, 1);
     EXPECT_EQ(Entwurf().Boden.Position, 24);
-    e.waehle_Bodentiefe_Option(2);
+    s.fuehre_aus<&Szenarioeditor::waehle_Option>(&Szenarioentwurf::Boden, 2);
     EXPECT_TRUE(Entwurf().Boden.Liste_sichtbar);
     EXPECT_EQ(Entwurf().Boden.Position, 24);
-    e.waehle_Plateautiefe_Option(0);
+    s.fuehre_aus<&Szenarioeditor::waehle_Option>(&Szenarioentwurf::Plateau, 0);
     EXPECT_EQ(Entwurf().Plateau.Position, 49);
 }
 
 TEST_F(Szenarioprobe, the_list_and_the_options_keep_in_step) {
-    Szenarioeditor& e = offen();
-    e.waehle_Bodentiefe(30);
+    Sitzung& s = offen();
+    s.fuehre_aus<&Szenarioeditor::waehle_Tiefe>(&Szenarioentwurf::Boden, 30);
     EXPECT_EQ(Entwurf().Boden.Option, 2);
     EXPECT_TRUE(Entwurf().Boden.Liste_sichtbar);
-    e.waehle_Bodentiefe(49);
+    s.fuehre_aus<&Szenarioeditor::waehle_Tiefe>(&Szenarioentwurf::Boden, 49);
     EXPECT_EQ(Entwurf().Boden.Option, 0);
     EXPECT_FALSE(Entwurf().Boden.Liste_sichtbar);
-    e.waehle_Plateautiefe(49);
+    s.fuehre_aus<&Szenarioeditor::waehle_Tiefe>(&Szenarioentwurf::Plateau, 49);
     EXPECT_EQ(Entwurf().Plateau.Option, 0);
-    e.waehle_Plateautiefe(199);
+    s.fuehre_aus<&Szenarioeditor::waehle_Tiefe>(&Szenarioentwurf::Plateau, 199);
     EXPECT_EQ(Entwurf().Plateau.Option, 1);
 }
 
 TEST_F(Szenarioprobe, a_list_left_at_a_preset_hides_and_switches_the_option_on) {
-    Szenarioeditor& e = offen();
-    e.waehle_Bodentiefe_Option(2);
-    e.verlasse_Bodentiefe();
+    Sitzung& s = offen();
+    s.fuehre_aus<&Szenarioeditor::waehle_Option>(&Szenarioentwurf::Boden, 2);
+    s.fuehre_aus<&Szenarioeditor::verlasse>(&Szenarioentwurf::Boden);
     EXPECT_EQ(Entwurf().Boden.Option, 0);
     EXPECT_FALSE(Entwurf().Boden.Liste_sichtbar);
 }
@@ -95,12 +95,12 @@ TEST_F(Szenarioprobe, done_without_a_change_stores_nothing_and_runs_nothing) {
 TEST_F(Szenarioprobe, changed_values_are_stored_mark_the_scenario_and_lead_to_one_run) {
     gestartet();
     const int Laeufe = s_->Stand().Zeichnung;
-    Szenarioeditor& e = offen();
-    e.aendere(E::Bodendichte, "1,25");
-    e.aendere(E::Kohlenstoffgehalt, "2");
-    e.aendere(E::Feldkapazitaet, "31");
-    e.aendere(E::Welkepunkt, "11");
-    e.waehle_Bodentiefe_Option(1);
+    Sitzung& s = offen();
+    s.fuehre_aus<&Szenarioeditor::aendere>(E::Bodendichte, "1,25");
+    s.fuehre_aus<&Szenarioeditor::aendere>(E::Kohlenstoffgehalt, "2");
+    s.fuehre_aus<&Szenarioeditor::aendere>(E::Feldkapazitaet, "31");
+    s.fuehre_aus<&Szenarioeditor::aendere>(E::Welkepunkt, "11");
+    s.fuehre_aus<&Szenarioeditor::waehle_Option>(&Szenarioentwurf::Boden, 1);
     fertig();
     EXPECT_EQ(p().Bodendichte, 1.25);
     EXPECT_EQ(p().Kohlenstoffgehalt, 2);
@@ -114,7 +114,7 @@ TEST_F(Szenarioprobe, changed_values_are_stored_mark_the_scenario_and_lead_to_on
 }
 
 TEST_F(Szenarioprobe, a_tillage_depth_below_the_soil_depth_is_told_and_corrected) {
-    offen().waehle_Plateautiefe(24);
+    offen().fuehre_aus<&Szenarioeditor::waehle_Tiefe>(&Szenarioentwurf::Plateau, 24);
     Fragen_.erwarte("Problem!", "A plateau depth was defined smaller than the current soil depth.\nThe problem was corrected.");
     fertig();
     EXPECT_EQ(p().Plateautiefe, 5);
@@ -122,14 +122,14 @@ TEST_F(Szenarioprobe, a_tillage_depth_below_the_soil_depth_is_told_and_corrected
 }
 
 TEST_F(Szenarioprobe, a_soil_depth_above_the_tillage_depth_takes_it_along_without_a_word) {
-    offen().waehle_Bodentiefe(299);
+    offen().fuehre_aus<&Szenarioeditor::waehle_Tiefe>(&Szenarioentwurf::Boden, 299);
     fertig();
     EXPECT_EQ(p().Bodentiefe, 30);
     EXPECT_EQ(p().Plateautiefe, 30);
 }
 
 TEST_F(Szenarioprobe, a_text_without_a_number_counts_as_0_and_the_run_tells_of_it) {
-    offen().aendere(E::Bodendichte, "heavy");
+    offen().fuehre_aus<&Szenarioeditor::aendere>(E::Bodendichte, "heavy");
     Fragen_.erwarte_Anfang("Runtime error", "The calculation is not possible with these input data. Please correct!");
     fertig();
     EXPECT_EQ(p().Bodendichte, 0);
@@ -138,11 +138,11 @@ TEST_F(Szenarioprobe, a_text_without_a_number_counts_as_0_and_the_run_tells_of_i
 
 TEST_F(Szenarioprobe, cancel_changes_nothing) {
     zweites_Szenario();
-    Szenarioeditor& e = offen();
+    Sitzung& s = offen();
     const Laufparameter vorher = p();
-    e.aendere(E::Bodendichte, "9");
-    e.waehle_Szenario(0);
-    e.waehle_Klimabedingungen(1);
+    s.fuehre_aus<&Szenarioeditor::aendere>(E::Bodendichte, "9");
+    s.fuehre_aus<&Szenarioeditor::waehle_Szenario>(0);
+    s.fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(1);
     abgebrochen();
     EXPECT_EQ(p(), vorher);
     EXPECT_EQ(s_->Stand().Namen[3], "Probe");
@@ -154,8 +154,8 @@ TEST_F(Szenarioprobe, cancel_changes_nothing) {
 TEST_F(Szenarioprobe, each_depth_of_the_list_is_found_at_its_position) {
     gestartet();
     for (int Platz = 0; Platz < 500; Platz += Platz % 50 == 49 ? 1 : 7) {
-        offen().waehle_Bodentiefe(Platz);
-        s_->uebernimm_Szenario();
+        offen().fuehre_aus<&Szenarioeditor::waehle_Tiefe>(&Szenarioentwurf::Boden, Platz);
+        s_->fuehre_aus<&Szenarioeditor::uebernimm>();
         offen();
         ASSERT_EQ(Entwurf().Boden.Position, Platz);
         ASSERT_EQ(Entwurf().Boden.Eintraege.size(), 500U);
@@ -182,11 +182,11 @@ TEST_F(Szenarioprobe, an_entry_of_its_own_can_be_left_and_taken_again) {
     Parameter_.Bodentiefe = 2.54;
     Parameter_.Szenariotemperatur = 45;
     schreibe_Probe();
-    Szenarioeditor& e = offen();
-    e.waehle_Bodentiefe_Option(0);
-    e.waehle_Temperatur(7);
-    e.waehle_Bodentiefe(500);
-    e.waehle_Temperatur(41);
+    Sitzung& s = offen();
+    s.fuehre_aus<&Szenarioeditor::waehle_Option>(&Szenarioentwurf::Boden, 0);
+    s.fuehre_aus<&Szenarioeditor::waehle_Temperatur>(7);
+    s.fuehre_aus<&Szenarioeditor::waehle_Tiefe>(&Szenarioentwurf::Boden, 500);
+    s.fuehre_aus<&Szenarioeditor::waehle_Temperatur>(41);
     fertig();
     EXPECT_EQ(p().Bodentiefe, 2.54);
     EXPECT_EQ(p().Szenariotemperatur, 45);
@@ -196,27 +196,27 @@ TEST_F(Szenarioprobe, an_entry_of_its_own_can_be_left_and_taken_again) {
 
 // Keys that walk through the closed list pass the presets without losing it.
 TEST_F(Szenarioprobe, keys_walk_past_a_preset_and_the_list_stays_until_it_is_left) {
-    Szenarioeditor& e = offen();
-    e.waehle_Bodentiefe(48);
-    e.blaettere_Bodentiefe(49);
+    Sitzung& s = offen();
+    s.fuehre_aus<&Szenarioeditor::waehle_Tiefe>(&Szenarioentwurf::Boden, 48);
+    s.fuehre_aus<&Szenarioeditor::blaettere>(&Szenarioentwurf::Boden, 49);
     EXPECT_EQ(Entwurf().Boden.Option, 0);
     EXPECT_TRUE(Entwurf().Boden.Liste_sichtbar);
-    e.blaettere_Bodentiefe(50);
+    s.fuehre_aus<&Szenarioeditor::blaettere>(&Szenarioentwurf::Boden, 50);
     EXPECT_EQ(Entwurf().Boden.Option, 2);
-    e.blaettere_Bodentiefe(49);
-    e.verlasse_Bodentiefe();
+    s.fuehre_aus<&Szenarioeditor::blaettere>(&Szenarioentwurf::Boden, 49);
+    s.fuehre_aus<&Szenarioeditor::verlasse>(&Szenarioentwurf::Boden);
     EXPECT_FALSE(Entwurf().Boden.Liste_sichtbar);
-    e.blaettere_Plateautiefe(199);
+    s.fuehre_aus<&Szenarioeditor::blaettere>(&Szenarioentwurf::Plateau, 199);
     EXPECT_EQ(Entwurf().Plateau.Option, 1);
     EXPECT_TRUE(Entwurf().Plateau.Liste_sichtbar);
-    e.verlasse_Plateautiefe();
+    s.fuehre_aus<&Szenarioeditor::verlasse>(&Szenarioentwurf::Plateau);
     EXPECT_FALSE(Entwurf().Plateau.Liste_sichtbar);
 }
 
 TEST_F(Szenarioprobe, a_list_left_at_another_depth_stays) {
-    Szenarioeditor& e = offen();
-    e.waehle_Bodentiefe(30);
-    e.verlasse_Bodentiefe();
+    Sitzung& s = offen();
+    s.fuehre_aus<&Szenarioeditor::waehle_Tiefe>(&Szenarioentwurf::Boden, 30);
+    s.fuehre_aus<&Szenarioeditor::verlasse>(&Szenarioentwurf::Boden);
     EXPECT_EQ(Entwurf().Boden.Option, 2);
     EXPECT_TRUE(Entwurf().Boden.Liste_sichtbar);
 }
@@ -235,9 +235,9 @@ TEST_F(Szenarioprobe, a_tillage_depth_too_small_in_the_record_is_corrected_by_do
 }
 
 TEST_F(Szenarioprobe, both_depths_made_smaller_are_no_problem) {
-    Szenarioeditor& e = offen();
-    e.waehle_Bodentiefe_Option(1);
-    e.waehle_Plateautiefe(29);
+    Sitzung& s = offen();
+    s.fuehre_aus<&Szenarioeditor::waehle_Option>(&Szenarioentwurf::Boden, 1);
+    s.fuehre_aus<&Szenarioeditor::waehle_Tiefe>(&Szenarioentwurf::Plateau, 29);
     fertig();
     EXPECT_EQ(p().Bodentiefe, 2.5);
     EXPECT_EQ(p().Plateautiefe, 3);
@@ -254,9 +254,9 @@ TEST_F(Szenarioprobe, the_message_about_the_tillage_depth_carries_the_informatio
     };
     Merker Zuhoerer;
     s_ = std::make_unique<Sitzung>(Umgebung{&Zuhoerer, Wurzel_.string(), "", '.'});
-    ASSERT_TRUE(s_->oeffne_Projekt());
-    s_->Starten();
-    offen().waehle_Plateautiefe(24);
+    ASSERT_TRUE(s_->fuehre_aus<&Programmablauf::oeffne_Projekt>());
+    s_->fuehre_aus<&Programmablauf::starte>();
+    offen().fuehre_aus<&Szenarioeditor::waehle_Tiefe>(&Szenarioentwurf::Plateau, 24);
     fertig();
     EXPECT_EQ(Zuhoerer.letzte.Titel, "Problem!");
     EXPECT_EQ(Zuhoerer.letzte.Zeichen, Symbol::Hinweis);
@@ -267,9 +267,9 @@ TEST_F(Szenarioprobe, the_message_about_the_tillage_depth_carries_the_informatio
 TEST_F(Szenarioprobe, another_text_for_the_same_number_changes_nothing) {
     gestartet();
     const int Laeufe = s_->Stand().Zeichnung;
-    Szenarioeditor& e = offen();
-    e.aendere(E::Bodendichte, "1,50");
-    e.aendere(E::Feldkapazitaet, "30 Vol%");
+    Sitzung& s = offen();
+    s.fuehre_aus<&Szenarioeditor::aendere>(E::Bodendichte, "1,50");
+    s.fuehre_aus<&Szenarioeditor::aendere>(E::Feldkapazitaet, "30 Vol%");
     fertig();
     EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert);
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe);
@@ -277,7 +277,7 @@ TEST_F(Szenarioprobe, another_text_for_the_same_number_changes_nothing) {
 
 // 15 digits do not tell the whole of this density.
 TEST_F(Szenarioprobe, a_value_that_was_not_touched_keeps_its_last_bit) {
-    offen().aendere(E::Bodendichte, "1");
+    offen().fuehre_aus<&Szenarioeditor::aendere>(E::Bodendichte, "1");
     fertig();
     Parameter_.Bodendichte = 4.0 / 3;
     schreibe_Probe();
@@ -292,11 +292,11 @@ TEST_F(Szenarioprobe, a_value_that_was_not_touched_keeps_its_last_bit) {
 TEST_F(Szenarioprobe, an_impossible_value_is_stored_told_and_can_be_corrected) {
     gestartet();
     for (const char* Text : {"0", "-1", "", "1E999"}) {
-        offen().aendere(E::Feldkapazitaet, Text);
+        offen().fuehre_aus<&Szenarioeditor::aendere>(E::Feldkapazitaet, Text);
         Fragen_.erwarte_Anfang("Runtime error", "The calculation is not possible with these input data. Please correct!");
         fertig();
         EXPECT_TRUE(s_->Stand().abgedeckt()) << Text;
-        offen().aendere(E::Feldkapazitaet, "30");
+        offen().fuehre_aus<&Szenarioeditor::aendere>(E::Feldkapazitaet, "30");
         fertig();
         EXPECT_FALSE(s_->Stand().abgedeckt()) << Text;
     }
@@ -304,12 +304,12 @@ TEST_F(Szenarioprobe, an_impossible_value_is_stored_told_and_can_be_corrected) {
 
 TEST_F(Szenarioprobe, a_comma_region_reads_and_writes_commas) {
     s_ = std::make_unique<Sitzung>(Umgebung{&Fragen_, Wurzel_.string(), "", ','});
-    ASSERT_TRUE(s_->oeffne_Projekt());
-    s_->Starten();
-    Szenarioeditor& e = offen();
+    ASSERT_TRUE(s_->fuehre_aus<&Programmablauf::oeffne_Projekt>());
+    s_->fuehre_aus<&Programmablauf::starte>();
+    Sitzung& s = offen();
     EXPECT_EQ(Entwurf().Texte[E::Bodendichte], "1,5");
     EXPECT_EQ(Entwurf().Boden.Eintraege[24], "2,5");
-    e.waehle_Bodentiefe(26);
+    s.fuehre_aus<&Szenarioeditor::waehle_Tiefe>(&Szenarioentwurf::Boden, 26);
     fertig();
     EXPECT_EQ(p().Bodentiefe, 2.7);
     EXPECT_EQ(p().Bodendichte, 1.5);
@@ -317,9 +317,9 @@ TEST_F(Szenarioprobe, a_comma_region_reads_and_writes_commas) {
 
 TEST_F(Szenarioprobe, a_changed_value_runs_every_study_of_the_summary) {
     gestartet();
-    s_->zeige_Zusammenfassung();
+    s_->fuehre_aus<&Listenwahl::zeige_Zusammenfassung>();
     const float vorher = Maximum(1);
-    offen().aendere(E::Bodendichte, "3");
+    offen().fuehre_aus<&Szenarioeditor::aendere>(E::Bodendichte, "3");
     fertig();
     EXPECT_FLOAT_EQ(Maximum(0), Maximum(1));
     EXPECT_FLOAT_EQ(Maximum(1), vorher / 2);
@@ -330,19 +330,19 @@ TEST_F(Szenarioprobe, a_changed_value_runs_every_study_of_the_summary) {
 TEST_F(Szenarioprobe, the_run_comes_after_the_dialog_has_closed) {
     gestartet();
     const int Laeufe = s_->Stand().Zeichnung;
-    offen().aendere(E::Bodendichte, "2");
-    s_->uebernimm_Szenario();
+    offen().fuehre_aus<&Szenarioeditor::aendere>(E::Bodendichte, "2");
+    s_->fuehre_aus<&Szenarioeditor::uebernimm>();
     EXPECT_EQ(p().Bodendichte, 2);
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe);
-    s_->schliesse_Szenarioeditor();
+    s_->fuehre_aus<&Szenarioeditor::schliesse>();
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe + 1);
-    s_->schliesse_Szenarioeditor();
+    s_->fuehre_aus<&Szenarioeditor::schliesse>();
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe + 1);
 }
 
 TEST_F(Szenarioprobe, the_dialog_writes_no_file) {
     const std::string vorher = Datei("input/Probe.sce");
-    offen().aendere(E::Bodendichte, "2");
+    offen().fuehre_aus<&Szenarioeditor::aendere>(E::Bodendichte, "2");
     fertig();
     EXPECT_EQ(Datei("input/Probe.sce"), vorher);
 }

@@ -8,7 +8,7 @@ namespace {
 TEST_F(Szenarioprobe, another_temperature_alone_starts_no_run_and_shows_the_hint) {
     gestartet();
     const int Laeufe = s_->Stand().Zeichnung;
-    offen().waehle_Temperatur(10);
+    offen().fuehre_aus<&Szenarioeditor::waehle_Temperatur>(10);
     fertig();
     EXPECT_EQ(p().Szenariotemperatur, 10);
     EXPECT_EQ(Klimatext(s_->Stand().Felder()),
@@ -24,10 +24,10 @@ TEST_F(Szenarioprobe, a_chosen_climate_file_marks_the_scenario_and_runs) {
     klimadatei("Site B");
     gestartet();
     const int Laeufe = s_->Stand().Zeichnung;
-    Szenarioeditor& e = offen();
+    Sitzung& s = offen();
     EXPECT_EQ(Entwurf().Klima, 1);  // none is equal: the search ends at the last entry
-    e.waehle_Klimabedingungen(1);
-    e.waehle_Klimaszenario(0);
+    s.fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(1);
+    s.fuehre_aus<&Szenarioeditor::waehle_Klimaszenario>(0);
     fertig();
     EXPECT_EQ(p().Klimamodus, 1);
     EXPECT_EQ(s_->Stand().Felder().Klimaszenario, "Site A");
@@ -43,7 +43,7 @@ TEST_F(Szenarioprobe, a_preselected_climate_file_is_stored_with_the_variable_mod
     EXPECT_EQ(Klimatext(s_->Stand().Felder()),
               "20 \xC2\xB0"
               "C constant");
-    offen().waehle_Klimabedingungen(1);
+    offen().fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(1);
     fertig();
     EXPECT_EQ(s_->Stand().Felder().Klimaszenario, "Site A");
     EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert);
@@ -52,10 +52,10 @@ TEST_F(Szenarioprobe, a_preselected_climate_file_is_stored_with_the_variable_mod
 
 TEST_F(Szenarioprobe, without_a_climate_file_the_variable_mode_cannot_be_chosen) {
     offen();
-    EXPECT_FALSE(s_->Editor().darf_variabel());
+    EXPECT_FALSE(s_->zeige<Szenarioeditor>().darf_variabel());
     klimadatei("Site A");
     offen();
-    EXPECT_TRUE(s_->Editor().darf_variabel());
+    EXPECT_TRUE(s_->zeige<Szenarioeditor>().darf_variabel());
 }
 
 TEST_F(Szenarioprobe, a_missing_climate_file_asks_for_the_editor_once_and_done_runs_anew) {
@@ -72,7 +72,7 @@ TEST_F(Szenarioprobe, a_missing_climate_file_asks_for_the_editor_once_and_done_r
     EXPECT_FALSE(s_->Stand().Szenarioeditor_faellig);
     abgebrochen();
     EXPECT_TRUE(s_->Stand().abgedeckt());
-    offen().waehle_Klimabedingungen(0);
+    offen().fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(0);
     fertig();
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe + 1);
     EXPECT_FALSE(s_->Stand().abgedeckt());
@@ -82,15 +82,15 @@ TEST_F(Szenarioprobe, mode_and_temperature_together_still_start_no_run) {
     klimadatei("Site A");
     gestartet();
     const int Laeufe = s_->Stand().Zeichnung;
-    Szenarioeditor& e = offen();
-    e.waehle_Temperatur(7);
-    e.waehle_Klimabedingungen(1);
+    Sitzung& s = offen();
+    s.fuehre_aus<&Szenarioeditor::waehle_Temperatur>(7);
+    s.fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(1);
     fertig();
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe);
     EXPECT_TRUE(s_->Stand().Hinweis());
     EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert);
     EXPECT_FALSE(s_->Stand().abgedeckt());
-    s_->Aktualisieren();
+    s_->fuehre_aus<&Satzverwaltung::aktualisiere>();
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe + 1);
     EXPECT_FALSE(s_->Stand().Hinweis());
 }
@@ -102,10 +102,10 @@ TEST_F(Szenarioprobe, the_temperature_of_a_variable_climate_is_kept_and_makes_no
     Felder_.Klimaszenario = "Site A";
     schreibe_Probe();
     gestartet();
-    Szenarioeditor& e = offen();
-    e.waehle_Klimabedingungen(0);
-    e.waehle_Temperatur(7);
-    e.waehle_Klimabedingungen(1);
+    Sitzung& s = offen();
+    s.fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(0);
+    s.fuehre_aus<&Szenarioeditor::waehle_Temperatur>(7);
+    s.fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(1);
     fertig();
     EXPECT_EQ(p().Szenariotemperatur, 7);
     EXPECT_EQ(s_->Stand().Felder().Klimaszenario, "Site A");
@@ -117,12 +117,12 @@ TEST_F(Szenarioprobe, the_next_run_in_the_summary_uses_the_new_temperature_for_e
     Parameter_.Q10 = fuer_alle(2.0);
     schreibe_Probe();
     gestartet();
-    s_->zeige_Zusammenfassung();
-    offen().waehle_Temperatur(0);
+    s_->fuehre_aus<&Listenwahl::zeige_Zusammenfassung>();
+    offen().fuehre_aus<&Szenarioeditor::waehle_Temperatur>(0);
     fertig();
     EXPECT_FALSE(s_->Stand().gueltig(0));
     EXPECT_FALSE(s_->Stand().gueltig(1));
-    s_->Aktualisieren();
+    s_->fuehre_aus<&Satzverwaltung::aktualisiere>();
     EXPECT_TRUE(s_->Stand().gueltig(0));
     EXPECT_TRUE(s_->Stand().gueltig(1));
 }
@@ -135,10 +135,10 @@ TEST_F(Szenarioprobe, the_same_climate_file_chosen_again_changes_nothing) {
     schreibe_Probe();
     gestartet();
     const int Laeufe = s_->Stand().Zeichnung;
-    Szenarioeditor& e = offen();
+    Sitzung& s = offen();
     EXPECT_EQ(Entwurf().Klima, 0);
-    e.waehle_Klimaszenario(1);
-    e.waehle_Klimaszenario(0);
+    s.fuehre_aus<&Szenarioeditor::waehle_Klimaszenario>(1);
+    s.fuehre_aus<&Szenarioeditor::waehle_Klimaszenario>(0);
     fertig();
     EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert);
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe);
@@ -149,10 +149,10 @@ TEST_F(Szenarioprobe, a_climate_file_chosen_and_not_used_changes_nothing) {
     klimadatei("Site B");
     gestartet();
     const int Laeufe = s_->Stand().Zeichnung;
-    Szenarioeditor& e = offen();
-    e.waehle_Klimabedingungen(1);
-    e.waehle_Klimaszenario(0);
-    e.waehle_Klimabedingungen(0);
+    Sitzung& s = offen();
+    s.fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(1);
+    s.fuehre_aus<&Szenarioeditor::waehle_Klimaszenario>(0);
+    s.fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(0);
     fertig();
     EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert);
     EXPECT_FALSE(s_->Stand().Hinweis());
@@ -199,7 +199,7 @@ TEST_F(Szenarioprobe, cancel_after_a_missing_climate_file_does_not_repeat_the_ru
     klimadatei("Site A");
     gestartet_mit_Meldung();
     const int Laeufe = s_->Stand().Zeichnung;
-    offen().waehle_Klimabedingungen(0);
+    offen().fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(0);
     abgebrochen();
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe);
     EXPECT_TRUE(s_->Stand().abgedeckt());
@@ -212,11 +212,11 @@ TEST_F(Szenarioprobe, done_without_any_climate_file_keeps_the_name_and_runs_noth
     ohne_Klimadatei();
     gestartet_mit_Meldung();
     offen();
-    EXPECT_TRUE(s_->Editor().darf_variabel());
+    EXPECT_TRUE(s_->zeige<Szenarioeditor>().darf_variabel());
     EXPECT_EQ(Entwurf().Klima, -1);
-    s_->Editor().waehle_Klimabedingungen(0);
-    EXPECT_TRUE(s_->Editor().darf_variabel());  // back to what the record says
-    s_->Editor().waehle_Klimabedingungen(1);
+    s_->fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(0);
+    EXPECT_TRUE(s_->zeige<Szenarioeditor>().darf_variabel());  // back to what the record says
+    s_->fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(1);
     fertig();
     EXPECT_EQ(s_->Stand().Felder().Klimaszenario, "gone");
     EXPECT_TRUE(s_->Stand().abgedeckt());
@@ -241,10 +241,10 @@ TEST_F(Szenarioprobe, a_field_in_work_is_not_told_twice_of_the_missing_file) {
     offen();
     abgebrochen();
     const int f = Feld("Applikationsrate");
-    s_->betrete_Feld(f);
-    s_->aendere_Feld(f, "700");
+    s_->fuehre_aus<&Feldeingabe::betrete>(f);
+    s_->fuehre_aus<&Feldeingabe::aendere>(f, "700");
     Fragen_.erwarte("Data file missing", "Cannot load climate data file. Please correct!");
-    s_->bestaetige_Feld(f);
+    s_->fuehre_aus<&Feldeingabe::bestaetige>(f);
     EXPECT_TRUE(s_->Stand().Szenarioeditor_faellig);
     offen();
     abgebrochen();
@@ -253,11 +253,11 @@ TEST_F(Szenarioprobe, a_field_in_work_is_not_told_twice_of_the_missing_file) {
 TEST_F(Szenarioprobe, an_invalid_field_keeps_the_editor_closed) {
     gestartet();
     const int f = Feld("S_Q10_0");
-    s_->betrete_Feld(f);
-    s_->aendere_Feld(f, "0");
+    s_->fuehre_aus<&Feldeingabe::betrete>(f);
+    s_->fuehre_aus<&Feldeingabe::aendere>(f, "0");
     Fragen_.erwarte_Anfang("No valid input!", "");
-    EXPECT_FALSE(s_->oeffne_Szenarioeditor());
-    EXPECT_EQ(s_->aktives_Feld(), f);
+    EXPECT_FALSE(s_->fuehre_aus<&Szenarioeditor::oeffne>());
+    EXPECT_EQ(s_->zeige<Feldeingabe>().aktives_Feld(), f);
 }
 
 }  // namespace

@@ -11,10 +11,10 @@ TEST_F(Szenarioprobe, another_name_leaves_every_value_and_marks_the_simulation_o
     zweites_Szenario();
     gestartet();
     const int Laeufe = s_->Stand().Zeichnung;
-    Szenarioeditor& e = offen();
+    Sitzung& s = offen();
     EXPECT_EQ(Entwurf().Szenarien, (std::vector<std::string>{"Another", "Probe"}));
-    e.aendere(E::Bodendichte, "9");
-    e.waehle_Szenario(0);
+    s.fuehre_aus<&Szenarioeditor::aendere>(E::Bodendichte, "9");
+    s.fuehre_aus<&Szenarioeditor::waehle_Szenario>(0);
     EXPECT_EQ(Entwurf().Texte[E::Bodendichte], "1.5");  // what was typed goes
     fertig();
     EXPECT_EQ(p().Bodendichte, 1.5);
@@ -29,9 +29,9 @@ TEST_F(Szenarioprobe, another_name_leaves_every_value_and_marks_the_simulation_o
 TEST_F(Szenarioprobe, saved_under_another_name_the_scenario_that_was_there_is_kept_in_backup) {
     zweites_Szenario();
     const std::string alt = Datei("input/Another.sce");
-    offen().waehle_Szenario(0);
+    offen().fuehre_aus<&Szenarioeditor::waehle_Szenario>(0);
     fertig();
-    s_->Speichern();
+    s_->fuehre_aus<&Satzverwaltung::speichere>();
     EXPECT_NE(Datei("input/Another.sce").find("Soil density (kg/L):\t1.5\r\n"), std::string::npos);
     std::vector<std::string> Gesicherte;
     for (const auto& f : std::filesystem::recursive_directory_iterator(Wurzel_ / "backup")) {
@@ -43,7 +43,7 @@ TEST_F(Szenarioprobe, saved_under_another_name_the_scenario_that_was_there_is_ke
 TEST_F(Szenarioprobe, a_soil_name_is_copied_and_marks_the_scenario_without_a_run) {
     gestartet();
     const int Laeufe = s_->Stand().Zeichnung;
-    offen().aendere(E::Bodenszenario, "Silt loam");
+    offen().fuehre_aus<&Szenarioeditor::aendere>(E::Bodenszenario, "Silt loam");
     fertig();
     EXPECT_EQ(s_->Stand().Felder().Bodenszenario, "Silt loam");
     EXPECT_TRUE(s_->Stand().Saetze[3].Geaendert);
@@ -51,17 +51,17 @@ TEST_F(Szenarioprobe, a_soil_name_is_copied_and_marks_the_scenario_without_a_run
 }
 
 TEST_F(Szenarioprobe, a_soil_name_that_no_record_can_hold_is_refused_where_it_is_typed) {
-    Szenarioeditor& e = offen();
-    EXPECT_TRUE(e.aendere(E::Bodenszenario, "Loam \xC3\xA4"));  // a character of the code page
+    Sitzung& s = offen();
+    EXPECT_TRUE(s.fuehre_aus<&Szenarioeditor::aendere>(E::Bodenszenario, "Loam \xC3\xA4"));  // a character of the code page
     Fragen_.erwarte("No valid input!",
                     "\"Loam \xE2\x89\xA5\" cannot be the name of a soil: "
                     "the records have no character \"\xE2\x89\xA5\"");
-    EXPECT_FALSE(e.aendere(E::Bodenszenario, "Loam \xE2\x89\xA5"));
+    EXPECT_FALSE(s.fuehre_aus<&Szenarioeditor::aendere>(E::Bodenszenario, "Loam \xE2\x89\xA5"));
     Fragen_.erwarte("No valid input!", "\"a\tb\" cannot be the name of a soil: it holds a control character");
-    EXPECT_FALSE(e.aendere(E::Bodenszenario, "a\tb"));
+    EXPECT_FALSE(s.fuehre_aus<&Szenarioeditor::aendere>(E::Bodenszenario, "a\tb"));
     fertig();
     EXPECT_EQ(s_->Stand().Felder().Bodenszenario, "Loam \xC3\xA4");
-    s_->Speichern();
+    s_->fuehre_aus<&Satzverwaltung::speichere>();
     EXPECT_NE(Datei("input/Probe.sce").find("Loam \xE4\r\n"), std::string::npos);
 }
 
@@ -70,19 +70,19 @@ TEST_F(Szenarioprobe, a_soil_name_with_a_tab_can_be_corrected) {
     std::string Bytes = Datei("input/Probe.sce");
     Bytes.replace(Bytes.find("Sandy loam"), 10, "a\tb");
     std::ofstream(Wurzel_ / "input/Probe.sce", std::ios::binary) << Bytes;
-    Szenarioeditor& e = offen();
+    Sitzung& s = offen();
     ASSERT_EQ(Entwurf().Texte[E::Bodenszenario], "a\tb");
-    EXPECT_TRUE(e.aendere(E::Bodenszenario, "a\tbc"));
-    EXPECT_TRUE(e.aendere(E::Bodenszenario, "abc"));
+    EXPECT_TRUE(s.fuehre_aus<&Szenarioeditor::aendere>(E::Bodenszenario, "a\tbc"));
+    EXPECT_TRUE(s.fuehre_aus<&Szenarioeditor::aendere>(E::Bodenszenario, "abc"));
     fertig();
     EXPECT_EQ(s_->Stand().Felder().Bodenszenario, "abc");
 }
 
 TEST_F(Szenarioprobe, the_same_name_chosen_again_keeps_what_was_typed) {
     zweites_Szenario();
-    Szenarioeditor& e = offen();
-    e.aendere(E::Bodendichte, "2");
-    e.waehle_Szenario(1);
+    Sitzung& s = offen();
+    s.fuehre_aus<&Szenarioeditor::aendere>(E::Bodendichte, "2");
+    s.fuehre_aus<&Szenarioeditor::waehle_Szenario>(1);
     EXPECT_EQ(Entwurf().Texte[E::Bodendichte], "2");
 }
 
@@ -90,10 +90,10 @@ TEST_F(Szenarioprobe, the_same_name_chosen_again_keeps_what_was_typed) {
 TEST_F(Szenarioprobe, another_name_keeps_temperature_and_mode) {
     zweites_Szenario();
     klimadatei("Site A");
-    Szenarioeditor& e = offen();
-    e.waehle_Temperatur(7);
-    e.waehle_Klimabedingungen(1);
-    e.waehle_Szenario(0);
+    Sitzung& s = offen();
+    s.fuehre_aus<&Szenarioeditor::waehle_Temperatur>(7);
+    s.fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(1);
+    s.fuehre_aus<&Szenarioeditor::waehle_Szenario>(0);
     EXPECT_EQ(Entwurf().Temperatur, 7);
     EXPECT_EQ(Entwurf().Klimamodus, 1);
 }
@@ -103,12 +103,12 @@ TEST_F(Szenarioprobe, a_scenario_whose_file_is_gone_stays_selected) {
     zweites_Szenario();
     gestartet();
     std::filesystem::remove(Wurzel_ / "input/Probe.sce");
-    offen().aendere(E::Bodendichte, "2");
+    offen().fuehre_aus<&Szenarioeditor::aendere>(E::Bodendichte, "2");
     EXPECT_EQ(Entwurf().Szenarien[static_cast<std::size_t>(Entwurf().Szenario)], "Probe");
     fertig();
     EXPECT_EQ(s_->Stand().gewaehlt(3), "Probe");
     EXPECT_FALSE(s_->Stand().Saetze[0].Geaendert);
-    s_->Speichern();
+    s_->fuehre_aus<&Satzverwaltung::speichere>();
     EXPECT_NE(Datei("input/Probe.sce").find("Soil density (kg/L):\t2\r\n"), std::string::npos);
     EXPECT_NE(Datei("input/Another.sce").find("Soil density (kg/L):\t1.1\r\n"), std::string::npos);
 }
@@ -118,7 +118,7 @@ TEST_F(Szenarioprobe, a_scenario_not_read_yet_is_read_before_it_is_edited) {
     zweites_Szenario();
     gestartet();
     Fragen_.erwarte_Anfang("Delete record", "Do you really want to delete this record?", Knopf::Ja);
-    s_->loesche_Satz(Szenario);
+    s_->fuehre_aus<&Satzverwaltung::loesche>(Szenario);
     ASSERT_EQ(p().Bodendichte, 1.5);
     offen();
     EXPECT_EQ(Entwurf().Texte[E::Bodendichte], "1.1");
@@ -132,7 +132,7 @@ TEST_F(Szenarioprobe, without_a_scenario_the_last_one_is_preselected_and_done_re
     ohne_Szenario_geladen();
     offen();
     EXPECT_EQ(Entwurf().Szenarien[static_cast<std::size_t>(Entwurf().Szenario)], "Probe");
-    s_->Editor().waehle_Szenario(0);
+    s_->fuehre_aus<&Szenarioeditor::waehle_Szenario>(0);
     fertig();
     EXPECT_EQ(s_->Stand().gewaehlt(3), "Another");
     EXPECT_EQ(p().Bodendichte, 1.1);  // the file's, as nothing was typed
@@ -143,9 +143,9 @@ TEST_F(Szenarioprobe, without_a_scenario_the_last_one_is_preselected_and_done_re
 TEST_F(Szenarioprobe, without_a_scenario_what_was_typed_stands_under_the_name_chosen) {
     zweites_Szenario();
     ohne_Szenario_geladen();
-    Szenarioeditor& e = offen();
-    e.waehle_Szenario(0);
-    e.aendere(E::Bodendichte, "2.2");
+    Sitzung& s = offen();
+    s.fuehre_aus<&Szenarioeditor::waehle_Szenario>(0);
+    s.fuehre_aus<&Szenarioeditor::aendere>(E::Bodendichte, "2.2");
     fertig();
     EXPECT_EQ(s_->Stand().gewaehlt(3), "Another");
     EXPECT_EQ(p().Bodendichte, 2.2);

@@ -14,21 +14,21 @@ namespace varnok {
 // The scenario editor on a session of its own.
 class Szenarioprobe : public Probesitzung {
 protected:
-    Szenarioeditor& offen() {
+    Sitzung& offen() {
         if (!s_) gestartet();
-        EXPECT_TRUE(s_->oeffne_Szenarioeditor());
-        return s_->Editor();
+        EXPECT_TRUE(s_->fuehre_aus<&Szenarioeditor::oeffne>());
+        return *s_;
     }
-    const Szenarioentwurf& Entwurf() { return s_->Editor().Entwurf(); }
+    const Szenarioentwurf& Entwurf() { return s_->zeige<Szenarioeditor>().Entwurf(); }
     const Laufparameter& p() const { return s_->Stand().Parameter(); }
     // "Done", and what follows when the dialog has closed.
     void fertig() {
-        s_->uebernimm_Szenario();
-        s_->schliesse_Szenarioeditor();
+        s_->fuehre_aus<&Szenarioeditor::uebernimm>();
+        s_->fuehre_aus<&Szenarioeditor::schliesse>();
     }
     void abgebrochen() {
-        s_->Editor().verwirf();
-        s_->schliesse_Szenarioeditor();
+        s_->fuehre_aus<&Szenarioeditor::verwirf>();
+        s_->fuehre_aus<&Szenarioeditor::schliesse>();
     }
 
     void klimadatei(const std::string& Name) {
@@ -54,7 +54,8 @@ protected:
         std::filesystem::last_write_time(Pfad, std::filesystem::last_write_time(Pfad) - std::chrono::hours(1));
         gestartet();
         const auto& Liste = s_->Stand().Listen[0];
-        s_->waehle_Simulation(static_cast<int>(std::find(Liste.begin(), Liste.end(), "Torn") - Liste.begin()));
+        s_->fuehre_aus<&Satzverwaltung::waehle_Simulation>(
+            static_cast<int>(std::find(Liste.begin(), Liste.end(), "Torn") - Liste.begin()));
         ASSERT_EQ(s_->Stand().Auswahl(3), -1);
     }
     void zweites_Szenario() {

@@ -66,8 +66,8 @@ protected:
             std::filesystem::copy_file(Wurzel_ / "input" / (std::string("beta") + Endungen[t]), Vorlage);
         }
         s_ = std::make_unique<Sitzung>(Umgebung{&Antworten_, Wurzel_.string(), "", '.', &Zeit_});
-        EXPECT_TRUE(s_->oeffne_Projekt());
-        s_->Starten();
+        EXPECT_TRUE(s_->fuehre_aus<&Programmablauf::oeffne_Projekt>());
+        s_->fuehre_aus<&Programmablauf::starte>();
         beginne_Modell();
     }
 
@@ -123,8 +123,8 @@ std::string Zufallsgang::tippe_etwas(int Wahl) {
     const std::string Zahl = std::to_string(++letzte_Zahl_);
     if (Wahl == 0) {
         const std::string Name = "Compound " + Zahl;
-        s_->aendere_Namen(0, Name);
-        s_->verlasse_Namen();
+        s_->fuehre_aus<&Listenwahl::aendere_Namen>(0, Name);
+        s_->fuehre_aus<&Listenwahl::verlasse_Namen>();
         const std::string vorher = m_.Schirm[1];
         setze_Zeile(m_.Schirm[1], "Parent:\t", Name, '\t');
         m_.geaendert[1] = m_.geaendert[1] || m_.Schirm[1] != vorher;
@@ -134,7 +134,7 @@ std::string Zufallsgang::tippe_etwas(int Wahl) {
         setze_Zeile(m_.Schirm[2], "Application rate (g/ha):\t", Zahl, '\r');
         m_.geaendert[2] = m_.geaendert[2] || m_.Schirm[2] != vorher;
     } else {
-        s_->aendere_Beschreibung("Text " + Zahl);
+        s_->fuehre_aus<&Beschreibungseingabe::aendere>("Text " + Zahl);
         m_.geaendert[0] = m_.geaendert[0] || m_.Schirm[0] != "Text " + Zahl;
         m_.Schirm[0] = "Text " + Zahl;
     }
@@ -145,25 +145,25 @@ std::string Zufallsgang::handle_mit_Dateien(int Wahl) {
     const Satzart t = Art();
     // Folders stay small: what is made goes again.
     if (m_.Liste(t).size() > 9 || Wahl == 0) {
-        s_->loesche_Satz(t);
+        s_->fuehre_aus<&Satzverwaltung::loesche>(t);
         m_.loesche(t);
         return "delete";
     }
     if (Wahl <= 2 && m_.Name[t].size() < 60) {
-        s_->kopiere_Satz(t);
+        s_->fuehre_aus<&Satzverwaltung::kopiere>(t);
         m_.kopiere(t);
         return "copy";
     }
     if (Wahl == 3) {
         const Satzart r = Satz();
-        s_->lege_Satz_an(r);
+        s_->fuehre_aus<&Satzverwaltung::lege_an>(r);
         m_.lege_an(r);
         return "new";
     }
     constexpr std::array<const char*, 6> Namen = {"alpha", "beta", "gamma", "delta", "epsilon", "zeta"};
     const std::string Name = Namen[static_cast<std::size_t>(ganze_Zahl(6))];
     const bool Enter = ganze_Zahl(3) > 0;
-    s_->benenne_Satz_um(t, Name + (ganze_Zahl(2) == 0 ? Endungen[t] : ""), Enter);
+    s_->fuehre_aus<&Satzverwaltung::benenne_um>(t, Name + (ganze_Zahl(2) == 0 ? Endungen[t] : ""), Enter);
     m_.benenne_um(t, Name, Enter);
     return "rename";
 }
@@ -174,12 +174,12 @@ std::string Zufallsgang::handle() {
     if (Wahl < 6) return handle_mit_Dateien(Wahl);
     if (Wahl < 9) return tippe_etwas(Wahl - 6);
     if (Wahl == 9) {
-        s_->Aktualisieren();
+        s_->fuehre_aus<&Satzverwaltung::aktualisiere>();
         m_.aktualisiere();
         return "refresh";
     }
     if (Wahl == 10) {
-        s_->Speichern();
+        s_->fuehre_aus<&Satzverwaltung::speichere>();
         m_.speichere();
         return "save";
     }
@@ -188,11 +188,11 @@ std::string Zufallsgang::handle() {
     const int Platz = ganze_Zahl(static_cast<int>(Liste.size()));
     const std::string& Name = Liste[static_cast<std::size_t>(Platz)];
     if (t == Simulation) {
-        s_->waehle_Simulation(Platz);
+        s_->fuehre_aus<&Satzverwaltung::waehle_Simulation>(Platz);
         m_.waehle_Simulation(Name);
         return "simulation";
     }
-    s_->waehle_Satz(t, Platz);
+    s_->fuehre_aus<&Satzverwaltung::waehle_Satz>(t, Platz);
     m_.waehle(t, Name);
     return "choose";
 }

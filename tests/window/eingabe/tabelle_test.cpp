@@ -157,7 +157,7 @@ private Q_SLOTS:
 
     void enter_ends_the_summary_view() {
         p_->waehle_Simulation("Sugar beet, Compound E");
-        p_->Programm().zeige_Zusammenfassung();
+        p_->Programm().fuehre_aus<&Listenwahl::zeige_Zusammenfassung>();
         QVERIFY(Stand().Zusammenfassung_aktiv);
         p_->waehle("Applikationsmuster_2");
         QVERIFY(Stand().Zusammenfassung_aktiv);

@@ -28,7 +28,8 @@ private Q_SLOTS:
         QVERIFY(k.Werte.size() < 200);
         QVERIFY(!QApplication::activeModalWidget());
         QCOMPARE(p_->vorn()->objectName(), u"Diagramm_0"_s);
-        QCOMPARE(p_->Programm().Diagramme().X_Ende(), 364.0);  // what the dialog shows and a report's numbers come from
+        QCOMPARE(p_->Programm().zeige<Diagrammsteuerung>().X_Ende(),
+                 364.0);  // what the dialog shows and a report's numbers come from
     }
 
     void the_wheel_comes_nearer_and_goes_back() {
@@ -37,7 +38,7 @@ private Q_SLOTS:
         QVERIFY2(nah > 170 && nah < 200, qPrintable(in_Qt(nah)));  // 0.8 times as many each time
         for (int i = 0; i < 6; ++i) drehe(-120);
         QCOMPARE(Tage(), 364);
-        QVERIFY(!p_->Programm().Diagramme().hat_Ausschnitt());
+        QVERIFY(!p_->Programm().zeige<Diagrammsteuerung>().hat_Ausschnitt());
     }
 
     void every_look_has_a_key() {

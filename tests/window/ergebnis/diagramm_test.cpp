@@ -32,7 +32,7 @@ private Q_SLOTS:
         for (const auto& [Name, Metabolit] :
              {std::pair("Diagramm_8", 0), {"Diagramm_9", 0}, {"Diagramm_10", 0}, {"Diagramm_11", 0}, {"Diagramm_8", 0}}) {
             QCOMPARE(p_->vorn()->objectName(), QString::fromLatin1(Name));
-            QCOMPARE(p_->Programm().Diagramme().vorne(), p_->vorn()->Nummer());
+            QCOMPARE(p_->Programm().zeige<Diagrammsteuerung>().vorne(), p_->vorn()->Nummer());
             p_->klicke_Diagramm();
         }
     }
@@ -77,7 +77,7 @@ private Q_SLOTS:
         p_->waehle_Simulation("Sugar beet, Compound E");
         p_->tippe("S_Q10_0", "0");
         QCOMPARE(p_->Meldung_bei([&] { p_->klicke_Diagramm(); }), u"The Q10 constant is invalid. Please correct!"_s);
-        QCOMPARE(p_->Programm().Diagramme().vorne(), 8);
+        QCOMPARE(p_->Programm().zeige<Diagrammsteuerung>().vorne(), 8);
         QVERIFY(p_->sichtbar("Abdeckung"));
     }
 
@@ -117,8 +117,8 @@ private Q_SLOTS:
             QTest::keyClick(Liste(d, "Skalierung_X_Achse"), Qt::Key_Return);
         });
         QCOMPARE(p_->Programm().Stand().Zeichnung, vorher + 1);
-        QCOMPARE(p_->Programm().Diagramme().X_Start(), 20.0);
-        QCOMPARE(p_->Programm().Diagramme().X_Ende(), 1000.0);
+        QCOMPARE(p_->Programm().zeige<Diagrammsteuerung>().X_Start(), 20.0);
+        QCOMPARE(p_->Programm().zeige<Diagrammsteuerung>().X_Ende(), 1000.0);
         QCOMPARE(p_->vorn()->Inhalt()->Kurven.front().erster_Tag, 20);
         QCOMPARE(p_->vorn()->Inhalt()->Kurven.front().Werte.size(), std::size_t(981));
         QVERIFY(!p_->sichtbar("Abdeckung"));
@@ -139,7 +139,7 @@ private Q_SLOTS:
         });
         QCOMPARE(Text.trimmed(), u"The maximum Time shown on the x-axis must be between 2 d and 3650 d!"_s);
         QVERIFY(offen);
-        QCOMPARE(p_->Programm().Diagramme().X_Ende(), 364.0);
+        QCOMPARE(p_->Programm().zeige<Diagrammsteuerung>().X_Ende(), 364.0);
     }
 
     void cancel_stores_nothing_and_runs_all_the_same() {
@@ -148,7 +148,7 @@ private Q_SLOTS:
             Liste(d, "Skalierung_X_Achse")->setEditText(u"1000"_s);
             d.findChild<QPushButton*>(u"Abbrechen"_s)->click();
         });
-        QCOMPARE(p_->Programm().Diagramme().X_Ende(), 364.0);
+        QCOMPARE(p_->Programm().zeige<Diagrammsteuerung>().X_Ende(), 364.0);
         QCOMPARE(p_->Programm().Stand().Zeichnung, vorher + 1);
     }
 
@@ -296,7 +296,7 @@ private Q_SLOTS:
     }
 
     void the_report_takes_the_legend_from_where_it_was_dragged_to() {
-        const auto Ort = [&] { return p_->Programm().Diagramme().Legende(); };
+        const auto Ort = [&] { return p_->Programm().zeige<Diagrammsteuerung>().Legende(); };
         QVERIFY(!Ort());
         auto* Legende = p_->Teil<QWidget>("Legendenrahmen_0");
         ziehe(Legende, QPoint(5, 5), QPoint(-200, 150));
@@ -337,7 +337,7 @@ private:
     // The picture of the report that comes of it; none without one.
     QImage Berichtsbild_bei(const std::function<void()>& Handlung) {
         Handlung();
-        const Bericht* b = p_->Programm().offener_Bericht();
+        const Bericht* b = p_->Programm().zeige<Berichtssteuerung>().offener();
         if (!b) return {};
         const QVariant Bild = b->Dokument->resource(QTextDocument::ImageResource, QUrl(QString::fromLatin1(Bildname)));
         p_->klicke("Bericht_schliessen");

@@ -66,9 +66,9 @@ private Q_SLOTS:
 
     void a_title_that_is_too_long_for_two_lines_has_its_text_as_tip() {
         p_->waehle_Simulation("Sugar beet, Compound E");
-        p_->Programm().oeffne_Beschreibung();
-        p_->Programm().aendere_Beschreibung(std::string(60, 'w') + " and " + std::string(60, 'm'));
-        p_->Programm().schliesse_Beschreibung();
+        p_->Programm().fuehre_aus<&Beschreibungseingabe::oeffne>();
+        p_->Programm().fuehre_aus<&Beschreibungseingabe::aendere>(std::string(60, 'w') + " and " + std::string(60, 'm'));
+        p_->Programm().fuehre_aus<&Beschreibungseingabe::schliesse>();
         p_->Fenster().zeige();
         p_->Fenster().resize(p_->Fenster().minimumSize());
         QTest::qWait(30);

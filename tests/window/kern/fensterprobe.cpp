@@ -48,7 +48,7 @@ Fensterprobe::Fensterprobe(Rueckfrage* Fragen, const std::function<void(const QS
     if (Projekt) Projekt(Ordner_.path());
     Programm_ = std::make_unique<Sitzung>(
         Umgebung{Fragen ? Fragen : &Fragen_, aus_Qt(Ordner_.path()), VARNOK_DATENORDNER, '.', nullptr, Update});
-    if (!Programm_->oeffne_Projekt()) qFatal("the project cannot be loaded");
+    if (!Programm_->fuehre_aus<&Programmablauf::oeffne_Projekt>()) qFatal("the project cannot be loaded");
     Fenster_ = std::make_unique<Hauptformular>(*Programm_, &Fragen_);
     Fenster_->resize(1180, 760);
     Fenster_->show();

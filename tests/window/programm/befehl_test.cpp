@@ -212,7 +212,7 @@ private Q_SLOTS:
             QVERIFY(!p_->Fenster().isVisible());
             return;
         }
-        QCOMPARE(p_->Programm().aktives_Feld(), -1);
+        QCOMPARE(p_->Programm().zeige<Feldeingabe>().aktives_Feld(), -1);
         QVERIFY(!Stand().Hinweis());
         QVERIFY(!p_->sichtbar("Abdeckung"));
     }

@@ -19,7 +19,6 @@
 #include "painting/qt_text.h"
 #include "window/kern/anmeldung.h"
 #include "window/kern/fensterprobe.h"
-#include "window/programm/programmordner_test.h"
 
 using namespace Qt::StringLiterals;
 using namespace varnok;
@@ -108,7 +107,7 @@ private Q_SLOTS:
         p_->tippe("S_DT50_0", "20");
         p_->druecke_langsam("Aktualisieren");
         QCOMPARE(p_->Programm().Stand().Zeichnung, vorher + 1);
-        QCOMPARE(p_->Programm().aktives_Feld(), -1);
+        QCOMPARE(p_->Programm().zeige<Feldeingabe>().aktives_Feld(), -1);
     }
 
     void a_button_held_down_out_of_an_invalid_field_tells_it_once() {
@@ -138,7 +137,7 @@ private Q_SLOTS:
         p_->tippe("S_DT50_0", "12");
         QTest::mouseClick(p_->Teil<QLineEdit>("S_Q10_0"), Qt::LeftButton);
         QTest::qWait(20);
-        QCOMPARE(p_->Programm().aktives_Feld(), Feld_mit_Namen("S_Q10_0"));
+        QCOMPARE(p_->Programm().zeige<Feldeingabe>().aktives_Feld(), Feld_mit_Namen("S_Q10_0"));
         QVERIFY(!p_->sichtbar("Abdeckung"));
     }
 
@@ -355,7 +354,6 @@ private:
 
 namespace {
 const Anmeldung<Fenstertest> angemeldet;
-const Anmeldung<Programmordnertest> Ordner_angemeldet;
 }  // namespace
 
 #include "fenster_test.moc"

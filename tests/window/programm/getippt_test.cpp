@@ -329,7 +329,7 @@ private Q_SLOTS:
         QTest::qWait(20);
         QVERIFY(p_->sichtbar("Bericht"));
         QVERIFY(p_->Teil<QTextEdit>("Bericht")->toPlainText().contains(u"Quite new"_s));
-        const Diagramm* Bild = p_->Programm().Diagramme().vorderes();
+        const Diagramm* Bild = p_->Programm().zeige<Diagrammsteuerung>().vorderes();
         QVERIFY(Bild != nullptr);
         const std::string Beschriftung = Bild->Titel.Text + Bild->Kommentar.Text;
         QVERIFY2(Beschriftung.find("Quite new") != std::string::npos, Beschriftung.c_str());

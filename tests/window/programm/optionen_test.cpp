@@ -182,7 +182,7 @@ private Q_SLOTS:
         starte();
         p_->tippe("S_DT50_0", "3");
         mit_Dialog([&](QDialog& d) {
-            QCOMPARE(p_->Programm().aktives_Feld(), -1);
+            QCOMPARE(p_->Programm().zeige<Feldeingabe>().aktives_Feld(), -1);
             QVERIFY(!p_->sichtbar("Abdeckung"));
             d.reject();
         });

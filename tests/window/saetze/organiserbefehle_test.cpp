@@ -232,7 +232,7 @@ private Q_SLOTS:
         QVERIFY(!p_->sichtbar("Bericht"));  // it told of the old one
         p_->klicke("Bericht_erstellen");
         QVERIFY(p_->Teil<QTextEdit>("Bericht")->toPlainText().contains(u"Quite new"_s));
-        const Diagramm* Bild = p_->Programm().Diagramme().vorderes();
+        const Diagramm* Bild = p_->Programm().zeige<Diagrammsteuerung>().vorderes();
         QVERIFY(Bild != nullptr);
         QVERIFY((Bild->Titel.Text + Bild->Kommentar.Text).find("Quite new") != std::string::npos);
     }

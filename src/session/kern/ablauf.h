@@ -1,0 +1,35 @@
+#pragma once
+
+#include "session/kern/zustand.h"
+
+namespace varnok {
+
+// What stands around a command. Everywhere a fault becomes a message, what was entered stays, and the program goes on.
+enum class Weg {
+    Zwischenschritt,  // of a dialog, a cell, a text in work: nothing follows
+    Handlung,         // what follows from the values: drawing, step in the history, status line
+    Befehl,           // the same, after the field in work was accepted and run; where it refuses its value nothing is done
+    Rechenbefehl,     // the same, but the field's run is left out: the command makes one
+};
+
+struct Ablauf {
+    varnok::Weg Weg;
+    bool nach_Fehler = false;            // the answer of a command that ended with a fault
+    bool Zustand::*ohne_Feld = nullptr;  // with that mark a command leaves the field in work as it is
+};
+
+// Names a command for `Ablauf_von`, see ablaeufe.h. What has no line there is no command.
+template <auto Befehl>
+struct Tat {};
+
+// The part that a command belongs to.
+template <class Funktion>
+struct Traeger;
+template <class T, class Funktion>
+struct Traeger<Funktion T::*> {
+    using Teil = T;
+};
+template <auto Befehl>
+using Teil_mit = typename Traeger<decltype(Befehl)>::Teil;
+
+}  // namespace varnok

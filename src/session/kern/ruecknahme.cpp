@@ -1,0 +1,43 @@
+#include "session/kern/ruecknahme.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "session/kern/unterschied.h"
+
+namespace varnok {
+
+void Ruecknahme::mache_rueckgaengig() {
+    if (Verlauf_.kann_zurueck()) stelle_her(Verlauf_.zurueck());
+}
+
+void Ruecknahme::wiederhole() {
+    if (Verlauf_.kann_vor()) stelle_her(Verlauf_.vor());
+}
+
+// A field in work is no step yet.
+void Ruecknahme::merke() {
+    if (std::exchange(z_.Verlauf_beginnt, false)) return Verlauf_.beginne(z_.Vorgabe);
+    if (!Felder_.ist_in_Arbeit()) Verlauf_.merke(z_.Vorgabe);
+}
+
+// An input of the history in place of the present one, with the study and the compound in view that it concerns.
+void Ruecknahme::stelle_her(const Eingabe& e) {
+    const Unterschied u = vergleiche(z_.Vorgabe, e);
+    z_.Vorgabe = e;
+    for (const Satzart Art : {Simulation, Wirkstoff, Applikation, Szenario}) {
+        if (u.Arten[Art]) z_.Saetze[Art].Geaendert = true;
+    }
+    if (u.i_studie >= 0) z_.Sicht.Studie_Index = u.i_studie;
+    z_.Sicht.Studie_Index = std::min(z_.Sicht.Studie_Index, z_.Studienzahl() - 1);
+    if (z_.Studienzahl() < 2) z_.Zusammenfassung_aktiv = false;
+    if (u.i_substanz >= 0) z_.Sicht.Substanz = u.i_substanz;
+    if (z_.Sicht.Substanz >= Anzahl_Stoffe(z_.Vorgabe.Berechnungsmodus)) z_.Sicht.Substanz = 0;
+    Felder_.fuelle();
+    Diagramme_.bringe_nach_vorn(z_.Sicht.Substanz);
+    Laeufe_.berechne();
+    // A run repairs the table; the step is the table as it was, or there would be no way past it.
+    z_.Vorgabe.Applikationsschema = e.Applikationsschema;
+}
+
+}  // namespace varnok

@@ -1,0 +1,16 @@
+#include "session/programm/einstellungsdatei.h"
+
+#include "records/dateien.h"
+
+namespace varnok {
+
+std::string Einstellungspfad(const Zustand& z) { return z.Welt.Programmpfad + "/VARNOK.ini"; }
+
+void Einstellungen_schreiben(const Zustand& z) {
+    Einstellungen e = z.Einstellung;
+    e.Projektpfad = z.Projektpfad;
+    e.TWA = z.Parameter().TWA;
+    schreibe_Datei(Einstellungspfad(z), Einstellungen_als_Bytes(e));
+}
+
+}  // namespace varnok

@@ -1,0 +1,141 @@
+#include "session/programm/programmablauf.h"
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "base/laufzeitfehler.h"
+#include "exposure/twa.h"
+#include "records/dateien.h"
+#include "records/simulation.h"
+#include "records/voreinstellungen.h"
+#include "session/kern/texte.h"
+#include "session/programm/einstellungsdatei.h"
+
+namespace varnok {
+namespace {
+
+std::optional<Einstellungen> lies_Einstellungen(const Zustand& z) {
+    try {
+        return zerlege_Einstellungen(lies_Datei(Einstellungspfad(z)));
+    } catch (const Laufzeitfehler&) {
+        return std::nullopt;  // a missing file is the usual case of a first start
+    }
+}
+
+// A settings file that is missing or cannot be read is made anew from the defaults without a word.
+void lade_Einstellungen(Zustand& z) {
+    const auto gelesen = lies_Einstellungen(z);
+    z.Einstellung = gelesen.value_or(Einstellungen{});
+    const bool hier = z.Welt.Projekt_genannt || z.Einstellung.Projektpfad.empty();
+    z.Projektpfad = hier ? z.Welt.Programmpfad : z.Einstellung.Projektpfad;
+    z.Parameter().TWA = z.Einstellung.TWA;
+    if (!gelesen) Einstellungen_schreiben(z);
+}
+
+void oeffne_Ordner(Zustand& z) {
+    try {
+        z.Ordner.emplace(z.Projektpfad);
+    } catch (const Laufzeitfehler&) {
+        z.Statuszeile = "The project path \"" + z.Projektpfad + "\" is not there; \"" + z.Welt.Programmpfad + "\" is used.";
+        z.Projektpfad = z.Welt.Programmpfad;
+        z.Ordner.emplace(z.Projektpfad);
+    }
+    z.Ausgabeprojekt = z.Ordner;
+}
+
+// The newest first; before it the one that the program was called with.
+std::vector<std::string> Startfolge(const Zustand& z) {
+    std::vector<std::string> Namen = Simulationen_nach_Alter(*z.Ordner);
+    const auto gewollte = std::find(Namen.begin(), Namen.end(), z.Welt.erste_Simulation);
+    if (gewollte != Namen.end()) std::rotate(Namen.begin(), gewollte, gewollte + 1);
+    return Namen;
+}
+
+// The text of a fault, empty without one.
+template <class Handlung>
+std::string Fehler_bei(Handlung h) {
+    try {
+        h();
+        return {};
+    } catch (const Laufzeitfehler& f) {
+        return f.what();
+    }
+}
+
+}  // namespace
+
+// Loads the first simulation of the order whose summary file can be read. False without any, or if the program ends.
+bool Programmablauf::lade_erste() {
+    for (const std::string& Name : Startfolge(z_)) {
+        try {
+            Saetze_.lade_Start(Name);
+            return !z_.beendet;
+        } catch (const Laufzeitfehler& f) {
+            melde(z_, Texte::Laufzeitfehler, f.what());
+        }
+    }
+    Saetze_.beende_oder_stelle_her("Input files are missing. Should the default settings be loaded ", true);
+    return false;
+}
+
+bool Programmablauf::oeffne_Projekt() {
+    z_.Namen[Simulation] = Startsimulation;
+    lade_Einstellungen(z_);
+    oeffne_Ordner(z_);
+    z_.Sperre = std::make_shared<Projektsperre>(*z_.Ordner);
+    if (z_.Sperre->von_anderem_gehalten()) melde(z_, Texte::Ordner_in_Gebrauch, Texte::zweites_Fenster);
+    Saetze_.fuelle_Listen();
+    z_.Sicht.TWA_Laenge = TWA_Vorauswahl(z_.Parameter().TWA_Zeiten);
+    z_.Felder().Studie = {""};  // what stands under the cover where no compound can be read
+    return lade_erste() && !z_.beendet;
+}
+
+void Programmablauf::starte() {
+    if (z_.Gestartet) return;
+    z_.Gestartet = true;
+    // The handler of the pattern makes the first run; what it marks is no change of the user.
+    Listen_.fuehre_Muster_aus();
+    for (Satzplatz& p : z_.Saetze) p.Geaendert = false;
+}
+
+// What is not saved at the end goes into `backup`. Where that is not possible the user decides, or the program could never end.
+bool Programmablauf::sichere_am_Ende() {
+    try {
+        Saetze_.sichere_Ungesichertes();
+        return true;
+    } catch (const Laufzeitfehler& f) {
+        const std::string Text = std::string(f.what()) + "\nIt cannot be kept. Go on?";
+        return z_.Welt.Fragen->frage({Texte::Laufzeitfehler, Text, Symbol::Ausrufezeichen, {Knopf::Ja, Knopf::Nein}}) ==
+               Knopf::Ja;
+    }
+}
+
+void Programmablauf::beende() {
+    const auto zu_sichern = Saetze_.frage_nach_Sicherung();
+    if (!zu_sichern || !Saetze_.pruefe_Auswahl({Knopf::OK, Knopf::Abbrechen})) return;
+    if (!zu_sichern->empty() && !Saetze_.speichere_Arten(*zu_sichern)) return;
+    // A save has just written the summary file, unless it was not read: then its time is what is missing.
+    const bool geschrieben = !zu_sichern->empty() && z_.Saetze[Simulation].gelesen;
+    bool weiter = true;
+    std::string Fehler;
+    if (!geschrieben && (z_.Saetze[0].Geaendert || z_.Neu_berechnen()))
+        Fehler = Fehler_bei([&] { weiter = Saetze_.schreibe_Zusammenfassungsdatei(); });
+    if (!weiter || !sichere_am_Ende()) return;
+    const std::string zweiter = Fehler_bei([&] { Einstellungen_schreiben(z_); });
+    Fehler += (Fehler.empty() || zweiter.empty() ? "" : "\n") + zweiter;
+    if (!Fehler.empty()) melde(z_, Texte::Laufzeitfehler, Fehler);
+    z_.beendet = true;
+}
+
+bool Programmablauf::schliesse_Fenster() {
+    if (z_.beendet) return true;
+    Felder_.nimm_Ungueltiges_zurueck();
+    const auto zu_sichern = Saetze_.frage_nach_Sicherung();
+    if (!zu_sichern) return false;
+    if (!zu_sichern->empty() && !Saetze_.speichere_Arten(*zu_sichern)) return false;
+    z_.beendet = sichere_am_Ende();
+    return z_.beendet;
+}
+
+}  // namespace varnok

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "session/eingabe/feldeingabe.h"
+#include "session/eingabe/listenwahl.h"
+#include "session/saetze/satzverwaltung.h"
+
+namespace varnok {
+
+// From the first file that is read to the end of the program.
+class Programmablauf {
+public:
+    Programmablauf(Zustand& z, Satzverwaltung& Saetze, Feldeingabe& Felder, Listenwahl& Listen)
+        : z_(z), Saetze_(Saetze), Felder_(Felder), Listen_(Listen) {}
+
+    // Up to the start page: settings, project folder, selectors, the simulation used last and its records. False if the program
+    // ends there.
+    bool oeffne_Projekt();
+    // The start page is left: the first run.
+    void starte();
+    // The button `Ende`: offers to save, writes summary file and settings; what is not saved is in `backup`. Files that cannot be
+    // written are told.
+    void beende();
+    // The close box: offers to save and writes nothing else but `backup`. False if the window stays.
+    bool schliesse_Fenster();
+
+private:
+    bool lade_erste();
+    bool sichere_am_Ende();
+
+    Zustand& z_;
+    Satzverwaltung& Saetze_;
+    Feldeingabe& Felder_;
+    Listenwahl& Listen_;
+};
+
+}  // namespace varnok

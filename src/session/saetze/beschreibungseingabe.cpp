@@ -1,0 +1,32 @@
+#include "session/saetze/beschreibungseingabe.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace varnok {
+
+void Beschreibungseingabe::oeffne() {
+    alter_Text_ = z_.Felder().Beschreibung;
+    alte_Marke_ = z_.Saetze[Simulation].Geaendert;
+    z_.Beschreibung_offen = true;
+}
+
+void Beschreibungseingabe::aendere(const std::string& Text) {
+    std::string eine_Zeile = Text;
+    std::replace_if(
+        eine_Zeile.begin(), eine_Zeile.end(), [](char c) { return c == '\n' || c == '\r'; }, ' ');
+    if (eine_Zeile == z_.Felder().Beschreibung) return;
+    z_.Felder().Beschreibung = eine_Zeile;
+    z_.Ergebnisdatei.clear();
+    z_.Saetze[Simulation].Geaendert = true;
+}
+
+void Beschreibungseingabe::schliesse() { z_.Beschreibung_offen = false; }
+
+void Beschreibungseingabe::nimm_zurueck() {
+    if (!std::exchange(z_.Beschreibung_offen, false)) return;
+    z_.Felder().Beschreibung = alter_Text_;
+    z_.Saetze[Simulation].Geaendert = alte_Marke_;
+}
+
+}  // namespace varnok

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "session/kern/zustand.h"
+
+namespace varnok {
+
+// The description of the simulation, typed on the main screen.
+class Beschreibungseingabe {
+public:
+    explicit Beschreibungseingabe(Zustand& z) : z_(z) {}
+
+    void oeffne();
+    // A line end is not kept: a summary file holds the text in one line.
+    void aendere(const std::string& Text);
+    void schliesse();
+    // Esc: text and mark are as on opening.
+    void nimm_zurueck();
+
+private:
+    Zustand& z_;
+    std::string alter_Text_;
+    bool alte_Marke_ = false;  // of the simulation
+};
+
+}  // namespace varnok
