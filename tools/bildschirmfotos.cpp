@@ -1,14 +1,16 @@
 // Takes the pictures of the window that the documentation shows. Walks through the program as a user would, on a copy of
 // the shipped data, without a display:
 //
-//     bildschirmfotos <folder for the pictures> [dark|large]
+//     bildschirmfotos <folder for the pictures> [dark|large|diagrams|scale <name>]
 //
-// "dark" takes them on a dark desktop, "large" with large letters.
+// "dark" takes them on a dark desktop, "large" with large letters; "diagrams" takes the diagrams alone, "scale" one of them,
+// named for the scale that the environment gives the screen.
 
 #include <QApplication>
 #include <QComboBox>
 #include <QDialog>
 #include <QDir>
+#include <QHash>
 #include <QLineEdit>
 #include <QLocale>
 #include <QMenu>
@@ -23,6 +25,7 @@
 #include <QTimer>
 #include <QToolTip>
 #include <QtGui/QHelpEvent>
+#include <algorithm>
 #include <functional>
 #include <utility>
 
@@ -95,7 +98,72 @@ public:
         zeige_Meldung();
     }
 
+    // All kinds of diagrams in all views: on the screen at four sizes, and as pictures in colours and for print.
+    void zeige_Diagramme() {
+        Taste(u"Starten"_s);
+        const std::pair<QString, int> Arten[] = {{u"one_compound"_s, 0}, {u"all_compounds"_s, 3}};
+        const std::pair<QString, QString> Ansichten[] = {
+            {u"annual"_s, u"PEC_Typ_0"_s}, {u"background"_s, u"PEC_Typ_1"_s}, {u"accumulated"_s, u"PEC_Typ_2"_s}};
+        waehle_Simulation(u"Sugar beet, Compound E"_s);
+        for (const auto& [Ansicht, Knopf] : Ansichten) {
+            for (const auto& [Art, Klicks] : Arten) {
+                Option(u"PEC_Typ_0"_s);  // with the parent in front
+                Option(Knopf);
+                klicke_weiter(Klicks);
+                nimm_Diagramm_auf(Art + u'_' + Ansicht);
+            }
+            befehle(u"M_Zusammenfassung"_s);
+            nimm_Diagramm_auf(u"all_studies_"_s + Ansicht);
+            befehle(u"M_Studien"_s);
+        }
+        waehle_Simulation(u"Maize, Compound G"_s);  // twelve averages
+        Option(u"PEC_Typ_0"_s);
+        nimm_Diagramm_auf(u"twelve_averages"_s);
+    }
+
+    // One diagram of each kind, as the screen shows it at its scale.
+    void zeige_Massstab(const QString& Massstab) {
+        Taste(u"Starten"_s);
+        waehle_Simulation(u"Sugar beet, Compound E"_s);
+        Option(u"PEC_Typ_0"_s);
+        klicke_weiter(3);
+        Fenster_->resize(900, 560);
+        QTest::qWait(60);
+        sichere(vorn()->grab().toImage(), u"scale_"_s + Massstab + u".png"_s);
+    }
+
 private:
+    void nimm_Diagramm_auf(const QString& Name) {
+        for (const QSize& g : {QSize(900, 560), QSize(1180, 760), QSize(1440, 900), QSize(2000, 1200)}) {
+            Fenster_->resize(g);
+            QTest::qWait(40);
+            sichere(vorn()->grab().toImage(), Name + u'_' + in_Qt(g.width()) + u".png"_s);
+        }
+        const QSizeF Groesse(mm_in_Einheiten(120), mm_in_Einheiten(90));
+        for (const bool Druck : {false, true}) {
+            const Zeichenliste z = mit_Beschriftung(*vorn()->Inhalt(), {.Groesse = Groesse, .fuer_Druck = Druck});
+            const QString Datei = Name + (Druck ? u"_for_print.png"_s : u"_saved.png"_s);
+            sichere(Bild_als_Pixel(z, Groesse, 150), Datei);
+        }
+        Fenster_->resize(1180, 760);
+        QTest::qWait(40);
+    }
+
+    // With its 256 commonest colours, the others as the nearest of these: a third of the size, and the eye sees no difference.
+    void sichere(const QImage& Bild, const QString& Datei) const {
+        const QImage bunt = Bild.convertToFormat(QImage::Format_RGB32);
+        QHash<QRgb, int> Anzahl;
+        for (int y = 0; y < bunt.height(); ++y) {
+            for (int x = 0; x < bunt.width(); ++x) ++Anzahl[bunt.pixel(x, y)];
+        }
+        QList<QRgb> Farben = Anzahl.keys();
+        std::sort(Farben.begin(), Farben.end(),
+                  [&](QRgb a, QRgb b) { return std::pair(Anzahl[b], a) < std::pair(Anzahl[a], b); });
+        Farben.resize(std::min<qsizetype>(256, Farben.size()));
+        bunt.convertToFormat(QImage::Format_Indexed8, Farben, Qt::ThresholdDither | Qt::AvoidDither)
+            .save(Ziel_.filePath(Datei), "PNG", -1);
+    }
+
     void kopiere_Projekt() {
         const QDir von(QStringLiteral(VARNOK_DATENORDNER "/input"));
         QDir(Projekt_.path()).mkpath(u"input"_s);
@@ -147,15 +215,16 @@ private:
 
     // The picture that "Save picture as" makes of the diagram in front.
     void gib_aus(const QString& Name) {
-        const Zeichenliste z = mit_Beschriftung(*vorn()->Inhalt(), vorn()->Legende()->gezogen());
-        Bild_als_Pixel(z, 150).save(Ziel_.filePath(Name + u".png"_s), "PNG", -1);
+        const QSizeF Groesse(mm_in_Einheiten(160), mm_in_Einheiten(125));
+        const Zeichenliste z = mit_Beschriftung(*vorn()->Inhalt(), {.Groesse = Groesse, .Legende = vorn()->Legende()->gezogen()});
+        sichere(Bild_als_Pixel(z, Groesse, 150), Name + u".png"_s);
     }
 
     // The mouse over a curve.
     void zeige_Ablesung() {
         QTest::mouseMove(vorn(), QPoint(vorn()->width() / 3, vorn()->height() / 2));
         QTest::qWait(30);
-        Fenster_->grab().save(Ziel_.filePath(u"reading_1180.png"_s), "PNG", -1);
+        sichere(Fenster_->grab().toImage(), u"reading_1180.png"_s);
     }
 
     void zeige_Skalierung() {
@@ -176,7 +245,7 @@ private:
             QTimer::singleShot(150, Fenster_.get(), [this, Bild = Name] {
                 auto* Dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
                 if (!Dialog) qFatal("no dialog");
-                Dialog->grab().save(Ziel_.filePath(Bild + u".png"_s), "PNG", -1);
+                sichere(Dialog->grab().toImage(), Bild + u".png"_s);
                 Dialog->reject();
             });
             befehle(Eintrag);
@@ -196,7 +265,7 @@ private:
             if (w->inherits("QTipLabel") && w->isVisible())
                 QPainter(&Bild).drawPixmap(Fenster_->mapFromGlobal(w->pos()), w->grab());
         }
-        Bild.save(Ziel_.filePath(u"tooltip_1180.png"_s), "PNG", -1);
+        sichere(Bild.toImage(), u"tooltip_1180.png"_s);
         QToolTip::hideText();
     }
 
@@ -211,7 +280,7 @@ private:
             QTest::qWait(30);
             QPixmap Bild = Fenster_->grab();
             male_Kasten(Bild, *Dialog);
-            Bild.save(Ziel_.filePath(u"dialog_simulationen.png"_s), "PNG", -1);
+            sichere(Bild.toImage(), u"dialog_simulationen.png"_s);
             Dialog->reject();
         });
         befehle(u"M_Laden"_s);
@@ -244,7 +313,7 @@ private:
         QTest::qWait(60);
         QPixmap Bild = Fenster_->grab();
         male_Kasten(Bild, Dialog);
-        Bild.save(Ziel_.filePath(Name + u".png"_s), "PNG", -1);
+        sichere(Bild.toImage(), Name + u".png"_s);
     }
 
     void zeige_Eingabe() {
@@ -285,14 +354,14 @@ private:
         p.drawPixmap(Platz.topLeft() + QPoint(1, Balken), Kasten.grab());
     }
 
-    // Small and large; a dialog in front is drawn into the picture.
-    void fotografiere(const QString& Name, const QList<QSize>& Groessen = {QSize(1180, 760), QSize(2360, 1520)}) {
+    // A dialog in front is drawn into the picture.
+    void fotografiere(const QString& Name, const QList<QSize>& Groessen = {QSize(1180, 760)}) {
         for (const QSize& Groesse : Groessen) {
             Fenster_->resize(Groesse);
             QTest::qWait(60);
             QPixmap Bild = Fenster_->grab();
             if (QWidget* Kasten = QApplication::activeModalWidget()) male_Kasten(Bild, *Kasten);
-            Bild.save(Ziel_.filePath(Name + u'_' + QString::number(Groesse.width()) + u".png"_s), "PNG", -1);
+            sichere(Bild.toImage(), Name + u'_' + QString::number(Groesse.width()) + u".png"_s);
         }
         Fenster_->resize(1180, 760);
         QTest::qWait(30);
@@ -321,11 +390,18 @@ QPalette dunkle_Palette() {
 int main(int argc, char** argv) {
     QApplication Anwendung(argc, argv);
     const QStringList Argumente = QApplication::arguments();
-    if (argc < 2) qFatal("usage: bildschirmfotos <folder> [dark|large]");
+    if (argc < 2) qFatal("usage: bildschirmfotos <folder> [dark|large|diagrams|scale <name>]");
     QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
     QApplication::setFont(QFont(u"DejaVu Sans"_s, Argumente.contains(u"large"_s) ? 14 : 9));
     if (Argumente.contains(u"dark"_s)) QApplication::setPalette(dunkle_Palette());
     QLocale::setDefault(QLocale::c());
-    Fotograf(Argumente[1]).gehe_durch();
+    Fotograf Fotos(Argumente[1]);
+    if (Argumente.contains(u"diagrams"_s)) {
+        Fotos.zeige_Diagramme();
+    } else if (Argumente.contains(u"scale"_s)) {
+        Fotos.zeige_Massstab(Argumente.back());
+    } else {
+        Fotos.gehe_durch();
+    }
     return 0;
 }

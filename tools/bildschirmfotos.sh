@@ -4,6 +4,7 @@
 #     tools/bildschirmfotos.sh          for the documentation
 #     tools/bildschirmfotos.sh dark     on a dark desktop, into build/bilder-dark
 #     tools/bildschirmfotos.sh large    with large letters, into build/bilder-large
+#     tools/bildschirmfotos.sh diagrams    the diagrams alone, at four sizes and four scales, into docs/bilder/diagrams
 set -euo pipefail
 source "$(dirname "${BASH_SOURCE[0]}")/umgebung.sh"
 
@@ -13,6 +14,7 @@ baue bildschirmfotos
 Programm=$(find "$Bauordner" -type f -name bildschirmfotos -perm -u+x -print -quit)
 Ziel=$Wurzel/docs/bilder
 [[ $# -eq 0 ]] || Ziel=$Wurzel/build/bilder-$1
+[[ "${1:-}" != diagrams ]] || Ziel=$Wurzel/docs/bilder/diagrams
 
 # A screen that the large pictures fit on.
 Bildschirm=$(mktemp)
@@ -28,3 +30,8 @@ mkdir -p "$XDG_RUNTIME_DIR"
 chmod 700 "$XDG_RUNTIME_DIR"
 
 "$Programm" "$Ziel" "$@"
+if [[ "${1:-}" == diagrams ]]; then
+    for Massstab in 1 1.25 1.5 2; do
+        QT_SCALE_FACTOR=$Massstab "$Programm" "$Ziel" scale "$Massstab"
+    done
+fi

@@ -1,5 +1,6 @@
 #include "diagrams/beschriftung.h"
 
+#include "base/text.h"
 #include "run/zeitachse.h"
 
 namespace varnok {
@@ -24,25 +25,31 @@ Flaechenort im_Rahmen(const Flaechenrechteck& r, Flaechenort Ort) {
 
 enum class Schnitt { normal, fett, kursiv };
 
-void schreibe(Zeichenliste& z, Punkt Ort, const std::string& Inhalt, int Farbe, Schnitt s) {
-    z.Texte.push_back({Ort, Inhalt, Farbe, Schriftgroesse, s == Schnitt::fett, s == Schnitt::kursiv, true});
+void schreibe(Zeichenliste& z, Punkt Ort, std::string_view Inhalt, int Farbe, Schnitt s, int Groesse = Schriftgroesse,
+              Anker Halt = Anker::links) {
+    z.Texte.push_back({Ort, std::string(Inhalt), Farbe, Groesse, s == Schnitt::fett, s == Schnitt::kursiv, true, Halt});
 }
 
-void schreibe_Beschriftung(Zeichenliste& z, const Beschriftung& b, Flaechenort Ort, int Farbe, Schnitt s) {
+void schreibe_Beschriftung(Zeichenliste& z, const Beschriftung& b, Flaechenort Ort, int Farbe, Schnitt s, double Zeile = 0) {
     Punkt p = logisch(z.System, Ort);
     if (b.links) p.x = *b.links;
-    schreibe(z, p, b.Text, Farbe, s);
+    if (b.Mitte) p.x = *b.Mitte;
+    for (const std::string_view Inhalt : zerlege_an(b.Text, '\n')) {
+        schreibe(z, p, Inhalt, Farbe, s, b.Groesse, b.Mitte ? Anker::mittig : Anker::links);
+        p.y -= Zeile * z.System.Hoehe();
+    }
 }
 
 void zeichne_Legende(Zeichenliste& z, const Legende& l, const Beschriftungsplaetze& p) {
     const Flaechenrechteck& r = p.Legendenrahmen;
-    z.Kaesten.push_back({logisch(z.System, {r.links, r.oben}), logisch(z.System, {r.links + r.Breite, r.oben + r.Hoehe})});
+    z.Kaesten.push_back({logisch(z.System, {r.links, r.oben}), logisch(z.System, {r.links + r.Breite, r.oben + r.Hoehe}), Schwarz,
+                         1, z.Linien.size()});
     for (const Legendenzeile& Zeile : Legendenzeilen(l, p.Musterlinie_links)) {
         schreibe(z, logisch(z.System, im_Rahmen(r, Zeile.Textort)), Zeile.Text, Schwarz, Schnitt::normal);
         if (Zeile.Ueberschrift) continue;
         z.Linien.push_back({logisch(z.System, im_Rahmen(r, {Zeile.Linie_links, Zeile.Linie_oben})),
                             logisch(z.System, im_Rahmen(r, {Zeile.Linie_rechts, Zeile.Linie_oben})), Zeile.Linie.Farbe,
-                            Zeile.Linie.Breite});
+                            Zeile.Linie.Breite, Zeile.Linie.Muster});
     }
 }
 
@@ -79,11 +86,11 @@ Punkt logisch(const Koordinaten& k, Flaechenort Ort) { return {k.links + Ort.lin
 
 void erstelle_Diagramm_kopiere_Beschriftung(Diagramm& d, const Beschriftungsplaetze& p) {
     Zeichenliste& z = d.Liste;
-    schreibe_Beschriftung(z, d.Titel, {0, p.Titel_oben}, d.Titel.Farbe, Schnitt::fett);
+    schreibe_Beschriftung(z, d.Titel, {0, p.Titel_oben}, d.Titel.Farbe, Schnitt::fett, p.Titelzeile);
     schreibe_Beschriftung(z, d.Name_x_Achse, p.Name_x_Achse, d.Titel.Farbe, Schnitt::fett);  // in the title's colour
     schreibe_Beschriftung(z, d.Name_y_Achse, p.Name_y_Achse, d.Titel.Farbe, Schnitt::fett);
-    schreibe_Beschriftung(z, d.Kommentar, {0, p.Kommentar_oben}, d.Kommentar.Farbe, Schnitt::kursiv);
-    zeichne_Legende(z, d.Legendeninhalt, p);
+    schreibe_Beschriftung(z, d.Kommentar, {0, p.Kommentar_oben}, d.Kommentar.Farbe, Schnitt::kursiv, p.Kommentarzeile);
+    if (p.mit_Legende) zeichne_Legende(z, d.Legendeninhalt, p);
 }
 
 void erstelle_Diagramm_zusammenfassung_kopiere_Beschriftung(Diagramm& d, const Beschriftungsplaetze& p) {

@@ -23,10 +23,13 @@ struct Flaechenrechteck {
 struct Beschriftungsplaetze {
     double Titel_oben = 0.010;
     double Kommentar_oben = 0.048;
+    double Titelzeile = 0.036;  // from one line of a label to its next
+    double Kommentarzeile = 0.036;
     Flaechenort Name_x_Achse = {0.390, 0.955};
     Flaechenort Name_y_Achse = {0.005, 0.010};
     Flaechenrechteck Legendenrahmen;
     double Musterlinie_links = 0.66;  // where sample lines begin, in fractions of the legend's frame
+    bool mit_Legende = true;
 };
 
 // A row of a legend, its places in fractions of the legend's frame from the upper left corner.
@@ -55,8 +58,8 @@ Beschriftungsplaetze Heimatplaetze(const Legende& l);
 // A place of the surface in the logical coordinates of a drawing.
 Punkt logisch(const Koordinaten& k, Flaechenort Ort);
 
-// Draws title, axis names, comment, and the legend with its box into the list, whether or not the legend is shown on
-// the screen. What is drawn stays until the diagram is built anew; a table of results never goes into the picture.
+// Draws title, axis names, comment, and the legend in its box, which hides the curves behind it, into the list. What is drawn
+// stays until the diagram is built anew; a table of results never goes into the picture.
 void erstelle_Diagramm_kopiere_Beschriftung(Diagramm& d, const Beschriftungsplaetze& p);
 void erstelle_Diagramm_zusammenfassung_kopiere_Beschriftung(Diagramm& d, const Beschriftungsplaetze& p);
 

@@ -1,23 +1,63 @@
 #include "diagrams/diagramm.h"
 
+#include <algorithm>
 #include <cmath>
+
+#include "base/zahlen.h"
+#include "exposure/bezeichnungen.h"
 
 namespace varnok {
 
-std::optional<Ablesung> lies_ab(const Diagramm& d, Punkt p) {
+namespace {
+
+bool ist_Spitze(const std::vector<float>& w, std::size_t i) {
+    const bool steigt_an = i == 0 || w[i - 1] < w[i];
+    const bool faellt_ab = i + 1 == w.size() || w[i + 1] < w[i];
+    return steigt_an && faellt_ab && w[i] > 0;
+}
+
+// The peak nearest to the point, the distances measured in those of the catch.
+std::optional<Ablesung> fange_Spitze(const Diagramm& d, Punkt p, Punkt Fang) {
     std::optional<Ablesung> naechste;
-    double Abstand = 0;
-    const double Tag = std::nearbyint(p.x);
+    double Abstand = 1;
     for (const Kurve& k : d.Kurven) {
-        const double Stelle = Tag - k.erster_Tag;
+        const double Anfang = std::max(0.0, std::ceil(p.x - Fang.x - k.erster_Tag));
+        for (auto i = static_cast<std::size_t>(Anfang); i < k.Werte.size(); ++i) {
+            const int Tag = k.erster_Tag + static_cast<int>(i);
+            if (Tag > p.x + Fang.x) break;
+            const double dieser = std::hypot((Tag - p.x) / Fang.x, (static_cast<double>(k.Werte[i]) - p.y) / Fang.y);
+            if (!(dieser <= Abstand) || !ist_Spitze(k.Werte, i)) continue;
+            naechste = Ablesung{k.Name, Tag, k.Werte[i], k.Farbe};
+            Abstand = dieser;
+        }
+    }
+    return naechste;
+}
+
+}  // namespace
+
+std::optional<Ablesung> lies_ab(const Diagramm& d, Punkt p, Punkt Fang) {
+    std::optional<Ablesung> naechste;
+    if (Fang.x > 0 && Fang.y > 0) naechste = fange_Spitze(d, p, Fang);
+    if (naechste) return naechste;
+    double Abstand = 0;
+    const double Tagesort = std::nearbyint(p.x);
+    for (const Kurve& k : d.Kurven) {
+        const double Stelle = Tagesort - k.erster_Tag;
         if (!(Stelle >= 0 && Stelle < static_cast<double>(k.Werte.size()))) continue;
         const float Wert = k.Werte[static_cast<std::size_t>(Stelle)];
         const double dieser = std::abs(static_cast<double>(Wert) - p.y);
         if (naechste && !(dieser < Abstand)) continue;
-        naechste = Ablesung{k.Name, static_cast<int>(Tag), Wert, k.Farbe};
+        naechste = Ablesung{k.Name, static_cast<int>(Tagesort), Wert, k.Farbe};
         Abstand = dieser;
     }
     return naechste;
+}
+
+std::string Ablesungstext(const Diagramm& d, const Ablesung& a) {
+    constexpr int Stellen = 4;
+    return "day " + std::to_string(a.Tag) + ": " + gekuerzte_Zahl(static_cast<double>(a.Wert), Stellen) + ' ' +
+           std::string(Konzentrationseinheit(d.Einheit, d.Endpunkt)) + ", " + a.Name;
 }
 
 }  // namespace varnok

@@ -11,12 +11,15 @@
 
 namespace varnok {
 
-// A label. `links` is the left edge in logical units where a formula gives one; else the layout places it.
+// A label. `links` is the left edge in logical units where a formula gives one; else the layout places it. A layout that
+// centres it says where, and may break it into lines.
 struct Beschriftung {
     std::string Text;
     int Farbe = Schwarz;
     bool fett = false;
     std::optional<double> links;
+    std::optional<double> Mitte = std::nullopt;
+    int Groesse = 10;  // points
 
     friend bool operator==(const Beschriftung&, const Beschriftung&) = default;
 };
@@ -24,6 +27,7 @@ struct Beschriftung {
 struct Musterlinie {
     int Farbe = Schwarz;
     int Breite = 1;
+    int Muster = 0;
 
     friend bool operator==(const Musterlinie&, const Musterlinie&) = default;
 };
@@ -61,6 +65,15 @@ struct Kurve {
     std::vector<float> Werte;  // one for each day from there on
 };
 
+// The box of an average as numbers.
+struct Mittelwert {
+    std::string Name;  // compound, or study in a summary diagram
+    double Start = 0;  // first day
+    double Tage = 0;
+    double Hoehe = 0;
+    int Farbe = Schwarz;
+};
+
 // The text file that a drawing leaves behind. Lines without their line ends, UTF-8.
 struct Nebenprodukt {
     std::string Dateiname;  // without folder; empty where the drawing writes none
@@ -80,6 +93,7 @@ struct Diagramm {
     Endpunktart Endpunkt = Gesamtgehalt;  // per kg of soil or per litre of pore water
     Legende Legendeninhalt;
     std::vector<Kurve> Kurven;
+    std::vector<Mittelwert> Mittelwerte;  // none in the view "Background"
     Nebenprodukt Datei;
 };
 
@@ -92,7 +106,11 @@ struct Ablesung {
 };
 
 // The curve nearest to a point of the picture (logical coordinates) and its value on the day under the point; the
-// first one of several at the same distance. Nothing outside the days that are drawn.
-std::optional<Ablesung> lies_ab(const Diagramm& d, Punkt p);
+// first one of several at the same distance. Nothing outside the days that are drawn. A peak within `Fang` of the point, a
+// distance in both directions, goes before.
+std::optional<Ablesung> lies_ab(const Diagramm& d, Punkt p, Punkt Fang = {});
+
+// "day 50: 0.6667 mg/kg, Compound A", with four significant digits.
+std::string Ablesungstext(const Diagramm& d, const Ablesung& a);
 
 }  // namespace varnok

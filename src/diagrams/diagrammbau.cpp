@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/text.h"
 #include "base/zahlen.h"
 #include "base/zeichensatz.h"
 #include "diagrams/achsen.h"
@@ -61,7 +62,7 @@ Diagramm erstelle_Diagramm(const Darstellung& Inhalt, Diagrammbereiche& b, int D
     zeichne_Achsen(d.Liste, a);
     zeichne_Kurve(d, a, Sicht, i_studie, c, Kurvenfarbe(c), Sicht.Stoffname(c));
     d.Datei = Tagesreihe_Datei(Sicht, Sicht.Stoffname(c), d.Kurven);
-    zeichne_TWA(d.Liste, a, Sicht, i_studie, c, TWA_Farbe(c));
+    zeichne_TWA(d, a, Sicht, i_studie, c, TWA_Farbe(c), Sicht.Stoffname(c));
     d.Legendeninhalt = {Legendenart::einzeln, {Stofflegende(Sicht, {}, c)}};
     d.Titel = Studientitel(Sicht, a, i_studie);
     d.Kommentar = mittige_Beschriftung(Sicht.Stoffkommentar(c), a, 0, 90);
@@ -92,7 +93,7 @@ Diagramm erstelle_Diagramm_mehrfach(const Darstellung& Inhalt, Diagrammbereiche&
     d.Legendeninhalt.Art = Legendenart::mehrfach;
     for (int k = 0; k < Stoffzahl; ++k) {
         zeichne_Kurve(d, a, Sicht, i_studie, k, Kurvenfarbe(k), Sicht.Stoffname(k));
-        zeichne_TWA(d.Liste, a, Sicht, i_studie, k, TWA_Farbe(k));
+        zeichne_TWA(d, a, Sicht, i_studie, k, TWA_Farbe(k), Sicht.Stoffname(k));
         d.Legendeninhalt.Gruppen.push_back(Stofflegende(Sicht, Sicht.Stoffname(k), k));
     }
     d.Titel = Studientitel(Sicht, a, i_studie);
@@ -111,12 +112,7 @@ std::vector<Diagramm> erstelle_Diagramme(const Darstellung& Inhalt, Diagrammbere
 }
 
 std::string Dateiname_Tagesreihe(const std::string& Stoffname) {
-    std::string Name = Stoffname;
-    for (char& z : Name) {
-        const bool Steuerzeichen = static_cast<unsigned char>(z) < ' ' || z == '\x7F';
-        if (Steuerzeichen || std::string_view("\\/:*?\"<>|").find(z) != std::string_view::npos) z = '_';
-    }
-    return "Detailed Results - " + Name + ".tab";
+    return "Detailed Results - " + als_Dateiname(Stoffname) + ".tab";
 }
 
 }  // namespace varnok

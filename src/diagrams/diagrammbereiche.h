@@ -27,6 +27,9 @@ Diagrammbereiche Startbereiche(PEC_Ansicht PEC_Art);
 // A view was chosen, by click or with an application pattern: all ranges are those of the view again.
 void setze_Bereiche_nach_Ansicht(Diagrammbereiche& b, PEC_Ansicht PEC_Art);
 
+// The same for one diagram.
+void setze_Bereich_nach_Ansicht(Diagrammbereiche& b, PEC_Ansicht PEC_Art, bool Zusammenfassung, int Nummer);
+
 // Start as it is drawn: within the days of a run, whatever was typed.
 double gehaltener_Start(double X_Start);
 

@@ -42,4 +42,7 @@ constexpr int Kurvenfarbe(int i_substanz) { return 1 << i_substanz; }
 constexpr int TWA_Farbe(int i_substanz) { return Kurvenfarbe(i_substanz) + 8; }
 constexpr int Studienfarbe(int i_studie) { return i_studie + 9; }
 
+// Patterns of dashes: one for each study of a summary, 0 is an unbroken line.
+inline constexpr int Strichmusterzahl = 6;
+
 }  // namespace varnok

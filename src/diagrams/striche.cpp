@@ -18,12 +18,15 @@ constexpr const char* leerer_Bereich = "Start is not before the end of the axis"
 int gerundeter_Tag(double Tag) { return static_cast<int>(std::nearbyint(Tag)); }
 
 void zeichne_x_Teilstriche(Zeichenliste& z, const Achsenbereich& a) {
-    const Teilstriche t = bestimme_Teilstriche(a.Ende);
+    const Teilstriche t = bestimme_Teilstriche(a.runde_Tage ? a.Breite() : a.Ende);
+    const auto Lagen = [&](double Abstand) {
+        return Teilstrichlagen(a.runde_Tage ? std::ceil(a.Start / Abstand) * Abstand : a.Start, a.Ende, Abstand);
+    };
     const auto striche = [&](double Abstand, double Teil) {
-        for (const double x : Teilstrichlagen(a.Start, a.Ende, Abstand)) z.Linien.push_back({{x, 0}, {x, -a.Y_Maximum / Teil}});
+        for (const double x : Lagen(Abstand)) z.Linien.push_back({{x, 0}, {x, -a.Y_Maximum / Teil}});
     };
     striche(t.Haupt, 30);
-    for (const double x : Teilstrichlagen(a.Start, a.Ende, t.Haupt)) {
+    for (const double x : Lagen(t.Haupt)) {
         z.Texte.push_back({{x - a.Breite() / 50, -a.Y_Maximum / 30}, allgemeine_Zahl(x)});
     }
     striche(t.Mitte, 60);
@@ -54,7 +57,7 @@ int Achsenbereich::letzter_Tag() const { return leer ? erster_Tag() - 1 : gerund
 Achsenbereich bilde_Achsenbereich(double X_Start, double X_Ende, double Y_Maximum) {
     const double Start = gehaltener_Start(X_Start);
     const bool leer = !(Start < X_Ende);
-    return {Start, leer ? Start + 1 : X_Ende, Y_Maximum, leer};
+    return {Start, leer ? Start + 1 : X_Ende, Y_Maximum, leer, false};
 }
 
 void zeichne_Achsen(Zeichenliste& z, const Achsenbereich& a) {
@@ -71,34 +74,42 @@ void zeichne_Achsen(Zeichenliste& z, const Achsenbereich& a) {
     zeichne_y_Teilstriche(z, a);
 }
 
+void zeichne_Verlauf(Zeichenliste& z, const Kurve& k) {
+    if (k.Werte.empty()) return;
+    Punkt von = {static_cast<double>(k.erster_Tag), static_cast<double>(k.Werte[0])};
+    z.Linien.reserve(z.Linien.size() + k.Werte.size());
+    for (std::size_t i = 1; i < k.Werte.size(); ++i) {
+        const Punkt bis = {von.x + 1, static_cast<double>(k.Werte[i])};
+        z.Linien.push_back({von, bis, k.Farbe, Kurvenbreite});
+        von = bis;
+    }
+}
+
 void zeichne_Kurve(Diagramm& d, const Achsenbereich& a, const Ergebnissicht& Sicht, int i_studie, int i_substanz, int Farbe,
                    const std::string& Name) {
     const int erster = a.erster_Tag();
     const int letzter = a.letzter_Tag();
     if (letzter < erster) return;
     d.Kurven.push_back({Name, Farbe, erster - 1, Sicht.Werte(i_studie, i_substanz, erster - 1, letzter)});
-    const std::vector<float>& Werte = d.Kurven.back().Werte;
-    Punkt von = {static_cast<double>(erster - 1), static_cast<double>(Werte[0])};
-    d.Liste.Linien.reserve(d.Liste.Linien.size() + Werte.size());
-    for (std::size_t i = 1; i < Werte.size(); ++i) {
-        const Punkt bis = {von.x + 1, static_cast<double>(Werte[i])};
-        d.Liste.Linien.push_back({von, bis, Farbe, Kurvenbreite});
-        von = bis;
-    }
+    zeichne_Verlauf(d.Liste, d.Kurven.back());
 }
 
-void zeichne_TWA(Zeichenliste& z, const Achsenbereich& a, const Ergebnissicht& Sicht, int i_studie, int i_substanz, int Farbe) {
+void zeichne_TWA(Diagramm& d, const Achsenbereich& a, const Ergebnissicht& Sicht, int i_studie, int i_substanz, int Farbe,
+                 const std::string& Name) {
     if (Sicht.PEC_Art() == Hintergrund || a.leer) return;
-    const auto h = static_cast<double>(Sicht.TWA_Hoehe(i_studie, i_substanz));
     const float Start = Sicht.TWA_Start(i_studie, i_substanz);
-    const auto b0 = static_cast<double>(Start);
     const float Laenge = Sicht.TWA_Fenster(i_studie, i_substanz);
+    d.Mittelwerte.push_back({Name, static_cast<double>(Start), static_cast<double>(Laenge),
+                             static_cast<double>(Sicht.TWA_Hoehe(i_studie, i_substanz)), Farbe});
+    const double h = d.Mittelwerte.back().Hoehe;
+    const auto b0 = static_cast<double>(Start);
     const auto b1 = static_cast<double>(Start + Laenge);
+    std::vector<Linie>& Linien = d.Liste.Linien;
     if (static_cast<float>(a.Ende) >= Laenge) {
-        z.Linien.push_back({{std::max(a.Start, b0), h}, {std::max(a.Start, std::min(a.Ende, b1)), h}, Farbe});
+        Linien.push_back({{std::max(a.Start, b0), h}, {std::max(a.Start, std::min(a.Ende, b1)), h}, Farbe});
     }
-    if (a.Start <= b1) z.Linien.push_back({{b1, 0}, {b1, h}, Farbe});
-    if (b0 >= a.Start) z.Linien.push_back({{b0, 0}, {b0, h}, Farbe});
+    if (a.Start <= b1) Linien.push_back({{b1, 0}, {b1, h}, Farbe});
+    if (b0 >= a.Start) Linien.push_back({{b0, 0}, {b0, h}, Farbe});
 }
 
 Beschriftung mittige_Beschriftung(std::string Text, const Achsenbereich& a, int Zusatz, int Teile) {

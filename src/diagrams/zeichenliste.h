@@ -2,6 +2,8 @@
 
 // A drawing as data: what a painter puts on a surface of any size, in logical coordinates with y up.
 
+#include <cstddef>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -35,11 +37,15 @@ struct Linie {
     Punkt bis;
     int Farbe = Schwarz;
     int Breite = 1;
+    int Muster = 0;  // of its dashes, 0 without any; see `Strichmuster`
 
     friend bool operator==(const Linie&, const Linie&) = default;
 };
 
-// A text whose upper left corner stands at `Ort`.
+// Which point of a text's upper edge stands at its place.
+enum class Anker { links, mittig, rechts };
+
+// A text whose upper left corner stands at `Ort`, or the point of its upper edge that `Halt` says.
 struct Schriftzug {
     Punkt Ort;
     std::string Inhalt;
@@ -48,21 +54,24 @@ struct Schriftzug {
     bool fett = false;
     bool kursiv = false;
     bool einpassen = false;  // a label: a painter moves it inside the surface where it would leave it
+    Anker Halt = Anker::links;
 
     friend bool operator==(const Schriftzug&, const Schriftzug&) = default;
 };
 
-// The outline of a rectangle, not filled.
+// A rectangle: its outline, and if it is filled, white over the first lines of the list, as many as `verdeckt` says.
 struct Kasten {
     Punkt links_oben;
     Punkt rechts_unten;
     int Farbe = Schwarz;
     int Breite = 1;
+    std::size_t verdeckt = 0;
 
     friend bool operator==(const Kasten&, const Kasten&) = default;
 };
 
-// Lines lie under boxes, boxes under texts; among themselves they are painted in order.
+// Lines lie under boxes, but for those behind the lines that a filled box hides; texts lie over all. Among themselves they
+// are painted in order.
 struct Zeichenliste {
     Koordinaten System;
     std::vector<Linie> Linien;
@@ -77,10 +86,11 @@ struct Linienzug {
     std::vector<Punkt> Punkte;
     int Farbe = Schwarz;
     int Breite = 1;
+    int Muster = 0;
 };
 
 // The lines of a list joined to as few pulls as their order allows: a curve of thousands of days is one
 // drawing call, with clean corners.
-std::vector<Linienzug> verbinde_Linien(const std::vector<Linie>& Linien);
+std::vector<Linienzug> verbinde_Linien(std::span<const Linie> Linien);
 
 }  // namespace varnok

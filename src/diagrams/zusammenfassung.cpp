@@ -74,7 +74,7 @@ Diagramm erstelle_Diagramm_Zusammenfassung(const Darstellung& Inhalt, Diagrammbe
         d.Legendeninhalt.Gruppen[0].Eintraege.push_back({Sicht.Studienname(i), {Studienfarbe(i), 2}});
         zeichne_Kurve(d, a, Sicht, i, c, Studienfarbe(i), Sicht.Studienname(i));
         if (mit_Datei) schreibe_Studie(d.Datei, Sicht, a, i, c);
-        zeichne_TWA(d.Liste, a, Sicht, i, c, Studienfarbe(i));
+        zeichne_TWA(d, a, Sicht, i, c, Studienfarbe(i), Sicht.Studienname(i));
     }
     d.Titel = mittige_Beschriftung(Sicht.Titelanfang() + " - All soil studies", a, 1, 100);
     d.Kommentar = mittige_Beschriftung(Sicht.Stoffkommentar(c), a, 0, 90);

@@ -1,61 +1,72 @@
 #include "painting/bildflaeche.h"
 
+#include <QFontMetricsF>
 #include <QPainter>
 #include <algorithm>
 
+#include "diagrams/druckfassung.h"
 #include "painting/diagrammlage.h"
+#include "painting/rahmenfeld.h"
+#include "painting/titelsatz.h"
 #include "painting/zeichner.h"
 
 namespace varnok {
 namespace {
 
-constexpr double Zeile = 16;  // units that a line of a label takes
+constexpr double Zeile = 16;       // units that a line of a label takes
+constexpr double Titelzeile = 19;  // and one of the title
+constexpr double Legendenzeilenhoehe = 18;
+constexpr double Rand = 3;  // units free beside title and comment
 
-double Textbreite(const Beschriftung& b, const Koordinaten& System, bool fett) {
-    return setze_Schrift(Bildflaeche, System, {{0, 0}, b.Text, Schwarz, 10, fett, !fett, true}, Schriftgroesse_Bericht)
-        .Platz.width();
+// Title and comment over each other, broken into lines; gives the units that they take.
+double ordne_Titel(Diagramm& d, Beschriftungsplaetze& p, const QSizeF& Groesse) {
+    const double Breite = Groesse.width() - 2 * Rand;
+    const int Titelzeilen = setze_Titel(d.Titel, Breite, Schriftgroesse_Titel, true, false);
+    const int Kommentarzeilen = setze_Titel(d.Kommentar, Breite, Schriftgroesse_Fenster, false, true);
+    const double unter_Titel = 1 + Titelzeilen * Titelzeile;
+    p.Titel_oben = 1 / Groesse.height();
+    p.Kommentar_oben = unter_Titel / Groesse.height();
+    p.Titelzeile = Titelzeile / Groesse.height();
+    p.Kommentarzeile = Zeile / Groesse.height();
+    return unter_Titel + Kommentarzeilen * Zeile;
 }
 
-// The middle of the time axis, in units.
-double Achsenmitte(const Koordinaten& System, const Koordinaten& Achsen) {
-    return auf_Flaeche(Bildflaeche, System, {(Achsen.links + Achsen.rechts) / 2, 0}).x();
-}
-
-// The formula of the left edge takes letters for a share of the axis; where that is more than they need, the text is
-// centred by its true width.
-void rueck_zur_Mitte(Beschriftung& b, const Koordinaten& System, const Koordinaten& Achsen, bool fett) {
+// The name of the y axis at the top of its axis, that of the time axis in the middle below its numbers.
+void ordne_Namen(Diagramm& d, Beschriftungsplaetze& p, const Koordinaten& Achsen, const QSizeF& Groesse, double Kopf) {
     const double Mitte = (Achsen.links + Achsen.rechts) / 2;
-    const double mittig = Mitte - Textbreite(b, System, fett) / 2 / Bildbreite * System.Breite();
-    b.links = std::max(b.links.value_or(mittig), mittig);
+    for (Beschriftung* b : {&d.Titel, &d.Kommentar, &d.Name_x_Achse}) b->Mitte = Mitte;
+    const QRectF Flaeche(QPointF(), Groesse);
+    const double Achse = auf_Flaeche(Flaeche, d.Liste.System, {Achsen.links, 0}).x();
+    p.Name_y_Achse = {(Achse + 5) / Groesse.width(), (Kopf - 1) / Groesse.height()};
+    p.Name_x_Achse = {0, (Groesse.height() - Zeile - 6) / Groesse.height()};
 }
 
-// Title and comment in two close lines, each over the whole width; under them the name of the y axis at the top of its
-// axis, that of the time axis in the middle below its numbers.
-void ordne_Namen(Beschriftungsplaetze& p, const Diagramm& d, const Koordinaten& Achsen) {
-    const Koordinaten& System = d.Liste.System;
-    p.Titel_oben = 1.0 / Bildhoehe;
-    p.Kommentar_oben = (1 + Zeile) / Bildhoehe;
-    p.Name_y_Achse = {(auf_Flaeche(Bildflaeche, System, {Achsen.links, 0}).x() + 5) / Bildbreite, 2 * Zeile / Bildhoehe};
-    p.Name_x_Achse = {(Achsenmitte(System, Achsen) - Textbreite(d.Name_x_Achse, System, true) / 2) / Bildbreite,
-                      (Bildhoehe - Zeile - 6) / Bildhoehe};
+// Every text of the list, and the name of the y axis, which stands at the top of where the legend may be.
+void stelle_Legende(const Diagramm& d, Beschriftungsplaetze& p, const Koordinaten& Achsen, const Bildform& f, double Kopf) {
+    const QRectF Flaeche(QPointF(), f.Groesse);
+    Rahmenfeld Feld = bilde_Rahmenfeld(d.Liste, Flaeche, Achsen, Kopf);
+    const Schriftzug Name = {logisch(d.Liste.System, p.Name_y_Achse), d.Name_y_Achse.Text, Schwarz, Schriftgroesse_Fenster, true};
+    Feld.Texte.push_back(in_Anteilen(setze_Schrift(Flaeche, d.Liste.System, Name).Platz, f.Groesse));
+    Flaechenrechteck& r = p.Legendenrahmen;
+    r = ordne_Rahmen(Feld, {{r.Breite, r.Hoehe, {r.links, r.oben}, f.Legende}}).front().Ort;
 }
 
 }  // namespace
 
-Zeichenliste mit_Beschriftung(Diagramm d, const std::optional<Flaechenort>& Legende) {
-    const Koordinaten Achsen = passe_an_Flaeche(d.Liste, Bildflaeche.size(), {3 * Zeile - 4, Zeile + 6});
+Zeichenliste mit_Beschriftung(Diagramm d, const Bildform& f) {
+    if (f.fuer_Druck) richte_fuer_Druck(d);
     Beschriftungsplaetze p = Heimatplaetze(d.Legendeninhalt);
-    ordne_Namen(p, d, Achsen);
-    rueck_zur_Mitte(d.Titel, d.Liste.System, Achsen, true);
-    rueck_zur_Mitte(d.Kommentar, d.Liste.System, Achsen, false);
-    if (Legende) {
-        p.Legendenrahmen.links = Legende->links;
-        p.Legendenrahmen.oben = Legende->oben;
-    } else {
-        p.Legendenrahmen.oben = std::max(p.Legendenrahmen.oben, p.Kommentar_oben + (Zeile + 4) / Bildhoehe);
+    const double Kopf = ordne_Titel(d, p, f.Groesse);
+    const Koordinaten Achsen = passe_an_Flaeche(d.Liste, f.Groesse, {Kopf + Zeile - 5, Zeile + 6});
+    ordne_Namen(d, p, Achsen, f.Groesse, Kopf);
+    p.mit_Legende = f.mit_Legende;
+    if (f.mit_Legende) {
+        p.Legendenrahmen.Breite *= Bildbreite / f.Groesse.width();
+        p.Legendenrahmen.Hoehe =
+            static_cast<double>(Legendenzeilen(d.Legendeninhalt).size()) * Legendenzeilenhoehe / f.Groesse.height();
+        passe_Legende_an(d.Legendeninhalt, p, f.Groesse.width());
+        stelle_Legende(d, p, Achsen, f, Kopf);
     }
-    p.Legendenrahmen.oben = std::max(0.0, std::min(p.Legendenrahmen.oben, 1 - p.Legendenrahmen.Hoehe - 1.0 / Bildhoehe));
-    passe_Legende_an(d.Legendeninhalt, p, Bildbreite);
     if (d.Zusammenfassung) {
         erstelle_Diagramm_zusammenfassung_kopiere_Beschriftung(d, p);
     } else {

@@ -71,15 +71,20 @@ Koordinaten passe_an_Flaeche(Zeichenliste& z, const QSizeF& Flaeche, const Diagr
 
     for (Schriftzug& s : z.Texte) {
         if (a.an_x_Achse(s)) {
-            s.Ort.x += a.Laenge_x / 50 - Textbreite(s) / 2 * x;
+            s.Ort.x += a.Laenge_x / 50;
+            s.Halt = Anker::mittig;
         } else if (a.an_y_Achse(s)) {
             s.Ort.y += Zeile / 2 * y - a.Laenge_y / 50;
-            s.Ort.x = a.Start - a.Laenge_x / 50 - (Luecke + Textbreite(s)) * x;
+            s.Ort.x = a.Start - a.Laenge_x / 50 - Luecke * x;
+            s.Halt = Anker::rechts;
         }
     }
     lichte(
         z.Texte, [&](const Schriftzug& s) { return a.an_x_Achse(s); },
-        [&](const Schriftzug& s) { return std::pair(s.Ort.x, s.Ort.x + (Textbreite(s) + Luecke) * x); });
+        [&](const Schriftzug& s) {
+            const double halbe = Textbreite(s) / 2 * x;
+            return std::pair(s.Ort.x - halbe, s.Ort.x + halbe + Luecke * x);
+        });
     lichte(
         z.Texte, [&](const Schriftzug& s) { return !a.an_x_Achse(s) && s.Ort.x < a.Start; },
         [&](const Schriftzug& s) { return std::pair(s.Ort.y, s.Ort.y + 0.8 * Zeile * y); });

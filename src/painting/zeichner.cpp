@@ -1,59 +1,16 @@
 #include "painting/zeichner.h"
 
 #include <QFontMetricsF>
-#include <QPen>
-#include <QPolygonF>
 #include <algorithm>
 #include <cmath>
 
 #include "painting/farben.h"
+#include "painting/linienmaler.h"
 
 namespace varnok {
 namespace {
 
 constexpr double Einheiten_pro_Punkt = 96.0 / 72.0;
-
-QPen Stift(int Farbe, int Breite) {
-    return {Palettenfarbe(Farbe), static_cast<double>(Breite), Qt::SolidLine, Qt::FlatCap, Qt::BevelJoin};
-}
-
-// Lines along the axes are sharp without smoothing and blurred with it.
-bool achsparallel(const std::vector<Punkt>& Punkte) {
-    const auto gleich = [&](auto Koordinate) {
-        return std::all_of(Punkte.begin(), Punkte.end(),
-                           [&](const Punkt& p) { return std::equal_to<>()(Koordinate(p), Koordinate(Punkte.front())); });
-    };
-    return gleich([](const Punkt& p) { return p.x; }) || gleich([](const Punkt& p) { return p.y; });
-}
-
-// A curve of thousands of days in pieces: the smoothing of one long path takes many times longer. The pieces share a
-// segment, so that no corner is left open.
-void male_Zug(QPainter& p, const QPolygonF& Vieleck) {
-    constexpr qsizetype Stueck = 48;
-    for (qsizetype i = 0; i == 0 || i + 2 < Vieleck.size(); i += Stueck) {
-        const qsizetype Anzahl = std::min(Stueck + 2, Vieleck.size() - i);
-        p.drawPolyline(Vieleck.constData() + i, static_cast<int>(Anzahl));
-    }
-}
-
-void male_Linien(QPainter& p, const QRectF& Flaeche, const Zeichenliste& z) {
-    for (const Linienzug& Zug : verbinde_Linien(z.Linien)) {
-        QPolygonF Vieleck;
-        for (const Punkt& Ort : Zug.Punkte) Vieleck << auf_Flaeche(Flaeche, z.System, Ort);
-        p.setRenderHint(QPainter::Antialiasing, !achsparallel(Zug.Punkte));
-        p.setPen(Stift(Zug.Farbe, Zug.Breite));
-        male_Zug(p, Vieleck);
-    }
-}
-
-void male_Kaesten(QPainter& p, const QRectF& Flaeche, const Zeichenliste& z) {
-    p.setRenderHint(QPainter::Antialiasing, false);
-    p.setBrush(Qt::NoBrush);
-    for (const Kasten& k : z.Kaesten) {
-        p.setPen(Stift(k.Farbe, k.Breite));
-        p.drawRect(QRectF(auf_Flaeche(Flaeche, z.System, k.links_oben), auf_Flaeche(Flaeche, z.System, k.rechts_unten)));
-    }
-}
 
 void male_Texte(QPainter& p, const QRectF& Flaeche, const Zeichenliste& z, int kleinste_Groesse) {
     p.setRenderHint(QPainter::TextAntialiasing);
@@ -97,6 +54,7 @@ Schriftsatz setze_Schrift(const QRectF& Flaeche, const Koordinaten& System, cons
         }
     }
     Satz.Platz = QRectF(auf_Flaeche(Flaeche, System, s.Ort), QSizeF(Breite(Satz), QFontMetricsF(Satz.Schrift).height()));
+    Satz.Platz.translate(-Satz.Platz.width() * (s.Halt == Anker::links ? 0 : s.Halt == Anker::mittig ? 0.5 : 1), 0);
     if (!s.einpassen) return Satz;
     Satz.Platz.moveLeft(std::max(Flaeche.left(), std::min(Satz.Platz.left(), Flaeche.right() - Satz.Platz.width())));
     Satz.Platz.moveTop(std::max(Flaeche.top(), std::min(Satz.Platz.top(), Flaeche.bottom() - Satz.Platz.height())));
@@ -104,10 +62,14 @@ Schriftsatz setze_Schrift(const QRectF& Flaeche, const Koordinaten& System, cons
 }
 
 void passe_Legende_an(Legende& l, Beschriftungsplaetze& p, double Flaechenbreite) {
-    constexpr double Hoechstbreite = 1.0 / 3;
-    constexpr double kuerzeste_Musterlinie = 0.87;  // its left end
-    constexpr double Luecke = 4;                    // units between text and sample line
-    constexpr double Rand = 6;                      // units
+    const bool gestrichelt = std::any_of(l.Gruppen.begin(), l.Gruppen.end(), [](const Legendengruppe& g) {
+        return std::any_of(g.Eintraege.begin(), g.Eintraege.end(), [](const Legendeneintrag& e) { return e.Linie.Muster != 0; });
+    });
+    // The longest pattern of dashes needs that much to be seen, which texts do not pay for.
+    const double Strichmuster = gestrichelt ? 38 : 0;
+    const double Hoechstbreite = 1.0 / 3 + Strichmuster / Flaechenbreite;
+    constexpr double Luecke = 4;  // units between text and sample line
+    constexpr double Rand = 6;    // units
     const QFontMetricsF Masse(Diagrammschrift(Schriftgroesse_Fenster));
     const auto noetig = [&](const Legendenzeile& z) { return Masse.horizontalAdvance(QString::fromStdString(z.Text)) + Luecke; };
     // Share of the frame from the start of a row's text to what stands behind it.
@@ -116,6 +78,9 @@ void passe_Legende_an(Legende& l, Beschriftungsplaetze& p, double Flaechenbreite
     for (const Legendenzeile& z : Legendenzeilen(l, p.Musterlinie_links)) {
         Breite = std::max(Breite, std::min(noetig(z) / Anteil(z) / Flaechenbreite, Hoechstbreite));
     }
+    // The left end of the shortest sample line.
+    const double kuerzeste_Musterlinie = gestrichelt ? 0.95 - Strichmuster / (Breite * Flaechenbreite) : 0.87;
+    if (gestrichelt) p.Musterlinie_links = std::min(p.Musterlinie_links, kuerzeste_Musterlinie);
     for (const Legendenzeile& z : Legendenzeilen(l, p.Musterlinie_links)) {
         const double Textende = z.Textort.links + noetig(z) / (Breite * Flaechenbreite);
         if (!z.Ueberschrift) p.Musterlinie_links = std::max(p.Musterlinie_links, std::min(Textende, kuerzeste_Musterlinie));
@@ -136,8 +101,16 @@ void passe_Legende_an(Legende& l, Beschriftungsplaetze& p, double Flaechenbreite
 void male(QPainter& p, const QRectF& Flaeche, const Zeichenliste& z, int kleinste_Groesse) {
     p.save();
     p.setClipRect(Flaeche, Qt::IntersectClip);
-    male_Linien(p, Flaeche, z);
-    male_Kaesten(p, Flaeche, z);
+    Linienmaler Maler(p, Flaeche, z.System);
+    const std::span<const Linie> Linien(z.Linien);
+    std::size_t gemalt = 0;
+    for (const Kasten& k : z.Kaesten) {
+        const std::size_t darunter = k.verdeckt == 0 ? Linien.size() : std::min(k.verdeckt, Linien.size());
+        if (darunter > gemalt) Maler.male(Linien.subspan(gemalt, darunter - gemalt));
+        gemalt = std::max(gemalt, darunter);
+        Maler.male(k);
+    }
+    Maler.male(Linien.subspan(gemalt));
     male_Texte(p, Flaeche, z, kleinste_Groesse);
     p.restore();
 }

@@ -16,6 +16,7 @@ namespace varnok {
 // Labels that are too wide for the surface shrink to this size (points) before they are cut.
 inline constexpr int Schriftgroesse_Fenster = 10;
 inline constexpr int Schriftgroesse_Bericht = 7;
+inline constexpr int Schriftgroesse_Titel = 12;
 
 // How a text stands on a surface.
 struct Schriftsatz {

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "base/laufzeitfehler.h"
+#include "base/text.h"
 #include "base/wertebereiche.h"
 #include "base/zahlen.h"
 #include "base/zeichensatz.h"
@@ -44,6 +45,8 @@ std::string als_Dauer(double Tage) {
     return Zeile += allgemeine_Zahl(Tage) + " \r\n";
 }
 
+constexpr const char* Bildzeile = "Pictures:";
+
 // The lines of a settings file with what is doubtful about them.
 class Einstellungsleser {
 public:
@@ -72,6 +75,18 @@ public:
     // Older files end before it.
     void lies_letzten_Text(std::string& Ziel) {
         if (const auto Zeile = Zeilen_.naechste()) Ziel = aus_Zeile(*Zeile);
+    }
+
+    // Numbers out of their range, or another line than that, are none of this program.
+    void lies_Bildzeile(Bildeinstellung& Ziel) {
+        const auto Zeile = Zeilen_.naechste();
+        if (!Zeile) return;
+        const auto Teile = zerlege_an(*Zeile, '\t');
+        if (Teile.size() != 5 || Teile[0] != Bildzeile) return;
+        const auto Breite = ganze_Zahl(Wert(Teile[1]), kleinstes_Bild, groesstes_Bild);
+        const auto Hoehe = ganze_Zahl(Wert(Teile[2]), kleinstes_Bild, groesstes_Bild);
+        const auto Aufloesung = ganze_Zahl(Wert(Teile[3]), kleinste_Aufloesung, groesste_Aufloesung);
+        if (Breite && Hoehe && Aufloesung) Ziel = {*Breite, *Hoehe, *Aufloesung, Wert(Teile[4]) > 0};
     }
 
     template <std::size_t n>
@@ -112,6 +127,12 @@ private:
     std::vector<Bemerkung>* Bemerkungen_;
 };
 
+std::string als_Bildzeile(const Bildeinstellung& b) {
+    std::string Zeile = Bildzeile;
+    for (const int Zahl : {b.Breite, b.Hoehe, b.Aufloesung, static_cast<int>(b.fuer_Druck)}) Zeile += '\t' + std::to_string(Zahl);
+    return Zeile + "\r\n";
+}
+
 }  // namespace
 
 std::optional<Einstellungen> zerlege_Einstellungen(const std::string& Bytes, const std::string& Datei,
@@ -123,6 +144,7 @@ std::optional<Einstellungen> zerlege_Einstellungen(const std::string& Bytes, con
                          Leser.lies_Text(e.TWA_Titel_Monat, "title of the monthly list") && Leser.lies_Liste(e.TWA.Monat);
     if (!gelesen) return std::nullopt;
     Leser.lies_letzten_Text(e.Projektpfad);
+    Leser.lies_Bildzeile(e.Bild);
     return e;
 }
 
@@ -133,7 +155,8 @@ std::string Einstellungen_als_Bytes(const Einstellungen& e) {
     for (const double Tage : e.TWA.EU) Bytes += als_Dauer(Tage);
     Bytes += als_Zeile(e.TWA_Titel_Monat);
     for (const double Tage : e.TWA.Monat) Bytes += als_Dauer(Tage);
-    return Bytes + als_Zeile(e.Projektpfad);
+    Bytes += als_Zeile(e.Projektpfad);
+    return e.Bild == Bildeinstellung() ? Bytes : Bytes + als_Bildzeile(e.Bild);
 }
 
 }  // namespace varnok

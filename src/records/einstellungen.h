@@ -12,6 +12,22 @@
 
 namespace varnok {
 
+// How pictures of diagrams are made.
+struct Bildeinstellung {
+    int Breite = 160;  // millimetres
+    int Hoehe = 125;
+    int Aufloesung = 300;  // pixels per inch
+    bool fuer_Druck = false;
+
+    friend bool operator==(const Bildeinstellung&, const Bildeinstellung&) = default;
+};
+
+// What is taken for a width or a height, and for a resolution.
+inline constexpr int kleinstes_Bild = 60;
+inline constexpr int groesstes_Bild = 420;
+inline constexpr int kleinste_Aufloesung = 72;
+inline constexpr int groesste_Aufloesung = 1200;
+
 struct Einstellungen {
     std::uint8_t Tips_anzeigen = 0;
     std::uint8_t Farbeinstellung = 0;
@@ -19,6 +35,7 @@ struct Einstellungen {
     std::string TWA_Titel_Monat = "TWA according to JKI";
     TWA_Listen TWA;
     std::string Projektpfad;  // line 27, empty where the file has none
+    Bildeinstellung Bild;     // line 28, which a file has where it is another than at first
 
     friend bool operator==(const Einstellungen&, const Einstellungen&) = default;
 };
@@ -28,7 +45,7 @@ struct Einstellungen {
 std::optional<Einstellungen> zerlege_Einstellungen(const std::string& Bytes, const std::string& Datei = {},
                                                    std::vector<Bemerkung>* Bemerkungen = nullptr);
 
-// All 27 lines as they stand in the file.
+// All lines as they stand in the file.
 std::string Einstellungen_als_Bytes(const Einstellungen& e);
 
 }  // namespace varnok

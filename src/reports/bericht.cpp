@@ -65,7 +65,7 @@ Bericht schreibe_Bericht(const Berichtsauftrag& a) {
     passe_Zeilen_ein(*b.Dokument);
     halte_Gruppen_beisammen(*b.Dokument);
 
-    const Zeichenliste Bild = mit_Beschriftung(a.Bild, a.Legende);
+    const Zeichenliste Bild = mit_Beschriftung(a.Bild, {.Legende = a.Legende, .fuer_Druck = a.fuer_Druck});
     merke_Zeichnung(*b.Dokument, Bild);
     w.suche(QString::fromLatin1(Berichtswort::Bildplatz));
     w.halte_beisammen();

@@ -25,6 +25,8 @@ struct Berichtsauftrag {
     Diagramm Bild;
     // Where the legend was dragged to; at home without it.
     std::optional<Flaechenort> Legende;
+    // Dashes and dark colours in the picture.
+    bool fuer_Druck = false;
 };
 
 struct Bericht {

@@ -130,5 +130,41 @@ TEST(Diagramme_eines_Laufs, the_window_covers_as_much_as_the_curve_over_it) {
     EXPECT_NEAR(oben.von.y * 28, Flaeche, 1E-5 * Flaeche);
 }
 
+// The catch is two days wide and 0.5 high.
+TEST(Ablesung, near_a_peak_the_peak_itself) {
+    Handergebnis h;
+    setze_Boden(h, {1, 1, 1, 4, 3, 2, 1});
+    Diagrammbereiche b = Startbereiche(jaehrlich);
+    const Diagramm d = erstelle_Diagramm(h, b, 0, 0);
+    const Punkt Fang = {2, 0.5};
+    EXPECT_EQ(lies_ab(d, {4.4, 4.1}, Fang)->Tag, 3);
+    EXPECT_EQ(lies_ab(d, {4.4, 4.1}, Fang)->Wert, 4);
+    EXPECT_EQ(lies_ab(d, {4.4, 4.1})->Tag, 4);        // without a catch
+    EXPECT_EQ(lies_ab(d, {4.4, 3.4}, Fang)->Tag, 4);  // too far below
+    EXPECT_EQ(lies_ab(d, {5.1, 4}, Fang)->Tag, 5);    // too far behind
+    EXPECT_EQ(lies_ab(d, {1, 1}, Fang)->Tag, 1);      // level, no peak
+}
+
+TEST(Ablesung, the_nearer_one_of_two_peaks) {
+    Handergebnis h;
+    h.Felder.Berechnungsmodus = ein_Metabolit;
+    setze_Boden(h, {4, 2, 1}, 0);
+    setze_Boden(h, {0, 3.8F, 1}, 1);
+    Diagrammbereiche b = Startbereiche(jaehrlich);
+    const Diagramm d = erstelle_Diagramm_mehrfach(h, b, 3, 0, 0);
+    EXPECT_EQ(lies_ab(d, {0.2, 3.9}, {2, 1})->Name, "parent");
+    EXPECT_EQ(lies_ab(d, {0.8, 3.9}, {2, 1})->Name, "first metabolite");
+}
+
+TEST(Ablesung, tells_significant_digits) {
+    Handergebnis h;
+    setze_Boden(h, {4, 0.000263F, 12.34567F});
+    Diagrammbereiche b = Startbereiche(jaehrlich);
+    const Diagramm d = erstelle_Diagramm(h, b, 0, 0);
+    EXPECT_EQ(Ablesungstext(d, *lies_ab(d, {1, 0})), "day 1: 0.000263 mg/kg, parent");
+    EXPECT_EQ(Ablesungstext(d, *lies_ab(d, {2, 0})), "day 2: 12.35 mg/kg, parent");
+    EXPECT_EQ(Ablesungstext(d, *lies_ab(d, {0, 0})), "day 0: 4 mg/kg, parent");
+}
+
 }  // namespace
 }  // namespace varnok

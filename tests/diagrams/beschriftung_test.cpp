@@ -293,7 +293,7 @@ TEST(Kopierte_Beschriftung, single_legend_with_box_and_sample_lines) {
     const Kopie k(0);
     const Koordinaten& s = k.d.Liste.System;
     ASSERT_EQ(k.d.Liste.Kaesten.size(), 1U);
-    EXPECT_EQ(k.d.Liste.Kaesten[0], (Kasten{logisch(s, {0.5, 0.5}), logisch(s, {0.75, 0.75}), 0, 1}));
+    EXPECT_EQ(k.d.Liste.Kaesten[0], (Kasten{logisch(s, {0.5, 0.5}), logisch(s, {0.75, 0.75}), 0, 1, k.Linien_vorher}));
     EXPECT_EQ(k.d.Liste.Texte.size(), k.Texte_vorher + 6);
     ASSERT_EQ(k.d.Liste.Linien.size(), k.Linien_vorher + 2);
     const Linie& PEC = k.d.Liste.Linien[k.Linien_vorher];

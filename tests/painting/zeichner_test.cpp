@@ -224,7 +224,7 @@ TEST(Berichtsbild, holds_axes_curve_and_labels) {
 
 TEST(Berichtsbild, legend_stands_where_it_was_moved_to) {
     const Diagramm d = Wirkstoffdiagramm();
-    const QRectF Kasten = Legendenkasten(mit_Beschriftung(d, Flaechenort{0.2, 0.5}));
+    const QRectF Kasten = Legendenkasten(mit_Beschriftung(d, {.Legende = Flaechenort{0.2, 0.5}}));
     EXPECT_NEAR(Kasten.left(), 128, 1e-6);
     EXPECT_NEAR(Kasten.top(), 250, 1e-6);
 }
@@ -233,7 +233,7 @@ TEST(Berichtsbild, legend_stands_where_it_was_moved_to) {
 TEST(Berichtsbild, legend_stays_on_the_picture_wherever_it_was_moved_to) {
     const Diagramm d = Wirkstoffdiagramm();
     for (const Flaechenort Ort : {Flaechenort{0.99, 0.99}, {0, 0}, {0.9, 0}}) {
-        const QRectF Kasten = Legendenkasten(mit_Beschriftung(d, Ort));
+        const QRectF Kasten = Legendenkasten(mit_Beschriftung(d, {.Legende = Ort}));
         EXPECT_TRUE(Bildflaeche.contains(Kasten)) << Ort.links << ' ' << Ort.oben;
     }
 }

@@ -44,6 +44,25 @@ TEST(Einstellungen, what_was_written_reads_back) {
     EXPECT_EQ(*e, Probe());
 }
 
+TEST(Einstellungen, pictures_have_a_line_where_they_are_others_than_at_first) {
+    Einstellungen e;
+    e.Projektpfad = "/p";
+    e.Bild = {90, 70, 600, true};
+    const std::string Bytes = Einstellungen_als_Bytes(e);
+    EXPECT_EQ(zerlegt(Bytes).back(), "Pictures:\t90\t70\t600\t1");
+    EXPECT_EQ(zerlege_Einstellungen(Bytes), e);
+}
+
+TEST(Einstellungen, a_line_for_pictures_that_makes_no_sense_is_left_alone) {
+    const std::string Bytes = Einstellungen_als_Bytes({});
+    for (const char* Zeile :
+         {"Pictures:\t9000\t70\t600\t1", "Pictures:\t90\t70", "Something:\t90\t70\t600\t1", "\t\t\t\t", "x"}) {
+        const auto e = zerlege_Einstellungen(Bytes + Zeile + "\r\n");
+        ASSERT_TRUE(e) << Zeile;
+        EXPECT_EQ(e->Bild, Bildeinstellung()) << Zeile;
+    }
+}
+
 TEST(Einstellungen, any_path_comes_back_as_it_was) {
     for (const char* Pfad : {"", "/plain", "/über", "/Ω/日本", "/Ã¤", "/â‚¬", "/\u0081", "C:\\Users\\x", " blank "}) {
         Einstellungen e;

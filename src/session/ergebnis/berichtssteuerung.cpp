@@ -37,8 +37,9 @@ void Berichtssteuerung::stelle_her(const Diagramm& Bild) {
     const Systemuhr Maschine;
     const Uhr& Zeit = z_.Welt.Zeit ? *z_.Welt.Zeit : Maschine;
     const Berichtsart Art = z_.Zusammenfassung_aktiv ? Berichtsart::erweitert : Berichtsart::Standard;
-    Bericht_ = std::make_unique<Bericht>(schreibe_Bericht(
-        {z_.zeige(), Art, z_.Namen[Applikation], Programmversion, Berichtszeit_nach(Zeit), Bild, Diagramme_.Legende()}));
+    Bericht_ = std::make_unique<Bericht>(
+        schreibe_Bericht({z_.zeige(), Art, z_.Namen[Applikation], Programmversion, Berichtszeit_nach(Zeit), Bild,
+                          Diagramme_.Legende(), z_.Einstellung.Bild.fuer_Druck}));
 }
 
 void Berichtssteuerung::speichere_PDF(const std::string& Pfad) const {

@@ -1,6 +1,7 @@
 #include "session/ergebnis/diagrammsteuerung.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "session/kern/texte.h"
 
@@ -13,9 +14,15 @@ Diagrammsteuerung::Diagrammsteuerung(Zustand& z) : z_(z), Bereiche_(Startbereich
     }
 }
 
-void Diagrammsteuerung::setze_Startbereiche() { Bereiche_ = Startbereiche(z_.Sicht.PEC_Typ); }
+void Diagrammsteuerung::setze_Startbereiche() {
+    Bereiche_ = Startbereiche(z_.Sicht.PEC_Typ);
+    Ausschnitte_.clear();
+}
 
-void Diagrammsteuerung::setze_Bereiche_nach_Ansicht() { varnok::setze_Bereiche_nach_Ansicht(Bereiche_, z_.Sicht.PEC_Typ); }
+void Diagrammsteuerung::setze_Bereiche_nach_Ansicht() {
+    varnok::setze_Bereiche_nach_Ansicht(Bereiche_, z_.Sicht.PEC_Typ);
+    Ausschnitte_.clear();
+}
 
 Diagrammsteuerung::Grundlage Diagrammsteuerung::jetzige_Grundlage() const {
     Grundlage g{{}, z_.Sicht, z_.Zusammenfassung_aktiv, z_.Vorgabe.Beschreibung, z_.Vorgabe.Studie, Bereiche_};
@@ -25,24 +32,44 @@ Diagrammsteuerung::Grundlage Diagrammsteuerung::jetzige_Grundlage() const {
     return g;
 }
 
+bool Diagrammsteuerung::gleicher_Anblick() const {
+    return gezeichnet_ && gezeichnet_->Sicht == z_.Sicht && gezeichnet_->Zusammenfassung == z_.Zusammenfassung_aktiv &&
+           gezeichnet_->Bereiche == Bereiche_ && gezeichnete_Saetze_ == z_.Namen && gesehene_Ausschnitte_ == Ausschnitte_;
+}
+
 bool Diagrammsteuerung::ziehe_nach(const Ergebnis* gelaufen) {
-    if (z_.abgedeckt() || (gelaufen == nullptr && gezeichnet_ == jetzige_Grundlage())) return false;
-    zeichne(gelaufen);
+    if (z_.abgedeckt()) return false;
+    const bool anders = gelaufen != nullptr || gezeichnet_ != jetzige_Grundlage();
+    if (!anders && gesehene_Ausschnitte_ == Ausschnitte_) return false;
+    if (!gleicher_Anblick()) ++Anblick_;
+    if (anders) zeichne(gelaufen);
+    schneide_aus();
     gezeichnet_ = jetzige_Grundlage();  // the drawing may have moved the ends of its axes
+    gezeichnete_Saetze_ = z_.Namen;
+    gesehene_Ausschnitte_ = Ausschnitte_;
     ++z_.Zeichnung;
     return true;
 }
 
+void Diagrammsteuerung::schneide_aus() {
+    Diagramme_ = gezeichnete_;
+    for (Diagramm& d : Diagramme_) {
+        const auto Fund = Ausschnitte_.find({d.Zusammenfassung, d.Nummer});
+        const auto ganzer = gezeigter_Zeitraum(d);
+        if (Fund != Ausschnitte_.end() && ganzer) d = zeige_Ausschnitt(d, halte_in(*ganzer, Fund->second));
+    }
+}
+
 void Diagrammsteuerung::zeichne(const Ergebnis* gelaufen) {
-    Diagramme_ = z_.Zusammenfassung_aktiv ? erstelle_Diagramme_Zusammenfassung(z_.zeige(), Bereiche_, z_.i_studie())
-                                          : erstelle_Diagramme(z_.zeige(), Bereiche_, z_.i_studie());
+    gezeichnete_ = z_.Zusammenfassung_aktiv ? erstelle_Diagramme_Zusammenfassung(z_.zeige(), Bereiche_, z_.i_studie())
+                                            : erstelle_Diagramme(z_.zeige(), Bereiche_, z_.i_studie());
     std::string Fehler;
     // Files that fail for one reason are told in one line.
     const auto sammle = [&](const std::string& Text) {
         if (Fehler.find(Text) == std::string::npos) Fehler += (Fehler.empty() ? "" : "\n") + Text;
     };
     if (gelaufen != nullptr) sammle(Nebenausgaben_.schreibe_Laufprotokoll(*z_.Ausgabeprojekt, *gelaufen));
-    for (const Diagramm& d : Diagramme_) sammle(Nebenausgaben_.schreibe_Zeichnung(*z_.Ausgabeprojekt, d));
+    for (const Diagramm& d : gezeichnete_) sammle(Nebenausgaben_.schreibe_Zeichnung(*z_.Ausgabeprojekt, d));
     // One message for a drawing, and the drawing stands.
     if (!Fehler.empty()) melde(z_, Texte::Laufzeitfehler, Fehler);
 }
@@ -73,7 +100,10 @@ void Diagrammsteuerung::schalte_weiter() {
 }
 
 bool Diagrammsteuerung::skaliere(const std::string& Start, const std::string& Ende) {
-    if (uebernimm_Skalierung(Bereiche_, z_.Zusammenfassung_aktiv, vorne(), Start, Ende)) return true;
+    if (uebernimm_Skalierung(Bereiche_, z_.Zusammenfassung_aktiv, vorne(), Start, Ende)) {
+        Ausschnitte_.erase(Ausschnittplatz());
+        return true;
+    }
     z_.Welt.Fragen->frage({Skalierungsfehler_Titel, Skalierungsfehler, Symbol::Ausrufezeichen, {Knopf::OK, Knopf::Abbrechen}});
     return false;
 }
@@ -86,6 +116,41 @@ double Diagrammsteuerung::X_Start() const {
 double Diagrammsteuerung::X_Ende() const {
     const auto i = static_cast<std::size_t>(vorne());
     return z_.Zusammenfassung_aktiv ? Bereiche_.X_Ende_Zusammenfassung[i] : Bereiche_.X_Ende[i];
+}
+
+std::optional<Zeitraum> Diagrammsteuerung::gesehener_Zeitraum() const {
+    const Diagramm* d = vorderes();
+    return d != nullptr ? gezeigter_Zeitraum(*d) : std::nullopt;
+}
+
+void Diagrammsteuerung::zeige_Zeitraum(const Zeitraum& r) {
+    const auto Fund = std::find_if(gezeichnete_.begin(), gezeichnete_.end(),
+                                   [this](const Diagramm& d) { return Platz(d.Zusammenfassung, d.Nummer) == Ausschnittplatz(); });
+    const auto ganzer = Fund == gezeichnete_.end() ? std::nullopt : gezeigter_Zeitraum(*Fund);
+    if (!ganzer) return;
+    const Zeitraum gehalten = halte_in(*ganzer, r);
+    Ausschnitte_.erase(Ausschnittplatz());
+    if (gehalten != *ganzer) Ausschnitte_[Ausschnittplatz()] = gehalten;
+}
+
+void Diagrammsteuerung::strecke_um(double Faktor, double Tag) {
+    if (const auto r = gesehener_Zeitraum()) zeige_Zeitraum(gestreckt(*r, Faktor, Tag));
+}
+
+void Diagrammsteuerung::strecke(double Faktor) {
+    if (const auto r = gesehener_Zeitraum()) strecke_um(Faktor, (r->von + r->bis) / 2);
+}
+
+void Diagrammsteuerung::verschiebe(double Anteil) {
+    const auto r = gesehener_Zeitraum();
+    if (!r || !hat_Ausschnitt()) return;
+    const double Tage = std::nearbyint(Anteil * r->Laenge());  // there and back is the same place
+    zeige_Zeitraum({r->von + Tage, r->bis + Tage});
+}
+
+void Diagrammsteuerung::zeige_alles() {
+    Ausschnitte_.erase(Ausschnittplatz());
+    setze_Bereich_nach_Ansicht(Bereiche_, z_.Sicht.PEC_Typ, z_.Zusammenfassung_aktiv, vorne());
 }
 
 void Diagrammsteuerung::merke_Legende(bool Zusammenfassung, int Diagrammsatz, const std::optional<Flaechenort>& Ort) {

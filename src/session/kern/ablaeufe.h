@@ -7,6 +7,7 @@
 #include "session/eingabe/feldeingabe.h"
 #include "session/eingabe/listenwahl.h"
 #include "session/ergebnis/berichtssteuerung.h"
+#include "session/ergebnis/bildsteuerung.h"
 #include "session/ergebnis/diagrammsteuerung.h"
 #include "session/ergebnis/laufsteuerung.h"
 #include "session/kern/ablauf.h"
@@ -72,6 +73,16 @@ constexpr Ablauf Ablauf_von(Tat<&Laufsteuerung::schliesse_Skalierung>) { return 
 constexpr Ablauf Ablauf_von(Tat<&Diagrammsteuerung::schalte_weiter>) { return {Weg::Befehl}; }
 constexpr Ablauf Ablauf_von(Tat<&Diagrammsteuerung::skaliere>) { return {Weg::Zwischenschritt}; }
 constexpr Ablauf Ablauf_von(Tat<&Diagrammsteuerung::merke_Legende>) { return {Weg::Zwischenschritt}; }
+constexpr Ablauf Ablauf_von(Tat<&Diagrammsteuerung::zeige_Zeitraum>) { return {Weg::Befehl}; }
+constexpr Ablauf Ablauf_von(Tat<&Diagrammsteuerung::strecke>) { return {Weg::Befehl}; }
+constexpr Ablauf Ablauf_von(Tat<&Diagrammsteuerung::strecke_um>) { return {Weg::Befehl}; }
+constexpr Ablauf Ablauf_von(Tat<&Diagrammsteuerung::verschiebe>) { return {Weg::Befehl}; }
+constexpr Ablauf Ablauf_von(Tat<&Diagrammsteuerung::zeige_alles>) { return {Weg::Befehl}; }
+
+constexpr Ablauf Ablauf_von(Tat<&Bildsteuerung::setze>) { return {Weg::Befehl}; }
+constexpr Ablauf Ablauf_von(Tat<&Bildsteuerung::speichere>) { return {Weg::Befehl}; }
+constexpr Ablauf Ablauf_von(Tat<&Bildsteuerung::speichere_Daten>) { return {Weg::Befehl}; }
+constexpr Ablauf Ablauf_von(Tat<&Bildsteuerung::melde_kopiert>) { return {Weg::Befehl}; }
 
 constexpr Ablauf Ablauf_von(Tat<&Berichtssteuerung::erstelle>) { return {Weg::Befehl}; }
 constexpr Ablauf Ablauf_von(Tat<&Berichtssteuerung::schliesse>) { return {Weg::Zwischenschritt}; }

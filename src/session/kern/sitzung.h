@@ -59,15 +59,16 @@ private:
     // All parts of `Sitzung` or `const Sitzung`.
     template <class S>
     static auto Teile_von(S& s) {
-        return std::tie(s.Diagramme_, s.Laeufe_, s.Felder_, s.Ruecknahme_, s.Saetze_, s.Organiser_, s.Listen_, s.Studien_,
-                        s.Beschreibung_, s.Editor_, s.Tabelle_, s.Berichte_, s.Update_, s.Optionen_, s.Dateien_, s.Hilfe_,
-                        s.Programm_);
+        return std::tie(s.Diagramme_, s.Bilder_, s.Laeufe_, s.Felder_, s.Ruecknahme_, s.Saetze_, s.Organiser_, s.Listen_,
+                        s.Studien_, s.Beschreibung_, s.Editor_, s.Tabelle_, s.Berichte_, s.Update_, s.Optionen_, s.Dateien_,
+                        s.Hilfe_, s.Programm_);
     }
     auto Teile() { return Teile_von(*this); }
     auto Teile() const { return Teile_von(*this); }
 
     Zustand z_;
     Diagrammsteuerung Diagramme_{z_};
+    Bildsteuerung Bilder_{z_, Diagramme_};
     Laufsteuerung Laeufe_{z_};
     Feldeingabe Felder_{z_, Laeufe_};
     Ruecknahme Ruecknahme_{z_, Laeufe_, Felder_, Diagramme_};

@@ -1,10 +1,15 @@
 #pragma once
 
 #include <QObject>
+#include <functional>
+#include <optional>
 #include <vector>
+
+#include "session/ergebnis/bildsteuerung.h"
 
 class QAction;
 class QMainWindow;
+class QMenu;
 
 namespace varnok {
 
@@ -19,22 +24,38 @@ public:
     Bildbefehle(Sitzung& Programm, Ergebnisbereich& Bereich, QMainWindow& Fenster);
     // Enabled while there is a diagram to be seen.
     void zeige();
+    // The whole range of the diagram in front, by a key that no field or list wanted for itself.
+    void zeige_alles();
+
+Q_SIGNALS:
+    void gehandelt();
 
 private:
-    enum class Dateiart { PNG, SVG, PDF };
+    // `Taste` in the form of a key sequence, empty for none.
+    QAction* fuege_an(const char16_t* Name, const char16_t* Aufschrift, const char16_t* Taste, std::function<void()> Befehl);
+    void fuege_Blick_an();
+    void fuege_Ausgabe_an();
+    template <auto Befehl, class... Angaben>
+    void befiehl(Angaben&&... a);
+    bool mit_Legende() const;
 
-    template <class Befehl>
-    QAction* fuege_an(const char16_t* Name, const char16_t* Aufschrift, Befehl b);
+    struct Dateiwahl {
+        QString Pfad;
+        qsizetype Filter = 0;  // which of those offered
+    };
+    // Asks for a file of one of these kinds; nothing where the user does not want one.
+    std::optional<Dateiwahl> frage_nach_Datei(const QString& Titel, const QStringList& Filter, const QString& Endung);
+    void speichere(Bildart Art);
+    void speichere_Daten();
     void kopiere();
-    void speichere(Dateiart Art);
-    void schreibe(const QString& Pfad, const QByteArray& Inhalt);
+    void kopiere_Daten();
+    void waehle_Einstellung();
 
     Sitzung& Programm_;
     Ergebnisbereich& Bereich_;
     QMainWindow& Fenster_;
+    QMenu* Menue_;
     std::vector<QAction*> Eintraege_;
-    QString Ordner_;  // of the picture saved last
-    int Aufloesung_ = 300;
 };
 
 }  // namespace varnok

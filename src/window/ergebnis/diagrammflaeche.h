@@ -2,11 +2,15 @@
 
 #include <QPixmap>
 #include <QWidget>
+#include <algorithm>
 #include <array>
 #include <optional>
+#include <utility>
 
 #include "diagrams/diagramm.h"
 #include "diagrams/diagrammsaetze.h"
+#include "diagrams/rahmenlage.h"
+#include "painting/titelsatz.h"
 
 class QLabel;
 
@@ -27,12 +31,16 @@ public:
     Legendenrahmen* Legende() const { return Legende_; }
     int Nummer() const { return Nummer_; }
 
-    void zeige(const Diagramm& d);
+    // `Anblick`: another number where the view or a record is another one than at the drawing before. Only then, or when the size
+    // changes, frames leave their places.
+    void zeige(const Diagramm& d, int Anblick);
     void leere();
     const std::optional<Diagramm>& Inhalt() const { return Inhalt_; }
     // Legend and results come back to where they stood at first.
     void hole_Rahmen_heim();
     void verbirg_Ablesung();
+    // What frames must not cover, as it is shown now.
+    Rahmenfeld Feld() const;
     // Places all that stands on the surface.
     void ordne();
 
@@ -40,6 +48,9 @@ Q_SIGNALS:
     // A left press, a right press, each without a key.
     void weiterzuschalten();
     void zu_skalieren();
+    // Days were marked by a drag with a key held; the wheel was turned over a day.
+    void Zeitraum_gezogen(double von, double bis);
+    void gedreht(double Faktor, double Tag);
 
 protected:
     void paintEvent(QPaintEvent* e) override;
@@ -48,18 +59,25 @@ protected:
     void mousePressEvent(QMouseEvent* e) override;
     void mouseDoubleClickEvent(QMouseEvent* e) override;
     void mouseMoveEvent(QMouseEvent* e) override;
+    void mouseReleaseEvent(QMouseEvent* e) override;
+    void wheelEvent(QWheelEvent* e) override;
     void leaveEvent(QEvent* e) override;
 
 private:
     enum Schildname { Titel, Kommentar, x_Achse, y_Achse };
 
     QLabel* erstelle_Schild(const QString& Name, const QString& Endung);
-    // Gives the lower edge of the comment, in pixels.
-    int ordne_Schilder();
+    // Breaks title and comment into lines; gives the units that they take.
+    double bestimme_Kopf();
+    void ordne_Schilder();
     void ordne_Ablesung();
-    void setze_Schild(Schildname s, const Beschriftung& b, double links, double oben);
+    void setze_Schild(Schildname s, const Beschriftung& b, const Titelsatz& Satz, const QPointF& Ort, bool mittig);
+    void ordne_Rahmen();
     void zeige_Ablesung(const QPointF& Ort);
     void male_Bild();
+    // The place of the drawing under a pixel.
+    Punkt logisch_bei(const QPointF& Ort) const;
+    double Tag_bei(double x) const { return std::clamp(logisch_bei({x, 0}).x, Achsen_.links, Achsen_.rechts); }
     // Size in units of 1/96 inch, of which the letters of the desktop make larger ones.
     QSizeF Groesse() const { return QSizeF(size()) / Massstab_; }
 
@@ -67,14 +85,23 @@ private:
     std::optional<Diagramm> Inhalt_;
     Zeichenliste Liste_;  // fitted to the size
     Koordinaten Achsen_;  // the rectangle between the axes
+    Titelsatz Titelsatz_;
+    Titelsatz Kommentarsatz_;
+    double Kopf_ = 0;  // units that both take
     double Massstab_ = 1;
     QPixmap Bild_;
     std::array<QLabel*, 4> Schilder_{};
     QLabel* Ablesungsschild_;
     std::optional<QPointF> Ablesepunkt_;
     int Ablesefarbe_ = 0;
+    std::optional<std::pair<double, double>> Auswahl_;  // pixels from left to right, while days are marked
     Legendenrahmen* Legende_;
     Ergebnisrahmen* Tafel_ = nullptr;
+    // Where frames stand that were not dragged, and what they were placed for; nothing before that has been seen.
+    std::array<std::optional<Rahmenplatz>, 2> Plaetze_;
+    int Anblick_ = 0;
+    std::pair<int, QSize> gestellt_fuer_;
+    bool gesehen_ = false;
 };
 
 }  // namespace varnok

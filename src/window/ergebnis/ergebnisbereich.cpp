@@ -50,6 +50,11 @@ Diagrammflaeche* Ergebnisbereich::erstelle_Flaeche(bool Zusammenfassung, int Num
     auto* d = new Diagrammflaeche(Zusammenfassung, Nummer, Titel, s.Flaeche);
     s.Stapel->addWidget(d);
     connect(d, &Diagrammflaeche::weiterzuschalten, this, [this] { befiehl<&Diagrammsteuerung::schalte_weiter>(); });
+    connect(d, &Diagrammflaeche::Zeitraum_gezogen, this, [this](double von, double bis) {
+        befiehl<&Diagrammsteuerung::zeige_Zeitraum>(Zeitraum{von, bis});
+    });
+    connect(d, &Diagrammflaeche::gedreht, this,
+            [this](double Faktor, double Tag) { befiehl<&Diagrammsteuerung::strecke_um>(Faktor, Tag); });
     // The press ends before the dialog takes over.
     connect(d, &Diagrammflaeche::zu_skalieren, this, &Ergebnisbereich::skaliere, Qt::QueuedConnection);
     connect(d->Legende(), &Flaechenrahmen::umgestellt, this, [this, d, Zusammenfassung] {
@@ -66,7 +71,7 @@ Diagrammflaeche* Ergebnisbereich::Flaeche_vorn(const Seite& s) const {
 
 Diagrammflaeche* Ergebnisbereich::Flaeche_fuer_Befehl() {
     if (!schliesse_Feld_ab() || Stand().abgedeckt() || !Stand().Gestartet) return nullptr;
-    Diagrammflaeche* d = Flaeche_vorn(Seiten_[Felder().Berechnungsmodus]);
+    Diagrammflaeche* d = Flaeche_vorn();
     return d->Inhalt() ? d : nullptr;
 }
 
@@ -139,7 +144,7 @@ void Ergebnisbereich::fuelle_Diagramme(const Seite& s) {
         if (Treffer == Liste.end()) {
             f->leere();
         } else {
-            f->zeige(*Treffer);
+            f->zeige(*Treffer, Programm_.zeige<Diagrammsteuerung>().Anblick());
         }
     }
 }

@@ -25,6 +25,9 @@ public:
     // The diagram in front, for a command; the field in work is accepted first. Null where that is refused, and where
     // there is no diagram to be seen.
     Diagrammflaeche* Flaeche_fuer_Befehl();
+    Diagrammflaeche* Flaeche_vorn() const { return Flaeche_vorn(Seiten_[Felder().Berechnungsmodus]); }
+    // The dialog for the time range of the diagram in front.
+    void skaliere();
     // A view was chosen: grids that the user hid come back.
     void hole_Ergebnisrahmen();
 
@@ -44,7 +47,6 @@ private:
     void zeige_Ergebnisse(Seite& s);
     void fuelle_Diagramme(const Seite& s);
     void fuelle_Tafeln(const Seite& s);
-    void skaliere();
     void decke_zu();
     void bestimme_Zeilen();
 

@@ -71,6 +71,8 @@ Ergebnisrahmen::Ergebnisrahmen(const QString& Endung, const QString& Titel, QWid
     Tafel_->setItemDelegate(new Zellenschrift(Tafel_));
     Tafel_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     Tafel_->setTabKeyNavigation(false);
+    // A press may be the start of a drag: only a click within a cell takes the focus.
+    Tafel_->setFocusPolicy(Qt::TabFocus);
     Tafel_->setShowGrid(false);
     QPalette Grund = palette();
     Grund.setColor(QPalette::Base, palette().color(QPalette::Window));
@@ -124,7 +126,9 @@ void Ergebnisrahmen::ordne(const QSize& Flaeche, int Achsenhoehe) {
     // The grid of many studies takes no more than two thirds of the surface, as far as its numbers let it.
     const int schmal = std::max(Ziffern(*this, 8), Flaeche.width() * 2 / 3 / n);
     const int passend = (Flaeche.width() - 12 - Rand.left() - Rand.right()) / n;
-    const int Spalte = std::max(1, std::min({Ziffern(*this, 11), n > 3 ? schmal : passend, passend}));
+    const double gewohnte =
+        Flaeche.width() < Ziffern(*this, 66) ? 9.5 : 11;  // on a small surface there is a legend to leave room for
+    const int Spalte = std::max(1, std::min({Ziffern(*this, gewohnte), n > 3 ? schmal : passend, passend}));
     int Kopfzeilen = 1;
     for (int j = 0; j < n; ++j) {
         Tafel_->setColumnWidth(j, Spalte);

@@ -3,14 +3,12 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <algorithm>
-#include <cmath>
 
 #include "window/kern/rahmenfarben.h"
 
 namespace varnok {
 namespace {
 
-constexpr int Heimatabstand = 6;  // pixels around a frame at home
 constexpr Qt::KeyboardModifiers Tasten = Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier;
 
 }  // namespace
@@ -20,28 +18,14 @@ Flaechenrahmen::Flaechenrahmen(const QString& Name, Flaechenort Heimat, QWidget*
     setPalette(helle_Palette(QColor(250, 250, 247)));
 }
 
-void Flaechenrahmen::stelle(const QPoint& Ecke, const QMargins& Rand) {
+void Flaechenrahmen::stelle(const QPoint& Ecke) {
     const QSize Flaeche = parentWidget()->size();
-    move(std::max(Rand.left(), std::min(Ecke.x(), Flaeche.width() - width() - Rand.right())),
-         std::max(Rand.top(), std::min(Ecke.y(), Flaeche.height() - height() - Rand.bottom())));
-}
-
-void Flaechenrahmen::stelle_auf(int oben, int unten) {
-    Heimatrand_ = QMargins(Heimatabstand, std::max(Heimatabstand, oben), Heimatabstand, unten + Heimatabstand);
-    stelle_auf();
-}
-
-void Flaechenrahmen::stelle_auf() {
-    const Flaechenort Platz = gezogen_.value_or(Heimat_);
-    const QSize Flaeche = parentWidget()->size();
-    stelle(QPoint(static_cast<int>(std::lround(Platz.links * Flaeche.width())),
-                  static_cast<int>(std::lround(Platz.oben * Flaeche.height()))),
-           gezogen_ ? QMargins() : Heimatrand_);
+    move(std::max(0, std::min(Ecke.x(), Flaeche.width() - width())),
+         std::max(0, std::min(Ecke.y(), Flaeche.height() - height())));
 }
 
 void Flaechenrahmen::kehre_heim() {
     gezogen_.reset();
-    stelle_auf();
     Q_EMIT umgestellt();
 }
 
@@ -74,7 +58,7 @@ void Flaechenrahmen::ziehe(const QMouseEvent* e) {
     const QPoint hier = e->globalPosition().toPoint();
     if (hier == Druckstelle_ && !bewegt_) return;
     bewegt_ = true;
-    stelle(parentWidget()->mapFromGlobal(hier) - *Griff_, {});
+    stelle(parentWidget()->mapFromGlobal(hier) - *Griff_);
     const QSize Flaeche = parentWidget()->size();
     gezogen_ = Flaechenort{static_cast<double>(x()) / std::max(1, Flaeche.width()),
                            static_cast<double>(y()) / std::max(1, Flaeche.height())};

@@ -16,9 +16,9 @@ class Flaechenrahmen : public QFrame {
 public:
     Flaechenrahmen(const QString& Name, Flaechenort Heimat, QWidget* Flaeche);
 
-    // To its place on the surface as it is now, wholly inside it; at home also between the labels, which take so many
-    // pixels at the upper and the lower edge.
-    void stelle_auf(int oben, int unten);
+    // Stands there, wholly on the surface.
+    void stelle(const QPoint& Ecke);
+    Flaechenort Heimat() const { return Heimat_; }
     // Forgets where it was dragged to.
     void kehre_heim();
     // Where it was dragged to: upper left corner, in fractions of the surface. None: it is at home.
@@ -26,6 +26,7 @@ public:
 
     // Hidden by the user; whether it is seen depends on `erlaube` too.
     void verbirg(bool verborgen);
+    bool verborgen() const { return verborgen_; }
     void erlaube(bool erlaubt);
 
 Q_SIGNALS:
@@ -50,15 +51,12 @@ private:
     void druecke(QMouseEvent* e);
     void ziehe(const QMouseEvent* e);
     void lasse_los(const QWidget* Quelle, const QMouseEvent* e);
-    void stelle(const QPoint& Ecke, const QMargins& Rand);
-    void stelle_auf();
 
     Flaechenort Heimat_;
     std::optional<Flaechenort> gezogen_;  // none: at home
     std::optional<QPoint> Griff_;         // the grabbed point, while a button is down
     QPoint Druckstelle_;                  // on the screen
     bool bewegt_ = false;
-    QMargins Heimatrand_;  // what a frame at home keeps free
     bool verborgen_ = false;
     bool erlaubt_ = true;
 };

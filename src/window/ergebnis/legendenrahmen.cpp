@@ -6,7 +6,6 @@
 #include <array>
 #include <cmath>
 
-#include "painting/farben.h"
 #include "painting/qt_text.h"
 #include "painting/zeichner.h"
 #include "run/zeitachse.h"
@@ -26,9 +25,13 @@ public:
 
 protected:
     void paintEvent(QPaintEvent*) override {
+        // By the painter of the curves, so that it is as wide as they are at every scale.
+        const QRectF Flaeche(QPointF(), QSizeF(size()) / Massstab);
+        Zeichenliste z;
+        z.Linien.push_back({{0, 0.5}, {1, 0.5}, Linie_.Farbe, Linie_.Breite, Linie_.Muster});
         QPainter p(this);
-        p.setPen(QPen(Palettenfarbe(Linie_.Farbe), Linie_.Breite * Massstab, Qt::SolidLine, Qt::FlatCap));
-        p.drawLine(0, height() / 2, width(), height() / 2);
+        p.scale(Massstab, Massstab);
+        male(p, Flaeche, z);
     }
 
 private:

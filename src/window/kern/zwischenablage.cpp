@@ -12,12 +12,6 @@ namespace varnok {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-constexpr int Aufloesung_Zwischenablage = 192;
-
-}  // namespace
-
 void kopiere_Zellen(const QTableWidget& Tafel) {
     QStringList Zeilen;
     QString Html = u"<table>"_s;
@@ -45,10 +39,17 @@ void kopiere_Zellen(const QTableWidget& Tafel) {
     QApplication::clipboard()->setMimeData(Inhalt);
 }
 
-void kopiere_Bild(const Zeichenliste& z, const QString& Titel) {
+void kopiere_Bild(const Zeichenliste& z, const QString& Titel, const QSizeF& Groesse, int dpi) {
     auto* Inhalt = new QMimeData;
-    Inhalt->setImageData(Bild_als_Pixel(z, Aufloesung_Zwischenablage));
-    Inhalt->setData(u"image/svg+xml"_s, Bild_als_SVG(z, Titel));
+    Inhalt->setImageData(Bild_als_Pixel(z, Groesse, dpi));
+    Inhalt->setData(u"image/svg+xml"_s, Bild_als_SVG(z, Titel, Groesse));
+    QApplication::clipboard()->setMimeData(Inhalt);
+}
+
+void kopiere_Zahlen(const QString& mit_Tabulatoren, const QString& CSV) {
+    auto* Inhalt = new QMimeData;
+    Inhalt->setText(mit_Tabulatoren);
+    Inhalt->setData(u"text/csv"_s, CSV.toUtf8());
     QApplication::clipboard()->setMimeData(Inhalt);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QSizeF>
 #include <QString>
 
 #include "diagrams/zeichenliste.h"
@@ -12,7 +13,10 @@ namespace varnok {
 // blanks around it.
 void kopiere_Zellen(const QTableWidget& Tafel);
 
-// Copies a picture as pixels and as SVG.
-void kopiere_Bild(const Zeichenliste& z, const QString& Titel);
+// Copies a picture of that size (units of 1/96 inch) as pixels and as SVG.
+void kopiere_Bild(const Zeichenliste& z, const QString& Titel, const QSizeF& Groesse, int dpi);
+
+// Copies numbers as tab separated lines, which a spreadsheet takes as cells, and as comma separated values.
+void kopiere_Zahlen(const QString& mit_Tabulatoren, const QString& CSV);
 
 }  // namespace varnok

@@ -71,6 +71,7 @@ Hauptformular::Hauptformular(Sitzung& Programm, Fensterfrage* Fragen, const QStr
     connect(findChild<QAction*>(u"M_ueber"_s), &QAction::triggered, this, &Hauptformular::zeige_Info);
     connect(findChild<QAction*>(u"M_Versionsinfo"_s), &QAction::triggered, this, &Hauptformular::zeige_Versionsinfo);
     connect(findChild<QAction*>(u"M_Laden"_s), &QAction::triggered, this, &Hauptformular::oeffne_Organiser);
+    connect(Bilder_, &Bildbefehle::gehandelt, this, &Hauptformular::nach_Handlung);
     connect(Steuerung_, &Feldsteuerung::gehandelt, this, &Hauptformular::zeige);
     connect(Steuerung_, &Feldsteuerung::getippt, this, &Hauptformular::zeige_Getipptes);
     for (Rahmen* r : Rahmen_) {
@@ -278,6 +279,17 @@ void Hauptformular::closeEvent(QCloseEvent* e) {
     }
     if (!Fensterdatei_.isEmpty()) QSettings(Fensterdatei_, QSettings::IniFormat).setValue(u"geometry"_s, saveGeometry());
     e->accept();
+}
+
+bool Hauptformular::event(QEvent* e) {
+    if (e->type() != QEvent::StatusTip) return QMainWindow::event(e);
+    Schalter_->zeige_Handhabung(static_cast<QStatusTipEvent*>(e)->tip());
+    return true;
+}
+
+void Hauptformular::keyPressEvent(QKeyEvent* e) {
+    if (e->key() != Qt::Key_Home || e->modifiers() != Qt::NoModifier) return QMainWindow::keyPressEvent(e);
+    Bilder_->zeige_alles();
 }
 
 void Hauptformular::stelle_Fenster_her() {

@@ -42,6 +42,9 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* e) override;
+    // What the control under the mouse can do, in the status line.
+    bool event(QEvent* e) override;
+    void keyPressEvent(QKeyEvent* e) override;
 
 private:
     // The mark of values that no file holds yet.

@@ -57,8 +57,19 @@ void Schalterrahmen::zeige() {
     zeige_Hinweis();
     Bericht_erstellen_->setEnabled(Stand().Gestartet);
     const std::string& Zeile = Stand().Statuszeile;
-    Status_->setText(Zeile.empty() ? QString() : in_Qt(Stand().Statuszeit + ' ' + Zeile));
+    const QString Text = Zeile.empty() ? QString() : in_Qt(Stand().Statuszeit + ' ' + Zeile);
+    // What has happened goes before what could be done.
+    if (Text != Statustext_) Handhabung_.clear();
+    Statustext_ = Text;
+    zeige_Status();
 }
+
+void Schalterrahmen::zeige_Handhabung(const QString& Text) {
+    Handhabung_ = Text;
+    zeige_Status();
+}
+
+void Schalterrahmen::zeige_Status() { Status_->setText(Handhabung_.isEmpty() ? Statustext_ : Handhabung_); }
 
 void Schalterrahmen::gib_Ende_den_Fokus() { Ende_->setFocus(Qt::OtherFocusReason); }
 

@@ -15,14 +15,19 @@ public:
     void zeige() override;
     // The picture of results that are out of date, alone.
     void zeige_Hinweis();
+    // What the control under the mouse can do, in place of the line until there is a new one; empty: no longer.
+    void zeige_Handhabung(const QString& Text);
     void gib_Ende_den_Fokus();
 
 private:
     // The picture of results that are out of date: a file of the project, else the built-in one.
     QIcon Hinweisbild() const;
+    void zeige_Status();
 
     Schaltflaeche *Aktualisieren_, *speichern_, *Bericht_erstellen_, *Ende_;
     Kurztext* Status_;
+    QString Statustext_;
+    QString Handhabung_;
 };
 
 }  // namespace varnok

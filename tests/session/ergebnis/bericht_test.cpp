@@ -18,7 +18,7 @@ protected:
         return d.resource(QTextDocument::ImageResource, QUrl(QString::fromLatin1(Bildname))).value<QImage>();
     }
     QImage Bild_mit_Legende(const std::optional<Flaechenort>& Ort) const {
-        return erstelle_Berichtsbild(mit_Beschriftung(*s_->zeige<Diagrammsteuerung>().vorderes(), Ort));
+        return erstelle_Berichtsbild(mit_Beschriftung(*s_->zeige<Diagrammsteuerung>().vorderes(), {.Legende = Ort}));
     }
 };
 

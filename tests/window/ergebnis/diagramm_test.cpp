@@ -274,15 +274,14 @@ private Q_SLOTS:
     void frames_start_at_home() {
         QCOMPARE(p_->Teil<QWidget>("Legendenrahmen_0")->x(), static_cast<int>(std::lround(7000.0 / 9600 * p_->vorn()->width())));
         const QRect Tafel = p_->Teil<QWidget>("Ergebnisrahmen_0")->geometry();
-        QVERIFY(p_->vorn()->rect().adjusted(6, 6, -6, -6).contains(Tafel));
+        QVERIFY(p_->vorn()->rect().adjusted(6, 6, -6, -6).contains(Tafel));  // its own home lies on the curve
         QVERIFY(!Tafel.intersects(p_->Teil<QWidget>("Legendenrahmen_0")->geometry()));
     }
 
     // The numbers of the time axis stay in sight, also under the grid of six studies.
-    void a_grid_at_home_ends_above_the_time_axis() {
+    void a_grid_ends_above_the_time_axis() {
         const auto pruefe = [&](const char* Name) {
             const QRect Tafel = p_->Teil<QWidget>(Name)->geometry();
-            QCOMPARE(Tafel.top(), static_cast<int>(std::lround(4000.0 / 7500 * p_->vorn()->height())));
             QVERIFY2(Tafel.bottom() < Zeitachse(), Name);
         };
         pruefe("Ergebnisrahmen_0");
@@ -304,7 +303,7 @@ private Q_SLOTS:
         QVERIFY(Ort());
         QVERIFY(std::abs(Ort()->links * p_->vorn()->width() - Legende->x()) < 1);
         QVERIFY(std::abs(Ort()->oben * p_->vorn()->height() - Legende->y()) < 1);
-        const QImage dort = erstelle_Berichtsbild(mit_Beschriftung(*p_->vorn()->Inhalt(), Ort()));
+        const QImage dort = erstelle_Berichtsbild(mit_Beschriftung(*p_->vorn()->Inhalt(), {.Legende = Ort()}));
         const QImage daheim = erstelle_Berichtsbild(mit_Beschriftung(*p_->vorn()->Inhalt()));
         QVERIFY(dort != daheim);
         QVERIFY(Berichtsbild_bei([&] { p_->klicke("Bericht_erstellen"); }) == dort);

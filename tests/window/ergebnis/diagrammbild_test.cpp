@@ -1,12 +1,14 @@
 // The picture of a diagram: labels, curves, values read off it, and its way to other programs.
 
 #include <QAction>
+#include <QCheckBox>
 #include <QClipboard>
 #include <QDir>
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
+#include <QSpinBox>
 #include <QSvgRenderer>
 
 #include "painting/qt_text.h"
@@ -45,14 +47,29 @@ private Q_SLOTS:
             QVERIFY(l->isVisible());
             QVERIFY(!l->text().isEmpty());
             QVERIFY2(p_->vorn()->rect().contains(l->geometry()), qPrintable(ganz));
-            QVERIFY(l->fontMetrics().horizontalAdvance(l->text()) <= l->width());
+            for (const QString& Zeile : l->text().split(u'\n')) QVERIFY(l->fontMetrics().horizontalAdvance(Zeile) <= l->width());
             for (const QRect& r : belegt) QVERIFY2(!r.intersects(l->geometry()), qPrintable(ganz));
             belegt << l->geometry();
         }
     }
 
-    void a_label_that_is_too_long_has_its_text_as_tip() {
+    void a_title_that_does_not_fit_has_two_lines() {
         p_->waehle_Simulation("Sugar beet, Compound E");
+        p_->Fenster().resize(p_->Fenster().minimumSize());
+        QTest::qWait(30);
+        const auto* l = p_->Teil<QLabel>("Diagrammtitel_8");
+        QCOMPARE(l->text().split(u'\n').size(), 2);
+        QCOMPARE(l->text().replace(u'\n', u' '), in_Qt(p_->vorn()->Inhalt()->Titel.Text));
+        QVERIFY(l->toolTip().isEmpty());
+        QVERIFY(p_->Teil<QLabel>("Diagrammkommentar_8")->font().pixelSize() < l->font().pixelSize());
+    }
+
+    void a_title_that_is_too_long_for_two_lines_has_its_text_as_tip() {
+        p_->waehle_Simulation("Sugar beet, Compound E");
+        p_->Programm().fuehre_aus<&Beschreibungseingabe::oeffne>();
+        p_->Programm().fuehre_aus<&Beschreibungseingabe::aendere>(std::string(60, 'w') + " and " + std::string(60, 'm'));
+        p_->Programm().fuehre_aus<&Beschreibungseingabe::schliesse>();
+        p_->Fenster().zeige();
         p_->Fenster().resize(p_->Fenster().minimumSize());
         QTest::qWait(30);
         auto* l = p_->Teil<QLabel>("Diagrammtitel_8");
@@ -78,7 +95,7 @@ private Q_SLOTS:
         QTest::mouseMove(p_->vorn(), Ort_des_Tages(0));
         QTest::qWait(5);
         QVERIFY(l->isVisible());
-        QVERIFY2(l->text().startsWith(u"day 0: 1.3333 mg/kg"_s), qPrintable(l->text()));
+        QVERIFY2(l->text().startsWith(u"day 0: 1.333 mg/kg"_s), qPrintable(l->text()));
         // At the peak's half-life half of it is left.
         QTest::mouseMove(p_->vorn(), Ort_des_Tages(50));
         QTest::qWait(5);
@@ -140,32 +157,97 @@ private Q_SLOTS:
         QVERIFY(QSvgRenderer(Inhalt->data(u"image/svg+xml"_s)).isValid());
     }
 
-    void a_saved_png_has_the_resolution_chosen() {
-        const QString Pfad = speichere("M_Bild_PNG", u"curve.png"_s, 3);
-        const QImage Bild(Pfad);
-        QCOMPARE(Bild.size(), QSize(640, 500) * 600 / 96);
-        QCOMPARE(std::lround(Bild.dotsPerMeterX() * 0.0254), 600);
-        QVERIFY(zaehle(Bild, Marineblau) > 5000);
+    // 160 x 125 mm, 300 dots per inch at first.
+    void a_saved_png_has_the_size_and_the_resolution_of_the_options() {
+        QImage Bild(speichere("M_Bild_PNG", u"curve.png"_s));
+        QCOMPARE(Bild.size(), QSize(1890, 1476));
+        QCOMPARE(std::lround(Bild.dotsPerMeterX() * 0.0254), 300);
+        QVERIFY(zaehle(Bild, Marineblau) > 2000);
+        waehle_Optionen(100, 80, 150, false);
+        Bild = QImage(speichere("M_Bild_PNG", u"curve.png"_s));
+        QCOMPARE(Bild.size(), QSize(591, 472));
+        QCOMPARE(std::lround(Bild.dotsPerMeterX() * 0.0254), 150);
+    }
+
+    void for_print_the_light_colours_are_gone() {
+        constexpr QRgb Hellgruen = 0xff00ff00;
+        p_->waehle_Simulation("Potatoes, Compound C");
+        p_->waehle("PEC_Typ_0");
+        p_->klicke_Diagramm(2);
+        QVERIFY(zaehle(QImage(speichere("M_Bild_PNG", u"curve.png"_s)), Hellgruen) > 100);
+        waehle_Optionen(160, 125, 300, true);
+        QCOMPARE(zaehle(QImage(speichere("M_Bild_PNG", u"curve.png"_s)), Hellgruen), 0);
+        QVERIFY(zaehle(p_->vorn()->grab().toImage(), Hellgruen) > 20);  // on the screen they stay
     }
 
     void a_saved_svg_holds_labels_and_legend() {
-        const QString Pfad = speichere("M_Bild_SVG", u"curve"_s, 0);
+        const QString Pfad = speichere("M_Bild_SVG", u"curve"_s);
         QVERIFY(Pfad.endsWith(u"curve.svg"_s));
         QSvgRenderer Leser(Pfad);
         QVERIFY(Leser.isValid());
-        QCOMPARE(Leser.viewBoxF(), QRectF(0, 0, 640, 500));
         const QString Text = QString::fromUtf8(lies(Pfad));
         for (const QString& s : {u"Annual concentration of"_s, u"Time after first application (d)"_s, u"c(mg/kg)"_s, u"PEC"_s})
             QVERIFY2(Text.contains(s), qPrintable(s));
         QVERIFY(Text.contains(u"#000080"_s));
     }
 
+    void a_legend_that_was_hidden_is_in_no_saved_picture() {
+        QTest::mouseClick(p_->Teil<QWidget>("Legendenrahmen_0"), Qt::LeftButton, Qt::ControlModifier);
+        QVERIFY(!QString::fromUtf8(lies(speichere("M_Bild_SVG", u"curve"_s))).contains(u">PEC<"_s));
+        p_->Teil<QAction>("M_Rahmen_zeigen")->trigger();
+        QVERIFY(QString::fromUtf8(lies(speichere("M_Bild_SVG", u"curve"_s))).contains(u">PEC<"_s));
+    }
+
+    void the_proposed_name_tells_what_is_shown_and_goes_to_the_output_folder() {
+        p_->waehle_Simulation("Sugar beet, Compound E");
+        p_->waehle("PEC_Typ_2");
+        p_->waehle("Endpunkt_0");
+        QCOMPARE(vorgeschlagen("M_Bild_SVG"),
+                 p_->Pfad(u"output/Compound E - Soil 1, first order - accumulated - pore water.svg"_s));
+        p_->klicke_Diagramm(3);
+        QCOMPARE(
+            vorgeschlagen("M_Bild_PNG"),
+            p_->Pfad(u"output/Compound E, Metabolite E1, Metabolite E2 - Soil 1, first order - accumulated - pore water.png"_s));
+        p_->Teil<QAction>("M_Zusammenfassung")->trigger();
+        QCOMPARE(vorgeschlagen("M_Daten_speichern"),
+                 p_->Pfad(u"output/Compound E - all studies - accumulated - pore water.csv"_s));
+    }
+
+    void the_status_line_says_what_was_written_or_copied() {
+        const auto Status = [this] { return in_Qt(p_->Programm().Stand().Statuszeile); };
+        const QString Pfad = speichere("M_Bild_PDF", u"curve.pdf"_s);
+        QCOMPARE(Status(), u"Picture written: "_s + Pfad);
+        p_->Teil<QAction>("M_Bild_kopieren")->trigger();
+        QVERIFY2(Status().startsWith(u"Picture copied: Annual concentration of "_s), qPrintable(Status()));
+        p_->Teil<QAction>("M_Daten_kopieren")->trigger();
+        QVERIFY2(Status().startsWith(u"Data copied: Annual concentration of "_s), qPrintable(Status()));
+        const QString Daten = speichere("M_Daten_speichern", u"curve"_s);
+        QVERIFY(Daten.endsWith(u"curve.csv"_s));
+        QCOMPARE(Status(), u"Data written: "_s + Daten);
+    }
+
+    void saved_data_hold_curve_average_and_table() {
+        const QString Text = QString::fromUtf8(lies(speichere("M_Daten_speichern", u"curve"_s)));
+        const QStringList Zeilen = Text.split(u"\r\n"_s);
+        QVERIFY(Zeilen.contains(u"day,Compound A (mg/kg)"_s));
+        QVERIFY(Zeilen.contains(u"0,1.333333"_s));
+        QVERIFY(Text.contains(u"TWA of,first day,days,TWA (mg/kg)\r\nCompound A,0,"_s));
+        QVERIFY(Text.contains(u"Total soil concentrations (mg/kg) incl. crop rotation"_s));
+        QVERIFY(Text.contains(u"1.3333"_s));
+    }
+
+    void copied_data_are_cells_of_a_spreadsheet() {
+        p_->Teil<QAction>("M_Daten_kopieren")->trigger();
+        const QMimeData* Inhalt = QApplication::clipboard()->mimeData();
+        QVERIFY(Inhalt->text().contains(u"\r\nday\tCompound A (mg/kg)\r\n0\t1.333333\r\n"_s));
+        QVERIFY(Inhalt->data(u"text/csv"_s).contains("\r\n0,1.333333\r\n"));
+    }
+
     void a_saved_pdf_is_one() {
-        const QByteArray Inhalt = lies(speichere("M_Bild_PDF", u"curve.pdf"_s, 0));
+        const QByteArray Inhalt = lies(speichere("M_Bild_PDF", u"curve.pdf"_s));
         QVERIFY(Inhalt.startsWith("%PDF-"));
         QVERIFY(Inhalt.trimmed().endsWith("%%EOF"));
-        // 640 x 500 pixels are 480 x 375 points.
-        QVERIFY(Inhalt.contains("/MediaBox [0 0 480"));
+        QVERIFY(Inhalt.contains("/MediaBox [0 0 45"));  // 160 mm are 453.5 points
     }
 
     void a_picture_that_cannot_be_written_is_told() {
@@ -212,17 +294,38 @@ private:
         qFatal("no time axis");
     }
 
-    // Through the file dialog, with its n-th file type.
-    QString speichere(const char* Befehl, const QString& Name, int Filter) {
+    // Through the file dialog.
+    QString speichere(const char* Befehl, const QString& Name) {
         Ordner_ = std::make_unique<QTemporaryDir>();
         bei_Dialog<QFileDialog>([&](QFileDialog& d) {
-            d.selectNameFilter(d.nameFilters().at(Filter));
             d.findChild<QLineEdit*>()->setText(Ordner_->filePath(Name));
             QMetaObject::invokeMethod(&d, "accept");
         });
         p_->Teil<QAction>(Befehl)->trigger();
         const QStringList da = QDir(Ordner_->path()).entryList(QDir::Files);
         return da.isEmpty() ? QString() : Ordner_->filePath(da.front());
+    }
+
+    // The file that the dialog opens with.
+    QString vorgeschlagen(const char* Befehl) {
+        QString Pfad;
+        bei_Dialog<QFileDialog>([&](QFileDialog& d) {
+            Pfad = d.directory().filePath(d.findChild<QLineEdit*>()->text());
+            d.reject();
+        });
+        p_->Teil<QAction>(Befehl)->trigger();
+        return Pfad;
+    }
+
+    void waehle_Optionen(int Breite, int Hoehe, int Aufloesung, bool Druck) {
+        bei_Dialog<QDialog>([&](QDialog& d) {
+            for (const auto& [Name, Wert] :
+                 {std::pair("Bildbreite", Breite), {"Bildhoehe", Hoehe}, {"Bildaufloesung", Aufloesung}})
+                d.findChild<QSpinBox*>(QString::fromLatin1(Name))->setValue(Wert);
+            d.findChild<QCheckBox*>(u"Bild_fuer_Druck"_s)->setChecked(Druck);
+            d.accept();
+        });
+        p_->Teil<QAction>("M_Bild_Optionen")->trigger();
     }
 
     std::unique_ptr<QTemporaryDir> Ordner_;

@@ -1,0 +1,70 @@
+#include "painting/titelsatz.h"
+
+#include <QFontMetricsF>
+#include <algorithm>
+
+#include "painting/qt_text.h"
+#include "painting/zeichner.h"
+
+namespace varnok {
+namespace {
+
+double breiteste(const QStringList& Zeilen, const QFontMetricsF& Masse) {
+    double Breite = 0;
+    for (const QString& z : Zeilen) Breite = std::max(Breite, Masse.horizontalAdvance(z));
+    return Breite;
+}
+
+// As much as finds room on each line, a word that is wider than a line in pieces.
+QStringList fuelle_Zeilen(const QString& Text, const QFontMetricsF& Masse, double Breite) {
+    QStringList Zeilen = {QString()};
+    for (QString Wort : Text.split(u' ', Qt::SkipEmptyParts)) {
+        const QString laenger = Zeilen.back().isEmpty() ? Wort : Zeilen.back() + u' ' + Wort;
+        if (Masse.horizontalAdvance(laenger) <= Breite) {
+            Zeilen.back() = laenger;
+            continue;
+        }
+        if (!Zeilen.back().isEmpty()) Zeilen << QString();
+        while (Masse.horizontalAdvance(Wort) > Breite) {
+            qsizetype n = 1;
+            while (n < Wort.size() && Masse.horizontalAdvance(Wort.left(n + 1)) <= Breite) ++n;
+            Zeilen.back() = Wort.left(n);
+            Zeilen << QString();
+            Wort.remove(0, n);
+        }
+        Zeilen.back() = Wort;
+    }
+    return Zeilen;
+}
+
+QStringList brich_um(const QString& ganz, const QFontMetricsF& Masse, double Breite) {
+    QStringList beste = {ganz};
+    if (Masse.horizontalAdvance(ganz) <= Breite) return beste;
+    for (qsizetype i = ganz.indexOf(u' '); i > 0; i = ganz.indexOf(u' ', i + 1)) {
+        const QStringList zwei = {ganz.left(i).trimmed(), ganz.mid(i).trimmed()};
+        if (breiteste(zwei, Masse) < breiteste(beste, Masse)) beste = zwei;
+    }
+    return beste;
+}
+
+}  // namespace
+
+Titelsatz setze_in_zwei_Zeilen(const QString& Text, double Breite, int Groesse, int kleinste, bool fett, bool kursiv) {
+    Titelsatz s;
+    for (s.Groesse = Groesse;; --s.Groesse) {
+        const QFontMetricsF Masse(Diagrammschrift(s.Groesse, fett, kursiv));
+        s.Zeilen = brich_um(Text.trimmed(), Masse, Breite);
+        s.passt = breiteste(s.Zeilen, Masse) <= Breite;
+        if (s.passt || s.Groesse <= kleinste) return s;
+    }
+}
+
+int setze_Titel(Beschriftung& b, double Breite, int Groesse, bool fett, bool kursiv) {
+    Titelsatz s = setze_in_zwei_Zeilen(in_Qt(b.Text), Breite, Groesse, Schriftgroesse_Bericht, fett, kursiv);
+    if (!s.passt) s.Zeilen = fuelle_Zeilen(in_Qt(b.Text), QFontMetricsF(Diagrammschrift(s.Groesse, fett, kursiv)), Breite);
+    b.Groesse = s.Groesse;
+    b.Text = aus_Qt(s.Zeilen.join(u'\n'));
+    return static_cast<int>(s.Zeilen.size());
+}
+
+}  // namespace varnok

@@ -1,0 +1,78 @@
+// Titles and comments in their lines.
+
+#include "painting/titelsatz.h"
+
+#include <gtest/gtest.h>
+
+#include <QFontMetricsF>
+
+#include "painting/bildflaeche.h"
+#include "painting/bildprobe.h"
+#include "painting/qt_text.h"
+#include "painting/zeichner.h"
+
+namespace varnok::probe {
+namespace {
+
+Beschriftung gesetzt(const std::string& Text, double Breite, int Zeilen) {
+    Beschriftung b;
+    b.Text = Text;
+    EXPECT_EQ(setze_Titel(b, Breite, Schriftgroesse_Titel, true, false), Zeilen) << Text;
+    return b;
+}
+
+TEST(Titelsatz, one_line_where_it_fits) {
+    const Beschriftung b = gesetzt("a title of some words", 400, 1);
+    EXPECT_EQ(b.Text, "a title of some words");
+    EXPECT_EQ(b.Groesse, 12);
+}
+
+TEST(Titelsatz, two_lines_of_about_the_same_width_where_it_does_not) {
+    EXPECT_EQ(gesetzt("first half of it second half of it", 200, 2).Text, "first half of it\nsecond half of it");
+}
+
+TEST(Titelsatz, smaller_letters_before_a_third_line) {
+    const Beschriftung b = gesetzt("first half of it second half of it", 140, 2);
+    EXPECT_LT(b.Groesse, 12);
+    EXPECT_GE(b.Groesse, 7);
+}
+
+// Every character is there, within the width, whatever the text.
+TEST(Titelsatz, nothing_is_ever_cut) {
+    for (const std::string& Text :
+         {std::string(300, 'w'), std::string("a ") + std::string(200, 'm') + " b", std::string("word ") + std::string(40, 'x'),
+          std::string("x"), std::string("many short words ") + std::string(50, 'i') + " and more of them here"}) {
+        Beschriftung b;
+        b.Text = Text;
+        setze_Titel(b, 100, Schriftgroesse_Titel, true, false);
+        QString ohne_Umbruch = in_Qt(b.Text);
+        EXPECT_EQ(ohne_Umbruch.remove(u'\n').remove(u' '), in_Qt(Text).remove(u' '));
+        for (const QString& Zeile : in_Qt(b.Text).split(u'\n'))
+            EXPECT_LE(QFontMetricsF(Diagrammschrift(b.Groesse, true)).horizontalAdvance(Zeile), 100) << Text;
+    }
+}
+
+TEST(Titelsatz, of_a_picture_is_centred_over_the_axes_and_larger_than_the_comment) {
+    Lauf_bauer l;
+    l.Felder.Beschreibung = "A description that is so long that its title does not fit on one line of the picture at all";
+    for (const Lauf_bauer& b : {Lauf_bauer(), l}) {
+        const Zeichenliste z = mit_Beschriftung(Wirkstoffdiagramm(b));
+        const double links = auf_Flaeche(Bildflaeche, z.System, z.Linien[0].von).x();
+        const double rechts = auf_Flaeche(Bildflaeche, z.System, z.Linien[0].bis).x();
+        int Titelzeilen = 0;
+        for (const Schriftzug& s : z.Texte) {
+            const QRectF Platz = setze_Schrift(Bildflaeche, z.System, s, Schriftgroesse_Bericht).Platz;
+            EXPECT_FALSE(setze_Schrift(Bildflaeche, z.System, s, Schriftgroesse_Bericht).gekuerzt) << s.Inhalt;
+            if (s.Groesse == Schriftgroesse_Titel) {
+                ++Titelzeilen;
+                EXPECT_TRUE(std::abs(Platz.center().x() - (links + rechts) / 2) < 1 || Platz.left() < 1 || Platz.right() > 639)
+                    << s.Inhalt;
+            }
+            EXPECT_TRUE(!s.kursiv || s.Groesse < Schriftgroesse_Titel);
+        }
+        EXPECT_EQ(Titelzeilen, b.Felder.Beschreibung.empty() ? 1 : 2);
+    }
+}
+
+}  // namespace
+}  // namespace varnok::probe
