@@ -22,6 +22,9 @@ struct Simulationssatz {
 // Throws Laufzeitfehler that names the file: missing, unreadable, fewer than four lines.
 Simulationssatz lies_Simulation(const Projektordner& Ordner, const std::string& Name);
 
+// The same from bytes; `Datei` names the source in messages.
+Simulationssatz zerlege_Simulation(const std::string& Bytes, const std::string& Datei);
+
 // The four lines as they stand in the file. Throws Laufzeitfehler that names a text with a character that has no place there.
 std::string Simulation_als_Bytes(const Simulationssatz& Satz);
 
