@@ -28,6 +28,9 @@ struct Umgebung {
     char Dezimalzeichen = '.';       // of the region, for records and fields
     const Uhr* Zeit = nullptr;       // the machine's without one
     Aktualisierungswelt Update = {};
+    // A call that named its project: a project path among the settings does not lead away from it.
+    bool Projekt_genannt = false;
+    std::string erste_Simulation = {};  // to begin with in place of the newest
 };
 
 // A cell of the table of applications, row and column counted from 0.

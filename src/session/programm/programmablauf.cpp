@@ -1,5 +1,9 @@
 #include "session/programm/programmablauf.h"
 
+#include <algorithm>
+#include <string>
+#include <vector>
+
 #include "base/laufzeitfehler.h"
 #include "exposure/twa.h"
 #include "records/dateien.h"
@@ -23,7 +27,8 @@ std::optional<Einstellungen> lies_Einstellungen(const Zustand& z) {
 void lade_Einstellungen(Zustand& z) {
     const auto gelesen = lies_Einstellungen(z);
     z.Einstellung = gelesen.value_or(Einstellungen{});
-    z.Projektpfad = z.Einstellung.Projektpfad.empty() ? z.Welt.Programmpfad : z.Einstellung.Projektpfad;
+    const bool hier = z.Welt.Projekt_genannt || z.Einstellung.Projektpfad.empty();
+    z.Projektpfad = hier ? z.Welt.Programmpfad : z.Einstellung.Projektpfad;
     z.Parameter().TWA = z.Einstellung.TWA;
     if (!gelesen) Einstellungen_schreiben(z);
 }
@@ -39,6 +44,14 @@ void oeffne_Ordner(Zustand& z) {
     z.Ausgabeprojekt = z.Ordner;
 }
 
+// The newest first; before it the one that the program was called with.
+std::vector<std::string> Startfolge(const Zustand& z) {
+    std::vector<std::string> Namen = Simulationen_nach_Alter(*z.Ordner);
+    const auto gewollte = std::find(Namen.begin(), Namen.end(), z.Welt.erste_Simulation);
+    if (gewollte != Namen.end()) std::rotate(Namen.begin(), gewollte, gewollte + 1);
+    return Namen;
+}
+
 // The text of a fault, empty without one.
 template <class Handlung>
 std::string Fehler_bei(Handlung h) {
@@ -52,9 +65,9 @@ std::string Fehler_bei(Handlung h) {
 
 }  // namespace
 
-// Loads the newest simulation whose summary file can be read. False without any, or if the program ends.
-bool Programmablauf::lade_neueste() {
-    for (const std::string& Name : Simulationen_nach_Alter(*z_.Ordner)) {
+// Loads the first simulation of the order whose summary file can be read. False without any, or if the program ends.
+bool Programmablauf::lade_erste() {
+    for (const std::string& Name : Startfolge(z_)) {
         try {
             Saetze_.lade_Start(Name);
             return !z_.beendet;
@@ -75,7 +88,7 @@ bool Programmablauf::oeffne_Projekt() {
     Saetze_.fuelle_Listen();
     z_.Sicht.TWA_Laenge = TWA_Vorauswahl(z_.Parameter().TWA_Zeiten);
     z_.Felder().Studie = {""};  // what stands under the cover where no compound can be read
-    return (Zwischenstand_.biete_an() || lade_neueste()) && !z_.beendet;
+    return (Zwischenstand_.biete_an() || lade_erste()) && !z_.beendet;
 }
 
 void Programmablauf::starte() {

@@ -27,7 +27,7 @@ public:
     bool schliesse_Fenster();
 
 private:
-    bool lade_neueste();
+    bool lade_erste();
     bool sichere_am_Ende();
 
     Zustand& z_;

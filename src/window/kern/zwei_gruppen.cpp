@@ -10,6 +10,11 @@ constexpr int Zeilenabstand = 4;
 
 }  // namespace
 
+// A group that goes takes itself out of this layout: each piece is out before it is deleted.
+Zwei_Gruppen::~Zwei_Gruppen() {
+    while (count() > 0) delete takeAt(0);
+}
+
 void Zwei_Gruppen::addItem(QLayoutItem* Stueck) {
     if (QLayout* Gruppe = Stueck->layout()) addChildLayout(Gruppe);
     Stuecke_.emplace_back(Stueck);

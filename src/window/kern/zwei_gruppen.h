@@ -12,6 +12,7 @@ class Zwei_Gruppen : public QLayout {
     Q_OBJECT
 public:
     using QLayout::QLayout;
+    ~Zwei_Gruppen() override;
 
     void addItem(QLayoutItem* Stueck) override;
     int count() const override { return static_cast<int>(Stuecke_.size()); }

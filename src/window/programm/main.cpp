@@ -7,35 +7,59 @@
 #include <QStyleFactory>
 #include <QTimer>
 #include <cstdio>
+#include <optional>
 #include <string>
 #include <string_view>
 
 #include "base/programm.h"
 #include "extras/netzabruf.h"
 #include "painting/qt_text.h"
+#include "session/kern/texte.h"
+#include "session/programm/projektwahl.h"
 #include "window/kern/bilder.h"
 #include "window/kern/fensterfrage.h"
 #include "window/programm/hauptformular.h"
-#include "window/programm/programmordner.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-// Answered without a display. The program reads nothing else from its command line.
+constexpr int falscher_Aufruf = 2;
+
+// Answered without a display.
 bool beantworte(std::string_view Argument) {
     if (Argument == "--version") {
         std::puts((std::string("VARNOK ") + varnok::Programmversion).c_str());
     } else if (Argument == "--help") {
         std::fputs(
-            "varnok: predicted environmental concentrations of plant protection products in soil.\n"
-            "Opens the window on the project of the current folder, else on that of the user. Takes no arguments.\n"
+            "varnok [PROJECT | SIMULATION.vnk]: predicted environmental concentrations of plant protection products in soil.\n"
+            "Opens the window on a project folder or on a simulation of its folder \"input\"; without an argument on the "
+            "project\n"
+            "of the current folder, else on the folder VARNOK of the user's documents. Takes --version and --help.\n"
             "Calculations without a window: varnok-batch --help\n",
             stdout);
     } else {
         return false;
     }
     return true;
+}
+
+// The only argument, empty without one; what else stands in the call has no meaning.
+std::optional<std::string> Argument_des_Aufrufs(const QStringList& Argumente) {
+    if (Argumente.size() > 2) return std::nullopt;
+    return Argumente.size() < 2 ? std::string() : varnok::aus_Qt(Argumente[1]);
+}
+
+varnok::Projektorte Orte_des_Programms() {
+    const auto Ort = [](QStandardPaths::StandardLocation o) { return varnok::aus_Qt(QStandardPaths::writableLocation(o)); };
+    return {varnok::aus_Qt(QDir::currentPath()), Ort(QStandardPaths::AppDataLocation), Ort(QStandardPaths::DocumentsLocation),
+            varnok::installierte_Daten(varnok::aus_Qt(QApplication::applicationFilePath()))};
+}
+
+varnok::Projektwahl waehle(const varnok::Projektorte& Orte) {
+    const auto Argument = Argument_des_Aufrufs(QApplication::arguments());
+    if (!Argument) return {{}, {}, "varnok opens one project folder or one simulation (*.vnk) at a time"};
+    return varnok::waehle_Projekt(*Argument, Orte);
 }
 
 }  // namespace
@@ -46,28 +70,34 @@ int main(int argc, char** argv) {
     QApplication Anwendung(argc, argv);
     QApplication::setApplicationName(u"varnok"_s);
     QApplication::setApplicationVersion(QString::fromLatin1(varnok::Programmversion));
-    QApplication::setDesktopFileName(u"varnok"_s);
+    QApplication::setDesktopFileName(u"org.varnok.varnok"_s);
     QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
     QApplication::setWindowIcon(varnok::Bild_aus_SVG(u"varnok"_s));
     // Numbers that Qt writes follow no locale; records keep the decimal separator of the region.
     const bool Komma = QLocale::system().decimalPoint() == u","_s;
     QLocale::setDefault(QLocale::c());
 
-    const QString installiert = QStringLiteral(VARNOK_DATENORDNER);
-    const QString Datenordner = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
-    const QString Ordner = varnok::Programmordner(QDir::currentPath(), Datenordner, installiert);
     const QString Fensterdatei = QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) + u"/window.ini"_s;
 
     varnok::Fensterfrage Fragen;
+    const varnok::Projektorte Orte = Orte_des_Programms();
+    const varnok::Projektwahl Projekt = waehle(Orte);
+    if (!Projekt.Einwand.empty()) {
+        std::fputs(("varnok: " + Projekt.Einwand + "\n").c_str(), stderr);
+        Fragen.frage({varnok::Texte::Laufzeitfehler, Projekt.Einwand, varnok::Symbol::Ausrufezeichen, {varnok::Knopf::OK}});
+        return falscher_Aufruf;
+    }
     varnok::Netzabruf Netz;
     varnok::Dateitausch Tausch(varnok::aus_Qt(QApplication::applicationFilePath()), varnok::aus_Qt(QDir::currentPath()),
                                QApplication::applicationPid());
     varnok::Sitzung Programm({&Fragen,
-                              varnok::aus_Qt(Ordner),
-                              varnok::aus_Qt(installiert),
+                              Projekt.Ordner,
+                              Orte.installierte_Daten,
                               Komma ? ',' : '.',
                               nullptr,
-                              {varnok::Ziel_der_Auslieferung(), &Netz, &Tausch}});
+                              {varnok::Ziel_der_Auslieferung(), &Netz, &Tausch},
+                              argc > 1,
+                              Projekt.Simulation});
     if (!Programm.fuehre_aus<&varnok::Programmablauf::oeffne_Projekt>()) return 0;
     varnok::Hauptformular Fenster(Programm, &Fragen, Fensterdatei);
     Fenster.show();

@@ -178,6 +178,34 @@ TEST_F(Projektpfad, the_next_start_is_in_the_new_project) {
     EXPECT_EQ(drittes.Stand().Listen[Wirkstoff], std::vector<std::string>{"Programcheck"});
 }
 
+// A call that names a project means this one, wherever its settings lead.
+TEST_F(Projektpfad, a_project_named_in_the_call_is_opened_all_the_same) {
+    gestartet();
+    waehle_Projekt("new");
+    s_->fuehre_aus<&Programmablauf::beende>();
+    ASSERT_TRUE(s_->Stand().beendet);
+    s_.reset();
+
+    Umgebung Welt{&Fragen_, Wurzel_.string(), VARNOK_DATENORDNER, '.'};
+    Welt.Projekt_genannt = true;
+    Sitzung zweites(Welt);
+    EXPECT_TRUE(zweites.fuehre_aus<&Programmablauf::oeffne_Projekt>());
+    EXPECT_EQ(zweites.Stand().Projektpfad, Wurzel_.string());
+}
+
+TEST_F(Projektpfad, a_simulation_named_in_the_call_is_opened_in_place_of_the_newest) {
+    std::filesystem::copy(std::filesystem::path(VARNOK_DATENORDNER) / "input", Wurzel_ / "input",
+                          std::filesystem::copy_options::overwrite_existing | std::filesystem::copy_options::recursive);
+    Umgebung Welt{&Fragen_, Wurzel_.string(), "", '.'};
+    Welt.Projekt_genannt = true;
+    for (const char* Name : {"Apples, Compound F", "Vines, Compound D"}) {
+        Welt.erste_Simulation = Name;
+        Sitzung s(Welt);
+        EXPECT_TRUE(s.fuehre_aus<&Programmablauf::oeffne_Projekt>());
+        EXPECT_EQ(s.Stand().gewaehlt(Simulation), Name);
+    }
+}
+
 TEST_F(Projektpfad, the_defaults_of_a_new_project_come_from_the_program_folder_too) {
     for (const char* Name : {"Do not delete this file.chn", "Do not delete this file.apn", "Do not delete this file.scn"}) {
         std::filesystem::copy(std::filesystem::path(VARNOK_DATENORDNER) / "input" / Name, Wurzel_ / "input");

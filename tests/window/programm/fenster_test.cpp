@@ -19,7 +19,6 @@
 #include "painting/qt_text.h"
 #include "window/kern/anmeldung.h"
 #include "window/kern/fensterprobe.h"
-#include "window/programm/programmordner_test.h"
 
 using namespace Qt::StringLiterals;
 using namespace varnok;
@@ -355,7 +354,6 @@ private:
 
 namespace {
 const Anmeldung<Fenstertest> angemeldet;
-const Anmeldung<Programmordnertest> Ordner_angemeldet;
 }  // namespace
 
 #include "fenster_test.moc"
