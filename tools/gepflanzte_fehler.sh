@@ -39,8 +39,8 @@ ENDE
 
 pflanze "a comparison that forgets the soil depth" src/run/laufeingang.cpp \
     'p.Bodendichte, p.Bodentiefe, p.Plateautiefe' 'p.Bodendichte, p.Plateautiefe'
-pflanze "a description that is written when its box closes" src/session/kern/sitzung.cpp \
-    'tue([&] { z_.Beschreibung_offen = false; });' 'tue([&] { z_.Beschreibung_offen = false; Saetze_.schreibe_Zusammenfassungsdatei(); });'
+pflanze "a summary file that is written when a record is chosen" src/session/saetze/satzverwaltung.cpp \
+    'schliesse_Laden_ab() { Laeufe_.berechne(); }' 'schliesse_Laden_ab() { Laeufe_.berechne(); schreibe_Zusammenfassungsdatei(); }'
 pflanze "a step of the history that is lost" src/session/kern/verlauf.cpp \
     'if (Staende_[Platz_] == e) return;' 'if (Staende_[Platz_] == e || Staende_[Platz_].App_Tag != e.App_Tag) return;'
 printf 'all three are found\n'

@@ -13,6 +13,8 @@ namespace varnok {
 struct Sicherungsstueck {
     std::string Dateiname;  // with its extension
     std::string Bytes;
+
+    friend bool operator==(const Sicherungsstueck&, const Sicherungsstueck&) = default;
 };
 
 inline constexpr std::size_t Hoechstzahl_Sicherungen = 50;

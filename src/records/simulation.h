@@ -25,6 +25,9 @@ struct Simulationssatz {
 Simulationssatz lies_Simulation(const Projektordner& Ordner, const std::string& Name,
                                 std::vector<Bemerkung>* Bemerkungen = nullptr);
 
+// The same from bytes; `Datei` names the source in messages.
+Simulationssatz zerlege_Simulation(const std::string& Bytes, const std::string& Datei);
+
 // The four lines as they stand in the file. Throws Laufzeitfehler that names a text with a character that has no place there.
 std::string Simulation_als_Bytes(const Simulationssatz& Satz);
 

@@ -34,6 +34,7 @@ void Laufsteuerung::sieh_Klima_an() {
     }
     const auto Pfad = z_.Ordner->finde(z_.Vorgabe.Klimaszenario, Klima_Endung);
     const auto Bytes = Pfad ? lies_Datei_falls_moeglich(*Pfad) : std::nullopt;
+    if (Bytes && z_.Klima && *z_.Klima == *Bytes) return;  // results of one weather share it
     z_.Klima = Bytes ? std::make_shared<const std::string>(*Bytes) : nullptr;
 }
 

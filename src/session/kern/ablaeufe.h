@@ -22,6 +22,7 @@
 #include "session/saetze/satzverwaltung.h"
 #include "session/saetze/studienverwaltung.h"
 #include "session/saetze/szenarioeditor.h"
+#include "session/saetze/zwischensicherung.h"
 
 namespace varnok {
 
@@ -144,6 +145,9 @@ constexpr Ablauf Ablauf_von(Tat<&Hilfetexte::Tooltips>) { return {Weg::Zwischens
 constexpr Ablauf Ablauf_von(Tat<&Aktualisierungssteuerung::suche>) { return {Weg::Befehl}; }
 constexpr Ablauf Ablauf_von(Tat<&Aktualisierungssteuerung::suche_beim_Start>) { return {Weg::Zwischenschritt}; }
 constexpr Ablauf Ablauf_von(Tat<&Aktualisierungssteuerung::melde>) { return {Weg::Handlung}; }
+
+// Comes behind an action, when that has been drawn.
+constexpr Ablauf Ablauf_von(Tat<&Zwischensicherung::schreibe>) { return {Weg::Zwischenschritt}; }
 
 constexpr Ablauf Ablauf_von(Tat<&Programmablauf::oeffne_Projekt>) { return {Weg::Handlung}; }
 constexpr Ablauf Ablauf_von(Tat<&Programmablauf::starte>) { return {Weg::Handlung}; }

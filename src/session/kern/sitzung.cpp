@@ -62,6 +62,7 @@ void Sitzung::schliesse_Handlung_ab() {
     }
     Ruecknahme_.merke();
     fuehre_Statuszeile();
+    if (z_.beendet) Zwischenstand_.raeume();
 }
 
 // Where a save would write nothing else than the files hold, there is nothing to ask about.

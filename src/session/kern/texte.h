@@ -15,6 +15,7 @@ inline constexpr const char* Laufzeitfehler = "Runtime error";
 inline constexpr const char* keine_Verbindung = "Connection error";
 inline constexpr const char* Updateserver_antwortet_nicht = "Varnok could not connect to the update server";
 inline constexpr const char* Aenderungen_sichern = "Save changes?";
+inline constexpr const char* Ungesichertes = "Unsaved values";
 inline constexpr const char* Projektpfad = "Project path";
 inline constexpr const char* Ordner_anlegen = "Make folder";
 

@@ -88,15 +88,16 @@ bool Programmablauf::oeffne_Projekt() {
     Saetze_.fuelle_Listen();
     z_.Sicht.TWA_Laenge = TWA_Vorauswahl(z_.Parameter().TWA_Zeiten);
     z_.Felder().Studie = {""};  // what stands under the cover where no compound can be read
-    return lade_erste() && !z_.beendet;
+    return (Zwischenstand_.biete_an() || lade_erste()) && !z_.beendet;
 }
 
 void Programmablauf::starte() {
     if (z_.Gestartet) return;
     z_.Gestartet = true;
     // The handler of the pattern makes the first run; what it marks is no change of the user.
+    const std::array<bool, 4> Marken = z_.Marken();
     Listen_.fuehre_Muster_aus();
-    for (Satzplatz& p : z_.Saetze) p.Geaendert = false;
+    for (std::size_t Art = 0; Art < Marken.size(); ++Art) z_.Saetze[Art].Geaendert = Marken[Art];
 }
 
 // What is not saved at the end goes into `backup`. Where that is not possible the user decides, or the program could never end.
@@ -131,6 +132,7 @@ void Programmablauf::beende() {
 bool Programmablauf::schliesse_Fenster() {
     if (z_.beendet) return true;
     Felder_.nimm_Ungueltiges_zurueck();
+    Studien_.bestaetige(false);  // a name in the box counts as typed
     const auto zu_sichern = Saetze_.frage_nach_Sicherung();
     if (!zu_sichern) return false;
     if (!zu_sichern->empty() && !Saetze_.speichere_Arten(*zu_sichern)) return false;

@@ -3,14 +3,17 @@
 #include "session/eingabe/feldeingabe.h"
 #include "session/eingabe/listenwahl.h"
 #include "session/saetze/satzverwaltung.h"
+#include "session/saetze/studienverwaltung.h"
+#include "session/saetze/zwischensicherung.h"
 
 namespace varnok {
 
 // From the first file that is read to the end of the program.
 class Programmablauf {
 public:
-    Programmablauf(Zustand& z, Satzverwaltung& Saetze, Feldeingabe& Felder, Listenwahl& Listen)
-        : z_(z), Saetze_(Saetze), Felder_(Felder), Listen_(Listen) {}
+    Programmablauf(Zustand& z, Satzverwaltung& Saetze, Feldeingabe& Felder, Listenwahl& Listen, Studienverwaltung& Studien,
+                   Zwischensicherung& Zwischenstand)
+        : z_(z), Saetze_(Saetze), Felder_(Felder), Listen_(Listen), Studien_(Studien), Zwischenstand_(Zwischenstand) {}
 
     // Up to the start page: settings, project folder, selectors, the simulation used last and its records. False if the program
     // ends there.
@@ -31,6 +34,8 @@ private:
     Satzverwaltung& Saetze_;
     Feldeingabe& Felder_;
     Listenwahl& Listen_;
+    Studienverwaltung& Studien_;
+    Zwischensicherung& Zwischenstand_;
 };
 
 }  // namespace varnok

@@ -64,14 +64,19 @@ bool Satzverwaltung::lies_Satz(Satzart Art, const std::string& Satzname) {
     z_.Saetze[Art].Geaendert = false;
     z_.Saetze[Art].gelesen = true;
     z_.Saetze[Art].Grund.clear();
+    Waechter_.merke(Art, Satzname);
+    folge_dem_Satz(Art, alte_TWA_Zeiten);
+    Waechter_.merke_Gespeichertes(Art);
+    return true;
+}
+
+// What is tied to a record whose values have just come.
+void Satzverwaltung::folge_dem_Satz(Satzart Art, int alte_TWA_Zeiten) {
     z_.Verlauf_beginnt = true;
     if (Art == Applikation) z_.Zeilenvorrat.clear();
-    Waechter_.merke(Art, Satzname);
     if (Art == Wirkstoff) nach_Wirkstoff(alte_TWA_Zeiten);
     if (Art == Applikation) Diagramme_.setze_Bereiche_nach_Ansicht();
     Diagramme_.bringe_nach_vorn(z_.Sicht.Substanz);
-    Waechter_.merke_Gespeichertes(Art);
-    return true;
 }
 
 void Satzverwaltung::nach_Wirkstoff(int alte_TWA_Zeiten) {

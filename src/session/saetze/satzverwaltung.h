@@ -6,6 +6,7 @@
 
 #include "records/satz.h"
 #include "records/simulation.h"
+#include "records/zwischenstand.h"
 #include "session/eingabe/feldeingabe.h"
 #include "session/ergebnis/laufsteuerung.h"
 #include "session/saetze/satzbefehle.h"
@@ -59,6 +60,10 @@ public:
     // "Data file missing": Yes restores the defaults, both answers end the program. Esc is No at the start, later the program
     // goes on.
     void beende_oder_stelle_her(const std::string& Text, bool beim_Start);
+    // The same as `lade_Start`, and over it what a start before had left unsaved. True if all of that could be used.
+    bool lade_Zwischenstand(const Zwischenstand& Stand);
+    // Values of a record that no file holds.
+    std::vector<Sicherungsstueck> Ungesichertes(Satzart Art) const { return Waechter_.Ungesichertes({Art}); }
     // Values that no file holds go into `backup`.
     void sichere_Ungesichertes(std::vector<Sicherungsstueck> dazu = {});
     // Asks for each changed record whether to save; gives those with a Yes, nothing for "not now". Nothing is done yet.
@@ -74,6 +79,8 @@ public:
 
 private:
     bool lies_auf_Wunsch_nach();
+    bool lies_Stueck(const Sicherungsstueck& Stueck);
+    void folge_dem_Satz(Satzart Art, int alte_TWA_Zeiten);
     void nach_Wirkstoff(int alte_TWA_Zeiten);
     void uebernimm(const std::string& Simulation, const Simulationssatz& Satz);
     void verlange(Satzart Art);

@@ -10,6 +10,10 @@
 
 namespace varnok {
 
+std::string Name_des_Ungesicherten(const Zustand& z, Satzart Art) {
+    return "unsaved " + z.Saetze[Art].Datei.Name + Endungen[Art];
+}
+
 void sichere(Zustand& z, const std::vector<Sicherungsstueck>& Stuecke) {
     if (Stuecke.empty()) return;
     const Systemuhr Maschine;
@@ -109,8 +113,7 @@ Schreibausgang Satzwaechter::schreibe(const std::vector<Satzart>& Arten) {
 std::vector<Sicherungsstueck> Satzwaechter::Ungesichertes(const std::vector<Satzart>& Arten) const {
     std::vector<Sicherungsstueck> Stuecke;
     for (const Satzart Art : Arten) {
-        if (haelt_keine_Datei(Art))
-            Stuecke.push_back({"unsaved " + z_.Saetze[Art].Datei.Name + Endungen[Art], z_.Speicherbytes(Art)});
+        if (haelt_keine_Datei(Art)) Stuecke.push_back({Name_des_Ungesicherten(z_, Art), z_.Speicherbytes(Art)});
     }
     return Stuecke;
 }

@@ -56,6 +56,9 @@ private:
     Zustand& z_;
 };
 
+// What the values of a record are called where no file holds them.
+std::string Name_des_Ungesicherten(const Zustand& z, Satzart Art);
+
 // Puts pieces into `backup`; the status line names the place.
 void sichere(Zustand& z, const std::vector<Sicherungsstueck>& Stuecke);
 

@@ -1,6 +1,9 @@
-// The start simulation made anew, on the user's wish and where nothing else is left.
+// What the program can start with beside the simulation used last: the start simulation made anew, and what a start before left
+// unsaved.
 
 #include "records/dateien.h"
+#include "records/satz.h"
+#include "records/simulation.h"
 #include "records/voreinstellungen.h"
 #include "session/kern/texte.h"
 #include "session/saetze/satzverwaltung.h"
@@ -40,6 +43,38 @@ void Satzverwaltung::beende_oder_stelle_her(const std::string& Text, bool beim_S
         sichere_Ungesichertes();
     }
     z_.beendet = true;  // not where something unsaved could not be kept
+}
+
+bool Satzverwaltung::lade_Zwischenstand(const Zwischenstand& Stand) {
+    const std::string Datei = Stand.Simulation + Endungen[Simulation];
+    const Simulationssatz Satz = zerlege_Simulation(Stand.Zusammenfassung, Datei);
+    const Simulationssatz gespeicherter = lies_Simulation(*z_.Ordner, Stand.Simulation);
+    uebernimm(Stand.Simulation, gespeicherter);
+    z_.Felder().Beschreibung = Satz.Beschreibung;
+    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) z_.Namen[Art] = Satz.Dateinamen[Art];
+    z_.Saetze[Simulation].Geaendert = z_.verschieden(Simulation);
+    z_.Simulation_markiert = Satz.Dateinamen != gespeicherter.Dateinamen;
+    beim_Start_ = true;
+    bool alles = lies_fehlende_Saetze();
+    beim_Start_ = false;
+    for (const Sicherungsstueck& Stueck : Stand.Stuecke) alles = lies_Stueck(Stueck) && alles;
+    Diagramme_.setze_Startbereiche();
+    return alles;
+}
+
+// Values of a record that is on the screen; a piece of any other stays where it is.
+bool Satzverwaltung::lies_Stueck(const Sicherungsstueck& Stueck) {
+    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) {
+        if (!z_.Saetze[Art].gelesen || Stueck.Dateiname != Name_des_Ungesicherten(z_, Art)) continue;
+        const int alte_TWA_Zeiten = z_.Parameter().TWA_Zeiten;
+        const Lesebefund Befund =
+            Satz_lesen_aus(Stueck.Bytes, Stueck.Dateiname, Art, z_.Vorgabe, z_.Sicht, z_.Welt.Dezimalzeichen);
+        if (Befund.Ausgang != Leseausgang::gelesen) return false;
+        z_.Saetze[Art].Geaendert = true;
+        folge_dem_Satz(Art, alte_TWA_Zeiten);
+        return true;
+    }
+    return false;
 }
 
 }  // namespace varnok

@@ -50,7 +50,8 @@ Hauptformular::Hauptformular(Sitzung& Programm, Fensterfrage* Fragen, const QStr
       Fragen_(Fragen),
       Fensterdatei_(Fensterdatei),
       Steuerung_(new Feldsteuerung(Programm, this)),
-      Menue_(new Menue(Programm, *this)) {
+      Menue_(new Menue(Programm, *this)),
+      Nachlauf_(new QTimer(this)) {
     setObjectName(u"Hauptformular"_s);
     setWindowIcon(Bild_aus_SVG(u"varnok"_s));
 
@@ -78,6 +79,9 @@ Hauptformular::Hauptformular(Sitzung& Programm, Fensterfrage* Fragen, const QStr
         connect(r, &Rahmen::gehandelt, this, &Hauptformular::nach_Handlung);
         connect(r, &Rahmen::getippt, this, &Hauptformular::zeige_Getipptes);
     }
+    Nachlauf_->setSingleShot(true);
+    Nachlauf_->setInterval(100ms);
+    connect(Nachlauf_, &QTimer::timeout, this, &Hauptformular::sichere_Zwischenstand);
     if (Fragen_) Fragen_->setze_Fenster(this, [this] { zeige(); });
     stelle_Fenster_her();
     zeige();
@@ -162,8 +166,17 @@ void Hauptformular::zeige() {
     Steuerung_->zeige();
     zeige_Titel();
     Steuerung_->beende_Zeigen();
+    Nachlauf_->start();
     // Whatever action the run belonged to is over first.
     if (Programm_.Stand().Szenarioeditor_faellig) QTimer::singleShot(0ms, this, &Hauptformular::oeffne_faelligen_Editor);
+}
+
+// Behind a box or a dialog an action may be under way; it is shown when it is over.
+void Hauptformular::sichere_Zwischenstand() {
+    if (QApplication::activeModalWidget()) return;
+    const std::string vorher = Programm_.Stand().Statuszeile;
+    Programm_.fuehre_aus<&Zwischensicherung::schreibe>();
+    if (Programm_.Stand().Statuszeile != vorher) Schalter_->zeige();
 }
 
 void Hauptformular::zeige_Getipptes() {

@@ -7,6 +7,7 @@
 
 class QAction;
 class QStackedWidget;
+class QTimer;
 
 namespace varnok {
 
@@ -62,6 +63,7 @@ private:
     // After a run that found no climate file.
     void oeffne_faelligen_Editor();
     void waehle_Fehlerzelle();
+    void sichere_Zwischenstand();
     void stelle_Fenster_her();
     void zeige_Info();
     void zeige_Versionsinfo();
@@ -81,6 +83,7 @@ private:
     Bildbefehle* Bilder_ = nullptr;
     Berichtsansicht* Bericht_ = nullptr;
     QAction* Drucken_ = nullptr;    // the report is the only thing to print
+    QTimer* Nachlauf_;              // what can wait until an action has been drawn
     cTooltip* Tooltips_ = nullptr;  // none until tips are wanted
 };
 

@@ -58,6 +58,8 @@ public:
     Knopf frage(const Frage& f) override;
 
     void bestehe_auf(std::optional<Knopf> k) { fest_ = k; }
+    // The answer to what a start after a killed program offers, whatever else is insisted on.
+    void antworte_dem_Angebot(std::optional<Knopf> k) { Angebot_ = k; }
     // Since the last look, as title and answer.
     bool gefragt(const std::string& Titel) const;
     bool ja_gesagt() const { return ja_; }
@@ -69,6 +71,7 @@ public:
 private:
     Zufall* Zufall_;
     std::optional<Knopf> fest_;
+    std::optional<Knopf> Angebot_;
     bool ja_ = false;
     std::set<std::string> Titel_;
     std::string Bericht_;
@@ -120,6 +123,8 @@ public:
     // The weather that results stand for which were made since this was called last.
     void merke_Wetter();
 
+    // The program is killed, and started again.
+    void stuerze_ab();
     void pruefe_Ende(Knopf Antwort);
     void pruefe_andere_Simulation();
     void pruefe_Sicherung();
@@ -133,7 +138,9 @@ private:
         bool etwas_in_Arbeit = false;
     };
 
-    void starte();
+    // False where it started only once all files were what they were.
+    bool starte();
+    void pruefe_Zurueckgebrachtes(const Vorher& v, bool gewuenscht);
     Vorher merke() const;
     bool Feld_in_Arbeit() const { return s_->zeige<Feldeingabe>().aktives_Feld() >= 0 && getippt_; }
     void pruefe_Dateien(const Aktionsart& a, const Vorher& v);
@@ -156,6 +163,7 @@ private:
     std::optional<Eingabe> letzter_Stand_;  // of the history, where it is known
     int ausstehend_ = 0;                    // actions since then whose text was still in work
     bool getippt_ = false;
+    bool abgestuerzt_ = false;
     bool Zelle_in_Arbeit_ = false;
     std::vector<std::string> Protokoll_;
     std::map<std::string, int> Abdeckungen_;

@@ -99,6 +99,13 @@ void tippe_langsam(Gang& g) {
     g.s().fuehre_aus<&Feldeingabe::verlasse>(f);
 }
 
+// As a rule with something to bring back.
+void stuerze_ab(Gang& g) {
+    if (!g.r().einmal_von(4)) tippe_langsam(g);
+    g.s().fuehre_aus<&Zwischensicherung::schreibe>();
+    g.stuerze_ab();
+}
+
 template <auto Feldbefehl>
 void am_Feld(Gang& g) {
     if (g.s().zeige<Feldeingabe>().aktives_Feld() < 0) betrete_Feld(g);
@@ -486,7 +493,7 @@ const std::vector<Aktionsart>& Aktionsarten() {
         {"record", 30, Befehl | liest, waehle_Satz},
         {"new record", 12, Befehl | schreibt | liest, lege_an},
         {"copy record", 30, Befehl | schreibt | liest, kopiere},
-        {"delete record", 14, Befehl | liest, loesche},
+        {"delete record", 24, Befehl | liest, loesche},
         {"rename record", 40, Befehl | schreibt | liest, benenne_um},
         {"rename record over another", 110, Befehl | schreibt | liest, ersetze},
         {"save with a record missing", 12, Befehl | liest | Pruefung, speichere_Luecke},
@@ -494,7 +501,7 @@ const std::vector<Aktionsart>& Aktionsarten() {
         {"scaling refused", 40, Befehl, skaliere_falsch},
         {"editor, plateau too thin", 20, Befehl | liest, Plateau_zu_flach},
         {"add study", 16, Befehl, addiere_Studie},
-        {"delete study", 70, Befehl, loesche_Studie},
+        {"delete study", 120, Befehl, loesche_Studie},
         {"rename study", 10, Befehl, beginne_Studienname},
         {"type a study's name", 10, Befehl, tippe_Studienname},
         {"accept a study's name", 12, Handlung, bestaetige_Studienname},
@@ -520,6 +527,7 @@ const std::vector<Aktionsart>& Aktionsarten() {
         {"redo", 14, Befehl | Pruefung, tue<&Ruecknahme::wiederhole>},
         {"exit", 50, Befehl | schreibt | liest, tue<&Programmablauf::beende>},
         {"close box", 50, Befehl | liest, [](Gang& g) { g.s().fuehre_aus<&Programmablauf::schliesse_Fenster>(); }},
+        {"the program is killed", 150, Pruefung, stuerze_ab},
         {"default settings", 10, Befehl | schreibt | liest, tue<&Satzverwaltung::lade_Voreinstellungen>},
         {"look for an update", 10, Befehl, tue<&Aktualisierungssteuerung::suche>},
         {"help", 10, 0, Hilfe},

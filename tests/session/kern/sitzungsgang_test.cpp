@@ -54,7 +54,7 @@ TEST(Sitzungsgang, NichtsLuegt) {
     erwarte_oft(Aktionen, "action", 20);
     erwarte_oft(e.Fragen, "question", 20);
     erwarte_oft(e.Abdeckungen, "cover", 20);
-    for (const char* Frage : {"Save changes?", "Delete record", "Delete study", "Replace existing record?"}) {
+    for (const char* Frage : {"Save changes?", "Delete record", "Delete study", "Replace existing record?", "Unsaved values"}) {
         for (const char* Antwort : {": Yes", ": No", ": Esc"})
             EXPECT_TRUE(e.Fragen.contains(std::string(Frage) + Antwort)) << Frage;
     }

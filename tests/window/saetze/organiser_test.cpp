@@ -13,14 +13,6 @@
 using namespace Qt::StringLiterals;
 
 namespace varnok {
-namespace {
-
-QString Loeschfrage(const char* Name) {
-    return u"Delete record: Do you really want to delete this record?\n'"_s + QString::fromLatin1(Name) + u'\'';
-}
-
-}  // namespace
-
 class Organiserfenster : public QObject, private Organiserbuehne {
     Q_OBJECT
 

@@ -16,6 +16,11 @@
 
 namespace varnok {
 
+inline QString Loeschfrage(const char* Name) {
+    using namespace Qt::StringLiterals;
+    return u"Delete record: Do you really want to delete this record?\n'"_s + QString::fromLatin1(Name) + u'\'';
+}
+
 // A dialog that is open, and what a user does in it.
 class Dialogprobe {
 public:
