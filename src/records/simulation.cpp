@@ -33,10 +33,10 @@ Simulationssatz lies_Simulation(const Projektordner& Ordner, const std::string& 
     const std::string Datei = Name + Endungen[Simulation];
     const auto Pfad = Ordner.finde(Name, Endungen[Simulation]);
     if (!Pfad) throw Laufzeitfehler("File " + Datei + " is missing in the folder \"" + Ordner.Eingabeordner() + "\"", {Datei});
-    return zerlege_Simulation(lies_Datei(*Pfad), Datei);
+    return zerlege_Simulation(lies_Datei(*Pfad), Datei, Bemerkungen);
 }
 
-Simulationssatz zerlege_Simulation(const std::string& Bytes, const std::string& Datei) {
+Simulationssatz zerlege_Simulation(const std::string& Bytes, const std::string& Datei, std::vector<Bemerkung>* Bemerkungen) {
     Zeilenfolge Zeilen(Bytes);
     Simulationssatz Satz;
     for (std::size_t i = 0; i < Zeilennamen.size(); ++i) {

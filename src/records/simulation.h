@@ -26,7 +26,8 @@ Simulationssatz lies_Simulation(const Projektordner& Ordner, const std::string& 
                                 std::vector<Bemerkung>* Bemerkungen = nullptr);
 
 // The same from bytes; `Datei` names the source in messages.
-Simulationssatz zerlege_Simulation(const std::string& Bytes, const std::string& Datei);
+Simulationssatz zerlege_Simulation(const std::string& Bytes, const std::string& Datei,
+                                   std::vector<Bemerkung>* Bemerkungen = nullptr);
 
 // The four lines as they stand in the file. Throws Laufzeitfehler that names a text with a character that has no place there.
 std::string Simulation_als_Bytes(const Simulationssatz& Satz);
