@@ -134,7 +134,10 @@ protected:
 JSON als_Dokument(const Zustand& z, const std::string& Simulation) {
     const Simulationssatz Satz = lies_Simulation(*z.Ordner, Simulation);
     batch::Simulationsausgang a;
-    a.Ergebnis = {Simulation, Satz.Beschreibung, Satz.Dateinamen, std::make_shared<const Eingabe>(z.Vorgabe), {}, {}};
+    a.Ergebnis.Name = Simulation;
+    a.Ergebnis.Beschreibung = Satz.Beschreibung;
+    a.Ergebnis.Dateinamen = Satz.Dateinamen;
+    a.Ergebnis.Vorgabe = std::make_shared<const Eingabe>(z.Vorgabe);
     for (int st = 0; st < z.Studienzahl(); ++st) a.Ergebnis.Studien.push_back(z.Werte().at(static_cast<std::size_t>(st)));
     return JSON::parse(batch::als_JSON({a}));
 }
