@@ -85,6 +85,7 @@ public:
         befehle(u"M_Zusammenfassung"_s);
         fotografiere(u"summary"_s);
         gib_aus(u"saved_picture_summary"_s);
+        zeige_Bericht();
         Option(u"PEC_Typ_1"_s);
         fotografiere(u"summary_background"_s);
         Option(u"PEC_Typ_0"_s);
@@ -327,6 +328,12 @@ private:
     }
 
     // A value that is refused: the box stands over the window, the results are covered.
+    void zeige_Bericht() {
+        Taste(u"Bericht_erstellen"_s);
+        fotografiere(u"report"_s, {QSize(1000, 760)});
+        Taste(u"Bericht_schliessen"_s);
+    }
+
     void zeige_Meldung() {
         auto* Feld = Teil<QLineEdit>(u"S_Q10_0"_s);
         QTest::mouseClick(Feld, Qt::LeftButton);
