@@ -3,16 +3,22 @@
 // What must hold for any bytes that a reader is given. The fuzzers call it with what they make up, the
 // ordinary tests with every input that was ever kept in fuzz/corpus. A breach ends the process.
 
+#include <algorithm>
+#include <cmath>
 #include <cstdint>
 #include <cstdlib>
 #include <string>
+#include <vector>
 
 #include "base/laufzeitfehler.h"
+#include "base/zahlen.h"
 #include "records/eingabenamen.h"
 #include "records/einstellungen.h"
 #include "records/klimadatei.h"
 #include "records/pruefung.h"
 #include "records/satz.h"
+#include "records/satztext.h"
+#include "records/simulation.h"
 
 namespace varnok::fuzz {
 
@@ -36,6 +42,41 @@ inline void pruefe_Rundgang(Satzart Art, const Eingabe& Felder, const Ansicht& S
     fordere(Satz_als_Bytes(Art, e, a, Dezimalzeichen) == Bytes);
 }
 
+// A remark says where it belongs and what is doubtful there.
+inline void pruefe_Bemerkungen(const std::vector<Bemerkung>& Bemerkungen) {
+    for (const Bemerkung& b : Bemerkungen) {
+        fordere(b.Datei == "input" && b.Zeile >= 1 && !b.Meldung.empty());
+        fordere(!b.Wert || std::isfinite(*b.Wert));
+        fordere(!als_Zeile(b).empty());
+    }
+}
+
+// What is taken of a text and what is left make up the text, and nothing that is left over goes without a word.
+inline void pruefe_Zahl(const std::string& Eingang) {
+    const Zahllesung l = lies_Zahl(Eingang);
+    fordere(l.Zahl == Wert(Eingang) && !std::isnan(l.Zahl));
+    fordere(lies_fuehrende_Zahl(Eingang).Zahl == fuehrende_Zahl(Eingang));
+    const std::size_t Ende = std::min(Eingang.find_last_not_of(' ') + 1, Eingang.size());
+    fordere(l.Rest.size() <= Ende && Eingang.substr(Ende - l.Rest.size(), l.Rest.size()) == l.Rest);
+    fordere(Wert(Eingang.substr(0, Ende - l.Rest.size())) == l.Zahl);
+    fordere(!l.leer || l.ohne_Zahl);
+    fordere(!l.ohne_Zahl || l.Zahl == 0);
+    if (!l.ganz()) return;
+    const auto zaehle = [&](std::string_view Zeichen) {
+        return std::count_if(Eingang.begin(), Eingang.end(), [&](char z) { return Zeichen.find(z) != std::string_view::npos; });
+    };
+    fordere(Eingang.find_first_not_of(" +-0123456789.,eE") == std::string::npos && zaehle(".,") <= 1 && zaehle("eE") <= 1);
+}
+
+// What is left of a text that somebody typed or pasted can stand in a record.
+inline void pruefe_Zeichen(const std::string& Eingang) {
+    const Satzfaehiges s = nur_Satzfaehiges(Eingang);
+    fordere(Einwand_gegen_Text(s.Text).empty());
+    fordere(s.Text.size() <= Eingang.size());
+    fordere(nur_Satzfaehiges(s.Text).Text == s.Text);
+    fordere(Meldung_ueber(s).empty() == s.abgewiesen.empty());
+}
+
 // The first byte chooses the kind of record and the decimal separator.
 inline void pruefe_Satz(const std::string& Eingang) {
     if (Eingang.empty()) return;
@@ -47,6 +88,7 @@ inline void pruefe_Satz(const std::string& Eingang) {
     try {
         const Lesebefund b = Satz_lesen_aus(Eingang.substr(1), "input", Art, e, a, Dezimalzeichen);
         fordere(b.Ausgang != Leseausgang::fehlt);
+        pruefe_Bemerkungen(b.Bemerkungen);
         if (b.Ausgang == Leseausgang::gelesen) pruefe_Rundgang(Art, e, a, Dezimalzeichen);
     } catch (const Laufzeitfehler&) {
         fordere(Art == Wirkstoff && e == Eingabe{} && a == Ansicht{});
@@ -55,14 +97,31 @@ inline void pruefe_Satz(const std::string& Eingang) {
 
 inline void pruefe_Klima(const std::string& Eingang) {
     try {
-        fordere(!zerlege_Klimadatei(Eingang, "input").empty());
+        std::vector<Bemerkung> Bemerkungen;
+        const auto Tage = zerlege_Klimadatei(Eingang, "input", &Bemerkungen);
+        fordere(!Tage.empty());
+        pruefe_Bemerkungen(Bemerkungen);
+        fordere(Tage.size() == 365 || !Bemerkungen.empty());
+    } catch (const Laufzeitfehler&) {
+        return;
+    }
+}
+
+inline void pruefe_Simulation(const std::string& Eingang) {
+    try {
+        std::vector<Bemerkung> Bemerkungen;
+        zerlege_Simulation(Eingang, "input", &Bemerkungen);
+        pruefe_Bemerkungen(Bemerkungen);
     } catch (const Laufzeitfehler&) {
         return;
     }
 }
 
 inline void pruefe_Einstellungen(const std::string& Eingang) {
-    const auto e = zerlege_Einstellungen(Eingang);
+    std::vector<Bemerkung> Bemerkungen;
+    const auto e = zerlege_Einstellungen(Eingang, "input", &Bemerkungen);
+    pruefe_Bemerkungen(Bemerkungen);
+    fordere(e || !Bemerkungen.empty());
     if (!e) return;
     const std::string Bytes = Einstellungen_als_Bytes(*e);
     const auto wieder = zerlege_Einstellungen(Bytes);

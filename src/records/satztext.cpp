@@ -25,4 +25,31 @@ std::string Einwand_gegen_Text(std::string_view Utf8) {
     return Zeichen.empty() ? std::string() : "the records have no character \"" + Zeichen + "\"";
 }
 
+Satzfaehiges nur_Satzfaehiges(std::string_view Utf8) {
+    Satzfaehiges s;
+    for (std::size_t i = 0; i < Utf8.size();) {
+        std::size_t Ende = i + 1;
+        while (Ende < Utf8.size() && (static_cast<unsigned char>(Utf8[Ende]) & 0xC0U) == 0x80U) ++Ende;
+        const std::string_view Zeichen = Utf8.substr(i, Ende - i);
+        const bool Zeilenende = Zeichen == "\n" || Zeichen == "\r" || Zeichen == "\xE2\x80\xA8" || Zeichen == "\xE2\x80\xA9";
+        const bool zweites = Zeichen == "\n" && i > 0 && Utf8[i - 1] == '\r';
+        if (Zeilenende || Zeichen == "\t") {
+            if (!zweites) s.Text += ' ';
+        } else if (Einwand_gegen_Text(Zeichen).empty()) {
+            s.Text += Zeichen;
+        } else if (s.abgewiesen.empty()) {
+            s.abgewiesen = Zeichen;
+        }
+        i = Ende;
+    }
+    return s;
+}
+
+std::string Meldung_ueber(const Satzfaehiges& s) {
+    if (s.abgewiesen.empty()) return {};
+    const bool Steuerzeichen = s.abgewiesen.size() == 1;
+    return (Steuerzeichen ? "A control character" : '"' + s.abgewiesen + '"') + " was left out: the records " +
+           (Steuerzeichen ? "cannot hold it." : "have no such character.");
+}
+
 }  // namespace varnok

@@ -19,6 +19,15 @@ constexpr std::array<const char*, 4> Zeilennamen = {"the description", "the name
                                                     "the name of the application pattern record",
                                                     "the name of the scenario record"};
 
+void bemerke_Beschreibung(std::string_view Bytes, const std::string& Datei, const std::string& Beschreibung,
+                          std::vector<Bemerkung>& Bemerkungen) {
+    const std::string Einwand = Bytes.starts_with(UTF8_Marke)
+                                    ? "the file begins with the mark of UTF-8 and was read as Windows-1252"
+                                    : Einwand_gegen_Text(Beschreibung);
+    if (Einwand.empty()) return;
+    Bemerkungen.push_back({Datei, 1, "description", Einwand, Auszug(nach_Windows_1252(Beschreibung).value_or("")), {}});
+}
+
 void bemerke_Rest(Zeilenfolge& Zeilen, const std::string& Datei, std::vector<Bemerkung>& Bemerkungen) {
     while (const auto Zeile = Zeilen.naechste()) {
         if (ohne_Randblanks(*Zeile).empty()) continue;
@@ -50,11 +59,7 @@ Simulationssatz zerlege_Simulation(const std::string& Bytes, const std::string& 
         (i == 0 ? Satz.Beschreibung : Satz.Dateinamen[i]) = aus_Windows_1252(*Zeile);
     }
     if (!Bemerkungen) return Satz;
-    const std::string Einwand = Bytes.starts_with(UTF8_Marke)
-                                    ? "the file begins with the mark of UTF-8 and was read as Windows-1252"
-                                    : Einwand_gegen_Text(Satz.Beschreibung);
-    if (!Einwand.empty())
-        Bemerkungen->push_back({Datei, 1, "description", Einwand, Auszug(nach_Windows_1252(Satz.Beschreibung).value_or("")), {}});
+    bemerke_Beschreibung(Bytes, Datei, Satz.Beschreibung, *Bemerkungen);
     bemerke_Rest(Zeilen, Datei, *Bemerkungen);
     return Satz;
 }

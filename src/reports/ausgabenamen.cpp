@@ -1,8 +1,6 @@
 #include "reports/ausgabenamen.h"
 
 #include <QDateTime>
-#include <QLocale>
-#include <QString>
 #include <algorithm>
 
 #include "base/laufzeitfehler.h"
@@ -34,31 +32,26 @@ std::string Kinetikteil(const Ergebnis& e) {
     return Teil + ")";
 }
 
-std::string ersetzt(std::string Text, char Zeichen) {
-    std::replace(Text.begin(), Text.end(), Zeichen, '.');
-    return Text;
-}
-
-// The first characters of a text, not bytes.
-std::string Anfang(const std::string& Text, qsizetype Zeichen) {
-    return QString::fromStdString(Text).left(Zeichen).toStdString();
-}
+std::string zweistellig(int Zahl) { return (Zahl < 10 ? "0" : "") + std::to_string(Zahl); }
 
 }  // namespace
 
 Berichtszeit Berichtszeit_nach(const Uhr& u) {
     const auto Sekunden = std::chrono::duration_cast<std::chrono::seconds>(u.jetzt().time_since_epoch()).count();
     const QDateTime Zeitpunkt = QDateTime::fromSecsSinceEpoch(Sekunden);
-    const QLocale Region = QLocale::system();
-    // The long format is the one with seconds; it names the time zone, too.
-    const QString Zeitformat = Region.timeFormat(QLocale::LongFormat).remove(u't').trimmed();
-    return {Region.toString(Zeitpunkt.date(), QLocale::ShortFormat).toStdString(),
-            Region.toString(Zeitpunkt.time(), Zeitformat).toStdString()};
+    const QDate Tag = Zeitpunkt.date();
+    const std::string Monat(Monatsnamen.at(static_cast<std::size_t>(Tag.month() - 1)));
+    return {zweistellig(Tag.day()) + " " + Monat + " " + std::to_string(Tag.year()),
+            zweistellig(Zeitpunkt.time().hour()) + ":" + zweistellig(Zeitpunkt.time().minute())};
 }
 
-std::string Datum_als_Text(const Berichtszeit& z) { return ersetzt(z.Datum, '/'); }
+std::string Datum_als_Text(const Berichtszeit& z) { return z.Datum; }
 
-std::string Zeit_als_Text(const Berichtszeit& z) { return ersetzt(Anfang(z.Zeit, 5), ':'); }
+std::string Zeit_als_Text(const Berichtszeit& z) {
+    std::string Text = z.Zeit;
+    std::replace(Text.begin(), Text.end(), ':', '.');
+    return Text;
+}
 
 std::string Ausgabename_Standardbericht(const Darstellung& d, const Berichtszeit& z) {
     std::string Name = d.Namen.Beschreibung;

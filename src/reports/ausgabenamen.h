@@ -9,18 +9,17 @@
 
 namespace varnok {
 
-// Date and time as texts of the region: the date in its short format, the time with seconds.
+// Date and time, the same in every region: "03 May 2026", "14:05".
 struct Berichtszeit {
     std::string Datum;
     std::string Zeit;
 };
 
-// The moment of the clock in local time and the format of the region.
+// The moment of the clock in local time.
 Berichtszeit Berichtszeit_nach(const Uhr& u);
 
-// The date as part of a name: points instead of slashes.
+// Date and time as parts of a name, which can hold no colon: "03 May 2026", "14.05".
 std::string Datum_als_Text(const Berichtszeit& z);
-// Hours and minutes as part of a name: the first five characters, points instead of colons.
 std::string Zeit_als_Text(const Berichtszeit& z);
 
 // Name of the report of the selected study, without folder and extension: the description of the simulation and

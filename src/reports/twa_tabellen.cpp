@@ -61,7 +61,7 @@ public:
         const double T =
             (p_.Einheit == 1 ? 1000.0 : 1.0) * ((M / P.Zahl()) * (Rate / 1000)) / (p_.Bodentiefe * p_.Bodendichte / 10);
         if (!std::isfinite(T)) {
-            melde_unmoegliche_Rechnung("Molecular mass (g/mol) = " + P.Text(), {{}, 0, "Molmasse_Wirkstoff", st, 0});
+            melde_unmoegliche_Rechnung("Molecular mass (g/mol) = " + P.Text(), {{}, 0, "Molmasse", st, 0});
         }
         return T == 0 ? 0 : static_cast<double>(Werte(st).Jahresmaximum[0]) * 100 / T;
     }

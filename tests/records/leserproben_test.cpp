@@ -25,6 +25,9 @@ TEST(Leserproben, records) { spiele_ab("satz", fuzz::pruefe_Satz); }
 TEST(Leserproben, findings_about_records) { spiele_ab("satz", fuzz::pruefe_Befunde); }
 TEST(Leserproben, names_and_values) { spiele_ab("namen", fuzz::pruefe_Namen); }
 TEST(Leserproben, climate_files) { spiele_ab("klima", fuzz::pruefe_Klima); }
+TEST(Leserproben, numbers) { spiele_ab("zahl", fuzz::pruefe_Zahl); }
+TEST(Leserproben, texts) { spiele_ab("zahl", fuzz::pruefe_Zeichen); }
+TEST(Leserproben, simulations) { spiele_ab("simulation", fuzz::pruefe_Simulation); }
 TEST(Leserproben, settings) { spiele_ab("einstellungen", fuzz::pruefe_Einstellungen); }
 
 }  // namespace

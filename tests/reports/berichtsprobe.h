@@ -12,8 +12,8 @@
 
 namespace varnok::probe {
 
-inline const Berichtsangaben Angaben = {"2.0 (test)", "21/11/2025", "14:05:09", "pattern record"};
-inline const Berichtszeit Zeitpunkt = {"21/11/2025", "14:05:09"};
+inline const Berichtsangaben Angaben = {"2.0 (test)", "21 Nov 2025", "14:05", "pattern record"};
+inline const Berichtszeit Zeitpunkt = {"21 Nov 2025", "14:05"};
 
 // With a description and a soil, every study calculated.
 Darstellungsprobe mit_Ergebnissen(Lauf_bauer b);

@@ -26,7 +26,7 @@ TEST(Standardbericht, head_names_version_date_and_problem) {
     EXPECT_THAT(
         Anfang(Zeilen(Text_von({})), 14),
         ElementsAre("V A R N O K", "Soil Residue Forecast Tool", "", "developed by Emil Tarrasch          ", "", "",
-                    "Program version:                    \t2.0 (test)", "Date of this simulation:      \t21/11/2025, 14:05:09",
+                    "Program version:                    \t2.0 (test)", "Date of this simulation:      \t21 Nov 2025, 14:05",
                     "Calculation problem: \tthe problem", "", "", "", "PROGRAM SETTINGS", ""));
 }
 

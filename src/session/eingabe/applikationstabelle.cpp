@@ -1,15 +1,41 @@
 #include "session/eingabe/applikationstabelle.h"
 
+#include <array>
 #include <utility>
 
 #include "base/text.h"
+#include "base/wertebereiche.h"
+#include "base/zahlen.h"
+#include "session/kern/texte.h"
+#include "session/kern/zahleneingabe.h"
 
 namespace varnok {
 
+namespace {
+
+constexpr std::array Spalten = {Grenzen_von("Tabellentag"), Grenzen_von("Tabellenmonat"), Grenzen_von("Tabellenrate"),
+                                Grenzen_von("Tabelleninterzeption")};
+
+const Wertebereich& Grenzen(Zelle z) { return *Spalten.at(static_cast<std::size_t>(z.Spalte)); }
+
+// How the status line names a cell.
+std::string Zellenname(Zelle z) {
+    constexpr std::array Spaltennamen = {"day", "month", "rate", "interception"};
+    return std::string(Spaltennamen.at(static_cast<std::size_t>(z.Spalte))) + " in row " + std::to_string(z.Zeile + 1);
+}
+
+// An empty cell of a day or month is one that was not filled yet: the check of the table tells of it.
+bool darf_leer_sein(Zelle z) { return !Grenzen(z).Grenzen.enthaelt(0); }
+
+}  // namespace
+
+bool Applikationstabelle::enthaelt(Zelle z) const {
+    return z.Zeile >= 0 && z.Spalte >= 0 && z.Zeile < static_cast<int>(z_.Felder().Applikationsschema.size()) && z.Spalte < 4;
+}
+
 void Applikationstabelle::setze(Zelle z, std::string Text) {
-    auto& Tabelle = z_.Felder().Applikationsschema;
-    if (z.Zeile < 0 || z.Spalte < 0 || z.Zeile >= static_cast<int>(Tabelle.size()) || z.Spalte >= 4) return;
-    Zahlwert& Ziel = Tabelle[static_cast<std::size_t>(z.Zeile)][static_cast<std::size_t>(z.Spalte)];
+    if (!enthaelt(z)) return;
+    Zahlwert& Ziel = z_.Felder().Applikationsschema[static_cast<std::size_t>(z.Zeile)][static_cast<std::size_t>(z.Spalte)];
     if (Ziel.Text() == Text) return;
     Ziel = std::move(Text);
     z_.Saetze[2].Geaendert = true;
@@ -19,29 +45,72 @@ const std::string& Applikationstabelle::Text(Zelle z) const {
     return z_.Felder().Applikationsschema.at(static_cast<std::size_t>(z.Zeile)).at(static_cast<std::size_t>(z.Spalte)).Text();
 }
 
-void Applikationstabelle::haenge_an(Zelle z, char Zeichen) { setze(z, Text(z) + Zeichen); }
+// What an accepted text becomes in its cell.
+std::string Applikationstabelle::als_Zellentext(Zelle z, const std::string& Text, std::string& Meldung) const {
+    const bool leer = ohne_Randblanks(Text).empty();
+    return leer && darf_leer_sein(z) ? std::string() : nimm_Zahl_an(z_, Zellenname(z), Text, Meldung);
+}
+
+bool Applikationstabelle::schliesse_ab() {
+    const auto z = std::exchange(in_Arbeit_, std::nullopt);
+    // A record may have been read meanwhile, or the row cut off.
+    if (!z || !enthaelt(*z) || Text(*z) != getippt_) return true;
+    if (ist_eindeutig(getippt_)) {
+        std::string Meldung;
+        setze(*z, als_Zellentext(*z, getippt_, Meldung));
+        if (!Meldung.empty()) z_.Statuszeile = Meldung;
+        return true;
+    }
+    in_Arbeit_ = z_.Tabellenfehler = z;
+    melde(z_, Texte::keine_gueltige_Eingabe, Grenzen(*z).Meldung);
+    return false;
+}
+
+void Applikationstabelle::tippe(Zelle z, std::string Text) {
+    if (in_Arbeit_ && !(*in_Arbeit_ == z) && !schliesse_ab()) return;
+    getippt_ = Text;
+    in_Arbeit_ = z;
+    setze(z, std::move(Text));
+}
+
+void Applikationstabelle::haenge_an(Zelle z, char Zeichen) { tippe(z, Text(z) + Zeichen); }
 
 void Applikationstabelle::nimm_letztes(Zelle z) {
     std::string gekuerzt = Text(z);
     if (gekuerzt.empty()) return;
     gekuerzt.pop_back();
-    setze(z, std::move(gekuerzt));
+    tippe(z, std::move(gekuerzt));
 }
 
-void Applikationstabelle::leere(Zelle z) { setze(z, ""); }
+void Applikationstabelle::leere(Zelle z) { tippe(z, ""); }
 
 void Applikationstabelle::fuege_ein(Zelle z, const std::string& Text) {
+    const char* abgelehnt = nullptr;
+    std::string Meldung;
     int i = z.Zeile;
     for (std::string_view Zeile : zerlege_an(Text, '\n')) {
         if (!Zeile.empty() && Zeile.back() == '\r') Zeile.remove_suffix(1);
         if (Zeile.empty()) continue;
         int j = z.Spalte;
-        for (const std::string_view Wert : zerlege_an(Zeile, '\t')) setze({i, j++}, std::string(ohne_Randblanks(Wert)));
+        for (const std::string_view Wert : zerlege_an(Zeile, '\t')) {
+            const Zelle Ziel = {i, j++};
+            if (!enthaelt(Ziel)) continue;
+            const std::string Kern(ohne_Randblanks(Wert));
+            const bool ohne_Zahl = !Kern.empty() && lies_Zahl(Kern).ohne_Zahl;
+            if (!ist_eindeutig(Kern) || (ohne_Zahl && darf_leer_sein(Ziel))) {
+                if (!abgelehnt) abgelehnt = Grenzen(Ziel).Meldung;
+                continue;
+            }
+            setze(Ziel, als_Zellentext(Ziel, Kern, Meldung));
+        }
         ++i;
     }
+    if (!Meldung.empty()) z_.Statuszeile = Meldung;
+    if (abgelehnt) melde(z_, Texte::keine_gueltige_Eingabe, abgelehnt);
 }
 
 void Applikationstabelle::bestaetige() {
+    if (!schliesse_ab()) return;
     z_.Zusammenfassung_aktiv = false;
     Laeufe_.berechne_auf_Wunsch(true);
 }

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <optional>
+#include <string>
+
 #include "session/ergebnis/laufsteuerung.h"
 
 namespace varnok {
@@ -9,10 +12,16 @@ class Applikationstabelle {
 public:
     Applikationstabelle(Zustand& z, Laufsteuerung& Laeufe) : z_(z), Laeufe_(Laeufe) {}
 
+    // The cell that was typed into is left: its text is accepted as a number. False if it was refused: the message has been
+    // shown, the cell is to be selected.
+    bool schliesse_ab();
+    bool ist_in_Arbeit() const { return in_Arbeit_.has_value(); }
+
     void haenge_an(Zelle z, char Zeichen);  // a digit or the decimal point
     void nimm_letztes(Zelle z);             // backspace
     void leere(Zelle z);                    // delete
-    // Lines of tab separated values from the clipboard, from the cell on to the right and down.
+    // Lines of tab separated values from the clipboard, from the cell on to the right and down. What is no number of its column
+    // is left out, with one message.
     void fuege_ein(Zelle z, const std::string& Text);
     // Enter: the table is checked once and one run is made.
     void bestaetige();
@@ -20,9 +29,14 @@ public:
 private:
     const std::string& Text(Zelle z) const;
     void setze(Zelle z, std::string Text);
+    void tippe(Zelle z, std::string Text);
+    std::string als_Zellentext(Zelle z, const std::string& Text, std::string& Meldung) const;
+    bool enthaelt(Zelle z) const;
 
     Zustand& z_;
     Laufsteuerung& Laeufe_;
+    std::optional<Zelle> in_Arbeit_;  // typed into and not accepted yet
+    std::string getippt_;             // what was typed there
 };
 
 }  // namespace varnok

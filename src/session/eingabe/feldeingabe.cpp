@@ -2,6 +2,7 @@
 
 #include "base/zahlen.h"
 #include "session/kern/texte.h"
+#include "session/kern/zahleneingabe.h"
 
 namespace varnok {
 namespace {
@@ -13,6 +14,16 @@ std::size_t Satz_von(const Feldbeschreibung& f) { return f.Gruppe == Feldgruppe:
 
 bool gehoert_zur_Studie(const Feldbeschreibung& f) {
     return f.Gruppe == Feldgruppe::Studie || f.Gruppe == Feldgruppe::Studie_Hinweis_bleibt;
+}
+
+// Whether the field takes this text.
+bool gilt(const Feldbeschreibung& f, const Zahlwert& v, bool Enter) { return ist_eindeutig(v.Text()) && f.gilt(v.Zahl(), Enter); }
+
+// How the status line names a field.
+std::string Feldname(const Feldbeschreibung& f) {
+    std::string Name = f.Beschriftung;
+    if (Name.ends_with(':')) Name.pop_back();
+    return f.i_substanz > 0 ? Name + ", metabolite " + std::to_string(f.i_substanz) : Name;
 }
 
 template <class... F>
@@ -60,7 +71,7 @@ void Feldeingabe::setze(int Feld, const Zahlwert& v) {
     const Feldbeschreibung& f = Beschreibung(Feld);
     const auto c = static_cast<std::size_t>(f.i_substanz);
     const auto st = static_cast<std::size_t>(z_.i_studie());
-    const double gueltiger = !v.leer() && f.gilt(v.Zahl(), false) ? v.Zahl() : 0;
+    const double gueltiger = !v.leer() && gilt(f, v, false) ? v.Zahl() : 0;
     const double Ziel = wie_im_Satz(f.DT50 ? Halbwertszeit(gueltiger) : gueltiger);
     if (gehoert_zur_Studie(f)) Studienfelder_[static_cast<std::size_t>(Feld)] = v;
     std::visit(je_Ziel{[&](Stofftabelle<double> Laufparameter::*t) { (z_.Parameter().*t)[c][st] = Ziel; },
@@ -79,7 +90,7 @@ void Feldeingabe::aendere(int Feld, const std::string& Text) {
 
 bool Feldeingabe::pruefe(int Feld, bool Enter) {
     const Feldbeschreibung& f = Beschreibung(Feld);
-    z_.Feld_abgelehnt = !f.gilt(Feldwert(Feld).Zahl(), Enter);
+    z_.Feld_abgelehnt = !gilt(f, Feldwert(Feld), Enter);
     if (!z_.Feld_abgelehnt) return true;
     melde(z_, Texte::keine_gueltige_Eingabe, Enter && f.Meldung_Enter ? f.Meldung_Enter : f.Bereich->Meldung);
     return false;
@@ -88,6 +99,7 @@ bool Feldeingabe::pruefe(int Feld, bool Enter) {
 bool Feldeingabe::bestaetige(int Feld) {
     if (!z_.Gestartet || !(z_.Hinweis() || geaendert_)) return true;
     if (!pruefe(Feld, true)) return false;
+    uebernimm_Text(Feld);
     nimm_an(Feld, true);
     return true;
 }
@@ -98,13 +110,28 @@ bool Feldeingabe::schliesse_ab(bool mit_Lauf) { return aktiv_ < 0 || gib_ab(akti
 
 bool Feldeingabe::gib_ab(int Feld, bool mit_Lauf) {
     // What stands as the record gave it may be left, valid or not.
-    if (!(Feldwert(Feld) == Eintrittswert_) && !pruefe(Feld, false)) return false;
+    if (!(Feldwert(Feld) == Eintrittswert_)) {
+        if (!pruefe(Feld, false)) return false;
+        uebernimm_Text(Feld);
+    }
     if (geaendert_ && Beschreibung(Feld).Name == std::string("Interzeption") && Feldwert(Feld).Zahl() == 0) setze(Feld, "0");
     aktiv_ = -1;
     z_.Feld_abgelehnt = false;
     if (geaendert_ || z_.Hinweis()) nimm_an(Feld, mit_Lauf);
     geaendert_ = false;
     return true;
+}
+
+// The field shows the number that its text was taken for.
+void Feldeingabe::uebernimm_Text(int Feld) {
+    if (!geaendert_) return;
+    const std::string Text = Feldwert(Feld).Text();
+    const std::string Zahl = nimm_Zahl_an(z_, Feldname(Beschreibung(Feld)), Text);
+    if (Zahl != Text) setze(Feld, Zahl);
+}
+
+bool Feldeingabe::ausserhalb(int Feld) const {
+    return !(Feld == aktiv_ && geaendert_) && !gilt(Beschreibung(Feld), Feldwert(Feld), false);
 }
 
 void Feldeingabe::nimm_zurueck(int Feld) {
@@ -114,7 +141,7 @@ void Feldeingabe::nimm_zurueck(int Feld) {
 }
 
 void Feldeingabe::nimm_Ungueltiges_zurueck() {
-    if (aktiv_ >= 0 && !Beschreibung(aktiv_).gilt(Feldwert(aktiv_).Zahl(), false)) nimm_zurueck(aktiv_);
+    if (aktiv_ >= 0 && !gilt(Beschreibung(aktiv_), Feldwert(aktiv_), false)) nimm_zurueck(aktiv_);
 }
 
 // The value has passed its test: the results follow it.

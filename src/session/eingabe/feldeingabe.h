@@ -17,6 +17,8 @@ public:
     const std::string& Text(int Feld) const { return Feldwert(Feld).Text(); }
     // The field that has the focus, -1 without one.
     int aktives_Feld() const { return aktiv_; }
+    // What it shows is not what it accepts, as a record may give it; not while it is typed.
+    bool ausserhalb(int Feld) const;
     // Something was typed there that is not accepted yet.
     bool ist_in_Arbeit() const { return aktiv_ >= 0 && geaendert_; }
 
@@ -40,6 +42,7 @@ private:
     bool gib_ab(int Feld, bool mit_Lauf);
     bool pruefe(int Feld, bool Enter);
     void setze(int Feld, const Zahlwert& v);
+    void uebernimm_Text(int Feld);
     void nimm_an(int Feld, bool mit_Lauf);
     Zahlwert gespeicherter_Wert(const Feldbeschreibung& f) const;
     const Zahlwert& Feldwert(int Feld) const;

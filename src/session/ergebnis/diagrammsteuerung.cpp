@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "session/kern/texte.h"
+#include "session/kern/zahleneingabe.h"
 
 namespace varnok {
 
@@ -100,8 +101,13 @@ void Diagrammsteuerung::schalte_weiter() {
 }
 
 bool Diagrammsteuerung::skaliere(const std::string& Start, const std::string& Ende) {
-    if (uebernimm_Skalierung(Bereiche_, z_.Zusammenfassung_aktiv, vorne(), Start, Ende)) {
+    const bool eindeutig = ist_eindeutig(Start) && ist_eindeutig(Ende);
+    if (eindeutig && uebernimm_Skalierung(Bereiche_, z_.Zusammenfassung_aktiv, vorne(), Start, Ende)) {
         Ausschnitte_.erase(Ausschnittplatz());
+        std::string Meldung;
+        nimm_Zahl_an(z_, "Start (d)", Start, Meldung);
+        nimm_Zahl_an(z_, "End (d)", Ende, Meldung);
+        if (!Meldung.empty()) z_.Statuszeile = Meldung;
         return true;
     }
     z_.Welt.Fragen->frage({Skalierungsfehler_Titel, Skalierungsfehler, Symbol::Ausrufezeichen, {Knopf::OK, Knopf::Abbrechen}});

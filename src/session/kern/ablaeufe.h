@@ -6,6 +6,7 @@
 #include "session/eingabe/applikationstabelle.h"
 #include "session/eingabe/feldeingabe.h"
 #include "session/eingabe/listenwahl.h"
+#include "session/eingabe/zeichenmeldung.h"
 #include "session/ergebnis/berichtssteuerung.h"
 #include "session/ergebnis/bildsteuerung.h"
 #include "session/ergebnis/diagrammsteuerung.h"
@@ -57,6 +58,7 @@ constexpr Ablauf Ablauf_von(Tat<&Applikationstabelle::haenge_an>) { return {Weg:
 constexpr Ablauf Ablauf_von(Tat<&Applikationstabelle::nimm_letztes>) { return {Weg::Zwischenschritt}; }
 constexpr Ablauf Ablauf_von(Tat<&Applikationstabelle::leere>) { return {Weg::Zwischenschritt}; }
 constexpr Ablauf Ablauf_von(Tat<&Applikationstabelle::fuege_ein>) { return {Weg::Zwischenschritt}; }
+constexpr Ablauf Ablauf_von(Tat<&Applikationstabelle::schliesse_ab>) { return {Weg::Handlung, true}; }
 constexpr Ablauf Ablauf_von(Tat<&Applikationstabelle::bestaetige>) { return {Weg::Rechenbefehl}; }
 
 constexpr Ablauf Ablauf_von(Tat<&Studienverwaltung::addiere>) { return {Weg::Befehl}; }
@@ -106,6 +108,7 @@ constexpr Ablauf Ablauf_von(Tat<&Beschreibungseingabe::nimm_zurueck>) { return {
 // A run that found no climate file has told of it: the field that it came from is not accepted a second time.
 constexpr Ablauf Ablauf_von(Tat<&Szenarioeditor::oeffne>) { return {Weg::Befehl, false, &Zustand::Szenarioeditor_faellig}; }
 constexpr Ablauf Ablauf_von(Tat<&Szenarioeditor::waehle_Szenario>) { return {Weg::Zwischenschritt}; }
+constexpr Ablauf Ablauf_von(Tat<&Szenarioeditor::verlasse_Zahl>) { return {Weg::Zwischenschritt}; }
 constexpr Ablauf Ablauf_von(Tat<&Szenarioeditor::aendere>) { return {Weg::Zwischenschritt}; }
 constexpr Ablauf Ablauf_von(Tat<&Szenarioeditor::waehle_Option>) { return {Weg::Zwischenschritt}; }
 constexpr Ablauf Ablauf_von(Tat<&Szenarioeditor::waehle_Tiefe>) { return {Weg::Zwischenschritt}; }
@@ -139,6 +142,8 @@ constexpr Ablauf Ablauf_von(Tat<&Optionensteuerung::oeffne>) { return {Weg::Zwis
 constexpr Ablauf Ablauf_von(Tat<&Optionensteuerung::uebernimm>) { return {Weg::Zwischenschritt}; }
 constexpr Ablauf Ablauf_von(Tat<&Optionensteuerung::lege_Ordner_an>) { return {Weg::Zwischenschritt}; }
 constexpr Ablauf Ablauf_von(Tat<&Optionensteuerung::schliesse>) { return {Weg::Rechenbefehl}; }
+
+constexpr Ablauf Ablauf_von(Tat<&Zeichenmeldung::sage>) { return {Weg::Handlung}; }
 
 constexpr Ablauf Ablauf_von(Tat<&Hilfetexte::Tooltips>) { return {Weg::Zwischenschritt}; }
 

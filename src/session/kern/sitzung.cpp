@@ -33,7 +33,9 @@ void Sitzung::fuehre(const Ablauf& a, const Handlung& h) {
     if (a.Weg == Weg::Zwischenschritt) return versuche(h);
     const bool nimmt_an = a.Weg != Weg::Handlung && !(a.ohne_Feld && z_.*a.ohne_Feld);
     const bool Lauf_fehlt = nimmt_an && a.Weg == Weg::Rechenbefehl && Felder_.aktives_Feld() >= 0;
+    std::string vorher = letzte_Statuszeile_;
     if (nimmt_an && !nimm_Texte_an(a.Weg == Weg::Befehl)) return;
+    letzte_Statuszeile_ = std::move(vorher);  // what a field told belongs to this command
     Laeufe_.sieh_Klima_an();
     versuche(h);
     // A command that was to run and did not leaves the accepted value without results.
@@ -41,8 +43,9 @@ void Sitzung::fuehre(const Ablauf& a, const Handlung& h) {
     schliesse_Handlung_ab();
 }
 
-// What a command finds is complete. False where the field in work refuses its value.
+// What a command finds is complete. False where the field or the cell in work refuses its value.
 bool Sitzung::nimm_Texte_an(bool mit_Lauf) {
+    if (Tabelle_.ist_in_Arbeit() && !fuehre_aus<&Applikationstabelle::schliesse_ab>()) return false;
     if (Felder_.aktives_Feld() >= 0 && !fuehre_aus<&Feldeingabe::schliesse_ab>(mit_Lauf)) return false;
     if (Studien_.Name_offen()) fuehre_aus<&Studienverwaltung::bestaetige>(false);
     Ruecknahme_.merke();  // a cell or a name typed before is a step of its own

@@ -37,6 +37,8 @@ struct Umgebung {
 struct Zelle {
     int Zeile = 0;
     int Spalte = 0;
+
+    friend bool operator==(const Zelle&, const Zelle&) = default;
 };
 
 // The selectors: simulation, compound, application pattern, scenario. What is selected is a name, and this is the one place
@@ -77,6 +79,7 @@ struct Satzplatz {
 struct Zustand : Satzlisten {
     Umgebung Welt;
     Einstellungen Einstellung;
+    std::vector<Bemerkung> zu_den_Einstellungen;  // as their file was read at the start
     std::string Projektpfad;
     std::optional<Projektordner> Ordner;          // of everything behind the selectors, until the program ends
     std::shared_ptr<Projektsperre> Sperre;        // on that folder, for the time of the session

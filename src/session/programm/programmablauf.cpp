@@ -15,9 +15,10 @@
 namespace varnok {
 namespace {
 
-std::optional<Einstellungen> lies_Einstellungen(const Zustand& z) {
+std::optional<Einstellungen> lies_Einstellungen(Zustand& z) {
+    const std::string Pfad = Einstellungspfad(z);
     try {
-        return zerlege_Einstellungen(lies_Datei(Einstellungspfad(z)));
+        return zerlege_Einstellungen(lies_Datei(Pfad), Pfad, &z.zu_den_Einstellungen);
     } catch (const Laufzeitfehler&) {
         return std::nullopt;  // a missing file is the usual case of a first start
     }

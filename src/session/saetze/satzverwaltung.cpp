@@ -7,6 +7,7 @@
 #include "base/laufzeitfehler.h"
 #include "exposure/twa.h"
 #include "records/dateien.h"
+#include "records/satztext.h"
 #include "session/kern/texte.h"
 
 namespace varnok {
@@ -18,6 +19,17 @@ const std::vector<Satzart> alle_Arten = {Simulation, Wirkstoff, Applikation, Sze
 
 void Satzverwaltung::fuelle_Listen() {
     for (const Satzart Art : alle_Arten) Befehle_.lies_Liste(Art);
+    nenne_Unwaehlbare();
+}
+
+// A simulation names its records in the character set of the records.
+void Satzverwaltung::nenne_Unwaehlbare() {
+    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) {
+        for (const std::string& Name : z_.Listen[Art]) {
+            const std::string Einwand = Einwand_gegen_Text(Name);
+            if (!Einwand.empty()) stelle_voran("\"" + Name + Endungen[Art] + "\" cannot be chosen: " + Einwand + ".");
+        }
+    }
 }
 
 // What the screen shows stays there under the cover; it is not the record that the selector names, so it is never saved or asked

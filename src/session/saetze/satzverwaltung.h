@@ -78,6 +78,7 @@ public:
     bool darf_kopieren(Satzart Art) const { return z_.Auswahl(Art) >= 0; }
 
 private:
+    void nenne_Unwaehlbare();
     bool lies_auf_Wunsch_nach();
     bool lies_Stueck(const Sicherungsstueck& Stueck);
     void folge_dem_Satz(Satzart Art, int alte_TWA_Zeiten);

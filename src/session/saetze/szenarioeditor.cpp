@@ -6,9 +6,11 @@
 
 #include "base/laufzeitfehler.h"
 #include "base/text.h"
+#include "base/wertebereiche.h"
 #include "base/zahlen.h"
 #include "records/satztext.h"
 #include "session/kern/texte.h"
+#include "session/kern/zahleneingabe.h"
 
 namespace varnok {
 namespace {
@@ -16,6 +18,18 @@ namespace {
 constexpr int Tiefenschritte = 500;  // 0.1 to 50.0 cm
 constexpr int hoechste_Temperatur = 40;
 constexpr int individuell = 2;
+
+// The fields that hold a number, and what is told of a text that could be another one.
+struct Zahlenfeld {
+    Szenarioentwurf::Feld Feld;
+    const Wertebereich* Grenzen;
+    const char* Name;
+};
+constexpr std::array Zahlenfelder = {
+    Zahlenfeld{Szenarioentwurf::Bodendichte, Grenzen_von("Bodendichte"), "Soil density (kg/L)"},
+    Zahlenfeld{Szenarioentwurf::Kohlenstoffgehalt, Grenzen_von("Kohlenstoffgehalt"), "Organic carbon content (%)"},
+    Zahlenfeld{Szenarioentwurf::Feldkapazitaet, Grenzen_von("Feldkapazitaet"), "Field capacity (Vol %)"},
+    Zahlenfeld{Szenarioentwurf::Welkepunkt, Grenzen_von("Welkepunkt"), "Wilting point (%)"}};
 
 // The list of depths with the position of `Tiefe`. A depth that is no entry becomes one of its own behind the others.
 Tiefenwahl Tiefenliste(double Tiefe, std::array<int, 2> Vorgaben, char Dezimalzeichen) {
@@ -59,6 +73,7 @@ bool Szenarioeditor::oeffne() {
     if (z_.Auswahl(varnok::Szenario) >= 0 && !z_.Saetze[varnok::Szenario].gelesen)
         throw Laufzeitfehler(z_.Saetze[varnok::Szenario].Grund);
     e_ = {};
+    Gelesenes_.clear();
     geaendert_ = Lauf_faellig_ = false;
     e_.Klimamodus = z_.Parameter().Klimamodus;
     fuelle_Listen();
@@ -212,23 +227,47 @@ void Szenarioeditor::uebernimm_Namen() {
     z_.Saetze[0].Geaendert = z_.Simulation_markiert = true;
 }
 
-void Szenarioeditor::uebernimm() {
+void Szenarioeditor::verlasse_Zahl(Szenarioentwurf::Feld f) {
+    if (f == Szenarioentwurf::Bodenszenario || e_.Texte[f] == gezeigt_.Texte[f] || !ist_eindeutig(e_.Texte[f])) return;
+    const auto passt = [f](const Zahlenfeld& Zeile) { return Zeile.Feld == f; };
+    const auto Zeile = std::find_if(Zahlenfelder.begin(), Zahlenfelder.end(), passt);
+    e_.Texte[f] = nimm_Zahl_an(z_, Zeile->Name, e_.Texte[f], Gelesenes_);
+}
+
+bool Szenarioeditor::nimm_Texte_an() {
+    for (const Zahlenfeld& f : Zahlenfelder) {
+        if (e_.Texte[f.Feld] != gezeigt_.Texte[f.Feld] && !ist_eindeutig(e_.Texte[f.Feld])) {
+            melde(z_, Texte::keine_gueltige_Eingabe, f.Grenzen->Meldung);
+            return false;
+        }
+    }
+    for (const Zahlenfeld& f : Zahlenfelder) verlasse_Zahl(f.Feld);
+    return true;
+}
+
+bool Szenarioeditor::uebernimm() {
+    if (!nimm_Texte_an()) return false;
     const bool ohne_Satz = z_.Auswahl(varnok::Szenario) < 0;
     uebernimm_Werte();
     uebernimm_Klima();
     uebernimm_Namen();
-    if (!ohne_Satz || !geaendert_) return;
+    if (!ohne_Satz || !geaendert_) return true;
     // What was entered stands under the name chosen; else `schliesse` reads that record.
     z_.Saetze[varnok::Szenario].gelesen = true;
     Lauf_faellig_ = true;
+    return true;
 }
 
-void Szenarioeditor::verwirf() { Lauf_faellig_ = false; }
+void Szenarioeditor::verwirf() {
+    Lauf_faellig_ = false;
+    Gelesenes_.clear();
+}
 
 void Szenarioeditor::schliesse() {
     Saetze_.lies_Szenario_nach();
     if (std::exchange(Lauf_faellig_, false)) Laeufe_.berechne();
     z_.Szenarioeditor_faellig = false;
+    if (!Gelesenes_.empty()) z_.Statuszeile = Gelesenes_;
 }
 
 }  // namespace varnok

@@ -62,8 +62,11 @@ public:
     void waehle_Temperatur(int i) { e_.Temperatur = i; }
     void waehle_Klimaszenario(int i);
 
-    // "Done": stores what the user changed.
-    void uebernimm();
+    // A field of a number is left: it shows the number that its text is taken for.
+    void verlasse_Zahl(Szenarioentwurf::Feld f);
+
+    // "Done": stores what the user changed. False where a number is refused: the message has been shown, nothing is stored.
+    bool uebernimm();
     // "Cancel".
     void verwirf();
     // Once the dialog has closed: runs if that is due. A run that fails does not ask for the editor again.
@@ -73,6 +76,7 @@ private:
     void fuelle_Listen();
     void zeige_Werte();
     bool uebernimm_Wert(const std::string& Text, const std::string& gezeigt, double& Parameter);
+    bool nimm_Texte_an();
     void uebernimm_Werte();
     void uebernimm_Plateautiefe();
     void uebernimm_Klima();
@@ -84,6 +88,7 @@ private:
     Satzverwaltung& Saetze_;
     Szenarioentwurf e_;
     Szenarioentwurf gezeigt_;  // on opening: what the user does not touch is never stored
+    std::string Gelesenes_;    // what was read as what, for the status line when the dialog has closed
     bool Klima_gewaehlt_ = false;
     bool geaendert_ = false;  // "Done" stored something
     bool Lauf_faellig_ = false;

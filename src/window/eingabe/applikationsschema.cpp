@@ -4,15 +4,20 @@
 #include <QClipboard>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QTimer>
+#include <QtGui/QFocusEvent>
 #include <algorithm>
+#include <chrono>
 
 #include "painting/qt_text.h"
+#include "window/kern/fokus.h"
 #include "window/kern/zwischenablage.h"
 
 namespace varnok {
 namespace {
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 // What a key adds to a cell: a digit or the decimal point, 0 for any other key.
 char Zeichen_der_Taste(const QKeyEvent& e) {
@@ -41,9 +46,22 @@ Applikationsschema::Applikationsschema(Sitzung& Programm, QWidget* parent) : QTa
     horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     horizontalHeader()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
     horizontalHeader()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
+    connect(this, &QTableWidget::currentCellChanged, this, &Applikationsschema::verlasse_Zelle);
+}
+
+// A text that is refused is told of when the event that left the cell is over.
+void Applikationsschema::verlasse_Zelle() {
+    if (zeigt_ || !Programm_.zeige<Applikationstabelle>().ist_in_Arbeit()) return;
+    QTimer::singleShot(0ms, this, &Applikationsschema::verlassen);
+}
+
+void Applikationsschema::focusOutEvent(QFocusEvent* e) {
+    QTableWidget::focusOutEvent(e);
+    if (!betrifft_nur_Fenster(e->reason())) verlasse_Zelle();
 }
 
 void Applikationsschema::zeige() {
+    zeigt_ = true;
     const auto& Zeilen = Programm_.Stand().Felder().Applikationsschema;
     setRowCount(static_cast<int>(Zeilen.size()));
     for (int i = 0; i < rowCount(); ++i) {
@@ -63,12 +81,16 @@ void Applikationsschema::zeige() {
     const double sichtbar = std::min<double>(rowCount(), 5.3);
     const int Kopf = horizontalHeader()->sizeHint().height();
     setFixedHeight(Kopf + static_cast<int>(sichtbar * verticalHeader()->defaultSectionSize()) + 2 * frameWidth());
+    zeigt_ = false;
 }
 
 void Applikationsschema::waehle_Zelle(Zelle z) {
+    zeigt_ = true;
     clearSelection();
     setCurrentCell(z.Zeile, z.Spalte);
     if (const QTableWidgetItem* Ziel = item(z.Zeile, z.Spalte)) scrollToItem(Ziel);
+    setFocus(Qt::OtherFocusReason);
+    zeigt_ = false;
 }
 
 Zelle Applikationsschema::aktuelle_Zelle() const { return {currentRow(), currentColumn()}; }

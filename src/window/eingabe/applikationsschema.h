@@ -18,15 +18,20 @@ public:
 Q_SIGNALS:
     void getippt();
     void bestaetigt();
+    // The cell that was typed into is no more the current one, or the table no more in focus.
+    void verlassen();
 
 protected:
     void keyPressEvent(QKeyEvent* e) override;
+    void focusOutEvent(QFocusEvent* e) override;
 
 private:
     Zelle aktuelle_Zelle() const;
     bool bearbeite(const QKeyEvent& e);
+    void verlasse_Zelle();
 
     Sitzung& Programm_;
+    bool zeigt_ = false;  // the program fills it
 };
 
 }  // namespace varnok

@@ -40,9 +40,11 @@ Zahlenfeld* Feldsteuerung::erstelle(const QString& Objektname, QWidget* parent) 
 }
 
 void Feldsteuerung::zeige() {
+    const auto& Eingabefelder = Programm_.zeige<Feldeingabe>();
     for (Zahlenfeld* f : Felder_) {
-        f->zeige(f == getippt_ ? f->text() : in_Qt(Programm_.zeige<Feldeingabe>().Text(f->Feld())), in_Arbeit(*f));
+        f->zeige(f == getippt_ ? f->text() : in_Qt(Eingabefelder.Text(f->Feld())), in_Arbeit(*f));
         if (f->Feld() != aktives_Feld()) f->vergiss_Getipptes();
+        f->markiere(Eingabefelder.ausserhalb(f->Feld()));
     }
 }
 

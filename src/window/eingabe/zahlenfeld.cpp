@@ -2,6 +2,8 @@
 
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
+#include <QPolygon>
 #include <QtGui/QFocusEvent>
 
 #include "painting/qt_text.h"
@@ -10,6 +12,8 @@
 #include "window/kern/rahmenfarben.h"
 
 namespace varnok {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -28,6 +32,24 @@ QSize Zahlenfeld::sizeHint() const { return {Breite(*this), Zeilenhoehe(*this)};
 void Zahlenfeld::zeige(const QString& Text, bool in_Arbeit) {
     Textfeld::zeige(Text);
     faerbe_Eingabe(*this, in_Arbeit);
+}
+
+void Zahlenfeld::markiere(bool ausserhalb) {
+    if (markiert_ == ausserhalb) return;
+    markiert_ = ausserhalb;
+    setAccessibleDescription(ausserhalb ? u"outside the range of this field"_s : QString());
+    update();
+}
+
+void Zahlenfeld::paintEvent(QPaintEvent* e) {
+    QLineEdit::paintEvent(e);
+    if (!markiert_) return;
+    const int Seite = height() / 3;
+    QPainter p(this);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setPen(Qt::NoPen);
+    p.setBrush(Farben::Zweifel);
+    p.drawPolygon(QPolygon({QPoint(1, 1), QPoint(1 + Seite, 1), QPoint(1, 1 + Seite)}));
 }
 
 void Zahlenfeld::focusInEvent(QFocusEvent* e) {

@@ -17,6 +17,8 @@ public:
     int Feld() const { return Feld_; }
     // Text, and the colour of a field in work or at rest.
     void zeige(const QString& Text, bool in_Arbeit);
+    // A quiet mark in its corner: what it shows is not what it accepts.
+    void markiere(bool ausserhalb);
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 
@@ -28,6 +30,7 @@ Q_SIGNALS:
     void zurueckgenommen();
 
 protected:
+    void paintEvent(QPaintEvent* e) override;
     void focusInEvent(QFocusEvent* e) override;
     void focusOutEvent(QFocusEvent* e) override;
     void keyPressEvent(QKeyEvent* e) override;
@@ -38,6 +41,7 @@ protected:
 
 private:
     int Feld_;
+    bool markiert_ = false;
     bool doppelt_geklickt_ = false;  // the button is still held
 };
 

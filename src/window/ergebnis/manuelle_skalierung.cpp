@@ -21,6 +21,7 @@ using namespace Qt::StringLiterals;
 QComboBox* erstelle_Liste(const QString& Name, const QStringList& Eintraege, const std::string& Text, QWidget* parent) {
     auto* l = new Auswahlliste(Name, 8, parent);
     l->setEditable(true);
+    l->setLineEdit(new Textfeld(QString(), l));
     l->setInsertPolicy(QComboBox::NoInsert);
     l->setCompleter(nullptr);  // "36" stays 36 and becomes no 365
     l->addItems(Eintraege);

@@ -1,17 +1,22 @@
 #include "window/kern/bausteine.h"
 
+#include <QCoreApplication>
 #include <QKeyEvent>
+#include <QMainWindow>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QSignalBlocker>
 #include <QStyle>
 #include <QStyleOptionComboBox>
 #include <QStylePainter>
+#include <QValidator>
+#include <QtGui/QStatusTipEvent>
 #include <QtGui/QWheelEvent>
 #include <algorithm>
 #include <cmath>
 
 #include "painting/qt_text.h"
+#include "records/satztext.h"
 #include "window/kern/rahmenfarben.h"
 
 namespace varnok {
@@ -96,11 +101,44 @@ void Auswahlliste::paintEvent(QPaintEvent*) {
 
 void Auswahlliste::wheelEvent(QWheelEvent* e) { e->ignore(); }
 
-Textfeld::Textfeld(const QString& Name, QWidget* parent) : QLineEdit(parent) { setObjectName(Name); }
+// Takes out of a text what it must not hold, wherever the text came from: keys, clipboard, a drop, an input method.
+class Textfeld::Zeichenfilter : public QValidator {
+public:
+    explicit Zeichenfilter(Textfeld& Feld) : QValidator(&Feld), Feld_(Feld) {}
+
+    State validate(QString& Text, int& Stelle) const override {
+        if (Feld_.zeigt_) return Acceptable;
+        const Satzfaehiges s = nur_Satzfaehiges(aus_Qt(Text));
+        const QString neu = in_Qt(s.Text);
+        if (neu == Text) return Acceptable;
+        Stelle = static_cast<int>(in_Qt(nur_Satzfaehiges(aus_Qt(Text.left(Stelle))).Text).size());
+        Text = neu;
+        melde(in_Qt(Meldung_ueber(s)));
+        return Acceptable;
+    }
+
+private:
+    // When the key is done with.
+    void melde(const QString& Meldung) const {
+        if (Meldung.isEmpty()) return;
+        for (QWidget* w = &Feld_; w; w = w->parentWidget()) {
+            if (qobject_cast<QMainWindow*>(w)) return QCoreApplication::postEvent(w, new QStatusTipEvent(Meldung));
+        }
+    }
+
+    Textfeld& Feld_;
+};
+
+Textfeld::Textfeld(const QString& Name, QWidget* parent) : QLineEdit(parent) {
+    setObjectName(Name);
+    setValidator(new Zeichenfilter(*this));
+}
 
 void Textfeld::zeige(const QString& Text) {
     if (text() == Text) return;
+    zeigt_ = true;
     setText(Text);
+    zeigt_ = false;
     setCursorPosition(0);
 }
 
@@ -108,7 +146,9 @@ void Textfeld::vergiss_Getipptes() {
     if (!isUndoAvailable() && !isRedoAvailable()) return;
     const int Stelle = cursorPosition(), Anfang = selectionStart();
     const auto Laenge = static_cast<int>(selectedText().size());
+    zeigt_ = true;
     setText(text());
+    zeigt_ = false;
     setCursorPosition(Stelle);
     if (Laenge > 0) setSelection(Anfang, Laenge);
 }

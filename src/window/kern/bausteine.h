@@ -56,7 +56,7 @@ protected:
     void wheelEvent(QWheelEvent* e) override;
 };
 
-// A line to type in.
+// A line to type in. What no record can hold does not enter, typed or pasted; the main window is told of it by a QStatusTipEvent.
 class Textfeld : public QLineEdit {
     Q_OBJECT
 public:
@@ -70,6 +70,11 @@ public:
 protected:
     // Undo and redo are the field's own while there is something typed, else commands of the window.
     bool event(QEvent* e) override;
+
+private:
+    class Zeichenfilter;
+
+    bool zeigt_ = false;  // the program fills it
 };
 
 // A line of text that is cut with dots where it finds no room; the whole text is its tip then.

@@ -19,6 +19,7 @@ inline constexpr QColor Wirkstoff{192, 255, 192};
 inline constexpr QColor Applikation{255, 255, 192};
 inline constexpr QColor Szenario{255, 192, 128};
 inline constexpr QColor Eingabe{255, 255, 0};       // a field in work
+inline constexpr QColor Zweifel{208, 88, 0};        // the mark of a value outside its range
 inline constexpr QColor Markierung{192, 255, 255};  // the combination differs from the saved one
 inline constexpr QColor Beschreibung{0, 0, 255};
 inline constexpr QColor Text{28, 32, 36};

@@ -10,6 +10,7 @@
 #include <QTimer>
 #include <QVBoxLayout>
 #include <QtGui/QCloseEvent>
+#include <QtGui/QStatusTipEvent>
 #include <algorithm>
 #include <array>
 #include <chrono>
@@ -280,7 +281,18 @@ void Hauptformular::oeffne_Organiser() {
 
 void Hauptformular::waehle_Fehlerzelle() {
     const Zustand& z = Programm_.Stand();
-    if (z.Tabellenfehler && z.abgedeckt()) Applikation_->waehle_Zelle(*z.Tabellenfehler);
+    if (z.Tabellenfehler && (z.abgedeckt() || Programm_.zeige<Applikationstabelle>().ist_in_Arbeit()))
+        Applikation_->waehle_Zelle(*z.Tabellenfehler);
+}
+
+// What a field tells of a character that it did not take. Actions of the menu tell with an empty text, too.
+bool Hauptformular::event(QEvent* e) {
+    if (e->type() != QEvent::StatusTip) return QMainWindow::event(e);
+    const QString Hinweis = static_cast<QStatusTipEvent*>(e)->tip();
+    if (Hinweis.isEmpty()) return true;
+    Programm_.fuehre_aus<&Zeichenmeldung::sage>(aus_Qt(Hinweis));
+    Schalter_->zeige();
+    return true;
 }
 
 void Hauptformular::closeEvent(QCloseEvent* e) {

@@ -42,6 +42,7 @@ public:
     void erstelle_tooltips();
 
 protected:
+    bool event(QEvent* e) override;
     void closeEvent(QCloseEvent* e) override;
     // What the control under the mouse can do, in the status line.
     bool event(QEvent* e) override;

@@ -3,10 +3,13 @@
 #include <QDir>
 #include <QHBoxLayout>
 #include <QIcon>
+#include <QShortcut>
 
 #include "painting/qt_text.h"
+#include "session/kern/bemerkungen.h"
 #include "window/kern/bausteine.h"
 #include "window/kern/bilder.h"
+#include "window/programm/bemerkungsfenster.h"
 
 namespace varnok {
 
@@ -31,6 +34,12 @@ Schalterrahmen::Schalterrahmen(Sitzung& Programm, QWidget* parent)
     }
     Zeile->addSpacing(18);
     Zeile->addWidget(Status_, 1);
+    Bemerkungen_ = new Schaltflaeche(u"Bemerkungszahl"_s, QString(), this);
+    Bemerkungen_->setFlat(true);
+    Zeile->addWidget(Bemerkungen_);
+    connect(Bemerkungen_, &QPushButton::clicked, this, &Schalterrahmen::oeffne_Bemerkungen);
+    // Not a shortcut of the button, which goes with each change of its text.
+    connect(new QShortcut(Qt::Key_F8, this), &QShortcut::activated, this, &Schalterrahmen::oeffne_Bemerkungen);
 
     connect(Aktualisieren_, &QPushButton::clicked, this, [this] { befiehl<&Satzverwaltung::aktualisiere>(); });
     connect(speichern_, &QPushButton::clicked, this, [this] { befiehl<&Satzverwaltung::speichere>(); });
@@ -53,7 +62,25 @@ void Schalterrahmen::zeige_Hinweis() {
     if (Hinweis == Aktualisieren_->icon().isNull()) Aktualisieren_->setIcon(Hinweis ? Hinweisbild() : QIcon());
 }
 
+void Schalterrahmen::zeige_Bemerkungen() {
+    const std::size_t Anzahl = Bemerkungen(Stand()).size();
+    const QString Aufschrift = Bemerkungszahl(Anzahl);
+    if (Bemerkungen_->text() != Aufschrift) {
+        Bemerkungen_->setText(Aufschrift);
+        Bemerkungen_->setAccessibleName(Aufschrift);
+    }
+    Bemerkungen_->setVisible(Anzahl > 0);
+}
+
+void Schalterrahmen::oeffne_Bemerkungen() {
+    const std::vector<Bemerkung> Alle = Bemerkungen(Stand());
+    if (Alle.empty()) return;
+    Bemerkungsfenster Fenster(Alle, Stand().Welt.Dezimalzeichen, this);
+    Fenster.exec();
+}
+
 void Schalterrahmen::zeige() {
+    zeige_Bemerkungen();
     zeige_Hinweis();
     Bericht_erstellen_->setEnabled(Stand().Gestartet);
     const std::string& Zeile = Stand().Statuszeile;

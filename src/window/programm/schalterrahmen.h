@@ -20,6 +20,8 @@ public:
     void gib_Ende_den_Fokus();
 
 private:
+    void zeige_Bemerkungen();
+    void oeffne_Bemerkungen();
     // The picture of results that are out of date: a file of the project, else the built-in one.
     QIcon Hinweisbild() const;
     void zeige_Status();
@@ -28,6 +30,7 @@ private:
     Kurztext* Status_;
     QString Statustext_;
     QString Handhabung_;
+    Schaltflaeche* Bemerkungen_;  // only where there are any
 };
 
 }  // namespace varnok

@@ -149,6 +149,7 @@ void Organiserzeile::zeige() {
     const Organiser& o = Programm_.zeige<Organiser>();
     faerbe();
     Liste_->zeige(o.Listen().Listen[Satzart_], o.Listen().Auswahl(Satzart_));
+    if (Satzart_ != Simulation) sperre_Unwaehlbare(*Liste_, o.Listen().Listen[Satzart_]);
     Copy_->setEnabled(o.darf_kopieren(Satzart_));
     Umbenennen_->setEnabled(o.darf_kopieren(Satzart_));
     Loeschen_->setEnabled(o.darf_loeschen(Satzart_));

@@ -2,8 +2,11 @@
 
 #include <QAbstractItemView>
 #include <QKeyEvent>
+#include <QStandardItemModel>
 #include <algorithm>
 #include <array>
+
+#include "records/satztext.h"
 
 namespace varnok {
 namespace {
@@ -30,6 +33,13 @@ void Satzauswahl::keyPressEvent(QKeyEvent* e) {
     }
     showPopup();
     if (!Text.isEmpty()) view()->keyboardSearch(Text);
+}
+
+void sperre_Unwaehlbare(QComboBox& Liste, const std::vector<std::string>& Namen) {
+    auto* Eintraege = qobject_cast<QStandardItemModel*>(Liste.model());
+    for (int i = 0; i < Liste.count(); ++i) {
+        Eintraege->item(i)->setEnabled(Einwand_gegen_Text(Namen[static_cast<std::size_t>(i)]).empty());
+    }
 }
 
 }  // namespace varnok

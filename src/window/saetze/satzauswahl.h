@@ -15,4 +15,7 @@ protected:
     void keyPressEvent(QKeyEvent* e) override;
 };
 
+// A record whose name no simulation can hold stays in its list and cannot be chosen.
+void sperre_Unwaehlbare(QComboBox& Liste, const std::vector<std::string>& Namen);
+
 }  // namespace varnok

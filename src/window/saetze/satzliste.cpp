@@ -63,6 +63,7 @@ void Satzliste::benenne_um(bool Enter) {
 void Satzliste::zeige() {
     const Zustand& z = Programm_.Stand();
     Liste->zeige(z.Listen[Art_], z.Auswahl(Art_));
+    if (Art_ != Simulation) sperre_Unwaehlbare(*Liste, z.Listen[Art_]);
     const auto& Saetze = Programm_.zeige<Satzverwaltung>();
     Copy->setEnabled(Saetze.darf_kopieren(Art_));
     Loeschen->setEnabled(Saetze.darf_loeschen(Art_));

@@ -102,6 +102,7 @@ void Szenario_Form::erstelle_Textzeile(QGridLayout& Raster, int Zeile, Szenarioe
         Raster.addWidget(Feld, Zeile, Feldspalte, 1, Feldspalten, Qt::AlignLeft);
     }
     connect(Feld, &QLineEdit::textEdited, this, [this, f](const QString& Text) { tippe(f, Text); });
+    connect(Feld, &QLineEdit::editingFinished, this, [this, f] { befiehl<&Szenarioeditor::verlasse_Zahl>(f); });
 }
 
 // What was refused goes, and the cursor stands where it stood before.
@@ -177,8 +178,9 @@ void Szenario_Form::zeige() {
     const auto& Editor = Programm_.zeige<Szenarioeditor>();
     const E& e = Editor.Entwurf();
     Szenarioliste_->zeige(e.Szenarien, e.Szenario);
+    sperre_Unwaehlbare(*Szenarioliste_, e.Szenarien);
     for (std::size_t f = 0; f < Texte_.size(); ++f) {
-        if (aus_Qt(Texte_[f]->text()) != e.Texte[f]) Texte_[f]->setText(in_Qt(e.Texte[f]));
+        if (aus_Qt(Texte_[f]->text()) != e.Texte[f]) Texte_[f]->zeige(in_Qt(e.Texte[f]));
     }
     Bodentiefe_->zeige(e.Boden);
     Plateautiefe_->zeige(e.Plateau);
@@ -191,8 +193,7 @@ void Szenario_Form::zeige() {
 }
 
 void Szenario_Form::accept() {
-    Programm_.fuehre_aus<&Szenarioeditor::uebernimm>();
-    QDialog::accept();
+    if (Programm_.fuehre_aus<&Szenarioeditor::uebernimm>()) QDialog::accept();
 }
 
 // Cancel, Esc and the close box.

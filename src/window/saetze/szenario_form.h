@@ -9,11 +9,11 @@ class QButtonGroup;
 class QFrame;
 class QGridLayout;
 class QLabel;
-class QLineEdit;
 
 namespace varnok {
 
 class Auswahlliste;
+class Textfeld;
 class Tiefenfeld;
 
 // The dialog for soil and climate of the scenario on the screen.
@@ -39,7 +39,7 @@ private:
 
     Sitzung& Programm_;
     Auswahlliste* Szenarioliste_;
-    std::array<QLineEdit*, Szenarioentwurf::Anzahl_Felder> Texte_{};
+    std::array<Textfeld*, Szenarioentwurf::Anzahl_Felder> Texte_{};
     Tiefenfeld* Bodentiefe_;
     Tiefenfeld* Plateautiefe_;
     QButtonGroup* Klimabedingungen_;

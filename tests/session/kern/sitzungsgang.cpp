@@ -246,8 +246,8 @@ Gang::Vorher Gang::merke() const {
         }
     }
     v.Vorgabe = z().Vorgabe;
-    v.etwas_in_Arbeit =
-        Feld_in_Arbeit() || s_->zeige<Studienverwaltung>().Name_offen() || z().Beschreibung_offen || Name_in_Arbeit;
+    v.etwas_in_Arbeit = Feld_in_Arbeit() || s_->zeige<Applikationstabelle>().ist_in_Arbeit() ||
+                        s_->zeige<Studienverwaltung>().Name_offen() || z().Beschreibung_offen || Name_in_Arbeit;
     return v;
 }
 
@@ -418,8 +418,8 @@ void Gang::pruefe_Diagramm(const Zustand& frisch) {
 
 // Undo gives the inputs before, redo those after.
 void Gang::pruefe_Verlauf(const Aktionsart& a, const Vorher& v) {
-    const bool offen =
-        Feld_in_Arbeit() || s_->zeige<Studienverwaltung>().Name_offen() || z().Beschreibung_offen || Name_in_Arbeit;
+    const bool offen = Feld_in_Arbeit() || s_->zeige<Applikationstabelle>().ist_in_Arbeit() ||
+                       s_->zeige<Studienverwaltung>().Name_offen() || z().Beschreibung_offen || Name_in_Arbeit;
     // Cells are no step before a command that surely was done.
     if ((a.Merkmale & immer) != 0) Zelle_in_Arbeit_ = false;
     if ((a.Merkmale & (Befehl | Handlung | fremd)) == 0 && v.Vorgabe.Applikationsschema != z().Vorgabe.Applikationsschema)
