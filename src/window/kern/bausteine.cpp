@@ -10,7 +10,6 @@
 #include <QStyleOptionComboBox>
 #include <QStylePainter>
 #include <QValidator>
-#include <QtGui/QStatusTipEvent>
 #include <QtGui/QWheelEvent>
 #include <algorithm>
 #include <cmath>
@@ -20,6 +19,8 @@
 #include "window/kern/rahmenfarben.h"
 
 namespace varnok {
+
+const QEvent::Type Zeichenereignis::Art = static_cast<QEvent::Type>(QEvent::registerEventType());
 
 using namespace Qt::StringLiterals;
 
@@ -122,7 +123,7 @@ private:
     void melde(const QString& Meldung) const {
         if (Meldung.isEmpty()) return;
         for (QWidget* w = &Feld_; w; w = w->parentWidget()) {
-            if (qobject_cast<QMainWindow*>(w)) return QCoreApplication::postEvent(w, new QStatusTipEvent(Meldung));
+            if (qobject_cast<QMainWindow*>(w)) return QCoreApplication::postEvent(w, new Zeichenereignis(Meldung));
         }
     }
 
