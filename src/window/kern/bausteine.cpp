@@ -21,6 +21,8 @@
 
 namespace varnok {
 
+const QEvent::Type Zeichenereignis::Art = static_cast<QEvent::Type>(QEvent::registerEventType());
+
 using namespace Qt::StringLiterals;
 
 int Ziffern(const QWidget& w, double Anzahl) {
@@ -127,7 +129,7 @@ private:
     void melde(const QString& Meldung) const {
         if (Meldung.isEmpty()) return;
         for (QWidget* w = &Feld_; w; w = w->parentWidget()) {
-            if (qobject_cast<QMainWindow*>(w)) return QCoreApplication::postEvent(w, new QStatusTipEvent(Meldung));
+            if (qobject_cast<QMainWindow*>(w)) return QCoreApplication::postEvent(w, new Zeichenereignis(Meldung));
         }
     }
 

@@ -59,7 +59,19 @@ protected:
     void wheelEvent(QWheelEvent* e) override;
 };
 
-// A line to type in. What no record can hold does not enter, typed or pasted; the main window is told of it by a QStatusTipEvent.
+// Tells the main window what did not enter, when the key is done with.
+class Zeichenereignis : public QEvent {
+public:
+    static const Type Art;
+    explicit Zeichenereignis(QString Meldung) : QEvent(Art), Meldung_(std::move(Meldung)) {}
+    const QString& Meldung() const { return Meldung_; }
+
+private:
+    QString Meldung_;
+};
+
+// A line to type in. What no record can hold does not enter, typed or pasted; the main window is told of it by a
+// `Zeichenereignis`.
 class Textfeld : public QLineEdit {
     Q_OBJECT
 public:

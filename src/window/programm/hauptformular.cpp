@@ -309,15 +309,6 @@ void Hauptformular::waehle_Fehlerzelle() {
 }
 
 // What a field tells of a character that it did not take. Actions of the menu tell with an empty text, too.
-bool Hauptformular::event(QEvent* e) {
-    if (e->type() != QEvent::StatusTip) return QMainWindow::event(e);
-    const QString Hinweis = static_cast<QStatusTipEvent*>(e)->tip();
-    if (Hinweis.isEmpty()) return true;
-    Programm_.fuehre_aus<&Zeichenmeldung::sage>(aus_Qt(Hinweis));
-    Schalter_->zeige();
-    return true;
-}
-
 void Hauptformular::closeEvent(QCloseEvent* e) {
     // What waits for the server ends first; then the window closes.
     if (Programm_.Stand().Aktualisierung_laeuft) {
@@ -336,8 +327,14 @@ void Hauptformular::closeEvent(QCloseEvent* e) {
 }
 
 bool Hauptformular::event(QEvent* e) {
-    if (e->type() != QEvent::StatusTip) return QMainWindow::event(e);
-    Schalter_->zeige_Handhabung(static_cast<QStatusTipEvent*>(e)->tip());
+    if (e->type() == QEvent::StatusTip) {
+        Schalter_->zeige_Handhabung(static_cast<QStatusTipEvent*>(e)->tip());
+    } else if (e->type() == Zeichenereignis::Art) {
+        Programm_.fuehre_aus<&Zeichenmeldung::sage>(aus_Qt(static_cast<Zeichenereignis*>(e)->Meldung()));
+        Schalter_->zeige();
+    } else {
+        return QMainWindow::event(e);
+    }
     return true;
 }
 

@@ -42,9 +42,8 @@ public:
     void erstelle_tooltips();
 
 protected:
-    bool event(QEvent* e) override;
     void closeEvent(QCloseEvent* e) override;
-    // What the control under the mouse can do, in the status line.
+    // What the control under the mouse can do, and what did not enter a field, in the status line.
     bool event(QEvent* e) override;
     void keyPressEvent(QKeyEvent* e) override;
     // While the server is waited for, nothing of what the user does counts but Esc and the close box.
