@@ -39,7 +39,7 @@ protected:
     }
     void stelle_wieder_her() {
         const auto Angebot = s_->zeige<Wiederherstellung>().Angebot();
-        if (!Angebot.empty()) s_->fuehre_aus<&Wiederherstellung::stelle_her>({Angebot.front()});
+        if (!Angebot.empty()) s_->fuehre_aus<&Wiederherstellung::stelle_her>(std::vector{Angebot.front()});
     }
 
     Jasager Fragen_;
@@ -82,11 +82,10 @@ TEST_F(Auftrag, Ohne_Ende) {
         s_->fuehre_aus<&Berichtssteuerung::erstelle>();
         s_->fuehre_aus<&Satzverwaltung::kopiere>(Szenario);
         s_->fuehre_aus<&Satzverwaltung::benenne_um>(Szenario, "work " + std::to_string(Zahl_ % 3), true);
-        s_->fuehre_aus<&Satzverwaltung::speichere>();
         s_->fuehre_aus<&Satzverwaltung::loesche>(Szenario);
-        s_->fuehre_aus<&Satzverwaltung::aktualisiere>();
         stelle_wieder_her();
-        s_->fuehre_aus<&Satzverwaltung::waehle_Simulation>(0);
+        // No record but those of this simulation is ever saved.
+        s_->fuehre_aus<&Satzverwaltung::waehle_Simulation>(z().Auswahl(Simulation));
     }
 }
 

@@ -126,7 +126,7 @@ TEST_F(Restoreprobe, two_states_of_one_record_are_refused_before_anything_is_wri
 TEST_F(Restoreprobe, no_backup_offers_nothing) {
     nur_geladen();
     EXPECT_TRUE(Angebot().empty());
-    s_->fuehre_aus<&Wiederherstellung::stelle_her>({});
+    s_->fuehre_aus<&Wiederherstellung::stelle_her>(std::vector<Gesichertes>{});
 }
 
 TEST_F(Restoreprobe, a_backup_full_of_links_offers_none_of_them) {
