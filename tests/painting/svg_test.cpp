@@ -192,7 +192,8 @@ TEST(PDF, a_curve_is_one_path) {
         const auto Anzahl = it.next().captured(1).count(u'L');
         if (Anzahl > 40) Stuecke.push_back(Anzahl);
     }
-    EXPECT_EQ(Stuecke, std::vector<qsizetype>{365});
+    ASSERT_EQ(Stuecke.size(), 1U);
+    EXPECT_NEAR(static_cast<double>(Stuecke[0]), 365, 1);  // days at one place on paper are one
 }
 
 }  // namespace
