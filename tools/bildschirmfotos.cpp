@@ -48,7 +48,7 @@ public:
         Ziel_.mkpath(u"."_s);
         kopiere_Projekt();
         Programm_ = std::make_unique<Sitzung>(Umgebung{&Fragen_, aus_Qt(Projekt_.path()), VARNOK_DATENORDNER, '.'});
-        if (!Programm_->oeffne_Projekt()) qFatal("the shipped data cannot be loaded");
+        if (!Programm_->fuehre_aus<&Programmablauf::oeffne_Projekt>()) qFatal("the shipped data cannot be loaded");
         Fenster_ = std::make_unique<Hauptformular>(*Programm_, &Fragen_);
         Fenster_->resize(1180, 760);
         Fenster_->show();

@@ -72,16 +72,15 @@ void schreibe_Mittelwerte(Zeilen& z, const Diagramm& d, const std::string& Einhe
     }
 }
 
-bool ist_leer(const std::vector<std::string>& Zeile) {
-    return std::all_of(Zeile.begin(), Zeile.end(), [](const std::string& t) { return ohne_Randblanks(t).empty(); });
-}
+// The spare row of a grid tells of no window.
+bool ist_Ersatzzeile(const std::vector<std::string>& Zeile) { return Zeile.empty() || ohne_Randblanks(Zeile.front()).empty(); }
 
 void schreibe_Tafel(Zeilen& z, const Datentafel& t) {
     z.beende();
     z.Feld(t.Titel);
     z.beende();
     for (std::size_t i = 0; i < t.Inhalt.size(); ++i) {
-        if (ist_leer(t.Inhalt[i])) continue;
+        if (ist_Ersatzzeile(t.Inhalt[i])) continue;
         for (std::size_t j = 0; j < t.Inhalt[i].size(); ++j) {
             const std::string Text(ohne_Randblanks(t.Inhalt[i][j]));
             if (i > 0 && j > 0) {

@@ -129,7 +129,11 @@ void Ergebnisbereich::fuelle_Tafeln(const Seite& s) {
             continue;
         }
         Tabellentext Tabelle = Ergebnisse_einer_Studie(Stand(), c);
-        if (!Ersatzzeile_) Tabelle.pop_back();
+        if (Ersatzzeile_) {
+            std::fill(Tabelle.back().begin(), Tabelle.back().end(), std::string());
+        } else {
+            Tabelle.pop_back();
+        }
         s.Diagramme[k]->Tafel()->zeige(Tabelle);
     }
 }

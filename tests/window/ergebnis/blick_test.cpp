@@ -139,6 +139,14 @@ private Q_SLOTS:
         QCOMPARE(Tafel->selectedItems().size(), 1);
     }
 
+    void the_spare_row_looks_empty() {
+        const auto* Tafel = p_->Teil<QTableWidget>("Ergebnisse_0");
+        const int letzte = Tafel->rowCount() - 1;
+        QCOMPARE(p_->Zelle("Ergebnisse_0", letzte - 1, 0).trimmed(), u"100 d"_s);
+        for (int j = 0; j < Tafel->columnCount(); ++j) QCOMPARE(p_->Zelle("Ergebnisse_0", letzte, j).trimmed(), QString());
+        QVERIFY(!QString::fromStdString(p_->Programm().zeige<Bildsteuerung>().Daten({})).contains(u"\r\n,"_s));
+    }
+
     void frames_cover_no_curve_where_a_place_is_free_data() {
         QTest::addColumn<QSize>("Groesse");
         for (const QSize& g : {QSize(900, 560), QSize(1180, 760), QSize(1440, 900)})
