@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <limits>
 
 #include "painting/farben.h"
 #include "painting/zeichner.h"
@@ -17,6 +18,30 @@ QPen Stift(int Farbe, double Breite, int Muster) {
     QPen s(Palettenfarbe(Farbe), Breite, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin);
     if (Muster != 0) s.setDashPattern(Strichmuster(Muster));
     return s;
+}
+
+// A curve whose x rises, without the points that stand no further than `Abstand` above or below the line between those left.
+QPolygonF vereinfacht(const QPolygonF& Kurve, double Abstand) {
+    constexpr double unbegrenzt = std::numeric_limits<double>::infinity();
+    QPolygonF Rest = {Kurve.front()};
+    // The slopes from the last point left that keep near all points behind it.
+    double flachste = -unbegrenzt;
+    double steilste = unbegrenzt;
+    const auto Steigung = [&](const QPointF& p, double Versatz) {
+        return (p.y() + Versatz - Rest.back().y()) / (p.x() - Rest.back().x());
+    };
+    for (qsizetype i = 1; i < Kurve.size(); ++i) {
+        const double s = Steigung(Kurve[i], 0);
+        if (s < flachste || s > steilste) {
+            Rest << Kurve[i - 1];
+            flachste = -unbegrenzt;
+            steilste = unbegrenzt;
+        }
+        flachste = std::max(flachste, Steigung(Kurve[i], -Abstand));
+        steilste = std::min(steilste, Steigung(Kurve[i], Abstand));
+    }
+    Rest << Kurve.back();
+    return Rest;
 }
 
 }  // namespace
@@ -70,17 +95,19 @@ void Linienmaler::male(const Kasten& k) {
 
 // The smoothing of one path of thousands of days takes many times longer than that of its parts. So it is painted strip by strip
 // of whole pixels: none is painted twice, and each has all of the path that reaches into it.
-void Linienmaler::male_Kurve(const Linienzug& Zug, const QPolygonF& Vieleck) {
-    constexpr int Streifen = 64;  // pixels
+void Linienmaler::male_Kurve(const Linienzug& Zug, const QPolygonF& Ganzes) {
+    constexpr int Streifen = 64;        // pixels
+    constexpr double unsichtbar = 0.1;  // pixels
     QPen s = Stift(Zug.Farbe, Zug.Breite, Zug.Muster);
     p_.setRenderHint(QPainter::Antialiasing);
     p_.setPen(s);
-    const bool steigt =
-        std::is_sorted(Vieleck.begin(), Vieleck.end(), [](const auto& a, const auto& b) { return a.x() < b.x(); });
-    if (!Pixel_ || !steigt || Vieleck.size() <= Streifen) {
-        p_.drawPolyline(Vieleck);
+    const bool steigt = std::adjacent_find(Ganzes.begin(), Ganzes.end(),
+                                           [](const auto& a, const auto& b) { return a.x() >= b.x(); }) == Ganzes.end();
+    if (!Pixel_ || !steigt || Ganzes.size() <= Streifen) {
+        p_.drawPolyline(Ganzes);
         return;
     }
+    const QPolygonF Vieleck = vereinfacht(Ganzes, unsichtbar / Geraet_.m22());
     std::vector<double> Laenge = {0};  // up to each point, for the dashes
     for (qsizetype i = 1; i < Vieleck.size(); ++i) Laenge.push_back(Laenge.back() + QLineF(Vieleck[i - 1], Vieleck[i]).length());
     const QTransform zurueck = Geraet_.inverted();

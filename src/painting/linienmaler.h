@@ -26,7 +26,7 @@ public:
     void male(const Kasten& k);
 
 private:
-    void male_Kurve(const Linienzug& Zug, const QPolygonF& Vieleck);
+    void male_Kurve(const Linienzug& Zug, const QPolygonF& Ganzes);
     // A stretch of whole pixels between two places, and the pixels of a line's width at a place.
     struct Pixel {
         int von;

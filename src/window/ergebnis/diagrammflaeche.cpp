@@ -96,9 +96,13 @@ void Diagrammflaeche::ordne() {
     Massstab_ = std::clamp(QFontInfo(font()).pixelSize() / gewohnte_Schrift, 1.0, 2.0);
     Bild_ = {};
     const double Zeile = Zeilenhoehe_Schild();
-    Kopf_ = 0;
+    if (!Inhalt_) Kopf_aus_ = {};
     if (Inhalt_) {
-        Kopf_ = bestimme_Kopf();
+        // Setting the lines tries many fonts, and most numbers change neither text.
+        if (std::tuple Neues(Inhalt_->Titel.Text, Inhalt_->Kommentar.Text, Groesse().width()); Kopf_aus_ != Neues) {
+            Kopf_aus_ = std::move(Neues);
+            Kopf_ = bestimme_Kopf();
+        }
         Liste_ = Inhalt_->Liste;
         Achsen_ = passe_an_Flaeche(Liste_, Groesse(), {Kopf_ + Zeile + Schildrand, Zeile + Schildrand});
     }

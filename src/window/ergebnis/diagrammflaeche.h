@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <string>
+#include <tuple>
 #include <utility>
 
 #include "diagrams/diagramm.h"
@@ -87,7 +89,8 @@ private:
     Koordinaten Achsen_;  // the rectangle between the axes
     Titelsatz Titelsatz_;
     Titelsatz Kommentarsatz_;
-    double Kopf_ = 0;  // units that both take
+    double Kopf_ = 0;                                        // units that both take
+    std::tuple<std::string, std::string, double> Kopf_aus_;  // the texts and the width that they were set for
     double Massstab_ = 1;
     QPixmap Bild_;
     std::array<QLabel*, 4> Schilder_{};
