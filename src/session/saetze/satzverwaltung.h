@@ -64,8 +64,8 @@ public:
     void beende_oder_stelle_her(const std::string& Text, bool beim_Start);
     // The same as `lade_Start`, and over it what a start before had left unsaved. True if all of that could be used.
     bool lade_Zwischenstand(const Zwischenstand& Stand);
-    // Values of a record that no file holds.
-    std::vector<Sicherungsstueck> Ungesichertes(Satzart Art) const { return Waechter_.Ungesichertes({Art}); }
+    // Values of a record that no file holds, and why they cannot be written where that is so.
+    Sicherungsgut Ungesichertes(Satzart Art) const { return Waechter_.Ungesichertes({Art}); }
     // Values that no file holds go into `backup`.
     void sichere_Ungesichertes(Sicherungsgut dazu = {});
     // Asks for each changed record whether to save; gives those with a Yes, nothing for "not now". Nothing is done yet.

@@ -71,7 +71,7 @@ private Q_SLOTS:
     void a_bad_download_at_the_start_leaves_the_window() {
         p_->Fenster().suche_beim_Start();
         Netz_->antworte(Seite("20180922"));
-        QCOMPARE(Fragen_.nimm().last(), u"Connection error: Varnok could not connect to the update server"_s);
+        QVERIFY(Fragen_.nimm().last().startsWith(u"Update not installed: The new version could not be downloaded"_s));
         QVERIFY(p_->Fenster().isVisible());
         QVERIFY(!QApplication::overrideCursor());
     }

@@ -7,8 +7,9 @@
 #include <QTextEdit>
 #include <QXmlStreamReader>
 
-#include "painting/bildausgabe.h"
+#include "painting/bildflaeche.h"
 #include "painting/qt_text.h"
+#include "painting/svg_schreiber.h"
 #include "records/satz.h"
 #include "records/simulation.h"
 #include "window/kern/anmeldung.h"
@@ -74,7 +75,7 @@ private Q_SLOTS:
 
     void an_svg_of_them_can_be_opened() {
         const Diagramm& d = *p_->Programm().zeige<Diagrammsteuerung>().vorderes();
-        const QByteArray SVG = Bild_als_SVG(mit_Beschriftung(d, std::nullopt), in_Qt(boese));
+        const QByteArray SVG = Bild_als_SVG(mit_Beschriftung(d), in_Qt(boese), QSizeF(700, 410));
         QXmlStreamReader Leser(SVG);
         QString Titel;
         while (!Leser.atEnd()) {
