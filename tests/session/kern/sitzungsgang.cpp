@@ -226,12 +226,12 @@ void Gang::pruefe_Zurueckgebrachtes(const Vorher& v, bool gewuenscht) {
         Fragen_.gefragt("Runtime error") || Fragen_.Bericht().find("Not all of the values") != std::string::npos;
     for (const Satzart Art : alle_Arten) {
         const std::string& Bild = v.Bilder[Art];
-        if (!v.Saetze[Art].gelesen || Bild.empty() || Bild == v.Saetze[Art].gespeichert) continue;
+        if (!v.Saetze[Art].gelesen() || Bild.empty() || Bild == v.Saetze[Art].gespeichert()) continue;
         if (!Projekt_.gesichert(Bild))
-            throw Verstoss{"unsaved values are lost with the program", Satzdatei(v.Saetze[Art].Datei.Name, Art)};
+            throw Verstoss{"unsaved values are lost with the program", Satzdatei(v.Saetze[Art].Datei().Name, Art)};
         const std::string jetzt = z().Speicherbild(Art);
         if (gewuenscht && !gestoert && jetzt != Bild && !gleiche_Zahlen(jetzt, Bild))
-            throw Verstoss{"unsaved values do not come back", Satzdatei(v.Saetze[Art].Datei.Name, Art)};
+            throw Verstoss{"unsaved values do not come back", Satzdatei(v.Saetze[Art].Datei().Name, Art)};
     }
 }
 
@@ -299,7 +299,7 @@ void Gang::pruefe_Dateien(const Aktionsart& a, const Vorher& v) {
         if (jetzt != nachher.end() && jetzt->second == Bytes) continue;
         if (!erlaubt) throw Verstoss{"file removed unasked", Name};
         const bool eigener_Stand = std::any_of(alle_Arten.begin(), alle_Arten.end(), [&](Satzart Art) {
-            const Dateistand& d = v.Saetze[Art].Datei;
+            const Dateistand& d = v.Saetze[Art].Datei();
             return jetzt != nachher.end() && Satzdatei(d.Name, Art) == Name && d.Bytes == Bytes;
         });
         // The organiser writes the summary file that it has read into its own lists.
@@ -318,7 +318,7 @@ void Gang::pruefe_Verworfenes(const Aktionsart& a, const Vorher& v, const Dateie
     const bool andere_Simulation = z().beendet || std::string(a.Name) == "simulation";
     for (const Satzart Art : alle_Arten) {
         const std::string& Bild = v.Bilder[Art];
-        if (!v.Saetze[Art].gelesen || Bild.empty() || Bild == v.Saetze[Art].gespeichert) continue;
+        if (!v.Saetze[Art].gelesen() || Bild.empty() || Bild == v.Saetze[Art].gespeichert()) continue;
         if (Art == Simulation && !andere_Simulation) continue;
         // A run repairs the texts of a table, not its numbers.
         const std::string jetzt = z().Speicherbild(Art);
@@ -327,9 +327,9 @@ void Gang::pruefe_Verworfenes(const Aktionsart& a, const Vorher& v, const Dateie
         if (Datei || Projekt_.gesichert(Bild)) continue;
         // The editor's and the organiser's own changes are what the user did there.
         const std::string Name = a.Name;
-        if (Name.starts_with("editor") && z().Saetze[Art].gelesen && z().Saetze[Art].Datei.Name == v.Saetze[Art].Datei.Name)
+        if (Name.starts_with("editor") && z().Saetze[Art].gelesen() && z().Saetze[Art].Datei().Name == v.Saetze[Art].Datei().Name)
             continue;
-        throw Verstoss{"unsaved values are dropped", Satzdatei(v.Saetze[Art].Datei.Name, Art)};
+        throw Verstoss{"unsaved values are dropped", Satzdatei(v.Saetze[Art].Datei().Name, Art)};
     }
 }
 
@@ -522,7 +522,7 @@ void Gang::pruefe_Sicherung() {
     if (gesagt || z().beendet || s_->zeige<Feldeingabe>().aktives_Feld() >= 0) return;
     const Dateien da = Projekt_.lies();
     for (const Satzart Art : alle_Arten) {
-        if (!z().Saetze[Art].gelesen) return;
+        if (!z().Saetze[Art].gelesen()) return;
         const auto Datei = da.find(Satzdatei(z().Namen[Art], Art));
         if (Datei == da.end() || Datei->second != z().Speicherbytes(Art))
             throw Verstoss{"a save has not written what is on the screen", Satzdatei(z().Namen[Art], Art)};
