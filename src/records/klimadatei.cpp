@@ -55,9 +55,10 @@ public:
         for (const auto& [Was, Wie_oft] : Gezaehlte_) {
             const auto& [Anzahl, letzte] = Wie_oft;
             if (Anzahl <= einzeln) continue;
-            const auto Spalte =
-                std::find_if(Aufteilung.begin(), Aufteilung.end(), [&](const Spalten& s) { return s.erste == Was.first; });
-            const std::string Meldung = Was.second + ", in " + std::to_string(Anzahl - einzeln) + " more lines down to this one";
+            const auto& [erste, Einwand] = Was;
+            const auto Spalte = std::find_if(Aufteilung.begin(), Aufteilung.end(),
+                                             [Stelle = erste](const Spalten& s) { return s.erste == Stelle; });
+            const std::string Meldung = Einwand + ", in " + std::to_string(Anzahl - einzeln) + " more lines down to this one";
             Ziel_->push_back({Datei_, letzte, std::string(Spalte->Grenzen.Name), Meldung, {}, {}});
         }
         std::stable_sort(Ziel_->begin(), Ziel_->end(), [](const Bemerkung& a, const Bemerkung& b) { return a.Zeile < b.Zeile; });
