@@ -34,7 +34,7 @@ cmp "$Ordner/1.csv" "$Ordner/alle.csv"
 for x in 1 2 alle; do sqlite3 "$Ordner/$x.db" .dump | sha256sum; done | sort -u | wc -l | grep -qx 1
 echo "one thread, two threads, four shards joined: the same summary and the same dump"
 
-for Ausgabe in csv summary sqlite; do
+for Ausgabe in csv json-lines sqlite summary; do
     for Anzahl in 2000 20000; do
         /usr/bin/time -f "$Anzahl variants, --$Ausgabe: %M KB" \
             "$Programm" --simulation "Potatoes, Compound C" --study 2 --sample "$Ordner/u.csv" --draws "$Anzahl" --jobs 2 \

@@ -192,6 +192,8 @@ TEST_F(Ziehungen, bad_line_is_told_with_row_and_column) {
     EXPECT_THAT(abgelehnt("Koc,discrete,none.csv,,,,\n"), HasSubstr("none.csv"));
     schreibe("-5,1\n", "d.csv");
     EXPECT_THAT(abgelehnt("Koc,discrete,d.csv,,,,\n"), HasSubstr("file d.csv, line 1: Koc: \"-5\" lies outside"));
+    schreibe("1e400\n5\n", "e.csv");
+    EXPECT_THAT(abgelehnt("Koc,empirical,e.csv,,,,\n"), HasSubstr("file e.csv, line 1: Koc: \"1e400\" is too large"));
     EXPECT_THAT(abgelehnt(""), HasSubstr("no line below the head"));
     Projekt.schreibe_Bytes("../../h.csv", "name,a\nKoc,1\n");
     EXPECT_THAT(rufe({"--sample", Projekt.daneben("h.csv"), "--draws", "1", Projekt.Pfad()}).fehler,

@@ -245,15 +245,18 @@ class Speicher(Probe):
 
     def spitze(self, anzahl, *ziele):
         datei = self.schreibe("u.csv", KOPF + "rate,uniform,100,200,,,\nKoc,lognormal,100,2,,,\n")
-        lauf = subprocess.Popen([PROGRAMM, "--simulation", "Programcheck", "--sample", datei, "--draws", str(anzahl), "--jobs", "2",
-                                 *ziele, self.projekt])
+        return self.spitze_von("--simulation", "Programcheck", "--sample", datei, "--draws", str(anzahl), "--jobs", "2", *ziele,
+                               self.projekt)
+
+    def spitze_von(self, *argumente):
+        lauf = subprocess.Popen([PROGRAMM, *argumente])
         self.addCleanup(lauf.kill)
         kilobyte = 0
         while lauf.poll() is None:
             for zeile in Path(f"/proc/{lauf.pid}/status").read_text().splitlines():
                 if zeile.startswith("VmHWM:"):
                     kilobyte = int(zeile.split()[1])
-            time.sleep(0.001)
+            time.sleep(0.005)
         self.assertEqual(lauf.returncode, 0)
         return kilobyte
 
@@ -271,6 +274,15 @@ class Speicher(Probe):
         erwartet = 8 * ergebnisse * 19000 / 1024
         self.assertGreater(viele - wenige, 0.8 * erwartet)  # else the measurement saw nothing
         self.assertLess(viele - wenige, erwartet + 0.1 * wenige)
+
+    def test_summary_of_parts_takes_hardly_more(self):
+        spitzen = []
+        for anzahl in (1000, 20000):
+            teil = self.ort / f"{anzahl}.csv"
+            self.spitze(anzahl, "--shard", "0/1", "--csv", teil)
+            spitzen.append(self.spitze_von("--csv", self.ort / "alle.csv", "--summary", self.ort / "s", "--merge", teil))
+        ergebnisse = len((self.ort / "s").read_text(encoding="utf-8").splitlines()) - 1
+        self.assertLess(spitzen[1] - spitzen[0], 1.2 * 8 * ergebnisse * 19000 / 1024 + 0.05 * spitzen[0])
 
 
 if __name__ == "__main__":
