@@ -22,9 +22,9 @@ rufe() {
     "$Programm" --simulation "Potatoes, Compound C" --study 2 --sample "$Ordner/u.csv" --draws "$1" "${@:2}" "$Ordner/projekt"
 }
 
-TIMEFORMAT='%R s, of the processor %U s'
+echo "load of the machine: $(cut -d' ' -f1 /proc/loadavg) on $(nproc) cores"
 for Arbeiter in 1 2; do
-    echo -n "10000 draws, $Arbeiter threads: "
+    TIMEFORMAT="10000 draws, summary and database, $Arbeiter threads: %R s, of the processor %U s"
     time rufe 10000 --jobs "$Arbeiter" --summary "$Ordner/$Arbeiter.csv" --sqlite "$Ordner/$Arbeiter.db"
 done
 for i in 0 1 2 3; do rufe 10000 --shard "$i/4" --sqlite "$Ordner/teil$i.db"; done
@@ -34,7 +34,7 @@ cmp "$Ordner/1.csv" "$Ordner/alle.csv"
 for x in 1 2 alle; do sqlite3 "$Ordner/$x.db" .dump | sha256sum; done | sort -u | wc -l | grep -qx 1
 echo "one thread, two threads, four shards joined: the same summary and the same dump"
 
-for Ausgabe in csv summary sqlite; do
+for Ausgabe in csv json-lines sqlite summary; do
     for Anzahl in 2000 20000; do
         /usr/bin/time -f "$Anzahl variants, --$Ausgabe: %M KB" \
             "$Programm" --simulation "Potatoes, Compound C" --study 2 --sample "$Ordner/u.csv" --draws "$Anzahl" --jobs 2 \

@@ -34,6 +34,8 @@ void Datenbank::betrete(const Simulationsergebnis& r) {
     Name_ = r.Name;
     beschrieben_ = false;
     Simulation_ = Ziel_.Simulation(u_.Projekt, r.Name);
+    // Of the variants in another part some may have been calculated.
+    if (!u_.geteilt || u_.Varianten == 0) Ziel_.vergiss_Beschreibung(Simulation_);
     if (u_.Varianten > 0 && !u_.geteilt) Ziel_.loesche_Varianten_ueber(Simulation_, static_cast<long long>(u_.Varianten));
 }
 

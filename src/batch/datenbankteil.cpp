@@ -99,7 +99,10 @@ public:
 private:
     long long betrete(Quelle& q, const Herkunft& h) {
         const long long Simulation = Ziel_.Simulation(h.Name.first, h.Name.second);
-        if (begonnene_.insert(h.Name).second && h.Variante) Ziel_.loesche_Varianten_ueber(Simulation, hoechste_Reihe_[h.Name]);
+        if (begonnene_.insert(h.Name).second) {
+            Ziel_.vergiss_Beschreibung(Simulation);
+            if (h.Variante) Ziel_.loesche_Varianten_ueber(Simulation, hoechste_Reihe_[h.Name]);
+        }
         q.Simulation.nimm(1, h.Simulation);
         // Without a program none of its variants could be calculated in this part.
         if (q.Simulation.zeile() && !q.Simulation.leer(5) && beschriebene_.insert(h.Name).second)
@@ -197,21 +200,28 @@ private:
     Kopieren kopiere_;
 };
 
+std::unique_ptr<Quelle> oeffne(const std::string& Datei) {
+    std::error_code unwichtig;
+    if (!std::filesystem::exists(Dateipfad(Datei), unwichtig)) throw Aufruffehler("--merge " + Datei + ": there is no such file");
+    try {
+        return std::make_unique<Quelle>(Datei);
+    } catch (const Laufzeitfehler& f) {
+        throw Aufruffehler("--merge " + Datei + ": this is no database of a call with --shard: " + f.what());
+    }
+}
+
 }  // namespace
+
+std::unique_ptr<Teilleser> Datenbankpositionen(const std::string& Datei) {
+    return std::make_unique<Datenbankteil>(oeffne(Datei), Teilwunsch(), nullptr);
+}
 
 Datenbankverbund::Datenbankverbund(const std::string& Ziel) : Werk_(std::make_unique<Kopierwerk>(Ziel)) {}
 
 Datenbankverbund::~Datenbankverbund() = default;
 
 std::unique_ptr<Teilleser> Datenbankverbund::Teil(const std::string& Datei, const Teilwunsch& w) {
-    std::error_code unwichtig;
-    if (!std::filesystem::exists(Dateipfad(Datei), unwichtig)) throw Aufruffehler("--merge " + Datei + ": there is no such file");
-    std::unique_ptr<Quelle> q;
-    try {
-        q = std::make_unique<Quelle>(Datei);
-    } catch (const Laufzeitfehler& f) {
-        throw Aufruffehler("--merge " + Datei + ": this is no database of a call with --shard: " + f.what());
-    }
+    std::unique_ptr<Quelle> q = oeffne(Datei);
     Werk_->merke_Varianten(*q);
     return std::make_unique<Datenbankteil>(
         std::move(q), w,

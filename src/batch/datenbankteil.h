@@ -7,6 +7,9 @@
 
 namespace varnok::batch {
 
+// The entries of a database of a shard, only to be looked through. Throws Aufruffehler for one without positions.
+std::unique_ptr<Teilleser> Datenbankpositionen(const std::string& Datei);
+
 // The database that others are joined into.
 class Datenbankverbund {
 public:

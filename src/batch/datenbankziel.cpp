@@ -116,6 +116,13 @@ long long Datenbankziel::Simulation(const std::string& Projekt, const std::strin
     return finde_oder(Suche_->Suchen, Suche_->Anlegen);
 }
 
+void Datenbankziel::vergiss_Beschreibung(long long Simulation) {
+    Anweisung& b = Zeilen_->Beschreiben;
+    b.nimm(1, Simulation);
+    for (int i = 2; i <= 8; ++i) b.nimm_nichts(i);
+    b.fuehre_aus();
+}
+
 long long Datenbankziel::Variante(long long Simulation, long long Reihe) {
     Suche_->Variante_suchen.nimm(1, Simulation).nimm(2, Reihe);
     Suche_->Variante.nimm(1, Simulation).nimm(2, Reihe);

@@ -31,6 +31,8 @@ public:
     // Numbers of what the tables hold; made where it is missing.
     long long Simulation(const std::string& Projekt, const std::string& Name);
     long long Variante(long long Simulation, long long Reihe);
+    // What an earlier call has written about it beside its name.
+    void vergiss_Beschreibung(long long Simulation);
 
     // What was there of the same simulation and variant goes; its values go with it.
     void loesche_Ergebnisse(long long Simulation, const Variantennummer& Variante);

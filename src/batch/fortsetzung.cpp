@@ -29,11 +29,20 @@ std::string_view Summe_der_Zeile(std::string_view Zeile) {
     return Zeile.substr(von, Zeile.find('"', von) - von);
 }
 
+// Whether the results of a line are those of the one study asked for, or of all.
+bool hat_Studien(std::string_view Zeile, const std::optional<int>& einzige, int alle) {
+    constexpr std::string_view Studienanfang = "{\"study\":";
+    int Anzahl = 0;
+    for (auto i = Zeile.find(Studienanfang); i != std::string_view::npos; i = Zeile.find(Studienanfang, i + 1)) ++Anzahl;
+    if (!einzige) return Anzahl == alle;
+    return Anzahl == 1 && Zeile.find(std::string(Studienanfang) + std::to_string(*einzige) + ",") != std::string_view::npos;
+}
+
 }  // namespace
 
 bool ist_Fehlerzeile(std::string_view Zeile) { return Zeile.find(",\"error\":") != std::string_view::npos; }
 
-Fortsetzung::Fortsetzung(const std::string& Datei, bool mit_Eingaben) : Datei_(Datei), mit_Eingaben_(mit_Eingaben) {
+Fortsetzung::Fortsetzung(const std::string& Datei, const Zeilenform& Form) : Datei_(Datei), Form_(Form) {
     std::error_code Fehler;
     if (std::filesystem::is_symlink(Dateipfad(Datei), Fehler))
         throw Aufruffehler("--resume " + Datei + ": this is a link, and a link is replaced");
@@ -50,6 +59,17 @@ bool Fortsetzung::lies_Zeile(std::string& Zeile) {
     ++Zeilennummer_;
     gelesene_Bytes_ += static_cast<std::int64_t>(Zeile.size()) + 1;
     return true;
+}
+
+std::string Fortsetzung::Unterschied(const std::string& Zeile, const Arbeitsstueck& s) const {
+    const std::string Position = ",\"position\":";
+    const bool hat_Position = Zeile.find(Position) != std::string::npos;
+    if (hat_Position != Form_.mit_Position) return hat_Position ? "has a position, as --shard gives it" : "has no position";
+    if (hat_Position && !Zeile.ends_with(Position + std::to_string(s.Position) + "}")) return "has another position";
+    if (ist_Fehlerzeile(Zeile)) return {};
+    const bool hat_Eingaben = Zeile.find(",\"inputs\":{") != std::string::npos;
+    if (hat_Eingaben != Form_.mit_Eingaben) return hat_Eingaben ? "holds the inputs" : "does not hold the inputs";
+    return hat_Studien(Zeile, Form_.Studie, s.Gelesenes->Vorgabe->Studienzahl()) ? "" : "is about another choice of studies";
 }
 
 void Fortsetzung::gleiche_ab(const Arbeitsstueck& s, const std::string& Summe) {
@@ -69,11 +89,8 @@ void Fortsetzung::gleiche_ab(const Arbeitsstueck& s, const std::string& Summe) {
         return;
     }
     if (alte != Summe) throw Aufruffehler(davor + wessen + " comes from other inputs (inputs_sha256 " + std::string(alte) + ")");
-    const bool hat_Eingaben = Zeile.find(",\"inputs\":{") != std::string::npos;
-    const bool gescheitert = ist_Fehlerzeile(Zeile);
-    if (!gescheitert && hat_Eingaben != mit_Eingaben_)
-        throw Aufruffehler(davor + (hat_Eingaben ? "the line holds the inputs" : "the line does not hold the inputs") +
-                           ", unlike those of this call");
+    if (const std::string was = Unterschied(Zeile, s); !was.empty())
+        throw Aufruffehler(davor + "the line " + was + ", unlike that of this call");
     if (Anfang_zu_Ende_) mit_Luecken_ = true;
     if (!Anfang_zu_Ende_) Bytes_am_Anfang_ = gelesene_Bytes_;
 }

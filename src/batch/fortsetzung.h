@@ -15,14 +15,21 @@ namespace varnok::batch {
 // Whether a line is that of a simulation that could not be calculated.
 bool ist_Fehlerzeile(std::string_view Zeile);
 
+// What lines of the call hold beside what their inputs decide.
+struct Zeilenform {
+    bool mit_Eingaben = false;
+    bool mit_Position = false;
+    std::optional<int> Studie;  // the only one, counted from 1
+};
+
 // Goes through the lines of the file in step with the work of the call.
 class Fortsetzung {
 public:
     // A file that is not there holds nothing. Throws Aufruffehler where it cannot be read, or is a link.
-    explicit Fortsetzung(const std::string& Datei, bool mit_Eingaben);
+    Fortsetzung(const std::string& Datei, const Zeilenform& Form);
 
     // Looks whether the next line is that of the piece of work. Throws Aufruffehler for a line of another simulation or variant,
-    // or of other inputs. `Summe` is that of the inputs, empty where it is not to be had.
+    // of other inputs, or of another form. `Summe` is that of the inputs, empty where it is not to be had.
     void gleiche_ab(const Arbeitsstueck& s, const std::string& Summe);
     // After the last piece of work: throws Aufruffehler where lines are left.
     void schliesse_Abgleich_ab();
@@ -39,9 +46,11 @@ public:
 
 private:
     bool lies_Zeile(std::string& Zeile);
+    // What sets the line apart from the one that this call would write, empty where nothing does.
+    std::string Unterschied(const std::string& Zeile, const Arbeitsstueck& s) const;
 
     std::string Datei_;
-    bool mit_Eingaben_;
+    Zeilenform Form_;
     std::ifstream Strom_;
     int Zeilennummer_ = 0;
     std::int64_t gelesene_Bytes_ = 0;

@@ -67,7 +67,8 @@ std::string Zusammenfassung::Kopfzeile() {
 
 void Zusammenfassung::lege_ab(const Kennwerte& k, int Art, double Tage, double Wert) {
     auto& Reihe = Reihen_[{k.Studie, k.Stoff, k.Endpunkt, k.Einheit, Art, Tage}];
-    if (Reihe.empty()) Reihe.reserve(Varianten_);
+    // Twice the room, as a list takes it by itself, would be half of it for nothing where their number is not known.
+    if (Reihe.size() == Reihe.capacity()) Reihe.reserve(std::max(Varianten_, Reihe.size() + Reihe.size() / 8 + 16));
     Reihe.push_back(Wert);
 }
 

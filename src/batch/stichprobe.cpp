@@ -111,7 +111,8 @@ private:
         p.b = Zahl(Zellen, Zeile, b);
         if (Anzahl > 2) p.c = Zahl(Zellen, Zeile, c);
         fordere_leer(Zellen, Zeile, a + static_cast<std::size_t>(Anzahl));
-        if (const std::string Einwand = Einwand_gegen(Zellen[Art], p); !Einwand.empty()) verwirf(Zeile, a, Einwand);
+        if (const auto Einwand = Einwand_gegen(Zellen[Art], p))
+            verwirf(Zeile, static_cast<Spalte>(a + static_cast<std::size_t>(Einwand->Parameter - 'a')), Einwand->Text);
         return stetige_Verteilung(Zellen[Art], p);
     }
 

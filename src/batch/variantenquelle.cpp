@@ -52,7 +52,8 @@ private:
             try {
                 nimm_Namen(lies_Namensbezug(Zellen_[j]), davor);
             } catch (const Laufzeitfehler& f) {
-                throw Aufruffehler(davor + f.what());
+                const bool anders_getrennt = Zellen_.size() == 1 && Zellen_[0].find_first_of(";\t") != std::string::npos;
+                throw Aufruffehler(davor + f.what() + (anders_getrennt ? "; commas stand between the names of a table" : ""));
             }
         }
     }

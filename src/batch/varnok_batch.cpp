@@ -184,7 +184,7 @@ struct Vorbereitung {
 };
 
 void gleiche_mit_Vorherigem_ab(const Aufruf& a, Vorbereitung& v) {
-    v.Vorheriges.emplace(a.Zeilendatei, a.mit_Eingaben);
+    v.Vorheriges.emplace(a.Zeilendatei, Zeilenform{a.mit_Eingaben, a.geteilt, a.Studie});
     Arbeitsliste Liste = v.Liste(a);
     Arbeitsplatz Platz;
     while (const auto s = Liste.naechstes()) {

@@ -157,7 +157,16 @@ bool verbinde_CSV(const Aufruf& a, const Textziel::Standardausgabe& aus, const T
     return false;  // a table does not tell of errors
 }
 
+// A database takes the rows as they come, so the parts have to be a whole before the first of them.
+void pruefe_Datenbanken(const Aufruf& a) {
+    Reihenfolge Alle;
+    for (const std::string& Datei : a.Teildateien) Alle.nimm(Datenbankpositionen(Datei), Datei);
+    while (Alle.naechster()) continue;
+    fordere_alle(Alle.Anzahl(), Alle.Ende());
+}
+
 bool verbinde_Datenbanken(const Aufruf& a, const Textziel::Standardausgabe& aus, const Teilwunsch& w) {
+    pruefe_Datenbanken(a);
     Perzentile Summe(a, aus);
     Datenbankverbund Verbund(a.Datenbank);
     Reihenfolge Alle;
@@ -168,7 +177,6 @@ bool verbinde_Datenbanken(const Aufruf& a, const Textziel::Standardausgabe& aus,
         Summe.nimm(*t);
         gescheitert = gescheitert || t->gescheitert;
     }
-    fordere_alle(Alle.Anzahl(), Alle.Ende());
     Verbund.beende();
     Summe.beende();
     return gescheitert;

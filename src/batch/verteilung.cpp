@@ -1,6 +1,7 @@
 #include "batch/verteilung.h"
 
 #include <algorithm>
+#include <array>
 #include <boost/math/distributions/lognormal.hpp>
 #include <boost/math/distributions/normal.hpp>
 #include <boost/math/distributions/triangular.hpp>
@@ -40,24 +41,36 @@ std::unique_ptr<Verteilung> mache(const Art& d) {
     return std::make_unique<Stetige<Art>>(d);
 }
 
+struct Bedingung {
+    Parametereinwand sonst;
+    bool (*gilt)(const Parameter_abc&);
+};
+
 struct Eintrag {
     const char* Name;
     int Parameter;
-    const char* Einwand;
-    bool (*gilt)(const Parameter_abc&);
+    std::array<Bedingung, 2> Bedingungen;  // the rest without a condition
     std::unique_ptr<Verteilung> (*mache)(const Parameter_abc&);
 };
 
 const Eintrag Stetige_Verteilungen[] = {
-    {"normal", 2, "the deviation b must be above 0", [](const Parameter_abc& p) { return p.b > 0; },
+    {"normal",
+     2,
+     {{{{'b', "the deviation b must be above 0"}, [](const Parameter_abc& p) { return p.b > 0; }}}},
      [](const Parameter_abc& p) { return mache(Normal(p.a, p.b)); }},
-    {"lognormal", 2, "the median a must be above 0 and the factor b above 1",
-     [](const Parameter_abc& p) { return p.a > 0 && p.b > 1; },
+    {"lognormal",
+     2,
+     {{{{'a', "the median a must be above 0"}, [](const Parameter_abc& p) { return p.a > 0; }},
+       {{'b', "the factor b must be above 1"}, [](const Parameter_abc& p) { return p.b > 1; }}}},
      [](const Parameter_abc& p) { return mache(Lognormal(std::log(p.a), std::log(p.b))); }},
-    {"uniform", 2, "a must be below b", [](const Parameter_abc& p) { return p.a < p.b; },
+    {"uniform",
+     2,
+     {{{{'b', "a must be below b"}, [](const Parameter_abc& p) { return p.a < p.b; }}}},
      [](const Parameter_abc& p) { return mache(Gleich(p.a, p.b)); }},
-    {"triangular", 3, "the mode b must lie from a to c, and a below c",
-     [](const Parameter_abc& p) { return p.a <= p.b && p.b <= p.c && p.a < p.c; },
+    {"triangular",
+     3,
+     {{{{'c', "a must be below c"}, [](const Parameter_abc& p) { return p.a < p.c; }},
+       {{'b', "the mode b must lie from a to c"}, [](const Parameter_abc& p) { return p.a <= p.b && p.b <= p.c; }}}},
      [](const Parameter_abc& p) { return mache(Dreieck(p.a, p.b, p.c)); }},
 };
 
@@ -94,9 +107,13 @@ private:
 
 }  // namespace
 
-std::string Einwand_gegen(const std::string& Name, const Parameter_abc& p) {
+std::optional<Parametereinwand> Einwand_gegen(const std::string& Name, const Parameter_abc& p) {
     const Eintrag* x = finde(Name);
-    return x == nullptr || x->gilt(p) ? std::string() : x->Einwand;
+    if (x == nullptr) return std::nullopt;
+    for (const Bedingung& b : x->Bedingungen) {
+        if (b.gilt != nullptr && !b.gilt(p)) return b.sonst;
+    }
+    return std::nullopt;
 }
 
 std::unique_ptr<Verteilung> stetige_Verteilung(const std::string& Name, const Parameter_abc& p) {

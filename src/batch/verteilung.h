@@ -3,6 +3,7 @@
 // Distributions of inputs, turned from a probability into a value.
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -26,8 +27,14 @@ struct Parameter_abc {
     double c = 0;
 };
 
-// Empty where the parameters make a distribution of that name, else what is wrong with them.
-std::string Einwand_gegen(const std::string& Name, const Parameter_abc& p);
+// What is wrong with one of them.
+struct Parametereinwand {
+    char Parameter;  // 'a', 'b' or 'c'
+    const char* Text;
+};
+
+// Nothing where the parameters make a distribution of that name.
+std::optional<Parametereinwand> Einwand_gegen(const std::string& Name, const Parameter_abc& p);
 // Null for a name that is none of a continuous distribution: normal (mean, deviation), lognormal (median, factor), uniform (from,
 // to), triangular (from, mode, to).
 std::unique_ptr<Verteilung> stetige_Verteilung(const std::string& Name, const Parameter_abc& p);

@@ -250,6 +250,7 @@ Eingabewert lies_Eingabewert(const Namensbezug& b, std::string_view Text, const 
     if (b.Name->ist_Wort()) return lies_Wort(b, Kern);
     const Zahllesung z = lies_Zahl(Kern);
     if (!z.ganz()) verwirf(b.Text, "\"" + std::string(Kern) + "\" is not one number");
+    if (!std::isfinite(z.Zahl)) verwirf(b.Text, "\"" + std::string(Kern) + "\" is too large a number");
     Eingabewert w = als_Eingabewert(z.Zahl);
     if (!nimmt_an(*b.Name, w.Zahl)) {
         const std::string Einheit = b.Name->Einheit.empty() ? "" : " " + std::string(b.Name->Einheit);

@@ -60,7 +60,7 @@ public:
 private:
     class Verzeichnis;
 
-    std::shared_ptr<const Verzeichnis> Eingabeverzeichnis() const;
+    const Verzeichnis& Eingabeverzeichnis(std::unique_ptr<const Verzeichnis>& frisches) const;
 
     std::string Pfad_;
     std::shared_ptr<const Verzeichnis> gelesenes_;  // null: read anew each time

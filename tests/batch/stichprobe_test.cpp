@@ -137,6 +137,31 @@ TEST_F(Ziehungen, rank_correlation_is_the_one_asked_for) {
     EXPECT_EQ(Raenge(ganz[0]), Raenge(ganz[1]));
 }
 
+double Phi(double z) { return std::erfc(-z / std::sqrt(2.0)) / 2; }
+
+double Normalpunkt(double u) {
+    double unten = -40, oben = 40;
+    for (int i = 0; i < 200; ++i) (Phi((unten + oben) / 2) < u ? unten : oben) = (unten + oben) / 2;
+    return unten;
+}
+
+// A value outside its range takes the next number of the same stream, and what goes along with it the score that was accepted.
+TEST_F(Ziehungen, score_passed_on_is_that_of_the_accepted_draw) {
+    const auto Werte = gezogen("interception,normal,95,10,,,\nKoc,uniform,10,30,,interception,0.5\n", 200, 7);
+    const double r = 2 * std::sin(std::acos(-1.0) / 6 * 0.5);
+    int verworfene = 0;
+    for (std::uint32_t i = 1; i <= 200; ++i) {
+        std::seed_seq Saat{7U, i};
+        std::mt19937_64 Generator(Saat);
+        const auto Punkt = [&] { return Normalpunkt((static_cast<double>(Generator() >> 12) + 0.5) / std::pow(2.0, 52)); };
+        double erster = Punkt();
+        for (; 95 + 10 * erster >= 100 || 95 + 10 * erster < 0; ++verworfene) erster = Punkt();
+        EXPECT_NEAR(Werte[0][i - 1], 95 + 10 * erster, 1e-6);
+        EXPECT_NEAR(Werte[1][i - 1], 10 + 20 * Phi(r * erster + std::sqrt(1 - r * r) * Punkt()), 1e-6);
+    }
+    EXPECT_GT(verworfene, 20);
+}
+
 TEST_F(Ziehungen, lists_give_their_values_with_their_weights) {
     constexpr std::size_t n = 20000;
     schreibe("value,weight\n30,1\n10,3\n", "d.csv");
@@ -151,7 +176,7 @@ TEST_F(Ziehungen, lists_give_their_values_with_their_weights) {
 }
 
 TEST_F(Ziehungen, bad_line_is_told_with_row_and_column) {
-    EXPECT_THAT(abgelehnt("Koc,normal,100,0,,,\n"), HasSubstr("row 1 (line 2), column a: the deviation b must be above 0"));
+    EXPECT_THAT(abgelehnt("Koc,normal,100,0,,,\n"), HasSubstr("row 1 (line 2), column b: the deviation b must be above 0"));
     EXPECT_THAT(abgelehnt("rate,uniform,1,2,,,\nKoc,normal,ten,0,,,\n"), HasSubstr("row 2 (line 3), column a: \"ten\""));
     EXPECT_THAT(abgelehnt("Koc,weibull,1,2,,,\n"), HasSubstr("column distribution: \"weibull\""));
     EXPECT_THAT(abgelehnt("Koc,lognormal,0,2,,,\n"), HasSubstr("median"));
@@ -167,6 +192,8 @@ TEST_F(Ziehungen, bad_line_is_told_with_row_and_column) {
     EXPECT_THAT(abgelehnt("Koc,discrete,none.csv,,,,\n"), HasSubstr("none.csv"));
     schreibe("-5,1\n", "d.csv");
     EXPECT_THAT(abgelehnt("Koc,discrete,d.csv,,,,\n"), HasSubstr("file d.csv, line 1: Koc: \"-5\" lies outside"));
+    schreibe("1e400\n5\n", "e.csv");
+    EXPECT_THAT(abgelehnt("Koc,empirical,e.csv,,,,\n"), HasSubstr("file e.csv, line 1: Koc: \"1e400\" is too large"));
     EXPECT_THAT(abgelehnt(""), HasSubstr("no line below the head"));
     Projekt.schreibe_Bytes("../../h.csv", "name,a\nKoc,1\n");
     EXPECT_THAT(rufe({"--sample", Projekt.daneben("h.csv"), "--draws", "1", Projekt.Pfad()}).fehler,

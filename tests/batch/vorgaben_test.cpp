@@ -127,6 +127,9 @@ TEST_F(Vorgaben, what_cannot_be_taken_is_told_with_the_option_before_anything_ru
     EXPECT_THAT(gesetzt("rate=0"), HasSubstr("above 0"));
     EXPECT_THAT(gesetzt("rate=1.250,5"), HasSubstr("is not one number"));
     EXPECT_THAT(gesetzt("rate=12abc"), HasSubstr("is not one number"));
+    EXPECT_THAT(gesetzt("DT50=1e400"), HasSubstr("\"1e400\" is too large a number"));
+    EXPECT_THAT(gesetzt("DT50=1e-400"), HasSubstr("is not one number"));
+    EXPECT_THAT(gesetzt("Koc=1.7976931348623157e308"), HasSubstr("outside its range"));  // rounds to more than there is
     EXPECT_THAT(gesetzt("rate="), HasSubstr("no value is given"));
     EXPECT_THAT(gesetzt("rate"), HasSubstr("NAME=VALUE"));
     EXPECT_THAT(gesetzt("halflife=5"), HasSubstr("--help-names"));
@@ -229,6 +232,7 @@ TEST_F(Vorgaben, bad_table_is_told) {
     EXPECT_THAT(Meldung("rate\n"), HasSubstr("no line below the names"));
     EXPECT_THAT(Meldung("rate,rate\n1,2\n"), HasSubstr("stands here twice"));
     EXPECT_THAT(Meldung("rate,halflife\n1,2\n"), HasSubstr("line 1, column 2: halflife"));
+    EXPECT_THAT(Meldung("rate;Koc\n1;2\n"), HasSubstr("commas stand between the names"));
     EXPECT_THAT(Meldung("tillage_depth\n30\n4\n"), HasSubstr("row 2, simulation \"s\": tillage_depth"));
     EXPECT_THAT(abgelehnt({"--vary", Projekt.daneben("nowhere.csv")}), HasSubstr("cannot be read"));
     EXPECT_THAT(abgelehnt({"--vary", Projekt.Pfad()}), HasSubstr("it is a folder"));
