@@ -34,7 +34,7 @@ constexpr Zeile Zeilen[] = {
     {"Aktualisieren", "F5: calculate, and read what was not read yet"},
     {"speichern", "Ctrl+S: save all input data"},
     {"Bericht_erstellen", "Ctrl+R: report of the view on the screen"},
-    {"Ende", "Ctrl+Q: save and end"},
+    {"Ende", "Ctrl+Q: end the program"},
     {"Bemerkungszahl", "F8: what is doubtful in the files that were read"},
 };
 
