@@ -24,6 +24,7 @@
 #include "session/saetze/satzverwaltung.h"
 #include "session/saetze/studienverwaltung.h"
 #include "session/saetze/szenarioeditor.h"
+#include "session/saetze/wiederherstellung.h"
 #include "session/saetze/zwischensicherung.h"
 
 namespace varnok {
@@ -154,6 +155,9 @@ constexpr Ablauf Ablauf_von(Tat<&Aktualisierungssteuerung::melde>) { return {Weg
 
 // Comes behind an action, when that has been drawn.
 constexpr Ablauf Ablauf_von(Tat<&Zwischensicherung::schreibe>) { return {Weg::Zwischenschritt}; }
+constexpr Ablauf Ablauf_von(Tat<&Aktualisierungssteuerung::halte_an>) { return {Weg::Zwischenschritt}; }
+
+constexpr Ablauf Ablauf_von(Tat<&Wiederherstellung::stelle_her>) { return {Weg::Befehl}; }
 
 constexpr Ablauf Ablauf_von(Tat<&Projektoeffnung::oeffne>) { return {Weg::Rechenbefehl}; }
 constexpr Ablauf Ablauf_von(Tat<&Projektoeffnung::merke>) { return {Weg::Zwischenschritt}; }

@@ -107,8 +107,8 @@ void Projektoeffnung::merke() {
         stelle_voran(Zeilen, Projektzeile, z_.Ordner->Pfad());
         std::string Text;
         for (const std::string& Zeile : Zeilen) Text += Zeile + '\n';
-        QDir().mkpath(QFileInfo(in_Qt(Datei)).path());
-        schreibe_Datei(Datei, Text);
+        lege_Ordner_an(aus_Qt(QFileInfo(in_Qt(Datei)).path()));
+        schreibe_Datei(Datei, Text, als_Datei);
     } catch (const Laufzeitfehler&) {
         return;
     }

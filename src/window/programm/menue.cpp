@@ -56,6 +56,7 @@ constexpr auto Befehle = std::to_array<Befehlszeile>({
     {Datei, u"M_Neues_Szenario", u"&New Scenario", befiehl<&Satzverwaltung::lege_an, Szenario>},
     {Datei, u"M_Laden", u"&Load simulation", nullptr, u"", true},
     {Datei, u"M_Defaults", u"&Load program defaults", befiehl<&Satzverwaltung::lade_Voreinstellungen>},
+    {Datei, u"M_Wiederherstellen", u"&Restore..."},
     {Datei, u"M_Projekt", u"&Open project...", nullptr, u"Ctrl+O", true},
     {Datei, u"M_Drucken", u"&Print", nullptr, u"", true},
     {Datei, u"M_Speichern", u"&Save all input data", befiehl<&Satzverwaltung::speichere>, u"Ctrl+S"},

@@ -19,7 +19,7 @@ Projektmenue::Projektmenue(Sitzung& Programm, QMainWindow& Fenster) : QObject(&F
     connect(Projekt, &QAction::triggered, this, &Projektmenue::waehle_Ordner);
     const QList<QAction*> Aktionen = Datei->actions();
     QAction* danach = Aktionen.value(Aktionen.indexOf(Projekt) + 1);
-    Datei->insertMenu(danach, erstelle_Liste(u"M_letzte_Projekte"_s, u"&Recent projects"_s, &Projektoeffnung::Projekte));
+    Datei->insertMenu(danach, erstelle_Liste(u"M_letzte_Projekte"_s, u"Recent pro&jects"_s, &Projektoeffnung::Projekte));
     Datei->insertMenu(danach,
                       erstelle_Liste(u"M_letzte_Simulationen"_s, u"Recent si&mulations"_s, &Projektoeffnung::Simulationen));
     connect(new Dateiablage(Fenster), &Dateiablage::abgelegt, this, &Projektmenue::oeffne);
