@@ -5,7 +5,11 @@ set(Kennung org.varnok.varnok)
 
 # The programs look for their data here, relative to their own place.
 install(DIRECTORY data/ DESTINATION ${CMAKE_INSTALL_DATADIR}/varnok)
-install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DATADIR}/varnok)
+install(FILES LICENSE README.md DESTINATION ${CMAKE_INSTALL_DATADIR}/varnok)
+# The help shows them, so they are data: documentation may be left out of an installation.
+file(GLOB Seiten CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/docs/*.md)
+install(FILES ${Seiten} DESTINATION ${CMAKE_INSTALL_DATADIR}/varnok/docs)
+install(FILES docs/bilder/single_parent_only_1180.png DESTINATION ${CMAKE_INSTALL_DATADIR}/varnok/docs/bilder)
 
 install(FILES ${Paket}/${Kennung}.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES ${Paket}/${Kennung}.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
@@ -13,10 +17,11 @@ install(FILES ${Paket}/varnok.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/pack
 install(FILES src/window/kern/bilder/varnok.svg
     DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps RENAME ${Kennung}.svg)
 
-file(GLOB Seiten CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/docs/*.md)
-list(FILTER Seiten EXCLUDE REGEX "/(architecture|performance)\\.md$")  # for those who build it
-install(FILES README.md ${Seiten} ${Paket}/copyright DESTINATION ${CMAKE_INSTALL_DOCDIR})
-install(FILES docs/bilder/single_parent_only_1180.png DESTINATION ${CMAKE_INSTALL_DOCDIR}/docs/bilder)
+install(FILES ${Paket}/copyright DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(CODE "
+    foreach(Name README.md docs)
+        file(CREATE_LINK ../../varnok/\${Name} \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_DOCDIR}/\${Name}\" SYMBOLIC)
+    endforeach()")
 
 # Manual pages and the list of changes lie compressed, without a time stamp.
 function(installiere_gepackt Quelle Name Ziel)

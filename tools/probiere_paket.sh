@@ -29,7 +29,8 @@ mount --bind /dev "$System/dev"
 drin() { chroot "$System" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/root LC_ALL=C.UTF-8 DEBIAN_FRONTEND=noninteractive "$@"; }
 # What a computer of a user has before, and what works the window.
 drin apt-get install -y --no-install-recommends xvfb xauth openbox xdotool libglib2.0-bin x11-apps procps >/dev/null
-drin useradd -m nutzer 2>/dev/null || true
+drin userdel -r nutzer >/dev/null 2>&1 || true
+drin useradd -m nutzer
 cp "$Paket" "$System/tmp/paket.deb"
 drin apt-get satisfy -y --no-install-recommends "$(dpkg-deb -f "$Paket" Depends)" >/dev/null
 
@@ -43,7 +44,7 @@ Dateien >"$System.vorher"
 drin dpkg -i /tmp/paket.deb >/dev/null
 cat >"$System/home/nutzer/sitzung.sh" <<'INNEN'
 set -euo pipefail
-fehler() { echo "session: $*" >&2; exit 1; }
+fehler() { xwd -root -silent >"$HOME/bild.xwd"; echo "session: $*" >&2; exit 1; }
 warte() {
     local i
     for ((i = 0; i < 300; ++i)); do "$@" && return; sleep 0.1; done
@@ -59,12 +60,26 @@ gio launch /usr/share/applications/org.varnok.varnok.desktop
 warte ist_da
 sleep 1
 taste space
+# Tab walks to the first numeric field, which is yellow while it is worked on: the DT50 of the start simulation.
+gelbe_Paare() { xwd -root -silent | od -An -v -tx1 -w5600 | grep -oE '00 ff ff ((00|ff) )?00 ff ff' | wc -l || true; }
+for ((i = 0; i < 40; ++i)); do
+    taste Tab
+    (($(gelbe_Paare) > 100)) && break
+done
+((i < 40)) || fehler 'Tab comes to no field'
+taste ctrl+a
+xdotool type --clearmodifiers 17
+taste Tab
+taste ctrl+s
+hat_neuen_Wert() { grep -qa $'^SFO k (1/d):\t0.0407733635623497\t' "$HOME/Documents/VARNOK/input/Programcheck.che"; }  # ln(2)/17
+warte hat_neuen_Wert
 taste ctrl+r
 warte hat_Bericht
 xwd -root -silent >"$HOME/bild.xwd"
 taste Escape
 taste ctrl+q
 warte ist_weg
+grep -qa 17 "$HOME"/Documents/VARNOK/output/*.rtf || fehler 'the report does not tell the new value'
 varnok-batch --all --csv "$HOME/ergebnisse.csv" "$HOME/Documents/VARNOK"
 varnok-batch --report "$HOME/berichte" "$HOME/Documents/VARNOK"
 compgen -G "$HOME/berichte/*.rtf" >/dev/null || fehler 'no report of the batch program'

@@ -1,13 +1,10 @@
 #include "extras/versionstexte.h"
 
-#include "base/programm.h"
-
 namespace varnok {
 namespace {
 
 constexpr std::string_view Trennzeile = "----------------------------------------";
 constexpr std::string_view Kopf_Version = "Version 2.0 (";
-constexpr std::string_view Kopf_Ausgabe = "This edition, version ";
 
 // The notes keep the wording that they were published with, slips included.
 const std::vector<Version>& alle_Versionen() {
@@ -62,6 +59,7 @@ const std::vector<std::vector<const char*>>& Notizen_der_Ausgabe() {
         {"The program runs on Linux; varnok-batch makes the same calculations without a window."},
         {"Diagrams can be read with the mouse, copied, and saved as PNG, SVG and PDF; reports can be saved as PDF."},
         {"Numbers may be typed with a decimal point or a decimal comma."},
+        {"Other projects and what was open last are in the menu \"File\"; F1 explains the field in focus."},
         {"A fault in a file is told with the name of the file, and what was entered stays.",
          "Files are replaced in one step: when saving fails the old file is still there."},
     };
@@ -90,13 +88,20 @@ std::string Versionstext() {
         fuege_an(Text, std::string(Kopf_Version) + v.Datum + ")");
         fuege_an(Text, v.Notizen);
     }
-    fuege_an(Text, "");
-    fuege_an(Text, std::string(Kopf_Ausgabe) + Programmversion);
-    fuege_an(Text, Notizen_der_Ausgabe());
     return Text;
 }
 
-bool ist_Versionskopf(std::string_view Zeile) { return Zeile.starts_with(Kopf_Version) || Zeile.starts_with(Kopf_Ausgabe); }
+std::vector<std::string> Ausgabenotizen() {
+    std::vector<std::string> Notizen;
+    for (const auto& Notiz : Notizen_der_Ausgabe()) {
+        std::string Text;
+        for (const char* Zeile : Notiz) Text += (Text.empty() ? "" : " ") + std::string(Zeile);
+        Notizen.push_back(Text);
+    }
+    return Notizen;
+}
+
+bool ist_Versionskopf(std::string_view Zeile) { return Zeile.starts_with(Kopf_Version); }
 
 bool ist_Trennzeile(std::string_view Zeile) { return Zeile == Trennzeile; }
 

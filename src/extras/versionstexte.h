@@ -16,9 +16,12 @@ struct Version {
 // The newest first.
 std::span<const Version> Versionen();
 
-// The release notes, each line ended by CR LF: a heading for each release, a separator behind each note; after the releases,
-// set off by an empty line, what is new in this edition of the program.
+// The release notes, each line ended by CR LF: a heading for each release, a separator behind each note. The heading of the
+// oldest ends the text.
 std::string Versionstext();
+
+// What is new in this edition of the program.
+std::vector<std::string> Ausgabenotizen();
 
 // Whether a line of that text is a heading, or a separator.
 bool ist_Versionskopf(std::string_view Zeile);

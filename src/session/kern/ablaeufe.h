@@ -17,6 +17,7 @@
 #include "session/programm/hilfetexte.h"
 #include "session/programm/optionensteuerung.h"
 #include "session/programm/programmablauf.h"
+#include "session/programm/projektoeffnung.h"
 #include "session/saetze/beschreibungseingabe.h"
 #include "session/saetze/eingabedateien.h"
 #include "session/saetze/organiser.h"
@@ -157,6 +158,9 @@ constexpr Ablauf Ablauf_von(Tat<&Zwischensicherung::schreibe>) { return {Weg::Zw
 constexpr Ablauf Ablauf_von(Tat<&Aktualisierungssteuerung::halte_an>) { return {Weg::Zwischenschritt}; }
 
 constexpr Ablauf Ablauf_von(Tat<&Wiederherstellung::stelle_her>) { return {Weg::Befehl}; }
+
+constexpr Ablauf Ablauf_von(Tat<&Projektoeffnung::oeffne>) { return {Weg::Rechenbefehl}; }
+constexpr Ablauf Ablauf_von(Tat<&Projektoeffnung::merke>) { return {Weg::Zwischenschritt}; }
 
 constexpr Ablauf Ablauf_von(Tat<&Programmablauf::oeffne_Projekt>) { return {Weg::Handlung}; }
 constexpr Ablauf Ablauf_von(Tat<&Programmablauf::starte>) { return {Weg::Handlung}; }

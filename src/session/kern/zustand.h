@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -32,6 +33,9 @@ struct Umgebung {
     // A call that named its project: a project path among the settings does not lead away from it.
     bool Projekt_genannt = false;
     std::string erste_Simulation = {};  // to begin with in place of the newest
+    // Starts the program once more, on a project folder or a summary file.
+    std::function<bool(const std::string&)> weiteres_Fenster = {};
+    std::string zuletzt_Datei = {};  // keeps what the user opened last; without a name nothing is kept
 };
 
 // A cell of the table of applications, row and column counted from 0.

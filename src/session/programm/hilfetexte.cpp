@@ -3,6 +3,7 @@
 #include "extras/programmangaben.h"
 #include "extras/tooltipdatei.h"
 #include "session/kern/texte.h"
+#include "session/programm/feldhilfe.h"
 
 namespace varnok {
 
@@ -15,6 +16,15 @@ std::vector<std::string> Hilfetexte::Tooltips() {
     return t.Texte;
 }
 
-std::string Hilfetexte::Programmangaben() const { return lies_Programmangaben(z_.Welt.installierte_Daten); }
+std::string Hilfetexte::Programmangaben() const {
+    const std::string& Daten = z_.Welt.installierte_Daten;
+    return lies_Programmangaben(Daten) + Lizenzangaben(Daten);
+}
+
+std::string Hilfetexte::Feldhilfe(const std::vector<std::string>& Objektnamen, const std::string& Aufschrift) const {
+    const std::string& Daten = z_.Welt.installierte_Daten;
+    return varnok::Feldhilfe(
+        {Objektnamen, Aufschrift, lies_Tooltips({z_.Projektpfad, z_.Welt.Programmpfad, Daten}).Texte, Daten});
+}
 
 }  // namespace varnok

@@ -28,6 +28,8 @@ std::optional<Einstellungen> lies_Einstellungen(Zustand& z) {
 bool lade_Einstellungen(Zustand& z) {
     const auto gelesen = lies_Einstellungen(z);
     z.Einstellung = gelesen.value_or(Einstellungen{});
+    // Who starts for the first time learns from the tips.
+    if (!lies_Datei_falls_moeglich(Einstellungspfad(z))) z.Einstellung.Tips_anzeigen = 1;
     const bool hier = z.Welt.Projekt_genannt || z.Einstellung.Projektpfad.empty();
     z.Projektpfad = hier ? z.Welt.Programmpfad : z.Einstellung.Projektpfad;
     z.Parameter().TWA = z.Einstellung.TWA;

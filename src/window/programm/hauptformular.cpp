@@ -31,9 +31,11 @@
 #include "window/kern/bilder.h"
 #include "window/kern/ctooltip.h"
 #include "window/kern/fensterfrage.h"
+#include "window/programm/hilfesteuerung.h"
 #include "window/programm/intro.h"
 #include "window/programm/menue.h"
 #include "window/programm/optionen.h"
+#include "window/programm/projektmenue.h"
 #include "window/programm/schalterrahmen.h"
 #include "window/programm/textfenster.h"
 #include "window/programm/tooltips.h"
@@ -77,6 +79,10 @@ Hauptformular::Hauptformular(Sitzung& Programm, Fensterfrage* Fragen, const QStr
     connect(findChild<QAction*>(u"M_Versionsinfo"_s), &QAction::triggered, this, &Hauptformular::zeige_Versionsinfo);
     connect(findChild<QAction*>(u"M_Laden"_s), &QAction::triggered, this, &Hauptformular::oeffne_Organiser);
     connect(Bilder_, &Bildbefehle::gehandelt, this, &Hauptformular::nach_Handlung);
+    Projekte_ = new Projektmenue(Programm, *this);
+    connect(Projekte_, &Projektmenue::gehandelt, this, &Hauptformular::nach_Handlung);
+    Hilfe_ = new Hilfesteuerung(Programm, *this);
+    connect(Hilfe_, &Hilfesteuerung::Handhabung_geaendert, Schalter_, &Schalterrahmen::zeige_Fokushandhabung);
     connect(findChild<QAction*>(u"M_Wiederherstellen"_s), &QAction::triggered, this, &Hauptformular::stelle_wieder_her);
     connect(Steuerung_, &Feldsteuerung::gehandelt, this, &Hauptformular::zeige);
     connect(Steuerung_, &Feldsteuerung::getippt, this, &Hauptformular::zeige_Getipptes);
@@ -180,6 +186,7 @@ void Hauptformular::zeige() {
 // Behind a box or a dialog an action may be under way; it is shown when it is over.
 void Hauptformular::sichere_Zwischenstand() {
     if (QApplication::activeModalWidget()) return;
+    Programm_.fuehre_aus<&Projektoeffnung::merke>();
     const std::string vorher = Programm_.Stand().Statuszeile;
     Programm_.fuehre_aus<&Zwischensicherung::schreibe>();
     if (Programm_.Stand().Statuszeile != vorher) Schalter_->zeige();
@@ -212,12 +219,14 @@ void Hauptformular::erstelle_tooltips() {
 }
 
 void Hauptformular::zeige_Info() {
-    Textfenster Fenster(u"Info"_s, u"About VARNOK"_s, in_Qt(Programm_.zeige<Hilfetexte>().Programmangaben()), this);
+    Textfenster Fenster(u"Info"_s, u"About VARNOK"_s, in_Qt(Programm_.zeige<Hilfetexte>().Programmangaben()), {}, this);
     Fenster.exec();
 }
 
 void Hauptformular::zeige_Versionsinfo() {
-    Textfenster Fenster(u"Versionsinfo"_s, u"Release notes"_s, in_Qt(Versionstext()), this);
+    QStringList Notizen;
+    for (const std::string& n : Ausgabenotizen()) Notizen << in_Qt(n);
+    Textfenster Fenster(u"Versionsinfo"_s, u"Release notes"_s, in_Qt(Versionstext()), Notizen, this);
     Fenster.exec();
 }
 

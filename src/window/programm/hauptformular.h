@@ -17,8 +17,10 @@ class Bildbefehle;
 class Ergebnisbereich;
 class Feldsteuerung;
 class Fensterfrage;
+class Hilfesteuerung;
 class Intro;
 class Menue;
+class Projektmenue;
 class Rahmen;
 class Schalterrahmen;
 class cTooltip;
@@ -86,6 +88,8 @@ private:
     Schalterrahmen* Schalter_ = nullptr;
     Bildbefehle* Bilder_ = nullptr;
     Berichtsansicht* Bericht_ = nullptr;
+    Projektmenue* Projekte_ = nullptr;
+    Hilfesteuerung* Hilfe_ = nullptr;
     QAction* Drucken_ = nullptr;    // the report is the only thing to print
     QTimer* Nachlauf_;              // what can wait until an action has been drawn
     cTooltip* Tooltips_ = nullptr;  // none until tips are wanted

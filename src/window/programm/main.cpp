@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QLocale>
+#include <QProcess>
 #include <QStandardPaths>
 #include <QStyleFactory>
 #include <QTimer>
@@ -64,6 +65,10 @@ varnok::Projektwahl waehle(const varnok::Projektorte& Orte) {
     return varnok::waehle_Projekt(*Argument, Orte);
 }
 
+bool starte_weiteres_Fenster(const std::string& Pfad) {
+    return QProcess::startDetached(QApplication::applicationFilePath(), {varnok::in_Qt(Pfad)});
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -79,7 +84,8 @@ int main(int argc, char** argv) {
     const bool Komma = QLocale::system().decimalPoint() == u","_s;
     QLocale::setDefault(QLocale::c());
 
-    const QString Fensterdatei = QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) + u"/window.ini"_s;
+    const QString Einstellungsordner = QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation);
+    const QString Fensterdatei = Einstellungsordner + u"/window.ini"_s;
 
     auto Netz = std::make_unique<varnok::Netzabruf>(true);
     varnok::Fensterfrage Fragen;
@@ -101,7 +107,9 @@ int main(int argc, char** argv) {
                                   nullptr,
                                   {varnok::Ziel_der_Auslieferung(), Netz.get(), &Tausch},
                                   argc > 1,
-                                  Projekt.Simulation});
+                                  Projekt.Simulation,
+                                  starte_weiteres_Fenster,
+                                  varnok::aus_Qt(Einstellungsordner + u"/recent.txt"_s)});
         if (!Programm.fuehre_aus<&varnok::Programmablauf::oeffne_Projekt>()) return 0;
         varnok::Hauptformular Fenster(Programm, &Fragen, Fensterdatei);
         Fenster.show();

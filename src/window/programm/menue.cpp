@@ -50,13 +50,14 @@ struct Befehlszeile {
     Menue::Erlaubnis erlaubt = nullptr;    // none: always
     Menue::Auskunft Gegenstand = nullptr;  // told behind the caption; where it is empty there is nothing to do
 };
-constexpr std::array<Befehlszeile, 19> Befehle = {{
+constexpr auto Befehle = std::to_array<Befehlszeile>({
     {Datei, u"M_Neuer_Wirkstoff", u"New &Pesticide record", befiehl<&Satzverwaltung::lege_an, Wirkstoff>},
     {Datei, u"M_Neue_Applikationsdatei", u"New &Application record", befiehl<&Satzverwaltung::lege_an, Applikation>},
     {Datei, u"M_Neues_Szenario", u"&New Scenario", befiehl<&Satzverwaltung::lege_an, Szenario>},
     {Datei, u"M_Laden", u"&Load simulation", nullptr, u"", true},
     {Datei, u"M_Defaults", u"&Load program defaults", befiehl<&Satzverwaltung::lade_Voreinstellungen>},
     {Datei, u"M_Wiederherstellen", u"&Restore..."},
+    {Datei, u"M_Projekt", u"&Open project...", nullptr, u"Ctrl+O", true},
     {Datei, u"M_Drucken", u"&Print", nullptr, u"", true},
     {Datei, u"M_Speichern", u"&Save all input data", befiehl<&Satzverwaltung::speichere>, u"Ctrl+S"},
     {Datei, u"M_Ende", u"&Exit", befiehl<&Programmablauf::beende>, u"Ctrl+Q", true},
@@ -72,11 +73,12 @@ constexpr std::array<Befehlszeile, 19> Befehle = {{
     {ansehen, u"M_Studien", u"&Individual studies", befiehl<&Listenwahl::zeige_Studien>},
     {ansehen, u"M_Zusammenfassung", u"&Summary", befiehl<&Listenwahl::zeige_Zusammenfassung>, u"", false,
      frage<&Listenwahl::darf_Zusammenfassung>},
-    {Hilfe, u"M_suche_nach_Update", u"&Onlinecheck for updates", befiehl<&Aktualisierungssteuerung::suche>, u"", false,
+    {Hilfe, u"M_Feldhilfe", u"&Help on the field in focus", nullptr, u"F1"},
+    {Hilfe, u"M_suche_nach_Update", u"&Onlinecheck for updates", befiehl<&Aktualisierungssteuerung::suche>, u"", true,
      frage<&Aktualisierungssteuerung::darf_suchen>},
     {Hilfe, u"M_Versionsinfo", u"&Release notes"},
     {Hilfe, u"M_ueber", u"&About", nullptr, u"", true},
-}};
+});
 
 }  // namespace
 

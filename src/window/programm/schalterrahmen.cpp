@@ -86,7 +86,11 @@ void Schalterrahmen::zeige() {
     const std::string& Zeile = Stand().Statuszeile;
     const QString Text = Zeile.empty() ? QString() : in_Qt(Stand().Statuszeit + ' ' + Zeile);
     // What has happened goes before what could be done.
-    if (Text != Statustext_) Handhabung_.clear();
+    if (Text != Statustext_) {
+        Handhabung_.clear();
+        Fokushandhabung_.clear();
+        Status_neu_ = true;
+    }
     Statustext_ = Text;
     zeige_Status();
 }
@@ -96,8 +100,24 @@ void Schalterrahmen::zeige_Handhabung(const QString& Text) {
     zeige_Status();
 }
 
-void Schalterrahmen::zeige_Status() { Status_->setText(Handhabung_.isEmpty() ? Statustext_ : Handhabung_); }
+void Schalterrahmen::zeige_Fokushandhabung(const QString& Text) {
+    if (!isVisible()) return;  // nobody has read the line yet
+    Fokushandhabung_ = Status_neu_ && !Statustext_.isEmpty() ? QString() : Text;
+    Status_neu_ = false;
+    zeige_Status();
+}
 
-void Schalterrahmen::gib_Ende_den_Fokus() { Ende_->setFocus(Qt::OtherFocusReason); }
+void Schalterrahmen::zeige_Status() {
+    const QString& Hinweis = Handhabung_.isEmpty() ? Fokushandhabung_ : Handhabung_;
+    Status_->setText(Hinweis.isEmpty() ? Statustext_ : Hinweis);
+}
+
+// What was told at the start is read first.
+void Schalterrahmen::gib_Ende_den_Fokus() {
+    Ende_->setFocus(Qt::OtherFocusReason);
+    if (Statustext_.isEmpty()) return;
+    Fokushandhabung_.clear();
+    zeige_Status();
+}
 
 }  // namespace varnok

@@ -17,6 +17,8 @@ public:
     void zeige_Hinweis();
     // What the control under the mouse can do, in place of the line until there is a new one; empty: no longer.
     void zeige_Handhabung(const QString& Text);
+    // The same of the control in focus; what has been told since the focus came to it goes before.
+    void zeige_Fokushandhabung(const QString& Text);
     void gib_Ende_den_Fokus();
 
 private:
@@ -30,6 +32,8 @@ private:
     Kurztext* Status_;
     QString Statustext_;
     QString Handhabung_;
+    QString Fokushandhabung_;
+    bool Status_neu_ = false;     // the line came after the last change of the focus
     Schaltflaeche* Bemerkungen_;  // only where there are any
 };
 

@@ -1,6 +1,7 @@
 #include "window/programm/textfenster.h"
 
 #include <QGridLayout>
+#include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
@@ -82,7 +83,9 @@ void gestalte(QTextEdit& Text) {
 
 }  // namespace
 
-Textfenster::Textfenster(const QString& Name, const QString& Titel, const QString& Text, QWidget* parent) : QDialog(parent) {
+Textfenster::Textfenster(const QString& Name, const QString& Titel, const QString& Text, const QStringList& Notizen,
+                         QWidget* parent)
+    : QDialog(parent) {
     setObjectName(Name);
     setWindowTitle(Titel);
     auto* Blatt = new QVBoxLayout(this);
@@ -91,7 +94,9 @@ Textfenster::Textfenster(const QString& Name, const QString& Titel, const QStrin
     Blatt->addWidget(erstelle_Kopf());
     auto* Mitte = new QVBoxLayout;
     Mitte->setContentsMargins(Rand, Rand, Rand, 0);
-    Mitte->addWidget(erstelle_Text(Titel, Text));
+    Mitte->setSpacing(10);
+    if (!Notizen.isEmpty()) Mitte->addWidget(erstelle_Kasten(Notizen));
+    Mitte->addWidget(erstelle_Text(Titel, Text), 1);
     Blatt->addLayout(Mitte, 1);
     Blatt->addWidget(erstelle_Fuss());
 }
@@ -128,6 +133,19 @@ QWidget* Textfenster::erstelle_Kopf() {
     Zeile->addLayout(Worte, 1);
     Zeile->addWidget(new Zeichnung(u"Image2"_s, u"varnok"_s, QSize(Hoehe / 2, Hoehe / 2), Band));
     return Band;
+}
+
+QWidget* Textfenster::erstelle_Kasten(const QStringList& Notizen) {
+    auto* Kasten = new QGroupBox(u"This edition"_s, this);
+    auto* Text = new QLabel(u"\u2022 "_s + Notizen.join(u"\n\u2022 "_s), Kasten);
+    Text->setObjectName(u"Ausgabe"_s);
+    Text->setTextFormat(Qt::PlainText);
+    Text->setWordWrap(true);
+    Text->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    auto* Blatt = new QVBoxLayout(Kasten);
+    Blatt->setContentsMargins(10, 6, 10, 8);
+    Blatt->addWidget(Text);
+    return Kasten;
 }
 
 QTextEdit* Textfenster::erstelle_Text(const QString& Titel, const QString& Text) {

@@ -15,7 +15,8 @@ using namespace Qt::StringLiterals;
 Beschreibungsfeld::Beschreibungsfeld(QWidget* parent) : Textfeld(u"Beschreibung"_s, parent) {
     setReadOnly(true);
     setContextMenuPolicy(Qt::NoContextMenu);
-    setAccessibleDescription(u"Press the right mouse button to edit the description"_s);
+    setAccessibleDescription(u"Press F2 or the right mouse button to edit the description"_s);
+    setPlaceholderText(u"F2 or right click: describe this simulation"_s);
 }
 
 void Beschreibungsfeld::zeige(const QString& Text, bool offen, bool farbig) {

@@ -177,6 +177,7 @@ TEST_F(Optionsprobe, the_seventh_part_of_the_name_survives_any_number_of_passes)
 }
 
 TEST_F(Optionsprobe, tooltips_switched_on_are_told_to_the_window_alone) {
+    std::ofstream(Wurzel_ / "VARNOK.ini", std::ios::binary) << Einstellungen_als_Bytes({});
     gestartet();
     const std::string Einstellung = Datei("VARNOK.ini");
     EXPECT_TRUE(bestaetige([](Optionsentwurf& o) { o.Tips_anzeigen = 1; }));

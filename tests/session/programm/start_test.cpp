@@ -22,6 +22,13 @@ TEST_F(Start, without_a_settings_file_writes_one_with_the_defaults) {
     EXPECT_EQ(e->Projektpfad, Wurzel_.string());
 }
 
+TEST_F(Start, tips_are_on_where_there_is_no_settings_file_yet) {
+    EXPECT_EQ(nur_geladen().Stand().Einstellung.Tips_anzeigen, 1);
+    EXPECT_EQ(zerlege_Einstellungen(Datei(Einstellungsdatei))->Tips_anzeigen, 1);
+    std::ofstream(Wurzel_ / Einstellungsdatei, std::ios::binary) << Einstellungen_als_Bytes({});
+    EXPECT_EQ(nur_geladen().Stand().Einstellung.Tips_anzeigen, 0);
+}
+
 TEST_F(Start, with_settings_that_lack_the_project_path_uses_the_program_folder) {
     std::string Bytes = Einstellungen_als_Bytes({});
     Bytes.resize(Bytes.find("360") + 6);  // up to the line end of line 26

@@ -43,11 +43,13 @@ QAbstractButton* Vorgabe(const QMessageBox& Kasten) {
 }  // namespace
 
 Fensterprobe::Fensterprobe(Rueckfrage* Fragen, const std::function<void(const QString&)>& Projekt,
-                           const Aktualisierungswelt& Update) {
+                           const Aktualisierungswelt& Update, const std::function<bool(const std::string&)>& weiteres_Fenster) {
     kopiere_Daten(Ordner_.path());
     if (Projekt) Projekt(Ordner_.path());
-    Programm_ = std::make_unique<Sitzung>(
-        Umgebung{Fragen ? Fragen : &Fragen_, aus_Qt(Ordner_.path()), VARNOK_DATENORDNER, '.', nullptr, Update});
+    Umgebung Welt{Fragen ? Fragen : &Fragen_, aus_Qt(Ordner_.path()), VARNOK_DATENORDNER, '.', nullptr, Update};
+    Welt.weiteres_Fenster = weiteres_Fenster;
+    Welt.zuletzt_Datei = aus_Qt(Ordner_.filePath(u"recent.txt"_s));
+    Programm_ = std::make_unique<Sitzung>(Welt);
     if (!Programm_->fuehre_aus<&Programmablauf::oeffne_Projekt>()) qFatal("the project cannot be loaded");
     Fenster_ = std::make_unique<Hauptformular>(*Programm_, &Fragen_);
     Fenster_->resize(1180, 760);

@@ -16,7 +16,8 @@ class Fensterprobe {
 public:
     // `Fragen`: answers the questions instead of a user at the boxes. `Projekt`: what is done to the copy before the start.
     explicit Fensterprobe(Rueckfrage* Fragen = nullptr, const std::function<void(const QString&)>& Projekt = {},
-                          const Aktualisierungswelt& Update = {});
+                          const Aktualisierungswelt& Update = {},
+                          const std::function<bool(const std::string&)>& weiteres_Fenster = {});
 
     Sitzung& Programm() { return *Programm_; }
     Hauptformular& Fenster() { return *Fenster_; }

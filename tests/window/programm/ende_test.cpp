@@ -52,7 +52,7 @@ private Q_SLOTS:
     void without_settings_a_file_with_the_defaults_is_made() {
         oeffne();
         const QByteArray Datei = p_->Inhalt(Einstellungsdatei);
-        QVERIFY(Datei.startsWith("Tooltips:\t0\r\nAppearance:\t0\r\nEU-Regulation\r\n 1 \r\n 2 \r\n"));
+        QVERIFY(Datei.startsWith("Tooltips:\t1\r\nAppearance:\t0\r\nEU-Regulation\r\n 1 \r\n 2 \r\n"));
         QCOMPARE(Datei.count("\r\n"), 27);
         QVERIFY(Datei.endsWith((QDir(p_->Pfad(QString())).absolutePath().toLocal8Bit() + "\r\n").constData()));
     }

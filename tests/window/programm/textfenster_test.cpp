@@ -55,13 +55,24 @@ private Q_SLOTS:
     void init() { p_ = std::make_unique<Fensterprobe>(&Fragen_); }
     void cleanup() { p_.reset(); }
 
+    void notes_of_this_edition_stand_in_a_box_above_the_releases() {
+        oeffne("M_ueber", [&](QDialog& d) { QVERIFY(!d.findChild<QLabel*>(u"Ausgabe"_s)); });
+        oeffne("M_Versionsinfo", [&](QDialog& d) {
+            const auto* Kasten = Teil<QLabel>(d, u"Ausgabe"_s);
+            for (const std::string& n : Ausgabenotizen()) QVERIFY(Kasten->text().contains(in_Qt(n)));
+            const auto* Feld = Teil<QTextEdit>(d, u"Text1"_s);
+            QVERIFY(Kasten->mapTo(&d, QPoint(0, Kasten->height())).y() <= Feld->mapTo(&d, QPoint()).y());
+            QVERIFY2(d.height() <= d.screen()->availableSize().height(), "the window does not fit on the screen");
+        });
+    }
+
     void both_present_the_program_data() {
         QTest::addColumn<QByteArray>("Eintrag");
         QTest::addColumn<QString>("Name");
         QTest::addColumn<QString>("Titel");
         QTest::addColumn<QString>("Text");
         QTest::newRow("about") << QByteArray("M_ueber") << u"Info"_s << u"About VARNOK"_s
-                               << in_Qt(lies_Programmangaben(VARNOK_DATENORDNER));
+                               << in_Qt(lies_Programmangaben(VARNOK_DATENORDNER) + Lizenzangaben(VARNOK_DATENORDNER));
         QTest::newRow("release notes") << QByteArray("M_Versionsinfo") << u"Versionsinfo"_s << u"Release notes"_s
                                        << in_Qt(Versionstext());
     }

@@ -208,10 +208,18 @@ private Q_SLOTS:
     }
 
     void without_the_option_nothing_has_a_tip() {
-        p_ = std::make_unique<Fensterprobe>(&Fragen_);
+        p_ = std::make_unique<Fensterprobe>(&Fragen_, [&](const QString& Ordner) {
+            schreibe(Ordner + u"/VARNOK.ini"_s, QByteArray::fromStdString(Einstellungen_als_Bytes({})));
+        });
         QTest::qWait(20);
         QVERIFY(!Tooltips());
         QCOMPARE(p_->Teil<QWidget>("S_Q10_0")->toolTip(), QString());
+    }
+
+    void a_first_start_shows_tips() {
+        p_ = std::make_unique<Fensterprobe>(&Fragen_);
+        QTRY_VERIFY(Tooltips());
+        QVERIFY(p_->Teil<QWidget>("S_Q10_0")->toolTip().contains(u"Q10: factor"_s));
     }
 
     // "Copy" and the labels have none, and stand on frames that have one.
