@@ -1,5 +1,6 @@
 #include "window/eingabe/eingabespalte.h"
 
+#include <QEvent>
 #include <QScrollBar>
 #include <algorithm>
 
@@ -14,7 +15,6 @@ Eingabespalte::Eingabespalte(QWidget* Inhalt, QWidget* parent) : QScrollArea(par
     setFrameStyle(QFrame::NoFrame);
     setFocusPolicy(Qt::NoFocus);
     setWidgetResizable(true);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
     setWidget(Inhalt);
     viewport()->setAutoFillBackground(false);
@@ -24,6 +24,12 @@ Eingabespalte::Eingabespalte(QWidget* Inhalt, QWidget* parent) : QScrollArea(par
 QSize Eingabespalte::sizeHint() const {
     const int Inhalt = std::max(widget()->minimumSizeHint().width(), Ziffern(*this, 47));
     return {Inhalt + verticalScrollBar()->sizeHint().width(), widget()->sizeHint().height()};
+}
+
+// What a scroll area holds does not tell the layout around it that its size has changed.
+bool Eingabespalte::eventFilter(QObject* Objekt, QEvent* e) {
+    if (Objekt == widget() && e->type() == QEvent::LayoutRequest) updateGeometry();
+    return QScrollArea::eventFilter(Objekt, e);
 }
 
 QSize Eingabespalte::minimumSizeHint() const { return {sizeHint().width(), 100}; }
