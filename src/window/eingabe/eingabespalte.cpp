@@ -1,5 +1,6 @@
 #include "window/eingabe/eingabespalte.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QScrollBar>
 #include <algorithm>
@@ -19,6 +20,15 @@ Eingabespalte::Eingabespalte(QWidget* Inhalt, QWidget* parent) : QScrollArea(par
     setWidget(Inhalt);
     viewport()->setAutoFillBackground(false);
     Inhalt->setAutoFillBackground(false);
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* neues) { hole_in_Sicht(neues); });
+}
+
+// Nothing moves away under the mouse that is pressed on it.
+void Eingabespalte::hole_in_Sicht(QWidget* Teil) {
+    constexpr int Rand = 8;
+    if (!Teil || !widget()->isAncestorOf(Teil) || QApplication::mouseButtons() != Qt::NoButton) return;
+    const QPoint Mitte = Teil->mapTo(widget(), Teil->rect().center());
+    ensureVisible(Mitte.x(), Mitte.y(), Teil->width() / 2 + Rand, Teil->height() / 2 + Rand);
 }
 
 QSize Eingabespalte::sizeHint() const {

@@ -325,7 +325,7 @@ void Hauptformular::changeEvent(QEvent* e) {
 
 void Hauptformular::bestimme_kleinste_Groesse() {
     constexpr double Ziffern_breit = 112.5;
-    constexpr int Zeilen_hoch = 37;
+    constexpr int Zeilen_hoch = 40;
     constexpr QSize Rand_des_Desktops = {4, 40};
     const QSize Inhalt = Blaetter_->minimumSizeHint() + QSize(0, menuBar()->sizeHint().height());
     const QSize gewohnt = {Ziffern(*this, Ziffern_breit), fontMetrics().height() * Zeilen_hoch};

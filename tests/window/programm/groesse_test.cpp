@@ -92,6 +92,26 @@ private Q_SLOTS:
         Fragen_.nimm();
     }
 
+    // Wherever the focus comes from: by Tab, or because the program points at a value.
+    void what_gets_the_focus_comes_into_sight() {
+        starte(11);
+        const auto* Spalte = p_->Teil<QScrollArea>("Eingabespalte");
+        QVERIFY(Spalte->verticalScrollBar()->isVisible());
+        const auto gesehen = [&](const char* Name) {
+            const auto* w = p_->Teil<QWidget>(Name);
+            return Spalte->viewport()->rect().contains(QRect(w->mapTo(Spalte->viewport(), QPoint(0, 0)), w->size()));
+        };
+        for (const char* Name : {"Edit", "Liste_1", "Klimaszenario", "S_TRef_0", "Fruchtwechsel"}) {
+            p_->Teil<QWidget>(Name)->setFocus(Qt::OtherFocusReason);
+            QVERIFY2(gesehen(Name), Name);
+        }
+        p_->Teil<QWidget>("Liste_1")->setFocus();
+        p_->Teil<QWidget>("Berechnungsmodus_Leiste")->setFocus();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab, Qt::ShiftModifier);
+        QCOMPARE(QApplication::focusWidget()->objectName(), u"Edit"_s);
+        QVERIFY(gesehen("Edit"));
+    }
+
     void every_page_of_the_input_is_reached_without_scrolling_its_strip_data() { Groessen(); }
     void every_page_of_the_input_is_reached_without_scrolling_its_strip() {
         QFETCH(int, Punkt);

@@ -205,6 +205,18 @@ private Q_SLOTS:
         Fragen_.nimm();
     }
 
+    void the_focus_is_seen_in_dialogs() {
+        starte();
+        QCOMPARE(mit_Dialog([&](QDialog& d) {
+                     QVERIFY(hat_Fokus(d));
+                     QStringList gesehen;
+                     pruefe_Sichtbarkeit(d, *Teil_von<QWidget>(d, "OK"), *Teil_von<QWidget>(d, "Abbrechen"), gesehen);
+                     for (const char* Name : {"Dir1", "Check1_0", "Einheit_0", "Sprache", "OK"})
+                         QVERIFY2(gesehen.contains(QString::fromLatin1(Name)), Name);
+                 }),
+                 1);
+    }
+
     void the_cell_in_work_is_seen_in_the_table_of_applications() {
         starte();
         p_->waehle_Simulation("Vines, Compound D");
@@ -280,11 +292,13 @@ private:
     }
 
     void pruefe_Sichtbarkeit(QStringList& gesehen) {
-        auto* woanders = p_->Teil<QWidget>("Aktualisieren");
-        for (QWidget* w : p_->Fenster().findChildren<QWidget*>()) {
-            if (!bedienbar(*w) || w->window() != &p_->Fenster() || w->objectName().startsWith(u"qt_"_s)) continue;
-            QWidget* vorher = w == woanders ? p_->Teil<QWidget>("Ende") : woanders;
-            vorher->setFocus(Qt::TabFocusReason);
+        pruefe_Sichtbarkeit(p_->Fenster(), *p_->Teil<QWidget>("Aktualisieren"), *p_->Teil<QWidget>("Ende"), gesehen);
+    }
+    // The focus comes from one control, to that one from the other.
+    void pruefe_Sichtbarkeit(QWidget& Fenster, QWidget& eines, QWidget& anderes, QStringList& gesehen) {
+        for (QWidget* w : Fenster.findChildren<QWidget*>()) {
+            if (!bedienbar(*w) || w->window() != &Fenster || w->objectName().startsWith(u"qt_"_s)) continue;
+            (w == &eines ? anderes : eines).setFocus(Qt::TabFocusReason);
             QTest::qWait(1);
             const QImage ohne = Bild_um(*w);
             w->setFocus(Qt::TabFocusReason);
