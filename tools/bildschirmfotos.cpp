@@ -9,8 +9,6 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDialog>
-#include <QDir>
-#include <QHash>
 #include <QLineEdit>
 #include <QLocale>
 #include <QMenu>
@@ -20,7 +18,6 @@
 #include <QRadioButton>
 #include <QStyleFactory>
 #include <QTableWidget>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 #include <QToolTip>
@@ -32,28 +29,18 @@
 #include "painting/bildausgabe.h"
 #include "painting/bildflaeche.h"
 #include "painting/qt_text.h"
+#include "probefenster.h"
 #include "window/ergebnis/diagrammflaeche.h"
 #include "window/ergebnis/legendenrahmen.h"
-#include "window/kern/fensterfrage.h"
-#include "window/programm/hauptformular.h"
 
 using namespace Qt::StringLiterals;
 using namespace varnok;
 
 namespace {
 
-class Fotograf {
+class Fotograf : public Probefenster {
 public:
-    explicit Fotograf(const QString& Zielordner) : Ziel_(Zielordner) {
-        Ziel_.mkpath(u"."_s);
-        kopiere_Projekt();
-        Programm_ = std::make_unique<Sitzung>(Umgebung{&Fragen_, aus_Qt(Projekt_.path()), VARNOK_DATENORDNER, '.'});
-        if (!Programm_->fuehre_aus<&Programmablauf::oeffne_Projekt>()) qFatal("the shipped data cannot be loaded");
-        Fenster_ = std::make_unique<Hauptformular>(*Programm_, &Fragen_);
-        Fenster_->resize(1180, 760);
-        Fenster_->show();
-        aktiviere();
-    }
+    using Probefenster::Probefenster;
 
     void gehe_durch() {
         fotografiere(u"intro"_s);
@@ -148,70 +135,6 @@ private:
         }
         Fenster_->resize(1180, 760);
         QTest::qWait(40);
-    }
-
-    // With its 256 commonest colours, the others as the nearest of these: a third of the size, and the eye sees no difference.
-    void sichere(const QImage& Bild, const QString& Datei) const {
-        const QImage bunt = Bild.convertToFormat(QImage::Format_RGB32);
-        QHash<QRgb, int> Anzahl;
-        for (int y = 0; y < bunt.height(); ++y) {
-            for (int x = 0; x < bunt.width(); ++x) ++Anzahl[bunt.pixel(x, y)];
-        }
-        QList<QRgb> Farben = Anzahl.keys();
-        std::sort(Farben.begin(), Farben.end(),
-                  [&](QRgb a, QRgb b) { return std::pair(Anzahl[b], a) < std::pair(Anzahl[a], b); });
-        Farben.resize(std::min<qsizetype>(256, Farben.size()));
-        bunt.convertToFormat(QImage::Format_Indexed8, Farben, Qt::ThresholdDither | Qt::AvoidDither)
-            .save(Ziel_.filePath(Datei), "PNG", -1);
-    }
-
-    void kopiere_Projekt() {
-        const QDir von(QStringLiteral(VARNOK_DATENORDNER "/input"));
-        QDir(Projekt_.path()).mkpath(u"input"_s);
-        for (const QFileInfo& Datei : von.entryInfoList(QDir::Files)) {
-            if (Datei.fileName() != u"Programcheck.vnk"_s)
-                QFile::copy(Datei.filePath(), Projekt_.filePath(u"input/"_s + Datei.fileName()));
-        }
-        // The newest simulation is the one that the program opens.
-        QTest::qWait(20);
-        QFile::copy(von.filePath(u"Programcheck.vnk"_s), Projekt_.filePath(u"input/Programcheck.vnk"_s));
-    }
-
-    template <class W>
-    W* Teil(const QString& Name) {
-        W* w = Fenster_->findChild<W*>(Name);
-        if (!w) qFatal("no control %s", qPrintable(Name));
-        return w;
-    }
-
-    void aktiviere() {
-        Fenster_->activateWindow();
-        if (!QTest::qWaitForWindowActive(Fenster_.get())) qFatal("the window does not become active");
-    }
-
-    void Taste(const QString& Name) { QTest::mouseClick(Teil<QPushButton>(Name), Qt::LeftButton); }
-    void Option(const QString& Name) { QTest::mouseClick(Teil<QRadioButton>(Name), Qt::LeftButton, {}, QPoint(8, 8)); }
-    void Seite(int i) { Teil<QTabWidget>(u"Wirkstoffdaten"_s)->setCurrentIndex(i); }
-    void befehle(const QString& Name) { Teil<QAction>(Name)->trigger(); }
-
-    void waehle_Simulation(const QString& Name) {
-        auto* Liste = Teil<QComboBox>(u"Simulationsliste"_s);
-        const int i = Liste->findText(Name);
-        if (i < 0) qFatal("no simulation %s", qPrintable(Name));
-        Liste->setCurrentIndex(i);
-        Q_EMIT Liste->activated(i);
-    }
-
-    // Left clicks on the diagram in front.
-    void klicke_weiter(int Anzahl) {
-        for (int i = 0; i < Anzahl; ++i) QTest::mouseClick(vorn(), Qt::LeftButton, {}, QPoint(5, vorn()->height() / 2));
-    }
-
-    Diagrammflaeche* vorn() {
-        for (auto* d : Fenster_->findChildren<Diagrammflaeche*>()) {
-            if (d->isVisible()) return d;
-        }
-        qFatal("no diagram is seen");
     }
 
     // The picture that "Save picture as" makes of the diagram in front.
@@ -373,24 +296,7 @@ private:
         Fenster_->resize(1180, 760);
         QTest::qWait(30);
     }
-
-    QDir Ziel_;
-    QTemporaryDir Projekt_;
-    Fensterfrage Fragen_;
-    std::unique_ptr<Sitzung> Programm_;
-    std::unique_ptr<Hauptformular> Fenster_;
 };
-
-}  // namespace
-
-namespace {
-
-// A dark desktop, which the frames of the input and the surfaces of the diagrams do not follow.
-QPalette dunkle_Palette() {
-    QPalette p(QColor(56, 58, 62), QColor(45, 47, 50));
-    p.setColor(QPalette::Base, QColor(34, 35, 38));
-    return p;
-}
 
 }  // namespace
 

@@ -16,18 +16,7 @@ Ziel=$Wurzel/docs/bilder
 [[ $# -eq 0 ]] || Ziel=$Wurzel/build/bilder-$1
 [[ "${1:-}" != diagrams ]] || Ziel=$Wurzel/docs/bilder/diagrams
 
-# A screen that the large pictures fit on.
-Bildschirm=$(mktemp)
-trap 'rm -f "$Bildschirm"' EXIT
-cat > "$Bildschirm" <<'JSON'
-{ "synchronousWindowSystemEvents": false, "windowFrameMargins": true,
-  "screens": [ { "name": "s", "x": 0, "y": 0, "width": 2560, "height": 1600,
-                 "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1 } ] }
-JSON
-export QT_QPA_PLATFORM=offscreen:configfile=$Bildschirm
-export XDG_RUNTIME_DIR=$Wurzel/build/laufzeit
-mkdir -p "$XDG_RUNTIME_DIR"
-chmod 700 "$XDG_RUNTIME_DIR"
+source "$Wurzel/tools/bildschirm.sh"
 
 "$Programm" "$Ziel" "$@"
 if [[ "${1:-}" == diagrams ]]; then

@@ -143,7 +143,7 @@ void Applikationsrahmen::verbinde() {
 void Applikationsrahmen::zeige() {
     Satz_->zeige();
     const Eingabe& e = Felder();
-    Applikationsmuster_->button(e.Applikationsmuster)->setChecked(true);
+    zeige_Option(*Applikationsmuster_, e.Applikationsmuster);
     Anzahl_->zeige(Zahlen(kleinste_Anzahl(e), max_Applikationen), e.Anzahl() - kleinste_Anzahl(e));
     Intervall_->zeige(Zahlen(1, Programm_.zeige<Listenwahl>().Intervalle()), e.Intervall_Index);
     App_Tag_->zeige(Zahlen(1, Programm_.zeige<Listenwahl>().Tage()), e.App_Tag);

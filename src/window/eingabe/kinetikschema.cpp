@@ -38,11 +38,12 @@ Kinetikschema::Kinetikschema(Sitzung& Programm, Feldsteuerung& Steuerung, QWidge
     auto* Zeile = new QHBoxLayout;
     Zeile->setSpacing(5);
     Zeile->addWidget(Schild(u"Soil:"_s, Studie_, this));
+    Studie_->setAccessibleName(u"Soil, study"_s);
     Zeile->addWidget(Studie_, 1);
     Zeile->addWidget(Addiere_Studie_);
     Spalte->addLayout(Zeile);
 
-    Wirkstoffdaten_ = new Reiter(u"Wirkstoffdaten"_s, u"Compound data"_s, this);
+    Wirkstoffdaten_ = new Reiter(u"Wirkstoffdaten"_s, u"Compound data, pages"_s, this);
     Wirkstoffdaten_->addTab(erstelle_Abbaudaten(Steuerung), u"Degradation"_s);
     auto* Sorption = new Sorptionsdaten(Programm, Steuerung, this);
     auto* Metabolismus = new Metabolismusschema(Programm, Steuerung, this);
@@ -150,7 +151,7 @@ void Kinetikschema::zeige() {
     const int Optionszeile = Substanz_->button(0)->sizeHint().height() + Spalte->spacing();
     Ersatz_->changeSize(0, m == nur_Wirkstoff ? Optionszeile : 0, QSizePolicy::Minimum, QSizePolicy::Fixed);
     Spalte->invalidate();
-    Substanz_->button(Sicht().Substanz)->setChecked(true);
+    zeige_Option(*Substanz_, Sicht().Substanz);
     Kinetikfelder_->setCurrentIndex(Sicht().Substanz);
     Wirkstoffdaten_->zeige_Seite(Seite_);
     faerbe_Reiter();

@@ -90,6 +90,13 @@ void Stoffseite::zeige_Namen() {
     for (int c = 0; c < Stoffe; ++c) Zeilen_[static_cast<std::size_t>(c)].Name->zeige(in_Qt(Stoffname(Felder(), c)));
 }
 
+// Fields of one caption stand in each row.
+void Stoffseite::benenne(const Stoffzeile& z) {
+    const QString Stoff = ohne_Doppelpunkt(z.Schild->text()) + u", "_s;
+    z.Name->setAccessibleName(Stoff + u"Name"_s);
+    for (Zahlenfeld* Feld : z.Felder) Feld->setAccessibleName(Stoff + ohne_Doppelpunkt(Feld->Beschriftung()));
+}
+
 void Stoffseite::zeige() {
     zeige_Namen();
     const Stoffschema m = Felder().Berechnungsmodus;
@@ -97,6 +104,7 @@ void Stoffseite::zeige() {
         Stoffzeile& z = Zeilen_[static_cast<std::size_t>(c)];
         const bool sichtbar = c < Anzahl_Stoffe(m);
         z.Schild->setText(Stoffschild(m, c));
+        benenne(z);
         z.Schild->setVisible(sichtbar);
         z.Name->setVisible(sichtbar);
         for (QWidget* Feld : z.Felder) Feld->setVisible(sichtbar);

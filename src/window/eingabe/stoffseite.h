@@ -36,8 +36,10 @@ private:
     struct Stoffzeile {
         QLabel* Schild = nullptr;
         Namensfeld* Name = nullptr;
-        std::vector<QWidget*> Felder;
+        std::vector<Zahlenfeld*> Felder;
     };
+
+    static void benenne(const Stoffzeile& z);
 
     QGridLayout* Gitter_;
     std::array<Stoffzeile, Stoffe> Zeilen_;

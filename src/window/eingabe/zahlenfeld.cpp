@@ -22,10 +22,12 @@ const Feldbeschreibung& Zeile(int Feld) { return Feldtabelle()[static_cast<std::
 }  // namespace
 
 Zahlenfeld::Zahlenfeld(int Feld, QWidget* parent) : Textfeld(in_Qt(Zeile(Feld).Objektname()), parent), Feld_(Feld) {
-    setAccessibleName(in_Qt(Zeile(Feld).Beschriftung));
+    setAccessibleName(Beschriftung());
     setAlignment(Qt::AlignRight);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
+
+QString Zahlenfeld::Beschriftung() const { return in_Qt(Zeile(Feld_).Beschriftung); }
 
 QSize Zahlenfeld::sizeHint() const { return {Breite(*this), Zeilenhoehe(*this)}; }
 

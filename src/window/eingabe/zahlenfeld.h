@@ -15,6 +15,8 @@ public:
     // Width of all numeric fields in the font of a widget.
     static int Breite(const QWidget& w) { return Ziffern(w, 8) + 14; }
     int Feld() const { return Feld_; }
+    // The caption that the table of fields gives it.
+    QString Beschriftung() const;
     // Text, and the colour of a field in work or at rest.
     void zeige(const QString& Text, bool in_Arbeit);
     // A quiet mark in its corner: what it shows is not what it accepts.

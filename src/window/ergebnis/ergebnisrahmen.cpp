@@ -4,12 +4,18 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPainter>
+#include <QSet>
+#include <QStyle>
 #include <QStyledItemDelegate>
 #include <QTableWidget>
+#include <QTextLayout>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <optional>
 
 #include "painting/qt_text.h"
+#include "session/ergebnis/studienkoepfe.h"
 #include "window/kern/bausteine.h"
 #include "window/kern/rahmenfarben.h"
 #include "window/kern/zwischenablage.h"
@@ -29,6 +35,67 @@ struct Abstaende {
 constexpr Abstaende weit = {6, 4};
 constexpr Abstaende eng = {3, 2};
 
+constexpr int Kopfrolle = Qt::UserRole;  // what is seen of the text of a head
+constexpr int Zellenrand = 8;
+constexpr int Textrand = 3;  // to the right of a text
+
+// What a column has for its head.
+struct Kopfplatz {
+    int Breite;
+    int Zeilen;
+};
+
+// A head in lines of a column.
+struct Kopfsatz {
+    QStringList Zeilen;
+    bool ganz = true;
+};
+
+Kopfsatz setze_Kopf(const QString& Text, const QFont& Schrift, const Kopfplatz& Platz) {
+    QTextLayout Satz(Text, Schrift);
+    QTextOption Art;
+    Art.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    Satz.setTextOption(Art);
+    Satz.beginLayout();
+    Kopfsatz k;
+    for (QTextLine z = Satz.createLine(); z.isValid() && k.ganz; z = Satz.createLine()) {
+        z.setLineWidth(Platz.Breite);
+        k.ganz = k.Zeilen.size() + 1 < Platz.Zeilen || z.textStart() + z.textLength() >= Text.size();
+        const QString Rest = Text.mid(z.textStart(), k.ganz ? z.textLength() : -1).trimmed();
+        k.Zeilen << (k.ganz ? Rest : QFontMetrics(Schrift).elidedText(Rest, Qt::ElideRight, Platz.Breite));
+    }
+    Satz.endLayout();
+    return k;
+}
+
+struct Kopfreihe {
+    std::vector<Kopfsatz> Koepfe;
+    bool ganz = true, verschieden = true;
+};
+
+Kopfreihe setze_Koepfe(const std::vector<std::string>& Namen, const QFont& Schrift, const Kopfplatz& Platz) {
+    Kopfreihe r;
+    QSet<QString> gesehen;
+    for (const std::string& Name : Namen) {
+        r.Koepfe.push_back(setze_Kopf(in_Qt(Name), Schrift, Platz));
+        r.ganz = r.ganz && r.Koepfe.back().ganz;
+        gesehen << r.Koepfe.back().Zeilen.join(u' ');
+    }
+    r.verschieden = gesehen.size() == static_cast<qsizetype>(Namen.size());
+    return r;
+}
+
+// The first that is seen as a whole and tells the columns apart; else the first that tells them apart.
+Kopfreihe waehle_Koepfe(const std::vector<std::string>& Namen, const QFont& Schrift, const Kopfplatz& Platz) {
+    std::optional<Kopfreihe> Wahl;
+    for (const auto& Vorschlag : Kopfvorschlaege(Namen)) {
+        Kopfreihe r = setze_Koepfe(Vorschlag, Schrift, Platz);
+        if (r.ganz && r.verschieden) return r;
+        if (!Wahl || (r.verschieden && !Wahl->verschieden)) Wahl = std::move(r);
+    }
+    return *Wahl;
+}
+
 // Blanks around a text serve other fonts; here the columns align by themselves.
 class Zellenschrift : public QStyledItemDelegate {
 public:
@@ -38,6 +105,20 @@ protected:
     void initStyleOption(QStyleOptionViewItem* Art, const QModelIndex& Stelle) const override {
         QStyledItemDelegate::initStyleOption(Art, Stelle);
         Art->text = Art->text.trimmed();
+    }
+    // Of a head that was set in lines the style would leave out one where the row is a pixel too low.
+    void paint(QPainter* p, const QStyleOptionViewItem& Art, const QModelIndex& Stelle) const override {
+        const QVariant Kopf = Stelle.data(Kopfrolle);
+        if (!Kopf.isValid()) return QStyledItemDelegate::paint(p, Art, Stelle);
+        QStyleOptionViewItem leer = Art;
+        initStyleOption(&leer, Stelle);
+        const QStyle* Stil = leer.widget->style();
+        leer.text.clear();
+        Stil->drawControl(QStyle::CE_ItemViewItem, &leer, p, leer.widget);
+        const bool gewaehlt = leer.state & QStyle::State_Selected;
+        p->setPen(leer.palette.color(gewaehlt ? QPalette::HighlightedText : QPalette::Text));
+        p->drawText(leer.rect.adjusted(0, 0, -Textrand, 0), Qt::AlignRight | Qt::AlignVCenter | Qt::TextDontClip,
+                    Kopf.toString());
     }
 };
 
@@ -129,19 +210,35 @@ void Ergebnisrahmen::ordne(const QSize& Flaeche, int Achsenhoehe) {
     const double gewohnte =
         Flaeche.width() < Ziffern(*this, 66) ? 9.5 : 11;  // on a small surface there is a legend to leave room for
     const int Spalte = std::max(1, std::min({Ziffern(*this, gewohnte), n > 3 ? schmal : passend, passend}));
-    int Kopfzeilen = 1;
-    for (int j = 0; j < n; ++j) {
-        Tafel_->setColumnWidth(j, Spalte);
-        const QTableWidgetItem* Kopf = Tafel_->item(0, j);
-        if (Kopf && fontMetrics().horizontalAdvance(Kopf->text().trimmed()) > Spalte - 8) Kopfzeilen = 2;
-    }
+    for (int j = 0; j < n; ++j) Tafel_->setColumnWidth(j, Spalte);
     const int Breite = Spalte * n;
     const int Titelhoehe =
         Titel_->fontMetrics().boundingRect(QRect(0, 0, Breite, 1000), Qt::TextWordWrap, Titel_->text()).height();
-    ordne_Zeilen(Achsenhoehe - static_cast<int>(Heimat_Ergebnis.oben * Flaeche.height()) - Titelhoehe - 4, Kopfzeilen);
+    const int Platz = Achsenhoehe - static_cast<int>(Heimat_Ergebnis.oben * Flaeche.height()) - Titelhoehe - 4;
+    const bool drei = Zeilen_bis(Platz) >= Tafel_->rowCount() + 2;
+    ordne_Zeilen(Platz, ordne_Koepfe(Spalte, drei ? 3 : 2));
     Titel_->setFixedSize(Breite, Titelhoehe);
     Tafel_->setFixedSize(Breite, Tafel_->verticalHeader()->length());
     adjustSize();
+}
+
+int Ergebnisrahmen::Zeilen_bis(int Platz) const { return (Platz - weit.ganz()) / fontMetrics().height(); }
+
+int Ergebnisrahmen::ordne_Koepfe(int Spaltenbreite, int hoechstens) {
+    std::vector<std::string> Namen;
+    for (int j = 1; j < Tafel_->columnCount(); ++j) {
+        const QTableWidgetItem* Kopf = Tafel_->item(0, j);
+        Namen.push_back(Kopf ? aus_Qt(Kopf->text().trimmed()) : std::string());
+    }
+    if (Namen.empty()) return 1;
+    const Kopfreihe r = waehle_Koepfe(Namen, font(), {Spaltenbreite - Zellenrand, hoechstens});
+    qsizetype Zeilen = 1;
+    for (int j = 1; j < Tafel_->columnCount(); ++j) {
+        const QStringList& Kopf = r.Koepfe[static_cast<std::size_t>(j - 1)].Zeilen;
+        if (Tafel_->item(0, j)) Tafel_->item(0, j)->setData(Kopfrolle, Kopf.join(u'\n'));
+        Zeilen = std::max(Zeilen, Kopf.size());
+    }
+    return static_cast<int>(Zeilen);
 }
 
 bool Ergebnisrahmen::letzte_Zeile_leer() const {

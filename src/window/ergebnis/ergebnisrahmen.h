@@ -25,6 +25,10 @@ protected:
     void klicke(const QMouseEvent& e) override;
 
 private:
+    // Sets the heads in columns of that width so that no two of studies look alike; gives how many lines they take.
+    int ordne_Koepfe(int Spaltenbreite, int hoechstens);
+    // Lines of letters that stand between title and time axis.
+    int Zeilen_bis(int Platz) const;
     bool letzte_Zeile_leer() const;
     // Heights of the rows, of which the first has so many lines, for that room between title and time axis.
     void ordne_Zeilen(int Platz, int Kopfzeilen);

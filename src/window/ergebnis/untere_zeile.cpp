@@ -72,8 +72,8 @@ Untere_Zeile::Untere_Zeile(Sitzung& Programm, QWidget* parent)
 }
 
 void Untere_Zeile::zeige() {
-    Endpunkt_->button(Option_zu_Endpunkt(Sicht().Endpunkt))->setChecked(true);
-    PEC_Typ_->button(Sicht().PEC_Typ)->setChecked(true);
+    zeige_Option(*Endpunkt_, Option_zu_Endpunkt(Sicht().Endpunkt));
+    zeige_Option(*PEC_Typ_, Sicht().PEC_Typ);
     TWA_Laenge_->zeige(Programm_.zeige<Listenwahl>().TWA_Laengen(), Sicht().TWA_Laenge);
     Ergebnisdatei_->setText(in_Qt(Stand().Ergebnisdatei));
 }

@@ -1,5 +1,7 @@
 #include "window/kern/bausteine.h"
 
+#include <QAbstractButton>
+#include <QButtonGroup>
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QMainWindow>
@@ -18,6 +20,7 @@
 #include "painting/qt_text.h"
 #include "records/satztext.h"
 #include "window/kern/rahmenfarben.h"
+#include "window/kern/vorleser.h"
 
 namespace varnok {
 
@@ -61,6 +64,7 @@ Auswahlliste::Auswahlliste(const QString& Name, int Zeichen, QWidget* parent) : 
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     setMinimumContentsLength(Zeichen);
     setMaxVisibleItems(20);
+    lies_Listen_vor();
 }
 
 void Auswahlliste::zeige(const QStringList& Eintraege, int Position) {
@@ -226,6 +230,16 @@ void Reiter::keyPressEvent(QKeyEvent* e) {
 void Reiter::zeige_Seite(int i) {
     const QSignalBlocker still(this);
     if (currentIndex() != i) setCurrentIndex(i);
+}
+
+void zeige_Option(QButtonGroup& Optionen, int o) {
+    Optionen.button(o)->setChecked(true);
+    for (QAbstractButton* b : Optionen.buttons()) b->setFocusPolicy(b->isChecked() ? Qt::StrongFocus : Qt::ClickFocus);
+}
+
+QString ohne_Doppelpunkt(const QString& Aufschrift) {
+    const QString Text = Aufschrift.trimmed();
+    return Text.endsWith(u':') ? Text.chopped(1) : Text;
 }
 
 Raster::Raster(QWidget* parent, int Einzug) : QGridLayout(parent), Einzug_(Einzug) {

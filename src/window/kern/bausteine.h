@@ -15,6 +15,8 @@
 #include <string_view>
 #include <vector>
 
+class QButtonGroup;
+
 namespace varnok {
 
 // So many digits of the widget's font: the unit of all widths.
@@ -132,6 +134,12 @@ protected:
 private:
     Reiterleiste* Leiste_;
 };
+
+// Switches an option on; Tab comes to this one of its group.
+void zeige_Option(QButtonGroup& Optionen, int o);
+
+// A caption for a place where no field follows it.
+QString ohne_Doppelpunkt(const QString& Aufschrift);
 
 // The grid that all frames share: label, field, unit, and the same once more, growth behind it.
 class Raster : public QGridLayout {

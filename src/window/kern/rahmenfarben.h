@@ -25,6 +25,7 @@ inline constexpr QColor Beschreibung{0, 0, 255};
 inline constexpr QColor Text{28, 32, 36};
 inline constexpr QColor Papier{247, 246, 241};  // of the pages that present the program
 inline constexpr QColor Linie{31, 95, 139};     // the blue of the program's own drawings
+inline constexpr QColor Fokus_auf_Dunklem{130, 190, 255};
 
 }  // namespace Farben
 

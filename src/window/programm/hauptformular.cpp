@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QHBoxLayout>
+#include <QMenuBar>
 #include <QPointer>
 #include <QScreen>
 #include <QSettings>
@@ -32,6 +33,7 @@
 #include "window/kern/ctooltip.h"
 #include "window/kern/fensterfrage.h"
 #include "window/programm/hilfesteuerung.h"
+#include "window/kern/fokusring.h"
 #include "window/programm/intro.h"
 #include "window/programm/menue.h"
 #include "window/programm/optionen.h"
@@ -68,7 +70,6 @@ Hauptformular::Hauptformular(Sitzung& Programm, Fensterfrage* Fragen, const QStr
     Blaetter_->addWidget(Intro_);
     Blaetter_->addWidget(Arbeitsflaeche_);
     setCentralWidget(Blaetter_);
-    setMinimumSize(900, 560);
 
     connect(Intro_, &Intro::gestartet, this, &Hauptformular::starte);
     connect(Menue_, &Menue::gehandelt, this, &Hauptformular::nach_Handlung);
@@ -95,8 +96,10 @@ Hauptformular::Hauptformular(Sitzung& Programm, Fensterfrage* Fragen, const QStr
     connect(Nachlauf_, &QTimer::timeout, this, &Hauptformular::sichere_Zwischenstand);
     if (Fragen_) Fragen_->setze_Fenster(this, [this] { zeige(); });
     qApp->installEventFilter(this);
-    stelle_Fenster_her();
+    new Fokusring(this);
     zeige();
+    bestimme_kleinste_Groesse();
+    stelle_Fenster_her();
     Intro_->gib_Fokus();
     // When the window is on the screen: what there may be to say about the tips stands over it.
     if (Programm_.Stand().Einstellung.Tips_anzeigen == 1) QTimer::singleShot(0ms, this, &Hauptformular::erstelle_tooltips);
@@ -372,6 +375,21 @@ bool Hauptformular::eventFilter(QObject* Objekt, QEvent* e) {
     if (e->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(e)->key() == Qt::Key_Escape)
         Programm_.fuehre_aus<&Aktualisierungssteuerung::halte_an>();
     return true;
+}
+
+void Hauptformular::changeEvent(QEvent* e) {
+    QMainWindow::changeEvent(e);
+    // When all that stands in the window has heard of it.
+    if (e->type() == QEvent::FontChange) QTimer::singleShot(0ms, this, &Hauptformular::bestimme_kleinste_Groesse);
+}
+
+void Hauptformular::bestimme_kleinste_Groesse() {
+    constexpr double Ziffern_breit = 112.5;
+    constexpr int Zeilen_hoch = 40;
+    constexpr QSize Rand_des_Desktops = {4, 40};
+    const QSize Inhalt = Blaetter_->minimumSizeHint() + QSize(0, menuBar()->sizeHint().height());
+    const QSize gewohnt = {Ziffern(*this, Ziffern_breit), fontMetrics().height() * Zeilen_hoch};
+    setMinimumSize(Inhalt.expandedTo(gewohnt).boundedTo(screen()->availableSize() - Rand_des_Desktops));
 }
 
 void Hauptformular::stelle_Fenster_her() {

@@ -47,6 +47,7 @@ protected:
     void closeEvent(QCloseEvent* e) override;
     // What the control under the mouse can do, and what did not enter a field, in the status line.
     bool event(QEvent* e) override;
+    void changeEvent(QEvent* e) override;
     void keyPressEvent(QKeyEvent* e) override;
     // While the server is waited for, nothing of what the user does counts but Esc and the close box.
     bool eventFilter(QObject* Objekt, QEvent* e) override;
@@ -69,6 +70,8 @@ private:
     void oeffne_faelligen_Editor();
     void waehle_Fehlerzelle();
     void sichere_Zwischenstand();
+    // So that nothing is cut in the present font, as far as the screen is large enough for that.
+    void bestimme_kleinste_Groesse();
     void stelle_Fenster_her();
     void zeige_Info();
     void zeige_Versionsinfo();

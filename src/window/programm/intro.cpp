@@ -1,6 +1,7 @@
 #include "window/programm/intro.h"
 
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QVBoxLayout>
 
@@ -75,6 +76,11 @@ Intro::Intro(QWidget* parent) : QWidget(parent) {
 }
 
 void Intro::gib_Fokus() { Starten_->setFocus(Qt::OtherFocusReason); }
+
+void Intro::keyPressEvent(QKeyEvent* e) {
+    if (e->key() != Qt::Key_Return && e->key() != Qt::Key_Enter) return QWidget::keyPressEvent(e);
+    Starten_->click();
+}
 
 void Intro::paintEvent(QPaintEvent*) {
     QPainter p(this);

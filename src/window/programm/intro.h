@@ -18,6 +18,8 @@ Q_SIGNALS:
 
 protected:
     void paintEvent(QPaintEvent* e) override;
+    // Enter presses the only button.
+    void keyPressEvent(QKeyEvent* e) override;
 
 private:
     Schaltflaeche* Starten_;

@@ -43,12 +43,12 @@ Optionskasten erstelle_Optionskasten(const QString& Name, const QString& Titel, 
     for (int i = 0; i < Texte.size(); ++i) {
         auto* Option = new QRadioButton(Texte.at(i), Kasten);
         Option->setObjectName(Name + u'_' + in_Qt(i));
-        Option->setAccessibleDescription(Titel);
+        Option->setAccessibleName(Option->text() + u", "_s + ohne_Doppelpunkt(Titel));
         Gruppe->addButton(Option, i);
         Reihe->addWidget(Option);
     }
     Reihe->addStretch(1);
-    Gruppe->button(gewaehlt)->setChecked(true);
+    zeige_Option(*Gruppe, gewaehlt);
     return {Kasten, Gruppe};
 }
 

@@ -13,7 +13,6 @@ using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 Namensfeld::Namensfeld(const QString& Name, QWidget* parent) : Textfeld(Name, parent) {
-    setAccessibleName(u"Name:"_s);
     setMinimumWidth(fontMetrics().horizontalAdvance(u"Metabolite M1"_s));
 }
 

@@ -20,14 +20,13 @@ struct Zeilenart {
     const char16_t* Aufschrift;
     const char16_t* Liste;
     const char16_t* Endung;  // of the buttons' names
-    const char16_t* Gegenstand;
     Rahmenart Art;
 };
 constexpr std::array<Zeilenart, 4> Zeilenarten = {{
-    {u"Simulation:", u"Simulationsliste", u"Simulation", u"simulation", Rahmenart::schlicht},
-    {u"Pesticide:", u"Liste_1", u"1", u"pesticide", Rahmenart::Wirkstoff},
-    {u"Application pattern:", u"Liste_2", u"2", u"application pattern", Rahmenart::Applikation},
-    {u"Scenario:", u"Liste_3", u"3", u"scenario", Rahmenart::Szenario},
+    {u"Simulation:", u"Simulationsliste", u"Simulation", Rahmenart::schlicht},
+    {u"Pesticide:", u"Liste_1", u"1", Rahmenart::Wirkstoff},
+    {u"Application pattern:", u"Liste_2", u"2", Rahmenart::Applikation},
+    {u"Scenario:", u"Liste_3", u"3", Rahmenart::Szenario},
 }};
 
 enum Spalte { Schild_Spalte, Listenspalte, Zusatzspalte, Copy_Spalte, Loesch_Spalte, Umbenennspalte, Spaltenzahl };
@@ -71,7 +70,7 @@ Organiserzeile::Organiserzeile(Satzart Art, Sitzung& Programm, QWidget* parent)
 QPushButton* Organiserzeile::erstelle_Taste(const char16_t* Name, const QString& Aufschrift) {
     const Zeilenart& z = Zeilenarten[Satzart_];
     QPushButton* t = Dialogtaste(QString::fromUtf16(Name) + QString::fromUtf16(z.Endung), Aufschrift, this);
-    t->setAccessibleName(Aufschrift + u' ' + QString::fromUtf16(z.Gegenstand));
+    t->setAccessibleName(Aufschrift + u' ' + Satzgegenstand(Satzart_));
     return t;
 }
 

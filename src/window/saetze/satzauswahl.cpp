@@ -35,6 +35,11 @@ void Satzauswahl::keyPressEvent(QKeyEvent* e) {
     if (!Text.isEmpty()) view()->keyboardSearch(Text);
 }
 
+QString Satzgegenstand(Satzart Art) {
+    static constexpr std::array<const char16_t*, 4> Namen = {u"simulation", u"pesticide", u"application pattern", u"scenario"};
+    return QString::fromUtf16(Namen[Art]);
+}
+
 void sperre_Unwaehlbare(QComboBox& Liste, const std::vector<std::string>& Namen) {
     auto* Eintraege = qobject_cast<QStandardItemModel*>(Liste.model());
     for (int i = 0; i < Liste.count(); ++i) {

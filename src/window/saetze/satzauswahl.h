@@ -1,5 +1,6 @@
 #pragma once
 
+#include "records/projektordner.h"
 #include "window/kern/bausteine.h"
 
 namespace varnok {
@@ -14,6 +15,9 @@ public:
 protected:
     void keyPressEvent(QKeyEvent* e) override;
 };
+
+// What stands in such a list, as buttons beside it name it to a screen reader.
+QString Satzgegenstand(Satzart Art);
 
 // A record whose name no simulation can hold stays in its list and cannot be chosen.
 void sperre_Unwaehlbare(QComboBox& Liste, const std::vector<std::string>& Namen);

@@ -15,6 +15,7 @@ Satzliste::Satzliste(Satzart Art, const Namen& n, int Zeichen, Sitzung& Programm
     Neuer_Dateiname_ = new Umbenennfeld(u"Neuer_Dateiname_"_s + in_Qt(Art), *Liste);
     Copy = new Schaltflaeche(n.Copy, u"Copy"_s, &Traeger);
     Loeschen = new Schaltflaeche(n.Loeschen, u"Del"_s, &Traeger);
+    for (Schaltflaeche* b : {Copy, Loeschen}) b->setAccessibleName(b->text() + u' ' + Satzgegenstand(Art));
     verbinde_Bedienung();
 }
 

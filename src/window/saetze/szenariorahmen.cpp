@@ -49,6 +49,8 @@ Szenariorahmen::Szenariorahmen(Sitzung& Programm, QWidget* parent)
     Zeile->addSpacing(7);
     Zeile->addWidget(Schild(u"Climate:"_s, Klimaszenario_, this));
     Zeile->addWidget(Klimaszenario_, 1);
+    Bodenszenario_->setAccessibleName(u"Soil of the scenario"_s);
+    Klimaszenario_->setAccessibleName(u"Climate of the scenario"_s);
     Spalte->addLayout(Zeile);
     horche_auf(Satz_);
     connect(Edit_, &QPushButton::clicked, this, &Szenariorahmen::oeffne_Editor);

@@ -40,7 +40,7 @@ Tiefenfeld::Tiefenfeld(const QString& Groesse, const Beschriftung& b, QWidget* p
     for (int o = 0; o < 3; ++o) {
         auto* Option = new QRadioButton(b.Optionen[static_cast<std::size_t>(o)], parent);
         Option->setObjectName(u"Einstellung_"_s + Groesse + u'_' + in_Qt(o));
-        Option->setAccessibleDescription(b.Titel);
+        Option->setAccessibleName(Option->text().trimmed() + u", "_s + ohne_Doppelpunkt(b.Titel));
         Optionen_->addButton(Option, o);
         Raster.addWidget(Option, Zeile, 1 + o);
     }
@@ -70,11 +70,6 @@ void behalte_Platz(QWidget& w) {
     QSizePolicy Platz = w.sizePolicy();
     Platz.setRetainSizeWhenHidden(true);
     w.setSizePolicy(Platz);
-}
-
-void zeige_Option(QButtonGroup& Optionen, int o) {
-    Optionen.button(o)->setChecked(true);
-    for (QAbstractButton* b : Optionen.buttons()) b->setFocusPolicy(b->isChecked() ? Qt::StrongFocus : Qt::ClickFocus);
 }
 
 bool Tiefenfeld::eventFilter(QObject* Quelle, QEvent* e) {

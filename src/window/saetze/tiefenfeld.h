@@ -43,7 +43,4 @@ private:
 // What comes and goes leaves its place free.
 void behalte_Platz(QWidget& w);
 
-// Switches an option on; Tab comes to this one of its group.
-void zeige_Option(QButtonGroup& Optionen, int o);
-
 }  // namespace varnok

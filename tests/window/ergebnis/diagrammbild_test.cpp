@@ -55,7 +55,7 @@ private Q_SLOTS:
 
     void a_title_that_does_not_fit_has_two_lines() {
         p_->waehle_Simulation("Sugar beet, Compound E");
-        p_->Fenster().resize(p_->Fenster().minimumSize());
+        p_->Fenster().resize(900, 560);
         QTest::qWait(30);
         const auto* l = p_->Teil<QLabel>("Diagrammtitel_8");
         QCOMPARE(l->text().split(u'\n').size(), 2);

@@ -144,9 +144,10 @@ private Q_SLOTS:
                       "S_Welkepunkt", "S_Bodentiefe", "S_Plateautiefe", "S_Szenariotemperatur", "Klimaszenario"}) {
                     QVERIFY2(!Teil<QWidget>(f, Name)->accessibleName().isEmpty(), Name);
                 }
-                for (const char* Name : {"Einstellung_Bodentiefe_0", "Einstellung_Plateautiefe_2", "Klimabedingungen_1"}) {
-                    QVERIFY2(!Teil<QWidget>(f, Name)->accessibleDescription().isEmpty(), Name);
-                }
+                // Options of one caption tell what they are options of.
+                QCOMPARE(Teil<QWidget>(f, "Einstellung_Bodentiefe_2")->accessibleName(), u"Individual, Soil depth (cm)"_s);
+                QCOMPARE(Teil<QWidget>(f, "Einstellung_Plateautiefe_2")->accessibleName(), u"Individual, Tillage depth(cm)"_s);
+                QVERIFY(!Teil<QWidget>(f, "Klimabedingungen_1")->accessibleDescription().isEmpty());
             });
     }
 
