@@ -140,6 +140,7 @@ public:
     }
     void beende() override {
         if (neue_) neue_->beende();
+        if (wachsende_) wachsende_->beende();
     }
 
 private:

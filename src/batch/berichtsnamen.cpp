@@ -33,6 +33,16 @@ std::map<std::string, std::string> lies_Beschreibungen(const Projektordner& Ordn
     return Beschreibungen;
 }
 
+// Whether the name of a report of this description can be that of another one: an equal description, or a shorter one to which
+// a study, a simulation or another part of the name was added.
+bool ist_verwechselbar(const std::string& Beschreibung, const std::map<std::string, int>& Zahl) {
+    if (Zahl.at(Beschreibung) > 1) return true;
+    for (std::size_t i = Beschreibung.find(" - "); i != std::string::npos; i = Beschreibung.find(" - ", i + 1)) {
+        if (Zahl.contains(Beschreibung.substr(0, i))) return true;
+    }
+    return false;
+}
+
 }  // namespace
 
 Berichtsnamen::Berichtsnamen(const Projektordner& Ordner) {
@@ -41,7 +51,7 @@ Berichtsnamen::Berichtsnamen(const Projektordner& Ordner) {
     for (const auto& [Name, Beschreibung] : Beschreibungen) ++Zahl[gefaltet(Beschreibung)];
     std::set<std::string> vergeben;
     for (const auto& [Name, Beschreibung] : Beschreibungen) {
-        if (Zahl[gefaltet(Beschreibung)] == 1) continue;
+        if (!ist_verwechselbar(gefaltet(Beschreibung), Zahl)) continue;
         const std::string kurz = als_Dateiname(Name, {}, sicher_im_Namen);
         std::string Zusatz = " - " + kurz;
         // Names of simulations that differ in case, or in a character that no report can have.

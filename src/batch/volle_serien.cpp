@@ -98,7 +98,7 @@ void schreibe_volle_Serien(const std::string& Ordner, const std::string& Name, c
     for (const auto& s : r.Studien) {
         try {
             schreibe_Datei(Ordner + "/" + Name + " - study " + std::to_string(s->i_studie + 1) + ".csv",
-                           volle_Serie(*s, r.Sicht, Wetter));
+                           volle_Serie(*s, r.Sicht, Wetter), als_Datei);
         } catch (const Laufzeitfehler& f) {
             Schreibfehler.emplace_back(f.what());
         }

@@ -2,8 +2,11 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <cerrno>
+#include <system_error>
 
 #include "base/laufzeitfehler.h"
+#include "records/ersatzdatei.h"
 
 namespace varnok::batch {
 namespace {
@@ -39,8 +42,14 @@ void Zeilendatei::schreibe(std::string_view Zeilen) {
     }
 }
 
-void Zeilendatei::melde() const {
-    throw Laufzeitfehler("Cannot write the file \"" + Pfad_ + "\": " + Datei_->errorString().toStdString());
+void Zeilendatei::beende() {
+    if (!leere_auf_Platte(Datei_->handle())) melde(std::generic_category().message(errno));
+}
+
+void Zeilendatei::melde() const { melde(Datei_->errorString().toStdString()); }
+
+void Zeilendatei::melde(const std::string& Grund) const {
+    throw Laufzeitfehler("Cannot write the file \"" + Pfad_ + "\": " + Grund);
 }
 
 }  // namespace varnok::batch

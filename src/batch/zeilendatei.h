@@ -21,9 +21,12 @@ public:
 
     // Whole lines. Throws Laufzeitfehler that names the file and the reason.
     void schreibe(std::string_view Zeilen);
+    // Brings all of it to the disk; throws likewise.
+    void beende();
 
 private:
     [[noreturn]] void melde() const;
+    [[noreturn]] void melde(const std::string& Grund) const;
 
     std::string Pfad_;
     std::unique_ptr<QFile> Datei_;

@@ -26,6 +26,12 @@ std::string zufaelliger_Name() {
 
 }  // namespace
 
+bool leere_auf_Platte(int Datei) {
+    if (fsync(Datei) == 0) return true;
+    constexpr std::array nicht_vorgesehen = {EINVAL, ENOSYS, EOPNOTSUPP};  // pipes, and file systems without a flush
+    return std::find(nicht_vorgesehen.begin(), nicht_vorgesehen.end(), errno) != nicht_vorgesehen.end();
+}
+
 Ersatzdatei::Ersatzdatei(std::string Ziel, bool wie_sie_steht) : Ziel_(std::move(Ziel)), wie_sie_steht_(wie_sie_steht) {}
 
 Ersatzdatei::~Ersatzdatei() { verwirf(); }
@@ -79,16 +85,8 @@ bool Ersatzdatei::schreibe(std::string_view Stueck) {
     return true;
 }
 
-// What a network drive or a quota refuses may show only here.
-bool Ersatzdatei::leere() {
-    if (fsync(Datei_) == 0) return true;
-    constexpr std::array nicht_vorgesehen = {EINVAL, ENOSYS, EOPNOTSUPP};  // pipes, and file systems without a flush
-    const bool unwichtig = std::find(nicht_vorgesehen.begin(), nicht_vorgesehen.end(), errno) != nicht_vorgesehen.end();
-    return unwichtig || scheitere(errno);
-}
-
 bool Ersatzdatei::beende() {
-    if (!leere()) return false;
+    if (!leere_auf_Platte(Datei_)) return scheitere(errno);
     if (close(std::exchange(Datei_, -1)) != 0 && errno != EINTR) return scheitere(errno);
     if (neue_.empty()) return true;
     if (std::rename(neue_.c_str(), Ziel_.c_str()) != 0) return scheitere(errno);

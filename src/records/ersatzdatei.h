@@ -5,6 +5,9 @@
 
 namespace varnok {
 
+// Brings an open file to the disk. What a network drive or a quota refuses may show only here; false with the reason in `errno`.
+bool leere_auf_Platte(int Datei);
+
 // The new content of a file while it is written: beside the old one, under a name that nobody can foresee, and in its place at
 // the end. What was not ended leaves nothing. The routines give false where they fail; `Grund` says why.
 class Ersatzdatei {
@@ -23,7 +26,6 @@ public:
 private:
     bool scheitere(int Fehlernummer);
     bool oeffne_neue();
-    bool leere();
     void verwirf();
 
     std::string Ziel_;

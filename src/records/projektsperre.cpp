@@ -6,6 +6,8 @@
 #include <QSysInfo>
 #include <algorithm>
 
+#include "records/schreibort.h"
+
 namespace varnok {
 namespace {
 
@@ -28,7 +30,7 @@ Projektsperre::~Projektsperre() = default;
 // A link would be read where it leads to, a pipe would never be read to its end.
 bool Projektsperre::ist_brauchbar() const {
     const QFileInfo Vorhandene(Datei_->fileName());
-    if (Vorhandene.isSymLink()) return false;
+    if (Vorhandene.isSymLink() || !ist_beschreibbar(Vorhandene.path().toStdString())) return false;
     return !Vorhandene.exists() || (Vorhandene.isFile() && Vorhandene.size() <= Hoechstgroesse);
 }
 

@@ -79,12 +79,20 @@ void raeume_Unfertiges(const QDir& Alle, const Projektordner& Ordner) {
     }
 }
 
+QString neuer_unfertiger_Name() { return unfertig + QUuid::createUuid().toString(QUuid::WithoutBraces); }
+
+// First it is called a backup no more: a program that is killed meanwhile leaves none with half of its files.
+void entferne_Sicherung(const QDir& Alle, const QString& Name, const Projektordner& Ordner) {
+    const QString weg = neuer_unfertiger_Name();
+    if (QDir(Alle.path()).rename(Name, weg)) entferne_Ordner(Alle.filePath(weg).toStdString(), Ordner.Pfad());
+}
+
 // The one just made stays also where the clock was put back.
 void raeume_auf(const QDir& Alle, const QString& neu, const Projektordner& Ordner) {
     QStringList Namen = eigene_Ordner(Alle);
     Namen.removeAll(neu);
     while (static_cast<std::size_t>(Namen.size()) >= Hoechstzahl_Sicherungen) {
-        entferne_Ordner(Alle.filePath(Namen.takeFirst()).toStdString(), Ordner.Pfad());
+        entferne_Sicherung(Alle, Namen.takeFirst(), Ordner);
     }
     raeume_Unfertiges(Alle, Ordner);
 }
@@ -112,14 +120,15 @@ void fuelle(const std::string& Ort, const std::vector<Sicherungsstueck>& Stuecke
 std::string sichere(const Projektordner& Ordner, const Uhr& Zeit, const std::vector<Sicherungsstueck>& Stuecke) {
     if (Stuecke.empty()) return {};
     const QDir Alle = alle_Sicherungen(Ordner);
+    const bool erste = !Alle.exists();
+    lege_Ordner_an(Alle.path().toStdString(), Ordner.Pfad());
     std::vector<Sicherungsstueck> neue = mit_passenden_Namen(Stuecke);
     if (const QStringList vorhandene = eigene_Ordner(Alle); !vorhandene.isEmpty()) {
         const std::string letzte = Alle.filePath(vorhandene.back()).toStdString();
         std::erase_if(neue, [&](const Sicherungsstueck& s) { return liegt_in(letzte, s); });
         if (neue.empty()) return "backup/" + vorhandene.back().toStdString();
     }
-    const std::string Ort = Alle.filePath(unfertig + QUuid::createUuid().toString(QUuid::WithoutBraces)).toStdString();
-    const bool erste = !Alle.exists();
+    const std::string Ort = Alle.filePath(neuer_unfertiger_Name()).toStdString();
     QString Name;
     try {
         fuelle(Ort, neue, Ordner);

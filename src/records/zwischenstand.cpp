@@ -1,11 +1,10 @@
 #include "records/zwischenstand.h"
 
-#include <QDir>
 #include <QFileInfo>
 
-#include "base/laufzeitfehler.h"
 #include "base/zahlen.h"
 #include "records/dateien.h"
+#include "records/schreibort.h"
 
 namespace varnok {
 namespace {
@@ -14,6 +13,12 @@ constexpr int groesstes_Stueck = int{Hoechstgroesse_Datei};
 constexpr std::string_view Kopf = "VARNOK unsaved values\r\n";
 
 std::string Ort(const Projektordner& Ordner) { return Ordner.Unterordner("backup") + "/unsaved"; }
+
+// A link is nothing that this program left there, and neither is a file in a folder outside of the project.
+bool liegt_da(const Projektordner& Ordner) {
+    const QFileInfo Datei(QString::fromStdString(Ort(Ordner)));
+    return Datei.isFile() && !Datei.isSymLink() && !liegt_ausserhalb(Ort(Ordner), Ordner.Pfad());
+}
 
 // Name and size in a line, then the bytes: whatever they hold.
 void haenge_an(std::string& Text, const std::string& Name, const std::string& Bytes) {
@@ -58,20 +63,17 @@ std::optional<Zwischenstand> zerlege_Zwischenstand(const std::string& Bytes) {
     return z;
 }
 
-std::optional<std::string> lies_Zwischenstand(const Projektordner& Ordner) { return lies_Datei_falls_moeglich(Ort(Ordner)); }
+std::optional<std::string> lies_Zwischenstand(const Projektordner& Ordner) {
+    return liegt_da(Ordner) ? std::optional(lies_Datei(Ort(Ordner))) : std::nullopt;
+}
 
 void schreibe_Zwischenstand(const Projektordner& Ordner, const Zwischenstand& z) {
-    const QString Ziel = QString::fromStdString(Ort(Ordner));
-    const QDir Alle(QString::fromStdString(Ordner.Unterordner("backup")));
-    if (!Alle.mkpath(QStringLiteral("."))) throw Laufzeitfehler("Cannot make the folder \"" + Alle.path().toStdString() + "\"");
-    if (QFileInfo(Ziel).isSymLink() || QFileInfo(Alle.path()).isSymLink())
-        throw Laufzeitfehler("\"" + Ziel.toStdString() + "\" is not written: a link stands there");
-    schreibe_Datei(Ziel.toStdString(), als_Bytes(z));
+    lege_Ordner_an(Ordner.Unterordner("backup"), Ordner.Pfad());
+    schreibe_Datei(Ort(Ordner), als_Bytes(z), {Schreibweise::ungefragt, Ordner.Pfad()});
 }
 
 void loesche_Zwischenstand(const Projektordner& Ordner) {
-    const std::string Ziel = Ort(Ordner);
-    if (QFileInfo(QString::fromStdString(Ziel)).isFile()) loesche_Datei(Ziel);
+    if (liegt_da(Ordner)) loesche_Datei(Ort(Ordner));
 }
 
 }  // namespace varnok

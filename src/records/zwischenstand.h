@@ -24,7 +24,7 @@ struct Zwischenstand {
 std::string als_Bytes(const Zwischenstand& z);
 std::optional<Zwischenstand> zerlege_Zwischenstand(const std::string& Bytes);
 
-// The bytes of the file, nothing without one.
+// The bytes of the file, nothing without one. Throws Laufzeitfehler where there is one that cannot be read.
 std::optional<std::string> lies_Zwischenstand(const Projektordner& Ordner);
 // In one step: the state before or this one. Throws Laufzeitfehler; also where a link would lead out of the project.
 void schreibe_Zwischenstand(const Projektordner& Ordner, const Zwischenstand& z);

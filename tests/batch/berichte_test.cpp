@@ -117,6 +117,24 @@ TEST_F(Berichte, descriptions_that_are_equal_but_for_case_and_forbidden_characte
                 testing::ElementsAre("Another.rtf", "Field A_B - a.rtf", "Field A_B - c.rtf", "field a_b - b.rtf"));
 }
 
+TEST_F(Berichte, descriptions_that_look_like_another_one_with_its_additions_are_told_apart) {
+    Probe zwei;
+    fuege_Studie_an(zwei, "Second");
+    zwei.Felder.Parameter.Ausgabename_Teile[1] = 0;
+    zwei.Felder.Beschreibung = "Field";
+    Projekt.schreibe("a", zwei);  // its reports end in " - study 1" and " - study 2"
+    for (const auto& [Name, Beschreibung] :
+         std::map<std::string, std::string>{{"b", "Field - study 2"}, {"c", "Crop"}, {"d", "crop"}, {"e", "Crop - d"}}) {
+        Probe p;
+        p.Felder.Beschreibung = Beschreibung;
+        Projekt.schreibe(Name, p);
+    }
+    const auto r = rufe({"--all", "--report", Projekt.daneben("reports"), Projekt.Pfad()});
+    EXPECT_EQ(r.Status, 0) << r.fehler;
+    EXPECT_THAT(Namen("reports"), testing::ElementsAre("Crop - c.rtf", "Crop - d - e.rtf", "Field - study 1.rtf",
+                                                       "Field - study 2 - b.rtf", "Field - study 2.rtf", "crop - d.rtf"));
+}
+
 TEST_F(Berichte, names_of_simulations_that_differ_in_case_are_told_apart) {
     Projekt.schreibe("case");
     Projekt.schreibe_Bytes("Case.vnk", Inhalt(Projekt.Eingabedatei("case.vnk")));

@@ -113,37 +113,86 @@ def pruefe_Meldungen(lauf):
     assert not steuernde, f"control characters in a message: {text[:400]!r}"
 
 
-def main(stapelprogramm, sitzung, daten):
+def mit_Links(projekt, fremd):
+    verknuepfe(projekt, fremd)
+    stelle_fallen(projekt)
+    feindliche_texte(projekt)
+    os.mkfifo(projekt / "backup" / "unsaved")
+
+
+def mit_fremden_Ordnern(projekt, fremd):
+    """What the program makes itself is a link to a folder of the user, who has files of these names."""
+    eigener = fremd / "a folder"
+    sicherung = eigener / "2001-01-01 00-00-00"
+    sicherung.mkdir()
+    for pfad in (eigener / "unsaved", sicherung / "Programcheck.che", eigener / "test.txt"):
+        pfad.write_text("of the user\n")
+    (eigener / "unfinished 1").mkdir()
+    os.utime(eigener / "unfinished 1", (1e9, 1e9))
+    (projekt / "backup").symlink_to(eigener)
+    (projekt / "output").symlink_to(eigener)
+
+
+def mit_fremdem_Zwischenstand(projekt, fremd):
+    (projekt / "backup").mkdir()
+    (projekt / "backup" / "unsaved").symlink_to(fremd / "mine.txt")
+    (projekt / "input" / "copy of Programcheck.sce").symlink_to(fremd / "mine.txt")
+    (projekt / "output").mkdir()
+    os.mkfifo(projekt / "output" / "test.txt")
+
+
+def lege_projekt_an(projekt, daten):
+    shutil.copytree(Path(daten) / "input", projekt / "input")
+    for datei in (projekt / "input").iterdir():
+        os.utime(datei, (1e9, 1e9))
+
+
+def rechne_im_stapel(stapelprogramm, projekt, umgebung):
+    ausgaben = projekt / ("results" if (projekt / "output").is_symlink() else "output")
+    ausgaben.mkdir(exist_ok=True)
+    lauf = rufe(stapelprogramm, "--all", "--csv", ausgaben / "run.csv", "--report", ausgaben, "--extended", projekt, cwd=projekt,
+                env=umgebung)
+    pruefe_Meldungen(lauf)
+    assert (ausgaben / "run.csv").is_file() and not (ausgaben / "run.csv").is_symlink()
+    return lauf
+
+
+def probiere(gestalte, stapelprogramm, sitzung, daten, pruefe):
     with tempfile.TemporaryDirectory() as wurzel:
         wurzel = Path(wurzel)
         fremd, projekt = wurzel / "outside", wurzel / "project"
         fremd.mkdir()
         projekt.mkdir()
         lege_fremdes_an(fremd)
-        shutil.copytree(Path(daten) / "input", projekt / "input")
-        for datei in (projekt / "input").iterdir():
-            os.utime(datei, (1e9, 1e9))
-        verknuepfe(projekt, fremd)
-        stelle_fallen(projekt)
-        feindliche_texte(projekt)
+        lege_projekt_an(projekt, daten)
+        gestalte(projekt, fremd)
         os.utime(projekt / "input" / "Programcheck.vnk")
         vorher, daneben = verzeichnis(fremd), set(os.listdir(wurzel))
         umgebung = dict(os.environ, HOME=str(fremd), QT_QPA_PLATFORM="offscreen", VARNOK_PROBEPROJEKT=str(projekt))
-        del_lauf = rufe(stapelprogramm, "--all", "--csv", projekt / "output" / "run.csv", "--report", projekt / "output", "--extended",
-                        projekt, cwd=projekt, env=umgebung)
-        assert del_lauf.returncode == 1, del_lauf.stderr.decode(errors="replace")  # the records at fault are told
-        pruefe_Meldungen(del_lauf)
-        assert (projekt / "output" / "run.csv").is_file() and not (projekt / "output" / "run.csv").is_symlink()
-        for verboten in ("VARNOK.ini", "Diagram.txt", "input/Programcheck.che"):
-            assert rufe(stapelprogramm, "--csv", projekt / verboten, projekt, env=umgebung).returncode == 2, verboten
+        lauf = rechne_im_stapel(stapelprogramm, projekt, umgebung)
         tag = rufe(sitzung, "--gtest_filter=Auftrag.Ein_Tag", cwd=projekt, env=umgebung)
         assert tag.returncode == 0 and b"SKIPPED" not in tag.stdout, tag.stdout.decode(errors="replace")[-4000:]
+        pruefe(projekt, lauf, umgebung)
         nachher = verzeichnis(fremd)
         anders = {n for n in vorher.keys() | nachher.keys() if vorher.get(n) != nachher.get(n)}
         assert not anders, f"changed outside of the project: {sorted(anders)}"
         assert set(os.listdir(wurzel)) == daneben
+
+
+def main(stapelprogramm, sitzung, daten):
+    def pruefe_Links(projekt, lauf, umgebung):
+        assert lauf.returncode == 1, lauf.stderr.decode(errors="replace")  # the records at fault are told
+        for verboten in ("VARNOK.ini", "Diagram.txt", "input/Programcheck.che"):
+            assert rufe(stapelprogramm, "--csv", projekt / verboten, projekt, env=umgebung).returncode == 2, verboten
         for name in ("backup/2001-01-01 00-00-00", "output/test.txt"):
             assert (projekt / name).is_symlink(), f"{name}: what the program was not asked for stays as it was"
+
+    def pruefe_sonst(projekt, lauf, umgebung):
+        assert lauf.returncode == 0, lauf.stderr.decode(errors="replace")
+
+    probiere(mit_Links, stapelprogramm, sitzung, daten, pruefe_Links)
+    probiere(mit_fremden_Ordnern, stapelprogramm, sitzung, daten, pruefe_sonst)
+    probiere(mit_fremdem_Zwischenstand, stapelprogramm, sitzung, daten, pruefe_sonst)
     print("nothing outside changed")
     return 0
 

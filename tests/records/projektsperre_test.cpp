@@ -65,5 +65,14 @@ TEST(ProjektsperreDeathTest, a_folder_in_which_nothing_can_be_written_is_nobodys
     fs::permissions(o.Pfad(), fs::perms::owner_all);
 }
 
+TEST(ProjektsperreDeathTest, nothing_is_asked_of_another_machine_where_nothing_can_be_written) {
+    const Probeordner o;
+    schreibe(o.Pfad() + "/.varnok.lock", "4711\nvarnok\nlaboratory\n\n\n");
+    EXPECT_TRUE(Projektsperre(o.Ordner()).von_anderem_gehalten());
+    fs::permissions(o.Pfad(), fs::perms(0555));
+    EXPECT_EXIT(ohne_Rechte(o.Pfad()), ::testing::ExitedWithCode(0), "");
+    fs::permissions(o.Pfad(), fs::perms::owner_all);
+}
+
 }  // namespace
 }  // namespace varnok

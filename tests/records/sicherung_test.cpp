@@ -175,6 +175,14 @@ TEST_F(Sicherung_mit_Links, backup_that_is_a_link_to_outside_is_not_writable) {
     EXPECT_TRUE(Sicherungen(Ort_.Ordner()).empty());
 }
 
+TEST_F(Sicherung_mit_Links, what_lies_in_a_folder_outside_does_not_count_as_kept) {
+    fs::remove(Ort_.Pfad() + "/backup");
+    fs::create_directories(fremd_.Pfad("2001-01-01 00-00-00"));
+    schreibe(fremd_.Pfad("2001-01-01 00-00-00/a.che"), "1");
+    fs::create_directory_symlink(fremd_.Pfad(), Ort_.Pfad() + "/backup");
+    EXPECT_THROW(sichere(Ort_.Ordner(), Uhr_, {{"a.che", "1"}}), Laufzeitfehler);
+}
+
 TEST_F(Sicherung_mit_Links, backup_that_is_a_link_to_nothing_makes_nothing_there) {
     fs::remove(Ort_.Pfad() + "/backup");
     fs::create_directory_symlink(fremd_.Pfad("none"), Ort_.Pfad() + "/backup");

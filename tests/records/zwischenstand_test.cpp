@@ -1,6 +1,7 @@
 #include "records/zwischenstand.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <filesystem>
 #include <fstream>
@@ -54,6 +55,32 @@ TEST(Zwischenstand, is_never_written_through_a_link) {
     fs::create_directory_symlink(anderer.Pfad(), Ort.Pfad() + "/backup");
     EXPECT_THROW(schreibe_Zwischenstand(Ort.Ordner(), Beispiel), Laufzeitfehler);
     EXPECT_FALSE(fs::exists(fs::path(anderer.Pfad()) / "unsaved"));
+}
+
+TEST(Zwischenstand, behind_a_link_is_neither_read_nor_removed) {
+    const probe::Probeordner Ort, anderer;
+    const fs::path fremde = fs::path(anderer.Pfad()) / "unsaved";
+    std::ofstream(fremde) << "mine";
+    fs::create_directory_symlink(anderer.Pfad(), Ort.Pfad() + "/backup");
+    EXPECT_EQ(lies_Zwischenstand(Ort.Ordner()), std::nullopt);
+    loesche_Zwischenstand(Ort.Ordner());
+    EXPECT_TRUE(fs::exists(fremde));
+    fs::remove(Ort.Pfad() + "/backup");
+    fs::create_directories(Ort.Pfad() + "/backup");
+    fs::create_symlink(fremde, Ort.Pfad() + "/backup/unsaved");
+    EXPECT_EQ(lies_Zwischenstand(Ort.Ordner()), std::nullopt);
+    loesche_Zwischenstand(Ort.Ordner());
+    EXPECT_TRUE(fs::is_symlink(Ort.Pfad() + "/backup/unsaved"));
+}
+
+TEST(Zwischenstand, pipe_in_its_place_makes_nobody_wait) {
+    const probe::Probeordner Ort;
+    fs::create_directories(Ort.Pfad() + "/backup");
+    ASSERT_EQ(mkfifo((Ort.Pfad() + "/backup/unsaved").c_str(), 0600), 0);
+    EXPECT_EQ(lies_Zwischenstand(Ort.Ordner()), std::nullopt);
+    EXPECT_THROW(schreibe_Zwischenstand(Ort.Ordner(), Beispiel), Laufzeitfehler);
+    loesche_Zwischenstand(Ort.Ordner());
+    EXPECT_TRUE(fs::exists(Ort.Pfad() + "/backup/unsaved"));
 }
 
 }  // namespace

@@ -73,4 +73,14 @@ ssize_t write(int Nummer, const void* Bytes, size_t Anzahl) {
     return -1;
 }
 
+// A database writes at places of its own.
+ssize_t pwrite64(int Nummer, const void* Bytes, size_t Anzahl, off64_t Stelle) {
+    static const auto echt = naechste<ssize_t (*)(int, const void*, size_t, off64_t)>("pwrite64");
+    if (!ist_Datei(Nummer) || !Schreiber().versagt()) return echt(Nummer, Bytes, Anzahl, Stelle);
+    errno = ENOSPC;
+    return -1;
+}
+
+ssize_t pwrite(int Nummer, const void* Bytes, size_t Anzahl, off_t Stelle) { return pwrite64(Nummer, Bytes, Anzahl, Stelle); }
+
 }  // extern "C"

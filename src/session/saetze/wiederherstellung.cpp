@@ -1,6 +1,7 @@
 #include "session/saetze/wiederherstellung.h"
 
 #include <algorithm>
+#include <exception>
 #include <optional>
 #include <string_view>
 #include <utility>
@@ -140,14 +141,22 @@ void Wiederherstellung::stelle_her(const std::vector<Gesichertes>& Gewaehlte) {
     const std::string gesichert = std::exchange(z_.Statuszeile, "");
     std::string Namen;
     std::vector<Satzart> gezeigte;
+    std::exception_ptr Fehler;  // what came back before it is told and shown all the same
     for (const Auftrag& a : Auftraege) {
-        schreibe_Datei(a.Pfad, a.Bytes, als_Satz);
+        try {
+            schreibe_Datei(a.Pfad, a.Bytes, als_Satz);
+        } catch (const Laufzeitfehler&) {
+            Fehler = std::current_exception();
+            break;
+        }
         Namen += (Namen.empty() ? "\"" : ", \"") + a.Name + Endungen[a.Art] + "\"";
         if (steht_auf_dem_Schirm(a)) gezeigte.push_back(a.Art);
     }
     Saetze_.lies_neu(gezeigte);
-    const std::string weiteres = std::exchange(z_.Statuszeile, "Restored: " + Namen + ".");
-    for (const std::string& Text : {weiteres, gesichert}) z_.Statuszeile += (Text.empty() ? "" : " ") + Text;
+    const std::string weiteres = std::exchange(z_.Statuszeile, Namen.empty() ? "" : "Restored: " + Namen + ".");
+    for (const std::string& Text : {weiteres, gesichert})
+        z_.Statuszeile += (Text.empty() || z_.Statuszeile.empty() ? "" : " ") + Text;
+    if (Fehler) std::rethrow_exception(Fehler);
 }
 
 }  // namespace varnok

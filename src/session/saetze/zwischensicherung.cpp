@@ -15,7 +15,13 @@ Zwischenstand Zwischensicherung::jetziger() const {
 }
 
 bool Zwischensicherung::biete_an() {
-    const auto Bytes = zustaendig() ? lies_Zwischenstand(*z_.Ordner) : std::nullopt;
+    std::optional<std::string> Bytes;
+    try {
+        if (zustaendig()) Bytes = lies_Zwischenstand(*z_.Ordner);
+    } catch (const Laufzeitfehler& Fehler) {
+        unerledigt_ = true;
+        melde(z_, Texte::Laufzeitfehler, Fehler.what());
+    }
     if (!Bytes) return false;
     const auto Stand = zerlege_Zwischenstand(*Bytes);
     Sicherungsgut Gut{{{"unsaved values", *Bytes}}, {}};

@@ -59,7 +59,7 @@ Wiederherstellungsfenster::Wiederherstellungsfenster(const Sitzung& Programm, QW
     Blatt->addWidget(Liste_, 3);
     Blatt->addWidget(Unterschiede_, 2);
     Blatt->addLayout(Tasten);
-    resize(Ziffern(*this, 90), 24 * Zeilenhoehe(*this));
+    resize(Ziffern(*this, 90), 20 * Zeilenhoehe(*this));
 
     connect(Liste_, &QTreeWidget::currentItemChanged, this, &Wiederherstellungsfenster::zeige_Unterschiede);
     connect(Liste_, &QTreeWidget::itemChanged, this, &Wiederherstellungsfenster::zeige_Wahl);

@@ -36,6 +36,7 @@ protected:
         s_->fuehre_aus<&Feldeingabe::betrete>(f);
         s_->fuehre_aus<&Feldeingabe::aendere>(f, std::to_string(100 + ++Zahl_ % 900));
         s_->fuehre_aus<&Feldeingabe::verlasse>(f);
+        s_->fuehre_aus<&Zwischensicherung::schreibe>();  // as the window does when it has been drawn
     }
     void stelle_wieder_her() {
         const auto Angebot = s_->zeige<Wiederherstellung>().Angebot();

@@ -1,10 +1,9 @@
 // A project folder without the right to write: everything can be looked at, changed and calculated.
 
-#include <unistd.h>
-
 #include <fstream>
 
 #include "session/kern/probesitzung.h"
+#include "support/ohne_rechte.h"
 
 namespace varnok {
 namespace {
@@ -13,21 +12,16 @@ namespace fs = std::filesystem;
 
 constexpr const char* Titel = "Runtime error";
 
-// Access rights bind nobody who is root, so the test gives that up for its time.
 class Nur_lesen : public Probesitzung {
 protected:
     Nur_lesen() {
         schreibe_Saetze("Other", Felder_);
         schreibe_Simulation(Projektordner(Wurzel_.string()), "Second", {"Another", {"", "Other", "Other", "Other"}});
         std::ofstream(Wurzel_ / "VARNOK.ini") << "";
-        for (const fs::path& p : {Wurzel_ / "input", Wurzel_}) fs::permissions(p, fs::perms(0555));
-        if (geteuid() == 0) entzogen_ = seteuid(65534) == 0;
+        entziehe();
     }
-    ~Nur_lesen() override {
-        s_.reset();
-        if (entzogen_ && seteuid(0) != 0) ADD_FAILURE() << "the rights did not come back";
-        for (const fs::path& p : {Wurzel_, Wurzel_ / "input"}) fs::permissions(p, fs::perms::owner_all);
-    }
+    ~Nur_lesen() override { s_.reset(); }
+    void entziehe() { Rechte_.emplace(std::vector{Wurzel_ / "input", Wurzel_}); }
     const Zustand& z() const { return s_->Stand(); }
     std::vector<std::string> Dateien() const {
         std::vector<std::string> Namen;
@@ -39,7 +33,7 @@ protected:
         Fragen_.erwarte_Anfang(Titel, "The project folder \"" + Wurzel_.string() + "\" is open for reading only");
     }
 
-    bool entzogen_ = false;
+    std::optional<Ohne_Schreibrecht> Rechte_;
 };
 
 TEST_F(Nur_lesen, it_opens_calculates_and_ends_without_a_question) {
@@ -114,6 +108,37 @@ TEST_F(Nur_lesen, the_close_box_ends_like_that_too) {
     EXPECT_FALSE(s_->fuehre_aus<&Programmablauf::schliesse_Fenster>());
     Fragen_.erwarte_Anfang("Save changes?", "You modified", Knopf::Nein);
     EXPECT_TRUE(s_->fuehre_aus<&Programmablauf::schliesse_Fenster>());
+}
+
+TEST_F(Nur_lesen, another_machine_that_has_the_folder_open_is_not_asked_about) {
+    Rechte_.reset();
+    std::ofstream(Wurzel_ / ".varnok.lock") << "4711\nvarnok\nlaboratory\n\n\n";
+    entziehe();
+    gestartet();
+    EXPECT_FALSE(z().abgedeckt());
+}
+
+TEST_F(Nur_lesen, what_an_earlier_program_left_unsaved_stays_until_the_folder_can_be_written) {
+    Rechte_.reset();
+    gestartet();
+    tippe("S_DT50_0", "12");
+    s_->fuehre_aus<&Zwischensicherung::schreibe>();
+    s_.reset();  // killed
+    const std::string Stand = Datei("backup/unsaved");
+    ASSERT_NE(Stand, "");
+    entziehe();
+    gestartet();
+    EXPECT_NE(s_->zeige<Feldeingabe>().Text(Feld("S_DT50_0")), "12");
+    tippe("S_DT50_0", "13");
+    s_->fuehre_aus<&Zwischensicherung::schreibe>();
+    Fragen_.erwarte_Anfang("Save changes?", "You modified", Knopf::Nein);
+    s_->fuehre_aus<&Programmablauf::beende>();
+    EXPECT_TRUE(z().beendet);
+    EXPECT_EQ(Datei("backup/unsaved"), Stand);
+    Rechte_.reset();
+    Fragen_.erwarte_Anfang("Unsaved values", "The program did not come to its end the last time.", Knopf::Ja);
+    gestartet();
+    EXPECT_EQ(s_->zeige<Feldeingabe>().Text(Feld("S_DT50_0")), "12");
 }
 
 TEST_F(Nur_lesen, the_organiser_hands_over_what_was_chosen_and_writes_nothing) {

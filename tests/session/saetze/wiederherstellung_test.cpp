@@ -4,6 +4,7 @@
 #include <fstream>
 
 #include "session/kern/probesitzung.h"
+#include "support/versager.h"
 
 namespace varnok {
 namespace {
@@ -135,6 +136,31 @@ TEST_F(Restoreprobe, a_backup_full_of_links_offers_none_of_them) {
     fs::create_directory_symlink("/etc", Wurzel_ / "backup/2026-01-02 10-00-00");
     nur_geladen();
     EXPECT_TRUE(Angebot().empty());
+}
+
+// ---- a disk that fails, see tests/versager
+
+class Versagende_Platte_beim_Restore : public Restoreprobe {
+protected:
+    void SetUp() override {
+        if (!Versager::geladen()) GTEST_SKIP() << "needs the library of tests/versager, see the test of that name";
+    }
+};
+
+TEST_F(Versagende_Platte_beim_Restore, what_came_back_before_it_failed_is_told_and_on_the_screen) {
+    lege_in_Sicherung("2026-01-01 10-00-00", "Probe.app", "not as now\r\n");
+    lege_in_Sicherung("2026-01-02 10-00-00", "Probe.che", Wirkstoffsatz("Old one"));
+    gestartet();
+    const std::string vorher = Datei("input/Probe.app");
+    const auto Gewaehlte = suche({"Probe.che", "Probe.app"});
+    ASSERT_EQ(Gewaehlte[0].Dateiname, "Probe.che");
+    const Versager Platte(0, 4);  // two that are replaced, and the compound record
+    Fragen_.erwarte_Anfang("Runtime error", "Cannot write the file \"" + (Wurzel_ / "input/Probe.app").string());
+    s_->fuehre_aus<&Wiederherstellung::stelle_her>(Gewaehlte);
+    EXPECT_EQ(Datei("input/Probe.che"), Wirkstoffsatz("Old one"));
+    EXPECT_EQ(z().Felder().Name_Wirkstoff, "Old one");
+    EXPECT_TRUE(z().Statuszeile.starts_with("Restored: \"Probe.che\".")) << z().Statuszeile;
+    EXPECT_EQ(Datei("input/Probe.app"), vorher);
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <fstream>
 
 #include "session/saetze/organiserprobe.h"
+#include "support/ohne_rechte.h"
 
 namespace varnok {
 namespace {
@@ -152,6 +153,63 @@ TEST_F(Absturz, what_cannot_be_written_is_told_once) {
         gezeichnet();
     }
     EXPECT_EQ(z().Statuszeile, "");
+}
+
+// ---- what the start before left and cannot be put into `backup`
+
+TEST_F(Absturz, values_that_cannot_be_kept_at_the_start_stay_and_are_offered_again) {
+    gestartet();
+    ASSERT_TRUE(tippe("S_DT50_0", "12"));
+    gezeichnet();
+    s_.reset();
+    const std::string Stand = Datei("backup/unsaved");
+    std::filesystem::remove_all(Wurzel_ / "output");
+    for (const auto& p : {Wurzel_, Wurzel_ / "input"}) std::filesystem::permissions(p, std::filesystem::perms(0777));
+    for (const Knopf weiter : {Knopf::Nein, Knopf::nicht_jetzt}) {
+        const Ohne_Schreibrecht Rechte({Wurzel_ / "backup"});
+        Fragen_.erwarte_Anfang("Unsaved values", "The program did not", Knopf::Ja)
+            .erwarte_Anfang("Runtime error", "Cannot make the folder", weiter);
+        gestartet();
+        EXPECT_FALSE(z().nur_lesbar);
+        EXPECT_EQ(Feldtext("S_DT50_0"), "12");
+        ASSERT_TRUE(tippe("S_DT50_0", "13"));
+        gezeichnet();
+        EXPECT_EQ(Datei("backup/unsaved"), Stand) << "the values of this session do not take its place";
+        Fragen_.erwarte_Anfang("Save changes?", "You modified", Knopf::Nein)
+            .erwarte_Anfang("Runtime error", "Cannot make the folder", Knopf::Ja);
+        s_->fuehre_aus<&Programmablauf::schliesse_Fenster>();
+        EXPECT_TRUE(z().beendet);
+        s_.reset();
+        EXPECT_EQ(Datei("backup/unsaved"), Stand) << "nor does a clean end remove it";
+    }
+    starte_neu(Knopf::Ja);
+    EXPECT_EQ(Feldtext("S_DT50_0"), "12");
+    EXPECT_FALSE(liegt_da());
+    EXPECT_TRUE(Gesichertes().contains("unsaved Probe.che"));
+}
+
+TEST_F(Absturz, a_file_larger_than_any_state_is_told_and_stays) {
+    std::filesystem::create_directories(Wurzel_ / "backup");
+    std::ofstream(Wurzel_ / "backup/unsaved") << "mine";
+    std::filesystem::resize_file(Wurzel_ / "backup/unsaved", std::size_t{1} << 30);  // takes no room
+    Fragen_.erwarte_Anfang("Runtime error", "Cannot read the file");
+    gestartet();
+    EXPECT_FALSE(z().abgedeckt());
+    s_->fuehre_aus<&Programmablauf::beende>();
+    EXPECT_TRUE(z().beendet);
+    EXPECT_TRUE(liegt_da());
+}
+
+TEST_F(Absturz, in_a_folder_that_is_a_link_to_outside_nothing_is_offered_or_removed) {
+    const std::filesystem::path fremd = Wurzel_.string() + " elsewhere";
+    std::filesystem::create_directories(fremd);
+    std::ofstream(fremd / "unsaved") << "mine";
+    std::filesystem::create_directory_symlink(fremd, Wurzel_ / "backup");
+    gestartet();
+    s_->fuehre_aus<&Programmablauf::beende>();
+    EXPECT_TRUE(z().beendet);
+    EXPECT_TRUE(std::filesystem::exists(fremd / "unsaved"));
+    std::filesystem::remove_all(fremd);
 }
 
 TEST_F(Absturz, the_close_box_takes_the_name_of_a_study_in_its_box_as_typed) {

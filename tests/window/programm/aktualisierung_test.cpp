@@ -54,6 +54,31 @@ private Q_SLOTS:
         QTRY_VERIFY(!p_->Fenster().isVisible());
     }
 
+    void esc_ends_the_wait_for_the_page_and_for_the_download() {
+        const Aktualisierungsziel Ziel{"http", "example.org", std::string(64, '0')};
+        for (const std::string& Adresse : {Ziel.Versionsseite(), Ziel.Programm()}) {
+            Netz_->Antworten = {{Ziel.Versionsseite(), Seite("20180922")}, {Ziel.Signatur(), "signature"}};
+            Netz_->abgebrochen = 0;
+            Netz_->waehrend = [&] {
+                if (Netz_->gefragt.back() != Adresse) return;
+                QTest::keyClick(&p_->Fenster(), Qt::Key_A);  // nothing else is heard
+                QCOMPARE(Netz_->abgebrochen, 0);
+                QTest::keyClick(&p_->Fenster(), Qt::Key_Escape);
+                Netz_->Antworten.clear();  // what is broken off gives no answer
+            };
+            Eintrag()->trigger();
+            QCOMPARE(Netz_->gefragt.back(), Adresse);
+            QCOMPARE(Netz_->abgebrochen, 1);
+            const QString letzte = Fragen_.nimm().last();
+            QVERIFY2(letzte.startsWith(Adresse == Ziel.Programm() ? u"Update not installed: "_s : u"Connection error: "_s),
+                     qPrintable(letzte));
+            QVERIFY(p_->Fenster().isVisible());
+            QVERIFY(Eintrag()->isEnabled());
+            QVERIFY(!QApplication::overrideCursor());
+        }
+        QVERIFY(Tausch_.bereit.empty());
+    }
+
     void the_answer_at_the_start_comes_over_the_start_page() {
         p_->Fenster().suche_beim_Start();
         QVERIFY(p_->sichtbar("Intro"));
