@@ -6,6 +6,7 @@
 #include "base/text.h"
 #include "base/wertebereiche.h"
 #include "base/zahlen.h"
+#include "records/einwaende.h"
 #include "session/kern/texte.h"
 #include "session/kern/zahleneingabe.h"
 
@@ -43,6 +44,11 @@ void Applikationstabelle::setze(Zelle z, std::string Text) {
 
 const std::string& Applikationstabelle::Text(Zelle z) const {
     return z_.Felder().Applikationsschema.at(static_cast<std::size_t>(z.Zeile)).at(static_cast<std::size_t>(z.Spalte)).Text();
+}
+
+bool Applikationstabelle::ausserhalb(Zelle z) const {
+    if (!enthaelt(z) || in_Arbeit_ == z || (Text(z).empty() && darf_leer_sein(z))) return false;
+    return !Einwand_gegen_Wert(Grenzen(z), Wert(Text(z))).empty();
 }
 
 // What an accepted text becomes in its cell.

@@ -16,6 +16,8 @@ public:
     // shown, the cell is to be selected.
     bool schliesse_ab();
     bool ist_in_Arbeit() const { return in_Arbeit_.has_value(); }
+    // Whether a cell shows a number that it would not accept. A day or month that was not filled yet is none.
+    bool ausserhalb(Zelle z) const;
 
     void haenge_an(Zelle z, char Zeichen);  // a digit or the decimal point
     void nimm_letztes(Zelle z);             // backspace

@@ -8,6 +8,7 @@
 #include "base/text.h"
 #include "base/wertebereiche.h"
 #include "base/zahlen.h"
+#include "records/einwaende.h"
 #include "records/satztext.h"
 #include "session/kern/texte.h"
 #include "session/kern/zahleneingabe.h"
@@ -65,6 +66,11 @@ std::string Eintrag(const std::vector<std::string>& Liste, int i) {
 }
 
 }  // namespace
+
+bool Szenarioeditor::ausserhalb(Szenarioentwurf::Feld f) const {
+    const auto Zeile = std::find_if(Zahlenfelder.begin(), Zahlenfelder.end(), [f](const Zahlenfeld& z) { return z.Feld == f; });
+    return Zeile != Zahlenfelder.end() && !Einwand_gegen_Wert(*Zeile->Grenzen, Wert(e_.Texte[f])).empty();
+}
 
 bool Szenarioeditor::oeffne() {
     z_.Szenarioeditor_faellig = false;

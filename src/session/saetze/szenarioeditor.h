@@ -41,6 +41,8 @@ public:
     Szenarioeditor(Zustand& z, Laufsteuerung& Laeufe, Satzverwaltung& Saetze) : z_(z), Laeufe_(Laeufe), Saetze_(Saetze) {}
 
     const Szenarioentwurf& Entwurf() const { return e_; }
+    // Whether a field shows a number outside its range.
+    bool ausserhalb(Szenarioentwurf::Feld f) const;
     // Without a climate file there is nothing to choose; a record that is variable can stay so.
     bool darf_variabel() const { return !e_.Klimadateien.empty() || gezeigt_.Klimamodus == 1; }
 

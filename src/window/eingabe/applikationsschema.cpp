@@ -4,12 +4,15 @@
 #include <QClipboard>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QPainter>
+#include <QStyledItemDelegate>
 #include <QTimer>
 #include <QtGui/QFocusEvent>
 #include <algorithm>
 #include <chrono>
 
 #include "painting/qt_text.h"
+#include "window/kern/bausteine.h"
 #include "window/kern/fokus.h"
 #include "window/kern/zwischenablage.h"
 
@@ -29,11 +32,23 @@ char Zeichen_der_Taste(const QKeyEvent& e) {
     return z == u'.' || z == u',' ? '.' : char{0};
 }
 
+// A cell with the mark of a value outside its range, which is told to a screen reader as its description.
+class Zellenmaler : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* p, const QStyleOptionViewItem& Aussehen, const QModelIndex& Zelle) const override {
+        QStyledItemDelegate::paint(p, Aussehen, Zelle);
+        if (!Zelle.data(Qt::AccessibleDescriptionRole).toString().isEmpty()) male_Zweifel(*p, Aussehen.rect);
+    }
+};
+
 }  // namespace
 
 Applikationsschema::Applikationsschema(Sitzung& Programm, QWidget* parent) : QTableWidget(0, 4, parent), Programm_(Programm) {
     setObjectName(u"Applikationsschema"_s);
     setAccessibleName(u"Applications of a year"_s);
+    setItemDelegate(new Zellenmaler(this));
     setHorizontalHeaderLabels({u"Day"_s, u"Month"_s, u"Rate (g/ha)"_s, u"Interception(%)"_s});
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setTabKeyNavigation(false);
@@ -74,6 +89,8 @@ void Applikationsschema::zeige() {
                 setItem(i, j, Zelle);
             }
             if (Zelle->text() != Text) Zelle->setText(Text);
+            const bool ausserhalb = Programm_.zeige<Applikationstabelle>().ausserhalb({i, j});
+            Zelle->setData(Qt::AccessibleDescriptionRole, ausserhalb ? Zweifelswort() : QString());
         }
     }
     if (currentRow() < 0 && rowCount() > 0) setCurrentCell(0, 0);

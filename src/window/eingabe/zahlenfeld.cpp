@@ -2,8 +2,6 @@
 
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QPainter>
-#include <QPolygon>
 #include <QtGui/QFocusEvent>
 
 #include "painting/qt_text.h"
@@ -34,24 +32,6 @@ QSize Zahlenfeld::sizeHint() const { return {Breite(*this), Zeilenhoehe(*this)};
 void Zahlenfeld::zeige(const QString& Text, bool in_Arbeit) {
     Textfeld::zeige(Text);
     faerbe_Eingabe(*this, in_Arbeit);
-}
-
-void Zahlenfeld::markiere(bool ausserhalb) {
-    if (markiert_ == ausserhalb) return;
-    markiert_ = ausserhalb;
-    setAccessibleDescription(ausserhalb ? u"outside the range of this field"_s : QString());
-    update();
-}
-
-void Zahlenfeld::paintEvent(QPaintEvent* e) {
-    QLineEdit::paintEvent(e);
-    if (!markiert_) return;
-    const int Seite = height() / 3;
-    QPainter p(this);
-    p.setRenderHint(QPainter::Antialiasing);
-    p.setPen(Qt::NoPen);
-    p.setBrush(Farben::Zweifel);
-    p.drawPolygon(QPolygon({QPoint(1, 1), QPoint(1 + Seite, 1), QPoint(1, 1 + Seite)}));
 }
 
 void Zahlenfeld::focusInEvent(QFocusEvent* e) {

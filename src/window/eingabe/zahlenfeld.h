@@ -19,8 +19,6 @@ public:
     QString Beschriftung() const;
     // Text, and the colour of a field in work or at rest.
     void zeige(const QString& Text, bool in_Arbeit);
-    // A quiet mark in its corner: what it shows is not what it accepts.
-    void markiere(bool ausserhalb);
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 
@@ -32,7 +30,6 @@ Q_SIGNALS:
     void zurueckgenommen();
 
 protected:
-    void paintEvent(QPaintEvent* e) override;
     void focusInEvent(QFocusEvent* e) override;
     void focusOutEvent(QFocusEvent* e) override;
     void keyPressEvent(QKeyEvent* e) override;
@@ -43,7 +40,6 @@ protected:
 
 private:
     int Feld_;
-    bool markiert_ = false;
     bool doppelt_geklickt_ = false;  // the button is still held
 };
 

@@ -7,6 +7,7 @@
 #include <QMainWindow>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPolygon>
 #include <QSignalBlocker>
 #include <QStyle>
 #include <QStyleOptionComboBox>
@@ -140,6 +141,19 @@ private:
     Textfeld& Feld_;
 };
 
+QString Zweifelswort() { return u"outside the range of this field"_s; }
+
+void male_Zweifel(QPainter& p, const QRect& Ort) {
+    const int Seite = Ort.height() / 3;
+    const QPoint Ecke = Ort.topLeft() + QPoint(1, 1);
+    p.save();
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setPen(Qt::NoPen);
+    p.setBrush(Farben::Zweifel);
+    p.drawPolygon(QPolygon({Ecke, Ecke + QPoint(Seite, 0), Ecke + QPoint(0, Seite)}));
+    p.restore();
+}
+
 Textfeld::Textfeld(const QString& Name, QWidget* parent) : QLineEdit(parent) {
     setObjectName(Name);
     setValidator(new Zeichenfilter(*this));
@@ -162,6 +176,20 @@ void Textfeld::vergiss_Getipptes() {
     zeigt_ = false;
     setCursorPosition(Stelle);
     if (Laenge > 0) setSelection(Anfang, Laenge);
+}
+
+void Textfeld::markiere(bool ausserhalb) {
+    if (markiert_ == ausserhalb) return;
+    markiert_ = ausserhalb;
+    setAccessibleDescription(ausserhalb ? Zweifelswort() : QString());
+    update();
+}
+
+void Textfeld::paintEvent(QPaintEvent* e) {
+    QLineEdit::paintEvent(e);
+    if (!markiert_) return;
+    QPainter p(this);
+    male_Zweifel(p, rect());
 }
 
 bool Textfeld::event(QEvent* e) {

@@ -72,6 +72,10 @@ private:
     QString Meldung_;
 };
 
+// The quiet mark of a value outside its range, in the corner of a field or a cell, and its words.
+void male_Zweifel(QPainter& p, const QRect& Ort);
+QString Zweifelswort();
+
 // A line to type in. What no record can hold does not enter, typed or pasted; the main window is told of it by a
 // `Zeichenereignis`.
 class Textfeld : public QLineEdit {
@@ -82,15 +86,19 @@ public:
     void zeige(const QString& Text);
     // What was typed is accepted: the field takes back nothing of it any more.
     void vergiss_Getipptes();
+    // A quiet mark in its corner: what it shows is not what it accepts.
+    void markiere(bool ausserhalb);
     QSize sizeHint() const override { return {QLineEdit::sizeHint().width(), Zeilenhoehe(*this)}; }
 
 protected:
     // Undo and redo are the field's own while there is something typed, else commands of the window.
     bool event(QEvent* e) override;
+    void paintEvent(QPaintEvent* e) override;
 
 private:
     class Zeichenfilter;
 
+    bool markiert_ = false;
     bool zeigt_ = false;  // the program fills it
 };
 

@@ -181,6 +181,7 @@ void Szenario_Form::zeige() {
     sperre_Unwaehlbare(*Szenarioliste_, e.Szenarien);
     for (std::size_t f = 0; f < Texte_.size(); ++f) {
         if (aus_Qt(Texte_[f]->text()) != e.Texte[f]) Texte_[f]->zeige(in_Qt(e.Texte[f]));
+        Texte_[f]->markiere(Editor.ausserhalb(static_cast<E::Feld>(f)));
     }
     Bodentiefe_->zeige(e.Boden);
     Plateautiefe_->zeige(e.Plateau);

@@ -165,6 +165,23 @@ TEST_F(Zellen, second_separator_is_refused_with_the_message_of_the_cell_and_noth
     EXPECT_EQ(s_->Stand().Zeichnung, Zeichnung + 1);
 }
 
+TEST_F(Zellen, one_with_a_value_outside_its_range_is_known_once_it_is_left) {
+    Felder_.Applikationsmuster = unregelmaessig;
+    Felder_.Applikationsschema = {{"01", "04", "500", "150"}, {"", "13", "-5", "0"}};
+    schreibe_Probe();
+    Fragen_.erwarte_Anfang(ungueltig, "");
+    gestartet();
+    const auto& Tabelle = s_->zeige<Applikationstabelle>();
+    EXPECT_TRUE(Tabelle.ausserhalb({0, 3})) << "150 % of interception";
+    EXPECT_TRUE(Tabelle.ausserhalb({1, 1})) << "month 13";
+    EXPECT_TRUE(Tabelle.ausserhalb({1, 2})) << "a rate below 0";
+    EXPECT_FALSE(Tabelle.ausserhalb({1, 0})) << "a day that is not filled yet";
+    EXPECT_FALSE(Tabelle.ausserhalb({0, 2}));
+    EXPECT_FALSE(Tabelle.ausserhalb({2, 0})) << "no such row";
+    tippe_Zelle({0, 3}, "150");
+    EXPECT_FALSE(Tabelle.ausserhalb({0, 3})) << "while it is typed into";
+}
+
 TEST_F(Zellen, emptied_rate_reads_as_0_and_is_told) {
     mit_Tabelle();
     s_->fuehre_aus<&Applikationstabelle::leere>(Zelle{0, 3});

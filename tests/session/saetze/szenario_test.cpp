@@ -9,6 +9,20 @@ namespace {
 
 using E = Szenarioentwurf;
 
+TEST_F(Szenarioprobe, fields_know_a_value_outside_their_range) {
+    Parameter_.Bodendichte = 0.045;
+    Parameter_.Feldkapazitaet = 250;
+    schreibe_Probe();
+    offen();
+    const auto& Editor = s_->zeige<Szenarioeditor>();
+    EXPECT_TRUE(Editor.ausserhalb(Szenarioentwurf::Bodendichte));
+    EXPECT_TRUE(Editor.ausserhalb(Szenarioentwurf::Feldkapazitaet));
+    EXPECT_FALSE(Editor.ausserhalb(Szenarioentwurf::Kohlenstoffgehalt));
+    EXPECT_FALSE(Editor.ausserhalb(Szenarioentwurf::Bodenszenario));
+    s_->fuehre_aus<&Szenarioeditor::aendere>(Szenarioentwurf::Bodendichte, "1.5");
+    EXPECT_FALSE(Editor.ausserhalb(Szenarioentwurf::Bodendichte));
+}
+
 TEST_F(Szenarioprobe, five_and_twenty_centimetres_are_presets_with_the_lists_hidden) {
     offen();
     EXPECT_EQ(Entwurf().Boden.Option, 0);
