@@ -180,12 +180,8 @@ Projektordner Projektordner::mit_Verzeichnis() const {
     return gelesener;
 }
 
-// What was read once, without a share of its own: workers would pass the count of shares from core to core. Else what is there
-// now.
-const Projektordner::Verzeichnis& Projektordner::Eingabeverzeichnis(std::unique_ptr<const Verzeichnis>& frisches) const {
-    if (gelesenes_) return *gelesenes_;
-    frisches = std::make_unique<const Verzeichnis>(Eingabeordner());
-    return *frisches;
+std::shared_ptr<const Projektordner::Verzeichnis> Projektordner::Eingabeverzeichnis() const {
+    return gelesenes_ ? gelesenes_ : std::make_shared<const Verzeichnis>(Eingabeordner());
 }
 
 std::string Projektordner::Unterordner(const std::string& Name) const {
@@ -207,19 +203,16 @@ std::optional<std::string> Projektordner::finde(const std::string& Name, const s
     if (!gelesenes_) {
         if (const auto genau = verbunden(Eingabeordner(), Name + Endung); ist_Datei(als_Pfad(genau))) return genau;
     }
-    std::unique_ptr<const Verzeichnis> frisches;
-    const Verzeichnis& Inhalt = Eingabeverzeichnis(frisches);
+    const auto Inhalt = Eingabeverzeichnis();
     // A file is meant; a folder of that name is found only to say what stands in the way.
-    const std::string Datei = Name + Endung;
-    const Eintrag* Treffer = Inhalt.passend(Datei, Eintrag::Datei);
-    if (!Treffer) Treffer = Inhalt.passend(Datei, Eintrag::Ordner);
+    const Eintrag* Treffer = Inhalt->passend(Name + Endung, Eintrag::Datei);
+    if (!Treffer) Treffer = Inhalt->passend(Name + Endung, Eintrag::Ordner);
     if (!Treffer) return std::nullopt;
-    return verbunden(Inhalt.Ordner(), Treffer->Name);
+    return verbunden(Inhalt->Ordner(), Treffer->Name);
 }
 
 bool Projektordner::enthaelt(const std::string& Name, const std::string& Endung) const {
-    std::unique_ptr<const Verzeichnis> frisches;
-    return Einwand_gegen_Zeichen(Name).empty() && Eingabeverzeichnis(frisches).enthaelt(Name, Endung);
+    return Einwand_gegen_Zeichen(Name).empty() && Eingabeverzeichnis()->enthaelt(Name, Endung);
 }
 
 std::string Projektordner::Zielpfad(const std::string& Name, const std::string& Endung) const {
@@ -229,10 +222,9 @@ std::string Projektordner::Zielpfad(const std::string& Name, const std::string& 
 }
 
 std::vector<std::string> Projektordner::Namen(const std::string& Endung) const {
-    std::unique_ptr<const Verzeichnis> frisches;
-    const Verzeichnis& Inhalt = Eingabeverzeichnis(frisches);
+    const auto Inhalt = Eingabeverzeichnis();
     std::vector<std::pair<std::u16string, std::string>> Gefunden;
-    for (const Eintrag& e : Inhalt.Eintraege()) {
+    for (const Eintrag& e : Inhalt->Eintraege()) {
         if (e.Art != Eintrag::Datei || e.Name.size() <= Endung.size()) continue;
         const std::size_t Laenge = e.Name.size() - Endung.size();
         if (!gleich_ohne_Gross_Klein(std::string_view(e.Name).substr(Laenge), Endung)) continue;

@@ -60,7 +60,7 @@ public:
 private:
     class Verzeichnis;
 
-    const Verzeichnis& Eingabeverzeichnis(std::unique_ptr<const Verzeichnis>& frisches) const;
+    std::shared_ptr<const Verzeichnis> Eingabeverzeichnis() const;
 
     std::string Pfad_;
     std::shared_ptr<const Verzeichnis> gelesenes_;  // null: read anew each time
