@@ -2,11 +2,26 @@
 
 #include <QVariant>
 #include <QWidget>
+#include <algorithm>
+#include <cmath>
 
 #include "records/einstellungen.h"
 
 namespace varnok {
 namespace {
+
+constexpr double kleinster_Kontrast = 4.5;
+
+// As the eye weighs the three colours, from 0 to 1.
+double Helligkeit(const QColor& Farbe) {
+    const auto linear = [](double k) { return k <= 0.04045 ? k / 12.92 : std::pow((k + 0.055) / 1.055, 2.4); };
+    return 0.2126 * linear(Farbe.redF()) + 0.7152 * linear(Farbe.greenF()) + 0.0722 * linear(Farbe.blueF());
+}
+
+double Kontrast(const QColor& a, const QColor& b) {
+    const auto [dunkler, heller] = std::minmax({Helligkeit(a) + 0.05, Helligkeit(b) + 0.05});
+    return heller / dunkler;
+}
 
 QColor gemischt(const QColor& a, const QColor& b, double Anteil_b) {
     const auto Mitte = [&](int x, int y) { return static_cast<int>(x + (y - x) * Anteil_b); };
@@ -35,6 +50,20 @@ QColor Rahmenfarbe(Rahmenart Art) {
             break;
     }
     return Qt::white;
+}
+
+// What stays as the desktop has it is not set, so it goes on following the desktop.
+QPalette lesbare_Auswahl(const QPalette& Schreibtisch) {
+    QPalette Neues;
+    for (const auto Gruppe : {QPalette::Active, QPalette::Inactive}) {
+        const QColor Schrift = Schreibtisch.color(Gruppe, QPalette::HighlightedText);
+        QColor Grund = Schreibtisch.color(Gruppe, QPalette::Highlight);
+        const bool helle_Schrift = Helligkeit(Schrift) > 0.5;
+        for (int i = 0; i < 40 && Kontrast(Schrift, Grund) < kleinster_Kontrast; ++i)
+            Grund = helle_Schrift ? Grund.darker(105) : Grund.lighter(105);
+        Neues.setColor(Gruppe, QPalette::Highlight, Grund);
+    }
+    return Neues;
 }
 
 QPalette helle_Palette(const QColor& Flaeche) {

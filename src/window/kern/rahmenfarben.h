@@ -35,6 +35,9 @@ QColor Rahmenfarbe(Rahmenart Art);
 // A light palette around a surface of that colour: white fields, dark text.
 QPalette helle_Palette(const QColor& Flaeche);
 
+// The selection of the desktop, darker or lighter where its text would not stand out from it by 4.5 to 1.
+QPalette lesbare_Auswahl(const QPalette& Schreibtisch);
+
 // Makes a part of a form one that `farbe_einstellen` gives the colour of its kind, with all that stands on it.
 void setze_Rahmenart(QWidget& Teil, Rahmenart Art);
 

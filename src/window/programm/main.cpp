@@ -21,6 +21,7 @@
 #include "session/programm/projektwahl.h"
 #include "window/kern/bilder.h"
 #include "window/kern/fensterfrage.h"
+#include "window/kern/rahmenfarben.h"
 #include "window/programm/hauptformular.h"
 
 using namespace Qt::StringLiterals;
@@ -79,6 +80,7 @@ int main(int argc, char** argv) {
     QApplication::setApplicationVersion(QString::fromLatin1(varnok::Programmversion));
     QApplication::setDesktopFileName(u"org.varnok.varnok"_s);
     QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
+    QApplication::setPalette(varnok::lesbare_Auswahl(QApplication::palette()));
     QApplication::setWindowIcon(varnok::Bild_aus_SVG(u"varnok"_s));
     // Numbers that Qt writes follow no locale; records keep the decimal separator of the region.
     const bool Komma = QLocale::system().decimalPoint() == u","_s;

@@ -3,7 +3,7 @@
 // printed.
 
 #include <QAbstractButton>
-#include <QAbstractScrollArea>
+#include <QAbstractItemView>
 #include <QAccessible>
 #include <QAction>
 #include <QApplication>
@@ -22,12 +22,14 @@
 #include <QTest>
 #include <QTextEdit>
 #include <QTimer>
+#include <QToolTip>
 #include <QVBoxLayout>
 #include <cmath>
 
 #include "window/kern/anmeldung.h"
 #include "window/kern/fensterprobe.h"
 #include "window/kern/mitschrift.h"
+#include "window/kern/rahmenfarben.h"
 
 using namespace Qt::StringLiterals;
 
@@ -141,6 +143,9 @@ private:
             // The light below letters that look pressed into the paper repeats their text.
             const bool nur_Licht = w->objectName() == u"Label2"_s;
             if (!Text_von(w).trimmed().isEmpty() && !nur_Licht) pruefe_Kontrast(Wurzel, w, Ort);
+            const bool waehlbar =
+                qobject_cast<QLineEdit*>(w) || qobject_cast<QTextEdit*>(w) || qobject_cast<QAbstractItemView*>(w);
+            if (waehlbar) pruefe_Auswahl(w, Ort);
             ++gesehen_;
         }
     }
@@ -174,6 +179,17 @@ private:
         const double Soll = Kontrast(Schrift, g);
         if (Soll < 4.5) klage(Ort, w, u"%1 on %2: %3 to 1"_s.arg(Schrift.name(), g.name()).arg(Soll, 0, 'f', 1));
         if (groesster_Kontrast(Bild, g) < 3) klage(Ort, w, u"no text is seen on %1"_s.arg(g.name()));
+    }
+
+    void pruefe_Farben(const QPalette& p, QPalette::ColorRole Schrift, QPalette::ColorRole Grund, const QWidget* w,
+                       const QString& Ort) {
+        const double k = Kontrast(p.color(Schrift), p.color(Grund));
+        if (k < 4.5) klage(Ort, w, u"%1 on %2: %3 to 1"_s.arg(p.color(Schrift).name(), p.color(Grund).name()).arg(k, 0, 'f', 1));
+    }
+    // What is marked, and the rows of a list.
+    void pruefe_Auswahl(const QWidget* w, const QString& Ort) {
+        pruefe_Farben(w->palette(), QPalette::HighlightedText, QPalette::Highlight, w, Ort);
+        if (qobject_cast<const QAbstractItemView*>(w)) pruefe_Farben(w->palette(), QPalette::Text, QPalette::Base, w, Ort);
     }
 
     // Opens a dialog and looks at it.
@@ -225,6 +241,8 @@ private:
     void pruefe_Dialoge() {
         for (const char* Name : {"M_Optionen", "M_ueber", "M_Versionsinfo", "M_Laden", "M_Zeitraum", "M_Bild_Optionen"})
             pruefe_Eintrag(Name);
+        p_->klicke("Loeschen_2");  // now there is something to restore
+        pruefe_Eintrag("M_Wiederherstellen");
         pruefe_Dialog(u"scenario"_s, [&] { p_->klicke("Edit"); });
         p_->Fenster().findChild<QAction*>(u"M_Feldhilfe"_s)->trigger();
         QTest::qWait(20);
@@ -286,13 +304,19 @@ private Q_SLOTS:
     }
     void nothing_lacks_a_name_a_focus_frame_or_contrast() {
         QFETCH(bool, dunkel);
-        QApplication::setPalette(dunkel ? dunkle_Palette() : QApplication::style()->standardPalette());
+        QPalette p = dunkel ? dunkle_Palette() : QApplication::style()->standardPalette();
+        const QPalette Auswahl = lesbare_Auswahl(p);
+        for (const auto Gruppe : {QPalette::Active, QPalette::Inactive})
+            p.setColor(Gruppe, QPalette::Highlight, Auswahl.color(Gruppe, QPalette::Highlight));
+        QApplication::setPalette(p);
         Maengel_.clear();
         gesehen_ = 0;
         p_ = std::make_unique<Fensterprobe>(&Fragen_);
         p_->Fenster().resize(1280, 900);
         pruefe_Fenster();
         pruefe_Dialoge();
+        pruefe_Farben(QToolTip::palette(), QPalette::ToolTipText, QPalette::ToolTipBase, &p_->Fenster(), u"tips"_s);
+        pruefe_Farben(QApplication::palette(), QPalette::HighlightedText, QPalette::Highlight, &p_->Fenster(), u"menus"_s);
         Maengel_.removeDuplicates();
         for (const QString& m : Maengel_) qWarning("%s", qPrintable(m));
         QVERIFY2(gesehen_ > 1000, qPrintable(u"only %1 controls were seen"_s.arg(gesehen_)));
