@@ -11,6 +11,7 @@
 #include "records/schreibort.h"
 #include "session/kern/texte.h"
 #include "session/programm/einstellungsdatei.h"
+#include "session/saetze/sicherungsgut.h"
 
 namespace varnok {
 namespace {
@@ -106,6 +107,7 @@ void Optionensteuerung::merke_Aenderungen(const Optionsentwurf& Neue) {
 // Tooltips once attached stay until the program ends.
 void Optionensteuerung::sage_Tips_ab() {
     try {
+        verlange_Schreibrecht(z_);
         Einstellungen_schreiben(z_);
     } catch (const Laufzeitfehler& f) {
         melde(z_, Texte::Laufzeitfehler, f.what());

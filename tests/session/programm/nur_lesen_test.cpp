@@ -110,6 +110,26 @@ TEST_F(Nur_lesen, the_close_box_ends_like_that_too) {
     EXPECT_TRUE(s_->fuehre_aus<&Programmablauf::schliesse_Fenster>());
 }
 
+TEST_F(Nur_lesen, options_are_taken_and_the_settings_stay) {
+    Rechte_.reset();
+    Einstellungen e;
+    e.Tips_anzeigen = 1;
+    std::ofstream(Wurzel_ / "VARNOK.ini", std::ios::binary) << Einstellungen_als_Bytes(e);
+    const std::string vorher = Datei("VARNOK.ini");
+    entziehe();
+    gestartet();
+    Optionsentwurf Optionen = s_->fuehre_aus<&Optionensteuerung::oeffne>();
+    ASSERT_EQ(Optionen.Tips_anzeigen, 1);
+    Optionen.Tips_anzeigen = 0;
+    Optionen.Einheit = 1;
+    EXPECT_TRUE(s_->fuehre_aus<&Optionensteuerung::uebernimm>(Optionen));
+    erwarte_eine_Meldung();
+    Fragen_.erwarte_Anfang("Tooltips", "The tooltips will be switched off");
+    s_->fuehre_aus<&Optionensteuerung::schliesse>();
+    EXPECT_GT(Maximum(), 100);  // micrograms now
+    EXPECT_EQ(Datei("VARNOK.ini"), vorher);
+}
+
 TEST_F(Nur_lesen, another_machine_that_has_the_folder_open_is_not_asked_about) {
     Rechte_.reset();
     std::ofstream(Wurzel_ / ".varnok.lock") << "4711\nvarnok\nlaboratory\n\n\n";

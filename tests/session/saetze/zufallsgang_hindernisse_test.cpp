@@ -264,8 +264,8 @@ void Versagende_Platte_im_Gang::schaue() {
     eigene_.clear();
     for (const Satzart t : alle_Arten) {
         const Satzplatz& p = z().Saetze[t];
-        if (t != Simulation && p.gelesen && z().verschieden(t)) ungesichert_.insert(z().Speicherbild(t));
-        eigene_.emplace(p.Datei.Name + Endungen[t], p.Datei.Bytes);
+        if (t != Simulation && p.gelesen() && z().verschieden(t)) ungesichert_.insert(z().Speicherbild(t));
+        eigene_.emplace(p.Datei().Name + Endungen[t], p.Datei().Bytes);
     }
 }
 
@@ -291,7 +291,7 @@ void Versagende_Platte_im_Gang::verlange_dass_nichts_verloren_ging(const std::st
 void Versagende_Platte_im_Gang::verlange_Gesichertes(const std::string& Befehl) {
     if (Befehl != "save" || Antworten_.Meldungen > 0) return;
     for (const Satzart t : alle_Arten) {
-        if (!z().Saetze[t].gelesen) continue;
+        if (!z().Saetze[t].gelesen()) continue;
         EXPECT_EQ(Datei("input/" + z().Namen[t] + Endungen[t]), z().Speicherbild(t)) << Endungen[t];
         EXPECT_FALSE(z().verschieden(t));
     }

@@ -45,6 +45,24 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(p_->Pfad(u"input/<img src=x>.app"_s)));
     }
 
+    void a_project_without_backups_says_so() {
+        QDir(p_->Pfad(u"backup"_s)).removeRecursively();
+        im_Dialog([](QDialog& d) {
+            QCOMPARE(d.findChild<QTreeWidget*>(u"Sicherungen"_s)->topLevelItemCount(), 0);
+            QCOMPARE(d.findChild<QPlainTextEdit*>(u"Unterschiede"_s)->toPlainText(),
+                     u"There is no backup in this project yet."_s);
+            QVERIFY(!d.findChild<QPushButton*>(u"Herstellen"_s)->isEnabled());
+            d.reject();
+        });
+    }
+
+    void a_small_window_holds_it() {
+        im_Dialog([](QDialog& d) {
+            QVERIFY2(d.width() <= 900 && d.height() <= 560, qPrintable(QString::number(d.height())));
+            d.reject();
+        });
+    }
+
     void what_is_ticked_comes_back() {
         im_Dialog([](QDialog& d) {
             auto* Liste = d.findChild<QTreeWidget*>(u"Sicherungen"_s);
