@@ -33,4 +33,20 @@ if(VARNOK_SANITIZER)
     add_link_options(-fsanitize=${VARNOK_SANITIZER})
 endif()
 
+# What comes from a project may be made to break the program: the binaries are hardened, and a test looks that they are.
+set(VARNOK_GEHAERTET OFF)
+if(CMAKE_SYSTEM_NAME STREQUAL "Linux" AND CMAKE_BUILD_TYPE STREQUAL "Release" AND NOT VARNOK_SANITIZER)
+    set(VARNOK_GEHAERTET ON)
+    include(CheckPIESupported)
+    check_pie_supported(LANGUAGES CXX)
+    add_link_options(-Wl,-z,relro,-z,now)
+endif()
+# varnok_haerte(): for all that the present folder builds.
+macro(varnok_haerte)
+    if(VARNOK_GEHAERTET)
+        set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+        add_compile_options(-fstack-protector-strong -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2)
+    endif()
+endmacro()
+
 add_compile_definitions(QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII)

@@ -19,15 +19,6 @@ bool gleich_ohne_Gross_Klein(std::string_view a, std::string_view b) {
     return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) { return klein(x) == klein(y); });
 }
 
-std::string als_Dateiname(std::string_view Text) {
-    std::string Name(Text);
-    for (char& z : Name) {
-        const bool Steuerzeichen = static_cast<unsigned char>(z) < ' ' || z == '\x7F';
-        if (Steuerzeichen || std::string_view("\\/:*?\"<>|").find(z) != std::string_view::npos) z = '_';
-    }
-    return Name;
-}
-
 std::vector<std::string_view> zerlege_an(std::string_view Text, char Trenner) {
     std::vector<std::string_view> Stuecke;
     for (auto Ende = Text.find(Trenner); Ende != std::string_view::npos; Ende = Text.find(Trenner)) {

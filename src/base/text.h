@@ -12,9 +12,6 @@ std::string_view ohne_Randblanks(std::string_view Text);
 // Whether two texts differ at most in the case of the letters A to Z.
 bool gleich_ohne_Gross_Klein(std::string_view a, std::string_view b);
 
-// A text as part of a file's name: characters that a name cannot hold become "_".
-std::string als_Dateiname(std::string_view Text);
-
 // The pieces of a text between the separators; one more piece than there are separators.
 std::vector<std::string_view> zerlege_an(std::string_view Text, char Trenner);
 

@@ -243,7 +243,7 @@ std::variant<Aufruf, Auskunft> lies_Aufruf(int argc, const char* const* argv) {
     } catch (const CLI::CallForVersion&) {
         return Auskunft{Fassung + "\n"};
     } catch (const CLI::ParseError& f) {
-        throw Aufruffehler(std::string(f.what()) + "\nRun varnok-batch --help for the options.");
+        throw Aufruffehler(std::string(f.what()) + Hilfehinweis);
     }
     return a;
 }

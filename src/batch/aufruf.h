@@ -10,6 +10,9 @@
 
 namespace varnok::batch {
 
+// Stands at the end of what is wrong with the options.
+inline constexpr const char* Hilfehinweis = "\nRun varnok-batch --help for the options.";
+
 // The call itself is wrong, or an output cannot be written: exit status 2. The text is shown as it stands.
 class Aufruffehler : public std::runtime_error {
 public:

@@ -10,6 +10,7 @@
 #include "batch/dateipfad.h"
 #include "batch/perzentile.h"
 #include "batch/zeilendatei.h"
+#include "records/schreibort.h"
 
 namespace varnok::batch {
 namespace {
@@ -27,30 +28,51 @@ bool liegt_in(const fs::path& Datei, const fs::path& Ordner) {
     return std::mismatch(Ordner.begin(), Ordner.end(), Datei.begin(), Datei.end()).first == Ordner.end();
 }
 
-// Input is only ever read: no output may land among the records or on a file that the call reads.
-void verbiete_Eingaben(const std::string& Option, const std::string& Name, const Aufruf& a, const Projektordner* Ordner) {
-    const fs::path Ziel = eindeutig(Name);
-    std::vector<std::string> Gelesene = a.Teildateien;
-    for (const std::string* Datei : {&a.Einstellungsdatei, &a.Variantendatei, &a.Stichprobendatei}) {
-        if (!Datei->empty()) Gelesene.push_back(*Datei);
-    }
-    const bool auf_gelesener = std::any_of(Gelesene.begin(), Gelesene.end(), [&](const auto& g) { return Ziel == eindeutig(g); });
-    if (auf_gelesener || (Ordner && liegt_in(Ziel, eindeutig(Ordner->Eingabeordner()))))
-        throw Aufruffehler(Option + " " + Name + ": this is a place of input files, which are only ever read");
+// Where an output takes its place: a link is replaced itself, so only the folder is looked up.
+fs::path Platz(const std::string& Name) {
+    std::error_code Fehler;
+    const fs::path ganz = fs::absolute(Dateipfad(Name), Fehler);
+    const fs::path Ordner = fs::weakly_canonical(ganz.parent_path(), Fehler);
+    return Fehler ? ganz : Ordner / ganz.filename();
 }
 
-// What lies in the project folder itself belongs to the project.
-void verbiete_Projektdateien(const std::string& Option, const std::string& Name, const Projektordner& Ordner) {
+// What lies in the project is replaced by no output but what outputs left in its folder for them.
+void verbiete_Ersatz(const std::string& Option, const std::string& Name, const Projektordner& Ordner) {
+    const fs::path Ziel = Platz(Name);
     std::error_code Fehler;
-    const fs::path Ziel = fs::absolute(Dateipfad(Name), Fehler);
-    if (fs::exists(fs::symlink_status(Ziel, Fehler)) && eindeutig(Ziel.parent_path().string()) == eindeutig(Ordner.Pfad()))
-        throw Aufruffehler(Option + " " + Name + ": a file of the project folder itself is never replaced; output/ is the place");
+    if (!fs::exists(fs::symlink_status(Ziel, Fehler)) || ist_Geraet(Name)) return;
+    const bool im_Projekt =
+        Ziel.parent_path() == eindeutig(Ordner.Pfad()) || liegt_in(Ziel, eindeutig(Ordner.Unterordner("backup")));
+    if (!im_Projekt) return;
+    throw Aufruffehler(Option + " " + Name +
+                       ": this is a file of the project and not replaced; outputs belong to its folder \"output\"");
+}
+
+// The folder itself holds more than outputs.
+void verbiete_Projektordner(const std::string& Option, const std::string& Name, const Projektordner& Ordner) {
+    const fs::path Ziel = eindeutig(Name);
+    if (Ziel != eindeutig(Ordner.Pfad()) && !liegt_in(Ziel, eindeutig(Ordner.Unterordner("backup")))) return;
+    throw Aufruffehler(Option + " " + Name + ": this is a folder of the project itself; choose one of its own, as \"output\"");
+}
+
+// Input is only ever read: no output may land among the records or on a file that the call reads.
+void verbiete_Eingaben(const std::string& Option, const std::string& Name, const Aufruf& a, const Projektordner* Ordner) {
+    const fs::path Ziel = Platz(Name);
+    const fs::path Datei = eindeutig(Name);
+    std::vector<std::string> Gelesene = a.Teildateien;
+    for (const std::string* Eingabe : {&a.Einstellungsdatei, &a.Variantendatei, &a.Stichprobendatei}) {
+        if (!Eingabe->empty()) Gelesene.push_back(*Eingabe);
+    }
+    const auto trifft = [&](const std::string& g) { return Ziel == Platz(g) || Datei == eindeutig(g); };
+    const auto liegt_in_Eingaben = [&](const fs::path& p) { return Ordner && liegt_in(p, eindeutig(Ordner->Eingabeordner())); };
+    if (liegt_in_Eingaben(Ziel) || liegt_in_Eingaben(Datei) || std::any_of(Gelesene.begin(), Gelesene.end(), trifft))
+        throw Aufruffehler(Option + " " + Name + ": this is a place of input files, which are only ever read");
 }
 
 void pruefe_Zieldatei(const std::string& Option, const std::string& Name, const Aufruf& a, const Projektordner* Ordner) {
     if (Name.empty() || Name == Standardausgabe) return;
     verbiete_Eingaben(Option, Name, a, Ordner);
-    if (Ordner) verbiete_Projektdateien(Option, Name, *Ordner);
+    if (Ordner) verbiete_Ersatz(Option, Name, *Ordner);
     std::error_code Fehler;
     if (fs::is_directory(Dateipfad(Name), Fehler)) throw Aufruffehler(Option + " " + Name + ": this is a folder");
     const fs::path darueber = fs::absolute(Dateipfad(Name), Fehler).parent_path();
@@ -62,6 +84,7 @@ void pruefe_Zieldatei(const std::string& Option, const std::string& Name, const 
 void bereite_Ordner(const std::string& Option, const std::string& Name, const Aufruf& a, const Projektordner* Ordner) {
     if (Name.empty()) return;
     verbiete_Eingaben(Option, Name, a, Ordner);
+    if (Ordner) verbiete_Projektordner(Option, Name, *Ordner);
     std::error_code Fehler;
     fs::create_directories(Dateipfad(Name), Fehler);
     std::error_code unwichtig;

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstddef>
 #include <functional>
 #include <string>
 #include <vector>
@@ -21,8 +20,5 @@ struct Berichtsdatei {
 
 // Writes one; called by several threads at once. What cannot be written is added to the list.
 using Berichtsschreiber = std::function<void(const Berichtsdatei&, const Darstellung&, std::vector<std::string>&)>;
-
-// What tells the reports of several studies apart whose names leave the study out; empty where nothing is needed.
-std::string Studienzusatz(const Eingabe& e, int i_studie, std::size_t Studien);
 
 }  // namespace varnok::batch

@@ -48,7 +48,7 @@ void schreibe_Serien(const std::string& Ordner, const std::string& Simulation, c
                      std::vector<std::string>& Schreibfehler) {
     for (const auto& s : Studien) {
         try {
-            schreibe_Datei(Ordner + "/" + Serienname(Simulation, s->i_studie + 1), Serientext(*s));
+            schreibe_Datei(Ordner + "/" + Serienname(Simulation, s->i_studie + 1), Serientext(*s), als_Datei);
         } catch (const Laufzeitfehler& f) {
             Schreibfehler.emplace_back(f.what());
         }

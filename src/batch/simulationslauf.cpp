@@ -112,11 +112,6 @@ Ergebnisse rechne_Studien(const Auftrag& a, const Gelesenes& g, const std::vecto
     return Studien;
 }
 
-std::string Berichtszusatz(const Auftrag& a, const std::string& Simulation, const std::string& Beschreibung) {
-    const auto& Mehrfache = a.mehrfache_Beschreibungen;
-    return std::find(Mehrfache.begin(), Mehrfache.end(), Beschreibung) == Mehrfache.end() ? std::string() : " - " + Simulation;
-}
-
 std::string Variantenzusatz(const std::optional<Variante>& Herkunft) {
     return Herkunft ? " - variant " + std::to_string(Herkunft->Reihe) : std::string();
 }
@@ -124,12 +119,12 @@ std::string Variantenzusatz(const std::optional<Variante>& Herkunft) {
 // The standard report of each study chosen, and the extended one with the study selected that opening the simulation selects.
 void schreibe_Berichte(const Auftrag& a, const std::string& Simulation, const Gelesenes& g, const Ergebnisse& Studien,
                        const std::vector<int>& Gewaehlte, const std::string& Variante, std::vector<std::string>& Schreibfehler) {
-    const std::string Zusatz = Berichtszusatz(a, Simulation, g.Satz.Beschreibung);
+    const std::string Zusatz = a.Namen.Simulationszusatz(Simulation);
     const std::string& Applikationssatz = g.Satz.Dateinamen[Applikation];
     for (const int st : Gewaehlte) {
         Ansicht Sicht = g.Sicht;
         Sicht.Studie_Index = st;
-        const std::string Studie = Studienzusatz(*g.Vorgabe, st, Gewaehlte.size());
+        const std::string Studie = Studienzusatz(*g.Vorgabe, st);
         a.schreibe_Bericht({a.Berichtsordner, false, Applikationssatz, a.Zeit, Zusatz + Studie + Variante},
                            {Studien, Sicht, *g.Vorgabe}, Schreibfehler);
     }

@@ -7,6 +7,7 @@
 
 #include "base/schnittstellen.h"
 #include "batch/berichtsauftrag.h"
+#include "batch/berichtsnamen.h"
 #include "batch/eingabensumme.h"
 #include "batch/simulationsergebnis.h"
 #include "batch/vorgaben.h"
@@ -36,8 +37,7 @@ struct Auftrag {
     Berichtsschreiber schreibe_Bericht;
     bool erweitert = false;     // the report of all studies, too
     const Uhr* Zeit = nullptr;  // of reports
-    // Descriptions that several of the chosen simulations share: their reports carry the simulation's name as well.
-    std::vector<std::string> mehrfache_Beschreibungen;
+    Berichtsnamen Namen;        // of all reports of the project
 };
 
 // A simulation as its records give it.

@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <exception>
 #include <filesystem>
-#include <map>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -43,33 +42,16 @@
 #include "batch/vorgaben.h"
 #include "records/dateien.h"
 #include "records/einstellungen.h"
-#include "records/simulation.h"
 
 namespace varnok::batch {
 namespace {
 
 using Namensliste = std::vector<std::string>;
 
-void melde(std::ostream& fehler, const std::string& Text) { fehler << "varnok-batch: " << Text << '\n'; }
+// What comes from a file neither steers a terminal nor looks like a message of its own.
+void melde(std::ostream& fehler, const std::string& Text) { fehler << "varnok-batch: " << druckbar(Text) << '\n'; }
 
-// Descriptions of more than one of the simulations. One that cannot be read is told when it is calculated.
-Namensliste mehrfache_Beschreibungen(const Projektordner& Ordner, const Namensliste& Namen) {
-    std::map<std::string, int> Zaehler;
-    for (const std::string& Name : Namen) {
-        try {
-            ++Zaehler[lies_Simulation(Ordner, Name).Beschreibung];
-        } catch (const Laufzeitfehler&) {
-            continue;
-        }
-    }
-    Namensliste Mehrfache;
-    for (const auto& [Beschreibung, Anzahl] : Zaehler) {
-        if (Anzahl > 1) Mehrfache.push_back(Beschreibung);
-    }
-    return Mehrfache;
-}
-
-Auftrag erstelle_Auftrag(const Aufruf& a, const Projektordner& Ordner, const Namensliste& Namen) {
+Auftrag erstelle_Auftrag(const Aufruf& a, const Projektordner& Ordner) {
     Auftrag Arbeit(Ordner);
     Arbeit.Studie = a.Studie;
     Arbeit.Serienordner = a.Serienordner;
@@ -79,9 +61,9 @@ Auftrag erstelle_Auftrag(const Aufruf& a, const Projektordner& Ordner, const Nam
     Arbeit.mit_Reihen = !a.Datenbank.empty() && !a.Serienordner.empty();
     Arbeit.Variantenquelle = a.Variantendatei.empty() ? a.Stichprobendatei : a.Variantendatei;
     Arbeit.mit_Summe = !a.JSON_Datei.empty() || !a.Zeilendatei.empty() || !a.Datenbank.empty() || a.mit_Eingaben;
-    if (!a.Berichtsordner.empty()) Arbeit.mehrfache_Beschreibungen = mehrfache_Beschreibungen(Ordner, Namen);
+    if (!a.Berichtsordner.empty()) Arbeit.Namen = Berichtsnamen(Ordner);
     if (a.Einstellungsdatei.empty()) return Arbeit;
-    Arbeit.Einstellungen = lies_Datei(a.Einstellungsdatei);
+    Arbeit.Einstellungen = lies_Datei(a.Einstellungsdatei, Quelle::alles);
     const auto Gelesene = zerlege_Einstellungen(*Arbeit.Einstellungen, a.Einstellungsdatei, &Arbeit.zu_den_Einstellungen);
     if (!Gelesene) {
         const Bemerkung& Grund = Arbeit.zu_den_Einstellungen.back();
@@ -90,6 +72,13 @@ Auftrag erstelle_Auftrag(const Aufruf& a, const Projektordner& Ordner, const Nam
     }
     Arbeit.TWA = Gelesene->TWA;
     return Arbeit;
+}
+
+// A hint stands on a line of its own; any other line end is one of a name.
+void melde_Aufruffehler(std::ostream& fehler, const std::string& Text) {
+    const auto Ende = Text.find(Hilfehinweis);
+    melde(fehler, Text.substr(0, Ende));
+    if (Ende != std::string::npos) fehler << Text.substr(Ende + 1) << '\n';
 }
 
 // What is left of a simulation until its turn comes.
@@ -211,7 +200,7 @@ void gleiche_mit_Vorherigem_ab(const Aufruf& a, Vorbereitung& v) {
 
 Vorbereitung bereite_vor(const Aufruf& a, const Projektordner& Ordner, const Umgebung& Umwelt) {
     Namensliste Namen = waehle_Simulationen(Ordner, a);
-    Vorbereitung v{Namen, erstelle_Auftrag(a, Ordner, Namen), oeffne_Varianten(a, Ordner), std::nullopt};
+    Vorbereitung v{Namen, erstelle_Auftrag(a, Ordner), oeffne_Varianten(a, Ordner), std::nullopt};
     v.Arbeit.Zeit = Umwelt.Zeit;
     v.Arbeit.Vorgaben = Vorgabensatz(lies_Vorgaben(a, Ordner), v.Varianten ? v.Varianten->Namen() : std::vector<Namensbezug>());
     pruefe_Vorgaben(v.Arbeit, v.Namen, v.Varianten.get());
@@ -335,7 +324,7 @@ int varnok_batch(int argc, const char* const* argv, std::ostream& aus, std::ostr
         aus << std::get<Auskunft>(Gewolltes).Text << std::flush;
         return alles_berechnet;
     } catch (const std::exception& f) {
-        melde(fehler, f.what());
+        melde_Aufruffehler(fehler, f.what());
         return falscher_Aufruf;
     }
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/dateiname.h"
 #include "base/text.h"
 #include "base/zahlen.h"
 #include "base/zeichensatz.h"
@@ -112,7 +113,7 @@ std::vector<Diagramm> erstelle_Diagramme(const Darstellung& Inhalt, Diagrammbere
 }
 
 std::string Dateiname_Tagesreihe(const std::string& Stoffname) {
-    return "Detailed Results - " + als_Dateiname(Stoffname) + ".tab";
+    return als_Dateiname("Detailed Results - " + Stoffname, ".tab");
 }
 
 }  // namespace varnok

@@ -12,7 +12,7 @@ namespace varnok {
 
 struct Abrufgrenze {
     std::size_t Bytes = 0;                  // of the answer
-    std::chrono::milliseconds insgesamt{};  // from the call to the last byte
+    std::chrono::milliseconds insgesamt{};  // from the call to the last byte; 0: no limit but the next
     std::chrono::milliseconds Stille{};     // without any byte
 };
 
@@ -27,7 +27,7 @@ public:
     // Returns at once; `fertig` is called later, once. One at a time.
     virtual void hole_nebenher(const std::string& Adresse, const Abrufgrenze& Grenze,
                                std::function<void(Abrufantwort)> fertig) = 0;
-    // Forgets what `hole_nebenher` began: its `fertig` is not called any more.
+    // Forgets what `hole_nebenher` began: its `fertig` is not called any more. A `hole` that waits returns without an answer.
     virtual void brich_ab() = 0;
 };
 

@@ -44,10 +44,12 @@ Ausgang Aktualisierung::biete_an(const Serverversion& Version) {
 // The signature first: without one the program need not travel.
 Ausgang Aktualisierung::lade(const Serverversion& Version) {
     const Abrufantwort Signatur = Welt_.Netz->hole(Welt_.Ziel.Signatur(), Signaturgrenze);
-    if (!Signatur) return Ausgang::nicht_geladen;
-    const Abrufantwort Programm = Welt_.Netz->hole(Welt_.Ziel.Programm(), Programmgrenze);
-    if (!Programm) return Ausgang::nicht_geladen;
-    const std::string Text = signierter_Text(Version.Zeichen, *Programm);
+    const Abrufantwort Programm = Signatur ? Welt_.Netz->hole(Welt_.Ziel.Programm(), Programmgrenze) : std::nullopt;
+    if (!Programm) {
+        sage_Ablehnung(Updatetexte::nicht_angekommen);
+        return Ausgang::nicht_geladen;
+    }
+    const std::string Text = signierter_Text(Version.Zeichen, Welt_.Ziel.Programmname(), *Programm);
     if (!Signatur_passt(*Signatur, Text, Welt_.Ziel.Schluessel)) {
         sage_Ablehnung(Updatetexte::falsche_Signatur);
         return Ausgang::falsch_signiert;

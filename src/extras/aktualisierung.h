@@ -25,7 +25,7 @@ struct Aktualisierungswelt {
 enum class Aktualisierungsausgang {
     keine_Antwort,    // the server gave none, or one that offers no version
     beantwortet,      // the user has been told how the versions stand; nothing more was wanted or could be done
-    nicht_geladen,    // wanted, but the server did not give the new program
+    nicht_geladen,    // wanted, but the server did not give the new program; the user has been told
     falsch_signiert,  // what the server gave is not kept; the user has been told
     nicht_ersetzt,    // the same for a fault of this machine
     Programmende,     // the new program waits for the end of this one
@@ -49,6 +49,8 @@ inline constexpr const char* geladen =
 inline constexpr const char* Titel_abgelehnt = "Update not installed";
 inline constexpr const char* falsche_Signatur =
     "The signature of the new version does not fit: it was damaged on its way, or it is not from the maker of VARNOK.";
+inline constexpr const char* nicht_angekommen =
+    "The new version could not be downloaded: the connection broke off, or nothing came any more.";
 inline constexpr const char* nicht_gestartet = "The program that replaces this one could not be started.";
 inline constexpr const char* nichts_ersetzt = "\nNothing was replaced.";
 }  // namespace Updatetexte
@@ -84,6 +86,7 @@ inline constexpr Abrufgrenze Seitengrenze{std::size_t{1} << 20, std::chrono::sec
 // The start of the program has less time.
 inline constexpr Abrufgrenze Startgrenze{std::size_t{1} << 20, std::chrono::seconds(3), std::chrono::seconds(3)};
 inline constexpr Abrufgrenze Signaturgrenze{4096, std::chrono::seconds(5), std::chrono::seconds(5)};
-inline constexpr Abrufgrenze Programmgrenze{std::size_t{128} << 20, std::chrono::seconds(120), std::chrono::seconds(5)};
+// A slow way is no reason to give up, a silent one is.
+inline constexpr Abrufgrenze Programmgrenze{std::size_t{128} << 20, std::chrono::seconds(0), std::chrono::seconds(20)};
 
 }  // namespace varnok

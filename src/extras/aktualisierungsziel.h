@@ -13,12 +13,14 @@ struct Aktualisierungsziel {
 
     bool vorhanden() const { return !Host.empty(); }
     std::string Versionsseite() const { return Adresse("/download/permanent/zq/VARNOK/"); }
-    std::string Programm() const { return Adresse("/download/permanent/zq/VARNOK_update/Varnok.exe"); }
+    // Of this platform.
+    static std::string Programmname();
+    std::string Programm() const { return Adresse("/download/permanent/zq/VARNOK_update/" + Programmname()); }
     // Beside the program.
     std::string Signatur() const { return Programm() + ".sig"; }
 
 private:
-    std::string Adresse(const char* Pfad) const { return Schema + "://" + Host + Pfad; }
+    std::string Adresse(const std::string& Pfad) const { return Schema + "://" + Host + Pfad; }
 };
 
 // What this program was configured for.

@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
+#include <QUuid>
 #include <array>
 #include <utility>
 
@@ -40,9 +41,9 @@ bool gehoert_einem_Paket(const std::string& Ordner) {
 }  // namespace
 
 std::string Tauschskript(const Skriptangaben& a) {
-    const std::string alt = Shellwort(a.Programm);
-    const std::string neu = Shellwort("New_" + a.Programm);
-    const std::string Teil = Shellwort("New_" + a.Programm + ".part");
+    const std::string alt = Shellwort("./" + a.Programm);
+    const std::string neu = Shellwort("./" + a.neues);
+    const std::string selbst = Shellwort("./" + a.Skript);
     return "#!/bin/sh\n"
            "cd " +
            Shellwort(a.Ordner) +
@@ -54,18 +55,18 @@ std::string Tauschskript(const Skriptangaben& a) {
            "    Runden=$((Runden + 1))\n"
            "    if [ $Runden -gt 600 ]; then\n"
            "        rm -f " +
-           neu +
-           " update.sh\n"
+           neu + " " + selbst +
+           "\n"
            "        exit 1\n"
            "    fi\n"
            "    sleep 0.1\n"
            "done\n"
-           "cp -p " +
-           neu + " " + Teil + " && mv -f " + Teil + " " + alt +
+           "[ -L " +
+           alt + " ] || [ -d " + alt + " ] || mv -f " + neu + " " + alt +
            "\n"
            "rm -f " +
-           neu + " " + Teil +
-           " update.sh\n"
+           neu + " " + selbst +
+           "\n"
            "cd " +
            Shellwort(a.Startordner) +
            "\n"
@@ -83,16 +84,8 @@ std::string Tauschstapel() {
 
 Dateitausch::Dateitausch(const std::string& Programmdatei, std::string Startordner, std::int64_t Prozess) {
     const QFileInfo Datei(als_QString(Programmdatei));
-    Angaben_ = {Datei.absolutePath().toStdString(), Datei.fileName().toStdString(), std::move(Startordner), Prozess};
+    Angaben_ = {Datei.absolutePath().toStdString(), Datei.fileName().toStdString(), std::move(Startordner), Prozess, {}, {}};
 }
-
-std::string Dateitausch::alte_Datei() const { return Angaben_.Ordner + "/" + Angaben_.Programm; }
-
-std::string Dateitausch::neue_Datei() const {
-    return Angaben_.Ordner + "/" + (mit_Stapeldateien ? std::string(neuer_Stapelname) : "New_" + Angaben_.Programm);
-}
-
-std::string Dateitausch::Skriptdatei() const { return Angaben_.Ordner + (mit_Stapeldateien ? "/update.bat" : "/update.sh"); }
 
 bool Dateitausch::moeglich() const {
     if (gehoert_einem_Paket(Angaben_.Ordner)) return false;
@@ -100,16 +93,19 @@ bool Dateitausch::moeglich() const {
     if (mit_Stapeldateien && !gleich_ohne_Gross_Klein(Angaben_.Programm, Stapelname)) return false;
     if (!mit_Stapeldateien && !QFileInfo(QStringLiteral("/bin/sh")).isExecutable()) return false;
     const QFileInfo Datei(als_QString(alte_Datei())), Ordner(als_QString(Angaben_.Ordner));
-    return Datei.isFile() && Datei.isWritable() && Ordner.isWritable();
+    return Datei.isFile() && !Datei.isSymLink() && Datei.isWritable() && Ordner.isWritable();
 }
 
 void Dateitausch::bereite_vor(const std::string& Programm) {
-    schreibe_Datei(neue_Datei(), Programm);
+    const std::string Kennung = QUuid::createUuid().toString(QUuid::WithoutBraces).toStdString();
+    Angaben_.neues = mit_Stapeldateien ? neuer_Stapelname : "." + Angaben_.Programm + "-" + Kennung;
+    schreibe_Datei(neue_Datei(), Programm, als_Datei);
     const QString neu = als_QString(neue_Datei());
     if (!QFile::setPermissions(neu, QFile::permissions(als_QString(alte_Datei())))) {
         throw Laufzeitfehler("Cannot make the file \"" + neue_Datei() + "\" a program");
     }
-    schreibe_Datei(Skriptdatei(), mit_Stapeldateien ? Tauschstapel() : Tauschskript(Angaben_));
+    Angaben_.Skript = mit_Stapeldateien ? "update.bat" : "." + Angaben_.Programm + "-" + Kennung + ".sh";
+    schreibe_Datei(Skriptdatei(), mit_Stapeldateien ? Tauschstapel() : Tauschskript(Angaben_), als_Datei);
 }
 
 bool Dateitausch::starte() {
@@ -123,7 +119,10 @@ bool Dateitausch::starte() {
 }
 
 void Dateitausch::verwirf() {
-    for (const std::string& Datei : {neue_Datei(), Skriptdatei()}) QFile::remove(als_QString(Datei));
+    for (std::string* Name : {&Angaben_.neues, &Angaben_.Skript}) {
+        if (!Name->empty()) QFile::remove(als_QString(im_Ordner(*Name)));
+        Name->clear();
+    }
 }
 
 }  // namespace varnok

@@ -11,7 +11,7 @@ namespace varnok {
 class Programmtausch {
 public:
     virtual ~Programmtausch() = default;
-    // Whether the user may replace the file at all: not one that a package brought.
+    // Whether the user may replace the file at all: not one that a package brought, nor one that is a link.
     virtual bool moeglich() const = 0;
     // Puts the new program and the script beside the old one. Throws Laufzeitfehler.
     virtual void bereite_vor(const std::string& Programm) = 0;
@@ -21,14 +21,16 @@ public:
     virtual void verwirf() = 0;
 };
 
-// The script's text for a system with a shell: waits for the end of the process, then copies, deletes, restarts
-// the program in the folder that was current for the old one. After a minute of waiting it gives up and leaves
-// the old program alone, which also starts again where the copy fails.
+// The script's text for a system with a shell: waits for the end of the process, then puts the new file in the place of the old
+// one, removes itself and restarts the program in the folder that was current for the old one. After a minute of waiting it gives
+// up and leaves the old program alone, which also starts again where the step fails. It touches no other file.
 struct Skriptangaben {
     std::string Ordner;       // of the program
     std::string Programm;     // name of its file
     std::string Startordner;  // current folder of the restart
     std::int64_t Prozess = 0;
+    std::string neues;   // name of the new program's file
+    std::string Skript;  // name of the script's own
 };
 std::string Tauschskript(const Skriptangaben& Angaben);
 
@@ -45,11 +47,13 @@ public:
     bool starte() override;
     void verwirf() override;
 
-    std::string neue_Datei() const;
-    std::string Skriptdatei() const;
+    // What `bereite_vor` made, under names that nobody can foresee; empty before.
+    std::string neue_Datei() const { return im_Ordner(Angaben_.neues); }
+    std::string Skriptdatei() const { return im_Ordner(Angaben_.Skript); }
 
 private:
-    std::string alte_Datei() const;
+    std::string alte_Datei() const { return im_Ordner(Angaben_.Programm); }
+    std::string im_Ordner(const std::string& Name) const { return Name.empty() ? Name : Angaben_.Ordner + "/" + Name; }
 
     Skriptangaben Angaben_;
 };

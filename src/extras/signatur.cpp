@@ -22,10 +22,10 @@ const unsigned char* als_Bytes(std::string_view Text) { return reinterpret_cast<
 
 }  // namespace
 
-std::string signierter_Text(std::string_view Version, std::string_view Programm) {
+std::string signierter_Text(std::string_view Version, std::string_view Datei, std::string_view Programm) {
     std::string Text;
-    Text.reserve(Version.size() + Programm.size());
-    return Text.append(Version).append(Programm);
+    Text.reserve(Version.size() + Datei.size() + Programm.size());
+    return Text.append(Version).append(Datei).append(Programm);
 }
 
 bool Signatur_passt(std::string_view Signatur, std::string_view Text, std::string_view Schluessel) {

@@ -217,7 +217,7 @@ void Satz_schreiben(const Projektordner& Ordner, const std::string& Name, Satzar
                     char Dezimalzeichen) {
     if (Art < Wirkstoff || Art > Szenario) return;
     const std::string Pfad = Ordner.Zielpfad(Name, Endungen[Art]);
-    schreibe_Datei(Pfad, Satz_als_Bytes(Art, e, a, Dezimalzeichen));
+    schreibe_Datei(Pfad, Satz_als_Bytes(Art, e, a, Dezimalzeichen), als_Satz);
 }
 
 }  // namespace varnok

@@ -73,7 +73,7 @@ std::string Simulation_als_Bytes(const Simulationssatz& Satz) {
 }
 
 void schreibe_Simulation(const Projektordner& Ordner, const std::string& Name, const Simulationssatz& Satz) {
-    schreibe_Datei(Ordner.Zielpfad(Name, Endungen[Simulation]), Simulation_als_Bytes(Satz));
+    schreibe_Datei(Ordner.Zielpfad(Name, Endungen[Simulation]), Simulation_als_Bytes(Satz), als_Satz);
 }
 
 std::vector<std::string> Simulationen_nach_Alter(const Projektordner& Ordner) {

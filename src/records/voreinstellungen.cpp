@@ -49,8 +49,9 @@ void stelle_Voreinstellungen_her(const Projektordner& Ordner, const std::vector<
         Inhalte[i] = lies_Datei(*Pfad);
     }
     for (std::size_t i = 0; i < Inhalte.size(); ++i)
-        schreibe_Datei(Ordner.Zielpfad(Startsimulation, Endungen[Wirkstoff + i]), Inhalte[i]);
-    schreibe_Simulation(Ordner, Startsimulation, {Startsimulation, {"", Startsimulation, Startsimulation, Startsimulation}});
+        schreibe_Datei(Ordner.Zielpfad(Startsimulation, Endungen[Wirkstoff + i]), Inhalte[i], als_Datei);
+    const Simulationssatz Satz{Startsimulation, {"", Startsimulation, Startsimulation, Startsimulation}};
+    schreibe_Datei(Ordner.Zielpfad(Startsimulation, Endungen[Simulation]), Simulation_als_Bytes(Satz), als_Datei);
 }
 
 }  // namespace varnok

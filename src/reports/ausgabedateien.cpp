@@ -10,11 +10,6 @@
 namespace varnok {
 namespace {
 
-void lege_Ordner_an(const std::string& Ordner) {
-    if (QDir().mkpath(QString::fromStdString(Ordner))) return;
-    throw Laufzeitfehler("Cannot make the folder \"" + Ordner + "\"");
-}
-
 // The file of that name; an exact match wins over one in other case, and without either it is a new one.
 std::string Zielpfad(const std::string& Ordner, const std::string& Dateiname) {
     const QString gesucht = QString::fromStdString(Dateiname);
@@ -32,10 +27,11 @@ std::string Zielpfad(const std::string& Ordner, const std::string& Dateiname) {
 
 std::string Ausgabeordner(const Projektordner& Ordner) { return Ordner.Unterordner("output"); }
 
-std::string schreibe_Ausgabedatei(const std::string& Ordner, const std::string& Dateiname, const std::string& Bytes) {
-    lege_Ordner_an(Ordner);
+std::string schreibe_Ausgabedatei(const std::string& Ordner, const std::string& Dateiname, const std::string& Bytes,
+                                  const Schreibort& Ort) {
+    lege_Ordner_an(Ordner, Ort.Grenze);
     const std::string Pfad = Zielpfad(Ordner, Dateiname);
-    schreibe_Datei(Pfad, Bytes);
+    schreibe_Datei(Pfad, Bytes, Ort);
     return Pfad;
 }
 
@@ -53,11 +49,14 @@ std::string Laufprotokoll(const Ergebnis& e) {
     return Text;
 }
 
-std::string Nebenausgaben::schreibe(const std::string& Ordner, const std::string& Dateiname, const std::string& Bytes) {
+std::string Nebenausgaben::schreibe(const Projektordner& Projekt, const std::string& Ordner, const std::string& Dateiname,
+                                    const std::string& Bytes) {
     try {
-        schreibe_Ausgabedatei(Ordner, Dateiname, Bytes);
+        schreibe_Ausgabedatei(Ordner, Dateiname, Bytes, {Schreibweise::ungefragt, Projekt.Pfad()});
     } catch (const Laufzeitfehler& f) {
-        if (gemeldet_.insert(Ordner + "/" + Dateiname).second) return f.what();
+        // A folder that is a link to outside is no matter of a file.
+        const bool alle = liegt_ausserhalb(Ordner, Projekt.Pfad());
+        if (gemeldet_.insert(alle ? Ordner : Ordner + "/" + Dateiname).second) return f.what();
     }
     return {};
 }
@@ -66,11 +65,11 @@ std::string Nebenausgaben::schreibe_Zeichnung(const Projektordner& Ordner, const
     if (d.Datei.Dateiname.empty()) return {};
     std::string Bytes;
     for (const std::string& Zeile : d.Datei.Zeilen) Bytes += Zeile + "\r\n";
-    return schreibe(d.Zusammenfassung ? Ordner.Pfad() : Ausgabeordner(Ordner), d.Datei.Dateiname, Bytes);
+    return schreibe(Ordner, d.Zusammenfassung ? Ordner.Pfad() : Ausgabeordner(Ordner), d.Datei.Dateiname, Bytes);
 }
 
 std::string Nebenausgaben::schreibe_Laufprotokoll(const Projektordner& Ordner, const Ergebnis& e) {
-    return schreibe(Ausgabeordner(Ordner), Laufprotokoll_Name, Laufprotokoll(e));
+    return schreibe(Ordner, Ausgabeordner(Ordner), Laufprotokoll_Name, Laufprotokoll(e));
 }
 
 }  // namespace varnok

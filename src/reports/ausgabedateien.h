@@ -8,6 +8,7 @@
 #include "diagrams/diagramm.h"
 #include "exposure/ergebnis.h"
 #include "records/projektordner.h"
+#include "records/schreibort.h"
 
 namespace varnok {
 
@@ -17,9 +18,11 @@ inline constexpr const char* Laufprotokoll_Name = "test.txt";
 // The project's folder for output, also where it does not exist yet.
 std::string Ausgabeordner(const Projektordner& Ordner);
 
-// Writes a file into a folder, over one of that name in whatever case. The folder is made when it is missing.
+// Writes a file into a folder, over one of that name in whatever case. The folder is made when it is missing. Neither leaves
+// the limits of `Ort`.
 // Returns the path. Throws Laufzeitfehler that names what could not be made and the reason.
-std::string schreibe_Ausgabedatei(const std::string& Ordner, const std::string& Dateiname, const std::string& Bytes);
+std::string schreibe_Ausgabedatei(const std::string& Ordner, const std::string& Dateiname, const std::string& Bytes,
+                                  const Schreibort& Ort = als_Datei);
 
 // What the run of a study leaves for diagnosis: a line for each day 0 to 3649 of the last compound of the scheme,
 // tab separated: day, series in tillage depth and in soil depth (total soil), then the amounts formed of the first and
@@ -35,7 +38,8 @@ public:
     std::string schreibe_Laufprotokoll(const Projektordner& Ordner, const Ergebnis& e);
 
 private:
-    std::string schreibe(const std::string& Ordner, const std::string& Dateiname, const std::string& Bytes);
+    std::string schreibe(const Projektordner& Projekt, const std::string& Ordner, const std::string& Dateiname,
+                         const std::string& Bytes);
 
     std::set<std::string> gemeldet_;
 };

@@ -3,9 +3,7 @@
 #include <QDateTime>
 #include <algorithm>
 
-#include "base/laufzeitfehler.h"
 #include "exposure/bezeichnungen.h"
-#include "records/projektordner.h"
 
 namespace varnok {
 namespace {
@@ -70,15 +68,6 @@ std::string Ausgabename_erweiterter_Bericht(const Darstellung& d, const Berichts
     if (will(d, Datum_erweitert)) Name += " - " + Datum_als_Text(z);
     if (will(d, Zeit_erweitert)) Name += " - " + Zeit_als_Text(z);
     return Name;
-}
-
-void pruefe_Ausgabename(const std::string& Name) {
-    std::string Einwand = Einwand_gegen_Namen(Name);
-#ifdef _WIN32
-    if (Einwand.empty() && Name.find_first_of(":*?\"<>|") != std::string::npos)
-        Einwand = "it holds one of the characters : * ? \" < > |";
-#endif
-    if (!Einwand.empty()) throw Laufzeitfehler("\"" + Name + "\" cannot be the name of a report: " + Einwand);
 }
 
 }  // namespace varnok

@@ -30,7 +30,4 @@ std::string Ausgabename_Standardbericht(const Darstellung& d, const Berichtszeit
 // and time hang on those of date, time and on one that no option sets.
 std::string Ausgabename_erweiterter_Bericht(const Darstellung& d, const Berichtszeit& z);
 
-// Throws Laufzeitfehler that names the name and what is wrong with it if no file can have it.
-void pruefe_Ausgabename(const std::string& Name);
-
 }  // namespace varnok

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "base/dateiname.h"
 #include "diagrams/diagrammbau.h"
 #include "reports/ausgabedateien.h"
 #include "reports/berichtswoerter.h"
@@ -53,8 +54,7 @@ Diagramm erstelle_Berichtsdiagramm(const Darstellung& d, Berichtsart Art) {
 Bericht schreibe_Bericht(const Berichtsauftrag& a) {
     const Berichtsroutinen& r = Routinen.at(static_cast<std::size_t>(a.Art));
     Bericht b;
-    b.Name = r.Name(a.Inhalt, a.Zeitpunkt);
-    pruefe_Ausgabename(b.Name);
+    b.Name = als_Dateiname(r.Name(a.Inhalt, a.Zeitpunkt));
     b.Text = r.Text(a.Inhalt, {a.Programmversion, a.Zeitpunkt.Datum, a.Zeitpunkt.Zeit, a.Applikationssatz});
     b.Dokument = leeres_Dokument();
     Textauswahl w(*b.Dokument, QString::fromStdString(b.Text));
@@ -74,8 +74,8 @@ Bericht schreibe_Bericht(const Berichtsauftrag& a) {
     return b;
 }
 
-std::string speichere_Bericht(const Bericht& b, const std::string& Ordner) {
-    return schreibe_Ausgabedatei(Ordner, b.Name + Berichtsendung, b.RTF);
+std::string speichere_Bericht(const Bericht& b, const std::string& Ordner, const std::string& Grenze) {
+    return schreibe_Ausgabedatei(Ordner, b.Name + Berichtsendung, b.RTF, {Schreibweise::Datei, Grenze});
 }
 
 }  // namespace varnok

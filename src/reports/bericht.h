@@ -43,8 +43,9 @@ Diagramm erstelle_Berichtsdiagramm(const Darstellung& d, Berichtsart Art);
 // have the name, a parameter has no text.
 Bericht schreibe_Bericht(const Berichtsauftrag& a);
 
-// Writes the RTF into a folder, which is made when it is missing, over any file of that name. Returns the path.
+// Writes the RTF into a folder, which is made when it is missing, over any file of that name; with `Grenze` only where that lies
+// inside of it. Returns the path.
 // Throws Laufzeitfehler that names the file and the reason.
-std::string speichere_Bericht(const Bericht& b, const std::string& Ordner);
+std::string speichere_Bericht(const Bericht& b, const std::string& Ordner, const std::string& Grenze = {});
 
 }  // namespace varnok

@@ -24,6 +24,7 @@ using testing::Not;
 struct Ausgaben : testing::Test {
     Probeprojekt Projekt;
     Ausgaben() { Projekt.schreibe("case"); }
+    std::string im_Projekt(const std::string& Name) const { return Projekt.Pfad() + "/" + Name; }
 };
 
 TEST_F(Ausgaben, files_hold_what_standard_output_would) {
@@ -43,7 +44,8 @@ TEST_F(Ausgaben, one_on_standard_output_and_the_other_in_a_file) {
 }
 
 TEST_F(Ausgaben, old_file_is_replaced_whole) {
-    const std::string JSON = Projekt.daneben("r.json");
+    fs::create_directories(Projekt.daneben("output"));
+    const std::string JSON = Projekt.daneben("output/r.json");
     std::ofstream(JSON) << std::string(1'000'000, 'x');
     EXPECT_EQ(rufe({"--json", JSON, Projekt.Pfad()}).Status, 0);
     EXPECT_THAT(Inhalt(JSON), Not(HasSubstr("x}")));
@@ -87,6 +89,73 @@ TEST_F(Ausgaben, no_output_lands_among_the_input_files) {
     EXPECT_EQ(Inhalt(Projekt.Eingabedatei("case.che")), davor);
     EXPECT_FALSE(fs::exists(Projekt.Eingabedatei("new.csv")));
     EXPECT_FALSE(fs::exists(Projekt.Eingabedatei("days")));
+}
+
+// ---- what the project holds is replaced by earlier outputs' successors alone
+
+TEST_F(Ausgaben, no_file_of_the_project_is_replaced) {
+    fs::create_directories(im_Projekt("backup/2026-01-01 10-00-00"));
+    for (const char* Name : {"VARNOK.ini", "Diagram.txt", "backup/2026-01-01 10-00-00/case.che"}) {
+        std::ofstream(im_Projekt(Name)) << "mine";
+        for (const char* Option : {"--json", "--csv"}) {
+            const auto r = rufe({Option, im_Projekt(Name), Projekt.Pfad()});
+            EXPECT_EQ(r.Status, 2);
+            EXPECT_THAT(r.fehler, HasSubstr(Name));
+        }
+        EXPECT_EQ(Inhalt(im_Projekt(Name)), "mine");
+    }
+}
+
+TEST_F(Ausgaben, neither_the_project_nor_its_backups_are_a_folder_for_them) {
+    fs::create_directories(im_Projekt("backup"));
+    for (const std::string& Ordner : {Projekt.Pfad(), Projekt.Pfad() + "/.", im_Projekt("backup"), im_Projekt("backup/x")}) {
+        EXPECT_EQ(rufe({"--series", Ordner, Projekt.Pfad()}).Status, 2) << Ordner;
+    }
+    EXPECT_FALSE(fs::exists(im_Projekt("case - study 1.tab")));
+}
+
+TEST_F(Ausgaben, link_is_replaced_and_its_target_stays) {
+    std::ofstream(im_Projekt("VARNOK.ini")) << "mine";
+    fs::create_directories(im_Projekt("output/days"));
+    fs::create_symlink(im_Projekt("VARNOK.ini"), im_Projekt("output/r.csv"));
+    fs::create_symlink(Projekt.Eingabedatei("case.che"), im_Projekt("output/days/case - study 1.tab"));
+    const std::string vorher = Inhalt(Projekt.Eingabedatei("case.che"));
+    const auto r = rufe({"--csv", im_Projekt("output/r.csv"), "--series", im_Projekt("output/days"), Projekt.Pfad()});
+    EXPECT_EQ(r.Status, 0) << r.fehler;
+    EXPECT_EQ(Inhalt(im_Projekt("VARNOK.ini")), "mine");
+    EXPECT_EQ(Inhalt(Projekt.Eingabedatei("case.che")), vorher);
+    EXPECT_THAT(Inhalt(im_Projekt("output/r.csv")), testing::StartsWith("simulation,study,"));
+    EXPECT_FALSE(fs::is_symlink(im_Projekt("output/days/case - study 1.tab")));
+}
+
+TEST_F(Ausgaben, folder_that_is_a_link_to_the_records_is_none_for_outputs) {
+    fs::create_directory_symlink(im_Projekt("input"), Projekt.daneben("elsewhere"));
+    EXPECT_EQ(rufe({"--series", Projekt.daneben("elsewhere"), Projekt.Pfad()}).Status, 2);
+    EXPECT_EQ(rufe({"--csv", Projekt.daneben("elsewhere/case.che"), Projekt.Pfad()}).Status, 2);
+}
+
+TEST_F(Ausgaben, no_message_steers_a_terminal_or_looks_like_another) {
+    const std::string boese =
+        "\x1B]0;title\x07 \xC2\x9B"
+        "31m";
+    Probe p;
+    p.Felder.Studie = {"\x1B]0;title\x07"};
+    Projekt.schreibe("bad", p);
+    Projekt.ersetze_Zeile("bad.che", 9 + 7, "SFO k (1/d):\t-1E+300\t0\t0");
+    const std::string Ordner = Projekt.daneben("a\nvarnok-batch: all is well\x1B[2J");
+    fs::create_directories(Ordner + "/case - study 1.tab");
+    for (auto Argumente : std::vector<std::vector<std::string>>{{"--simulation", "bad"},
+                                                                {"--simulation", "case", "--series", Ordner},
+                                                                {"--simulation", boese},
+                                                                {"--json", Ordner},
+                                                                {"--jobs", boese}}) {
+        Argumente.push_back(Projekt.Pfad());
+        const auto r = rufe(Argumente);
+        EXPECT_NE(r.Status, 0) << r.aus;
+        for (const char* Zeichen : {"\x1B", "\x07", "\xC2\x9B", "\nvarnok-batch: all is well"}) {
+            EXPECT_EQ((r.fehler + r.aus).find(Zeichen), std::string::npos) << r.fehler;
+        }
+    }
 }
 
 TEST_F(Ausgaben, settings_file_is_never_an_output) {

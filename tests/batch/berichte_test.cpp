@@ -5,6 +5,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <map>
 #include <set>
 
 #include "batch/probeprojekt.h"
@@ -98,6 +99,93 @@ TEST_F(Berichte, simulations_of_one_description_do_not_replace_each_other) {
     const auto r = rufe({"--all", "--report", Projekt.daneben("reports"), Projekt.Pfad()});
     EXPECT_EQ(r.Status, 0) << r.fehler;
     EXPECT_EQ(Namen("reports").size(), 2U);
+}
+
+// ---- names: none replaces another, whatever call or shard writes it
+
+TEST_F(Berichte, descriptions_that_are_equal_but_for_case_and_forbidden_characters_are_told_apart) {
+    const std::map<std::string, std::string> Beschreibungen = {
+        {"a", "Field A/B"}, {"b", "field a_b"}, {"c", "Field A:B"}, {"d", "Another"}};
+    for (const auto& [Name, Beschreibung] : Beschreibungen) {
+        Probe p;
+        p.Felder.Beschreibung = Beschreibung;
+        Projekt.schreibe(Name, p);
+    }
+    const auto r = rufe({"--all", "--report", Projekt.daneben("reports"), Projekt.Pfad()});
+    EXPECT_EQ(r.Status, 0) << r.fehler;
+    EXPECT_THAT(Namen("reports"),
+                testing::ElementsAre("Another.rtf", "Field A_B - a.rtf", "Field A_B - c.rtf", "field a_b - b.rtf"));
+}
+
+TEST_F(Berichte, names_of_simulations_that_differ_in_case_are_told_apart) {
+    Projekt.schreibe("case");
+    Projekt.schreibe_Bytes("Case.vnk", Inhalt(Projekt.Eingabedatei("case.vnk")));
+    rufe({"--all", "--report", Projekt.daneben("reports"), Projekt.Pfad()});
+    EXPECT_EQ(Namen("reports").size(), 2U);
+}
+
+TEST_F(Berichte, call_and_shard_play_no_part_in_their_names) {
+    Probe p;
+    fuege_Studie_an(p, "Second");
+    p.Felder.Parameter.Ausgabename_Teile[1] = 0;
+    for (const char* Name : {"a", "b", "c"}) Projekt.schreibe(Name, p);
+    rufe({"--all", "--report", Projekt.daneben("all"), "--extended", Projekt.Pfad()});
+    EXPECT_EQ(Namen("all").size(), 9U);
+    for (const char* Teil : {"0/2", "1/2"})
+        rufe({"--all", "--shard", Teil, "--report", Projekt.daneben("shards"), "--extended", Projekt.Pfad()});
+    EXPECT_EQ(Namen("shards"), Namen("all"));
+    for (const char* Name : {"a", "b", "c"}) {
+        for (const char* Studie : {"1", "2"})
+            rufe({"--simulation", Name, "--study", Studie, "--report", Projekt.daneben("single"), "--extended", Projekt.Pfad()});
+    }
+    EXPECT_EQ(Namen("single"), Namen("all"));
+}
+
+TEST_F(Berichte, repeated_names_of_studies_are_numbered) {
+    Probe p;
+    p.Felder.Parameter.Ausgabename_Teile[1] = 1;
+    p.Felder.Studie = {"Field"};
+    fuege_Studie_an(p, "field");
+    fuege_Studie_an(p, "Other");
+    p.Felder.Beschreibung = "x";
+    Projekt.schreibe("case", p);
+    rufe({"--report", Projekt.daneben("reports"), Projekt.Pfad()});
+    EXPECT_THAT(Namen("reports"), testing::ElementsAre("x - Field - study 1.rtf", "x - Other.rtf", "x - field - study 2.rtf"));
+}
+
+TEST_F(Berichte, study_called_like_the_extended_report_is_not_replaced_by_it) {
+    Probe p;
+    p.Felder.Parameter.Ausgabename_Teile[1] = 1;
+    p.Felder.Studie = {"Extended"};
+    p.Felder.Beschreibung = "x";
+    Projekt.schreibe("case", p);
+    rufe({"--report", Projekt.daneben("reports"), "--extended", Projekt.Pfad()});
+    EXPECT_EQ(Namen("reports").size(), 2U);
+}
+
+TEST_F(Berichte, long_descriptions_are_cut_in_front_of_what_tells_them_apart) {
+    Probe p;
+    p.Felder.Beschreibung = std::string(300, 'x');
+    fuege_Studie_an(p, "Second");
+    Projekt.schreibe("a", p);
+    p.Felder.Beschreibung += "y";
+    Projekt.schreibe("b", p);
+    const auto r = rufe({"--all", "--report", Projekt.daneben("reports"), Projekt.Pfad()});
+    EXPECT_EQ(r.Status, 0) << r.fehler;
+    EXPECT_EQ(Namen("reports").size(), 4U);
+}
+
+TEST_F(Berichte, link_in_the_place_of_one_is_replaced) {
+    Probe p;
+    p.Felder.Beschreibung = "x";
+    p.Felder.Parameter.Ausgabename_Teile.fill(0);
+    Projekt.schreibe("case", p);
+    fs::create_directories(Projekt.daneben("output"));
+    fs::create_symlink(Projekt.Eingabedatei("case.che"), Projekt.daneben("output/x.rtf"));
+    const std::string vorher = Inhalt(Projekt.Eingabedatei("case.che"));
+    EXPECT_EQ(rufe({"--report", Projekt.daneben("output"), Projekt.Pfad()}).Status, 0);
+    EXPECT_EQ(Inhalt(Projekt.Eingabedatei("case.che")), vorher);
+    EXPECT_THAT(Inhalt(Projekt.daneben("output/x.rtf")), StartsWith("{\\rtf1"));
 }
 
 TEST_F(Berichte, a_file_in_the_folders_place_is_a_wrong_call) {

@@ -335,7 +335,7 @@ TEST_F(Teile, what_lies_in_the_project_folder_is_never_replaced) {
     for (const char* Option : {"--json", "--csv", "--json-lines", "--sqlite", "--summary"}) {
         const auto r = rufe({Option, im_Projekt, Projekt.Pfad()});
         EXPECT_EQ(r.Status, 2) << Option;
-        EXPECT_THAT(r.fehler, HasSubstr("never replaced"));
+        EXPECT_THAT(r.fehler, HasSubstr("not replaced"));
         EXPECT_EQ(rufe({Option, Projekt.Eingabedatei("b.che"), Projekt.Pfad()}).Status, 2);
     }
     EXPECT_EQ(Inhalt(im_Projekt), "mine");

@@ -11,6 +11,7 @@
 #include <sstream>
 
 #include "batch/berichte/berichte.h"
+#include "batch/berichtsnamen.h"
 #include "batch/schreiber.h"
 #include "batch/serien.h"
 #include "batch/varnok_batch.h"
@@ -109,15 +110,17 @@ protected:
         return *s_;
     }
 
-    // The report of what the window shows is the file that varnok-batch wrote under that name and an addition. Where the
-    // description makes no file name, neither program has a report.
-    void vergleiche_Bericht(const std::string& Zusatz) {
+    // The report of what the window shows is the file that varnok-batch wrote under that name and what tells the reports of a
+    // project apart. Where the description makes no file name, neither program has a report.
+    void vergleiche_Bericht(const std::string& Studienzusatz) {
         s_->fuehre_aus<&Berichtssteuerung::erstelle>();
         const bool geschrieben = s_->zeige<Berichtssteuerung>().offener() != nullptr;
         s_->fuehre_aus<&Berichtssteuerung::schliesse>();
         ASSERT_EQ(geschrieben, Berichte_moeglich_);
         if (!geschrieben) return;
         const std::string Name = s_->Stand().Ergebnisdatei;
+        const std::string Zusatz =
+            batch::Berichtsnamen(*s_->Stand().Ordner).Simulationszusatz(GetParam().Simulation) + Studienzusatz;
         const fs::path Gegenstueck = Ausgabe("berichte") / (Name + Zusatz + ".rtf");
         ASSERT_TRUE(fs::exists(Gegenstueck)) << Gegenstueck;
         EXPECT_TRUE(Inhalt(Projekt() / "output" / (Name + ".rtf")) == Inhalt(Gegenstueck)) << Gegenstueck;
@@ -166,7 +169,7 @@ TEST_P(Eine_Rechnung, gives_the_same_bytes_in_both_programs) {
         EXPECT_TRUE(batch::Serientext(jetzt.zeige().Studie()) ==
                     Inhalt(Ausgabe("serien") / batch::Serienname(GetParam().Simulation, st + 1)))
             << st;
-        vergleiche_Bericht(batch::Studienzusatz(jetzt.Vorgabe, st, static_cast<std::size_t>(Studien)));
+        vergleiche_Bericht(batch::Studienzusatz(jetzt.Vorgabe, st));
     }
 
     oeffne();

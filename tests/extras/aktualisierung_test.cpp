@@ -27,8 +27,8 @@ namespace fs = std::filesystem;
 using Ausgang = Aktualisierungsausgang;
 
 constexpr const char* Seitenpfad = "/download/permanent/zq/VARNOK/";
-constexpr const char* Programmpfad = "/download/permanent/zq/VARNOK_update/Varnok.exe";
-constexpr const char* Signaturpfad = "/download/permanent/zq/VARNOK_update/Varnok.exe.sig";
+const std::string Programmpfad = "/download/permanent/zq/VARNOK_update/" + Aktualisierungsziel::Programmname();
+const std::string Signaturpfad = Programmpfad + ".sig";
 
 constexpr const char* neue_Version = "There is a new version of the software available.\nDo you want to update online?";
 constexpr const char* geladen =
@@ -48,14 +48,15 @@ protected:
         EXPECT_TRUE(laufend_.waitForStarted());
         Tausch_ = std::make_unique<Dateitausch>((Wurzel_ / "varnok").string(), Wurzel_.string(), laufend_.processId());
         Welt_ = {{"http", Server_.Host(), Hersteller_.Hex()}, &Abruf_, Tausch_.get()};
-        biete_an("20180922", Hersteller_.signiere(signierter_Text("20180922", neues_Programm)));
+        biete_an("20180922",
+                 Hersteller_.signiere(signierter_Text("20180922", Aktualisierungsziel::Programmname(), neues_Programm)));
     }
     ~Update() override { beende_alten(); }
 
     void biete_an(const std::string& Version, const std::string& Signatur) {
         Server_.bei(Seitenpfad, antworte(Seite(Version)));
-        Server_.bei(Programmpfad, antworte(QByteArray::fromStdString(neues_Programm)));
-        Server_.bei(Signaturpfad, antworte(QByteArray::fromStdString(Signatur)));
+        Server_.bei(Programmpfad.c_str(), antworte(QByteArray::fromStdString(neues_Programm)));
+        Server_.bei(Signaturpfad.c_str(), antworte(QByteArray::fromStdString(Signatur)));
     }
     Ausgang suche(std::function<void()> vor_dem_Ende = {}) {
         return Aktualisierung(Fragen_, Welt_, std::move(vor_dem_Ende)).Suche_nach_Update();
@@ -63,6 +64,10 @@ protected:
     Drehbuch& Nutzer_will() { return Fragen_.erwarte("Update available!", neue_Version, Knopf::Ja); }
     Drehbuch& Nutzer_hoert_Ablehnung(const std::string& Grund) {
         return Fragen_.erwarte("Update not installed", Grund + "\nNothing was replaced.");
+    }
+    Drehbuch& Download_gescheitert() {
+        return Nutzer_hoert_Ablehnung(
+            "The new version could not be downloaded: the connection broke off, or nothing came any more.");
     }
     Drehbuch& Signatur_falsch() {
         return Nutzer_hoert_Ablehnung(
@@ -185,27 +190,34 @@ TEST_F(Update, a_program_that_does_not_come_whole_is_not_kept) {
     const Testserver anderer;
     for (const auto& v : {sende(Kopf + Programm), antworte(Programm, "404 Not Found"),
                           sende("HTTP/1.1 200 OK\r\nContent-Length: 200000000\r\n\r\n" + Programm),
-                          leite_um(QByteArray::fromStdString(anderer.Adresse(Programmpfad)))}) {
-        Server_.bei(Programmpfad, v);
+                          leite_um(QByteArray::fromStdString(anderer.Adresse(Programmpfad.c_str())))}) {
+        Server_.bei(Programmpfad.c_str(), v);
         Nutzer_will();
+        Download_gescheitert();
         EXPECT_EQ(suche(), Ausgang::nicht_geladen);
         erwarte_nichts_geschehen();
     }
 }
 
 TEST_F(Update, without_a_signature_the_program_is_not_even_fetched) {
-    Server_.bei(Signaturpfad, antworte("not here", "404 Not Found"));
+    Server_.bei(Signaturpfad.c_str(), antworte("not here", "404 Not Found"));
     Nutzer_will();
+    Download_gescheitert();
     EXPECT_EQ(suche(), Ausgang::nicht_geladen);
-    EXPECT_FALSE(Server_.gefragt().contains(Programmpfad));
+    EXPECT_FALSE(Server_.gefragt().contains(QByteArray::fromStdString(Programmpfad)));
     erwarte_nichts_geschehen();
 }
 
 TEST_F(Update, a_signature_that_does_not_fit_is_told_and_nothing_kept) {
-    const std::string richtig = Hersteller_.signiere(signierter_Text("20180922", neues_Programm));
-    for (const std::string& Signatur : {Testschluessel(2).signiere(signierter_Text("20180922", neues_Programm)),  // another maker
-                                        Hersteller_.signiere(neues_Programm),                                     // no version
-                                        Hersteller_.signiere(signierter_Text("20180101", neues_Programm)),  // an old one again
+    const std::string richtig =
+        Hersteller_.signiere(signierter_Text("20180922", Aktualisierungsziel::Programmname(), neues_Programm));
+    for (const std::string& Signatur : {Testschluessel(2).signiere(signierter_Text(
+                                            "20180922", Aktualisierungsziel::Programmname(), neues_Programm)),  // another maker
+                                        Hersteller_.signiere(neues_Programm),                                   // no version
+                                        Hersteller_.signiere(signierter_Text("20180101", Aktualisierungsziel::Programmname(),
+                                                                             neues_Programm)),  // an old one again
+                                        // A program of the maker for another platform.
+                                        Hersteller_.signiere(signierter_Text("20180922", "Varnok.exe", neues_Programm)),
                                         richtig.substr(0, 63), richtig + "x", std::string()}) {
         biete_an("20180922", Signatur);
         Nutzer_will();
@@ -216,7 +228,7 @@ TEST_F(Update, a_signature_that_does_not_fit_is_told_and_nothing_kept) {
 }
 
 TEST_F(Update, a_program_changed_on_its_way_is_told_and_not_kept) {
-    Server_.bei(Programmpfad, antworte(QByteArray::fromStdString(neues_Programm + "rm -rf everything\n")));
+    Server_.bei(Programmpfad.c_str(), antworte(QByteArray::fromStdString(neues_Programm + "rm -rf everything\n")));
     Nutzer_will();
     Signatur_falsch();
     EXPECT_EQ(suche(), Ausgang::falsch_signiert);
@@ -246,8 +258,9 @@ TEST(Auslieferung, has_a_key_wherever_it_has_a_host) {
 TEST(Auslieferung, asks_at_these_addresses) {
     const Aktualisierungsziel Ziel{"http", "example.org", ""};
     EXPECT_EQ(Ziel.Versionsseite(), "http://example.org/download/permanent/zq/VARNOK/");
-    EXPECT_EQ(Ziel.Programm(), "http://example.org/download/permanent/zq/VARNOK_update/Varnok.exe");
-    EXPECT_EQ(Ziel.Signatur(), "http://example.org/download/permanent/zq/VARNOK_update/Varnok.exe.sig");
+    EXPECT_EQ(Ziel.Programm(), "http://example.org/download/permanent/zq/VARNOK_update/" + Aktualisierungsziel::Programmname());
+    EXPECT_EQ(Ziel.Signatur(), Ziel.Programm() + ".sig");
+    EXPECT_EQ(Aktualisierungsziel::Programmname().substr(0, 13), "varnok-linux-");
 }
 
 }  // namespace

@@ -4,7 +4,9 @@
 
 #include <QElapsedTimer>
 #include <QEventLoop>
+#include <QNetworkProxy>
 #include <QTcpSocket>
+#include <QThread>
 #include <QTimer>
 
 #include "extras/testserver.h"
@@ -102,6 +104,62 @@ TEST_F(Netz, a_server_that_says_nothing_is_ended_by_either_time) {
 
 TEST_F(Netz, a_slow_answer_within_the_time_counts) {
     EXPECT_EQ(hole([](QTcpSocket& s) { QTimer::singleShot(400, &s, [&s] { antworte("late")(s); }); }), "late");
+}
+
+// A download over a slow way: longer than any silence in it.
+TEST_F(Netz, without_a_limit_on_the_whole_only_silence_ends_it) {
+    const auto langsam = [](QTcpSocket& s) {
+        s.write("HTTP/1.1 200 OK\r\nContent-Length: 6\r\n\r\n");
+        for (int i = 1; i <= 6; ++i) QTimer::singleShot(200 * i, &s, [&s] { s.write("x"); });
+    };
+    EXPECT_EQ(hole(langsam, {1000, 0ms, 600ms}), "xxxxxx");
+    QElapsedTimer Uhr;
+    Uhr.start();
+    EXPECT_EQ(hole(schweige(), {1000, 0ms, 300ms}), std::nullopt);
+    EXPECT_LT(Uhr.elapsed(), 5000);
+}
+
+// Proxy settings that take their time, as an automatic proxy without an answer.
+class langsamer_Proxy : public QNetworkProxyFactory {
+public:
+    QList<QNetworkProxy> queryProxy(const QNetworkProxyQuery&) override {
+        QThread::msleep(2000);
+        return {QNetworkProxy::NoProxy};
+    }
+};
+
+// A name of no machine: for one of this machine no proxy is looked for.
+TEST(Netzproxy, that_takes_its_time_holds_up_neither_the_caller_nor_the_end) {
+    QNetworkProxyFactory::setApplicationProxyFactory(new langsamer_Proxy);
+    const std::string Adresse = "http://updates.invalid/file";
+    QElapsedTimer Uhr;
+    Uhr.start();
+    {
+        Netzabruf Abruf;
+        bool geantwortet = false;
+        Abruf.hole_nebenher(Adresse, weit, [&](const Abrufantwort&) { geantwortet = true; });
+        EXPECT_LT(Uhr.elapsed(), 200);
+        QEventLoop Schleife;
+        QTimer::singleShot(100, &Schleife, &QEventLoop::quit);
+        Schleife.exec();
+        EXPECT_LT(Uhr.elapsed(), 1000);
+        EXPECT_FALSE(geantwortet);
+    }
+    EXPECT_LT(Uhr.elapsed(), 1800) << "the end waits for nobody";
+    EXPECT_TRUE(Netzabruf::haengt());
+    Uhr.restart();
+    EXPECT_EQ(Netzabruf().hole(Adresse, {1000, 300ms, 300ms}), std::nullopt);
+    EXPECT_LT(Uhr.elapsed(), 1800) << "who waits is answered in time all the same";
+    QThread::msleep(2500);  // the threads that were left come to their end
+    QNetworkProxyFactory::setApplicationProxyFactory(nullptr);
+}
+
+TEST_F(Netz, who_waits_can_be_told_to_wait_no_longer) {
+    QElapsedTimer Uhr;
+    Uhr.start();
+    QTimer::singleShot(100, [this] { Abruf_.brich_ab(); });
+    EXPECT_EQ(hole(schweige()), std::nullopt);
+    EXPECT_LT(Uhr.elapsed(), 5000);
 }
 
 TEST_F(Netz, without_a_server_there_is_no_answer) {

@@ -62,9 +62,10 @@ TEST(Signatur, without_a_whole_key_nothing_fits) {
 // A program signed for one version is none of another.
 TEST(Signatur, covers_the_version) {
     const Testschluessel Hersteller;
-    const std::string Signatur = Hersteller.signiere(signierter_Text("20180101", "old program"));
-    EXPECT_TRUE(Signatur_passt(Signatur, signierter_Text("20180101", "old program"), Hersteller.Hex()));
-    EXPECT_FALSE(Signatur_passt(Signatur, signierter_Text("20990101", "old program"), Hersteller.Hex()));
+    const std::string Signatur = Hersteller.signiere(signierter_Text("20180101", "Varnok.exe", "old program"));
+    EXPECT_TRUE(Signatur_passt(Signatur, signierter_Text("20180101", "Varnok.exe", "old program"), Hersteller.Hex()));
+    EXPECT_FALSE(Signatur_passt(Signatur, signierter_Text("20990101", "Varnok.exe", "old program"), Hersteller.Hex()));
+    EXPECT_FALSE(Signatur_passt(Signatur, signierter_Text("20180101", "varnok-linux-x86_64", "old program"), Hersteller.Hex()));
 }
 
 }  // namespace

@@ -65,15 +65,6 @@ TEST(Dateien, access_rights_of_a_replaced_file_stay) {
     EXPECT_EQ(fs::status(o.Pfad("x")).permissions(), fs::perms(0640));
 }
 
-TEST(Dateien, link_stays_and_its_target_is_replaced) {
-    const Zeitordner o;
-    schreibe_Datei(o.Pfad("target"), "old");
-    fs::create_symlink(o.Pfad("target"), o.Pfad("link"));
-    schreibe_Datei(o.Pfad("link"), "new");
-    EXPECT_TRUE(fs::is_symlink(o.Pfad("link")));
-    EXPECT_EQ(lies_Datei(o.Pfad("target")), "new");
-}
-
 TEST(Dateien, missing_file_is_told_with_name_and_reason) {
     const Zeitordner o;
     const std::string Pfad = o.Pfad("none.che");
@@ -90,8 +81,16 @@ TEST(Dateien, folder_is_no_file) {
 }
 
 TEST(Dateien, endless_device_is_too_large) {
-    EXPECT_THAT(Meldung_von([] { lies_Datei("/dev/zero"); }), HasSubstr("larger than 16 MB"));
-    EXPECT_THROW(lies_Datei_falls_moeglich("/dev/zero"), Laufzeitfehler);
+    EXPECT_THAT(Meldung_von([] { lies_Datei("/dev/zero", Quelle::alles); }), HasSubstr("larger than 16 MB"));
+}
+
+TEST(Dateien, device_or_pipe_is_read_only_where_one_is_expected) {
+    const Zeitordner o;
+    ASSERT_EQ(mkfifo(o.Pfad("pipe.che").c_str(), 0600), 0);
+    for (const std::string& Pfad : {std::string("/dev/zero"), o.Pfad("pipe.che")}) {
+        EXPECT_THAT(Meldung_von([&] { lies_Datei(Pfad); }), HasSubstr("it is no plain file"));
+        EXPECT_EQ(lies_Datei_falls_moeglich(Pfad), std::nullopt);
+    }
 }
 
 TEST(Dateien, largest_size_is_still_read) {

@@ -66,7 +66,7 @@ TEST_F(Ausgaben, file_in_place_of_the_folder_is_a_fault_that_names_it) {
         schreibe_Ausgabedatei(Pfad("output"), "a.rtf", "x");
         FAIL() << "no fault";
     } catch (const Laufzeitfehler& f) {
-        EXPECT_EQ(f.what(), "Cannot make the folder \"" + Pfad("output") + "\"");
+        EXPECT_THAT(f.what(), HasSubstr("Cannot make the folder \"" + Pfad("output") + "\": "));
     }
 }
 
@@ -151,6 +151,53 @@ TEST_F(Ausgaben, failure_of_a_by_product_is_told_once_per_file) {
     EXPECT_EQ(n.schreibe_Laufprotokoll(Ordner(), *l.Studien[0]), "");
     EXPECT_THAT(n.schreibe_Zeichnung(Ordner(), Zeichnung(l, 0)), HasSubstr("Cannot make the folder"));
     EXPECT_EQ(n.schreibe_Zeichnung(Ordner(), Zeichnung(l, 0)), "");
+}
+
+// ---- links
+
+class Ausgaben_mit_Links : public Ausgaben {
+protected:
+    void verknuepfe(const std::string& Name) {
+        schreibe_Datei(fremd_.filePath(QStringLiteral("mine")).toStdString(), "mine");
+        QDir().mkpath(QString::fromStdString(Pfad("output")));
+        QFile::link(fremd_.filePath(QStringLiteral("mine")), QString::fromStdString(Pfad(Name)));
+    }
+    void verknuepfe_output() const { QFile::link(fremd_.path(), QString::fromStdString(Pfad("output"))); }
+    std::string Fremdes() const { return lies_Datei(fremd_.filePath(QStringLiteral("mine")).toStdString()); }
+    QTemporaryDir fremd_;
+};
+
+TEST_F(Ausgaben_mit_Links, by_product_is_not_written_through_one) {
+    verknuepfe("output/test.txt");
+    Nebenausgaben n;
+    EXPECT_THAT(n.schreibe_Laufprotokoll(Ordner(), *mit_Ergebnissen({}).Studien[0]), HasSubstr("lies outside of"));
+    EXPECT_EQ(Fremdes(), "mine");
+}
+
+TEST_F(Ausgaben_mit_Links, by_product_beside_the_folders_is_not_written_through_one) {
+    verknuepfe("Diagram.txt");
+    const auto l = mit_Ergebnissen(mit_Studien(Lauf_bauer(), 2));
+    Diagrammbereiche b;
+    Nebenausgaben n;
+    EXPECT_THAT(n.schreibe_Zeichnung(Ordner(), erstelle_Diagramm_Zusammenfassung(l, b, 0, 0)), HasSubstr("lies outside of"));
+    EXPECT_EQ(Fremdes(), "mine");
+}
+
+TEST_F(Ausgaben_mit_Links, report_takes_the_place_of_one) {
+    verknuepfe("output/the problem.rtf");
+    const Bericht b = Bericht_von(mit_Ergebnissen({}));
+    EXPECT_EQ(lies_Datei(speichere_Bericht(b, Ausgabeordner(Ordner()), Ordner().Pfad())), b.RTF);
+    EXPECT_EQ(Fremdes(), "mine");
+}
+
+TEST_F(Ausgaben_mit_Links, folder_that_is_one_to_outside_is_told_once_and_nothing_goes_there) {
+    verknuepfe_output();
+    const auto l = mit_Ergebnissen({});
+    Nebenausgaben n;
+    EXPECT_THAT(n.schreibe_Laufprotokoll(Ordner(), *l.Studien[0]), HasSubstr("it is a link to outside of"));
+    EXPECT_EQ(n.schreibe_Zeichnung(Ordner(), Zeichnung(l, 0)), "");
+    EXPECT_THROW(speichere_Bericht(Bericht_von(l), Ausgabeordner(Ordner()), Ordner().Pfad()), Laufzeitfehler);
+    EXPECT_EQ(QDir(fremd_.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot).size(), 0);
 }
 
 TEST_F(Ausgaben, multi_compound_diagram_writes_nothing) {

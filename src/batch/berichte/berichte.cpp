@@ -2,6 +2,7 @@
 
 #include <QGuiApplication>
 
+#include "base/dateiname.h"
 #include "base/laufzeitfehler.h"
 #include "base/programm.h"
 #include "reports/bericht.h"
@@ -29,8 +30,7 @@ void schreibe_Berichtsdatei(const Berichtsdatei& b, const Darstellung& d, std::v
     try {
         Bericht Fertiger = schreibe_Bericht({d, Art, b.Applikationssatz, Programmversion, Berichtszeit_nach(Zeit),
                                              erstelle_Berichtsdiagramm(d, Art), std::nullopt});
-        Fertiger.Name += b.Namenszusatz;
-        pruefe_Ausgabename(Fertiger.Name);
+        Fertiger.Name = als_Dateiname(Fertiger.Name, b.Namenszusatz);
         speichere_Bericht(Fertiger, b.Ordner);
     } catch (const Laufzeitfehler& f) {
         Schreibfehler.emplace_back(f.what());

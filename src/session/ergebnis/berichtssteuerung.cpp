@@ -2,6 +2,7 @@
 
 #include "base/laufzeitfehler.h"
 #include "base/programm.h"
+#include "base/text.h"
 #include "records/dateien.h"
 #include "reports/ausgabedateien.h"
 #include "reports/seitenausgabe.h"
@@ -18,11 +19,15 @@ void Berichtssteuerung::erstelle() {
     if (Bild == nullptr) return;
     try {
         stelle_her(*Bild);
-        const std::string Pfad = speichere_Bericht(*Bericht_, Ausgabeordner(*z_.Ausgabeprojekt));
+        z_.Ergebnisdatei.clear();
+        if (z_.ohne_Nebenausgaben) {
+            z_.Statuszeile = Texte::Bericht_ohne_Ordner;
+            return;
+        }
+        const std::string Pfad = speichere_Bericht(*Bericht_, Ausgabeordner(*z_.Ausgabeprojekt), z_.Ausgabeprojekt->Pfad());
         z_.Ergebnisdatei = Bericht_->Name;
         z_.Statuszeile = "Report written: " + Pfad;
     } catch (const Laufzeitfehler& f) {
-        z_.Ergebnisdatei.clear();
         z_.Statuszeile = "The report was not written.";
         melde(z_, Texte::Laufzeitfehler, f.what());  // the results stay valid and in sight
     }
@@ -44,7 +49,8 @@ void Berichtssteuerung::stelle_her(const Diagramm& Bild) {
 
 void Berichtssteuerung::speichere_PDF(const std::string& Pfad) const {
     if (!Bericht_) return;
-    schreibe_Datei(Pfad, als_PDF(*Bericht_->Dokument, Bericht_->Name));
+    const bool RTF = Pfad.size() > 4 && gleich_ohne_Gross_Klein(std::string_view(Pfad).substr(Pfad.size() - 4), Berichtsendung);
+    schreibe_Datei(Pfad, RTF ? Bericht_->RTF : als_PDF(*Bericht_->Dokument, Bericht_->Name), als_Datei);
     z_.Statuszeile = "Report written: " + Pfad;
 }
 

@@ -26,7 +26,8 @@ public:
     // The report on the screen, null without one.
     const Bericht* offener() const { return Bericht_.get(); }
 
-    // PDF of the open report, and where it went in the status line; throws Laufzeitfehler where the file cannot be written.
+    // The open report as a PDF, or as rich text where the file has that ending, and where it went in the status line; throws
+    // Laufzeitfehler where it cannot be written.
     void speichere_PDF(const std::string& Pfad) const;
 
 private:

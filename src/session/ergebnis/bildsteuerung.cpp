@@ -3,7 +3,7 @@
 #include <QString>
 #include <array>
 
-#include "base/text.h"
+#include "base/dateiname.h"
 #include "exposure/bezeichnungen.h"
 #include "painting/bildausgabe.h"
 #include "painting/bildflaeche.h"
@@ -72,7 +72,7 @@ void Bildsteuerung::speichere_Daten(const std::string& Pfad, char Dezimalzeichen
 }
 
 void Bildsteuerung::schreibe(const std::string& Pfad, const std::string& Inhalt, const std::string& Was) {
-    schreibe_Datei(Pfad, Inhalt);
+    schreibe_Datei(Pfad, Inhalt, als_Datei);
     Ordner_ = Pfad.substr(0, Pfad.find_last_of('/'));
     z_.Statuszeile = Was + " written: " + Pfad;
 }

@@ -69,6 +69,7 @@ void Diagrammsteuerung::zeichne(const Ergebnis* gelaufen) {
     const auto sammle = [&](const std::string& Text) {
         if (Fehler.find(Text) == std::string::npos) Fehler += (Fehler.empty() ? "" : "\n") + Text;
     };
+    if (z_.ohne_Nebenausgaben) return;
     if (gelaufen != nullptr) sammle(Nebenausgaben_.schreibe_Laufprotokoll(*z_.Ausgabeprojekt, *gelaufen));
     for (const Diagramm& d : gezeichnete_) sammle(Nebenausgaben_.schreibe_Zeichnung(*z_.Ausgabeprojekt, d));
     // One message for a drawing, and the drawing stands.

@@ -23,6 +23,7 @@
 #include "session/saetze/satzverwaltung.h"
 #include "session/saetze/studienverwaltung.h"
 #include "session/saetze/szenarioeditor.h"
+#include "session/saetze/wiederherstellung.h"
 #include "session/saetze/zwischensicherung.h"
 
 namespace varnok {
@@ -153,6 +154,9 @@ constexpr Ablauf Ablauf_von(Tat<&Aktualisierungssteuerung::melde>) { return {Weg
 
 // Comes behind an action, when that has been drawn.
 constexpr Ablauf Ablauf_von(Tat<&Zwischensicherung::schreibe>) { return {Weg::Zwischenschritt}; }
+constexpr Ablauf Ablauf_von(Tat<&Aktualisierungssteuerung::halte_an>) { return {Weg::Zwischenschritt}; }
+
+constexpr Ablauf Ablauf_von(Tat<&Wiederherstellung::stelle_her>) { return {Weg::Befehl}; }
 
 constexpr Ablauf Ablauf_von(Tat<&Programmablauf::oeffne_Projekt>) { return {Weg::Handlung}; }
 constexpr Ablauf Ablauf_von(Tat<&Programmablauf::starte>) { return {Weg::Handlung}; }

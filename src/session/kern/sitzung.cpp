@@ -21,6 +21,8 @@ Sitzung::Sitzung(Umgebung Welt) { z_.Welt = std::move(Welt); }
 void Sitzung::versuche(const Handlung& h) {
     try {
         h();
+    } catch (const Befehl_aufgegeben&) {
+        return;  // the user has just said so
     } catch (const std::exception& Fehler) {
         z_.Meldung_steht = true;  // what stands behind the message may not be what it speaks of
         melde(z_, Texte::Laufzeitfehler, Fehler.what());

@@ -61,7 +61,7 @@ private:
     static auto Teile_von(S& s) {
         return std::tie(s.Diagramme_, s.Bilder_, s.Laeufe_, s.Felder_, s.Ruecknahme_, s.Saetze_, s.Organiser_, s.Listen_,
                         s.Studien_, s.Beschreibung_, s.Editor_, s.Tabelle_, s.Berichte_, s.Update_, s.Optionen_, s.Dateien_,
-                        s.Hilfe_, s.Programm_, s.Zwischenstand_, s.Zeichen_);
+                        s.Hilfe_, s.Programm_, s.Zwischenstand_, s.Zeichen_, s.Wiederherstellung_);
     }
     auto Teile() { return Teile_von(*this); }
     auto Teile() const { return Teile_von(*this); }
@@ -87,6 +87,7 @@ private:
     Zeichenmeldung Zeichen_{z_};
     Zwischensicherung Zwischenstand_{z_, Saetze_, Felder_};
     Programmablauf Programm_{z_, Saetze_, Felder_, Listen_, Studien_, Zwischenstand_};
+    Wiederherstellung Wiederherstellung_{z_, Saetze_};
     // As the last action left them.
     Eingabe letzte_Vorgabe_;
     Ergebnisse letzte_Werte_;

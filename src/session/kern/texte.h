@@ -3,6 +3,7 @@
 // Texts of messages and of the cover, spelled as users know them.
 
 #include <array>
+#include <chrono>
 #include <string>
 
 namespace varnok::Texte {
@@ -22,12 +23,36 @@ inline constexpr const char* Ordner_anlegen = "Make folder";
 inline constexpr const char* kein_Eintrag = "No entry is selected. Please select!";
 inline constexpr const char* Satz_ersetzen = "Replace existing record?";
 
+inline constexpr const char* nicht_zu_behalten = "It cannot be kept. Go on?";
+inline constexpr const char* Link_nur_auf_Wunsch = " is a link to another folder: it is written by \"Save\" alone.";
+inline constexpr const char* nur_lesbar = " is open for reading only: nothing in it can be saved, made, renamed or deleted.";
+
+inline constexpr const char* Bericht_ohne_Ordner =
+    "The project path cannot be written: \"Save report as PDF\" puts the report where you say.";
+
 inline constexpr const char* Ordner_in_Gebrauch = "Project folder in use";
 inline constexpr const char* zweites_Fenster =
     "Another window of VARNOK works on this project folder. What both save replaces each other: "
     "this window asks before it saves.";
 inline constexpr const char* zweites_Fenster_sichert =
     "Another window of VARNOK works on this project folder. Do you want to save all the same?";
+
+// "3 hours", for a message: the largest unit alone.
+inline std::string Dauer(std::chrono::seconds Zeit) {
+    const long long s = Zeit.count();
+    const auto in = [](long long Wieviele, const char* Einheit) {
+        return std::to_string(Wieviele) + " " + Einheit + (Wieviele == 1 ? "" : "s");
+    };
+    if (s >= 48 * 3600) return in(s / (24 * 3600), "day");
+    if (s >= 2 * 3600) return in(s / 3600, "hour");
+    return in(s / 60, "minute");
+}
+// What the lock of another machine means, in front of a question.
+inline std::string andere_Maschine(const std::string& Rechner, std::chrono::seconds Alter) {
+    return "VARNOK on the machine \"" + Rechner + "\" has had this project folder open for " + Dauer(Alter) + ". ";
+}
+inline constexpr const char* Sperre_uebernehmen = "Do you want to take it over? Do so only if the program has ended there.";
+inline constexpr const char* trotzdem_sichern = "Do you want to save all the same?";
 
 inline constexpr std::array<const char*, 4> Satz_waehlen = {"", "Pesticide record not set. Please select!",
                                                             "Application record not set. Please select!",

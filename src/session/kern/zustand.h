@@ -84,6 +84,8 @@ struct Zustand : Satzlisten {
     std::optional<Projektordner> Ordner;          // of everything behind the selectors, until the program ends
     std::shared_ptr<Projektsperre> Sperre;        // on that folder, for the time of the session
     std::optional<Projektordner> Ausgabeprojekt;  // the present project path, for all output
+    bool nur_lesbar = false;                      // nothing can be written to the folder behind the selectors
+    bool ohne_Nebenausgaben = false;              // the same for the present project path: nothing goes there unasked
 
     Eingabe Vorgabe;                              // all inputs on the screen
     Ansicht Sicht;                                // what the user has chosen to look at

@@ -31,11 +31,15 @@ Ausgang Aktualisierungssteuerung::fuehre(Suche s) {
     return Ergebnis;
 }
 
+void Aktualisierungssteuerung::halte_an() {
+    if (z_.Aktualisierung_laeuft && z_.Welt.Update.Netz) z_.Welt.Update.Netz->brich_ab();
+}
+
 void Aktualisierungssteuerung::suche() {
     brich_ab();
     const Ausgang Ergebnis = fuehre([](Aktualisierung& a) { return a.Suche_nach_Update(); });
-    const bool zu_sagen = Ergebnis == Ausgang::keine_Antwort || Ergebnis == Ausgang::nicht_geladen;
-    if (zu_sagen && !z_.beendet) varnok::melde(z_, Texte::keine_Verbindung, Texte::Updateserver_antwortet_nicht);
+    if (Ergebnis == Ausgang::keine_Antwort && !z_.beendet)
+        varnok::melde(z_, Texte::keine_Verbindung, Texte::Updateserver_antwortet_nicht);
 }
 
 void Aktualisierungssteuerung::suche_beim_Start(std::function<void(const std::string& Seite)> antwortet) {
@@ -51,9 +55,7 @@ void Aktualisierungssteuerung::suche_beim_Start(std::function<void(const std::st
 }
 
 void Aktualisierungssteuerung::melde(const std::string& Seite) {
-    const Ausgang Ergebnis = fuehre([&](Aktualisierung& a) { return a.beurteile(Seite); });
-    // A failed check is silent here, a failed download is not: the user asked for it.
-    if (Ergebnis == Ausgang::nicht_geladen) varnok::melde(z_, Texte::keine_Verbindung, Texte::Updateserver_antwortet_nicht);
+    fuehre([&](Aktualisierung& a) { return a.beurteile(Seite); });
 }
 
 }  // namespace varnok

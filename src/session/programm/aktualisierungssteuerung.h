@@ -20,6 +20,9 @@ public:
     // The menu entry: returns when all is said. An update leaves `beendet`.
     void suche();
 
+    // The user waits no longer: what is under way ends without an answer.
+    void halte_an();
+
     // The check at the start: returns at once, and stays silent without a usable answer. `antwortet` is called with
     // the version page if it comes while the start page is still on the screen, and calls `melde`.
     void suche_beim_Start(std::function<void(const std::string& Seite)> antwortet);

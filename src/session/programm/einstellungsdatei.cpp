@@ -10,7 +10,12 @@ void Einstellungen_schreiben(const Zustand& z) {
     Einstellungen e = z.Einstellung;
     e.Projektpfad = z.Projektpfad;
     e.TWA = z.Parameter().TWA;
-    schreibe_Datei(Einstellungspfad(z), Einstellungen_als_Bytes(e));
+    schreibe_Datei(Einstellungspfad(z), Einstellungen_als_Bytes(e), {Schreibweise::ungefragt, z.Welt.Programmpfad});
+}
+
+void setze_Ausgabeprojekt(Zustand& z, const std::string& Pfad) {
+    z.Ausgabeprojekt = Projektordner(Pfad);
+    z.ohne_Nebenausgaben = !ist_beschreibbar(Pfad);
 }
 
 }  // namespace varnok

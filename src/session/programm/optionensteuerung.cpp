@@ -8,6 +8,7 @@
 
 #include "base/laufzeitfehler.h"
 #include "exposure/twa.h"
+#include "records/schreibort.h"
 #include "session/kern/texte.h"
 #include "session/programm/einstellungsdatei.h"
 
@@ -19,8 +20,11 @@ std::filesystem::path als_Pfad(const std::string& Utf8) { return {std::u8string(
 // What goes wrong here is told nowhere: the first file that is written says it.
 void lege_Unterordner_an(const Projektordner& Projekt) {
     for (const char* Name : {"input", "output"}) {
-        std::error_code still;
-        std::filesystem::create_directory(als_Pfad(Projekt.Unterordner(Name)), still);
+        try {
+            varnok::lege_Ordner_an(Projekt.Unterordner(Name), Projekt.Pfad());
+        } catch (const Laufzeitfehler&) {
+            continue;
+        }
     }
 }
 
@@ -74,7 +78,7 @@ bool Optionensteuerung::uebernimm(const Optionsentwurf& Neue) {
 
 // The selectors stay with their folder until the program ends: what they name is there.
 void Optionensteuerung::setze_Projektpfad(const std::string& Pfad) {
-    z_.Ausgabeprojekt = Projektordner(Pfad);
+    setze_Ausgabeprojekt(z_, Pfad);
     lege_Unterordner_an(*z_.Ausgabeprojekt);
     if (Pfad == z_.Projektpfad) return;
     z_.Projektpfad = Pfad;

@@ -24,14 +24,33 @@ std::optional<Einstellungen> lies_Einstellungen(Zustand& z) {
     }
 }
 
-// A settings file that is missing or cannot be read is made anew from the defaults without a word.
-void lade_Einstellungen(Zustand& z) {
+// False where the file is missing or cannot be read: then it is made anew from the defaults without a word.
+bool lade_Einstellungen(Zustand& z) {
     const auto gelesen = lies_Einstellungen(z);
     z.Einstellung = gelesen.value_or(Einstellungen{});
     const bool hier = z.Welt.Projekt_genannt || z.Einstellung.Projektpfad.empty();
     z.Projektpfad = hier ? z.Welt.Programmpfad : z.Einstellung.Projektpfad;
     z.Parameter().TWA = z.Einstellung.TWA;
-    if (!gelesen) Einstellungen_schreiben(z);
+    return gelesen.has_value();
+}
+
+// A folder that cannot be written is told at the end, when there is something to write.
+void schreibe_erste_Einstellungen(const Zustand& z) {
+    try {
+        if (!z.nur_lesbar) Einstellungen_schreiben(z);
+    } catch (const Laufzeitfehler&) {
+        return;
+    }
+}
+
+// Whether the program still runs on another machine only the user can know.
+void sage_Sperre(Zustand& z) {
+    const auto Inhaber = z.Sperre->anderer();
+    if (!Inhaber) return;
+    if (Inhaber->Rechner.empty()) return melde(z, Texte::Ordner_in_Gebrauch, Texte::zweites_Fenster);
+    const std::string Text = Texte::andere_Maschine(Inhaber->Rechner, Inhaber->Alter) + Texte::Sperre_uebernehmen;
+    const Frage f{Texte::Ordner_in_Gebrauch, Text, Symbol::Ausrufezeichen, {Knopf::Ja, Knopf::Nein}};
+    if (z.Welt.Fragen->frage(f) == Knopf::Ja) z.Sperre->uebernimm();
 }
 
 void oeffne_Ordner(Zustand& z) {
@@ -42,7 +61,9 @@ void oeffne_Ordner(Zustand& z) {
         z.Projektpfad = z.Welt.Programmpfad;
         z.Ordner.emplace(z.Projektpfad);
     }
-    z.Ausgabeprojekt = z.Ordner;
+    z.nur_lesbar = !ist_beschreibbar(z.Ordner->Pfad()) || !ist_beschreibbar(z.Ordner->Eingabeordner());
+    setze_Ausgabeprojekt(z, z.Ordner->Pfad());
+    if (z.nur_lesbar) z.Statuszeile += (z.Statuszeile.empty() ? "\"" : " \"") + z.Ordner->Pfad() + "\"" + Texte::nur_lesbar;
 }
 
 // The newest first; before it the one that the program was called with.
@@ -82,10 +103,11 @@ bool Programmablauf::lade_erste() {
 
 bool Programmablauf::oeffne_Projekt() {
     z_.Namen[Simulation] = Startsimulation;
-    lade_Einstellungen(z_);
+    const bool mit_Einstellungen = lade_Einstellungen(z_);
     oeffne_Ordner(z_);
+    if (!mit_Einstellungen) schreibe_erste_Einstellungen(z_);
     z_.Sperre = std::make_shared<Projektsperre>(*z_.Ordner);
-    if (z_.Sperre->von_anderem_gehalten()) melde(z_, Texte::Ordner_in_Gebrauch, Texte::zweites_Fenster);
+    sage_Sperre(z_);
     Saetze_.fuelle_Listen();
     z_.Sicht.TWA_Laenge = TWA_Vorauswahl(z_.Parameter().TWA_Zeiten);
     z_.Felder().Studie = {""};  // what stands under the cover where no compound can be read
@@ -101,15 +123,15 @@ void Programmablauf::starte() {
     for (std::size_t Art = 0; Art < Marken.size(); ++Art) z_.Saetze[Art].Geaendert = Marken[Art];
 }
 
-// What is not saved at the end goes into `backup`. Where that is not possible the user decides, or the program could never end.
+// What is not saved at the end goes into `backup`; in a project that is open for reading only there is none. False where the user
+// would rather stay than lose it.
 bool Programmablauf::sichere_am_Ende() {
+    if (z_.nur_lesbar) return true;
     try {
         Saetze_.sichere_Ungesichertes();
         return true;
-    } catch (const Laufzeitfehler& f) {
-        const std::string Text = std::string(f.what()) + "\nIt cannot be kept. Go on?";
-        return z_.Welt.Fragen->frage({Texte::Laufzeitfehler, Text, Symbol::Ausrufezeichen, {Knopf::Ja, Knopf::Nein}}) ==
-               Knopf::Ja;
+    } catch (const Befehl_aufgegeben&) {
+        return false;
     }
 }
 
@@ -118,13 +140,13 @@ void Programmablauf::beende() {
     if (!zu_sichern || !Saetze_.pruefe_Auswahl({Knopf::OK, Knopf::Abbrechen})) return;
     if (!zu_sichern->empty() && !Saetze_.speichere_Arten(*zu_sichern)) return;
     // A save has just written the summary file, unless it was not read: then its time is what is missing.
-    const bool geschrieben = !zu_sichern->empty() && z_.Saetze[Simulation].gelesen;
+    const bool geschrieben = z_.nur_lesbar || (!zu_sichern->empty() && z_.Saetze[Simulation].gelesen);
     bool weiter = true;
     std::string Fehler;
     if (!geschrieben && (z_.Saetze[0].Geaendert || z_.Neu_berechnen()))
         Fehler = Fehler_bei([&] { weiter = Saetze_.schreibe_Zusammenfassungsdatei(); });
     if (!weiter || !sichere_am_Ende()) return;
-    const std::string zweiter = Fehler_bei([&] { Einstellungen_schreiben(z_); });
+    const std::string zweiter = z_.nur_lesbar ? "" : Fehler_bei([&] { Einstellungen_schreiben(z_); });
     Fehler += (Fehler.empty() || zweiter.empty() ? "" : "\n") + zweiter;
     if (!Fehler.empty()) melde(z_, Texte::Laufzeitfehler, Fehler);
     z_.beendet = true;

@@ -48,7 +48,8 @@ void Eingabedateien::lade(const std::string& Dateiname) {
     const std::string Satz = z_.Namen[Wirkstoff];
     z_.Statuszeile.clear();
     if (z_.verschieden(Wirkstoff)) {
-        sichere(z_, {{Satz + Endungen[Wirkstoff], Satz_als_Bytes(Wirkstoff, z_.Vorgabe, z_.Sicht, z_.Welt.Dezimalzeichen)}});
+        sichere(z_,
+                {{{Satz + Endungen[Wirkstoff], Satz_als_Bytes(Wirkstoff, z_.Vorgabe, z_.Sicht, z_.Welt.Dezimalzeichen)}}, {}});
     }
     zeige_als_Simulation(Name);
     if (Saetze_.lies_Satz(Wirkstoff, Satz)) z_.Gerechnetes.melde_Grund({Texte::Eingabe_geaendert});
@@ -59,23 +60,24 @@ bool Eingabedateien::speichere(const std::string& Dateiname) {
     const bool mit_Endung = Zeichenzahl(Dateiname) > 4 && Dateiname.ends_with(Endung);
     const std::string Name = mit_Endung ? Dateiname.substr(0, Dateiname.size() - Endung.size()) : Dateiname;
     pruefe_Namen(Name);
+    verlange_Schreibrecht(z_);
     if (!Saetze_.pruefe_Auswahl({Knopf::OK, Knopf::Abbrechen})) return false;
     z_.Statuszeile.clear();
     // Three lines, no description: read as four, the file is misread, and that is why this dialog stays out of use.
     std::string Bytes;
     for (std::size_t Art = 1; Art <= 3; ++Art) Bytes += als_Satztext(z_.Namen[Art], Satzart_Namen[Art]) + "\r\n";
     // What is replaced is kept, the records of the selectors too: their files may hold what the screen never showed.
-    std::vector<Sicherungsstueck> ersetzt;
+    Sicherungsgut ersetzt;
     const auto ersetze = [&](const std::string& Satz, std::size_t Art) {
         const auto alte = z_.Ordner->finde(Satz, Endungen[Art]);
-        if (alte) ersetzt.push_back({Satz + Endungen[Art], lies_Datei(*alte)});
+        if (alte) ersetzt.nimm_Datei(*alte, Satz + Endungen[Art]);
     };
     ersetze(Name, Simulation);
     for (std::size_t Art = 1; Art <= 3; ++Art) {
         if (z_.Saetze[Art].gelesen) ersetze(z_.Namen[Art], Art);
     }
     sichere(z_, ersetzt);
-    schreibe_Datei(z_.Ordner->Zielpfad(Name, Endung), Bytes);
+    schreibe_Datei(z_.Ordner->Zielpfad(Name, Endung), Bytes, als_Satz);
     zeige_als_Simulation(Name);
     z_.Simulation_markiert = false;
     for (std::size_t Art = 1; Art <= 3; ++Art) {
@@ -88,13 +90,16 @@ bool Eingabedateien::speichere(const std::string& Dateiname) {
 
 void Eingabedateien::loesche(const std::string& Ordner, const std::string& Dateiname) {
     pruefe_Namen(Dateiname);
+    verlange_Schreibrecht(z_);
     if (!darf_loeschen(Ordner)) {
         throw Laufzeitfehler("\"" + Dateiname + "\" is not deleted: files are only deleted in the folder \"" +
                              z_.Ordner->Eingabeordner() + "\"");
     }
     const std::string Pfad = z_.Ordner->Eingabeordner() + "/" + Dateiname;
     z_.Statuszeile.clear();
-    sichere(z_, {{Dateiname, lies_Datei(Pfad)}});
+    Sicherungsgut Gut;
+    Gut.nimm_Datei(Pfad, Dateiname);
+    sichere(z_, Gut);
     loesche_Datei(Pfad);
 }
 

@@ -261,6 +261,7 @@ bool Organiser::uebergib() {
     z_.Saetze[Simulation].Datei = {z_.gewaehlt(Simulation), gelesen_};
     z_.Saetze[Simulation].gelesen = true;
     if (z_.Auswahl(Simulation) < 0) return true;  // the folder has no simulation
+    if (z_.nur_lesbar) return true;               // what was put together here is looked at, and written nowhere
     bool geschrieben = false;
     try {
         geschrieben = Waechter_.schreibe({Simulation}) == Schreibausgang::geschrieben;

@@ -10,7 +10,7 @@
 #include "records/satztext.h"
 #include "records/voreinstellungen.h"
 #include "session/kern/texte.h"
-#include "session/saetze/satzwaechter.h"
+#include "session/saetze/sicherungsgut.h"
 
 namespace varnok {
 namespace {
@@ -56,7 +56,9 @@ bool Satzbefehle::darf_ersetzen(const std::string& Text) const {
 }
 
 void Satzbefehle::sichere_Datei(const std::string& Pfad, const std::string& Dateiname) {
-    sichere(z_, {{Dateiname, lies_Datei(Pfad)}});
+    Sicherungsgut Gut;
+    Gut.nimm_Datei(Pfad, Dateiname);
+    sichere(z_, Gut);
 }
 
 std::string Satzbefehle::Vorlage(Satzart Art) const {
@@ -70,6 +72,7 @@ std::string Satzbefehle::Vorlage(Satzart Art) const {
 }
 
 std::string Satzbefehle::lege_an(Satzart Art) {
+    verlange_Schreibrecht(z_);
     const std::string Muster = Vorlage(Art);
     int n = 1;
     while (z_.Ordner->finde(Grundnamen[Art] + std::to_string(n), Endungen[Art])) ++n;
@@ -81,6 +84,7 @@ std::string Satzbefehle::lege_an(Satzart Art) {
 }
 
 bool Satzbefehle::kopiere(Satzart Art) {
+    verlange_Schreibrecht(z_);
     const std::string alt = Listen_.gewaehlt(Art);
     const std::string Quelle = Pfad_des_gewaehlten(Art);
     const std::string neu = "copy of " + alt;
@@ -97,7 +101,8 @@ bool Satzbefehle::kopiere(Satzart Art) {
     return true;
 }
 
-bool Satzbefehle::loesche(Satzart Art, std::vector<Sicherungsstueck> dazu) {
+bool Satzbefehle::loesche(Satzart Art, Sicherungsgut dazu) {
+    verlange_Schreibrecht(z_);
     const std::string Pfad = Pfad_des_gewaehlten(Art);
     const std::string Name = Listen_.gewaehlt(Art);
     const Frage f{"Delete record",
@@ -109,8 +114,10 @@ bool Satzbefehle::loesche(Satzart Art, std::vector<Sicherungsstueck> dazu) {
     if (letzte) throw Laufzeitfehler("\"" + Name + Endungen[Art] + "\" is the last of its kind and stays.");
     if (z_.Welt.Fragen->frage(f) != Knopf::Ja) return false;
     const int Platz = Listen_.Auswahl(Art);
-    dazu.insert(dazu.begin(), {Name + Endungen[Art], lies_Datei(Pfad)});
-    sichere(z_, dazu);
+    Sicherungsgut Gut;
+    Gut.nimm_Datei(Pfad, Name + Endungen[Art]);
+    Gut.nimm(std::move(dazu));
+    sichere(z_, Gut);
     loesche_Datei(Pfad);
     lies_Liste(Art);
     Listen_.waehle_Platz(Art, std::min(Platz, static_cast<int>(Listen_.Listen[Art].size()) - 1));
@@ -121,6 +128,7 @@ Umbenennung Satzbefehle::benenne_um(Satzart Art, const std::string& Text, bool m
     const std::string alt = Listen_.gewaehlt(Art);
     const std::string neu = ohne_Endung(Text, Endungen[Art]);
     if (Text == alt || neu == alt) return Umbenennung::unveraendert;
+    verlange_Schreibrecht(z_);
     pruefe_Namen(neu);
     const std::string Quelle = Pfad_des_gewaehlten(Art);
     const auto vorhanden = z_.Ordner->finde(neu, Endungen[Art]);

@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
-#include "records/sicherung.h"
 #include "session/kern/zustand.h"
+#include "session/saetze/sicherungsgut.h"
 
 namespace varnok {
 
@@ -26,7 +26,7 @@ public:
     bool kopiere(Satzart Art);
     // Deletes the file selected; the entry that moves into its place, or the last one, is selected. False after a No. The last
     // file of a kind stays. `dazu`: what goes into `backup` together with the file.
-    bool loesche(Satzart Art, std::vector<Sicherungsstueck> dazu = {});
+    bool loesche(Satzart Art, Sicherungsgut dazu = {});
     // Gives the file selected the typed name, with or without the extension. Without `mit_Frage` a name that is taken is a fault.
     Umbenennung benenne_um(Satzart Art, const std::string& Text, bool mit_Frage);
 

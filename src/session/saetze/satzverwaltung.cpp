@@ -191,6 +191,7 @@ void Satzverwaltung::verlange(Satzart Art) {
 }
 
 void Satzverwaltung::lege_an(Satzart Art) {
+    verlange_Schreibrecht(z_);
     const std::string Fremdes = Waechter_.Fremdes({Art});
     Befehle_.Vorlage(Art);
     z_.Statuszeile.clear();
@@ -276,6 +277,13 @@ bool Satzverwaltung::lies_nach() {
     return true;
 }
 
+void Satzverwaltung::lies_neu(const std::vector<Satzart>& Arten) {
+    fuelle_Listen();
+    for (const Satzart Art : Arten) verlange(Art);
+    if (!Arten.empty()) z_.Verlauf_beginnt = true;
+    lies_nach();
+}
+
 // What is read over is in `backup` before, and what another program did is told. True if something was read.
 bool Satzverwaltung::lies_auf_Wunsch_nach() {
     if (!z_.Saetze[Simulation].gelesen && z_.Auswahl(Simulation) >= 0) return lies_nach();
@@ -307,14 +315,17 @@ bool Satzverwaltung::pruefe_Auswahl(const std::vector<Knopf>& Knoepfe) {
 }
 
 bool Satzverwaltung::schreibe_Zusammenfassungsdatei() {
+    const auto Pfad = z_.Ordner->finde(z_.Namen[Simulation], Endungen[Simulation]);
+    if (Pfad && liegt_ausserhalb(*Pfad, z_.Ordner->Eingabeordner())) {
+        if (z_.verschieden(Simulation)) throw Laufzeitfehler("\"" + *Pfad + "\"" + Texte::Link_nur_auf_Wunsch);
+        return true;
+    }
     if (z_.Saetze[Simulation].gelesen) return Waechter_.schreibe({Simulation}) != Schreibausgang::nicht_jetzt;
-    if (const auto Pfad = z_.Ordner->finde(z_.gewaehlt(Simulation), Endungen[Simulation])) kopiere_Datei(*Pfad, *Pfad);
+    if (Pfad) schreibe_Datei(*Pfad, lies_Datei(*Pfad), als_Satz);
     return true;
 }
 
-void Satzverwaltung::sichere_Ungesichertes(std::vector<Sicherungsstueck> dazu) {
-    Waechter_.sichere_Ungesichertes(alle_Arten, std::move(dazu));
-}
+void Satzverwaltung::sichere_Ungesichertes(Sicherungsgut dazu) { Waechter_.sichere_Ungesichertes(alle_Arten, std::move(dazu)); }
 
 bool Satzverwaltung::speichere() { return speichere_Arten({Wirkstoff, Applikation, Szenario}); }
 

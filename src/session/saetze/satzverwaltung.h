@@ -42,6 +42,8 @@ public:
 
     // Reads what the selectors name and was not read, after a deletion: a simulation is loaded. True if there was something.
     bool lies_nach();
+    // The files of these records are others now: reads them, and the lists, anew.
+    void lies_neu(const std::vector<Satzart>& Arten);
     // The button "Refresh": the same on the user's wish, else a run.
     void aktualisiere();
     // Reads the scenario alone, if the selector names one that was not read. A run follows once all three are there.
@@ -62,10 +64,10 @@ public:
     void beende_oder_stelle_her(const std::string& Text, bool beim_Start);
     // The same as `lade_Start`, and over it what a start before had left unsaved. True if all of that could be used.
     bool lade_Zwischenstand(const Zwischenstand& Stand);
-    // Values of a record that no file holds.
-    std::vector<Sicherungsstueck> Ungesichertes(Satzart Art) const { return Waechter_.Ungesichertes({Art}); }
+    // Values of a record that no file holds, and why they cannot be written where that is so.
+    Sicherungsgut Ungesichertes(Satzart Art) const { return Waechter_.Ungesichertes({Art}); }
     // Values that no file holds go into `backup`.
-    void sichere_Ungesichertes(std::vector<Sicherungsstueck> dazu = {});
+    void sichere_Ungesichertes(Sicherungsgut dazu = {});
     // Asks for each changed record whether to save; gives those with a Yes, nothing for "not now". Nothing is done yet.
     std::optional<std::vector<Satzart>> frage_nach_Sicherung() const;
     bool pruefe_Auswahl(const std::vector<Knopf>& Knoepfe);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/laufzeitfehler.h"
 #include "records/dateien.h"
 #include "records/satz.h"
 #include "records/simulation.h"
@@ -12,16 +13,6 @@ namespace varnok {
 
 std::string Name_des_Ungesicherten(const Zustand& z, Satzart Art) {
     return "unsaved " + z.Saetze[Art].Datei.Name + Endungen[Art];
-}
-
-void sichere(Zustand& z, const std::vector<Sicherungsstueck>& Stuecke) {
-    if (Stuecke.empty()) return;
-    const Systemuhr Maschine;
-    const std::string Ort = sichere(*z.Ordner, z.Welt.Zeit ? *z.Welt.Zeit : Maschine, Stuecke);
-    std::string Namen;
-    for (const Sicherungsstueck& s : Stuecke) Namen += (Namen.empty() ? "\"" : ", \"") + s.Dateiname + "\"";
-    // A command may have told something before, or keep something twice.
-    z.Statuszeile += (z.Statuszeile.empty() ? "" : " ") + ("What was there before is kept in " + Ort + ": " + Namen);
 }
 
 void Satzwaechter::merke(Satzart Art, const std::string& Name) {
@@ -64,9 +55,12 @@ Satzwaechter::Auftrag Satzwaechter::stelle_zusammen(Satzart Art) const {
 }
 
 Knopf Satzwaechter::frage_wegen_Fenster() const {
-    if (!z_.Sperre || !z_.Sperre->von_anderem_gehalten()) return Knopf::Ja;
-    return z_.Welt.Fragen->frage(
-        {Texte::Aenderungen_sichern, Texte::zweites_Fenster_sichert, Symbol::Ausrufezeichen, {Knopf::Ja, Knopf::Nein}});
+    const auto Inhaber = z_.Sperre ? z_.Sperre->anderer() : std::nullopt;
+    if (!Inhaber) return Knopf::Ja;
+    const std::string Text = Inhaber->Rechner.empty()
+                                 ? Texte::zweites_Fenster_sichert
+                                 : Texte::andere_Maschine(Inhaber->Rechner, Inhaber->Alter) + Texte::trotzdem_sichern;
+    return z_.Welt.Fragen->frage({Texte::Aenderungen_sichern, Text, Symbol::Ausrufezeichen, {Knopf::Ja, Knopf::Nein}});
 }
 
 Knopf Satzwaechter::frage_wegen_Ersatz(const Auftrag& a, const std::string& vorhanden) const {
@@ -80,15 +74,16 @@ Knopf Satzwaechter::frage_wegen_Ersatz(const Auftrag& a, const std::string& vorh
 Schreibausgang Satzwaechter::schreibe(const std::vector<Satzart>& Arten) {
     const auto Absage = [](Knopf k) { return k == Knopf::Nein ? Schreibausgang::verweigert : Schreibausgang::nicht_jetzt; };
     std::vector<Auftrag> Auftraege;
-    std::vector<Sicherungsstueck> ersetzt;
+    Sicherungsgut ersetzt;
     for (const Satzart Art : Arten) {
         if (z_.Saetze[Art].gelesen) {
             Auftraege.push_back(stelle_zusammen(Art));
         } else if (Art != Simulation) {
-            for (auto& Stueck : Ungesichertes({Art})) ersetzt.push_back(std::move(Stueck));
+            ersetzt.nimm(Ungesichertes({Art}));
         }
     }
     if (!Auftraege.empty()) {
+        verlange_Schreibrecht(z_);
         if (const Knopf k = frage_wegen_Fenster(); k != Knopf::Ja) return Absage(k);
     }
     for (const Auftrag& a : Auftraege) {
@@ -99,27 +94,33 @@ Schreibausgang Satzwaechter::schreibe(const std::vector<Satzart>& Arten) {
         // A record's own last state is what the user saves over; anything else is kept.
         const Dateistand& bekannt = z_.Saetze[a.Art].Datei;
         const bool eigener_Stand = a.Name == bekannt.Name && vorhanden == bekannt.Bytes;
-        if (!eigener_Stand) ersetzt.push_back({a.Name + Endungen[a.Art], vorhanden});
+        if (!eigener_Stand) ersetzt.Stuecke.push_back({a.Name + Endungen[a.Art], vorhanden});
     }
     sichere(z_, ersetzt);
     for (const Auftrag& a : Auftraege) {
-        schreibe_Datei(a.Pfad, a.Bytes);
+        schreibe_Datei(a.Pfad, a.Bytes, als_Satz);
         z_.Saetze[a.Art].Datei = {a.Name, a.Bytes};
         z_.Saetze[a.Art].gespeichert = a.Bytes;
     }
     return Schreibausgang::geschrieben;
 }
 
-std::vector<Sicherungsstueck> Satzwaechter::Ungesichertes(const std::vector<Satzart>& Arten) const {
-    std::vector<Sicherungsstueck> Stuecke;
+Sicherungsgut Satzwaechter::Ungesichertes(const std::vector<Satzart>& Arten) const {
+    Sicherungsgut Gut;
     for (const Satzart Art : Arten) {
-        if (haelt_keine_Datei(Art)) Stuecke.push_back({Name_des_Ungesicherten(z_, Art), z_.Speicherbytes(Art)});
+        if (!haelt_keine_Datei(Art)) continue;
+        const std::string Dateiname = Name_des_Ungesicherten(z_, Art);
+        try {
+            Gut.Stuecke.push_back({Dateiname, z_.Speicherbytes(Art)});
+        } catch (const Laufzeitfehler& f) {
+            Gut.Gruende.push_back(Dateiname + ": " + f.what());
+        }
     }
-    return Stuecke;
+    return Gut;
 }
 
-void Satzwaechter::sichere_Ungesichertes(const std::vector<Satzart>& Arten, std::vector<Sicherungsstueck> dazu) {
-    for (auto& Stueck : Ungesichertes(Arten)) dazu.push_back(std::move(Stueck));
+void Satzwaechter::sichere_Ungesichertes(const std::vector<Satzart>& Arten, Sicherungsgut dazu) {
+    dazu.nimm(Ungesichertes(Arten));
     sichere(z_, dazu);
 }
 

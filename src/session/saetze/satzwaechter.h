@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
-#include "records/sicherung.h"
 #include "session/kern/zustand.h"
+#include "session/saetze/sicherungsgut.h"
 
 namespace varnok {
 
@@ -31,9 +31,9 @@ public:
 
     // The values that no file holds, of the types given: what the user changed, and what was read from a file that another
     // program has changed or deleted since.
-    std::vector<Sicherungsstueck> Ungesichertes(const std::vector<Satzart>& Arten) const;
+    Sicherungsgut Ungesichertes(const std::vector<Satzart>& Arten) const;
     // Puts them into `backup`, with further pieces of the same command.
-    void sichere_Ungesichertes(const std::vector<Satzart>& Arten, std::vector<Sicherungsstueck> dazu = {});
+    void sichere_Ungesichertes(const std::vector<Satzart>& Arten, Sicherungsgut dazu = {});
 
     // What another program did to the files of these types since they were read, for the status line; empty if nothing.
     std::string Fremdes(const std::vector<Satzart>& Arten) const;
@@ -58,8 +58,5 @@ private:
 
 // What the values of a record are called where no file holds them.
 std::string Name_des_Ungesicherten(const Zustand& z, Satzart Art);
-
-// Puts pieces into `backup`; the status line names the place.
-void sichere(Zustand& z, const std::vector<Sicherungsstueck>& Stuecke);
 
 }  // namespace varnok

@@ -12,19 +12,19 @@ namespace varnok {
 namespace {
 
 // The files of the start simulation, as far as they are there.
-std::vector<Sicherungsstueck> Dateien_der_Startsimulation(const Zustand& z) {
-    std::vector<Sicherungsstueck> Stuecke;
+Sicherungsgut Dateien_der_Startsimulation(const Zustand& z) {
+    Sicherungsgut Gut;
     for (const Satzart Art : {Simulation, Wirkstoff, Applikation, Szenario}) {
         const auto Pfad = z.Ordner->finde(Startsimulation, Endungen[Art]);
-        const auto Bytes = Pfad ? lies_Datei_falls_moeglich(*Pfad) : std::nullopt;
-        if (Bytes) Stuecke.push_back({std::string(Startsimulation) + Endungen[Art], *Bytes});
+        if (Pfad) Gut.nimm_Datei(*Pfad, std::string(Startsimulation) + Endungen[Art]);
     }
-    return Stuecke;
+    return Gut;
 }
 
 }  // namespace
 
 void Satzverwaltung::lade_Voreinstellungen() {
+    verlange_Schreibrecht(z_);
     z_.Statuszeile.clear();
     sichere_Ungesichertes(Dateien_der_Startsimulation(z_));
     stelle_Voreinstellungen_her(*z_.Ordner, {z_.Welt.installierte_Daten, z_.Welt.Programmpfad});

@@ -8,13 +8,9 @@ namespace varnok {
 // A text that no record can hold keeps its record out; the others are kept.
 Zwischenstand Zwischensicherung::jetziger() const {
     Zwischenstand s{z_.Namen[Simulation], z_.Speicherbild(Simulation), {}};
-    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) {
-        try {
-            for (Sicherungsstueck& Stueck : Saetze_.Ungesichertes(Art)) s.Stuecke.push_back(std::move(Stueck));
-        } catch (const Laufzeitfehler&) {
-            continue;
-        }
-    }
+    Sicherungsgut Gut;
+    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) Gut.nimm(Saetze_.Ungesichertes(Art));
+    s.Stuecke = std::move(Gut.Stuecke);
     return s;
 }
 
@@ -22,20 +18,23 @@ bool Zwischensicherung::biete_an() {
     const auto Bytes = zustaendig() ? lies_Zwischenstand(*z_.Ordner) : std::nullopt;
     if (!Bytes) return false;
     const auto Stand = zerlege_Zwischenstand(*Bytes);
-    std::vector<Sicherungsstueck> Stuecke{{"unsaved values", *Bytes}};
+    Sicherungsgut Gut{{{"unsaved values", *Bytes}}, {}};
     if (Stand) {
-        Stuecke = Stand->Stuecke;
-        Stuecke.push_back({"unsaved " + Stand->Simulation + Endungen[Simulation], Stand->Zusammenfassung});
+        Gut.Stuecke = Stand->Stuecke;
+        Gut.Stuecke.push_back({"unsaved " + Stand->Simulation + Endungen[Simulation], Stand->Zusammenfassung});
     }
     std::string Text = "The program did not come to its end the last time. No file holds these values:";
-    for (const Sicherungsstueck& s : Stuecke) Text += "\n'" + s.Dateiname + "'";
+    for (const Sicherungsstueck& s : Gut.Stuecke) Text += "\n'" + s.Dateiname + "'";
     const Frage f{Texte::Ungesichertes, Text + "\nDo you want them back?", Symbol::Frage, {Knopf::Ja, Knopf::Nein}};
     const bool gewuenscht = Stand && z_.Welt.Fragen->frage(f) == Knopf::Ja;
     try {
-        sichere(z_, Stuecke);
+        sichere(z_, Gut);
         loesche_Zwischenstand(*z_.Ordner);
+    } catch (const Befehl_aufgegeben&) {
+        unerledigt_ = true;
     } catch (const Laufzeitfehler& Fehler) {
-        melde(z_, Texte::Laufzeitfehler, Fehler.what());  // it is offered again
+        unerledigt_ = true;
+        melde(z_, Texte::Laufzeitfehler, Fehler.what());
     }
     return gewuenscht && lade(*Stand);
 }

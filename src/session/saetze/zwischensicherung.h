@@ -23,7 +23,9 @@ public:
 
 private:
     Zwischenstand jetziger() const;
-    bool zustaendig() const { return z_.Ordner && !(z_.Sperre && z_.Sperre->von_anderem_gehalten()); }
+    bool zustaendig() const {
+        return z_.Ordner && !z_.nur_lesbar && !unerledigt_ && !(z_.Sperre && z_.Sperre->von_anderem_gehalten());
+    }
     bool lade(const Zwischenstand& Stand);
 
     Zustand& z_;
@@ -31,6 +33,7 @@ private:
     Feldeingabe& Felder_;
     Zwischenstand geschrieben_;
     bool gescheitert_ = false;
+    bool unerledigt_ = false;  // what the start before left could not be put into `backup`: it stays, and is offered again
 };
 
 }  // namespace varnok

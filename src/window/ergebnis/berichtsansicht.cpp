@@ -16,6 +16,7 @@
 #include <cmath>
 
 #include "painting/qt_text.h"
+#include "reports/ausgabedateien.h"
 #include "reports/dokumentbild.h"
 #include "reports/html_schreiber.h"
 #include "reports/rtf_schreiber.h"
@@ -24,6 +25,7 @@
 #include "reports/twips.h"
 #include "session/kern/texte.h"
 #include "window/kern/bausteine.h"
+#include "window/kern/dateifrage.h"
 
 namespace varnok {
 
@@ -109,9 +111,14 @@ QString Berichtsansicht::PDF_Vorschlag() const {
 
 void Berichtsansicht::speichere_PDF() {
     if (gezeigter_ == nullptr) return;
-    QString Pfad = QFileDialog::getSaveFileName(window(), u"Save report as PDF"_s, PDF_Vorschlag(), u"PDF (*.pdf)"_s);
-    if (Pfad.isEmpty()) return;
-    if (!Pfad.endsWith(u".pdf"_s, Qt::CaseInsensitive)) Pfad += u".pdf"_s;
+    QFileDialog Dialog(window(), u"Save report as PDF"_s);
+    Dialog.setObjectName(u"Bericht_speichern"_s);
+    Dialog.setNameFilters({u"PDF (*.pdf)"_s, u"Rich text (*.rtf)"_s});
+    connect(&Dialog, &QFileDialog::filterSelected, &Dialog,
+            [&Dialog](const QString& Filter) { Dialog.setDefaultSuffix(Filter.contains(u".rtf"_s) ? u"rtf"_s : u"pdf"_s); });
+    schlage_vor(Dialog, in_Qt(Ausgabeordner(*Stand().Ausgabeprojekt)), in_Qt(gezeigter_->Name), u"pdf"_s);
+    if (Dialog.exec() != QDialog::Accepted || Dialog.selectedFiles().isEmpty()) return;
+    const QString Pfad = Dialog.selectedFiles().front();
     befiehl<&Berichtssteuerung::speichere_PDF>(aus_Qt(Pfad));
 }
 

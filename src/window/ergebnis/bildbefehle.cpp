@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QMainWindow>
 #include <QMenu>
 #include <utility>
@@ -13,6 +14,7 @@
 #include "window/ergebnis/diagrammflaeche.h"
 #include "window/ergebnis/ergebnisbereich.h"
 #include "window/ergebnis/legendenrahmen.h"
+#include "window/kern/dateifrage.h"
 #include "window/kern/zwischenablage.h"
 
 namespace varnok {
@@ -99,10 +101,9 @@ std::optional<Bildbefehle::Dateiwahl> Bildbefehle::frage_nach_Datei(const QStrin
     if (!Bereich_.Flaeche_fuer_Befehl()) return std::nullopt;
     QFileDialog Dialog(&Fenster_, Titel);
     Dialog.setObjectName(u"Bild_speichern"_s);
-    Dialog.setAcceptMode(QFileDialog::AcceptSave);
     Dialog.setNameFilters(Filter);
-    Dialog.setDefaultSuffix(Endung);
-    Dialog.selectFile(in_Qt(Programm_.zeige<Bildsteuerung>().Vorschlag()) + u'.' + Endung);
+    const QFileInfo Vorschlag(in_Qt(Programm_.zeige<Bildsteuerung>().Vorschlag()));
+    schlage_vor(Dialog, Vorschlag.path(), Vorschlag.fileName(), Endung);
     if (Dialog.exec() != QDialog::Accepted || Dialog.selectedFiles().isEmpty()) return std::nullopt;
     return Dateiwahl{Dialog.selectedFiles().front(), Filter.indexOf(Dialog.selectedNameFilter())};
 }

@@ -1,4 +1,5 @@
 #include "window/ergebnis/diagrammflaeche.h"
+#include "window/kern/bausteine.h"
 
 #include <QFontInfo>
 #include <QLabel>
@@ -179,7 +180,7 @@ void Diagrammflaeche::setze_Schild(Schildname s, const Beschriftung& b, const Ti
     l.setFont(Schrift);
     l.setAlignment(mittig ? Qt::AlignHCenter : Qt::AlignLeft);
     l.setText(Zeilen.join(u'\n'));
-    l.setToolTip(Zeilen == Satz.Zeilen ? QString() : in_Qt(b.Text));
+    l.setToolTip(Zeilen == Satz.Zeilen ? QString() : als_Tip(in_Qt(b.Text)));
     l.setGeometry(std::max(Rand, std::min(links, width() - Breite - Rand)), static_cast<int>(std::lround(Ort.y())), Breite,
                   Masse.height() * static_cast<int>(Zeilen.size()));
 }

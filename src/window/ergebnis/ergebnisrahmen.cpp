@@ -196,7 +196,7 @@ void Ergebnisrahmen::zeige(const Tabellentext& Tabelle) {
             }
             const QString Text = in_Qt(Zeile[static_cast<std::size_t>(j)]);
             if (Zelle->text() != Text) Zelle->setText(Text);
-            if (i == 0) Zelle->setToolTip(Text.trimmed());
+            if (i == 0) Zelle->setToolTip(als_Tip(Text.trimmed()));
         }
     }
 }

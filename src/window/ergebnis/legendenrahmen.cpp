@@ -1,4 +1,5 @@
 #include "window/ergebnis/legendenrahmen.h"
+#include "window/kern/bausteine.h"
 
 #include <QLabel>
 #include <QPainter>
@@ -111,7 +112,7 @@ void Legendenrahmen::ordne(int Flaechenbreite, double Massstab) {
         const QString kurz = Masse.elidedText(z.Inhalt, Qt::ElideRight, Platz);
         z.Text->setFont(Schrift);
         z.Text->setText(kurz);
-        z.Text->setToolTip(kurz == z.Inhalt ? QString() : z.Inhalt);
+        z.Text->setToolTip(kurz == z.Inhalt ? QString() : als_Tip(z.Inhalt));
         z.Text->setGeometry(x, y, Platz, Hoehe);
         if (z.Strich) {
             z.Strich->Massstab = Massstab;

@@ -11,6 +11,7 @@
 #include <QStyle>
 #include <QStyleOptionComboBox>
 #include <QStylePainter>
+#include <QTextDocument>
 #include <QValidator>
 #include <QtGui/QWheelEvent>
 #include <algorithm>
@@ -32,6 +33,11 @@ int Ziffern(const QWidget& w, double Anzahl) {
 }
 
 int Zeilenhoehe(const QWidget& w) { return w.fontMetrics().height() + 10; }
+
+QString als_Tip(const QString& Text) {
+    if (!Qt::mightBeRichText(Text)) return Text;
+    return u"<p style='white-space:pre-wrap'>"_s + Text.toHtmlEscaped() + u"</p>"_s;
+}
 
 Schaltflaeche::Schaltflaeche(const QString& Name, const QString& Aufschrift, QWidget* parent) : QPushButton(Aufschrift, parent) {
     setObjectName(Name);
@@ -183,7 +189,7 @@ QSize Kurztext::sizeHint() const { return {Ziffern(*this, 12), fontMetrics().hei
 void Kurztext::paintEvent(QPaintEvent*) {
     const QRect Platz = contentsRect();
     const QString kurz = fontMetrics().elidedText(text(), Qt::ElideRight, Platz.width());
-    setToolTip(kurz == text() ? QString() : text());
+    setToolTip(kurz == text() ? QString() : als_Tip(text()));
     QPainter p(this);
     style()->drawItemText(&p, Platz, static_cast<int>(alignment()), palette(), isEnabled(), kurz, foregroundRole());
 }

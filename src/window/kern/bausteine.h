@@ -24,6 +24,9 @@ int Ziffern(const QWidget& w, double Anzahl);
 // Height that fields, lists and buttons share.
 int Zeilenhoehe(const QWidget& w);
 
+// A text as a tip that shows it as it is: what looks like HTML is none.
+QString als_Tip(const QString& Text);
+
 // A button as wide as its text that Space presses and Enter does not.
 class Schaltflaeche : public QPushButton {
     Q_OBJECT

@@ -11,10 +11,12 @@
 #include <QTimer>
 #include <QVBoxLayout>
 #include <QtGui/QCloseEvent>
+#include <QtGui/QKeyEvent>
 #include <QtGui/QStatusTipEvent>
 #include <algorithm>
 #include <array>
 #include <chrono>
+#include <utility>
 
 #include "extras/versionstexte.h"
 #include "painting/qt_text.h"
@@ -41,6 +43,7 @@
 #include "window/saetze/simulationen.h"
 #include "window/saetze/szenario_form.h"
 #include "window/saetze/szenariorahmen.h"
+#include "window/saetze/wiederherstellungsfenster.h"
 
 namespace varnok {
 
@@ -75,6 +78,7 @@ Hauptformular::Hauptformular(Sitzung& Programm, Fensterfrage* Fragen, const QStr
     connect(findChild<QAction*>(u"M_Versionsinfo"_s), &QAction::triggered, this, &Hauptformular::zeige_Versionsinfo);
     connect(findChild<QAction*>(u"M_Laden"_s), &QAction::triggered, this, &Hauptformular::oeffne_Organiser);
     connect(Bilder_, &Bildbefehle::gehandelt, this, &Hauptformular::nach_Handlung);
+    connect(findChild<QAction*>(u"M_Wiederherstellen"_s), &QAction::triggered, this, &Hauptformular::stelle_wieder_her);
     connect(Steuerung_, &Feldsteuerung::gehandelt, this, &Hauptformular::zeige);
     connect(Steuerung_, &Feldsteuerung::getippt, this, &Hauptformular::zeige_Getipptes);
     for (Rahmen* r : Rahmen_) {
@@ -85,6 +89,7 @@ Hauptformular::Hauptformular(Sitzung& Programm, Fensterfrage* Fragen, const QStr
     Nachlauf_->setInterval(100ms);
     connect(Nachlauf_, &QTimer::timeout, this, &Hauptformular::sichere_Zwischenstand);
     if (Fragen_) Fragen_->setze_Fenster(this, [this] { zeige(); });
+    qApp->installEventFilter(this);
     new Fokusring(this);
     zeige();
     bestimme_kleinste_Groesse();
@@ -193,7 +198,8 @@ void Hauptformular::zeige_Titel() {
     const Zustand& z = Programm_.Stand();
     const std::array Arten = {Simulation, Wirkstoff, Applikation, Szenario};
     const bool verschieden = std::any_of(Arten.begin(), Arten.end(), [&z](Satzart Art) { return z.verschieden(Art); });
-    setWindowTitle(u"VARNOK - Soil residue forecast tool"_s + (verschieden ? u"*"_s : QString()));
+    setWindowTitle(u"VARNOK - Soil residue forecast tool"_s + (z.nur_lesbar ? u" (read only)"_s : QString()) +
+                   (verschieden ? u"*"_s : QString()));
 }
 
 void Hauptformular::oeffne_faelligen_Editor() {
@@ -220,7 +226,7 @@ void Hauptformular::zeige_Versionsinfo() {
 
 // The one place where an action of the user ends.
 void Hauptformular::nach_Handlung() {
-    if (Programm_.Stand().beendet) {
+    if (Programm_.Stand().beendet || std::exchange(schliessen_faellig_, false)) {
         close();
         return;
     }
@@ -263,6 +269,23 @@ void Hauptformular::nach_Optionen() {
     nach_Handlung();
 }
 
+void Hauptformular::stelle_wieder_her() {
+    const bool frei = Programm_.fuehre_aus<&Feldeingabe::schliesse_ab>(true);
+    nach_Handlung();
+    if (!frei) return;
+    std::vector<Gesichertes> Gewaehlte;
+    {
+        Wiederherstellungsfenster Dialog(Programm_, this);
+        if (Dialog.exec() == QDialog::Accepted) Gewaehlte = Dialog.Gewaehlte();
+    }
+    if (Gewaehlte.empty()) return;
+    {
+        const Wartezeiger warte;
+        Programm_.fuehre_aus<&Wiederherstellung::stelle_her>(Gewaehlte);
+    }
+    nach_Handlung();
+}
+
 void Hauptformular::oeffne_Organiser() {
     const bool offen = Programm_.fuehre_aus<&Organiser::oeffne>();
     nach_Handlung();
@@ -290,8 +313,14 @@ void Hauptformular::waehle_Fehlerzelle() {
 
 // What a field tells of a character that it did not take. Actions of the menu tell with an empty text, too.
 void Hauptformular::closeEvent(QCloseEvent* e) {
-    // What waits for the server would go on without its window.
-    if (Programm_.Stand().Aktualisierung_laeuft || !Programm_.fuehre_aus<&Programmablauf::schliesse_Fenster>()) {
+    // What waits for the server ends first; then the window closes.
+    if (Programm_.Stand().Aktualisierung_laeuft) {
+        schliessen_faellig_ = true;
+        Programm_.fuehre_aus<&Aktualisierungssteuerung::halte_an>();
+        e->ignore();
+        return;
+    }
+    if (!Programm_.fuehre_aus<&Programmablauf::schliesse_Fenster>()) {
         e->ignore();
         zeige();
         return;
@@ -330,6 +359,28 @@ void Hauptformular::bestimme_kleinste_Groesse() {
     const QSize Inhalt = Blaetter_->minimumSizeHint() + QSize(0, menuBar()->sizeHint().height());
     const QSize gewohnt = {Ziffern(*this, Ziffern_breit), fontMetrics().height() * Zeilen_hoch};
     setMinimumSize(Inhalt.expandedTo(gewohnt).boundedTo(screen()->availableSize() - Rand_des_Desktops));
+}
+
+bool Hauptformular::eventFilter(QObject* Objekt, QEvent* e) {
+    constexpr std::array Eingaben = {QEvent::MouseButtonPress,
+                                     QEvent::MouseButtonRelease,
+                                     QEvent::MouseButtonDblClick,
+                                     QEvent::Wheel,
+                                     QEvent::KeyPress,
+                                     QEvent::KeyRelease,
+                                     QEvent::Shortcut,
+                                     QEvent::ShortcutOverride,
+                                     QEvent::ContextMenu,
+                                     QEvent::TouchBegin,
+                                     QEvent::TouchUpdate,
+                                     QEvent::TouchEnd};
+    const bool wartet = Programm_.Stand().Aktualisierung_laeuft && !QApplication::activeModalWidget();
+    if (!wartet || std::find(Eingaben.begin(), Eingaben.end(), e->type()) == Eingaben.end()) {
+        return QMainWindow::eventFilter(Objekt, e);
+    }
+    if (e->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(e)->key() == Qt::Key_Escape)
+        Programm_.fuehre_aus<&Aktualisierungssteuerung::halte_an>();
+    return true;
 }
 
 void Hauptformular::stelle_Fenster_her() {

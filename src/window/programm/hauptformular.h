@@ -47,6 +47,8 @@ protected:
     bool event(QEvent* e) override;
     void changeEvent(QEvent* e) override;
     void keyPressEvent(QKeyEvent* e) override;
+    // While the server is waited for, nothing of what the user does counts but Esc and the close box.
+    bool eventFilter(QObject* Objekt, QEvent* e) override;
 
 private:
     // The mark of values that no file holds yet.
@@ -58,6 +60,7 @@ private:
     R* nimm_auf(R* Neuer);
     void starte();
     void oeffne_Organiser();
+    void stelle_wieder_her();
     void nach_Handlung();
     void oeffne_Optionen();
     void nach_Optionen();
@@ -74,6 +77,7 @@ private:
     Sitzung& Programm_;
     Fensterfrage* Fragen_;
     QString Fensterdatei_;
+    bool schliessen_faellig_ = false;  // the close box was pressed while the server was waited for
     Feldsteuerung* Steuerung_;
     Menue* Menue_;
     QStackedWidget* Blaetter_;

@@ -7,6 +7,8 @@
 #include <QStyleFactory>
 #include <QTimer>
 #include <cstdio>
+#include <cstdlib>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -79,6 +81,7 @@ int main(int argc, char** argv) {
 
     const QString Fensterdatei = QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) + u"/window.ini"_s;
 
+    auto Netz = std::make_unique<varnok::Netzabruf>(true);
     varnok::Fensterfrage Fragen;
     const varnok::Projektorte Orte = Orte_des_Programms();
     const varnok::Projektwahl Projekt = waehle(Orte);
@@ -87,20 +90,26 @@ int main(int argc, char** argv) {
         Fragen.frage({varnok::Texte::Laufzeitfehler, Projekt.Einwand, varnok::Symbol::Ausrufezeichen, {varnok::Knopf::OK}});
         return falscher_Aufruf;
     }
-    varnok::Netzabruf Netz;
     varnok::Dateitausch Tausch(varnok::aus_Qt(QApplication::applicationFilePath()), varnok::aus_Qt(QDir::currentPath()),
                                QApplication::applicationPid());
-    varnok::Sitzung Programm({&Fragen,
-                              Projekt.Ordner,
-                              Orte.installierte_Daten,
-                              Komma ? ',' : '.',
-                              nullptr,
-                              {varnok::Ziel_der_Auslieferung(), &Netz, &Tausch},
-                              argc > 1,
-                              Projekt.Simulation});
-    if (!Programm.fuehre_aus<&varnok::Programmablauf::oeffne_Projekt>()) return 0;
-    varnok::Hauptformular Fenster(Programm, &Fragen, Fensterdatei);
-    Fenster.show();
-    QTimer::singleShot(0, &Fenster, &varnok::Hauptformular::suche_beim_Start);
-    return QApplication::exec();
+    int Ausgang = 0;
+    {
+        varnok::Sitzung Programm({&Fragen,
+                                  Projekt.Ordner,
+                                  Orte.installierte_Daten,
+                                  Komma ? ',' : '.',
+                                  nullptr,
+                                  {varnok::Ziel_der_Auslieferung(), Netz.get(), &Tausch},
+                                  argc > 1,
+                                  Projekt.Simulation});
+        if (!Programm.fuehre_aus<&varnok::Programmablauf::oeffne_Projekt>()) return 0;
+        varnok::Hauptformular Fenster(Programm, &Fragen, Fensterdatei);
+        Fenster.show();
+        QTimer::singleShot(0, &Fenster, &varnok::Hauptformular::suche_beim_Start);
+        Ausgang = QApplication::exec();
+    }
+    Netz.reset();
+    // Whoever still waits for a proxy would make the end of the process wait for it.
+    if (varnok::Netzabruf::haengt()) std::_Exit(Ausgang);
+    return Ausgang;
 }

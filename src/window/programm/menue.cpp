@@ -50,12 +50,13 @@ struct Befehlszeile {
     Menue::Erlaubnis erlaubt = nullptr;    // none: always
     Menue::Auskunft Gegenstand = nullptr;  // told behind the caption; where it is empty there is nothing to do
 };
-constexpr std::array<Befehlszeile, 18> Befehle = {{
+constexpr std::array<Befehlszeile, 19> Befehle = {{
     {Datei, u"M_Neuer_Wirkstoff", u"New &Pesticide record", befiehl<&Satzverwaltung::lege_an, Wirkstoff>},
     {Datei, u"M_Neue_Applikationsdatei", u"New &Application record", befiehl<&Satzverwaltung::lege_an, Applikation>},
     {Datei, u"M_Neues_Szenario", u"&New Scenario", befiehl<&Satzverwaltung::lege_an, Szenario>},
     {Datei, u"M_Laden", u"&Load simulation", nullptr, u"", true},
     {Datei, u"M_Defaults", u"&Load program defaults", befiehl<&Satzverwaltung::lade_Voreinstellungen>},
+    {Datei, u"M_Wiederherstellen", u"&Restore..."},
     {Datei, u"M_Drucken", u"&Print", nullptr, u"", true},
     {Datei, u"M_Speichern", u"&Save all input data", befiehl<&Satzverwaltung::speichere>, u"Ctrl+S"},
     {Datei, u"M_Ende", u"&Exit", befiehl<&Programmablauf::beende>, u"Ctrl+Q", true},

@@ -80,7 +80,7 @@ void Simulationen::zeige() {
     Projektname_->zeige(in_Qt(o.Projektname()));
     const QString Einwand = in_Qt(o.Einwand_gegen_Bearbeiten());
     Edit_->setEnabled(Einwand.isEmpty());
-    Edit_->setToolTip(Einwand);
+    Edit_->setToolTip(als_Tip(Einwand));
     Edit_->setAccessibleDescription(Einwand);
     const std::string& Status = Programm_.Stand().Statuszeile;
     Status_->setText(Status == alter_Status_ ? QString() : in_Qt(Status));

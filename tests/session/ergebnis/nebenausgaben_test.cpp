@@ -93,7 +93,7 @@ TEST_F(Nebenausgabenprobe, a_file_in_place_of_the_folder_is_told_in_one_line) {
     std::filesystem::remove_all(Wurzel_ / "output");
     std::ofstream(Wurzel_ / "output") << "in the way";
     nur_geladen();
-    Fragen_.erwarte("Runtime error", "Cannot make the folder \"" + (Wurzel_ / "output").string() + "\"");
+    Fragen_.erwarte("Runtime error", "Cannot make the folder \"" + (Wurzel_ / "output").string() + "\": Not a directory");
     s_->fuehre_aus<&Programmablauf::starte>();
     EXPECT_FALSE(s_->Stand().abgedeckt());
 }

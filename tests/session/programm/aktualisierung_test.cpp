@@ -18,7 +18,8 @@ class Onlinecheck : public Probesitzung {
 protected:
     Onlinecheck() : Ziel_{"http", "example.org", Testschluessel().Hex()} {
         Netz_.Antworten[Ziel_.Programm()] = "new program";
-        Netz_.Antworten[Ziel_.Signatur()] = Testschluessel().signiere(signierter_Text("20180922", "new program"));
+        Netz_.Antworten[Ziel_.Signatur()] =
+            Testschluessel().signiere(signierter_Text("20180922", Ziel_.Programmname(), "new program"));
     }
     // Before the members that it uses.
     ~Onlinecheck() override { s_.reset(); }
@@ -117,12 +118,12 @@ TEST_F(Onlinecheck, an_update_drops_what_is_not_saved_and_ends) {
     EXPECT_EQ(Datei("input/Probe.app"), vorher);
 }
 
-TEST_F(Onlinecheck, a_download_that_fails_tells_that_there_is_no_connection) {
+TEST_F(Onlinecheck, a_download_that_fails_is_told_as_such) {
     Server_bietet("20180922");
     Netz_.Antworten.erase(Ziel_.Programm());
     gestartete();
     Fragen_.erwarte("Update available!", neue_Version, Knopf::Ja);
-    erwarte_keine_Verbindung();
+    Fragen_.erwarte_Anfang("Update not installed", "The new version could not be downloaded:");
     s_->fuehre_aus<&Aktualisierungssteuerung::suche>();
     EXPECT_TRUE(s_->Stand().Aktualisierungsfehler);
     EXPECT_FALSE(s_->Stand().beendet);
@@ -227,7 +228,7 @@ TEST_F(Onlinecheck, at_the_start_a_download_that_fails_is_told) {
     Netz_.Antworten.clear();
     suche_beim_Start();
     Fragen_.erwarte("Update available!", neue_Version, Knopf::Ja);
-    erwarte_keine_Verbindung();
+    Fragen_.erwarte_Anfang("Update not installed", "The new version could not be downloaded:");
     Netz_.antworte(Seite("20180922"));
     EXPECT_TRUE(s_->Stand().Aktualisierungsfehler);
 }

@@ -53,7 +53,7 @@ TEST_F(Projektpfad, where_no_output_can_be_written_the_run_says_so_once_and_the_
     gestartet();
     std::filesystem::create_directory(Wurzel_ / "new");
     std::ofstream(Wurzel_ / "new/output") << "a file in the folder's place";
-    Fragen_.erwarte("Runtime error", "Cannot make the folder \"" + (Wurzel_ / "new/output").string() + "\"");
+    Fragen_.erwarte("Runtime error", "Cannot make the folder \"" + (Wurzel_ / "new/output").string() + "\": Not a directory");
     waehle_Projekt("new");
     EXPECT_FALSE(s_->Stand().abgedeckt());
     bestaetige_unveraendert();

@@ -1,6 +1,7 @@
 // Making, copying, deleting and renaming records and simulations: files on disk, lists and names before and after.
 
 #include <chrono>
+#include <fstream>
 
 #include "records/dateien.h"
 #include "records/simulation.h"
@@ -338,11 +339,11 @@ TEST_F(Befehlsprobe, program_defaults_keep_the_files_they_replace_and_unsaved_va
     EXPECT_EQ(gesichert(), (Namen{"Programcheck.che", "unsaved Probe.che"}));
 }
 
-TEST_F(Befehlsprobe, a_backup_that_cannot_be_written_stops_the_command_before_anything_is_touched) {
+TEST_F(Befehlsprobe, a_backup_that_cannot_be_written_is_asked_about_and_no_stops_the_command_before_anything_is_touched) {
     schreibe_Datei((Wurzel_ / "backup").string(), "a file in the way");
     gestartet();
     bejahe_Loeschen();
-    Fragen_.erwarte_Anfang("Runtime error", "Cannot make the folder");
+    Fragen_.erwarte_Anfang("Runtime error", "Cannot make the folder", Knopf::Nein);
     s_->fuehre_aus<&Satzverwaltung::loesche>(Szenario);
     EXPECT_TRUE(gibt_es("input/Probe.sce"));
     EXPECT_EQ(z().gewaehlt(Szenario), "Probe");
@@ -403,6 +404,8 @@ TEST_F(Befehlsprobe, a_second_window_on_the_folder_says_so_and_saves_only_after_
 TEST_F(Befehlsprobe, the_folder_of_backups_keeps_the_newest_50) {
     gestartet();
     for (int i = 0; i < 52; ++i) {
+        // What the newest holds already is not kept again.
+        std::ofstream(Wurzel_ / "input/Probe.sce", std::ios::app) << i << "\r\n";
         s_->fuehre_aus<&Satzverwaltung::kopiere>(Szenario);
         bejahe_Loeschen();
         s_->fuehre_aus<&Satzverwaltung::loesche>(Szenario);

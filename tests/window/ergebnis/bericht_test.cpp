@@ -4,8 +4,10 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QFile>
+#include <QFileDialog>
 #include <QImage>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QMimeData>
 #include <QPrintDialog>
 #include <QPrinter>
@@ -164,6 +166,64 @@ private Q_SLOTS:
         QVERIFY(!angeboten);
     }
 
+    void a_pdf_is_proposed_in_the_folder_of_outputs_under_the_name_of_the_report() {
+        QDir(p_->Pfad({})).rename(u"output"_s, u"Output"_s);
+        p_->klicke("Bericht_erstellen");
+        QString Ordner, Name;
+        bei_Dialog<QFileDialog>([&](QFileDialog& d) {
+            Ordner = d.directory().dirName();
+            Name = d.findChild<QLineEdit*>()->text();
+            d.reject();
+        });
+        p_->klicke("Bericht_PDF");
+        QCOMPARE(Ordner, u"Output"_s);
+        QCOMPARE(Name, QString::fromStdString(p_->Programm().Stand().Ergebnisdatei) + u".pdf"_s);
+    }
+
+    void a_name_with_a_percent_sign_is_proposed_as_it_is() {
+        p_->Programm().fuehre_aus<&Beschreibungseingabe::aendere>("50 %41 of 'it' \"quoted\"");
+        p_->klicke("Bericht_erstellen");
+        QString Name;
+        bei_Dialog<QFileDialog>([&](QFileDialog& d) {
+            Name = d.selectedFiles().value(0);
+            d.reject();
+        });
+        p_->klicke("Bericht_PDF");
+        QVERIFY2(Name.contains(u"/50 %41 of 'it' _quoted_"_s) && Name.endsWith(u".pdf"_s), qPrintable(Name));
+    }
+
+    // The ending that was left out is there when the dialog looks whether there is such a file.
+    void a_pdf_replaces_a_file_only_after_the_question_of_the_dialog() {
+        p_->klicke("Bericht_erstellen");
+        const QString Pfad = p_->Pfad(u"mine.pdf"_s);
+        schreibe(Pfad, "mine");
+        for (const auto Antwort : {QMessageBox::No, QMessageBox::Yes}) {
+            int gefragt = 0;
+            bei_Dialog<QFileDialog>([&](QFileDialog& d) {
+                d.findChild<QLineEdit*>()->setText(p_->Pfad(u"mine"_s));
+                bei_Dialog<QMessageBox>([&](QMessageBox& m) {
+                    ++gefragt;
+                    m.button(Antwort)->click();
+                });
+                QMetaObject::invokeMethod(&d, "accept");
+                if (Antwort == QMessageBox::No) d.reject();
+            });
+            p_->klicke("Bericht_PDF");
+            QCOMPARE(gefragt, 1);
+            QCOMPARE(p_->Inhalt(u"mine.pdf"_s).startsWith("%PDF-"), Antwort == QMessageBox::Yes);
+        }
+        QVERIFY(!QFile::exists(p_->Pfad(u"mine.pdf.pdf"_s)));
+    }
+
+    void a_link_is_replaced_by_a_pdf_and_its_target_stays() {
+        p_->klicke("Bericht_erstellen");
+        schreibe(p_->Pfad(u"mine"_s), "mine");
+        QFile::link(p_->Pfad(u"mine"_s), p_->Pfad(u"link.pdf"_s));
+        p_->Programm().fuehre_aus<&Berichtssteuerung::speichere_PDF>(p_->Pfad(u"link.pdf"_s).toStdString());
+        QCOMPARE(p_->Inhalt(u"mine"_s), QByteArray("mine"));
+        QVERIFY(p_->Inhalt(u"link.pdf"_s).startsWith("%PDF-"));
+    }
+
     void a_cancelled_print_ends_quietly() {
         p_->klicke("Bericht_erstellen");
         bei_Dialog<QPrintDialog>([](QPrintDialog& d) { d.reject(); });
@@ -208,6 +268,12 @@ private Q_SLOTS:
     }
 
 private:
+    static void schreibe(const QString& Pfad, const QByteArray& Bytes) {
+        QFile f(Pfad);
+        QVERIFY(f.open(QIODevice::WriteOnly));
+        f.write(Bytes);
+    }
+
     // Prints into a file, as the dialog does where there is no printer.
     template <class H>
     QString drucke(H Handlung, const QString& Datei = u"report.pdf"_s) {
