@@ -2,17 +2,17 @@
 # Shows that the random walk over the session finds what it is there for: plants three faults one after the other in a copy of
 # the tree and lets it walk. Nothing of them comes into the tree itself.
 #
-#     tools/gepflanzte_fehler.sh [BUILD FOLDER OF THE COPY]
+#     tools/gepflanzte_fehler.sh
 set -euo pipefail
 Wurzel=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 Kopie=$(mktemp -d)
 trap 'rm -rf "$Kopie"' EXIT
-Bau=${1:-$Kopie/build}
+Bau=$Kopie/baum/build/release
 export QT_QPA_PLATFORM=offscreen VARNOK_GANG_KUERZEN=${VARNOK_GANG_KUERZEN:-30}
 
 mkdir -p "$Kopie/baum"
 tar -C "$Wurzel" --exclude=./build --exclude=./.git -cf - . | tar -C "$Kopie/baum" -xf -
-cmake -S "$Kopie/baum" -B "$Bau" -G Ninja -DCMAKE_BUILD_TYPE=Release -DVARNOK_BENCH=OFF >/dev/null
+(cd "$Kopie/baum" && cmake --preset release >/dev/null)
 
 # pflanze NAME DATEI ALT NEU: in place of one text of a source another one; the walk must find it.
 pflanze() {
@@ -38,7 +38,7 @@ ENDE
 }
 
 pflanze "a comparison that forgets the soil depth" src/run/laufeingang.cpp \
-    'p.Bodendichte, p.Bodentiefe, p.Plateautiefe' 'p.Bodendichte, p.Plateautiefe'
+    'nimm("Bodentiefe", -1, p.Bodentiefe);' ''
 pflanze "a summary file that is written when a record is chosen" src/session/saetze/satzverwaltung.cpp \
     'schliesse_Laden_ab() { Laeufe_.berechne(); }' 'schliesse_Laden_ab() { Laeufe_.berechne(); schreibe_Zusammenfassungsdatei(); }'
 pflanze "a step of the history that is lost" src/session/kern/verlauf.cpp \

@@ -13,8 +13,11 @@ bool schneiden_sich(const Flaechenrechteck& a, const Flaechenrechteck& b) {
     return a.links < rechts(b) && b.links < rechts(a) && a.oben < unten(b) && b.oben < unten(a);
 }
 
-// Whether a part of the line from `a` to `b` lies within the rectangle: its share is cut down edge by edge.
-bool laeuft_durch(const Flaechenrechteck& r, Flaechenort a, Flaechenort b) {
+// Whether a part of the line from `a` to `b` lies within the rectangle: its share is cut down edge by edge. Most lines lie on one
+// side of it.
+bool laeuft_durch(const Flaechenrechteck& r, Punkt a, Punkt b) {
+    if (std::max(a.x, b.x) <= r.links || std::min(a.x, b.x) >= rechts(r)) return false;
+    if (std::max(a.y, b.y) <= r.oben || std::min(a.y, b.y) >= unten(r)) return false;
     double von = 0, bis = 1;
     const auto schneide = [&](double Anfang, double Weg, double kleinster, double groesster) {
         if (Weg == 0) return Anfang > kleinster && Anfang < groesster;
@@ -24,7 +27,7 @@ bool laeuft_durch(const Flaechenrechteck& r, Flaechenort a, Flaechenort b) {
         bis = std::min(bis, std::max(t0, t1));
         return von < bis;
     };
-    return schneide(a.links, b.links - a.links, r.links, rechts(r)) && schneide(a.oben, b.oben - a.oben, r.oben, unten(r));
+    return schneide(a.x, b.x - a.x, r.links, rechts(r)) && schneide(a.y, b.y - a.y, r.oben, unten(r));
 }
 
 Flaechenrechteck im_Raum(Flaechenrechteck r, const Flaechenrechteck& Raum) {
@@ -85,11 +88,13 @@ auto Kosten(const std::vector<const Moeglichkeit*>& Wahl) {
 Verdecktes zaehle_Verdecktes(const Rahmenfeld& f, const Flaechenrechteck& r) {
     const Koordinaten& k = f.Liste.System;
     const Flaechenrechteck mit_Luft = {r.links - f.Luft_x, r.oben - f.Luft_y, r.Breite + 2 * f.Luft_x, r.Hoehe + 2 * f.Luft_y};
-    const auto Ort = [&k](Punkt p) { return Flaechenort{(p.x - k.links) / k.Breite(), (k.oben - p.y) / k.Hoehe()}; };
+    // In the coordinates of the drawing, y upwards.
+    const Flaechenrechteck gezeichnet = {k.links + mit_Luft.links * k.Breite(), k.oben - unten(mit_Luft) * k.Hoehe(),
+                                         mit_Luft.Breite * k.Breite(), mit_Luft.Hoehe * k.Hoehe()};
     Verdecktes v;
     for (const Flaechenrechteck& t : f.Texte) v.Texte += schneiden_sich(r, t);
     for (const Linie& l : f.Liste.Linien) {
-        if (l.Farbe == Schwarz || !laeuft_durch(mit_Luft, Ort(l.von), Ort(l.bis))) continue;
+        if (l.Farbe == Schwarz || !laeuft_durch(gezeichnet, l.von, l.bis)) continue;
         ++(l.Breite > 1 ? v.Kurvenpunkte : v.Kastenstriche);
     }
     return v;

@@ -96,8 +96,8 @@ void Linienmaler::male(const Kasten& k) {
 // The smoothing of one path of thousands of days takes many times longer than that of its parts. So it is painted strip by strip
 // of whole pixels: none is painted twice, and each has all of the path that reaches into it.
 void Linienmaler::male_Kurve(const Linienzug& Zug, const QPolygonF& Ganzes) {
-    constexpr int Streifen = 64;        // pixels
-    constexpr double unsichtbar = 0.1;  // pixels
+    constexpr int Streifen = 32;        // pixels
+    constexpr double unsichtbar = 0.2;  // pixels
     QPen s = Stift(Zug.Farbe, Zug.Breite, Zug.Muster);
     p_.setRenderHint(QPainter::Antialiasing);
     p_.setPen(s);

@@ -38,7 +38,7 @@ void Applikationstabelle::setze(Zelle z, std::string Text) {
     Zahlwert& Ziel = z_.Felder().Applikationsschema[static_cast<std::size_t>(z.Zeile)][static_cast<std::size_t>(z.Spalte)];
     if (Ziel.Text() == Text) return;
     Ziel = std::move(Text);
-    z_.Saetze[2].Geaendert = true;
+    z_.Saetze[2].merke_Aenderung();
 }
 
 const std::string& Applikationstabelle::Text(Zelle z) const {

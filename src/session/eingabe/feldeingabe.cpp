@@ -85,7 +85,7 @@ void Feldeingabe::aendere(int Feld, const std::string& Text) {
     geaendert_ = true;
     setze(Feld, Text);
     if (Feldwert(Feld) == Alter_Wert_) z_.Feld_abgelehnt = false;
-    z_.Saetze[Satz_von(f)].Geaendert = true;
+    z_.Saetze[Satz_von(f)].merke_Aenderung();
 }
 
 bool Feldeingabe::pruefe(int Feld, bool Enter) {

@@ -7,7 +7,7 @@
 
 namespace varnok {
 
-void Listenwahl::merke_Applikation() { z_.Saetze[2].Geaendert = true; }
+void Listenwahl::merke_Applikation() { z_.Saetze[2].merke_Aenderung(); }
 
 void Listenwahl::waehle_Substanz(int c) {
     z_.Sicht.Substanz = c;
@@ -18,7 +18,7 @@ void Listenwahl::waehle_Kinetik(int c, Kinetikart k) {
     Kinetikart& Kinetik = z_.Parameter().Kinetik[static_cast<std::size_t>(c)][static_cast<std::size_t>(z_.i_studie())];
     if (Kinetik == k) return;
     Kinetik = k;
-    z_.Saetze[1].Geaendert = true;
+    z_.Saetze[1].merke_Aenderung();
     Laeufe_.berechne();
 }
 
@@ -34,7 +34,7 @@ void Listenwahl::waehle_Berechnungsmodus(Stoffschema m) {
     z_.Felder().Berechnungsmodus = m;
     if (z_.Sicht.Substanz >= Anzahl_Stoffe(m)) z_.Sicht.Substanz = 0;
     if (!z_.Gestartet) return;
-    z_.Saetze[1].Geaendert = true;
+    z_.Saetze[1].merke_Aenderung();
     // Nothing valid stands for the new scheme: the summary ends and every study is run.
     z_.Zusammenfassung_aktiv = false;
     Laeufe_.berechne_alle_Studien();
@@ -44,7 +44,7 @@ void Listenwahl::aendere_Namen(int c, const std::string& Name) {
     std::string& Platz = c == 0 ? z_.Felder().Name_Wirkstoff : c == 1 ? z_.Felder().Name_Met_1 : z_.Felder().Name_Met_2;
     if (Platz == Name) return;
     Platz = Name;
-    z_.Saetze[1].Geaendert = true;
+    z_.Saetze[1].merke_Aenderung();
 }
 
 void Listenwahl::waehle_Muster(Applikationsart m) {

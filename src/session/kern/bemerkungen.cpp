@@ -48,7 +48,7 @@ std::vector<Bemerkung> Bemerkungen(const Zustand& z) {
         }
     };
     for (const Satzart Art : {Simulation, Wirkstoff, Applikation, Szenario}) {
-        if (z.Saetze[Art].gelesen && !z.Saetze[Art].Datei.Bytes.empty()) nimm_auf(zum_Satz(z.Saetze[Art].Datei, Art));
+        if (z.Saetze[Art].gelesen() && !z.Saetze[Art].Datei().Bytes.empty()) nimm_auf(zum_Satz(z.Saetze[Art].Datei(), Art));
     }
     nimm_auf(zum_Klima(z));
     Alle.insert(Alle.end(), z.zu_den_Einstellungen.begin(), z.zu_den_Einstellungen.end());

@@ -26,7 +26,7 @@ void Ruecknahme::stelle_her(const Eingabe& e) {
     const Unterschied u = vergleiche(z_.Vorgabe, e);
     z_.Vorgabe = e;
     for (const Satzart Art : {Simulation, Wirkstoff, Applikation, Szenario}) {
-        if (u.Arten[Art]) z_.Saetze[Art].Geaendert = true;
+        if (u.Arten[Art]) z_.Saetze[Art].merke_Aenderung();
     }
     if (u.i_studie >= 0) z_.Sicht.Studie_Index = u.i_studie;
     z_.Sicht.Studie_Index = std::min(z_.Sicht.Studie_Index, z_.Studienzahl() - 1);

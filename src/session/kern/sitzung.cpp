@@ -74,7 +74,7 @@ void Sitzung::schliesse_Handlung_ab() {
 void Sitzung::raeume_Marken_auf() {
     const auto verschieden = [this](Satzart Art) { return z_.verschieden(Art); };
     if (std::any_of(alle_Arten.begin(), alle_Arten.end(), verschieden)) return;
-    for (Satzplatz& p : z_.Saetze) p.Geaendert = false;
+    for (Satzplatz& p : z_.Saetze) p.vergiss_Aenderung();
 }
 
 // A line stands until the next change of an input or a result; one about files is written by their commands.

@@ -24,15 +24,15 @@ bool Zustand::alles_Gezeigte_gueltig() const {
 
 bool Zustand::Saetze_vollstaendig() const {
     for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) {
-        if (Auswahl(Art) < 0 || !Saetze[Art].gelesen) return false;
+        if (Auswahl(Art) < 0 || !Saetze[Art].gelesen()) return false;
     }
-    return Saetze[Simulation].gelesen;  // a simulation in the place of a deleted one
+    return Saetze[Simulation].gelesen();  // a simulation in the place of a deleted one
 }
 
 std::string Zustand::Abdeckungswort() const {
     if (!Gestartet) return Texte::Eingabe_geaendert;
     for (const Satzart Art : {Simulation, Wirkstoff, Applikation, Szenario}) {
-        if (!Saetze[Art].gelesen && !Saetze[Art].Grund.empty()) return Saetze[Art].Grund;
+        if (!Saetze[Art].gelesen() && !Saetze[Art].Grund().empty()) return Saetze[Art].Grund();
     }
     for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) {
         if (Auswahl(Art) < 0 && !Namen[Art].empty()) return Texte::fehlender_Satz(Namen[Art] + Endungen[Art]);
@@ -66,7 +66,7 @@ std::string Zustand::Speicherbild(Satzart Art) const {
 }
 
 bool Zustand::verschieden(Satzart Art) const {
-    return Saetze[Art].gelesen ? Speicherbild(Art) != Saetze[Art].gespeichert : Saetze[Art].Geaendert;
+    return Saetze[Art].gelesen() ? Speicherbild(Art) != Saetze[Art].gespeichert() : Saetze[Art].Geaendert();
 }
 
 }  // namespace varnok

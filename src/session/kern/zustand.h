@@ -18,6 +18,7 @@
 #include "records/projektordner.h"
 #include "records/projektsperre.h"
 #include "session/ergebnis/ergebnisstand.h"
+#include "session/kern/satzplatz.h"
 
 namespace varnok {
 
@@ -62,22 +63,6 @@ struct Satzlisten {
     void waehle_Platz(std::size_t Art, int Position) {
         Namen[Art] = Position < 0 ? std::string() : Listen[Art].at(static_cast<std::size_t>(Position));
     }
-};
-
-// The file that the values on the screen come from, as this program last read or wrote it. Not what is selected: after a
-// deletion or a choice the selector names the next record while the values are still those of this one.
-struct Dateistand {
-    std::string Name;
-    std::string Bytes;
-};
-
-// What the program knows of the record of a kind, beside its selector.
-struct Satzplatz {
-    Dateistand Datei;
-    std::string gespeichert;  // what a save would have written right after reading or saving
-    bool gelesen = false;     // false: the values on the screen are not those of the record that the selector names
-    std::string Grund;        // why not, for the cover
-    bool Geaendert = false;   // told mark: the user changed it and is asked before it goes
 };
 
 struct Zustand : Satzlisten {
@@ -144,7 +129,12 @@ struct Zustand : Satzlisten {
     bool Neu_berechnen() const;
     // The told marks, by kind.
     std::array<bool, 4> Marken() const {
-        return {Saetze[0].Geaendert, Saetze[1].Geaendert, Saetze[2].Geaendert, Saetze[3].Geaendert};
+        return {Saetze[0].Geaendert(), Saetze[1].Geaendert(), Saetze[2].Geaendert(), Saetze[3].Geaendert()};
+    }
+    // The selectors name another combination of records than the summary file does.
+    void merke_Kombination() {
+        Saetze[Simulation].merke_Aenderung();
+        Simulation_markiert = true;
     }
     // What a save of this kind writes. Throws Laufzeitfehler for a text or a value that no record can hold.
     std::string Speicherbytes(Satzart Art) const;

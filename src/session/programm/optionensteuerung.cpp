@@ -99,7 +99,7 @@ void Optionensteuerung::merke_Aenderungen(const Optionsentwurf& Neue) {
     const bool neue_Liste = Neue.TWA_Zeiten != vorher_.TWA_Zeiten;
     const bool neue_Rechnung =
         neue_Liste || Neue.Einheit != vorher_.Einheit || Neue.Separate_Rueckstaende != vorher_.Separate_Rueckstaende;
-    if (neue_Rechnung || Neue.Ausgabename_Teile != vorher_.Ausgabename_Teile) z_.Saetze[Wirkstoff].Geaendert = true;
+    if (neue_Rechnung || Neue.Ausgabename_Teile != vorher_.Ausgabename_Teile) z_.Saetze[Wirkstoff].merke_Aenderung();
     if (neue_Liste) z_.Sicht.TWA_Laenge = TWA_Vorauswahl(z_.Parameter().TWA_Zeiten);
 }
 

@@ -122,7 +122,7 @@ void Programmablauf::starte() {
     // The handler of the pattern makes the first run; what it marks is no change of the user.
     const std::array<bool, 4> Marken = z_.Marken();
     Listen_.fuehre_Muster_aus();
-    for (std::size_t Art = 0; Art < Marken.size(); ++Art) z_.Saetze[Art].Geaendert = Marken[Art];
+    for (std::size_t Art = 0; Art < Marken.size(); ++Art) z_.Saetze[Art].stelle_Marke(Marken[Art]);
 }
 
 // What is not saved at the end goes into `backup`; in a project that is open for reading only there is none. False where the user
@@ -142,10 +142,10 @@ void Programmablauf::beende() {
     if (!zu_sichern || !Saetze_.pruefe_Auswahl({Knopf::OK, Knopf::Abbrechen})) return;
     if (!zu_sichern->empty() && !Saetze_.speichere_Arten(*zu_sichern)) return;
     // A save has just written the summary file, unless it was not read: then its time is what is missing.
-    const bool geschrieben = z_.nur_lesbar || (!zu_sichern->empty() && z_.Saetze[Simulation].gelesen);
+    const bool geschrieben = z_.nur_lesbar || (!zu_sichern->empty() && z_.Saetze[Simulation].gelesen());
     bool weiter = true;
     std::string Fehler;
-    if (!geschrieben && (z_.Saetze[0].Geaendert || z_.Neu_berechnen()))
+    if (!geschrieben && (z_.Saetze[0].Geaendert() || z_.Neu_berechnen()))
         Fehler = Fehler_bei([&] { weiter = Saetze_.schreibe_Zusammenfassungsdatei(); });
     if (!weiter || !sichere_am_Ende()) return;
     const std::string zweiter = z_.nur_lesbar ? "" : Fehler_bei([&] { Einstellungen_schreiben(z_); });

@@ -7,7 +7,7 @@ namespace varnok {
 
 void Beschreibungseingabe::oeffne() {
     alter_Text_ = z_.Felder().Beschreibung;
-    alte_Marke_ = z_.Saetze[Simulation].Geaendert;
+    alte_Marke_ = z_.Saetze[Simulation].Geaendert();
     z_.Beschreibung_offen = true;
 }
 
@@ -18,7 +18,7 @@ void Beschreibungseingabe::aendere(const std::string& Text) {
     if (eine_Zeile == z_.Felder().Beschreibung) return;
     z_.Felder().Beschreibung = eine_Zeile;
     z_.Ergebnisdatei.clear();
-    z_.Saetze[Simulation].Geaendert = true;
+    z_.Saetze[Simulation].merke_Aenderung();
 }
 
 void Beschreibungseingabe::schliesse() { z_.Beschreibung_offen = false; }
@@ -26,7 +26,7 @@ void Beschreibungseingabe::schliesse() { z_.Beschreibung_offen = false; }
 void Beschreibungseingabe::nimm_zurueck() {
     if (!std::exchange(z_.Beschreibung_offen, false)) return;
     z_.Felder().Beschreibung = alter_Text_;
-    z_.Saetze[Simulation].Geaendert = alte_Marke_;
+    z_.Saetze[Simulation].stelle_Marke(alte_Marke_);
 }
 
 }  // namespace varnok

@@ -74,16 +74,16 @@ bool Eingabedateien::speichere(const std::string& Dateiname) {
     };
     ersetze(Name, Simulation);
     for (std::size_t Art = 1; Art <= 3; ++Art) {
-        if (z_.Saetze[Art].gelesen) ersetze(z_.Namen[Art], Art);
+        if (z_.Saetze[Art].gelesen()) ersetze(z_.Namen[Art], Art);
     }
     sichere(z_, ersetzt);
     schreibe_Datei(z_.Ordner->Zielpfad(Name, Endung), Bytes, als_Satz);
     zeige_als_Simulation(Name);
     z_.Simulation_markiert = false;
     for (std::size_t Art = 1; Art <= 3; ++Art) {
-        if (!z_.Saetze[Art].gelesen) continue;
+        if (!z_.Saetze[Art].gelesen()) continue;
         Satz_schreiben(*z_.Ordner, z_.Namen[Art], static_cast<Satzart>(Art), z_.Vorgabe, z_.Sicht, z_.Welt.Dezimalzeichen);
-        z_.Saetze[Art].Geaendert = false;
+        z_.Saetze[Art].vergiss_Aenderung();
     }
     return true;
 }

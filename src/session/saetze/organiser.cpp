@@ -51,7 +51,7 @@ void Organiser::oeffne() {
     Listen_.Namen = z_.Namen;
     for (const Satzart Art : alle_Arten) Befehle_.lies_Liste(Art);
     // The description on the screen may not be saved yet, but it belongs to the simulation on the screen alone.
-    const bool dieselbe = Listen_.Auswahl(Simulation) >= 0 && z_.Saetze[Simulation].gelesen;
+    const bool dieselbe = Listen_.Auswahl(Simulation) >= 0 && z_.Saetze[Simulation].gelesen();
     if (Listen_.Auswahl(Simulation) < 0)
         Listen_.waehle_Platz(Simulation, static_cast<int>(Listen_.Listen[Simulation].size()) - 1);
     gelesen_ = Dateibytes(z_, Listen_.gewaehlt(Simulation));
@@ -147,15 +147,13 @@ void Organiser::ziehe_Hauptformular_nach(Satzart Art, const std::string& alt, co
         entwerte_im_Hauptformular(Art, gezeigt.empty() ? Texte::Satz_ersetzt : Texte::Satz_geloescht);
     if (!umbenannt) return;
     Waechter_.merke_Namen(Art, neu);
-    if (z_.Gestartet) z_.Saetze[0].Geaendert = z_.Simulation_markiert = true;
+    if (z_.Gestartet) z_.merke_Kombination();
 }
 
 // The file of what the main screen shows is gone: a save from there must not bring it back under a name that is taken by now.
 void Organiser::entwerte_im_Hauptformular(Satzart Art, const char* Grund) {
     sichere({Art});
-    z_.Saetze[Art].Geaendert = false;
-    z_.Saetze[Art].gelesen = false;
-    z_.Saetze[Art].Grund = Grund;
+    z_.Saetze[Art].verwirf(Grund);
 }
 
 // The description of another simulation may stand on the main screen by now.
@@ -168,7 +166,7 @@ void Organiser::sichere(const std::vector<Satzart>& Arten) {
 std::string Organiser::Einwand_gegen_Bearbeiten() const {
     const std::string Name = Listen_.gewaehlt(Szenario);
     if (Name.empty()) return "No scenario is selected.";
-    if (Name == z_.gewaehlt(Szenario) && z_.Saetze[Szenario].gelesen) return {};
+    if (Name == z_.gewaehlt(Szenario) && z_.Saetze[Szenario].gelesen()) return {};
     return "The scenario \"" + Name + "\" is not loaded: leave with \"Done\", then it can be edited on the main screen.";
 }
 
@@ -189,14 +187,14 @@ void Organiser::beende_Bearbeiten() {
 // Other names than those on the screen, over the values there, would be wrong in all that follows; what was chosen here is read
 // as it is when chosen there.
 bool Organiser::ist_zu_lesen(Satzart Art) const {
-    return gewaehlt_[Art] || Listen_.gewaehlt(Art) != z_.gewaehlt(Art) || !z_.Saetze[Art].gelesen;
+    return gewaehlt_[Art] || Listen_.gewaehlt(Art) != z_.gewaehlt(Art) || !z_.Saetze[Art].gelesen();
 }
 
 std::vector<Satzart> Organiser::zu_lesende() const {
     std::vector<Satzart> Arten;
     for (const Satzart Art : alle_Arten) {
         // The editor's values belong to the scenario that stays.
-        const bool steht = Art == Szenario && Szenario_bearbeitet_ && z_.Saetze[Szenario].gelesen &&
+        const bool steht = Art == Szenario && Szenario_bearbeitet_ && z_.Saetze[Szenario].gelesen() &&
                            Listen_.gewaehlt(Szenario) == z_.gewaehlt(Szenario);
         if (ist_zu_lesen(Art) && !steht) Arten.push_back(Art);
     }
@@ -240,12 +238,12 @@ bool Organiser::uebernimm() {
     const bool andere_Beschreibung = Projektname_ != alte_Beschreibung_;
     if (!uebergib()) return false;
     if (andere_Beschreibung) z_.Ergebnisdatei.clear();
-    z_.Saetze[0].Geaendert = z_.Simulation_markiert = false;
+    z_.Saetze[Simulation].vergiss_Aenderung();
+    z_.Simulation_markiert = false;
     Lauf_ = Lauf;
     if (!Lauf) return true;
     for (const Satzart Art : Arten) {
-        z_.Saetze[Art].gelesen = Art == Simulation;
-        z_.Saetze[Art].Grund.clear();
+        if (Art != Simulation) z_.Saetze[Art].verlange();
     }
     return true;
 }
@@ -258,8 +256,7 @@ bool Organiser::uebergib() {
     const Merkstand vorher(z_);
     gib_Listen_weiter();
     z_.Felder().Beschreibung = Projektname_;
-    z_.Saetze[Simulation].Datei = {z_.gewaehlt(Simulation), gelesen_};
-    z_.Saetze[Simulation].gelesen = true;
+    z_.Saetze[Simulation].lies({z_.gewaehlt(Simulation), gelesen_});
     if (z_.Auswahl(Simulation) < 0) return true;  // the folder has no simulation
     if (z_.nur_lesbar) return true;               // what was put together here is looked at, and written nowhere
     bool geschrieben = false;

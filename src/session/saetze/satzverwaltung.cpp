@@ -35,8 +35,7 @@ void Satzverwaltung::nenne_Unwaehlbare() {
 // What the screen shows stays there under the cover; it is not the record that the selector names, so it is never saved or asked
 // for.
 void Satzverwaltung::erklaere_ungelesen(Satzart Art, const std::string& Grund) {
-    z_.Saetze[Art].gelesen = z_.Saetze[Art].Geaendert = false;
-    z_.Saetze[Art].Grund = Grund;
+    z_.Saetze[Art].verwirf(Grund);
     z_.Verlauf_beginnt = true;
     stelle_voran(Grund + ".");
 }
@@ -46,7 +45,7 @@ void Satzverwaltung::erklaere_fehlend(Satzart Art) {
     const std::string Name = z_.Namen[Art];
     const std::string Grund = Name.empty() ? Texte::Satz_fehlt : Texte::fehlender_Satz(Name + Endungen[Art]);
     Befehle_.lies_Liste(Art);
-    if (z_.Saetze[Art].gelesen) {
+    if (z_.Saetze[Art].gelesen()) {
         stelle_voran(Grund + ".");  // the values are still those of the file that is gone, and kept as such
     } else {
         erklaere_ungelesen(Art, Grund);
@@ -73,9 +72,6 @@ bool Satzverwaltung::lies_Satz(Satzart Art, const std::string& Satzname) {
         erklaere_ungelesen(Art, Satzname + Endungen[Art] + ", line " + std::to_string(Befund.Zeile) + ": " + Befund.Grund);
         return false;
     }
-    z_.Saetze[Art].Geaendert = false;
-    z_.Saetze[Art].gelesen = true;
-    z_.Saetze[Art].Grund.clear();
     Waechter_.merke(Art, Satzname);
     folge_dem_Satz(Art, alte_TWA_Zeiten);
     Waechter_.merke_Gespeichertes(Art);
@@ -103,12 +99,8 @@ void Satzverwaltung::uebernimm(const std::string& Simulation, const Simulationss
     z_.Felder().Beschreibung = Satz.Beschreibung;
     z_.Namen = Satz.Dateinamen;
     z_.Namen[varnok::Simulation] = Simulation;
+    for (Satzplatz& p : z_.Saetze) p.verlange();
     Waechter_.merke(varnok::Simulation, Simulation);
-    for (Satzplatz& p : z_.Saetze) {
-        p.gelesen = p.Geaendert = false;
-        p.Grund.clear();
-    }
-    z_.Saetze[varnok::Simulation].gelesen = true;
     z_.Simulation_markiert = false;
     Waechter_.merke_Gespeichertes(varnok::Simulation);
 }
@@ -142,7 +134,7 @@ bool Satzverwaltung::lies_fehlende_Saetze() {
             erklaere_fehlend(Art);
             return false;
         }
-        if (!z_.Saetze[Art].gelesen && !lies_Satz(Art, z_.gewaehlt(Art))) return false;
+        if (!z_.Saetze[Art].gelesen() && !lies_Satz(Art, z_.gewaehlt(Art))) return false;
     }
     return true;
 }
@@ -150,20 +142,18 @@ bool Satzverwaltung::lies_fehlende_Saetze() {
 void Satzverwaltung::schliesse_Laden_ab() { Laeufe_.berechne(); }
 
 void Satzverwaltung::merke_Kombination() {
-    if (!z_.Gestartet) return;
-    z_.Saetze[0].Geaendert = true;
-    z_.Simulation_markiert = true;
+    if (z_.Gestartet) z_.merke_Kombination();
 }
 
 void Satzverwaltung::waehle_Satz(Satzart Art, int Position) {
     const std::string neu = z_.Listen[Art].at(static_cast<std::size_t>(Position));
     const std::string Fremdes = Waechter_.Fremdes({Art});
     const std::string vorher = z_.Namen[Art];
-    const bool geaendert = z_.Saetze[Simulation].Geaendert;
+    const bool geaendert = z_.Saetze[Simulation].Geaendert();
     const bool markiert = z_.Simulation_markiert;
     const auto kehre_zurueck = [&] {
         z_.Namen[Art] = vorher;
-        z_.Saetze[Simulation].Geaendert = geaendert;
+        z_.Saetze[Simulation].stelle_Marke(geaendert);
         z_.Simulation_markiert = markiert;
     };
     const Knopf Antwort = wird_gefragt(Art) ? frage_Sicherung(Art, neu) : Knopf::Nein;
@@ -180,14 +170,8 @@ void Satzverwaltung::waehle_Satz(Satzart Art, int Position) {
         throw;
     }
     stelle_voran(Fremdes);
-    verlange(Art);
+    z_.Saetze[Art].verlange();
     if (lies_fehlende_Saetze()) schliesse_Laden_ab();
-}
-
-// What the selector names is not on the screen yet.
-void Satzverwaltung::verlange(Satzart Art) {
-    z_.Saetze[Art].gelesen = z_.Saetze[Art].Geaendert = false;
-    z_.Saetze[Art].Grund.clear();
 }
 
 void Satzverwaltung::lege_an(Satzart Art) {
@@ -199,7 +183,7 @@ void Satzverwaltung::lege_an(Satzart Art) {
     Befehle_.lege_an(Art);
     stelle_voran(Fremdes);
     merke_Kombination();
-    verlange(Art);
+    z_.Saetze[Art].verlange();
     if (lies_fehlende_Saetze()) schliesse_Laden_ab();
 }
 
@@ -218,10 +202,8 @@ void Satzverwaltung::loesche(Satzart Art) {
     z_.Statuszeile.clear();
     if (!Befehle_.loesche(Art, Waechter_.Ungesichertes({Art}))) return;
     stelle_voran(Fremdes);
-    z_.Saetze[Art].gelesen = false;
-    z_.Saetze[Art].Grund = Texte::Satz_geloescht;
+    z_.Saetze[Art].verwirf(Texte::Satz_geloescht);
     z_.Verlauf_beginnt = true;
-    z_.Saetze[Art].Geaendert = false;
 }
 
 bool Satzverwaltung::benenne_um(Satzart Art, const std::string& Text, bool mit_Frage) {
@@ -257,7 +239,7 @@ void Satzverwaltung::nenne_Simulationen_mit(Satzart Art, const std::string& Name
 void Satzverwaltung::sichere_vor_dem_Lesen(Satzart Art) {
     std::vector<Satzart> Arten;
     for (const Satzart a : {Wirkstoff, Applikation, Szenario}) {
-        if (a == Art || !z_.Saetze[a].gelesen) Arten.push_back(a);
+        if (a == Art || !z_.Saetze[a].gelesen()) Arten.push_back(a);
     }
     Waechter_.sichere_Ungesichertes(Arten);
 }
@@ -268,7 +250,7 @@ void Satzverwaltung::stelle_voran(const std::string& Hinweis) {
 }
 
 bool Satzverwaltung::lies_nach() {
-    if (!z_.Saetze[Simulation].gelesen && z_.Auswahl(Simulation) >= 0) {
+    if (!z_.Saetze[Simulation].gelesen() && z_.Auswahl(Simulation) >= 0) {
         waehle_Simulation(z_.Auswahl(Simulation));
         return true;
     }
@@ -279,14 +261,14 @@ bool Satzverwaltung::lies_nach() {
 
 void Satzverwaltung::lies_neu(const std::vector<Satzart>& Arten) {
     fuelle_Listen();
-    for (const Satzart Art : Arten) verlange(Art);
+    for (const Satzart Art : Arten) z_.Saetze[Art].verlange();
     if (!Arten.empty()) z_.Verlauf_beginnt = true;
     lies_nach();
 }
 
 // What is read over is in `backup` before, and what another program did is told. True if something was read.
 bool Satzverwaltung::lies_auf_Wunsch_nach() {
-    if (!z_.Saetze[Simulation].gelesen && z_.Auswahl(Simulation) >= 0) return lies_nach();
+    if (!z_.Saetze[Simulation].gelesen() && z_.Auswahl(Simulation) >= 0) return lies_nach();
     const std::string Fremdes = Waechter_.Fremdes(alle_Arten);
     z_.Statuszeile.clear();
     if (!z_.Saetze_vollstaendig()) sichere_vor_dem_Lesen(Simulation);
@@ -301,7 +283,7 @@ void Satzverwaltung::aktualisiere() {
 }
 
 void Satzverwaltung::lies_Szenario_nach() {
-    if (z_.Saetze[Szenario].gelesen || z_.Auswahl(Szenario) < 0 || !lies_Satz(Szenario, z_.gewaehlt(Szenario))) return;
+    if (z_.Saetze[Szenario].gelesen() || z_.Auswahl(Szenario) < 0 || !lies_Satz(Szenario, z_.gewaehlt(Szenario))) return;
     if (z_.Saetze_vollstaendig()) schliesse_Laden_ab();
 }
 
@@ -320,7 +302,7 @@ bool Satzverwaltung::schreibe_Zusammenfassungsdatei() {
         if (z_.verschieden(Simulation)) throw Laufzeitfehler("\"" + *Pfad + "\"" + Texte::Link_nur_auf_Wunsch);
         return true;
     }
-    if (z_.Saetze[Simulation].gelesen) return Waechter_.schreibe({Simulation}) != Schreibausgang::nicht_jetzt;
+    if (z_.Saetze[Simulation].gelesen()) return Waechter_.schreibe({Simulation}) != Schreibausgang::nicht_jetzt;
     if (Pfad) schreibe_Datei(*Pfad, lies_Datei(*Pfad), als_Satz);
     return true;
 }
@@ -340,7 +322,7 @@ bool Satzverwaltung::speichere_Arten(std::vector<Satzart> Arten) {
     }
     if (z_.Auswahl(Simulation) < 0) Befehle_.lies_Liste(Simulation);
     for (const Satzart Art : Arten) {
-        if (Art != Simulation) z_.Saetze[Art].Geaendert = false;
+        if (Art != Simulation) z_.Saetze[Art].vergiss_Aenderung();
     }
     z_.Simulation_markiert = false;
     stelle_voran(Fremdes);
@@ -354,7 +336,7 @@ std::string Satzverwaltung::Sicherungszeile(const std::vector<Satzart>& Arten) c
     for (const Satzart Art : Arten) {
         if (z_.Namen[Art].empty()) continue;
         const std::string Datei = "\"" + z_.Namen[Art] + Endungen[Art] + "\"";
-        if (z_.Saetze[Art].gelesen) {
+        if (z_.Saetze[Art].gelesen()) {
             gesichert += (gesichert.empty() ? "" : ", ") + Datei;
         } else {
             ungelesen += (ungelesen.empty() ? "" : " ") + Datei + " was not read and stays.";
@@ -367,7 +349,7 @@ std::string Satzverwaltung::Sicherungszeile(const std::vector<Satzart>& Arten) c
 }
 
 // A place that was not read holds nothing that could be saved.
-bool Satzverwaltung::wird_gefragt(Satzart Art) const { return z_.Saetze[Art].Geaendert && z_.Saetze[Art].gelesen; }
+bool Satzverwaltung::wird_gefragt(Satzart Art) const { return z_.Saetze[Art].Geaendert() && z_.Saetze[Art].gelesen(); }
 
 // The question for one changed record, which a Yes writes under the name `Ziel`.
 Knopf Satzverwaltung::frage_Sicherung(Satzart Art, const std::string& Ziel) const {

@@ -86,7 +86,6 @@ private:
     void folge_dem_Satz(Satzart Art, int alte_TWA_Zeiten);
     void nach_Wirkstoff(int alte_TWA_Zeiten);
     void uebernimm(const std::string& Simulation, const Simulationssatz& Satz);
-    void verlange(Satzart Art);
     void erklaere_ungelesen(Satzart Art, const std::string& Grund);
     void erklaere_fehlend(Satzart Art);
     bool wird_gefragt(Satzart Art) const;

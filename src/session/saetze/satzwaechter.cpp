@@ -12,18 +12,18 @@
 namespace varnok {
 
 std::string Name_des_Ungesicherten(const Zustand& z, Satzart Art) {
-    return "unsaved " + z.Saetze[Art].Datei.Name + Endungen[Art];
+    return "unsaved " + z.Saetze[Art].Datei().Name + Endungen[Art];
 }
 
 void Satzwaechter::merke(Satzart Art, const std::string& Name) {
     const auto Pfad = z_.Ordner->finde(Name, Endungen[Art]);
-    z_.Saetze[Art].Datei = {Name, Pfad ? lies_Datei_falls_moeglich(*Pfad).value_or("") : ""};
+    z_.Saetze[Art].lies({Name, Pfad ? lies_Datei_falls_moeglich(*Pfad).value_or("") : ""});
 }
 
-void Satzwaechter::merke_Gespeichertes(Satzart Art) { z_.Saetze[Art].gespeichert = z_.Speicherbild(Art); }
+void Satzwaechter::merke_Gespeichertes(Satzart Art) { z_.Saetze[Art].vergleiche_mit(z_.Speicherbild(Art)); }
 
 Satzwaechter::Dateizustand Satzwaechter::Zustand_der_Datei(Satzart Art) const {
-    const Dateistand& bekannt = z_.Saetze[Art].Datei;
+    const Dateistand& bekannt = z_.Saetze[Art].Datei();
     const auto Pfad = z_.Ordner->finde(bekannt.Name, Endungen[Art]);
     if (!Pfad) return Dateizustand::geloescht;
     return lies_Datei_falls_moeglich(*Pfad) == bekannt.Bytes ? Dateizustand::unveraendert : Dateizustand::geaendert;
@@ -31,15 +31,15 @@ Satzwaechter::Dateizustand Satzwaechter::Zustand_der_Datei(Satzart Art) const {
 
 bool Satzwaechter::haelt_keine_Datei(Satzart Art) const {
     if (z_.verschieden(Art)) return true;
-    const bool gelesen = !z_.Saetze[Art].Datei.Name.empty() && z_.Saetze[Art].gelesen;
+    const bool gelesen = !z_.Saetze[Art].Datei().Name.empty() && z_.Saetze[Art].gelesen();
     return gelesen && Zustand_der_Datei(Art) != Dateizustand::unveraendert;
 }
 
 std::string Satzwaechter::Fremdes(const std::vector<Satzart>& Arten) const {
     std::string Text;
     for (const Satzart Art : Arten) {
-        const std::string& Name = z_.Saetze[Art].Datei.Name;
-        if (!z_.Saetze[Art].gelesen || Name != z_.gewaehlt(Art)) continue;
+        const std::string& Name = z_.Saetze[Art].Datei().Name;
+        if (!z_.Saetze[Art].gelesen() || Name != z_.gewaehlt(Art)) continue;
         const Dateizustand Befund = Zustand_der_Datei(Art);
         if (Befund == Dateizustand::unveraendert) continue;
         const char* Tat = Befund == Dateizustand::geaendert ? "changed" : "deleted";
@@ -64,7 +64,7 @@ Knopf Satzwaechter::frage_wegen_Fenster() const {
 }
 
 Knopf Satzwaechter::frage_wegen_Ersatz(const Auftrag& a, const std::string& vorhanden) const {
-    const Dateistand& bekannt = z_.Saetze[a.Art].Datei;
+    const Dateistand& bekannt = z_.Saetze[a.Art].Datei();
     if (a.Name != bekannt.Name || vorhanden == bekannt.Bytes || vorhanden == a.Bytes) return Knopf::Ja;
     const std::string Text = "The record '" + a.Name + Endungen[a.Art] +
                              "' was changed by another program since it was read. Do you want to replace it?";
@@ -76,7 +76,7 @@ Schreibausgang Satzwaechter::schreibe(const std::vector<Satzart>& Arten) {
     std::vector<Auftrag> Auftraege;
     Sicherungsgut ersetzt;
     for (const Satzart Art : Arten) {
-        if (z_.Saetze[Art].gelesen) {
+        if (z_.Saetze[Art].gelesen()) {
             Auftraege.push_back(stelle_zusammen(Art));
         } else if (Art != Simulation) {
             ersetzt.nimm(Ungesichertes({Art}));
@@ -92,15 +92,14 @@ Schreibausgang Satzwaechter::schreibe(const std::vector<Satzart>& Arten) {
         if (vorhanden == a.Bytes) continue;
         if (const Knopf k = frage_wegen_Ersatz(a, vorhanden); k != Knopf::Ja) return Absage(k);
         // A record's own last state is what the user saves over; anything else is kept.
-        const Dateistand& bekannt = z_.Saetze[a.Art].Datei;
+        const Dateistand& bekannt = z_.Saetze[a.Art].Datei();
         const bool eigener_Stand = a.Name == bekannt.Name && vorhanden == bekannt.Bytes;
         if (!eigener_Stand) ersetzt.Stuecke.push_back({a.Name + Endungen[a.Art], vorhanden});
     }
     sichere(z_, ersetzt);
     for (const Auftrag& a : Auftraege) {
         schreibe_Datei(a.Pfad, a.Bytes, als_Satz);
-        z_.Saetze[a.Art].Datei = {a.Name, a.Bytes};
-        z_.Saetze[a.Art].gespeichert = a.Bytes;
+        z_.Saetze[a.Art].schreibe({a.Name, a.Bytes});
     }
     return Schreibausgang::geschrieben;
 }

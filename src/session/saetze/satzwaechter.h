@@ -16,13 +16,13 @@ class Satzwaechter {
 public:
     explicit Satzwaechter(Zustand& z) : z_(z) {}
 
-    // The file of that name was just read or written: its content is known.
+    // The values of the file of that name are on the screen: its content is known.
     void merke(Satzart Art, const std::string& Name);
     // The values on the screen are those of the file: what a save would write from now on is what makes a difference.
     void merke_Gespeichertes(Satzart Art);
     // The file that was read got another name, with its content. A file that was not read is not what the values stand for.
     void merke_Namen(Satzart Art, const std::string& Name) {
-        if (z_.Saetze[Art].gelesen) z_.Saetze[Art].Datei.Name = Name;
+        if (z_.Saetze[Art].gelesen()) z_.Saetze[Art].benenne(Name);
     }
 
     // Writes the files that the selectors name from the values on the screen: all of them, or none where the user does not want

@@ -52,7 +52,7 @@ bool Satzverwaltung::lade_Zwischenstand(const Zwischenstand& Stand) {
     uebernimm(Stand.Simulation, gespeicherter);
     z_.Felder().Beschreibung = Satz.Beschreibung;
     for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) z_.Namen[Art] = Satz.Dateinamen[Art];
-    z_.Saetze[Simulation].Geaendert = z_.verschieden(Simulation);
+    z_.Saetze[Simulation].stelle_Marke(z_.verschieden(Simulation));
     z_.Simulation_markiert = Satz.Dateinamen != gespeicherter.Dateinamen;
     beim_Start_ = true;
     bool alles = lies_fehlende_Saetze();
@@ -65,12 +65,12 @@ bool Satzverwaltung::lade_Zwischenstand(const Zwischenstand& Stand) {
 // Values of a record that is on the screen; a piece of any other stays where it is.
 bool Satzverwaltung::lies_Stueck(const Sicherungsstueck& Stueck) {
     for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) {
-        if (!z_.Saetze[Art].gelesen || Stueck.Dateiname != Name_des_Ungesicherten(z_, Art)) continue;
+        if (!z_.Saetze[Art].gelesen() || Stueck.Dateiname != Name_des_Ungesicherten(z_, Art)) continue;
         const int alte_TWA_Zeiten = z_.Parameter().TWA_Zeiten;
         const Lesebefund Befund =
             Satz_lesen_aus(Stueck.Bytes, Stueck.Dateiname, Art, z_.Vorgabe, z_.Sicht, z_.Welt.Dezimalzeichen);
         if (Befund.Ausgang != Leseausgang::gelesen) return false;
-        z_.Saetze[Art].Geaendert = true;
+        z_.Saetze[Art].merke_Aenderung();
         folge_dem_Satz(Art, alte_TWA_Zeiten);
         return true;
     }

@@ -43,7 +43,7 @@ void Studienverwaltung::bestaetige(bool Enter) {
 }
 
 void Studienverwaltung::fuege_an(const std::string& Name) {
-    z_.Saetze[1].Geaendert = true;
+    z_.Saetze[1].merke_Aenderung();
     z_.Felder().Studie.push_back(Name);
     const int neu = z_.Studienzahl() - 1;
     setze_Startwerte(z_.Parameter(), static_cast<std::size_t>(neu));
@@ -57,7 +57,7 @@ void Studienverwaltung::benenne_um(const std::string& Name) {
     std::string& Platz = z_.Felder().Studie[static_cast<std::size_t>(z_.i_studie())];
     if (Platz == Name) return;
     Platz = Name;
-    z_.Saetze[1].Geaendert = true;
+    z_.Saetze[1].merke_Aenderung();
 }
 
 void Studienverwaltung::loesche() {
@@ -70,7 +70,7 @@ void Studienverwaltung::loesche() {
     setze_Startwerte(z_.Parameter(), z_.Felder().Studie.size());
     z_.Sicht.Studie_Index = std::min(Platz, z_.Studienzahl() - 1);
     // The flag of the application pattern, not that of the compound: the question on exit has always named that record.
-    z_.Saetze[2].Geaendert = true;
+    z_.Saetze[2].merke_Aenderung();
     if (z_.Studienzahl() == 1) z_.Zusammenfassung_aktiv = false;
     z_.Statuszeile = "Koc, Q10, Walker, To and kinetics of the following studies stay with their place. Please check.";
     Felder_.fuelle();

@@ -70,8 +70,8 @@ bool Szenarioeditor::oeffne() {
     z_.Szenarioeditor_faellig = false;
     Saetze_.lies_Szenario_nach();
     // The values of another record would stand there under the name of this one.
-    if (z_.Auswahl(varnok::Szenario) >= 0 && !z_.Saetze[varnok::Szenario].gelesen)
-        throw Laufzeitfehler(z_.Saetze[varnok::Szenario].Grund);
+    if (z_.Auswahl(varnok::Szenario) >= 0 && !z_.Saetze[varnok::Szenario].gelesen())
+        throw Laufzeitfehler(z_.Saetze[varnok::Szenario].Grund());
     e_ = {};
     Gelesenes_.clear();
     geaendert_ = Lauf_faellig_ = false;
@@ -154,7 +154,7 @@ void Szenarioeditor::waehle_Klimaszenario(int i) {
 }
 
 void Szenarioeditor::merke_Aenderung() {
-    z_.Saetze[varnok::Szenario].Geaendert = true;
+    z_.Saetze[varnok::Szenario].merke_Aenderung();
     geaendert_ = Lauf_faellig_ = true;
 }
 
@@ -218,13 +218,14 @@ void Szenarioeditor::uebernimm_Klima() {
 void Szenarioeditor::uebernimm_Namen() {
     if (e_.Texte[Szenarioentwurf::Bodenszenario] != gezeigt_.Texte[Szenarioentwurf::Bodenszenario]) {
         z_.Felder().Bodenszenario = e_.Texte[Szenarioentwurf::Bodenszenario];
-        z_.Saetze[varnok::Szenario].Geaendert = geaendert_ = true;
+        z_.Saetze[varnok::Szenario].merke_Aenderung();
+        geaendert_ = true;
     }
     const std::string Name = Eintrag(e_.Szenarien, e_.Szenario);
     if (Name == z_.gewaehlt(varnok::Szenario)) return;
     z_.Listen[varnok::Szenario] = z_.Ordner->Namen(Endungen[varnok::Szenario]);
     z_.Namen[varnok::Szenario] = Name;
-    z_.Saetze[0].Geaendert = z_.Simulation_markiert = true;
+    z_.merke_Kombination();
 }
 
 void Szenarioeditor::verlasse_Zahl(Szenarioentwurf::Feld f) {
@@ -253,7 +254,7 @@ bool Szenarioeditor::uebernimm() {
     uebernimm_Namen();
     if (!ohne_Satz || !geaendert_) return true;
     // What was entered stands under the name chosen; else `schliesse` reads that record.
-    z_.Saetze[varnok::Szenario].gelesen = true;
+    z_.Saetze[varnok::Szenario].nimm_Eingegebenes_an();
     Lauf_faellig_ = true;
     return true;
 }

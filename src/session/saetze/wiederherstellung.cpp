@@ -117,7 +117,7 @@ std::vector<Wiederherstellung::Auftrag> Wiederherstellung::stelle_zusammen(const
 }
 
 bool Wiederherstellung::steht_auf_dem_Schirm(const Auftrag& a) const {
-    return z_.Namen[a.Art] == a.Name || (z_.Saetze[a.Art].gelesen && z_.Saetze[a.Art].Datei.Name == a.Name);
+    return z_.Namen[a.Art] == a.Name || (z_.Saetze[a.Art].gelesen() && z_.Saetze[a.Art].Datei().Name == a.Name);
 }
 
 Sicherungsgut Wiederherstellung::ersetztes(const std::vector<Auftrag>& Auftraege) const {

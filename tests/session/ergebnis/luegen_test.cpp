@@ -93,7 +93,7 @@ TEST_F(Luegen, esc_after_typing_leaves_no_hint_no_run_and_no_question) {
 
 TEST_F(Luegen, a_change_without_a_mark_goes_to_backup_when_another_record_is_chosen) {
     gestartet().fuehre_aus<&Listenwahl::waehle_Anzahl>(3);
-    ASSERT_FALSE(z().Saetze[Applikation].Geaendert);
+    ASSERT_FALSE(z().Saetze[Applikation].Geaendert());
     waehle(Applikation, "Second");
     EXPECT_EQ(gesichert(), Namen{"unsaved Probe.app"});
 }
@@ -178,7 +178,7 @@ TEST_F(Luegen, a_record_that_cannot_be_read_is_covered_with_file_line_and_reason
     EXPECT_EQ(z().Abdeckungswort(), "Second.che, line 2: the file ends before \"Unit:\"");
     EXPECT_THAT(z().Statuszeile, HasSubstr("Second.che, line 2"));
     EXPECT_EQ(z().Felder(), vorher);
-    EXPECT_FALSE(z().Saetze[Wirkstoff].Geaendert);
+    EXPECT_FALSE(z().Saetze[Wirkstoff].Geaendert());
     ASSERT_TRUE(tippe("S_DT50_0", "13"));
     s_->fuehre_aus<&Satzverwaltung::speichere>();
     EXPECT_THAT(z().Statuszeile, AllOf(HasSubstr("\"Second.che\" was not read"), Not(HasSubstr("All input data"))));
@@ -298,7 +298,7 @@ TEST_F(Luegen, yes_on_choosing_saves_that_record_and_the_summary_and_nothing_els
     Fragen_.erwarte_Anfang("Save changes?", "You modified pesticide", Knopf::Ja);
     waehle(Wirkstoff, "Second");
     EXPECT_EQ(Datei("input/Probe.app"), Muster);
-    EXPECT_TRUE(z().Saetze[Applikation].Geaendert);
+    EXPECT_TRUE(z().Saetze[Applikation].Geaendert());
     EXPECT_EQ(Datei("input/Probe.vnk"), "A trial\r\nSecond\r\nProbe\r\nProbe\r\n");
     EXPECT_EQ(gesichert(), Namen{"Second.che"});
     EXPECT_THAT(z().Statuszeile, AllOf(HasSubstr("\"Second.che\""), Not(HasSubstr("All input data"))));

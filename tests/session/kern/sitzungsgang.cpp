@@ -7,7 +7,9 @@
 #include "base/laufzeitfehler.h"
 #include "base/zahlen.h"
 #include "diagrams/diagrammbau.h"
+#include "records/satz.h"
 #include "records/simulation.h"
+#include "run/applikation.h"
 #include "session/ergebnis/ergebnisanzeige.h"
 #include "session/kern/unterschied.h"
 
@@ -119,6 +121,14 @@ bool gleiche_Zahlen(const std::string& a, const std::string& b) {
         [&](const std::string& x, const std::string& y) { return x == y || (Zahl(x) && Zahl(y) && Wert(x) == Wert(y)); });
 }
 
+// The first words that two texts of a record do not share.
+std::string Unterschied(const std::string& a, const std::string& b) {
+    const auto Worte_a = Worte(a);
+    const auto Worte_b = Worte(b);
+    const auto [x, y] = std::mismatch(Worte_a.begin(), Worte_a.end(), Worte_b.begin(), Worte_b.end());
+    return "\"" + (x == Worte_a.end() ? "" : *x) + "\" is \"" + (y == Worte_b.end() ? "" : *y) + "\" now";
+}
+
 // Of a cover, without the names in it.
 std::string Klasse(const std::string& Wort) {
     if (Wort.find(", line ") != std::string::npos) return "a record that cannot be read";
@@ -226,12 +236,12 @@ void Gang::pruefe_Zurueckgebrachtes(const Vorher& v, bool gewuenscht) {
         Fragen_.gefragt("Runtime error") || Fragen_.Bericht().find("Not all of the values") != std::string::npos;
     for (const Satzart Art : alle_Arten) {
         const std::string& Bild = v.Bilder[Art];
-        if (!v.Saetze[Art].gelesen || Bild.empty() || Bild == v.Saetze[Art].gespeichert) continue;
+        if (!v.Saetze[Art].gelesen() || Bild.empty() || Bild == v.Saetze[Art].gespeichert()) continue;
         if (!Projekt_.gesichert(Bild))
-            throw Verstoss{"unsaved values are lost with the program", Satzdatei(v.Saetze[Art].Datei.Name, Art)};
+            throw Verstoss{"unsaved values are lost with the program", Satzdatei(v.Saetze[Art].Datei().Name, Art)};
         const std::string jetzt = z().Speicherbild(Art);
         if (gewuenscht && !gestoert && jetzt != Bild && !gleiche_Zahlen(jetzt, Bild))
-            throw Verstoss{"unsaved values do not come back", Satzdatei(v.Saetze[Art].Datei.Name, Art)};
+            throw Verstoss{"unsaved values do not come back", Satzdatei(v.Saetze[Art].Datei().Name, Art)};
     }
 }
 
@@ -299,7 +309,7 @@ void Gang::pruefe_Dateien(const Aktionsart& a, const Vorher& v) {
         if (jetzt != nachher.end() && jetzt->second == Bytes) continue;
         if (!erlaubt) throw Verstoss{"file removed unasked", Name};
         const bool eigener_Stand = std::any_of(alle_Arten.begin(), alle_Arten.end(), [&](Satzart Art) {
-            const Dateistand& d = v.Saetze[Art].Datei;
+            const Dateistand& d = v.Saetze[Art].Datei();
             return jetzt != nachher.end() && Satzdatei(d.Name, Art) == Name && d.Bytes == Bytes;
         });
         // The organiser writes the summary file that it has read into its own lists.
@@ -311,6 +321,12 @@ void Gang::pruefe_Dateien(const Aktionsart& a, const Vorher& v) {
     pruefe_Verworfenes(a, v, nachher);
 }
 
+// What a run makes of a table: other texts for its numbers, and less than 100 % of interception.
+std::string Gang::repariert(Eingabe e) const {
+    Tabelle_mit_Applikationen_berechne_PEC(e);
+    return Satz_als_Bytes(Applikation, e, z().Sicht, z().Welt.Dezimalzeichen);
+}
+
 // Values that no file held and that the screen does not show any more.
 void Gang::pruefe_Verworfenes(const Aktionsart& a, const Vorher& v, const Dateien& nachher) {
     if ((a.Merkmale & liest) == 0 && !z().beendet) return;
@@ -318,18 +334,18 @@ void Gang::pruefe_Verworfenes(const Aktionsart& a, const Vorher& v, const Dateie
     const bool andere_Simulation = z().beendet || std::string(a.Name) == "simulation";
     for (const Satzart Art : alle_Arten) {
         const std::string& Bild = v.Bilder[Art];
-        if (!v.Saetze[Art].gelesen || Bild.empty() || Bild == v.Saetze[Art].gespeichert) continue;
+        if (!v.Saetze[Art].gelesen() || Bild.empty() || Bild == v.Saetze[Art].gespeichert()) continue;
         if (Art == Simulation && !andere_Simulation) continue;
-        // A run repairs the texts of a table, not its numbers.
         const std::string jetzt = z().Speicherbild(Art);
-        if (!z().beendet && (jetzt == Bild || (Art == Applikation && gleiche_Zahlen(jetzt, Bild)))) continue;
+        if (!z().beendet && (jetzt == Bild || (Art == Applikation && gleiche_Zahlen(jetzt, repariert(v.Vorgabe))))) continue;
         const bool Datei = std::any_of(nachher.begin(), nachher.end(), [&](const auto& d) { return d.second == Bild; });
         if (Datei || Projekt_.gesichert(Bild)) continue;
         // The editor's and the organiser's own changes are what the user did there.
         const std::string Name = a.Name;
-        if (Name.starts_with("editor") && z().Saetze[Art].gelesen && z().Saetze[Art].Datei.Name == v.Saetze[Art].Datei.Name)
+        if (Name.starts_with("editor") && z().Saetze[Art].gelesen() && z().Saetze[Art].Datei().Name == v.Saetze[Art].Datei().Name)
             continue;
-        throw Verstoss{"unsaved values are dropped", Satzdatei(v.Saetze[Art].Datei.Name, Art)};
+        throw Verstoss{"unsaved values are dropped",
+                       Satzdatei(v.Saetze[Art].Datei().Name, Art) + ": " + Unterschied(Bild, jetzt)};
     }
 }
 
@@ -522,7 +538,7 @@ void Gang::pruefe_Sicherung() {
     if (gesagt || z().beendet || s_->zeige<Feldeingabe>().aktives_Feld() >= 0) return;
     const Dateien da = Projekt_.lies();
     for (const Satzart Art : alle_Arten) {
-        if (!z().Saetze[Art].gelesen) return;
+        if (!z().Saetze[Art].gelesen()) return;
         const auto Datei = da.find(Satzdatei(z().Namen[Art], Art));
         if (Datei == da.end() || Datei->second != z().Speicherbytes(Art))
             throw Verstoss{"a save has not written what is on the screen", Satzdatei(z().Namen[Art], Art)};

@@ -144,6 +144,7 @@ private:
     Vorher merke() const;
     bool Feld_in_Arbeit() const { return s_->zeige<Feldeingabe>().aktives_Feld() >= 0 && getippt_; }
     void pruefe_Dateien(const Aktionsart& a, const Vorher& v);
+    std::string repariert(Eingabe e) const;
     void pruefe_Verworfenes(const Aktionsart& a, const Vorher& v, const Dateien& nachher);
     void pruefe_Ergebnisse(const Aktionsart& a);
     void pruefe_Studie(int st, bool Hinweis, Zustand& frisch);

@@ -81,7 +81,7 @@ TEST_F(Optionsprobe, the_unit_multiplies_by_a_thousand_and_goes_with_the_compoun
     const std::string Einstellung = Datei("VARNOK.ini");
     bestaetige([](Optionsentwurf& o) { o.Einheit = 1; });
     EXPECT_FLOAT_EQ(Maximum(), 1333.3334F);
-    EXPECT_TRUE(s_->Stand().Saetze[Wirkstoff].Geaendert);
+    EXPECT_TRUE(s_->Stand().Saetze[Wirkstoff].Geaendert());
     EXPECT_FALSE(s_->Stand().Hinweis());
     EXPECT_EQ(Datei("input/Probe.che"), vorher);  // with Save only
     s_->fuehre_aus<&Satzverwaltung::speichere>();
@@ -110,7 +110,7 @@ TEST_F(Optionsprobe, separate_residues_of_slowing_kinetics_last_longer) {
     const auto letzter = [&] { return Werte().Werte(Gesamtgehalt, 0).Reihe_Plateautiefe[3640]; };
     bestaetige([](Optionsentwurf& o) { o.Separate_Rueckstaende = 2; });
     const float innerhalb_des_Jahres = letzter();
-    EXPECT_TRUE(s_->Stand().Saetze[Wirkstoff].Geaendert);
+    EXPECT_TRUE(s_->Stand().Saetze[Wirkstoff].Geaendert());
     bestaetige([](Optionsentwurf& o) { o.Separate_Rueckstaende = 0; });
     const float zusammen = letzter();
     bestaetige([](Optionsentwurf& o) { o.Separate_Rueckstaende = 1; });
@@ -130,7 +130,7 @@ TEST_F(Optionsprobe, the_monthly_list_brings_its_windows_its_rows_and_its_first_
     EXPECT_EQ(s_->zeige<Listenwahl>().TWA_Laengen().size(), 12U);
     EXPECT_EQ(s_->zeige<Listenwahl>().TWA_Laengen().front(), "TWA (30 d)");
     EXPECT_EQ(s_->Stand().Sicht.TWA_Laenge, 0);
-    EXPECT_TRUE(s_->Stand().Saetze[Wirkstoff].Geaendert);
+    EXPECT_TRUE(s_->Stand().Saetze[Wirkstoff].Geaendert());
     EXPECT_FALSE(s_->Stand().abgedeckt());
     EXPECT_FALSE(s_->Stand().Hinweis());
     // The mean of 30 days from the peak on, with k = 0.01: c (1 - exp(-0.3)) / 0.3.
@@ -158,7 +158,7 @@ TEST_F(Optionsprobe, the_list_of_a_compound_record_comes_with_it) {
 TEST_F(Optionsprobe, the_parts_of_the_name_mark_the_compound_and_make_the_name) {
     gestartet();
     bestaetige([](Optionsentwurf& o) { o.Ausgabename_Teile[1] = true; });
-    EXPECT_TRUE(s_->Stand().Saetze[Wirkstoff].Geaendert);
+    EXPECT_TRUE(s_->Stand().Saetze[Wirkstoff].Geaendert());
     s_->fuehre_aus<&Berichtssteuerung::erstelle>();
     EXPECT_NE(s_->Stand().Ergebnisdatei.find("First soil"), std::string::npos);
     s_->fuehre_aus<&Satzverwaltung::speichere>();

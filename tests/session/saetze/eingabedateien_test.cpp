@@ -43,7 +43,7 @@ TEST_F(Dateidialogprobe, loading_names_the_simulation_reads_the_compound_again_a
     EXPECT_EQ(s_->Stand().gewaehlt(Simulation), "maize trial");
     EXPECT_EQ(s_->Stand().Listen[Wirkstoff], Listen[Wirkstoff]);
     EXPECT_NEAR(s_->Stand().Parameter().k_SFO[0][0], 0.01, 1e-12);
-    EXPECT_FALSE(s_->Stand().Saetze[Wirkstoff].Geaendert);
+    EXPECT_FALSE(s_->Stand().Saetze[Wirkstoff].Geaendert());
     EXPECT_TRUE(s_->Stand().abgedeckt());
     EXPECT_EQ(Sicherung("Probe.che"), auf_dem_Schirm);  // what was typed and not saved
 }
@@ -79,7 +79,7 @@ TEST_F(Dateidialogprobe, saving_writes_three_names_and_the_records) {
     EXPECT_EQ(Datei("input/Probe.vnk"), "A trial\r\nProbe\r\nProbe\r\nProbe\r\n");
     EXPECT_EQ(s_->Stand().gewaehlt(Simulation), "Other");
     EXPECT_FALSE(s_->Stand().Simulation_markiert);
-    for (std::size_t t = 1; t <= 3; ++t) EXPECT_FALSE(s_->Stand().Saetze[t].Geaendert);
+    for (std::size_t t = 1; t <= 3; ++t) EXPECT_FALSE(s_->Stand().Saetze[t].Geaendert());
     Eingabe e;
     Ansicht a;
     Satz_lesen(Projektordner(Wurzel_.string()), "Probe", Wirkstoff, e, a);

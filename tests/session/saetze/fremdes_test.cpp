@@ -182,7 +182,7 @@ TEST_F(LetzterSatz, esc_at_the_question_never_ends_the_program) {
     EXPECT_FALSE(z().beendet);
     EXPECT_EQ(z().Abdeckungswort(), "Record \"Second.app\" missing: choose one");
     EXPECT_EQ(s_->zeige<Feldeingabe>().Text(Feld("S_DT50_0")), "12");
-    EXPECT_TRUE(z().Saetze[Wirkstoff].Geaendert);
+    EXPECT_TRUE(z().Saetze[Wirkstoff].Geaendert());
 }
 
 TEST_F(Fremdes, a_changed_summary_file_is_asked_about_at_exit_and_stays_on_no) {
@@ -213,7 +213,7 @@ TEST_F(Fremdes, exit_stays_where_its_save_was_refused) {
     erwarte_Ersatzfrage("Probe.che", Knopf::Nein);
     s_->fuehre_aus<&Programmablauf::beende>();
     EXPECT_FALSE(z().beendet);
-    EXPECT_TRUE(z().Saetze[1].Geaendert);
+    EXPECT_TRUE(z().Saetze[1].Geaendert());
 }
 
 TEST_F(Fremdes, a_record_that_cannot_be_read_is_not_replaced_and_nothing_else_is_written) {
@@ -225,7 +225,7 @@ TEST_F(Fremdes, a_record_that_cannot_be_read_is_not_replaced_and_nothing_else_is
     Fragen_.erwarte("Runtime error", "Cannot read the file \"" + Pfad("Probe.sce") + "\": it is a folder");
     s_->fuehre_aus<&Satzverwaltung::speichere>();
     EXPECT_EQ(Datei("input/Probe.che"), Wirkstoffdatei);
-    EXPECT_TRUE(z().Saetze[1].Geaendert);
+    EXPECT_TRUE(z().Saetze[1].Geaendert());
 }
 
 class ZweitesFenster : public Fremdes {
@@ -269,7 +269,7 @@ TEST_F(ZweitesFenster, stays_open_where_the_save_at_exit_was_refused) {
     erwarte_Fensterfrage(Knopf::Nein);
     s_->fuehre_aus<&Programmablauf::beende>();
     EXPECT_FALSE(z().beendet);
-    EXPECT_TRUE(z().Saetze[1].Geaendert);
+    EXPECT_TRUE(z().Saetze[1].Geaendert());
 }
 
 TEST_F(ZweitesFenster, sees_what_the_first_one_saved) {

@@ -90,7 +90,7 @@ TEST_F(Organiserdateien, a_copy_over_the_record_on_the_screen_leaves_its_values_
     EXPECT_EQ(Gesichertes().count("unsaved copy of Second.che"), 1U);
     schliesse();
     EXPECT_TRUE(z().abgedeckt());
-    EXPECT_FALSE(z().Saetze[1].Geaendert);
+    EXPECT_FALSE(z().Saetze[1].Geaendert());
     s_->fuehre_aus<&Satzverwaltung::speichere>();  // writes no file of a record that was not read
     EXPECT_EQ(Datei("input/copy of Second.che"), Datei("input/Second.che"));
     s_->fuehre_aus<&Satzverwaltung::aktualisiere>();
@@ -240,7 +240,7 @@ TEST_F(Organiserdateien, a_renamed_record_alone_is_written_into_the_summary_and_
     EXPECT_EQ(z().gewaehlt(Wirkstoff), "Better name");
     EXPECT_EQ(z().Namen[1], "Better name");
     EXPECT_EQ(s_->zeige<Feldeingabe>().Text(Feld("S_DT50_0")), "12");
-    EXPECT_TRUE(z().Saetze[1].Geaendert);
+    EXPECT_TRUE(z().Saetze[1].Geaendert());
     EXPECT_EQ(z().Zeichnung, Zeichnung);
     EXPECT_TRUE(Gesichertes().empty());
     EXPECT_FALSE(z().Simulation_markiert);
@@ -281,7 +281,7 @@ TEST_F(Organiserdateien, after_a_rename_and_closing_the_main_screen_has_the_new_
     EXPECT_EQ(z().Listen[0], (Liste{"Second", "Torn", "Zebra"}));
     EXPECT_EQ(z().gewaehlt(Simulation), "Zebra");
     EXPECT_EQ(Datei("input/Zebra.vnk"), Zusammenfassung);
-    EXPECT_TRUE(z().Saetze[0].Geaendert);
+    EXPECT_TRUE(z().Saetze[0].Geaendert());
     EXPECT_TRUE(z().Simulation_markiert);
     EXPECT_FALSE(z().abgedeckt());
 }

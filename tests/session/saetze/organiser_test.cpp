@@ -38,7 +38,7 @@ TEST_F(Organisertest, a_description_that_is_not_saved_survives_the_opening_and_i
     EXPECT_EQ(o().Projektname(), "not saved yet");
     EXPECT_TRUE(fertig());
     EXPECT_EQ(Maske().Beschreibung, "not saved yet");
-    EXPECT_TRUE(z().Saetze[0].Geaendert);
+    EXPECT_TRUE(z().Saetze[0].Geaendert());
     EXPECT_EQ(Dateien(), vorher);
 }
 
@@ -124,7 +124,7 @@ TEST_F(Organisertest, done_reads_the_three_records_of_another_simulation_and_mak
     EXPECT_EQ(Maske().Beschreibung, "The second one");
     EXPECT_EQ(z().Zeichnung, Zeichnung + 1);
     EXPECT_FALSE(z().abgedeckt());
-    EXPECT_FALSE(z().Saetze[0].Geaendert);
+    EXPECT_FALSE(z().Saetze[0].Geaendert());
     EXPECT_EQ(Datei("input/Second.vnk"), Zeilen("The second one", "Second", "Second", "Second"));
     EXPECT_GT(Stempel("Second.vnk"), Stempel("Torn.vnk"));  // the one used last
 }
@@ -213,7 +213,7 @@ TEST_F(Organisertest, another_record_and_what_was_typed_into_it_survive_a_change
     EXPECT_TRUE(fertig());
     EXPECT_EQ(Maske().Name_Wirkstoff, "Other parent");
     EXPECT_EQ(s_->zeige<Feldeingabe>().Text(Feld("S_DT50_0")), "12");
-    EXPECT_TRUE(z().Saetze[1].Geaendert);
+    EXPECT_TRUE(z().Saetze[1].Geaendert());
     EXPECT_EQ(Datei("input/Probe.vnk"), Zeilen("In other words", "Second", "Probe", "Probe"));
     EXPECT_TRUE(Gesichertes().empty());
 }
@@ -228,7 +228,7 @@ TEST_F(Organisertest, values_that_done_reads_over_are_in_the_backup_and_nothing_
     EXPECT_TRUE(fertig());
     EXPECT_EQ(Datei("input/Probe.che"), alt);
     EXPECT_EQ(Maske().Name_Wirkstoff, "Other parent");
-    EXPECT_FALSE(z().Saetze[1].Geaendert);
+    EXPECT_FALSE(z().Saetze[1].Geaendert());
     const auto Gerettet = Gesichertes();
     ASSERT_EQ(Gerettet.size(), 2U);
     Eingabe e;
@@ -260,7 +260,7 @@ TEST_F(Organisertest, a_changed_description_alone_is_written_and_shown_and_nothi
     EXPECT_EQ(Datei("input/Probe.vnk"), Zeilen("In other words", "Probe", "Probe", "Probe"));
     EXPECT_EQ(Maske().Beschreibung, "In other words");
     EXPECT_EQ(s_->zeige<Feldeingabe>().Text(Feld("S_DT50_0")), "12");
-    EXPECT_TRUE(z().Saetze[1].Geaendert);
+    EXPECT_TRUE(z().Saetze[1].Geaendert());
     EXPECT_EQ(z().Zeichnung, Zeichnung + 1);  // the picture carries the description
     EXPECT_EQ(s_->zeige<Diagrammsteuerung>().vorderes()->Titel.Text.find("A trial"), std::string::npos);
     EXPECT_TRUE(Gesichertes().empty());

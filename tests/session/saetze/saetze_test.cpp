@@ -44,7 +44,7 @@ TEST_F(Satzprobe, a_simulation_brings_its_description_its_records_and_one_run) {
     EXPECT_EQ(s_->Stand().Felder().Name_Wirkstoff, "Other parent");
     EXPECT_EQ(s_->Stand().Parameter().Bodendichte, 3);
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe + 1);
-    EXPECT_FALSE(s_->Stand().Saetze[0].Geaendert);
+    EXPECT_FALSE(s_->Stand().Saetze[0].Geaendert());
     EXPECT_FALSE(s_->Stand().Simulation_markiert);
 }
 
@@ -101,7 +101,7 @@ TEST_F(Satzprobe, a_compound_record_that_cannot_be_used_leaves_the_inputs_as_the
 TEST_F(Satzprobe, another_record_marks_the_simulation_and_runs) {
     gestartet();
     s_->fuehre_aus<&Satzverwaltung::waehle_Satz>(Szenario, Platz(3, "Second"));
-    EXPECT_TRUE(s_->Stand().Saetze[0].Geaendert);
+    EXPECT_TRUE(s_->Stand().Saetze[0].Geaendert());
     EXPECT_TRUE(s_->Stand().Simulation_markiert);
     EXPECT_FLOAT_EQ(Maximum(), 0.6666667F);  // twice the density
 }
@@ -127,7 +127,7 @@ TEST_F(Satzprobe, saving_writes_all_four_files_and_clears_the_marks_of_the_recor
     s_->fuehre_aus<&Beschreibungseingabe::aendere>("Another description");
     s_->fuehre_aus<&Satzverwaltung::speichere>();
     EXPECT_EQ(Datei("input/Probe.vnk"), "Another description\r\nProbe\r\nProbe\r\nProbe\r\n");
-    for (std::size_t t = 1; t <= 3; ++t) EXPECT_FALSE(s_->Stand().Saetze[t].Geaendert);
+    for (std::size_t t = 1; t <= 3; ++t) EXPECT_FALSE(s_->Stand().Saetze[t].Geaendert());
     Eingabe e;
     Ansicht a;
     Satz_lesen(Projektordner(Wurzel_.string()), "Probe", Applikation, e, a);
@@ -150,7 +150,7 @@ TEST_F(Satzprobe, a_line_break_in_the_description_becomes_a_blank) {
     s_->fuehre_aus<&Beschreibungseingabe::oeffne>();
     s_->fuehre_aus<&Beschreibungseingabe::aendere>("two\nlines");
     EXPECT_EQ(s_->Stand().Felder().Beschreibung, "two lines");
-    EXPECT_TRUE(s_->Stand().Saetze[0].Geaendert);
+    EXPECT_TRUE(s_->Stand().Saetze[0].Geaendert());
 }
 
 TEST_F(Satzprobe, esc_brings_the_old_description_back_and_locks_it) {

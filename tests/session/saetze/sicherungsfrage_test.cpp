@@ -51,7 +51,7 @@ TEST_F(Sicherungsfrage, esc_is_not_now) {
     erwarte_Frage("Cannot make the folder", Knopf::nicht_jetzt);
     s_->fuehre_aus<&Satzverwaltung::waehle_Satz>(Wirkstoff, Platz(Wirkstoff, "Other"));
     EXPECT_EQ(z().gewaehlt(Wirkstoff), "Probe");
-    EXPECT_TRUE(z().Saetze[Wirkstoff].Geaendert);
+    EXPECT_TRUE(z().Saetze[Wirkstoff].Geaendert());
 }
 
 TEST_F(Sicherungsfrage, value_that_no_record_can_hold_blocks_no_simulation) {
@@ -136,7 +136,7 @@ TEST_F(Versagende_Platte, record_whose_flush_fails_is_not_called_saved) {
     Fragen_.erwarte_Anfang("Runtime error", "Cannot write the file");
     s_->fuehre_aus<&Satzverwaltung::speichere>();
     EXPECT_EQ(Datei("input/Probe.che"), vorher);
-    EXPECT_TRUE(z().Saetze[Wirkstoff].Geaendert);
+    EXPECT_TRUE(z().Saetze[Wirkstoff].Geaendert());
     EXPECT_TRUE(z().verschieden(Wirkstoff));
     EXPECT_EQ(z().Statuszeile.find("saved"), std::string::npos) << z().Statuszeile;
 }

@@ -77,7 +77,7 @@ TEST_F(Szenarioprobe, a_depth_and_a_temperature_outside_the_lists_are_entries_of
     EXPECT_EQ(p().Bodentiefe, 2.54);
     EXPECT_EQ(p().Plateautiefe, 60);
     EXPECT_EQ(p().Szenariotemperatur, 45);
-    EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert);
+    EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert());
 }
 
 TEST_F(Szenarioprobe, done_without_a_change_stores_nothing_and_runs_nothing) {
@@ -88,8 +88,8 @@ TEST_F(Szenarioprobe, done_without_a_change_stores_nothing_and_runs_nothing) {
     fertig();
     EXPECT_EQ(p(), vorher);
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe);
-    EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert);
-    EXPECT_FALSE(s_->Stand().Saetze[0].Geaendert);
+    EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert());
+    EXPECT_FALSE(s_->Stand().Saetze[0].Geaendert());
 }
 
 TEST_F(Szenarioprobe, changed_values_are_stored_mark_the_scenario_and_lead_to_one_run) {
@@ -107,8 +107,8 @@ TEST_F(Szenarioprobe, changed_values_are_stored_mark_the_scenario_and_lead_to_on
     EXPECT_EQ(p().Feldkapazitaet, 31);
     EXPECT_EQ(p().Welkepunkt, 11);
     EXPECT_EQ(p().Bodentiefe, 2.5);
-    EXPECT_TRUE(s_->Stand().Saetze[3].Geaendert);
-    EXPECT_FALSE(s_->Stand().Saetze[0].Geaendert);
+    EXPECT_TRUE(s_->Stand().Saetze[3].Geaendert());
+    EXPECT_FALSE(s_->Stand().Saetze[0].Geaendert());
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe + 1);
     EXPECT_FALSE(s_->Stand().abgedeckt());
 }
@@ -118,7 +118,7 @@ TEST_F(Szenarioprobe, a_tillage_depth_below_the_soil_depth_is_told_and_corrected
     Fragen_.erwarte("Problem!", "A plateau depth was defined smaller than the current soil depth.\nThe problem was corrected.");
     fertig();
     EXPECT_EQ(p().Plateautiefe, 5);
-    EXPECT_TRUE(s_->Stand().Saetze[3].Geaendert);
+    EXPECT_TRUE(s_->Stand().Saetze[3].Geaendert());
 }
 
 TEST_F(Szenarioprobe, a_soil_depth_above_the_tillage_depth_takes_it_along_without_a_word) {
@@ -190,7 +190,7 @@ TEST_F(Szenarioprobe, an_entry_of_its_own_can_be_left_and_taken_again) {
     fertig();
     EXPECT_EQ(p().Bodentiefe, 2.54);
     EXPECT_EQ(p().Szenariotemperatur, 45);
-    EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert);
+    EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert());
     EXPECT_FALSE(s_->Stand().Hinweis());
 }
 
@@ -230,7 +230,7 @@ TEST_F(Szenarioprobe, a_tillage_depth_too_small_in_the_record_is_corrected_by_do
     offen();
     fertig();
     EXPECT_EQ(p().Plateautiefe, 5);
-    EXPECT_TRUE(s_->Stand().Saetze[3].Geaendert);
+    EXPECT_TRUE(s_->Stand().Saetze[3].Geaendert());
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe + 1);
 }
 
@@ -271,7 +271,7 @@ TEST_F(Szenarioprobe, another_text_for_the_same_number_changes_nothing) {
     s.fuehre_aus<&Szenarioeditor::aendere>(E::Bodendichte, "1,50");
     s.fuehre_aus<&Szenarioeditor::aendere>(E::Feldkapazitaet, "30 Vol%");
     fertig();
-    EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert);
+    EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert());
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe);
 }
 
@@ -286,7 +286,7 @@ TEST_F(Szenarioprobe, a_value_that_was_not_touched_keeps_its_last_bit) {
     offen();
     fertig();
     EXPECT_EQ(p().Bodendichte, genau);
-    EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert);
+    EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert());
 }
 
 TEST_F(Szenarioprobe, an_impossible_value_is_stored_told_and_can_be_corrected) {

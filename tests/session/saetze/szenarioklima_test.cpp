@@ -16,7 +16,7 @@ TEST_F(Szenarioprobe, another_temperature_alone_starts_no_run_and_shows_the_hint
               "C constant");
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe);
     EXPECT_TRUE(s_->Stand().Hinweis());
-    EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert);
+    EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert());
 }
 
 TEST_F(Szenarioprobe, a_chosen_climate_file_marks_the_scenario_and_runs) {
@@ -31,7 +31,7 @@ TEST_F(Szenarioprobe, a_chosen_climate_file_marks_the_scenario_and_runs) {
     fertig();
     EXPECT_EQ(p().Klimamodus, 1);
     EXPECT_EQ(s_->Stand().Felder().Klimaszenario, "Site A");
-    EXPECT_TRUE(s_->Stand().Saetze[3].Geaendert);
+    EXPECT_TRUE(s_->Stand().Saetze[3].Geaendert());
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe + 1);
 }
 
@@ -46,7 +46,7 @@ TEST_F(Szenarioprobe, a_preselected_climate_file_is_stored_with_the_variable_mod
     offen().fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(1);
     fertig();
     EXPECT_EQ(s_->Stand().Felder().Klimaszenario, "Site A");
-    EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert);
+    EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert());
     EXPECT_TRUE(s_->Stand().Hinweis());
 }
 
@@ -88,7 +88,7 @@ TEST_F(Szenarioprobe, mode_and_temperature_together_still_start_no_run) {
     fertig();
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe);
     EXPECT_TRUE(s_->Stand().Hinweis());
-    EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert);
+    EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert());
     EXPECT_FALSE(s_->Stand().abgedeckt());
     s_->fuehre_aus<&Satzverwaltung::aktualisiere>();
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe + 1);
@@ -140,7 +140,7 @@ TEST_F(Szenarioprobe, the_same_climate_file_chosen_again_changes_nothing) {
     s.fuehre_aus<&Szenarioeditor::waehle_Klimaszenario>(1);
     s.fuehre_aus<&Szenarioeditor::waehle_Klimaszenario>(0);
     fertig();
-    EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert);
+    EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert());
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe);
 }
 
@@ -154,7 +154,7 @@ TEST_F(Szenarioprobe, a_climate_file_chosen_and_not_used_changes_nothing) {
     s.fuehre_aus<&Szenarioeditor::waehle_Klimaszenario>(0);
     s.fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(0);
     fertig();
-    EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert);
+    EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert());
     EXPECT_FALSE(s_->Stand().Hinweis());
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe);
     EXPECT_EQ(Klimatext(s_->Stand().Felder()),
@@ -189,7 +189,7 @@ TEST_F(Szenarioprobe, done_after_a_missing_climate_file_takes_the_file_on_displa
     EXPECT_EQ(Entwurf().Klima, 1);
     fertig();
     EXPECT_EQ(s_->Stand().Felder().Klimaszenario, "Site B");
-    EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert);  // preselected, not chosen
+    EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert());  // preselected, not chosen
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe + 1);
     EXPECT_FALSE(s_->Stand().abgedeckt());
 }

@@ -20,9 +20,9 @@ TEST_F(Szenarioprobe, another_name_leaves_every_value_and_marks_the_simulation_o
     EXPECT_EQ(p().Bodendichte, 1.5);
     EXPECT_EQ(s_->Stand().gewaehlt(3), "Another");
     EXPECT_EQ(s_->Stand().Namen[3], "Another");
-    EXPECT_TRUE(s_->Stand().Saetze[0].Geaendert);
+    EXPECT_TRUE(s_->Stand().Saetze[0].Geaendert());
     EXPECT_TRUE(s_->Stand().Simulation_markiert);
-    EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert);
+    EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert());
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe);
 }
 
@@ -46,7 +46,7 @@ TEST_F(Szenarioprobe, a_soil_name_is_copied_and_marks_the_scenario_without_a_run
     offen().fuehre_aus<&Szenarioeditor::aendere>(E::Bodenszenario, "Silt loam");
     fertig();
     EXPECT_EQ(s_->Stand().Felder().Bodenszenario, "Silt loam");
-    EXPECT_TRUE(s_->Stand().Saetze[3].Geaendert);
+    EXPECT_TRUE(s_->Stand().Saetze[3].Geaendert());
     EXPECT_EQ(s_->Stand().Zeichnung, Laeufe);
 }
 
@@ -107,7 +107,7 @@ TEST_F(Szenarioprobe, a_scenario_whose_file_is_gone_stays_selected) {
     EXPECT_EQ(Entwurf().Szenarien[static_cast<std::size_t>(Entwurf().Szenario)], "Probe");
     fertig();
     EXPECT_EQ(s_->Stand().gewaehlt(3), "Probe");
-    EXPECT_FALSE(s_->Stand().Saetze[0].Geaendert);
+    EXPECT_FALSE(s_->Stand().Saetze[0].Geaendert());
     s_->fuehre_aus<&Satzverwaltung::speichere>();
     EXPECT_NE(Datei("input/Probe.sce").find("Soil density (kg/L):\t2\r\n"), std::string::npos);
     EXPECT_NE(Datei("input/Another.sce").find("Soil density (kg/L):\t1.1\r\n"), std::string::npos);
@@ -136,7 +136,7 @@ TEST_F(Szenarioprobe, without_a_scenario_the_last_one_is_preselected_and_done_re
     fertig();
     EXPECT_EQ(s_->Stand().gewaehlt(3), "Another");
     EXPECT_EQ(p().Bodendichte, 1.1);  // the file's, as nothing was typed
-    EXPECT_TRUE(s_->Stand().Saetze[0].Geaendert);
+    EXPECT_TRUE(s_->Stand().Saetze[0].Geaendert());
     EXPECT_FALSE(s_->Stand().abgedeckt());
 }
 
@@ -149,7 +149,7 @@ TEST_F(Szenarioprobe, without_a_scenario_what_was_typed_stands_under_the_name_ch
     fertig();
     EXPECT_EQ(s_->Stand().gewaehlt(3), "Another");
     EXPECT_EQ(p().Bodendichte, 2.2);
-    EXPECT_TRUE(s_->Stand().Saetze[3].Geaendert);
+    EXPECT_TRUE(s_->Stand().Saetze[3].Geaendert());
     EXPECT_FALSE(s_->Stand().abgedeckt());
 }
 

@@ -29,7 +29,7 @@ TEST_F(Absturz, an_accepted_value_comes_back_as_a_change_that_no_file_holds) {
     const std::string vorher = Datei("input/Probe.che");
     starte_neu(Knopf::Ja);
     EXPECT_EQ(Feldtext("S_DT50_0"), "12");
-    EXPECT_TRUE(z().Saetze[Wirkstoff].Geaendert);
+    EXPECT_TRUE(z().Saetze[Wirkstoff].Geaendert());
     EXPECT_TRUE(z().verschieden(Wirkstoff));
     EXPECT_FALSE(z().verschieden(Applikation));
     EXPECT_FALSE(z().Hinweis());

@@ -40,12 +40,12 @@ private Q_SLOTS:
         QCOMPARE(Stand().Felder().App_Monat, alt + 1);
         QCOMPARE(Zeichnung(), vorher);  // in a constant climate no run reads the date
         QVERIFY(!Hinweis());
-        QVERIFY(Stand().Saetze[2].Geaendert);
+        QVERIFY(Stand().Saetze[2].Geaendert());
         p_->Teil<QComboBox>("S_Kinetik_0")->setFocus();
         p_->druecke("S_Kinetik_0", Qt::Key_Down);
         QCOMPARE(Stand().Parameter().Kinetik[0][0], DFOP);
         QCOMPARE(Zeichnung(), vorher + 1);
-        QVERIFY(Stand().Saetze[1].Geaendert);
+        QVERIFY(Stand().Saetze[1].Geaendert());
     }
 
     void arrow_keys_choose_an_option() {
@@ -90,7 +90,7 @@ private Q_SLOTS:
         p_->waehle("PEC_Typ_0");
         p_->waehle("Endpunkt_1");
         QCOMPARE(Zeichnung(), vorher);
-        QVERIFY(!Stand().Saetze[2].Geaendert);
+        QVERIFY(!Stand().Saetze[2].Geaendert());
     }
 
     // Looking at another compound, study or view is no modification.
@@ -100,7 +100,7 @@ private Q_SLOTS:
         p_->waehle_Eintrag("Studie", 3);
         p_->waehle_Eintrag("TWA_Laenge", 2);
         p_->waehle_Eintrag("Fruchtwechsel", 2);
-        for (std::size_t t = 0; t <= 3; ++t) QVERIFY(!Stand().Saetze[t].Geaendert);
+        for (std::size_t t = 0; t <= 3; ++t) QVERIFY(!Stand().Saetze[t].Geaendert());
         QVERIFY(!Hinweis());
         QVERIFY(!p_->sichtbar("Abdeckung"));
         Fragen_.nimm();
@@ -127,7 +127,7 @@ private Q_SLOTS:
         auto* Saetze = p_->Teil<QComboBox>("Liste_3");
         p_->waehle_Eintrag("Liste_3", Saetze->findText(u"Orchard, no tillage"_s));
         QCOMPARE(Liste->palette().color(QPalette::Button), QColor(192, 255, 255));
-        QVERIFY(Stand().Saetze[0].Geaendert);
+        QVERIFY(Stand().Saetze[0].Geaendert());
         QVERIFY(!p_->sichtbar("Abdeckung"));
         p_->klicke("speichern");
         QCOMPARE(Liste->palette().color(QPalette::Button), vorher);

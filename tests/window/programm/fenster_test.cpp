@@ -160,12 +160,12 @@ private Q_SLOTS:
         p_->starte();
         p_->tippe("S_DT50_0", "20");
         p_->druecke("S_DT50_0", Qt::Key_S, Qt::ControlModifier);
-        QVERIFY(!p_->Programm().Stand().Saetze[1].Geaendert);
+        QVERIFY(!p_->Programm().Stand().Saetze[1].Geaendert());
         QCOMPARE(QApplication::focusWidget()->objectName(), u"S_DT50_0"_s);
         QTest::keyClick(p_->Teil<QLineEdit>("S_DT50_0"), Qt::Key_End);
         QTest::keyClicks(p_->Teil<QLineEdit>("S_DT50_0"), u"5"_s);
         QCOMPARE(p_->Teil<QLineEdit>("S_DT50_0")->text(), u"205"_s);
-        QVERIFY(p_->Programm().Stand().Saetze[1].Geaendert);
+        QVERIFY(p_->Programm().Stand().Saetze[1].Geaendert());
     }
 
     void another_cell_can_be_typed_in_after_a_message() {

@@ -167,7 +167,7 @@ private Q_SLOTS:
         QCOMPARE(int(z.Parameter().Ausgabename_Teile[0]), 0);
         QCOMPARE(int(z.Parameter().Ausgabename_Teile[4]), 1);
         QCOMPARE(int(z.Einstellung.Tips_anzeigen), 1);
-        QVERIFY(z.Saetze[Wirkstoff].Geaendert);
+        QVERIFY(z.Saetze[Wirkstoff].Geaendert());
     }
 
     void an_invalid_field_is_told_and_the_dialog_does_not_open() {

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <string>
+#include <utility>
+
+namespace varnok {
+
+// The file that the values on the screen come from, as this program last read or wrote it. Not what is selected: after a
+// deletion or a choice the selector names the next record while the values are still those of this one.
+struct Dateistand {
+    std::string Name;
+    std::string Bytes;
+};
+
+// What the program knows of the record of a kind, beside its selector. Each step sets everything that is tied to it.
+class Satzplatz {
+public:
+    const Dateistand& Datei() const { return Datei_; }
+    // What a save would have written right after reading or saving.
+    const std::string& gespeichert() const { return gespeichert_; }
+    // False: the values on the screen are not those of the record that the selector names.
+    bool gelesen() const { return gelesen_; }
+    // Why not, for the cover; empty while it is only waiting to be read.
+    const std::string& Grund() const { return Grund_; }
+    // Told mark: the user changed it and is asked before it goes.
+    bool Geaendert() const { return Geaendert_; }
+
+    // The selector names another record, to be read.
+    void verlange() { verwirf({}); }
+    // What the selector names cannot be on the screen.
+    void verwirf(std::string Grund) {
+        gelesen_ = Geaendert_ = false;
+        Grund_ = std::move(Grund);
+    }
+    // The values of this file are on the screen.
+    void lies(Dateistand Datei) {
+        verlange();
+        Datei_ = std::move(Datei);
+        gelesen_ = true;
+    }
+    // What was entered without a record stands for the one that the selector names.
+    void nimm_Eingegebenes_an() { gelesen_ = true; }
+    // The file has another name, with its content.
+    void benenne(std::string Name) { Datei_.Name = std::move(Name); }
+    // A save wrote this; the mark is the business of the command that saves.
+    void schreibe(Dateistand Datei) {
+        gespeichert_ = Datei.Bytes;
+        Datei_ = std::move(Datei);
+    }
+    // What makes no difference from now on.
+    void vergleiche_mit(std::string Bild) { gespeichert_ = std::move(Bild); }
+
+    void merke_Aenderung() { Geaendert_ = true; }
+    void vergiss_Aenderung() { Geaendert_ = false; }
+    // The mark as it was before a step that did not come about.
+    void stelle_Marke(bool Geaendert) { Geaendert_ = Geaendert; }
+
+private:
+    Dateistand Datei_;
+    std::string gespeichert_;
+    std::string Grund_;
+    bool gelesen_ = false;
+    bool Geaendert_ = false;
+};
+
+}  // namespace varnok
