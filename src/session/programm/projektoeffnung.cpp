@@ -95,7 +95,7 @@ void Projektoeffnung::oeffne_hier(const std::string& Name) {
 void Projektoeffnung::merke() {
     const std::string& Datei = z_.Welt.zuletzt_Datei;
     if (Datei.empty() || !z_.Ordner) return;
-    const bool geladen = z_.Saetze[Simulation].gelesen && z_.Auswahl(Simulation) >= 0;
+    const bool geladen = z_.Saetze[Simulation].gelesen() && z_.Auswahl(Simulation) >= 0;
     const auto gefunden = geladen ? z_.Ordner->finde(z_.gewaehlt(Simulation), Endungen[Simulation]) : std::nullopt;
     const std::string offen = z_.Ordner->Pfad() + '\n' + gefunden.value_or("");
     if (offen == gemerkt_) return;

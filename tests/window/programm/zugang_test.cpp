@@ -14,6 +14,7 @@
 #include <QHash>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStyleFactory>
@@ -131,6 +132,13 @@ class Zugangtest : public QObject {
     Q_OBJECT
 
 private:
+    // As the program does on such a desktop.
+    static void stelle_Palette_ein(QPalette p) {
+        const QPalette Auswahl = lesbare_Auswahl(p);
+        for (const auto Gruppe : {QPalette::Active, QPalette::Inactive})
+            p.setColor(Gruppe, QPalette::Highlight, Auswahl.color(Gruppe, QPalette::Highlight));
+        QApplication::setPalette(p);
+    }
     // Everything on the screen of a window.
     void pruefe(QWidget& Wurzel, const QString& Ort) {
         for (QWidget* w : Wurzel.findChildren<QWidget*>()) {
@@ -169,7 +177,9 @@ private:
         for (int y = 0; y < mit.height(); ++y)
             for (int x = 0; x < mit.width(); ++x) anders += mit.pixel(x, y) != ohne.pixel(x, y);
         const auto* Knopf = qobject_cast<QPushButton*>(w);
-        if (anders < 20 && !(Knopf && Knopf->isDefault()) && !qobject_cast<QTextEdit*>(w)) klage(Ort, w, u"no focus frame"_s);
+        // What is read shows by scrolling that it has the focus; what Enter presses is framed anyway.
+        const bool nur_zu_lesen = qobject_cast<QTextEdit*>(w) || qobject_cast<QPlainTextEdit*>(w);
+        if (anders < 20 && !(Knopf && Knopf->isDefault()) && !nur_zu_lesen) klage(Ort, w, u"no focus frame"_s);
     }
     void pruefe_Kontrast(QWidget& Wurzel, QWidget* w, const QString& Ort) {
         if (Wurzel.focusWidget()) Wurzel.focusWidget()->clearFocus();
@@ -286,6 +296,7 @@ private Q_SLOTS:
         namenlos->setObjectName(u"namenlos"_s);
         blass->setObjectName(u"blass"_s);
         stumm->setObjectName(u"stumm"_s);
+        stelle_Palette_ein(QApplication::style()->standardPalette());
         Wurzel.show();
         QVERIFY(QTest::qWaitForWindowActive(&Wurzel));
         Maengel_.clear();
@@ -304,11 +315,7 @@ private Q_SLOTS:
     }
     void nothing_lacks_a_name_a_focus_frame_or_contrast() {
         QFETCH(bool, dunkel);
-        QPalette p = dunkel ? dunkle_Palette() : QApplication::style()->standardPalette();
-        const QPalette Auswahl = lesbare_Auswahl(p);
-        for (const auto Gruppe : {QPalette::Active, QPalette::Inactive})
-            p.setColor(Gruppe, QPalette::Highlight, Auswahl.color(Gruppe, QPalette::Highlight));
-        QApplication::setPalette(p);
+        stelle_Palette_ein(dunkel ? dunkle_Palette() : QApplication::style()->standardPalette());
         Maengel_.clear();
         gesehen_ = 0;
         p_ = std::make_unique<Fensterprobe>(&Fragen_);
