@@ -15,6 +15,7 @@ struct Berichtsdatei {
     bool erweitert = false;        // of all studies, else of the selected one
     std::string Applikationssatz;  // name of the application pattern record
     const Uhr* Zeit = nullptr;     // the machine's without one
+    std::string Herkunft;          // the sum over its inputs, with its name
     std::string Namenszusatz;  // behind the name that the desktop program would give, so that reports do not replace each other
 };
 

@@ -3,6 +3,7 @@
 #include <nlohmann/json.hpp>
 #include <string_view>
 
+#include "base/druckbares.h"
 #include "base/zahlen.h"
 #include "batch/csv_zeile.h"
 #include "batch/schreiber.h"

@@ -50,7 +50,4 @@ std::string als_Text(Schreiber& s, const std::vector<Simulationsausgang>& Ausgae
 std::string als_JSON(const std::vector<Simulationsausgang>& Ausgaenge);
 std::string als_CSV(const std::vector<Simulationsausgang>& Ausgaenge);
 
-// Control characters replaced by "?": a name out of a file shall not steer a terminal.
-std::string druckbar(const std::string& Text);
-
 }  // namespace varnok::batch

@@ -118,18 +118,20 @@ std::string Variantenzusatz(const std::optional<Variante>& Herkunft) {
 
 // The standard report of each study chosen, and the extended one with the study selected that opening the simulation selects.
 void schreibe_Berichte(const Auftrag& a, const std::string& Simulation, const Gelesenes& g, const Ergebnisse& Studien,
-                       const std::vector<int>& Gewaehlte, const std::string& Variante, std::vector<std::string>& Schreibfehler) {
+                       const std::vector<int>& Gewaehlte, const std::string& Variante, const std::string& Summe,
+                       std::vector<std::string>& Schreibfehler) {
+    const std::string Herkunft = std::string(Eingabensummenname) + " " + Summe;
     const std::string Zusatz = a.Namen.Simulationszusatz(Simulation);
     const std::string& Applikationssatz = g.Satz.Dateinamen[Applikation];
     for (const int st : Gewaehlte) {
         Ansicht Sicht = g.Sicht;
         Sicht.Studie_Index = st;
         const std::string Studie = Studienzusatz(*g.Vorgabe, st);
-        a.schreibe_Bericht({a.Berichtsordner, false, Applikationssatz, a.Zeit, Zusatz + Studie + Variante},
+        a.schreibe_Bericht({a.Berichtsordner, false, Applikationssatz, a.Zeit, Herkunft, Zusatz + Studie + Variante},
                            {Studien, Sicht, *g.Vorgabe}, Schreibfehler);
     }
     if (!a.erweitert) return;
-    a.schreibe_Bericht({a.Berichtsordner, true, Applikationssatz, a.Zeit, Zusatz + " - extended" + Variante},
+    a.schreibe_Bericht({a.Berichtsordner, true, Applikationssatz, a.Zeit, Herkunft, Zusatz + " - extended" + Variante},
                        {Studien, g.Sicht, *g.Vorgabe}, Schreibfehler);
 }
 
@@ -158,7 +160,8 @@ void rechne(const Auftrag& a, const Arbeitsstueck& s, Arbeitsplatz& Platz, Simul
     r.Sicht = g.Sicht;
     for (const int st : Gewaehlte) r.Studien.push_back(Studien.at(static_cast<std::size_t>(st)));
     const std::string Variante = Variantenzusatz(s.Herkunft);
-    if (!a.Berichtsordner.empty()) schreibe_Berichte(a, r.Name, g, Studien, Gewaehlte, Variante, Ausgang.Schreibfehler);
+    if (!a.Berichtsordner.empty())
+        schreibe_Berichte(a, r.Name, g, Studien, Gewaehlte, Variante, r.Eingabensumme, Ausgang.Schreibfehler);
     if (!a.Serienordner.empty()) schreibe_Serien(a.Serienordner, r.Name + Variante, r.Studien, Ausgang.Schreibfehler);
     if (!a.volle_Serien.empty())
         schreibe_volle_Serien(a.volle_Serien, r.Name + Variante, r, *Platz.Klima, *Platz.Rechnung, Ausgang.Schreibfehler);

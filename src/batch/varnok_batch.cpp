@@ -26,6 +26,7 @@
 #include <unistd.h>
 #endif
 
+#include "base/druckbares.h"
 #include "base/laufzeitfehler.h"
 #include "batch/arbeitsliste.h"
 #include "batch/aufruf.h"
@@ -60,7 +61,8 @@ Auftrag erstelle_Auftrag(const Aufruf& a, const Projektordner& Ordner) {
     Arbeit.volle_Serien = a.volle_Serien;
     Arbeit.mit_Reihen = !a.Datenbank.empty() && !a.Serienordner.empty();
     Arbeit.Variantenquelle = a.Variantendatei.empty() ? a.Stichprobendatei : a.Variantendatei;
-    Arbeit.mit_Summe = !a.JSON_Datei.empty() || !a.Zeilendatei.empty() || !a.Datenbank.empty() || a.mit_Eingaben;
+    Arbeit.mit_Summe =
+        !a.JSON_Datei.empty() || !a.Zeilendatei.empty() || !a.Datenbank.empty() || a.mit_Eingaben || !a.Berichtsordner.empty();
     if (!a.Berichtsordner.empty()) Arbeit.Namen = Berichtsnamen(Ordner);
     if (a.Einstellungsdatei.empty()) return Arbeit;
     Arbeit.Einstellungen = lies_Datei(a.Einstellungsdatei, Quelle::alles);

@@ -61,6 +61,7 @@ Bericht schreibe_Bericht(const Berichtsauftrag& a) {
     const std::string& Simulation = a.Inhalt.Namen.Beschreibung;
     b.Dokument->setMetaInformation(QTextDocument::DocumentTitle,
                                    QString::fromStdString(Simulation.empty() ? b.Name : Simulation));
+    merke_Herkunft(*b.Dokument, QString::fromStdString(a.Herkunft));
     formatiere_Bericht(w, b.Text, Stoffnamen(a.Inhalt), a.Art);
     passe_Zeilen_ein(*b.Dokument);
     halte_Gruppen_beisammen(*b.Dokument);

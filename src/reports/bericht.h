@@ -27,6 +27,8 @@ struct Berichtsauftrag {
     std::optional<Flaechenort> Legende;
     // Dashes and dark colours in the picture.
     bool fuer_Druck = false;
+    // What its inputs are, by a sum over their files; stands beside the text, never in it.
+    std::string Herkunft = {};
 };
 
 struct Bericht {

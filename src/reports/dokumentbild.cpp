@@ -7,12 +7,18 @@
 #include <QTextBlock>
 #include <QTextDocumentFragment>
 #include <QTextImageFormat>
+#include <QVariant>
 
 #include "painting/zeichner.h"
 #include "reports/tabulatoren.h"
 #include "reports/twips.h"
 
 namespace varnok {
+namespace {
+
+constexpr const char* Herkunftsname = "Herkunft";  // as a property of the document
+
+}  // namespace
 
 // Draws the pictures of a document from a display list; lives as a child of the document.
 class Bildobjekt : public QObject, public QTextObjectInterface {
@@ -59,9 +65,14 @@ void zeichne_statt_Bild(QTextDocument& Dokument) {
     }
 }
 
+void merke_Herkunft(QTextDocument& Dokument, const QString& Herkunft) { Dokument.setProperty(Herkunftsname, Herkunft); }
+
+QString Herkunft_von(const QTextDocument& Dokument) { return Dokument.property(Herkunftsname).toString(); }
+
 QTextDocument* kopiere_Dokument(const QTextDocument& Dokument) {
     QTextDocument* Kopie = Dokument.clone();
     if (const auto* Objekt = Dokument.findChild<Bildobjekt*>()) merke_Zeichnung(*Kopie, Objekt->Liste);
+    merke_Herkunft(*Kopie, Herkunft_von(Dokument));
     zeichne_statt_Bild(*Kopie);
     Kopie->setUseDesignMetrics(true);
     ergaenze_Tabulatoren(*Kopie);

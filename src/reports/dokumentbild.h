@@ -1,6 +1,6 @@
 #pragma once
 
-// The picture of a report as part of its document.
+// What a report's document carries beside its text: its picture, and where its figures come from.
 
 #include <QByteArray>
 #include <QImage>
@@ -23,6 +23,10 @@ QByteArray als_PNG(const QImage& Bild);
 
 // Keeps the drawing of its picture with the document.
 void merke_Zeichnung(QTextDocument& Dokument, const Zeichenliste& z);
+
+// Where its figures come from, for the document information and the foot of a page; empty where that is not known.
+void merke_Herkunft(QTextDocument& Dokument, const QString& Herkunft);
+QString Herkunft_von(const QTextDocument& Dokument);
 
 // Makes a document with a drawing show it instead of the pixels: sharp at every scale of a screen, and as lines and
 // text in print. It lays the document out, so it belongs into the thread of the window.

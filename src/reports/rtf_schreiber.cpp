@@ -123,12 +123,17 @@ public:
             Absaetze += Absatz(b);
         }
         // The tables are known only now.
-        return "{\\rtf1\\ansi\\ansicpg1252\\deff0\\uc1\n" + Schrifttabelle() + Farbtabelle() + Erzeuger + Seite() + Absaetze +
-               "}\n";
+        return "{\\rtf1\\ansi\\ansicpg1252\\deff0\\uc1\n" + Schrifttabelle() + Farbtabelle() + Erzeuger + Herkunft() + Seite() +
+               Absaetze + "}\n";
     }
 
 private:
     static QString Familie(const QFont& f) { return f.families().isEmpty() ? f.family() : f.families().constFirst(); }
+
+    std::string Herkunft() const {
+        const QString Text = Herkunft_von(d_);
+        return Text.isEmpty() ? std::string() : "{\\info{\\doccomm " + RTF_Text(Text) + "}}\n";
+    }
 
     std::string Schrifttabelle() const {
         std::string Text = "{\\fonttbl";

@@ -47,12 +47,16 @@ void male_Seite(QPainter& p, const Druckseite& Seite) {
     p.restore();
 }
 
-// What the report is about at the left, the number of the page at the right.
-void male_Fuss(QPainter& p, const QRectF& Flaeche, const QString& Titel, std::size_t Seite, std::size_t Seiten) {
+// What the report is about at the left, the number of the page at the right, and where its figures come from below.
+void male_Fuss(QPainter& p, QRectF Flaeche, const QTextDocument& d, std::size_t Seite, std::size_t Seiten) {
     const QString Zahl = QString::fromStdString("page " + std::to_string(Seite) + " of " + std::to_string(Seiten));
     const QFontMetricsF Masse(p.font(), p.device());
     const double Platz = Flaeche.width() - Masse.horizontalAdvance(Zahl) - Masse.height();
+    const QString Titel = d.metaInformation(QTextDocument::DocumentTitle);
+    const QString Herkunft = Herkunft_von(d);
     p.setPen(Qt::black);
+    p.drawText(Flaeche, Qt::AlignLeft | Qt::AlignBottom, Herkunft);
+    if (!Herkunft.isEmpty()) Flaeche.setBottom(Flaeche.bottom() - Masse.height());
     p.drawText(Flaeche, Qt::AlignLeft | Qt::AlignBottom, Masse.elidedText(Titel, Qt::ElideRight, Platz));
     p.drawText(Flaeche, Qt::AlignRight | Qt::AlignBottom, Zahl);
 }
@@ -95,7 +99,6 @@ int Seitenzahl(const QTextDocument& Dokument, QPagedPaintDevice& Geraet) {
 bool drucke_Dokument(const QTextDocument& Dokument, QPagedPaintDevice& Geraet) {
     const Drucksatz d = setze(Dokument, Geraet);
     const QPageRanges gewuenscht = Geraet.pageRanges();
-    const QString Titel = d.Kopie->metaInformation(QTextDocument::DocumentTitle);
     QPainter p;
     if (!p.begin(&Geraet)) return false;
     p.scale(d.Massstab, d.Massstab);
@@ -105,7 +108,7 @@ bool drucke_Dokument(const QTextDocument& Dokument, QPagedPaintDevice& Geraet) {
         if (!std::exchange(erste, false) && !Geraet.newPage()) return false;
         male_Seite(p, d.Seiten[i]);
         p.setFont(d.Fussschrift);
-        male_Fuss(p, d.Flaeche, Titel, i + 1, d.Seiten.size());
+        male_Fuss(p, d.Flaeche, *d.Kopie, i + 1, d.Seiten.size());
     }
     return p.end();
 }
@@ -119,7 +122,8 @@ std::string als_PDF(const QTextDocument& Dokument, const std::string& Titel) {
         Geraet.setPageSize(QPageSize(QPageSize::A4));
         Geraet.setPageMargins(QMarginsF(Seitenrand_mm, Seitenrand_mm, Seitenrand_mm, Seitenrand_mm), QPageLayout::Millimeter);
         Geraet.setTitle(QString::fromStdString(Titel));
-        Geraet.setCreator(QStringLiteral("VARNOK"));
+        const QString Herkunft = Herkunft_von(Dokument);
+        Geraet.setCreator(Herkunft.isEmpty() ? QStringLiteral("VARNOK") : QStringLiteral("VARNOK, ") + Herkunft);
         drucke_Dokument(Dokument, Geraet);
     }
     return Bytes.toStdString();

@@ -6,6 +6,7 @@
 
 #include <fstream>
 
+#include "base/druckbares.h"
 #include "batch/probeprojekt.h"
 #include "batch/schreiber.h"
 

@@ -14,6 +14,7 @@
 #include "fremdprogramm.h"
 #include "records/dateien.h"
 #include "reports/dokumentbild.h"
+#include "reports/rtf_schreiber.h"
 #include "reports/seitenausgabe.h"
 
 namespace varnok::probe {
@@ -109,6 +110,24 @@ TEST(PDF, has_numbered_pages_and_the_picture_on_one_of_them) {
     const auto Anzahl =
         std::count_if(Text->begin(), Text->end(), [](const auto& s) { return s.find("Time after first") != std::string::npos; });
     EXPECT_EQ(Anzahl, 1);
+}
+
+TEST(PDF, tells_where_its_figures_come_from_at_every_foot_and_in_its_information_and_not_in_the_text) {
+    const Bericht b = Bericht_von(mit_Ergebnissen(Lauf_bauer().Schema(2)));
+    merke_Herkunft(*b.Dokument, QStringLiteral("inputs_sha256 0123456789abcdef"));
+    const std::string PDF = als_PDF(*b.Dokument, b.Name);
+    const auto Text = Seiten(PDF);
+    ASSERT_TRUE(Text.has_value()) << "poppler-utils is missing";
+    for (const std::string& Seite : *Text) {
+        EXPECT_THAT(Seite, HasSubstr("inputs_sha256 0123456789abcdef"));
+        EXPECT_THAT(Seite, HasSubstr("page "));
+    }
+    QTemporaryDir Ordner;
+    const QString Datei = Ordner.filePath(QStringLiteral("x.pdf"));
+    schreibe_Datei(Datei.toStdString(), PDF);
+    EXPECT_THAT(rufe("pdfinfo", {Datei}).value_or(""), HasSubstr("inputs_sha256 0123456789abcdef"));
+    EXPECT_FALSE(b.Dokument->toPlainText().contains(QStringLiteral("inputs_sha256")));
+    EXPECT_THAT(als_RTF(*b.Dokument), HasSubstr("{\\info{\\doccomm inputs_sha256 0123456789abcdef}}"));
 }
 
 TEST(PDF, every_line_of_the_report_is_on_a_page) {

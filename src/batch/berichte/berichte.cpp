@@ -29,7 +29,7 @@ void schreibe_Berichtsdatei(const Berichtsdatei& b, const Darstellung& d, std::v
     const Uhr& Zeit = b.Zeit ? *b.Zeit : Maschine;
     try {
         Bericht Fertiger = schreibe_Bericht({d, Art, b.Applikationssatz, Programmversion, Berichtszeit_nach(Zeit),
-                                             erstelle_Berichtsdiagramm(d, Art), std::nullopt});
+                                             erstelle_Berichtsdiagramm(d, Art), std::nullopt, false, b.Herkunft});
         Fertiger.Name = als_Dateiname(Fertiger.Name, b.Namenszusatz);
         speichere_Bericht(Fertiger, b.Ordner);
     } catch (const Laufzeitfehler& f) {

@@ -6,6 +6,7 @@
 #include "records/dateien.h"
 #include "reports/ausgabedateien.h"
 #include "reports/seitenausgabe.h"
+#include "session/ergebnis/herkunft.h"
 #include "session/kern/texte.h"
 
 namespace varnok {
@@ -44,7 +45,7 @@ void Berichtssteuerung::stelle_her(const Diagramm& Bild) {
     const Berichtsart Art = z_.Zusammenfassung_aktiv ? Berichtsart::erweitert : Berichtsart::Standard;
     Bericht_ = std::make_unique<Bericht>(
         schreibe_Bericht({z_.zeige(), Art, z_.Namen[Applikation], Programmversion, Berichtszeit_nach(Zeit), Bild,
-                          Diagramme_.Legende(), z_.Einstellung.Bild.fuer_Druck}));
+                          Diagramme_.Legende(), z_.Einstellung.Bild.fuer_Druck, Herkunft_der_Ergebnisse(z_)}));
 }
 
 void Berichtssteuerung::speichere_PDF(const std::string& Pfad) const {

@@ -14,6 +14,7 @@
 #include <string>
 #include <string_view>
 
+#include "base/druckbares.h"
 #include "base/programm.h"
 #include "extras/netzabruf.h"
 #include "painting/qt_text.h"
@@ -94,7 +95,7 @@ int main(int argc, char** argv) {
     const varnok::Projektorte Orte = Orte_des_Programms();
     const varnok::Projektwahl Projekt = waehle(Orte);
     if (!Projekt.Einwand.empty()) {
-        std::fputs(("varnok: " + Projekt.Einwand + "\n").c_str(), stderr);
+        std::fputs(("varnok: " + varnok::druckbar(Projekt.Einwand) + "\n").c_str(), stderr);
         Fragen.frage({varnok::Texte::Laufzeitfehler, Projekt.Einwand, varnok::Symbol::Ausrufezeichen, {varnok::Knopf::OK}});
         return falscher_Aufruf;
     }

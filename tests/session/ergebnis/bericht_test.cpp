@@ -1,7 +1,9 @@
 // The report command behind the window.
 
+#include <QCryptographicHash>
 #include <QImage>
 #include <QUrl>
+#include <QtEndian>
 #include <fstream>
 
 #include "reports/dokumentbild.h"
@@ -29,6 +31,33 @@ TEST_F(Berichtsprobe, of_the_selected_study_is_shown_and_written_to_output) {
     EXPECT_NE(s_->zeige<Berichtssteuerung>().offener()->Text.find("RESULTS OF THE CALCULATION"), std::string::npos);
     EXPECT_EQ(s_->Stand().Ergebnisdatei, "A trial");  // all name parts off
     EXPECT_TRUE(gibt_es("output/A trial.rtf"));
+}
+
+// As `sha256sum` over the records gives it, each behind its length in eight bytes.
+TEST_F(Berichtsprobe, carries_the_sum_over_its_files_while_nothing_differs_from_them) {
+    gestartet();
+    const auto Herkunft = [this] {
+        s_->fuehre_aus<&Berichtssteuerung::erstelle>();
+        return Herkunft_von(*s_->zeige<Berichtssteuerung>().offener()->Dokument).toStdString();
+    };
+    QCryptographicHash Summe(QCryptographicHash::Sha256);
+    for (const char* Endung : {".che", ".app", ".sce"}) {
+        const std::string Bytes = Datei(std::string("input/Probe") + Endung);
+        const quint64 Laenge = qToLittleEndian<quint64>(Bytes.size());
+        Summe.addData(QByteArrayView(reinterpret_cast<const char*>(&Laenge), sizeof Laenge));
+        Summe.addData(QByteArrayView(Bytes.data(), static_cast<qsizetype>(Bytes.size())));
+    }
+    const std::string gesichert = "inputs_sha256 " + Summe.result().toHex().toStdString();
+    EXPECT_EQ(Herkunft(), gesichert);
+    EXPECT_NE(s_->zeige<Berichtssteuerung>().offener()->RTF.find("{\\info{\\doccomm " + gesichert + "}}"), std::string::npos);
+    EXPECT_EQ(s_->zeige<Berichtssteuerung>().offener()->Text.find("inputs_sha256"), std::string::npos);
+    ASSERT_TRUE(tippe("S_DT50_0", "12"));
+    EXPECT_EQ(Herkunft(), "inputs not saved");
+    s_->fuehre_aus<&Satzverwaltung::speichere>();
+    EXPECT_NE(Herkunft(), gesichert);
+    EXPECT_EQ(Herkunft().find("inputs_sha256 "), 0U);
+    std::ofstream(Wurzel_ / "input/Probe.sce", std::ios::app) << "of another program";
+    EXPECT_EQ(Herkunft(), "inputs not saved");
 }
 
 TEST_F(Berichtsprobe, in_the_summary_view_is_that_of_all_studies) {

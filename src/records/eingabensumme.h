@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace varnok::batch {
+namespace varnok {
 
 // SHA-256 over what a result comes from: files, each preceded by its length as eight bytes, least significant first; then values
 // as name=value and a line feed. A copy goes on from where the original stands.
@@ -24,4 +24,7 @@ private:
     crypto_hash_sha256_state Zustand_;
 };
 
-}  // namespace varnok::batch
+// How a report or a table names such a sum.
+inline constexpr std::string_view Eingabensummenname = "inputs_sha256";
+
+}  // namespace varnok

@@ -1,9 +1,9 @@
-#include "batch/eingabensumme.h"
+#include "records/eingabensumme.h"
 
 #include <array>
 #include <cstdint>
 
-namespace varnok::batch {
+namespace varnok {
 
 Eingabensumme::Eingabensumme() { crypto_hash_sha256_init(&Zustand_); }
 
@@ -39,4 +39,4 @@ std::string Eingabensumme::als_Text() const {
     return Text;
 }
 
-}  // namespace varnok::batch
+}  // namespace varnok
