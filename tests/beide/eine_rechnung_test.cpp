@@ -65,6 +65,13 @@ std::vector<Fall> alle_Faelle() {
     return Faelle;
 }
 
+// Rich text without the document information.
+std::string ohne_Information(std::string RTF) {
+    const auto von = RTF.find("{\\info");
+    if (von != std::string::npos) RTF.erase(von, RTF.find("}}", von) + 2 - von);
+    return RTF;
+}
+
 class Eine_Rechnung : public testing::TestWithParam<Fall> {
 protected:
     Eine_Rechnung() : Wurzel_(fs::temp_directory_path() / ("varnok-beide-" + std::to_string(::getpid()))) {
@@ -123,7 +130,10 @@ protected:
             batch::Berichtsnamen(*s_->Stand().Ordner).Simulationszusatz(GetParam().Simulation) + Studienzusatz;
         const fs::path Gegenstueck = Ausgabe("berichte") / (Name + Zusatz + ".rtf");
         ASSERT_TRUE(fs::exists(Gegenstueck)) << Gegenstueck;
-        EXPECT_TRUE(Inhalt(Projekt() / "output" / (Name + ".rtf")) == Inhalt(Gegenstueck)) << Gegenstueck;
+        // What a run repaired in the table is not saved, and the window's report says so in place of the sum.
+        const bool repariert = s_->Stand().verschieden(Applikation);
+        const auto RTF = [&](const fs::path& Pfad) { return repariert ? ohne_Information(Inhalt(Pfad)) : Inhalt(Pfad); };
+        EXPECT_TRUE(RTF(Projekt() / "output" / (Name + ".rtf")) == RTF(Gegenstueck)) << Gegenstueck;
     }
 
     bool Berichte_moeglich_ = true;
