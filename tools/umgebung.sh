@@ -18,10 +18,11 @@ Pakete=(
     python3 fonts-dejavu-core fonts-liberation
 )
 
-# The format of the sources is checked; the smoke tests work the real window on a display of its own, one under a trace; tests read
-# the PDF and the rich text of a report.
+# The format of the sources is checked; the smoke tests work the real window on a display of its own, one under a trace; other
+# programs open the PDF and the rich text of a report and the pictures.
 Testpakete=(
     clang-format xvfb xauth openbox x11-apps xdotool strace poppler-utils unrtf sqlite3 libreoffice-writer-nogui
+    inkscape librsvg2-bin
 )
 
 # What only ./test.sh --deep needs.

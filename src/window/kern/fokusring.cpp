@@ -53,6 +53,7 @@ Fokusring::Fokusring(QObject* parent) : QObject(parent), Stil_(std::make_unique<
 Fokusring::~Fokusring() { delete Ring_; }
 
 void Fokusring::folge(QWidget* neues) {
+    if (!neues && Ring_) Ring_->setWidget(nullptr);  // nothing has it, as in a window behind another program's
     if (!neues || !braucht_Ring(neues)) return;
     if (!Ring_) {
         Ring_ = new Ring;
