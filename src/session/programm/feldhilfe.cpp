@@ -44,7 +44,7 @@ struct Verweis {
 constexpr Verweis ganze_Seiten[] = {{"README.md", "the program and its files"},
                                     {"docs/input.md", "what is typed and what is read"},
                                     {"docs/glossary.md", "glossary"},
-                                    {"docs/varnok-batch.md", "varnok-batch"}};
+                                    {"docs/batch_at_work.md", "varnok-batch"}};
 
 // The cells of a table have a range each.
 struct Spalte {

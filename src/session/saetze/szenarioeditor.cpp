@@ -32,6 +32,12 @@ constexpr std::array Zahlenfelder = {
     Zahlenfeld{Szenarioentwurf::Feldkapazitaet, Grenzen_von("Feldkapazitaet"), "Field capacity (Vol %)"},
     Zahlenfeld{Szenarioentwurf::Welkepunkt, Grenzen_von("Welkepunkt"), "Wilting point (%)"}};
 
+// The row of a field, null for one that holds a text.
+const Zahlenfeld* Zeile_von(Szenarioentwurf::Feld f) {
+    const auto Zeile = std::find_if(Zahlenfelder.begin(), Zahlenfelder.end(), [f](const Zahlenfeld& z) { return z.Feld == f; });
+    return Zeile == Zahlenfelder.end() ? nullptr : &*Zeile;
+}
+
 // The list of depths with the position of `Tiefe`. A depth that is no entry becomes one of its own behind the others.
 Tiefenwahl Tiefenliste(double Tiefe, std::array<int, 2> Vorgaben, char Dezimalzeichen) {
     Tiefenwahl t;
@@ -68,8 +74,8 @@ std::string Eintrag(const std::vector<std::string>& Liste, int i) {
 }  // namespace
 
 bool Szenarioeditor::ausserhalb(Szenarioentwurf::Feld f) const {
-    const auto Zeile = std::find_if(Zahlenfelder.begin(), Zahlenfelder.end(), [f](const Zahlenfeld& z) { return z.Feld == f; });
-    return Zeile != Zahlenfelder.end() && !Einwand_gegen_Wert(*Zeile->Grenzen, Wert(e_.Texte[f])).empty();
+    const Zahlenfeld* Zeile = Zeile_von(f);
+    return Zeile && !Einwand_gegen_Wert(*Zeile->Grenzen, Wert(e_.Texte[f])).empty();
 }
 
 bool Szenarioeditor::oeffne() {
@@ -235,9 +241,8 @@ void Szenarioeditor::uebernimm_Namen() {
 }
 
 void Szenarioeditor::verlasse_Zahl(Szenarioentwurf::Feld f) {
-    if (f == Szenarioentwurf::Bodenszenario || e_.Texte[f] == gezeigt_.Texte[f] || !ist_eindeutig(e_.Texte[f])) return;
-    const auto passt = [f](const Zahlenfeld& Zeile) { return Zeile.Feld == f; };
-    const auto Zeile = std::find_if(Zahlenfelder.begin(), Zahlenfelder.end(), passt);
+    const Zahlenfeld* Zeile = Zeile_von(f);
+    if (!Zeile || e_.Texte[f] == gezeigt_.Texte[f] || !ist_eindeutig(e_.Texte[f])) return;
     e_.Texte[f] = nimm_Zahl_an(z_, Zeile->Name, e_.Texte[f], Gelesenes_);
 }
 

@@ -76,7 +76,7 @@ TEST_F(Hilfeseiten, links_lead_to_the_pages_that_there_are) {
     const std::string Text = Hilfe({});
     EXPECT_THAT(Text, HasSubstr("Whole pages: [the program and its files](file://"));
     EXPECT_THAT(Text, HasSubstr("the%20data/docs/glossary.md)"));
-    EXPECT_THAT(Text, Not(HasSubstr("varnok-batch.md")));
+    EXPECT_THAT(Text, Not(HasSubstr("batch_at_work.md")));
 }
 
 TEST_F(Hilfeseiten, without_pages_there_is_the_tip) {
@@ -96,7 +96,7 @@ TEST(Hilfeauslieferung, every_part_of_a_page_is_found_in_the_documentation) {
                              "untere_Zeile", "Berechnungsmodus", "Bericht", "Ende"}) {
         const std::string Text = Feldhilfe({{Name}, "x", {}, Wurzel});
         EXPECT_THAT(Text, HasSubstr("---\n\n## ")) << Name;
-        EXPECT_THAT(Text, HasSubstr("docs/varnok-batch.md)"));
+        EXPECT_THAT(Text, HasSubstr("docs/batch_at_work.md)"));
     }
 }
 
