@@ -14,6 +14,16 @@
 namespace varnok {
 
 class Sitzung {
+    // All parts of `Sitzung` or `const Sitzung`.
+    template <class S>
+    static auto Teile_von(S& s) {
+        return std::tie(s.Diagramme_, s.Bilder_, s.Laeufe_, s.Felder_, s.Ruecknahme_, s.Saetze_, s.Organiser_, s.Listen_,
+                        s.Studien_, s.Beschreibung_, s.Editor_, s.Tabelle_, s.Berichte_, s.Update_, s.Optionen_, s.Dateien_,
+                        s.Hilfe_, s.Programm_, s.Zwischenstand_, s.Zeichen_, s.Projekte_, s.Wiederherstellung_);
+    }
+    auto Teile() { return Teile_von(*this); }
+    auto Teile() const { return Teile_von(*this); }
+
 public:
     explicit Sitzung(Umgebung Welt);
 
@@ -55,16 +65,6 @@ private:
     void schliesse_Handlung_ab();
     void raeume_Marken_auf();
     void fuehre_Statuszeile();
-
-    // All parts of `Sitzung` or `const Sitzung`.
-    template <class S>
-    static auto Teile_von(S& s) {
-        return std::tie(s.Diagramme_, s.Bilder_, s.Laeufe_, s.Felder_, s.Ruecknahme_, s.Saetze_, s.Organiser_, s.Listen_,
-                        s.Studien_, s.Beschreibung_, s.Editor_, s.Tabelle_, s.Berichte_, s.Update_, s.Optionen_, s.Dateien_,
-                        s.Hilfe_, s.Programm_, s.Zwischenstand_, s.Zeichen_, s.Projekte_, s.Wiederherstellung_);
-    }
-    auto Teile() { return Teile_von(*this); }
-    auto Teile() const { return Teile_von(*this); }
 
     Zustand z_;
     Diagrammsteuerung Diagramme_{z_};
