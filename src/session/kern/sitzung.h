@@ -73,7 +73,7 @@ private:
     Feldeingabe Felder_{z_, Laeufe_};
     Ruecknahme Ruecknahme_{z_, Laeufe_, Felder_, Diagramme_};
     Satzverwaltung Saetze_{z_, Laeufe_, Felder_, Diagramme_};
-    Organiser Organiser_{z_, Saetze_};
+    Organiser Organiser_{z_, Saetze_, Beschreibung_};
     Listenwahl Listen_{z_, Laeufe_, Felder_, Diagramme_};
     Studienverwaltung Studien_{z_, Laeufe_, Felder_};
     Beschreibungseingabe Beschreibung_{z_};
@@ -92,7 +92,6 @@ private:
     // As the last action left them.
     Eingabe letzte_Vorgabe_;
     Ergebnisse letzte_Werte_;
-    std::string letzte_Statuszeile_;
 };
 
 }  // namespace varnok
