@@ -31,7 +31,7 @@ void Berichtssteuerung::erstelle() {
         z_.Statuszeile.sage("Report written: " + Pfad);
     } catch (const Laufzeitfehler& f) {
         z_.Statuszeile.sage("The report was not written.");
-        melde(z_, Texte::Laufzeitfehler, f.what());  // the results stay valid and in sight
+        melde_Fehler(z_, f.what());  // the results stay valid and in sight
     }
 }
 

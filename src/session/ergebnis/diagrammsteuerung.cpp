@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "session/kern/texte.h"
 #include "session/kern/zahleneingabe.h"
 
 namespace varnok {
@@ -73,7 +72,7 @@ void Diagrammsteuerung::zeichne(const Ergebnis* gelaufen) {
     if (gelaufen != nullptr) sammle(Nebenausgaben_.schreibe_Laufprotokoll(*z_.Ausgabeprojekt, *gelaufen));
     for (const Diagramm& d : gezeichnete_) sammle(Nebenausgaben_.schreibe_Zeichnung(*z_.Ausgabeprojekt, d));
     // One message for a drawing, and the drawing stands.
-    if (!Fehler.empty()) melde(z_, Texte::Laufzeitfehler, Fehler);
+    if (!Fehler.empty()) melde_Fehler(z_, Fehler);
 }
 
 int& Diagrammsteuerung::Platz_vorne() {

@@ -72,4 +72,7 @@ inline void melde(Schauplatz& s, const std::string& Titel, const std::string& Te
     s.Welt.Fragen->frage({Titel, Text, Symbol::Ausrufezeichen, {Knopf::OK}});
 }
 
+// The message of a fault.
+void melde_Fehler(Schauplatz& s, const std::string& Text);
+
 }  // namespace varnok

@@ -4,8 +4,6 @@
 #include <exception>
 #include <utility>
 
-#include "session/kern/texte.h"
-
 namespace varnok {
 namespace {
 
@@ -23,7 +21,7 @@ void Sitzung::versuche(const Handlung& h) {
         return;  // the user has just said so
     } catch (const std::exception& Fehler) {
         z_.Meldung_steht = true;  // what stands behind the message may not be what it speaks of
-        melde(z_, Texte::Laufzeitfehler, Fehler.what());
+        melde_Fehler(z_, Fehler.what());
         z_.Meldung_steht = false;
     }
 }

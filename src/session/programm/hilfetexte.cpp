@@ -2,7 +2,6 @@
 
 #include "extras/programmangaben.h"
 #include "extras/tooltipdatei.h"
-#include "session/kern/texte.h"
 #include "session/programm/feldhilfe.h"
 
 namespace varnok {
@@ -11,7 +10,7 @@ std::vector<std::string> Hilfetexte::Tooltips() {
     const varnok::Tooltips t = lies_Tooltips({z_.Projektpfad, z_.Welt.Programmpfad, z_.Welt.installierte_Daten});
     if (t.Fehler != gemeldet_) {
         gemeldet_ = t.Fehler;
-        if (!gemeldet_.empty()) melde(z_, Texte::Laufzeitfehler, gemeldet_);
+        if (!gemeldet_.empty()) melde_Fehler(z_, gemeldet_);
     }
     return t.Texte;
 }

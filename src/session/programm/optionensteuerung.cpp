@@ -109,7 +109,7 @@ void Optionensteuerung::sage_Tips_ab() {
         verlange_Schreibrecht(z_);
         Einstellungen_schreiben(z_);
     } catch (const Laufzeitfehler& f) {
-        melde(z_, Texte::Laufzeitfehler, f.what());
+        melde_Fehler(z_, f.what());
     }
     melde(z_, "Tooltips", "The tooltips will be switched off when you exit VARNOK and call it again!");
 }

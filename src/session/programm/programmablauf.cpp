@@ -96,7 +96,7 @@ bool Programmablauf::lade_erste() {
             Saetze_.lade_Start(Name);
             return !z_.beendet();
         } catch (const Laufzeitfehler& f) {
-            melde(z_, Texte::Laufzeitfehler, f.what());
+            melde_Fehler(z_, f.what());
         }
     }
     Saetze_.beende_oder_stelle_her("Input files are missing. Should the default settings be loaded ", true);
@@ -150,7 +150,7 @@ void Programmablauf::beende() {
     if (!weiter || !sichere_am_Ende()) return;
     const std::string zweiter = z_.nur_lesbar ? "" : Fehler_bei([&] { Einstellungen_schreiben(z_); });
     Fehler += (Fehler.empty() || zweiter.empty() ? "" : "\n") + zweiter;
-    if (!Fehler.empty()) melde(z_, Texte::Laufzeitfehler, Fehler);
+    if (!Fehler.empty()) melde_Fehler(z_, Fehler);
     z_.beende();
 }
 

@@ -9,7 +9,6 @@
 #include "base/text.h"
 #include "painting/qt_text.h"
 #include "records/dateien.h"
-#include "session/kern/texte.h"
 #include "session/programm/projektwahl.h"
 
 namespace varnok {
@@ -74,7 +73,7 @@ bool Projektoeffnung::ist_hier(const std::string& Ordner) const {
 void Projektoeffnung::oeffne(const std::string& Pfad) {
     if (Pfad.empty()) return;
     const Projektwahl Wahl = waehle_Projekt(Pfad, {});
-    if (!Wahl.Einwand.empty()) return melde(z_, Texte::Laufzeitfehler, Wahl.Einwand);
+    if (!Wahl.Einwand.empty()) return melde_Fehler(z_, Wahl.Einwand);
     if (ist_hier(Wahl.Ordner)) return oeffne_hier(Wahl.Simulation);
     if (!z_.Welt.weiteres_Fenster || !z_.Welt.weiteres_Fenster(Pfad))
         throw Laufzeitfehler("\"" + Pfad + "\" cannot be opened: no further window of the program could be started");

@@ -60,7 +60,7 @@ bool Satzverwaltung::lies_Satz(Satzart Art, const std::string& Satzname) {
         Befund = Satz_lesen(*z_.Ordner, Satzname, Art, z_.Vorgabe, z_.Sicht, z_.Welt.Dezimalzeichen);
     } catch (const Laufzeitfehler& f) {
         erklaere_ungelesen(Art, f.what());
-        melde(z_, Texte::Laufzeitfehler, f.what());
+        melde_Fehler(z_, f.what());
         return false;
     }
     if (Befund.Ausgang == Leseausgang::fehlt) {

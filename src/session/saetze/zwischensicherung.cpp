@@ -20,7 +20,7 @@ bool Zwischensicherung::biete_an() {
         if (zustaendig()) Bytes = lies_Zwischenstand(*z_.Ordner);
     } catch (const Laufzeitfehler& Fehler) {
         unerledigt_ = true;
-        melde(z_, Texte::Laufzeitfehler, Fehler.what());
+        melde_Fehler(z_, Fehler.what());
     }
     if (!Bytes) return false;
     const auto Stand = zerlege_Zwischenstand(*Bytes);
@@ -40,7 +40,7 @@ bool Zwischensicherung::biete_an() {
         unerledigt_ = true;
     } catch (const Laufzeitfehler& Fehler) {
         unerledigt_ = true;
-        melde(z_, Texte::Laufzeitfehler, Fehler.what());
+        melde_Fehler(z_, Fehler.what());
     }
     return gewuenscht && lade(*Stand);
 }
@@ -52,7 +52,7 @@ bool Zwischensicherung::lade(const Zwischenstand& Stand) {
                   "Not all of the values could be brought back. They are kept in the folder \"backup\".");
         return true;
     } catch (const Laufzeitfehler& Fehler) {
-        melde(z_, Texte::Laufzeitfehler, Fehler.what());
+        melde_Fehler(z_, Fehler.what());
         return false;
     }
 }

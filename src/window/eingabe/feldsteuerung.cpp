@@ -13,10 +13,10 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// A button is held down: its command comes with the release and accepts the field itself.
-bool Taste_gedrueckt() {
+// The button that is held down, null without one: its command comes with the release and accepts the field itself.
+const QAbstractButton* gedrueckte_Taste() {
     const auto* Taste = qobject_cast<QAbstractButton*>(QApplication::focusWidget());
-    return Taste && Taste->isDown();
+    return Taste && Taste->isDown() ? Taste : nullptr;
 }
 
 // Whether it is the window's field in focus, also while another window is in front.
@@ -105,10 +105,7 @@ void Feldsteuerung::verlasse(Zahlenfeld* f) {
     }
     // Come back to, or a box of the program is in front: no leaving.
     if (steht_im_Fokus(*f) || QApplication::activeModalWidget()) return;
-    if (Taste_gedrueckt()) {
-        QTimer::singleShot(15ms, f, [this, f] { verlasse(f); });
-        return;
-    }
+    if (const QAbstractButton* Taste = gedrueckte_Taste()) return warte_auf(*Taste, f);
     bool angenommen = false;
     {
         const Wartezeiger warte;
@@ -116,6 +113,15 @@ void Feldsteuerung::verlasse(Zahlenfeld* f) {
     }
     Q_EMIT gehandelt();
     if (!angenommen) gib_Fokus_zurueck();
+}
+
+// Until the button is released, with or without its command, or gives up the focus.
+void Feldsteuerung::warte_auf(const QAbstractButton& Taste, Zahlenfeld* f) {
+    constexpr auto danach = static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection);
+    connect(
+        &Taste, &QAbstractButton::released, f, [this, f] { verlasse(f); }, danach);
+    connect(
+        qApp, &QApplication::focusChanged, f, [this, f] { verlasse(f); }, danach);
 }
 
 void Feldsteuerung::tippe(Zahlenfeld* f, const QString& Text) {

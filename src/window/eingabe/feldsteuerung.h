@@ -6,6 +6,8 @@
 #include "session/kern/sitzung.h"
 #include "window/eingabe/zahlenfeld.h"
 
+class QAbstractButton;
+
 namespace varnok {
 
 // Stands between the numeric fields and the session: says when a field counts as entered and as left. A field is
@@ -40,6 +42,7 @@ private:
     void bestaetige(Zahlenfeld* f);
     void nimm_zurueck(Zahlenfeld* f);
     void verlasse(Zahlenfeld* f);
+    void warte_auf(const QAbstractButton& Taste, Zahlenfeld* f);
     void merke_Eintritt(Zahlenfeld* f);
     void merke_Austritt(Zahlenfeld* f);
     Zahlenfeld* Feld_in_Arbeit() const;

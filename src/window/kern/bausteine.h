@@ -3,6 +3,7 @@
 // The small widgets that the frames are made of.
 
 #include <QComboBox>
+#include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>

@@ -335,6 +335,25 @@ private Q_SLOTS:
         QVERIFY2(Beschriftung.find("Quite new") != std::string::npos, Beschriftung.c_str());
     }
 
+    // The press takes the focus, the command would come with the release; given up outside the button it does not come.
+    void a_field_left_for_a_button_waits_for_its_release() {
+        p_->tippe("S_DT50_0", "17");
+        auto* Knopf = p_->Teil<QPushButton>("Aktualisieren");
+        const int Feld = p_->Programm().zeige<Feldeingabe>().aktives_Feld();
+        QVERIFY(Feld >= 0);
+        Knopf->setFocus(Qt::MouseFocusReason);
+        QTest::mousePress(Knopf, Qt::LeftButton);
+        QTest::qWait(40);
+        QCOMPARE(p_->Programm().zeige<Feldeingabe>().aktives_Feld(), Feld);
+        QMouseEvent weg(QEvent::MouseMove, QPointF(-30, -30), Knopf->mapToGlobal(QPointF(-30, -30)), Qt::NoButton, Qt::LeftButton,
+                        {});
+        QApplication::sendEvent(Knopf, &weg);
+        QTRY_COMPARE(p_->Programm().zeige<Feldeingabe>().aktives_Feld(), -1);
+        QTest::mouseRelease(Knopf, Qt::LeftButton, {}, QPoint(-30, -30));
+        QVERIFY(!Stand().Hinweis());
+        QCOMPARE(feld("S_DT50_0")->text(), u"17"_s);
+    }
+
 private:
     const Zustand& Stand() { return p_->Programm().Stand(); }
     QLineEdit* feld(const char* Name) { return p_->Teil<QLineEdit>(Name); }
