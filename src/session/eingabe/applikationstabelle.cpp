@@ -64,7 +64,7 @@ bool Applikationstabelle::schliesse_ab() {
     if (ist_eindeutig(getippt_)) {
         std::string Meldung;
         setze(*z, als_Zellentext(*z, getippt_, Meldung));
-        if (!Meldung.empty()) z_.Statuszeile.sage(Meldung);
+        z_.Statuszeile.sage_Zahl(Meldung);
         return true;
     }
     in_Arbeit_ = z;
@@ -75,9 +75,15 @@ bool Applikationstabelle::schliesse_ab() {
 
 void Applikationstabelle::tippe(Zelle z, std::string Text) {
     if (in_Arbeit_ && !(*in_Arbeit_ == z) && !schliesse_ab()) return;
+    if (!in_Arbeit_) vor_dem_Tippen_ = this->Text(z);
     getippt_ = Text;
     in_Arbeit_ = z;
     setze(z, std::move(Text));
+}
+
+void Applikationstabelle::nimm_Ungueltiges_zurueck() {
+    if (!in_Arbeit_ || !enthaelt(*in_Arbeit_) || Text(*in_Arbeit_) != getippt_ || ist_eindeutig(getippt_)) return;
+    setze(*std::exchange(in_Arbeit_, std::nullopt), vor_dem_Tippen_);
 }
 
 void Applikationstabelle::haenge_an(Zelle z, char Zeichen) { tippe(z, Text(z) + Zeichen); }
@@ -112,7 +118,7 @@ void Applikationstabelle::fuege_ein(Zelle z, const std::string& Text) {
         }
         ++i;
     }
-    if (!Meldung.empty()) z_.Statuszeile.sage(Meldung);
+    z_.Statuszeile.sage_Zahl(Meldung);
     if (abgelehnt) melde(z_, Texte::keine_gueltige_Eingabe, abgelehnt);
 }
 

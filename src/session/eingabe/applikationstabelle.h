@@ -15,6 +15,8 @@ public:
     // The cell that was typed into is left: its text is accepted as a number. False if it was refused: the message has been
     // shown, the cell is to be selected.
     bool schliesse_ab();
+    // A text that would be refused goes: the cell holds again what it held before.
+    void nimm_Ungueltiges_zurueck();
     bool ist_in_Arbeit() const { return in_Arbeit_.has_value(); }
     // Whether a cell shows a number that it would not accept. A day or month that was not filled yet is none.
     bool ausserhalb(Zelle z) const;
@@ -39,6 +41,7 @@ private:
     Laufsteuerung& Laeufe_;
     std::optional<Zelle> in_Arbeit_;  // typed into and not accepted yet
     std::string getippt_;             // what was typed there
+    std::string vor_dem_Tippen_;      // what stood there
 };
 
 }  // namespace varnok

@@ -8,6 +8,7 @@
 #include "reports/seitenausgabe.h"
 #include "session/ergebnis/herkunft.h"
 #include "session/kern/texte.h"
+#include "session/kern/versuch.h"
 
 namespace varnok {
 
@@ -18,33 +19,36 @@ void Berichtssteuerung::erstelle() {
     Diagramme_.ziehe_nach(Laeufe_.nimm_Gelaufenes().get());
     const Diagramm* Bild = Diagramme_.vorderes();
     if (Bild == nullptr) return;
-    try {
-        stelle_her(*Bild);
-        Ergebnisdatei_.clear();
-        if (z_.ohne_Nebenausgaben) {
-            z_.Statuszeile.sage(Texte::Bericht_ohne_Ordner);
-            return;
-        }
-        const std::string Pfad = speichere_Bericht(*Bericht_, Ausgabeordner(*z_.Ausgabeprojekt), z_.Ausgabeprojekt->Pfad());
-        Ergebnisdatei_ = Bericht_->Name;
-        berichtete_Beschreibung_ = z_.Vorgabe.Beschreibung;
-        z_.Statuszeile.sage("Report written: " + Pfad);
-    } catch (const Laufzeitfehler& f) {
-        z_.Statuszeile.sage("The report was not written.");
-        melde_Fehler(z_, f.what());  // the results stay valid and in sight
-    }
+    const std::string Fehler = Fehler_bei([&] { schreibe(*Bild); });
+    if (Fehler.empty()) return;
+    z_.Statuszeile.sage("The report was not written.");
+    melde_Fehler(z_, Fehler);  // the results stay valid and in sight
+}
+
+void Berichtssteuerung::schreibe(const Diagramm& Bild) {
+    stelle_her(Bild);
+    Ergebnisdatei_.clear();
+    if (z_.ohne_Nebenausgaben) return z_.Statuszeile.sage(Texte::Bericht_ohne_Ordner);
+    const std::string Pfad = speichere_Bericht(*Bericht_, Ausgabeordner(*z_.Ausgabeprojekt), z_.Ausgabeprojekt->Pfad());
+    Ergebnisdatei_ = Bericht_->Name;
+    berichtete_Beschreibung_ = z_.Vorgabe.Beschreibung;
+    z_.Statuszeile.sage("Report written: " + Pfad);
 }
 
 std::string Berichtssteuerung::Ergebnisdatei() const {
     return z_.Vorgabe.Beschreibung == berichtete_Beschreibung_ ? Ergebnisdatei_ : std::string();
 }
 
+Berichtssteuerung::Grundlage Berichtssteuerung::jetzige_Grundlage() const {
+    return {Diagramme_.Zeichnung(), z_.Vorgabe, z_.Namen, z_.Einstellung.Bild.fuer_Druck};
+}
+
 void Berichtssteuerung::schliesse_veralteten() {
-    if (Bericht_ && (z_.Hinweis() || z_.abgedeckt() || Diagramme_.Zeichnung() != Zeichnung_)) schliesse();
+    if (Bericht_ && (z_.Hinweis() || z_.abgedeckt() || Grundlage_ != jetzige_Grundlage())) schliesse();
 }
 
 void Berichtssteuerung::stelle_her(const Diagramm& Bild) {
-    Zeichnung_ = Diagramme_.Zeichnung();
+    Grundlage_ = jetzige_Grundlage();
     const Berichtsart Art = z_.Zusammenfassung_aktiv() ? Berichtsart::erweitert : Berichtsart::Standard;
     Bericht_ = std::make_unique<Bericht>(
         schreibe_Bericht({z_.zeige(), Art, z_.Namen[Applikation], Programmversion, Berichtszeit_nach(z_.Zeit()), Bild,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <memory>
 #include <string>
 
@@ -34,13 +35,25 @@ public:
     void speichere_PDF(const std::string& Pfad) const;
 
 private:
+    // What a report tells of, beside the results.
+    struct Grundlage {
+        int Zeichnung = 0;
+        Eingabe Vorgabe;
+        std::array<std::string, 4> Saetze;
+        bool fuer_Druck = false;
+
+        friend bool operator==(const Grundlage&, const Grundlage&) = default;
+    };
+
+    Grundlage jetzige_Grundlage() const;
+    void schreibe(const Diagramm& Bild);
     void stelle_her(const Diagramm& Bild);
 
     Zustand& z_;
     Laufsteuerung& Laeufe_;
     Diagrammsteuerung& Diagramme_;
     std::unique_ptr<Bericht> Bericht_;
-    int Zeichnung_ = 0;  // the drawing that the open report tells of
+    Grundlage Grundlage_;  // of the open report
     std::string Ergebnisdatei_;
     std::string berichtete_Beschreibung_;
 };

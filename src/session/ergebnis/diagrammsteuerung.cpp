@@ -42,12 +42,14 @@ bool Diagrammsteuerung::ziehe_nach(const Ergebnis* gelaufen) {
     const bool anders = gelaufen != nullptr || gezeichnet_ != jetzige_Grundlage();
     if (!anders && gesehene_Ausschnitte_ == Ausschnitte_) return false;
     if (!gleicher_Anblick()) ++Anblick_;
-    if (anders) zeichne(gelaufen);
+    const std::string Fehler = anders ? zeichne(gelaufen) : std::string();
     schneide_aus();
     gezeichnet_ = jetzige_Grundlage();  // the drawing may have moved the ends of its axes
     gezeichnete_Saetze_ = z_.Namen;
     gesehene_Ausschnitte_ = Ausschnitte_;
     ++Zeichnung_;
+    // One message for a drawing, and the drawing stands.
+    if (!Fehler.empty()) melde_Fehler(z_, Fehler);
     return true;
 }
 
@@ -60,7 +62,7 @@ void Diagrammsteuerung::schneide_aus() {
     }
 }
 
-void Diagrammsteuerung::zeichne(const Ergebnis* gelaufen) {
+std::string Diagrammsteuerung::zeichne(const Ergebnis* gelaufen) {
     gezeichnete_ = z_.Zusammenfassung_aktiv() ? erstelle_Diagramme_Zusammenfassung(z_.zeige(), Bereiche_, z_.i_studie())
                                               : erstelle_Diagramme(z_.zeige(), Bereiche_, z_.i_studie());
     std::string Fehler;
@@ -68,11 +70,10 @@ void Diagrammsteuerung::zeichne(const Ergebnis* gelaufen) {
     const auto sammle = [&](const std::string& Text) {
         if (Fehler.find(Text) == std::string::npos) Fehler += (Fehler.empty() ? "" : "\n") + Text;
     };
-    if (z_.ohne_Nebenausgaben) return;
+    if (z_.ohne_Nebenausgaben) return Fehler;
     if (gelaufen != nullptr) sammle(Nebenausgaben_.schreibe_Laufprotokoll(*z_.Ausgabeprojekt, *gelaufen));
     for (const Diagramm& d : gezeichnete_) sammle(Nebenausgaben_.schreibe_Zeichnung(*z_.Ausgabeprojekt, d));
-    // One message for a drawing, and the drawing stands.
-    if (!Fehler.empty()) melde_Fehler(z_, Fehler);
+    return Fehler;
 }
 
 int& Diagrammsteuerung::Platz_vorne() {
@@ -107,7 +108,7 @@ bool Diagrammsteuerung::skaliere(const std::string& Start, const std::string& En
         std::string Meldung;
         nimm_Zahl_an(z_, "Start (d)", Start, Meldung);
         nimm_Zahl_an(z_, "End (d)", Ende, Meldung);
-        if (!Meldung.empty()) z_.Statuszeile.sage(Meldung);
+        z_.Statuszeile.sage_Zahl(Meldung);
         return true;
     }
     z_.Welt.Fragen->frage({Skalierungsfehler_Titel, Skalierungsfehler, Symbol::Ausrufezeichen, {Knopf::OK, Knopf::Abbrechen}});

@@ -82,7 +82,8 @@ private:
     Grundlage jetzige_Grundlage() const;
     // Whether one looks at the same as at the last drawing, at other numbers perhaps.
     bool gleicher_Anblick() const;
-    void zeichne(const Ergebnis* gelaufen);
+    // Gives why files could not be written, empty where all were.
+    std::string zeichne(const Ergebnis* gelaufen);
     // What is seen of the diagrams that were drawn.
     void schneide_aus();
     using Platz = std::pair<bool, int>;  // summary or not, number

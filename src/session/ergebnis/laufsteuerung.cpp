@@ -66,6 +66,7 @@ bool Laufsteuerung::fuehre_aus(const std::vector<int>& Studien, bool auch_guelti
 
 bool Laufsteuerung::rechne_Studie(int i_studie) {
     Tabellenfehler_.reset();
+    Klimadatei_fehlt_ = false;
     Studienlauf Gerechnet;
     try {
         const Projektklima Klima(*z_.Ordner);

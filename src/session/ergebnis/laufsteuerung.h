@@ -3,6 +3,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "session/eingabe/zelle.h"
@@ -37,8 +38,9 @@ public:
     // The last run found no climate file, and told so: the scenario editor is to open.
     bool Klimadatei_fehlt() const { return Klimadatei_fehlt_; }
     void oeffne_Szenarioeditor() { Klimadatei_fehlt_ = false; }
-    // The cell that a message spoke of, to be selected.
+    // The cell that a message spoke of, to be selected once.
     const std::optional<Zelle>& Tabellenfehler() const { return Tabellenfehler_; }
+    std::optional<Zelle> nimm_Tabellenfehler() { return std::exchange(Tabellenfehler_, std::nullopt); }
     void melde_Zelle(Zelle z) { Tabellenfehler_ = z; }
 
     // Tells in one box what the runs since then warn of, once their results are drawn.

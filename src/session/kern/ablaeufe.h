@@ -74,6 +74,7 @@ constexpr Ablauf Ablauf_von(Tat<&Ruecknahme::mache_rueckgaengig>) { return {Weg:
 constexpr Ablauf Ablauf_von(Tat<&Ruecknahme::wiederhole>) { return {Weg::Befehl}; }
 
 constexpr Ablauf Ablauf_von(Tat<&Laufsteuerung::schliesse_Skalierung>) { return {Weg::Rechenbefehl}; }
+constexpr Ablauf Ablauf_von(Tat<&Laufsteuerung::nimm_Tabellenfehler>) { return {Weg::Zwischenschritt}; }
 
 constexpr Ablauf Ablauf_von(Tat<&Diagrammsteuerung::schalte_weiter>) { return {Weg::Befehl}; }
 constexpr Ablauf Ablauf_von(Tat<&Diagrammsteuerung::skaliere>) { return {Weg::Zwischenschritt}; }
@@ -102,7 +103,7 @@ constexpr Ablauf Ablauf_von(Tat<&Satzverwaltung::benenne_um>) { return {Weg::Bef
 constexpr Ablauf Ablauf_von(Tat<&Satzverwaltung::speichere>) { return {Weg::Befehl}; }
 constexpr Ablauf Ablauf_von(Tat<&Satzverwaltung::aktualisiere>) { return {Weg::Rechenbefehl}; }
 
-constexpr Ablauf Ablauf_von(Tat<&Beschreibungseingabe::oeffne>) { return {Weg::Zwischenschritt}; }
+constexpr Ablauf Ablauf_von(Tat<&Beschreibungseingabe::oeffne>) { return {Weg::Befehl}; }
 constexpr Ablauf Ablauf_von(Tat<&Beschreibungseingabe::aendere>) { return {Weg::Zwischenschritt}; }
 constexpr Ablauf Ablauf_von(Tat<&Beschreibungseingabe::schliesse>) { return {Weg::Handlung}; }
 constexpr Ablauf Ablauf_von(Tat<&Beschreibungseingabe::nimm_zurueck>) { return {Weg::Handlung}; }
@@ -163,6 +164,7 @@ constexpr Ablauf Ablauf_von(Tat<&Projektoeffnung::merke>) { return {Weg::Zwische
 
 constexpr Ablauf Ablauf_von(Tat<&Programmablauf::oeffne_Projekt>) { return {Weg::Handlung}; }
 constexpr Ablauf Ablauf_von(Tat<&Programmablauf::starte>) { return {Weg::Handlung}; }
+constexpr Ablauf Ablauf_von(Tat<&Programmablauf::beginne_Dialog>) { return {Weg::Befehl}; }
 constexpr Ablauf Ablauf_von(Tat<&Programmablauf::beende>) { return {Weg::Befehl}; }
 constexpr Ablauf Ablauf_von(Tat<&Programmablauf::schliesse_Fenster>) { return {Weg::Handlung}; }
 constexpr Ablauf Ablauf_von(Tat<&Satzverwaltung::lade_Voreinstellungen>) { return {Weg::Befehl}; }

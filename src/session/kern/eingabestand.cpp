@@ -1,5 +1,6 @@
 #include "session/kern/eingabestand.h"
 
+#include <algorithm>
 #include <numeric>
 
 #include "base/laufzeitfehler.h"
@@ -41,13 +42,22 @@ bool Eingabestand::verschieden(Satzart Art) const {
     return Saetze[Art].gelesen() ? Speicherbild(Art) != Saetze[Art].gespeichert() : Saetze[Art].Geaendert();
 }
 
+bool Eingabestand::Simulation_markiert() const {
+    if (!Saetze[Simulation].gelesen()) return false;
+    try {
+        const Simulationssatz Satz = zerlege_Simulation(Saetze[Simulation].gespeichert(), {});
+        return !std::equal(Namen.begin() + 1, Namen.end(), Satz.Dateinamen.begin() + 1);
+    } catch (const Laufzeitfehler&) {
+        return true;  // names that no summary file holds
+    }
+}
+
 Eingabestand::Marken_je_Art Eingabestand::Marken() const {
-    return {Saetze[0].Geaendert(), Saetze[1].Geaendert(), Saetze[2].Geaendert(), Saetze[3].Geaendert(), andere_Kombination_};
+    return {Saetze[0].Geaendert(), Saetze[1].Geaendert(), Saetze[2].Geaendert(), Saetze[3].Geaendert()};
 }
 
 void Eingabestand::stelle_Marken(const Marken_je_Art& Marken) {
     for (std::size_t Art = 0; Art < Saetze.size(); ++Art) Saetze[Art].stelle_Marke(Marken[Art]);
-    andere_Kombination_ = Marken.back();
 }
 
 }  // namespace varnok

@@ -34,22 +34,16 @@ struct Eingabestand : Schauplatz, Satzlisten {
     // The studies that the view on display shows: the selected one, in the summary view all.
     std::vector<int> gezeigte_Studien() const;
 
-    // Told mark: the selectors name another combination of records than the summary file does.
-    bool Simulation_markiert() const { return andere_Kombination_; }
-    void merke_Kombination() {
-        Saetze[Simulation].merke_Aenderung();
-        andere_Kombination_ = true;
-    }
-    // The combination is that of the summary file, which was read or written.
-    void vergiss_Kombination() { andere_Kombination_ = false; }
-    // The told marks, by kind, and that of the combination.
-    using Marken_je_Art = std::array<bool, 5>;
+    // The told marks, by kind.
+    using Marken_je_Art = std::array<bool, 4>;
     Marken_je_Art Marken() const;
     // As they were before a step that did not come about, or that is no change of the user's.
     void stelle_Marken(const Marken_je_Art& Marken);
 
     // ---- what follows from all that; nobody keeps it ----
 
+    // The selectors name another combination of records than the summary file does.
+    bool Simulation_markiert() const;
     // Whether each selector names a record whose values are on the screen.
     bool Saetze_vollstaendig() const;
     // What a save of this kind writes. Throws Laufzeitfehler for a text or a value that no record can hold.
@@ -62,7 +56,6 @@ struct Eingabestand : Schauplatz, Satzlisten {
 
 private:
     bool Zusammenfassung_ = false;
-    bool andere_Kombination_ = false;
 };
 
 }  // namespace varnok

@@ -5,30 +5,51 @@
 #include <utility>
 
 namespace varnok {
+namespace {
 
-void Meldezeile::sage(std::string Text) { Text_ = std::move(Text); }
-
-void Meldezeile::sage_dazu(const std::string& Text) { Text_ += (Text_.empty() || Text.empty() ? "" : " ") + Text; }
-
-void Meldezeile::stelle_voran(const std::string& Text) {
-    std::string bisher = nimm();
-    sage(Text);
-    sage_dazu(bisher);
+std::string verbunden(const std::string& vorn, const std::string& hinten) {
+    return vorn + (vorn.empty() || hinten.empty() ? "" : " ") + hinten;
 }
 
-std::string Meldezeile::nimm() { return std::exchange(Text_, {}); }
+}  // namespace
 
-void Meldezeile::zaehle_zur_naechsten(std::string gesagt) { gesagt_ = std::move(gesagt); }
+std::string Meldezeile::Text() const { return verbunden(Zahlen_.Text, Befehl_.Text); }
 
-void Meldezeile::schliesse_ab(bool geaendert, const Uhr& Zeit) {
-    const bool neu = Text_ != gesagt_;
-    if (!neu && geaendert) leere();
-    if (neu && !Text_.empty()) {
-        const auto jetzt = Zeit.jetzt().time_since_epoch();
-        const auto Sekunden = std::chrono::duration_cast<std::chrono::seconds>(jetzt).count();
-        Zeit_ = QDateTime::fromSecsSinceEpoch(Sekunden).toString(u"HH:mm").toStdString();
+void Meldezeile::setze(Wort& w, std::string Text) {
+    if (Text.empty()) return;
+    vergiss_Frueheres();
+    w = {std::move(Text), laufende_};
+    const Systemuhr Maschine;
+    const auto jetzt = (Uhr_ ? *Uhr_ : Maschine).jetzt().time_since_epoch();
+    const auto Sekunden = std::chrono::duration_cast<std::chrono::seconds>(jetzt).count();
+    Zeit_ = QDateTime::fromSecsSinceEpoch(Sekunden).toString(u"HH:mm").toStdString();
+}
+
+void Meldezeile::sage(std::string Text) { setze(Befehl_, std::move(Text)); }
+
+void Meldezeile::sage_dazu(const std::string& Text) {
+    if (!Text.empty()) setze(Befehl_, neu(Befehl_) ? verbunden(Befehl_.Text, Text) : Text);
+}
+
+void Meldezeile::stelle_voran(const std::string& Text) {
+    if (!Text.empty()) setze(Befehl_, neu(Befehl_) ? verbunden(Text, Befehl_.Text) : Text);
+}
+
+void Meldezeile::sage_Zahl(const std::string& Text) {
+    if (!Text.empty()) setze(Zahlen_, neu(Zahlen_) ? verbunden(Zahlen_.Text, Text) : Text);
+}
+
+void Meldezeile::vergiss_Frueheres() {
+    for (Wort* w : {&Zahlen_, &Befehl_}) {
+        if (!neu(*w)) w->Text.clear();
     }
-    gesagt_ = Text_;
+}
+
+std::string Meldezeile::nimm() { return neu(Befehl_) ? std::exchange(Befehl_.Text, {}) : std::string(); }
+
+void Meldezeile::schliesse_ab(bool geaendert) {
+    if (geaendert) vergiss_Frueheres();
+    Beginn_ = ++laufende_;
 }
 
 }  // namespace varnok

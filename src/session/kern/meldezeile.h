@@ -6,32 +6,51 @@
 
 namespace varnok {
 
-// The line at the foot of the window. What a command has to say stands there until the next change of an input or a result; the
-// next command on files takes it away, too.
+// The line at the foot of the window. What an action has to say stands there until the next change of an input, a result or a
+// file, or until another action says something. What its steps say is put together, whoever says it.
 class Meldezeile {
 public:
-    const std::string& Text() const { return Text_; }
-    // hh:mm of the action that said it.
+    void stelle_Uhr(const Uhr* Zeit) { Uhr_ = Zeit; }
+
+    // What fields were taken for stands in front of what the command says that accepted them.
+    std::string Text() const;
+    // hh:mm of the step that said it.
     const std::string& Zeit() const { return Zeit_; }
 
-    // In place of what stands there, behind it, before it.
+    // In place of what the action in work has said so far, behind it, before it.
     void sage(std::string Text);
     void sage_dazu(const std::string& Text);
     void stelle_voran(const std::string& Text);
-    void leere() { Text_.clear(); }
+    // A field or a cell was not taken as it was typed.
+    void sage_Zahl(const std::string& Text);
+    // A file is another one: what was said before this action goes.
+    void vergiss_Frueheres();
+    // Takes back what the action in work has said.
     std::string nimm();
 
-    // What was said up to the end of the last action.
-    const std::string& gesagt() const { return gesagt_; }
-    // What was said since then belongs to the action that is to come.
-    void zaehle_zur_naechsten(std::string gesagt);
+    // Names the action in work.
+    int Handlung() const { return Beginn_; }
+    // What was said since the beginning of that one belongs to the action that is to come.
+    void zaehle_zur_naechsten(int Handlung) { Beginn_ = Handlung; }
     // An action is over. Without a word of its own, it takes the line away where it has changed an input or a result.
-    void schliesse_ab(bool geaendert, const Uhr& Zeit);
+    void schliesse_ab(bool geaendert);
 
 private:
-    std::string Text_;
+    // A text, and the action that said it.
+    struct Wort {
+        std::string Text;
+        int Handlung = 0;
+    };
+
+    bool neu(const Wort& w) const { return w.Handlung >= Beginn_; }
+    void setze(Wort& w, std::string Text);
+
+    const Uhr* Uhr_ = nullptr;
+    Wort Zahlen_;
+    Wort Befehl_;
     std::string Zeit_;
-    std::string gesagt_;
+    int Beginn_ = 1;
+    int laufende_ = 1;
 };
 
 }  // namespace varnok

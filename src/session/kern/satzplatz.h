@@ -36,14 +36,15 @@ public:
         stelle(false, std::move(Grund));
         ++Lesungen_;
     }
-    // The values of this file are on the screen.
-    void lies(Dateistand Datei) {
-        kenne(std::move(Datei));
+    // The values of this file are on the screen; `Bild` is what a save of them would write.
+    void lies(Dateistand Datei, std::string Bild) {
+        kenne(std::move(Datei), std::move(Bild));
         ++Lesungen_;
     }
     // The values that are on the screen already stand for this file.
-    void kenne(Dateistand Datei) {
+    void kenne(Dateistand Datei, std::string Bild) {
         Datei_ = std::move(Datei);
+        gespeichert_ = std::move(Bild);
         stelle(true, {});
     }
     // What was entered without a record stands for the one that the selector names.
@@ -62,8 +63,6 @@ public:
         gespeichert_ = Datei.Bytes;
         Datei_ = std::move(Datei);
     }
-    // What makes no difference from now on.
-    void vergleiche_mit(std::string Bild) { gespeichert_ = std::move(Bild); }
 
     void merke_Aenderung() { Geaendert_ = true; }
     void vergiss_Aenderung() { Geaendert_ = false; }

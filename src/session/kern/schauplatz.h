@@ -21,7 +21,6 @@
 namespace varnok {
 
 class Programmablauf;
-class Sitzung;
 
 // Given once, at the start.
 struct Umgebung {
@@ -52,7 +51,6 @@ struct Schauplatz {
 
     Meldezeile Statuszeile;
     Eigen<Programmablauf> Gestartet;  // told mark: the main screen is in use
-    Eigen<Sitzung> Meldung_steht;     // a fault is being told: nothing is shown meanwhile
 
     const Uhr& Zeit() const {
         static const Systemuhr Maschine;

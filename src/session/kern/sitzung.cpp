@@ -1,8 +1,11 @@
 #include "session/kern/sitzung.h"
 
 #include <algorithm>
+#include <array>
 #include <exception>
 #include <utility>
+
+#include "session/kern/versuch.h"
 
 namespace varnok {
 namespace {
@@ -11,19 +14,21 @@ constexpr std::array alle_Arten = {Simulation, Wirkstoff, Applikation, Szenario}
 
 }  // namespace
 
-Sitzung::Sitzung(Umgebung Welt) { z_.Welt = std::move(Welt); }
+Sitzung::Sitzung(Umgebung Welt) {
+    z_.Welt = std::move(Welt);
+    z_.Statuszeile.stelle_Uhr(z_.Welt.Zeit);
+}
 
-// The one place that turns a fault into a message.
+// The one place that turns a fault of a command into a message. What stands behind that is what there is by then.
 void Sitzung::versuche(const Handlung& h) {
-    try {
-        h();
-    } catch (const Befehl_aufgegeben&) {
-        return;  // the user has just said so
-    } catch (const std::exception& Fehler) {
-        z_.Meldung_steht = true;  // what stands behind the message may not be what it speaks of
-        melde_Fehler(z_, Fehler.what());
-        z_.Meldung_steht = false;
-    }
+    varnok::versuche(z_, [&] {
+        try {
+            h();
+        } catch (...) {
+            Fehler_bei([this] { zeichne_Stand(); });
+            throw;
+        }
+    });
 }
 
 // The one way of a command.
@@ -31,9 +36,9 @@ void Sitzung::fuehre(const Ablauf& a, const Handlung& h) {
     if (a.Weg == Weg::Zwischenschritt) return versuche(h);
     const bool nimmt_an = a.Weg != Weg::Handlung && !(a.nach_Klimameldung && Laeufe_.Klimadatei_fehlt());
     const bool Lauf_fehlt = nimmt_an && a.Weg == Weg::Rechenbefehl && Felder_.aktives_Feld() >= 0;
-    std::string gesagt = z_.Statuszeile.gesagt();
+    const int begonnen = z_.Statuszeile.Handlung();
     if (nimmt_an && !nimm_Texte_an(a.Weg == Weg::Befehl)) return;
-    z_.Statuszeile.zaehle_zur_naechsten(std::move(gesagt));  // what a field told belongs to this command
+    z_.Statuszeile.zaehle_zur_naechsten(begonnen);  // what a field told belongs to this command
     Laeufe_.sieh_Klima_an();
     versuche(h);
     // A command that was to run and did not leaves the accepted value without results.
@@ -46,25 +51,31 @@ bool Sitzung::nimm_Texte_an(bool mit_Lauf) {
     if (Tabelle_.ist_in_Arbeit() && !fuehre_aus<&Applikationstabelle::schliesse_ab>()) return false;
     if (Felder_.aktives_Feld() >= 0 && !fuehre_aus<&Feldeingabe::schliesse_ab>(mit_Lauf)) return false;
     if (Studien_.Name_offen()) fuehre_aus<&Studienverwaltung::bestaetige>(false);
+    if (Beschreibung_.offen()) fuehre_aus<&Beschreibungseingabe::schliesse>();
     Ruecknahme_.merke();  // a cell or a name typed before is a step of its own
     return true;
 }
 
-// What follows from the values that an action leaves: marks without a difference go, so does a reason that results have
-// overtaken; what is shown is drawn, and then told of.
+// What follows from the values that an action leaves: marks without a difference go, what is shown is drawn, and then told of.
 void Sitzung::schliesse_Handlung_ab() {
     Laeufe_.sieh_Klima_an();  // the action may have named another file, or changed this one
     raeume_Marken_auf();
     if (!z_.Zusammenfassung_aktiv()) z_.zeige_Studien();  // it does not come back with a second study
     if (z_.Gestartet) {
-        if (z_.alles_Gezeigte_gueltig()) z_.Gerechnetes.vergiss_Grund();
-        versuche([this] { Diagramme_.ziehe_nach(Laeufe_.nimm_Gelaufenes().get()); });
+        versuche([this] { zeichne_Stand(); });
         Laeufe_.melde_Warnungen();
         Berichte_.schliesse_veralteten();
     }
     Ruecknahme_.merke();
     fuehre_Statuszeile();
     if (z_.beendet()) Zwischenstand_.raeume();
+}
+
+// A reason that results have overtaken goes, and what is shown is drawn.
+void Sitzung::zeichne_Stand() {
+    if (!z_.Gestartet) return;
+    if (z_.alles_Gezeigte_gueltig()) z_.Gerechnetes.vergiss_Grund();
+    Diagramme_.ziehe_nach(Laeufe_.nimm_Gelaufenes().get());
 }
 
 // Where a save would write nothing else than the files hold, there is nothing to ask about.
@@ -77,7 +88,7 @@ void Sitzung::raeume_Marken_auf() {
 void Sitzung::fuehre_Statuszeile() {
     // The first results take no line away: until then nobody has seen it.
     const bool andere_Werte = letzte_Werte_ != Ergebnisse{} && z_.Werte() != letzte_Werte_;
-    z_.Statuszeile.schliesse_ab(z_.Vorgabe != letzte_Vorgabe_ || andere_Werte, z_.Zeit());
+    z_.Statuszeile.schliesse_ab(z_.Vorgabe != letzte_Vorgabe_ || andere_Werte);
     letzte_Vorgabe_ = z_.Vorgabe;
     letzte_Werte_ = z_.Werte();
 }

@@ -64,6 +64,7 @@ private:
     bool nimm_Texte_an(bool mit_Lauf);
     void schliesse_Handlung_ab();
     void raeume_Marken_auf();
+    void zeichne_Stand();
     void fuehre_Statuszeile();
 
     Zustand z_;
@@ -73,7 +74,7 @@ private:
     Feldeingabe Felder_{z_, Laeufe_};
     Ruecknahme Ruecknahme_{z_, Laeufe_, Felder_, Diagramme_};
     Satzverwaltung Saetze_{z_, Laeufe_, Felder_, Diagramme_};
-    Organiser Organiser_{z_, Saetze_, Beschreibung_};
+    Organiser Organiser_{z_, Saetze_};
     Listenwahl Listen_{z_, Laeufe_, Felder_, Diagramme_};
     Studienverwaltung Studien_{z_, Laeufe_, Felder_};
     Beschreibungseingabe Beschreibung_{z_};
@@ -87,7 +88,7 @@ private:
     Zeichenmeldung Zeichen_{z_};
     Projektoeffnung Projekte_{z_, Saetze_};
     Zwischensicherung Zwischenstand_{z_, Saetze_, Felder_};
-    Programmablauf Programm_{z_, Saetze_, Felder_, Listen_, Studien_, Zwischenstand_};
+    Programmablauf Programm_{z_, Saetze_, Felder_, Listen_, Studien_, Tabelle_, Zwischenstand_};
     Wiederherstellung Wiederherstellung_{z_, Saetze_};
     // As the last action left them.
     Eingabe letzte_Vorgabe_;

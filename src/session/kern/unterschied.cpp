@@ -1,5 +1,6 @@
 #include "session/kern/unterschied.h"
 
+#include <algorithm>
 #include <functional>
 #include <variant>
 
@@ -16,6 +17,8 @@ struct Merkmal {
     const char* Name;
     Satzart Art;
     Werte gleich;
+    int i_substanz = -1;
+    bool je_Studie = false;  // the first study that differs is the one concerned
 };
 
 template <auto Eingabe::*Platz>
@@ -29,14 +32,14 @@ bool gleicher_Parameter(const Eingabe& a, const Eingabe& b) {
 }
 
 const std::array Merkmale = {
-    Merkmal{"number of studies", Wirkstoff,
-            [](const Eingabe& a, const Eingabe& b) { return a.Studienzahl() == b.Studienzahl(); }},
+    Merkmal{"number of studies", Wirkstoff, [](const Eingabe& a, const Eingabe& b) { return a.Studienzahl() == b.Studienzahl(); },
+            -1, true},
     Merkmal{"description", Simulation, gleich<&Eingabe::Beschreibung>},
     Merkmal{"metabolism scheme", Wirkstoff, gleich<&Eingabe::Berechnungsmodus>},
-    Merkmal{"name of a study", Wirkstoff, gleich<&Eingabe::Studie>},
-    Merkmal{"name of the parent", Wirkstoff, gleich<&Eingabe::Name_Wirkstoff>},
-    Merkmal{"name of metabolite 1", Wirkstoff, gleich<&Eingabe::Name_Met_1>},
-    Merkmal{"name of metabolite 2", Wirkstoff, gleich<&Eingabe::Name_Met_2>},
+    Merkmal{"name of a study", Wirkstoff, gleich<&Eingabe::Studie>, -1, true},
+    Merkmal{"name of the parent", Wirkstoff, gleich<&Eingabe::Name_Wirkstoff>, 0},
+    Merkmal{"name of metabolite 1", Wirkstoff, gleich<&Eingabe::Name_Met_1>, 1},
+    Merkmal{"name of metabolite 2", Wirkstoff, gleich<&Eingabe::Name_Met_2>, 2},
     Merkmal{"application pattern", Applikation, gleich<&Eingabe::Applikationsmuster>},
     Merkmal{"application date", Applikation, gleich<&Eingabe::App_Monat>},
     Merkmal{"application date", Applikation, gleich<&Eingabe::App_Tag>},
@@ -61,12 +64,21 @@ const std::array Merkmale = {
 
 Satzart Satz_von(const Feldbeschreibung& f) { return f.Gruppe == Feldgruppe::Dosis ? Applikation : Wirkstoff; }
 
-// The value of a field in a study, as a number.
-double Wert_von(const Feldbeschreibung& f, const Eingabe& e, std::size_t st) {
+// Whether a field of a study holds the same; where a record keeps a text, to the letter.
+bool gleiches_Feld(const Feldbeschreibung& f, const Eingabe& a, const Eingabe& b, std::size_t st) {
     const auto c = static_cast<std::size_t>(f.i_substanz);
-    if (const auto* t = std::get_if<Stofftabelle<double> Laufparameter::*>(&f.Ziel)) return (e.Parameter.**t)[c][st];
-    if (const auto* t = std::get_if<Studientabelle<double> Laufparameter::*>(&f.Ziel)) return (e.Parameter.**t)[st];
-    return (e.*std::get<Zahlwert Eingabe::*>(f.Ziel)).Zahl();
+    if (const auto* t = std::get_if<Stofftabelle<double> Laufparameter::*>(&f.Ziel))
+        return (a.Parameter.**t)[c][st] == (b.Parameter.**t)[c][st];
+    if (const auto* t = std::get_if<Studientabelle<double> Laufparameter::*>(&f.Ziel))
+        return (a.Parameter.**t)[st] == (b.Parameter.**t)[st];
+    const Zahlwert Eingabe::*Platz = std::get<Zahlwert Eingabe::*>(f.Ziel);
+    return a.*Platz == b.*Platz;
+}
+
+// The place of the first study that one of them does not have, or has under another name.
+int andere_Studie(const Eingabe& a, const Eingabe& b) {
+    return static_cast<int>(std::mismatch(a.Studie.begin(), a.Studie.end(), b.Studie.begin(), b.Studie.end()).first -
+                            a.Studie.begin());
 }
 
 bool je_Studie(const Feldbeschreibung& f) { return !std::holds_alternative<Zahlwert Eingabe::*>(f.Ziel); }
@@ -82,7 +94,7 @@ void ergaenze(Unterschied& u, const std::string& Name, Satzart Art, int i_studie
 void vergleiche_Feld(Unterschied& u, const Feldbeschreibung& f, const Eingabe& a, const Eingabe& b) {
     const std::size_t Studien = je_Studie(f) ? max_Studien : 1;
     for (std::size_t st = 0; st < Studien; ++st) {
-        if (Wert_von(f, a, st) == Wert_von(f, b, st)) continue;
+        if (gleiches_Feld(f, a, b, st)) continue;
         ergaenze(u, f.Beschriftung, Satz_von(f), je_Studie(f) ? static_cast<int>(st) : -1, f.i_substanz);
     }
 }
@@ -103,7 +115,7 @@ void vergleiche_Kinetik(Unterschied& u, const Eingabe& a, const Eingabe& b) {
 Unterschied vergleiche(const Eingabe& a, const Eingabe& b) {
     Unterschied u;
     for (const Merkmal& m : Merkmale) {
-        if (!m.gleich(a, b)) ergaenze(u, m.Name, m.Art, -1, -1);
+        if (!m.gleich(a, b)) ergaenze(u, m.Name, m.Art, m.je_Studie ? andere_Studie(a, b) : -1, m.i_substanz);
     }
     vergleiche_Kinetik(u, a, b);
     for (const Feldbeschreibung& f : Feldtabelle()) vergleiche_Feld(u, f, a, b);

@@ -30,7 +30,7 @@ std::string nimm_Zahl_an(const Schauplatz& z, const std::string& Feld, const std
 std::string nimm_Zahl_an(Schauplatz& z, const std::string& Feld, const std::string& Text) {
     std::string Meldung;
     const std::string Zahl = nimm_Zahl_an(z, Feld, Text, Meldung);
-    if (!Meldung.empty()) z.Statuszeile.sage(Meldung);
+    z.Statuszeile.sage_Zahl(Meldung);
     return Zahl;
 }
 

@@ -20,8 +20,8 @@ std::string Zustand::Abdeckungswort() const {
         if (Auswahl(Art) < 0 && !Namen[Art].empty()) return Texte::fehlender_Satz(Namen[Art] + Endungen[Art]);
     }
     if (!Saetze_vollstaendig()) return Texte::Satz_fehlt;
-    if (Feld_abgelehnt || Meldung_steht) return Texte::nicht_gueltig;
-    if (Gerechnetes.Grund() && !alles_Gezeigte_gueltig()) return Gerechnetes.Grund()->Wort;
+    if (Feld_abgelehnt) return Texte::nicht_gueltig;
+    if (Gerechnetes.Grund()) return Gerechnetes.Grund()->Wort;  // until an action finds results of the present input
     const std::vector<int> Studien = gezeigte_Studien();
     const bool da = std::all_of(Studien.begin(), Studien.end(), [this](int st) { return Gerechnetes.vorhanden(st); });
     return da ? "" : Texte::Eingabe_geaendert;

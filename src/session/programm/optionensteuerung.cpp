@@ -11,6 +11,7 @@
 #include "exposure/twa.h"
 #include "records/schreibort.h"
 #include "session/kern/texte.h"
+#include "session/kern/versuch.h"
 #include "session/programm/einstellungsdatei.h"
 #include "session/saetze/sicherungsgut.h"
 
@@ -105,12 +106,10 @@ void Optionensteuerung::merke_Aenderungen(const Optionsentwurf& Neue) {
 
 // Tooltips once attached stay until the program ends.
 void Optionensteuerung::sage_Tips_ab() {
-    try {
+    versuche(z_, [&] {
         verlange_Schreibrecht(z_);
         Einstellungen_schreiben(z_);
-    } catch (const Laufzeitfehler& f) {
-        melde_Fehler(z_, f.what());
-    }
+    });
     melde(z_, "Tooltips", "The tooltips will be switched off when you exit VARNOK and call it again!");
 }
 

@@ -10,6 +10,7 @@
 #include "records/simulation.h"
 #include "records/voreinstellungen.h"
 #include "session/kern/texte.h"
+#include "session/kern/versuch.h"
 #include "session/programm/einstellungsdatei.h"
 
 namespace varnok {
@@ -76,28 +77,12 @@ std::vector<std::string> Startfolge(const Eingabestand& z) {
     return Namen;
 }
 
-// The text of a fault, empty without one.
-template <class Handlung>
-std::string Fehler_bei(Handlung h) {
-    try {
-        h();
-        return {};
-    } catch (const Laufzeitfehler& f) {
-        return f.what();
-    }
-}
-
 }  // namespace
 
 // Loads the first simulation of the order whose summary file can be read. False without any, or if the program ends.
 bool Programmablauf::lade_erste() {
     for (const std::string& Name : Startfolge(z_)) {
-        try {
-            Saetze_.lade_Start(Name);
-            return !z_.beendet();
-        } catch (const Laufzeitfehler& f) {
-            melde_Fehler(z_, f.what());
-        }
+        if (versuche(z_, [&] { Saetze_.lade_Start(Name); })) return !z_.beendet();
     }
     Saetze_.beende_oder_stelle_her("Input files are missing. Should the default settings be loaded ", true);
     return false;
@@ -156,8 +141,12 @@ void Programmablauf::beende() {
 
 bool Programmablauf::schliesse_Fenster() {
     if (z_.beendet()) return true;
+    // No check: what is in work counts as typed, where it can.
     Felder_.nimm_Ungueltiges_zurueck();
-    Studien_.bestaetige(false);  // a name in the box counts as typed
+    Tabelle_.nimm_Ungueltiges_zurueck();
+    Tabelle_.schliesse_ab();
+    Felder_.schliesse_ab(false);
+    Studien_.bestaetige(false);
     const auto zu_sichern = Saetze_.frage_nach_Sicherung();
     if (!zu_sichern) return false;
     if (!zu_sichern->empty() && !Saetze_.speichere_Arten(*zu_sichern)) return false;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "session/eingabe/applikationstabelle.h"
 #include "session/eingabe/feldeingabe.h"
 #include "session/eingabe/listenwahl.h"
 #include "session/saetze/satzverwaltung.h"
@@ -12,14 +13,23 @@ namespace varnok {
 class Programmablauf {
 public:
     Programmablauf(Zustand& z, Satzverwaltung& Saetze, Feldeingabe& Felder, Listenwahl& Listen, Studienverwaltung& Studien,
-                   Zwischensicherung& Zwischenstand)
-        : z_(z), Saetze_(Saetze), Felder_(Felder), Listen_(Listen), Studien_(Studien), Zwischenstand_(Zwischenstand) {}
+                   Applikationstabelle& Tabelle, Zwischensicherung& Zwischenstand)
+        : z_(z),
+          Saetze_(Saetze),
+          Felder_(Felder),
+          Listen_(Listen),
+          Studien_(Studien),
+          Tabelle_(Tabelle),
+          Zwischenstand_(Zwischenstand) {}
 
     // Up to the start page: settings, project folder, selectors, the simulation used last and its records. False if the program
     // ends there.
     bool oeffne_Projekt();
     // The start page is left: the first run.
     void starte();
+    // A dialog is to open: the command is what stands around it, which accepts what is in work on the main screen. False where
+    // that was refused: then it does not open.
+    bool beginne_Dialog() { return true; }
     // The button `Ende`: offers to save, writes summary file and settings; what is not saved is in `backup`. Files that cannot be
     // written are told.
     void beende();
@@ -35,6 +45,7 @@ private:
     Feldeingabe& Felder_;
     Listenwahl& Listen_;
     Studienverwaltung& Studien_;
+    Applikationstabelle& Tabelle_;
     Zwischensicherung& Zwischenstand_;
 };
 

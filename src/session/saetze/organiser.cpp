@@ -24,6 +24,15 @@ std::string Dateibytes(const Eingabestand& z, const std::string& Name) {
     return Pfad ? lies_Datei_falls_moeglich(*Pfad).value_or("") : "";
 }
 
+// What a save of just these bytes would write; themselves where they are no summary file.
+std::string Speicherbild_der_Datei(const std::string& Bytes) {
+    try {
+        return Simulation_als_Bytes(zerlege_Simulation(Bytes, {}));
+    } catch (const Laufzeitfehler&) {
+        return Bytes;
+    }
+}
+
 // What "Done" changes on the main screen until the summary file is written.
 class Merkstand {
 public:
@@ -46,7 +55,6 @@ private:
 void Organiser::oeffne() {
     gewaehlt_.fill(false);
     umbenannt_ = Szenario_bearbeitet_ = Lauf_ = false;
-    Beschreibung_.schliesse();
     Projektname_ = alter_Projektname_ = alte_Beschreibung_ = z_.Felder().Beschreibung;
     Listen_.Namen = z_.Namen;
     for (const Satzart Art : alle_Arten) Befehle_.lies_Liste(Art);
@@ -102,8 +110,8 @@ void Organiser::waehle_mit_Inhalt(Satzart Art) {
 
 void Organiser::kopiere(Satzart Art) {
     const std::vector<std::string> vorher = Listen_.Listen[Art];
-    z_.Statuszeile.leere();
     if (!Befehle_.kopiere(Art)) return;
+    z_.Statuszeile.vergiss_Frueheres();
     // The copy may have replaced the file of what the main screen shows.
     const std::string neu = Listen_.gewaehlt(Art);
     if (enthaelt(vorher, neu) && z_.gewaehlt(Art) == neu) entwerte_im_Hauptformular(Art, Texte::Satz_ersetzt);
@@ -112,17 +120,17 @@ void Organiser::kopiere(Satzart Art) {
 }
 
 void Organiser::loesche(Satzart Art) {
-    z_.Statuszeile.leere();
     if (!Befehle_.loesche(Art)) return;
+    z_.Statuszeile.vergiss_Frueheres();
     ziehe_Hauptformular_nach(Art);
     waehle_mit_Inhalt(Art);
 }
 
 bool Organiser::benenne_um(Satzart Art, const std::string& Text, bool mit_Frage) {
     const std::string alt = Listen_.gewaehlt(Art);
-    z_.Statuszeile.leere();
     const Umbenennung Ausgang = Befehle_.benenne_um(Art, Text, mit_Frage);
     if (Ausgang != Umbenennung::erfolgt) return Ausgang == Umbenennung::unveraendert;
+    z_.Statuszeile.vergiss_Frueheres();
     umbenannt_ = true;
     const std::string neu = Listen_.gewaehlt(Art);
     // A file of that name was replaced if the main screen shows what stood in it.
@@ -147,7 +155,7 @@ void Organiser::ziehe_Hauptformular_nach(Satzart Art, const std::string& alt, co
         entwerte_im_Hauptformular(Art, gezeigt.empty() ? Texte::Satz_ersetzt : Texte::Satz_geloescht);
     if (!umbenannt) return;
     z_.Saetze[Art].benenne(neu);
-    if (z_.Gestartet) z_.merke_Kombination();
+    if (z_.Gestartet) z_.Saetze[Simulation].merke_Aenderung();
 }
 
 // The file of what the main screen shows is gone: a save from there must not bring it back under a name that is taken by now.
@@ -233,11 +241,10 @@ bool Organiser::uebernimm() {
     }
     pruefe_Dateien();
     const std::vector<Satzart> Arten = zu_lesende();
-    z_.Statuszeile.leere();
+    z_.Statuszeile.vergiss_Frueheres();
     sichere(Arten);
     if (!uebergib()) return false;
     z_.Saetze[Simulation].vergiss_Aenderung();
-    z_.vergiss_Kombination();
     Lauf_ = Lauf;
     if (!Lauf) return true;
     for (const Satzart Art : Arten) {
@@ -254,7 +261,7 @@ bool Organiser::uebergib() {
     const Merkstand vorher(z_);
     gib_Listen_weiter();
     z_.Felder().Beschreibung = Projektname_;
-    z_.Saetze[Simulation].kenne({z_.gewaehlt(Simulation), gelesen_});
+    z_.Saetze[Simulation].kenne({z_.gewaehlt(Simulation), gelesen_}, Speicherbild_der_Datei(gelesen_));
     if (z_.Auswahl(Simulation) < 0) return true;  // the folder has no simulation
     if (z_.nur_lesbar) return true;               // what was put together here is looked at, and written nowhere
     bool geschrieben = false;

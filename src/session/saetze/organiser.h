@@ -4,7 +4,6 @@
 #include <string>
 #include <vector>
 
-#include "session/saetze/beschreibungseingabe.h"
 #include "session/saetze/satzbefehle.h"
 #include "session/saetze/satzverwaltung.h"
 #include "session/saetze/satzwaechter.h"
@@ -16,8 +15,7 @@ namespace varnok {
 // has another name follows at once, too, so that nothing there stands under a name that means another file.
 class Organiser {
 public:
-    Organiser(Eingabestand& z, Satzverwaltung& Saetze, Beschreibungseingabe& Beschreibung)
-        : z_(z), Saetze_(Saetze), Beschreibung_(Beschreibung), Befehle_(z, Listen_) {}
+    Organiser(Eingabestand& z, Satzverwaltung& Saetze) : z_(z), Saetze_(Saetze), Befehle_(z, Listen_) {}
 
     // Fills the lists from the project folder and shows what the main screen shows: simulation, records, description. Without a
     // simulation there, the last one of the list with the records of its file; one that cannot be read throws.
@@ -68,7 +66,6 @@ private:
 
     Eingabestand& z_;
     Satzverwaltung& Saetze_;
-    Beschreibungseingabe& Beschreibung_;
     Satzlisten Listen_;
     Satzbefehle Befehle_;
     Satzwaechter Waechter_{z_};

@@ -56,11 +56,11 @@ void Satzverwaltung::erklaere_fehlend(Satzart Art) {
 bool Satzverwaltung::lies_Satz(Satzart Art, const std::string& Satzname) {
     const int alte_TWA_Zeiten = z_.Parameter().TWA_Zeiten;
     Lesebefund Befund;
-    try {
-        Befund = Satz_lesen(*z_.Ordner, Satzname, Art, z_.Vorgabe, z_.Sicht, z_.Welt.Dezimalzeichen);
-    } catch (const Laufzeitfehler& f) {
-        erklaere_ungelesen(Art, f.what());
-        melde_Fehler(z_, f.what());
+    const std::string Fehler =
+        Fehler_bei([&] { Befund = Satz_lesen(*z_.Ordner, Satzname, Art, z_.Vorgabe, z_.Sicht, z_.Welt.Dezimalzeichen); });
+    if (!Fehler.empty()) {
+        erklaere_ungelesen(Art, Fehler);
+        melde_Fehler(z_, Fehler);
         return false;
     }
     if (Befund.Ausgang == Leseausgang::fehlt) {
@@ -71,9 +71,8 @@ bool Satzverwaltung::lies_Satz(Satzart Art, const std::string& Satzname) {
         erklaere_ungelesen(Art, Satzname + Endungen[Art] + ", line " + std::to_string(Befund.Zeile) + ": " + Befund.Grund);
         return false;
     }
-    Waechter_.merke(Art, Satzname);
     folge_dem_Satz(Art, alte_TWA_Zeiten);
-    Waechter_.merke_Gespeichertes(Art);
+    Waechter_.merke(Art, Satzname);
     return true;
 }
 
@@ -97,8 +96,6 @@ void Satzverwaltung::uebernimm(const std::string& Simulation, const Simulationss
     z_.Namen[varnok::Simulation] = Simulation;
     for (Satzplatz& p : z_.Saetze) p.verlange();
     Waechter_.merke(varnok::Simulation, Simulation);
-    z_.vergiss_Kombination();
-    Waechter_.merke_Gespeichertes(varnok::Simulation);
 }
 
 void Satzverwaltung::lade_Start(const std::string& Simulation) {
@@ -114,7 +111,7 @@ void Satzverwaltung::waehle_Simulation(int Position) {
     const std::string Fremdes = Waechter_.Fremdes(alle_Arten);
     if (!z_.Ordner->finde(Simulation, Endungen[0])) Befehle_.lies_Liste(varnok::Simulation);
     const Simulationssatz Satz = lies_Simulation(*z_.Ordner, Simulation);
-    z_.Statuszeile.leere();
+    z_.Statuszeile.vergiss_Frueheres();
     sichere_Ungesichertes();
     stelle_voran(Fremdes);
     uebernimm(Simulation, Satz);
@@ -138,7 +135,7 @@ bool Satzverwaltung::lies_fehlende_Saetze() {
 void Satzverwaltung::schliesse_Laden_ab() { Laeufe_.berechne(); }
 
 void Satzverwaltung::merke_Kombination() {
-    if (z_.Gestartet) z_.merke_Kombination();
+    if (z_.Gestartet) z_.Saetze[Simulation].merke_Aenderung();
 }
 
 void Satzverwaltung::waehle_Satz(Satzart Art, int Position) {
@@ -152,7 +149,6 @@ void Satzverwaltung::waehle_Satz(Satzart Art, int Position) {
     };
     const Knopf Antwort = wird_gefragt(Art) ? frage_Sicherung(Art, neu) : Knopf::Nein;
     if (Antwort == Knopf::nicht_jetzt) return;
-    z_.Statuszeile.leere();
     // The selector shows the record chosen already, so Yes stores the values of the record left under the name of the one chosen.
     z_.Namen[Art] = neu;
     merke_Kombination();
@@ -163,6 +159,7 @@ void Satzverwaltung::waehle_Satz(Satzart Art, int Position) {
         kehre_zurueck();
         throw;
     }
+    z_.Statuszeile.vergiss_Frueheres();
     stelle_voran(Fremdes);
     z_.Saetze[Art].verlange();
     if (lies_fehlende_Saetze()) schliesse_Laden_ab();
@@ -172,9 +169,9 @@ void Satzverwaltung::lege_an(Satzart Art) {
     verlange_Schreibrecht(z_);
     const std::string Fremdes = Waechter_.Fremdes({Art});
     Befehle_.Vorlage(Art);
-    z_.Statuszeile.leere();
     sichere_vor_dem_Lesen(Art);
     Befehle_.lege_an(Art);
+    z_.Statuszeile.vergiss_Frueheres();
     stelle_voran(Fremdes);
     merke_Kombination();
     z_.Saetze[Art].verlange();
@@ -183,8 +180,8 @@ void Satzverwaltung::lege_an(Satzart Art) {
 
 void Satzverwaltung::kopiere(Satzart Art) {
     const std::string Fremdes = Waechter_.Fremdes({Art});
-    z_.Statuszeile.leere();
     if (!Befehle_.kopiere(Art)) return;
+    z_.Statuszeile.vergiss_Frueheres();
     stelle_voran(Fremdes);
     z_.Saetze[Art].folge_der_Kopie(z_.gewaehlt(Art));
     if (Art != Simulation) merke_Kombination();
@@ -192,8 +189,8 @@ void Satzverwaltung::kopiere(Satzart Art) {
 
 void Satzverwaltung::loesche(Satzart Art) {
     const std::string Fremdes = Waechter_.Fremdes({Art});
-    z_.Statuszeile.leere();
     if (!Befehle_.loesche(Art, Waechter_.Ungesichertes({Art}))) return;
+    z_.Statuszeile.vergiss_Frueheres();
     stelle_voran(Fremdes);
     z_.Saetze[Art].verwirf(Texte::Satz_geloescht);
 }
@@ -201,9 +198,9 @@ void Satzverwaltung::loesche(Satzart Art) {
 bool Satzverwaltung::benenne_um(Satzart Art, const std::string& Text, bool mit_Frage) {
     const std::string alt = z_.gewaehlt(Art);
     const std::string Fremdes = Waechter_.Fremdes({Art});
-    z_.Statuszeile.leere();
     const Umbenennung Ausgang = Befehle_.benenne_um(Art, Text, mit_Frage);
     if (Ausgang != Umbenennung::erfolgt) return Ausgang == Umbenennung::unveraendert;
+    z_.Statuszeile.vergiss_Frueheres();
     z_.Saetze[Art].benenne(z_.gewaehlt(Art));
     merke_Kombination();
     nenne_Simulationen_mit(Art, alt, z_);
@@ -257,7 +254,6 @@ void Satzverwaltung::lies_neu(const std::vector<Satzart>& Arten) {
 bool Satzverwaltung::lies_auf_Wunsch_nach() {
     if (!z_.Saetze[Simulation].gelesen() && z_.Auswahl(Simulation) >= 0) return lies_nach();
     const std::string Fremdes = Waechter_.Fremdes(alle_Arten);
-    z_.Statuszeile.leere();
     if (!z_.Saetze_vollstaendig()) sichere_vor_dem_Lesen(Simulation);
     stelle_voran(Fremdes);
     if (!lies_nach()) return false;
@@ -302,16 +298,11 @@ bool Satzverwaltung::speichere_Arten(std::vector<Satzart> Arten) {
     if (!pruefe_Auswahl({Knopf::OK, Knopf::Abbrechen})) return false;
     Arten.insert(Arten.begin(), Simulation);
     const std::string Fremdes = Waechter_.Fremdes(Arten);
-    const std::string bisher = z_.Statuszeile.nimm();
-    if (Waechter_.schreibe(Arten) != Schreibausgang::geschrieben) {
-        z_.Statuszeile.sage(bisher);
-        return false;
-    }
+    if (Waechter_.schreibe(Arten) != Schreibausgang::geschrieben) return false;
     if (z_.Auswahl(Simulation) < 0) Befehle_.lies_Liste(Simulation);
     for (const Satzart Art : Arten) {
         if (Art != Simulation) z_.Saetze[Art].vergiss_Aenderung();
     }
-    z_.vergiss_Kombination();
     stelle_voran(Fremdes);
     stelle_voran(Sicherungszeile(Arten));
     return true;

@@ -17,10 +17,8 @@ std::string Name_des_Ungesicherten(const Eingabestand& z, Satzart Art) {
 
 void Satzwaechter::merke(Satzart Art, const std::string& Name) {
     const auto Pfad = z_.Ordner->finde(Name, Endungen[Art]);
-    z_.Saetze[Art].lies({Name, Pfad ? lies_Datei_falls_moeglich(*Pfad).value_or("") : ""});
+    z_.Saetze[Art].lies({Name, Pfad ? lies_Datei_falls_moeglich(*Pfad).value_or("") : ""}, z_.Speicherbild(Art));
 }
-
-void Satzwaechter::merke_Gespeichertes(Satzart Art) { z_.Saetze[Art].vergleiche_mit(z_.Speicherbild(Art)); }
 
 Satzwaechter::Dateizustand Satzwaechter::Zustand_der_Datei(Satzart Art) const {
     const Dateistand& bekannt = z_.Saetze[Art].Datei();

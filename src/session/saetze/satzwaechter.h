@@ -16,10 +16,9 @@ class Satzwaechter {
 public:
     explicit Satzwaechter(Eingabestand& z) : z_(z) {}
 
-    // The values of the file of that name are on the screen: its content is known.
+    // The values of the file of that name are on the screen: its content is known, and what a save would write from now on is
+    // what makes a difference.
     void merke(Satzart Art, const std::string& Name);
-    // The values on the screen are those of the file: what a save would write from now on is what makes a difference.
-    void merke_Gespeichertes(Satzart Art);
 
     // Writes the files that the selectors name from the values on the screen: all of them, or none where the user does not want
     // one replaced, or not now. A type that was not read is left out; what was entered for such a record goes into `backup`.

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <exception>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "records/sicherung.h"
 #include "session/kern/schauplatz.h"
+#include "session/kern/versuch.h"
 
 namespace varnok {
 
@@ -18,12 +18,6 @@ struct Sicherungsgut {
     // A file as it is on the disk.
     void nimm_Datei(const std::string& Pfad, const std::string& Dateiname);
     void nimm(Sicherungsgut anderes);
-};
-
-// The user does not want a command done that drops what cannot be kept. Ends the command without a further message.
-class Befehl_aufgegeben : public std::exception {
-public:
-    const char* what() const noexcept override { return "The command was given up."; }
 };
 
 // Puts it into `backup`; the status line names the place. What cannot be kept is told, and the user asked whether to go on: where

@@ -25,7 +25,7 @@ Sicherungsgut Dateien_der_Startsimulation(const Eingabestand& z) {
 
 void Satzverwaltung::lade_Voreinstellungen() {
     verlange_Schreibrecht(z_);
-    z_.Statuszeile.leere();
+    z_.Statuszeile.vergiss_Frueheres();
     sichere_Ungesichertes(Dateien_der_Startsimulation(z_));
     stelle_Voreinstellungen_her(*z_.Ordner, {z_.Welt.installierte_Daten, z_.Welt.Programmpfad});
     z_.beende();
@@ -53,7 +53,6 @@ bool Satzverwaltung::lade_Zwischenstand(const Zwischenstand& Stand) {
     z_.Felder().Beschreibung = Satz.Beschreibung;
     for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) z_.Namen[Art] = Satz.Dateinamen[Art];
     z_.Saetze[Simulation].stelle_Marke(z_.verschieden(Simulation));
-    if (Satz.Dateinamen != gespeicherter.Dateinamen) z_.merke_Kombination();
     beim_Start_ = true;
     bool alles = lies_fehlende_Saetze();
     beim_Start_ = false;

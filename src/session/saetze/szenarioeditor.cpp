@@ -237,7 +237,7 @@ void Szenarioeditor::uebernimm_Namen() {
     if (Name == z_.gewaehlt(varnok::Szenario)) return;
     z_.Listen[varnok::Szenario] = z_.Ordner->Namen(Endungen[varnok::Szenario]);
     z_.Namen[varnok::Szenario] = Name;
-    z_.merke_Kombination();
+    z_.Saetze[Simulation].merke_Aenderung();
 }
 
 void Szenarioeditor::verlasse_Zahl(Szenarioentwurf::Feld f) {
@@ -279,7 +279,7 @@ void Szenarioeditor::schliesse() {
     Saetze_.lies_Szenario_nach();
     if (std::exchange(Lauf_faellig_, false)) Laeufe_.berechne();
     Laeufe_.oeffne_Szenarioeditor();
-    if (!Gelesenes_.empty()) z_.Statuszeile.sage(Gelesenes_);
+    z_.Statuszeile.sage_Zahl(Gelesenes_);
 }
 
 }  // namespace varnok

@@ -136,7 +136,7 @@ void Wiederherstellung::stelle_her(const std::vector<Gesichertes>& Gewaehlte) {
     if (Gewaehlte.empty()) return;
     verlange_Schreibrecht(z_);
     const std::vector<Auftrag> Auftraege = stelle_zusammen(Gewaehlte);
-    z_.Statuszeile.leere();
+    z_.Statuszeile.vergiss_Frueheres();
     sichere(z_, ersetztes(Auftraege));
     const std::string gesichert = z_.Statuszeile.nimm();
     std::string Namen;

@@ -16,12 +16,9 @@ Zwischenstand Zwischensicherung::jetziger() const {
 
 bool Zwischensicherung::biete_an() {
     std::optional<std::string> Bytes;
-    try {
+    unerledigt_ = !versuche(z_, [&] {
         if (zustaendig()) Bytes = lies_Zwischenstand(*z_.Ordner);
-    } catch (const Laufzeitfehler& Fehler) {
-        unerledigt_ = true;
-        melde_Fehler(z_, Fehler.what());
-    }
+    });
     if (!Bytes) return false;
     const auto Stand = zerlege_Zwischenstand(*Bytes);
     Sicherungsgut Gut{{{"unsaved values", *Bytes}}, {}};
@@ -33,28 +30,19 @@ bool Zwischensicherung::biete_an() {
     for (const Sicherungsstueck& s : Gut.Stuecke) Text += "\n'" + s.Dateiname + "'";
     const Frage f{Texte::Ungesichertes, Text + "\nDo you want them back?", Symbol::Frage, {Knopf::Ja, Knopf::Nein}};
     const bool gewuenscht = Stand && z_.Welt.Fragen->frage(f) == Knopf::Ja;
-    try {
+    unerledigt_ = !versuche(z_, [&] {
         sichere(z_, Gut);
         loesche_Zwischenstand(*z_.Ordner);
-    } catch (const Befehl_aufgegeben&) {
-        unerledigt_ = true;
-    } catch (const Laufzeitfehler& Fehler) {
-        unerledigt_ = true;
-        melde_Fehler(z_, Fehler.what());
-    }
+    });
     return gewuenscht && lade(*Stand);
 }
 
 bool Zwischensicherung::lade(const Zwischenstand& Stand) {
-    try {
+    return versuche(z_, [&] {
         if (!Saetze_.lade_Zwischenstand(Stand))
             melde(z_, Texte::Ungesichertes,
                   "Not all of the values could be brought back. They are kept in the folder \"backup\".");
-        return true;
-    } catch (const Laufzeitfehler& Fehler) {
-        melde_Fehler(z_, Fehler.what());
-        return false;
-    }
+    });
 }
 
 void Zwischensicherung::schreibe() {

@@ -70,7 +70,7 @@ Diagrammflaeche* Ergebnisbereich::Flaeche_vorn(const Seite& s) const {
 }
 
 Diagrammflaeche* Ergebnisbereich::Flaeche_fuer_Befehl() {
-    if (!schliesse_Feld_ab() || Stand().abgedeckt() || !Stand().Gestartet) return nullptr;
+    if (!befiehl<&Programmablauf::beginne_Dialog>() || Stand().abgedeckt() || !Stand().Gestartet) return nullptr;
     Diagrammflaeche* d = Flaeche_vorn();
     return d->Inhalt() ? d : nullptr;
 }

@@ -261,7 +261,7 @@ void Hauptformular::oeffne_Optionen() {
     bool frei = false;
     {
         const Wartezeiger warte;
-        frei = Programm_.fuehre_aus<&Feldeingabe::schliesse_ab>(true);
+        frei = Programm_.fuehre_aus<&Programmablauf::beginne_Dialog>();
     }
     nach_Handlung();
     if (!frei) return;
@@ -280,7 +280,7 @@ void Hauptformular::nach_Optionen() {
 }
 
 void Hauptformular::stelle_wieder_her() {
-    const bool frei = Programm_.fuehre_aus<&Feldeingabe::schliesse_ab>(true);
+    const bool frei = Programm_.fuehre_aus<&Programmablauf::beginne_Dialog>();
     nach_Handlung();
     if (!frei) return;
     std::vector<Gesichertes> Gewaehlte;
@@ -316,10 +316,7 @@ void Hauptformular::oeffne_Organiser() {
 }
 
 void Hauptformular::waehle_Fehlerzelle() {
-    const Zustand& z = Programm_.Stand();
-    if (Programm_.zeige<Laufsteuerung>().Tabellenfehler() &&
-        (z.abgedeckt() || Programm_.zeige<Applikationstabelle>().ist_in_Arbeit()))
-        Applikation_->waehle_Zelle(*Programm_.zeige<Laufsteuerung>().Tabellenfehler());
+    if (const auto Zelle = Programm_.fuehre_aus<&Laufsteuerung::nimm_Tabellenfehler>()) Applikation_->waehle_Zelle(*Zelle);
 }
 
 // What a field tells of a character that it did not take. Actions of the menu tell with an empty text, too.

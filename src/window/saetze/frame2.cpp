@@ -45,9 +45,7 @@ Frame2::Frame2(Sitzung& Programm, QWidget* parent) : Rahmen(u"Frame2"_s, Rahmena
 }
 
 // A number that is refused keeps the focus, and the description stays locked.
-void Frame2::schliesse_auf() {
-    if (Programm_.fuehre_aus<&Feldeingabe::schliesse_ab>(true)) Programm_.fuehre_aus<&Beschreibungseingabe::oeffne>();
-}
+void Frame2::schliesse_auf() { Programm_.fuehre_aus<&Beschreibungseingabe::oeffne>(); }
 
 void Frame2::zeige() {
     Simulation_->zeige();

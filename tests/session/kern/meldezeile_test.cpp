@@ -17,47 +17,64 @@ public:
 
 class Meldezeilenprobe : public ::testing::Test {
 protected:
-    void ende(bool geaendert) { Zeile_.schliesse_ab(geaendert, Zeit_); }
+    Meldezeilenprobe() { Zeile_.stelle_Uhr(&Zeit_); }
 
     stehende_Uhr Zeit_;
     Meldezeile Zeile_;
 };
 
-TEST_F(Meldezeilenprobe, SagtMitUhrzeit) {
-    Zeile_.sage("Report written");
+TEST_F(Meldezeilenprobe, SagtMitUhrzeitAuchMittenInEinerHandlung) {
     EXPECT_EQ(Zeile_.Zeit(), "");
-    ende(true);
-    EXPECT_EQ(Zeile_.Text(), "Report written");
+    Zeile_.sage("Report written");
     EXPECT_EQ(Zeile_.Zeit().size(), 5U);
     EXPECT_EQ(Zeile_.Zeit()[2], ':');
+    Zeile_.schliesse_ab(true);
+    EXPECT_EQ(Zeile_.Text(), "Report written");
 }
 
 TEST_F(Meldezeilenprobe, GehtMitDerNaechstenAenderung) {
     Zeile_.sage("Report written");
-    ende(false);
-    ende(false);
+    Zeile_.schliesse_ab(false);
+    Zeile_.schliesse_ab(false);
     EXPECT_EQ(Zeile_.Text(), "Report written");
-    ende(true);
+    Zeile_.schliesse_ab(true);
     EXPECT_EQ(Zeile_.Text(), "");
 }
 
 TEST_F(Meldezeilenprobe, EinesFeldesGehoertZumBefehlDerEsAnnimmt) {
-    const std::string gesagt = Zeile_.gesagt();
-    Zeile_.sage("1,5 was taken as 1.5");
-    ende(true);
-    Zeile_.zaehle_zur_naechsten(gesagt);
-    ende(true);
-    EXPECT_EQ(Zeile_.Text(), "1,5 was taken as 1.5");
+    Zeile_.sage("Report written");
+    Zeile_.schliesse_ab(false);
+    const int begonnen = Zeile_.Handlung();
+    Zeile_.sage_Zahl("1,5x was read as 1.5.");
+    Zeile_.schliesse_ab(true);
+    EXPECT_EQ(Zeile_.Text(), "1,5x was read as 1.5.");
+    Zeile_.zaehle_zur_naechsten(begonnen);
+    Zeile_.sage("Saved.");
+    Zeile_.schliesse_ab(true);
+    EXPECT_EQ(Zeile_.Text(), "1,5x was read as 1.5. Saved.");
+    Zeile_.sage("Copied.");
+    EXPECT_EQ(Zeile_.Text(), "Copied.");
 }
 
-TEST_F(Meldezeilenprobe, FuegtZusammenWasMehrereSagen) {
+TEST_F(Meldezeilenprobe, FuegtZusammenWasMehrereSagenUndNurVonEinerHandlung) {
+    Zeile_.sage("Of the action before.");
+    Zeile_.schliesse_ab(false);
     Zeile_.sage_dazu("second.");
     Zeile_.stelle_voran("First.");
     Zeile_.sage_dazu("");
     Zeile_.stelle_voran("");
     Zeile_.sage_dazu("Third.");
     EXPECT_EQ(Zeile_.Text(), "First. second. Third.");
+    Zeile_.vergiss_Frueheres();
     EXPECT_EQ(Zeile_.nimm(), "First. second. Third.");
+    EXPECT_EQ(Zeile_.Text(), "");
+}
+
+TEST_F(Meldezeilenprobe, VergisstWasFruehereHandlungenSagten) {
+    Zeile_.sage("Copied.");
+    Zeile_.schliesse_ab(false);
+    EXPECT_EQ(Zeile_.nimm(), "");
+    Zeile_.vergiss_Frueheres();
     EXPECT_EQ(Zeile_.Text(), "");
 }
 
