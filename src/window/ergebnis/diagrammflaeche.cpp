@@ -22,7 +22,8 @@ namespace {
 using namespace Qt::StringLiterals;
 
 constexpr double gewohnte_Schrift = 12;  // pixels of the usual letters of a desktop
-constexpr double Schildrand = 2;         // units around a label
+constexpr double Schildrand = 2;         // units below the title and around a name
+constexpr double Seitenrand = 6;         // units beside a title
 
 // Units that a line of a label takes.
 double Zeilenhoehe_Schild() { return std::ceil(QFontMetricsF(Diagrammschrift(Schriftgroesse_Fenster, true)).height()); }
@@ -172,7 +173,7 @@ void Diagrammflaeche::waehle_Tafelsatz() {
 
 double Diagrammflaeche::bestimme_Kopf() {
     constexpr int kleinster_Titel = 9;
-    const double Breite = Groesse().width() - 2 * Schildrand - 1;
+    const double Breite = Groesse().width() - 2 * Seitenrand - 1;
     Titelsatz_ = setze_in_zwei_Zeilen(in_Qt(Inhalt_->Titel.Text), Breite, Schriftgroesse_Titel, kleinster_Titel, true, false);
     const int Kommentargroesse = std::min(Schriftgroesse_Fenster, Titelsatz_.Groesse - 1);
     Kommentarsatz_ =
@@ -189,7 +190,7 @@ void Diagrammflaeche::setze_Schild(Schildname s, const Beschriftung& b, const Ti
     QFont Schrift = Diagrammschrift(Satz.Groesse, b.fett);
     Schrift.setPixelSize(static_cast<int>(std::lround(Schrift.pixelSize() * Massstab_)));
     const QFontMetrics Masse(Schrift);
-    const auto Rand = static_cast<int>(Schildrand * Massstab_);
+    const auto Rand = static_cast<int>((mittig ? Seitenrand : Schildrand) * Massstab_);
     QStringList Zeilen;
     int Breite = 0;
     for (const QString& z : Satz.Zeilen) {

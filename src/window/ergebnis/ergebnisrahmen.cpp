@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QRegularExpression>
 #include <QSet>
 #include <QStyle>
 #include <QStyledItemDelegate>
@@ -225,7 +226,21 @@ int Ergebnisrahmen::Spaltenbreite(int Flaechenbreite) const {
     if (n <= 3) return std::max(1, std::min(Ziffern(*this, gewohnte), passend));
     // The grid of many studies takes no more than two thirds of the surface, as far as its numbers let it.
     const int noetig = Ziffern(*this, Satz_ == Tafelsatz::gewohnt ? 8 : 7);
-    return std::max(1, std::min({Ziffern(*this, gewohnte), std::max(noetig, Flaechenbreite * 2 / 3 / n), passend}));
+    const int erlaubt = std::max(noetig, Flaechenbreite * 2 / 3 / n);
+    const int Wort = Kopfwortbreite();
+    const int bequem = std::max(Ziffern(*this, gewohnte), Wort <= erlaubt ? Wort : 0);
+    return std::max(1, std::min({bequem, erlaubt, passend}));
+}
+
+int Ergebnisrahmen::Kopfwortbreite() const {
+    static const QRegularExpression Ende(u"(?<=-)| "_s);
+    int Breite = 0;
+    for (int j = 1; j < Tafel_->columnCount(); ++j) {
+        const QTableWidgetItem* Kopf = Tafel_->item(0, j);
+        for (const QString& Wort : Kopf ? Kopf->text().split(Ende) : QStringList())
+            Breite = std::max(Breite, fontMetrics().horizontalAdvance(Wort) + Zellenrand + 1);
+    }
+    return Breite;
 }
 
 int Ergebnisrahmen::Namensbreite() const {

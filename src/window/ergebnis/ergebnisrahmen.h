@@ -43,7 +43,8 @@ private:
     bool letzte_Zeile_leer() const;
     int Platz_fuer_Spalten(int Flaechenbreite) const;
     int Spaltenbreite(int Flaechenbreite) const;
-    int Namensbreite() const;  // of the names of the rows
+    int Namensbreite() const;    // of the names of the rows
+    int Kopfwortbreite() const;  // of the longest word that the head of a study cannot break
     // Hides rows, and gives how many are seen.
     int falte();
     bool zugeklappt() const { return Satz_ == Tafelsatz::gefaltet && !im_Fokus_; }
