@@ -135,14 +135,19 @@ std::vector<Rahmenstand> ordne_Rahmen(const Rahmenfeld& f, const std::vector<Rah
 
 std::size_t waehle_Groesse(const Rahmenfeld& f, std::vector<Rahmenwunsch> Rahmen, const std::vector<Rahmengroesse>& Groessen) {
     constexpr double zu_viel = 0.4;
-    Rahmenwunsch& w = Rahmen.back();
-    for (std::size_t i = 0; i + 1 < Groessen.size() && !w.gezogen; ++i) {
-        w.Breite = Groessen[i].Breite;
-        w.Hoehe = Groessen[i].Hoehe;
-        if (waehle_Plaetze(f, Rahmen).frei) return i;
-    }
-    const Rahmengroesse& erste = Groessen.front();
-    return erste.Breite * erste.Hoehe > zu_viel * f.Raum.Breite * f.Raum.Hoehe ? Groessen.size() - 1 : 0;
+    const std::size_t letzte = Groessen.size() - 1;
+    const auto ist_frei = [&](const Rahmengroesse& g) {
+        Rahmen.back().Breite = g.Breite;
+        Rahmen.back().Hoehe = g.Hoehe;
+        return !Rahmen.back().gezogen && waehle_Plaetze(f, Rahmen).frei;
+    };
+    const auto ertraeglich = [&](const Rahmengroesse& g) { return g.Breite * g.Hoehe <= zu_viel * f.Raum.Breite * f.Raum.Hoehe; };
+    const auto Ende = Groessen.begin() + static_cast<std::ptrdiff_t>(letzte);
+    if (const auto freie = std::find_if(Groessen.begin(), Ende, ist_frei); freie != Ende)
+        return static_cast<std::size_t>(freie - Groessen.begin());
+    if (ertraeglich(Groessen.front())) return 0;
+    if (ist_frei(Groessen.back())) return letzte;
+    return static_cast<std::size_t>(std::find_if(Groessen.begin(), Ende, ertraeglich) - Groessen.begin());
 }
 
 }  // namespace varnok

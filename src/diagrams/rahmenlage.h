@@ -61,7 +61,8 @@ struct Rahmengroesse {
 };
 
 // Which of its sizes the last frame takes, that which reads best being the first and one for need alone the last: the first in
-// which no frame covers anything; where there is none, the last if the first would hide too much of the room, else the first.
+// which no frame covers anything. Where there is none, the first unless it hides too much of the room; then that for need if all
+// is free with it, else the first that hides less.
 std::size_t waehle_Groesse(const Rahmenfeld& f, std::vector<Rahmenwunsch> Rahmen, const std::vector<Rahmengroesse>& Groessen);
 
 }  // namespace varnok

@@ -143,12 +143,21 @@ TEST(Rahmengroesse, frames_stay_clear_of_each_other) {
     EXPECT_EQ(waehle_Groesse(Feldprobe().Feld(), {{0.5, 1, {0, 0}}, w}, {{0.6, 0.6}, {0.4, 0.4}, {0.1, 0.1}}), 1U);
 }
 
-TEST(Rahmengroesse, that_for_need_only_where_the_first_hides_too_much) {
+TEST(Rahmengroesse, that_for_need_only_where_the_others_hide_too_much) {
     Feldprobe f;
     const Rahmenwunsch w = {0, 0, {0, 0}};
     for (int i = 0; i < 20; ++i) f.Strich(i / 20.0, 0, i / 20.0, 1);
-    EXPECT_EQ(waehle_Groesse(f.Feld(), {w}, {{0.9, 0.5}, {0.8, 0.5}, {0.2, 0.2}}), 2U);
+    EXPECT_EQ(waehle_Groesse(f.Feld(), {w}, {{0.9, 0.5}, {0.9, 0.45}, {0.2, 0.2}}), 2U);
+    EXPECT_EQ(waehle_Groesse(f.Feld(), {w}, {{0.9, 0.5}, {0.7, 0.5}, {0.2, 0.2}}), 1U);
     EXPECT_EQ(waehle_Groesse(f.Feld(), {w}, {{0.9, 0.4}, {0.8, 0.4}, {0.2, 0.2}}), 0U);
+}
+
+TEST(Rahmengroesse, that_for_need_where_all_is_free_with_it) {
+    Feldprobe f;
+    for (int i = 6; i < 20; ++i) f.Strich(i / 20.0, 0, i / 20.0, 1);
+    const Rahmenwunsch w = {0, 0, {0, 0}};
+    EXPECT_EQ(waehle_Groesse(f.Feld(), {w}, {{0.9, 0.5}, {0.7, 0.5}, {0.2, 0.2}}), 2U);
+    EXPECT_EQ(waehle_Groesse(f.Feld(), {w}, {{0.8, 0.4}, {0.7, 0.4}, {0.2, 0.2}}), 0U);
 }
 
 TEST(Rahmengroesse, one_that_was_dragged_covers_what_it_will) {
@@ -156,7 +165,7 @@ TEST(Rahmengroesse, one_that_was_dragged_covers_what_it_will) {
     f.Strich(0.5, 0, 0.5, 1);
     const Rahmenwunsch w = {0, 0, {0, 0}, Flaechenort{0.3, 0.3}};
     EXPECT_EQ(waehle_Groesse(f.Feld(), {w}, {{0.6, 0.6}, {0.4, 0.4}, {0.1, 0.1}}), 0U);
-    EXPECT_EQ(waehle_Groesse(f.Feld(), {w}, {{0.7, 0.6}, {0.4, 0.4}, {0.1, 0.1}}), 2U);
+    EXPECT_EQ(waehle_Groesse(f.Feld(), {w}, {{0.7, 0.6}, {0.4, 0.4}, {0.1, 0.1}}), 1U);
 }
 
 }  // namespace

@@ -38,6 +38,7 @@ struct Abstaende {
 };
 constexpr Abstaende weit = {6, 4};
 constexpr Abstaende eng = {3, 2};
+constexpr Abstaende knapp = {2, 1};
 
 constexpr int Kopfrolle = Qt::UserRole;  // what is seen of the text of a head
 constexpr int Zellenrand = 8;
@@ -329,12 +330,14 @@ void Ergebnisrahmen::ordne_Zeilen(int Platz, int Kopfzeilen) {
     const int Zeilen = Tafel_->rowCount();
     if (zugeklappt()) Platz = Zeilen * (Schrift + 3) + weit.ganz();
     const int Textzeilen = std::max(1, Zeilen - 1 + Kopfzeilen);
-    const bool zu_hoch = Textzeilen * Schrift > Platz - weit.ganz();
+    const bool klein = Satz_ == Tafelsatz::klein;
+    const bool zu_hoch = klein || Textzeilen * Schrift > Platz - weit.ganz();
     const bool ohne_letzte = zu_hoch && Zeilen > 1 && letzte_Zeile_leer();
-    const Abstaende& a = zu_hoch ? eng : weit;
+    const Abstaende& a = klein ? knapp : zu_hoch ? eng : weit;
     const int fuer_Zeilen = Platz - a.ganz() - (ohne_letzte ? leere_Zeile : 0);
     // Numbers reach less far down than letters, so a pixel less is enough for them.
-    const int Zeile = std::clamp(fuer_Zeilen / (Textzeilen - (ohne_letzte ? 1 : 0)), Schrift - 1, Schrift + 3);
+    const int hoechste = klein ? Schrift - 1 : Schrift + 3;
+    const int Zeile = std::clamp(fuer_Zeilen / (Textzeilen - (ohne_letzte ? 1 : 0)), Schrift - 1, hoechste);
     layout()->setContentsMargins(8, a.Rand, 8, a.Rand);
     layout()->setSpacing(a.unter_Titel);
     for (int i = 0; i < Zeilen; ++i) Tafel_->setRowHeight(i, i == 0 ? (Kopfzeilen - 1) * Schrift + Zeile : Zeile);
