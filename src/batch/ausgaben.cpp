@@ -6,8 +6,8 @@
 #include <system_error>
 #include <utility>
 
+#include "base/dateipfad.h"
 #include "base/laufzeitfehler.h"
-#include "batch/dateipfad.h"
 #include "batch/perzentile.h"
 #include "batch/zeilendatei.h"
 #include "records/schreibort.h"
@@ -20,8 +20,8 @@ namespace fs = std::filesystem;
 // The path with links and dots resolved as far as it exists.
 fs::path eindeutig(const std::string& Name) {
     std::error_code Fehler;
-    const fs::path ganz = fs::weakly_canonical(fs::absolute(Dateipfad(Name), Fehler), Fehler);
-    return Fehler ? Dateipfad(Name) : ganz;
+    const fs::path ganz = fs::weakly_canonical(fs::absolute(als_Pfad(Name), Fehler), Fehler);
+    return Fehler ? als_Pfad(Name) : ganz;
 }
 
 bool liegt_in(const fs::path& Datei, const fs::path& Ordner) {
@@ -31,7 +31,7 @@ bool liegt_in(const fs::path& Datei, const fs::path& Ordner) {
 // Where an output takes its place: a link is replaced itself, so only the folder is looked up.
 fs::path Platz(const std::string& Name) {
     std::error_code Fehler;
-    const fs::path ganz = fs::absolute(Dateipfad(Name), Fehler);
+    const fs::path ganz = fs::absolute(als_Pfad(Name), Fehler);
     const fs::path Ordner = fs::weakly_canonical(ganz.parent_path(), Fehler);
     return Fehler ? ganz : Ordner / ganz.filename();
 }
@@ -74,8 +74,8 @@ void pruefe_Zieldatei(const std::string& Option, const std::string& Name, const 
     verbiete_Eingaben(Option, Name, a, Ordner);
     if (Ordner) verbiete_Ersatz(Option, Name, *Ordner);
     std::error_code Fehler;
-    if (fs::is_directory(Dateipfad(Name), Fehler)) throw Aufruffehler(Option + " " + Name + ": this is a folder");
-    const fs::path darueber = fs::absolute(Dateipfad(Name), Fehler).parent_path();
+    if (fs::is_directory(als_Pfad(Name), Fehler)) throw Aufruffehler(Option + " " + Name + ": this is a folder");
+    const fs::path darueber = fs::absolute(als_Pfad(Name), Fehler).parent_path();
     if (!fs::is_directory(darueber, Fehler)) {
         throw Aufruffehler(Option + " " + Name + ": there is no folder " + darueber.string());
     }
@@ -86,9 +86,9 @@ void bereite_Ordner(const std::string& Option, const std::string& Name, const Au
     verbiete_Eingaben(Option, Name, a, Ordner);
     if (Ordner) verbiete_Projektordner(Option, Name, *Ordner);
     std::error_code Fehler;
-    fs::create_directories(Dateipfad(Name), Fehler);
+    fs::create_directories(als_Pfad(Name), Fehler);
     std::error_code unwichtig;
-    if (fs::is_directory(Dateipfad(Name), unwichtig)) return;
+    if (fs::is_directory(als_Pfad(Name), unwichtig)) return;
     const std::string Grund = Fehler ? Fehler.message() : "there is a file of that name";
     throw Aufruffehler(Option + " " + Name + ": the folder cannot be made: " + Grund);
 }

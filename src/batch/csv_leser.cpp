@@ -5,9 +5,9 @@
 #include <system_error>
 #include <utility>
 
+#include "base/dateipfad.h"
 #include "base/text.h"
 #include "batch/aufruf.h"
-#include "batch/dateipfad.h"
 
 namespace varnok::batch {
 namespace {
@@ -16,7 +16,7 @@ constexpr int Ende = std::char_traits<char>::eof();
 
 std::string Hindernis(const std::string& Pfad, int Fehler) {
     std::error_code unwichtig;
-    if (std::filesystem::is_directory(Dateipfad(Pfad), unwichtig)) return "it is a folder";
+    if (std::filesystem::is_directory(als_Pfad(Pfad), unwichtig)) return "it is a folder";
     return std::generic_category().message(Fehler);
 }
 
@@ -36,7 +36,7 @@ struct Zelle {
 
 CSV_Leser::CSV_Leser(std::string Bezeichnung, const std::string& Pfad) : Bezeichnung_(std::move(Bezeichnung)) {
     errno = 0;
-    Strom_.open(Dateipfad(Pfad), std::ios::binary);
+    Strom_.open(als_Pfad(Pfad), std::ios::binary);
     if (Strom_.is_open()) Strom_.peek();
     if (!Strom_.is_open() || Strom_.bad()) throw Aufruffehler(Bezeichnung_ + ": cannot be read: " + Hindernis(Pfad, errno));
     beginne_neu();

@@ -8,9 +8,9 @@
 #include <system_error>
 #include <utility>
 
+#include "base/dateipfad.h"
 #include "base/laufzeitfehler.h"
 #include "batch/aufruf.h"
-#include "batch/dateipfad.h"
 #include "batch/datenbankziel.h"
 #include "exposure/bezeichnungen.h"
 #include "exposure/ergebnistabelle.h"
@@ -202,7 +202,7 @@ private:
 
 std::unique_ptr<Quelle> oeffne(const std::string& Datei) {
     std::error_code unwichtig;
-    if (!std::filesystem::exists(Dateipfad(Datei), unwichtig)) throw Aufruffehler("--merge " + Datei + ": there is no such file");
+    if (!std::filesystem::exists(als_Pfad(Datei), unwichtig)) throw Aufruffehler("--merge " + Datei + ": there is no such file");
     try {
         return std::make_unique<Quelle>(Datei);
     } catch (const Laufzeitfehler& f) {

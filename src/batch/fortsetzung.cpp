@@ -5,8 +5,8 @@
 #include <string_view>
 #include <system_error>
 
+#include "base/dateipfad.h"
 #include "batch/aufruf.h"
-#include "batch/dateipfad.h"
 
 namespace varnok::batch {
 namespace {
@@ -44,12 +44,11 @@ bool ist_Fehlerzeile(std::string_view Zeile) { return Zeile.find(",\"error\":") 
 
 Fortsetzung::Fortsetzung(const std::string& Datei, const Zeilenform& Form) : Datei_(Datei), Form_(Form) {
     std::error_code Fehler;
-    if (std::filesystem::is_symlink(Dateipfad(Datei), Fehler))
+    if (std::filesystem::is_symlink(als_Pfad(Datei), Fehler))
         throw Aufruffehler("--resume " + Datei + ": this is a link, and a link is replaced");
-    if (!std::filesystem::exists(Dateipfad(Datei), Fehler)) return;
-    if (!std::filesystem::is_regular_file(Dateipfad(Datei), Fehler))
-        throw Aufruffehler("--resume " + Datei + ": this is no file");
-    Strom_.open(Dateipfad(Datei), std::ios::binary);
+    if (!std::filesystem::exists(als_Pfad(Datei), Fehler)) return;
+    if (!std::filesystem::is_regular_file(als_Pfad(Datei), Fehler)) throw Aufruffehler("--resume " + Datei + ": this is no file");
+    Strom_.open(als_Pfad(Datei), std::ios::binary);
     if (!Strom_) throw Aufruffehler("--resume " + Datei + ": the file cannot be read");
 }
 

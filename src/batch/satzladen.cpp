@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "base/laufzeitfehler.h"
-#include "batch/dateipfad.h"
+#include "batch/satzname.h"
 #include "records/dateien.h"
 #include "records/satz.h"
 

@@ -5,7 +5,8 @@
 #include <system_error>
 #include <unordered_set>
 
-#include "batch/dateipfad.h"
+#include "base/dateipfad.h"
+#include "batch/satzname.h"
 #include "records/simulation.h"
 
 namespace varnok::batch {
@@ -46,7 +47,7 @@ Namensliste jeden_einmal(const Namensliste& Namen) {
 
 Namensliste waehle_Simulationen(const Projektordner& Ordner, const Aufruf& a) {
     std::error_code Fehler;
-    if (!std::filesystem::is_directory(Dateipfad(Ordner.Eingabeordner()), Fehler)) {
+    if (!std::filesystem::is_directory(als_Pfad(Ordner.Eingabeordner()), Fehler)) {
         throw Aufruffehler(Ordner.Pfad() + ": there is no folder \"input\" in this project");
     }
     const Namensliste Namen = Ordner.Namen(Endungen[Simulation]);

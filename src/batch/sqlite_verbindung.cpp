@@ -5,8 +5,8 @@
 #include <system_error>
 #include <utility>
 
+#include "base/dateipfad.h"
 #include "base/laufzeitfehler.h"
-#include "batch/dateipfad.h"
 
 namespace varnok::batch {
 namespace {
@@ -85,11 +85,11 @@ bool Anweisung::leer(int Spalte) const { return sqlite3_column_type(Anweisung_, 
 Verbindung::Verbindung(const std::string& Datei, Art art) : Datei_(Datei) {
     // A link in its place is replaced, as in every output.
     std::error_code unwichtig;
-    if (art == Art::schreibend && std::filesystem::is_symlink(Dateipfad(Datei), unwichtig))
-        std::filesystem::remove(Dateipfad(Datei), unwichtig);
+    if (art == Art::schreibend && std::filesystem::is_symlink(als_Pfad(Datei), unwichtig))
+        std::filesystem::remove(als_Pfad(Datei), unwichtig);
     const int Wunsch = art == Art::lesend ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE;
     // A whole path, for the library knows names of another meaning.
-    const std::string Pfad = std::filesystem::absolute(Dateipfad(Datei), unwichtig).string();
+    const std::string Pfad = std::filesystem::absolute(als_Pfad(Datei), unwichtig).string();
     if (sqlite3_open_v2(Pfad.c_str(), &db_, Wunsch, nullptr) != SQLITE_OK) {
         const std::string Grund = db_ == nullptr ? "not enough memory" : sqlite3_errmsg(db_);
         sqlite3_close(db_);

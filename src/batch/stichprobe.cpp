@@ -9,11 +9,11 @@
 #include <random>
 #include <utility>
 
+#include "base/dateipfad.h"
 #include "base/laufzeitfehler.h"
 #include "base/zahlen.h"
 #include "batch/aufruf.h"
 #include "batch/csv_leser.h"
-#include "batch/dateipfad.h"
 #include "batch/variantenquelle.h"
 #include "batch/verteilung.h"
 
@@ -121,7 +121,7 @@ private:
         const bool gewichtet = Zellen[Art] == "discrete";
         if (Zellen[a].empty()) verwirf(Zeile, a, "the name of the file with the values is missing");
         fordere_leer(Zellen, Zeile, b);
-        const std::filesystem::path Liste = Dateipfad(Datei_).parent_path() / Dateipfad(Zellen[a]);
+        const std::filesystem::path Liste = als_Pfad(Datei_).parent_path() / als_Pfad(Zellen[a]);
         CSV_Leser Leser(Bezeichnung_ + ", row " + std::to_string(Ziehungen_.size() + 1) + ", column a, file " + Zellen[a],
                         Liste.string());
         std::vector<gewichteter_Wert> Werte;

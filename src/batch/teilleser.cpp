@@ -6,10 +6,10 @@
 #include <string_view>
 #include <utility>
 
+#include "base/dateipfad.h"
 #include "base/programm.h"
 #include "base/zahlen.h"
 #include "batch/aufruf.h"
-#include "batch/dateipfad.h"
 #include "exposure/bezeichnungen.h"
 #include "exposure/ergebnistabelle.h"
 
@@ -21,7 +21,7 @@ using JSON = nlohmann::ordered_json;
 // The lines of a part.
 class Zeilenquelle {
 public:
-    explicit Zeilenquelle(const std::string& Datei) : Datei_(Datei), Strom_(Dateipfad(Datei), std::ios::binary) {
+    explicit Zeilenquelle(const std::string& Datei) : Datei_(Datei), Strom_(als_Pfad(Datei), std::ios::binary) {
         Strom_.peek();
         if (!Strom_.is_open() || Strom_.bad()) verwirf("the file cannot be read");
         Strom_.clear();

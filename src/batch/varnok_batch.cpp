@@ -26,12 +26,12 @@
 #include <unistd.h>
 #endif
 
+#include "base/dateipfad.h"
 #include "base/druckbares.h"
 #include "base/laufzeitfehler.h"
 #include "batch/arbeitsliste.h"
 #include "batch/aufruf.h"
 #include "batch/ausgaben.h"
-#include "batch/dateipfad.h"
 #include "batch/fortschrittsbalken.h"
 #include "batch/fortsetzung.h"
 #include "batch/pruefbericht.h"
@@ -218,7 +218,7 @@ Ausgabeplan plane_Ausgaben(const Aufruf& a, const Vorbereitung& v, const Projekt
     for (const Namensbezug& b : v.Arbeit.Vorgaben.Variantennamen()) p.Umfang.Variantennamen.push_back(b.Text);
     p.Varianten = v.Varianten ? v.Varianten->Anzahl() / static_cast<std::size_t>(a.Teile) + 1 : 1;
     std::error_code unwichtig;
-    const auto Projekt = std::filesystem::canonical(Dateipfad(Ordner.Pfad()), unwichtig).filename().u8string();
+    const auto Projekt = std::filesystem::canonical(als_Pfad(Ordner.Pfad()), unwichtig).filename().u8string();
     p.Datenbank = {std::string(Projekt.begin(), Projekt.end()), a.geteilt, v.Varianten ? v.Varianten->Anzahl() : 0,
                    p.Umfang.Variantennamen, !a.Serienordner.empty()};
     p.Vorheriges = v.Vorheriges ? &*v.Vorheriges : nullptr;

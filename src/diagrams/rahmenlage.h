@@ -46,7 +46,7 @@ struct Verdecktes {
     int Kastenstriche = 0;  // of the averages
 
     bool nichts() const { return Texte == 0 && Kurvenpunkte == 0 && Kastenstriche == 0; }
-    friend auto operator<=>(const Verdecktes&, const Verdecktes&) = default;
+    friend auto operator<=>(const Verdecktes&, const Verdecktes&) = default;  // NOLINT(modernize-use-nullptr): a slip of the tool
 };
 Verdecktes zaehle_Verdecktes(const Rahmenfeld& f, const Flaechenrechteck& r);
 

@@ -49,7 +49,7 @@ Ausgang Aktualisierung::lade(const Serverversion& Version) {
         sage_Ablehnung(Updatetexte::nicht_angekommen);
         return Ausgang::nicht_geladen;
     }
-    const std::string Text = signierter_Text(Version.Zeichen, Welt_.Ziel.Programmname(), *Programm);
+    const std::string Text = signierter_Text(Version.Zeichen, Aktualisierungsziel::Programmname(), *Programm);
     if (!Signatur_passt(*Signatur, Text, Welt_.Ziel.Schluessel)) {
         sage_Ablehnung(Updatetexte::falsche_Signatur);
         return Ausgang::falsch_signiert;

@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <system_error>
 
+#include "base/dateipfad.h"
 #include "base/laufzeitfehler.h"
 #include "records/ersatzdatei.h"
 
@@ -18,8 +19,6 @@ namespace {
 [[noreturn]] void melde(const std::string& Vorgang, const std::string& Pfad, const std::string& Grund) {
     throw Laufzeitfehler("Cannot " + Vorgang + " the file \"" + Pfad + "\": " + Grund, {Pfad.substr(Pfad.rfind('/') + 1)});
 }
-
-std::filesystem::path als_Pfad(const std::string& Utf8) { return {std::u8string(Utf8.begin(), Utf8.end())}; }
 
 // Opened without waiting for whom a pipe may have at its other end.
 int oeffne_zum_Lesen(const std::string& Pfad) { return open(Pfad.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY); }

@@ -25,7 +25,7 @@ constexpr Indexbereich Stoffindizes = {0, Stoffe - 1};
 constexpr Indexbereich Metabolite = {1, Stoffe - 1};
 constexpr Indexbereich Reihen = {1, max_Applikationen};
 
-constexpr std::string_view alles = "";
+constexpr std::string_view alles;
 
 // What may stand in the brackets, for a message.
 constexpr std::string_view Klammertext(Indexart i) {

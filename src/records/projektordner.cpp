@@ -12,6 +12,7 @@
 #include <dirent.h>
 #endif
 
+#include "base/dateipfad.h"
 #include "base/laufzeitfehler.h"
 #include "base/text.h"
 
@@ -19,8 +20,6 @@ namespace varnok {
 namespace {
 
 namespace fs = std::filesystem;
-
-fs::path als_Pfad(const std::string& Utf8) { return {std::u8string(Utf8.begin(), Utf8.end())}; }
 
 bool ist_ASCII(std::string_view Text) {
     return std::all_of(Text.begin(), Text.end(), [](char z) { return static_cast<unsigned char>(z) < 0x80; });

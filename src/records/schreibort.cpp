@@ -6,6 +6,7 @@
 #include <string_view>
 #include <system_error>
 
+#include "base/dateipfad.h"
 #include "base/laufzeitfehler.h"
 #include "base/text.h"
 
@@ -18,8 +19,6 @@ namespace varnok {
 namespace {
 
 namespace fs = std::filesystem;
-
-fs::path als_Pfad(const std::string& Utf8) { return {std::u8string(Utf8.begin(), Utf8.end())}; }
 
 std::string als_Text(const fs::path& Pfad) {
     const std::u8string Text = Pfad.u8string();

@@ -125,7 +125,7 @@ protected:
         s_->fuehre_aus<&Berichtssteuerung::schliesse>();
         ASSERT_EQ(geschrieben, Berichte_moeglich_);
         if (!geschrieben) return;
-        const std::string Name = s_->Stand().Ergebnisdatei;
+        const std::string Name = s_->zeige<Berichtssteuerung>().Ergebnisdatei();
         const std::string Zusatz =
             batch::Berichtsnamen(*s_->Stand().Ordner).Simulationszusatz(GetParam().Simulation) + Studienzusatz;
         const fs::path Gegenstueck = Ausgabe("berichte") / (Name + Zusatz + ".rtf");

@@ -64,10 +64,11 @@ bool Applikationstabelle::schliesse_ab() {
     if (ist_eindeutig(getippt_)) {
         std::string Meldung;
         setze(*z, als_Zellentext(*z, getippt_, Meldung));
-        if (!Meldung.empty()) z_.Statuszeile = Meldung;
+        if (!Meldung.empty()) z_.Statuszeile.sage(Meldung);
         return true;
     }
-    in_Arbeit_ = z_.Tabellenfehler = z;
+    in_Arbeit_ = z;
+    Laeufe_.melde_Zelle(*z);
     melde(z_, Texte::keine_gueltige_Eingabe, Grenzen(*z).Meldung);
     return false;
 }
@@ -111,13 +112,13 @@ void Applikationstabelle::fuege_ein(Zelle z, const std::string& Text) {
         }
         ++i;
     }
-    if (!Meldung.empty()) z_.Statuszeile = Meldung;
+    if (!Meldung.empty()) z_.Statuszeile.sage(Meldung);
     if (abgelehnt) melde(z_, Texte::keine_gueltige_Eingabe, abgelehnt);
 }
 
 void Applikationstabelle::bestaetige() {
     if (!schliesse_ab()) return;
-    z_.Zusammenfassung_aktiv = false;
+    z_.zeige_Studien();
     Laeufe_.berechne_auf_Wunsch(true);
 }
 

@@ -1,6 +1,7 @@
 #include "session/eingabe/listenwahl.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "exposure/twa.h"
 #include "run/kalender.h"
@@ -36,7 +37,7 @@ void Listenwahl::waehle_Berechnungsmodus(Stoffschema m) {
     if (!z_.Gestartet) return;
     z_.Saetze[1].merke_Aenderung();
     // Nothing valid stands for the new scheme: the summary ends and every study is run.
-    z_.Zusammenfassung_aktiv = false;
+    z_.zeige_Studien();
     Laeufe_.berechne_alle_Studien();
 }
 
@@ -77,7 +78,7 @@ void Listenwahl::waehle_Tag(int i) {
 void Listenwahl::waehle_Intervall(int i) {
     if (i == z_.Felder().Intervall_Index) return;
     z_.Felder().Intervall_Index = i;
-    z_.Zusammenfassung_aktiv = false;
+    z_.zeige_Studien();
     merke_Applikation();
     Laeufe_.berechne();
 }
@@ -87,10 +88,12 @@ void Listenwahl::waehle_Anzahl(int i) {
     const int Anzahl = kleinste_Anzahl(e) + i;
     if (Anzahl == e.Anzahl()) return;
     const std::size_t bisher = e.Applikationsschema.size();
-    z_.Zeilenvorrat.resize(max_Applikationen);
-    std::copy(e.Applikationsschema.begin(), e.Applikationsschema.end(), z_.Zeilenvorrat.begin());
+    // Rows in store are those of the record on the screen.
+    if (std::exchange(Vorrat_der_Lesung_, z_.Saetze[Applikation].Lesungen()) != Vorrat_der_Lesung_) Zeilenvorrat_.clear();
+    Zeilenvorrat_.resize(max_Applikationen);
+    std::copy(e.Applikationsschema.begin(), e.Applikationsschema.end(), Zeilenvorrat_.begin());
     varnok::waehle_Anzahl(e, Anzahl);
-    for (std::size_t k = bisher; k < e.Applikationsschema.size(); ++k) e.Applikationsschema[k] = z_.Zeilenvorrat[k];
+    for (std::size_t k = bisher; k < e.Applikationsschema.size(); ++k) e.Applikationsschema[k] = Zeilenvorrat_[k];
     if (e.Applikationsmuster == unregelmaessig) return;  // the table takes effect with its Enter key
     Laeufe_.berechne();
 }
@@ -117,11 +120,11 @@ void Listenwahl::waehle_TWA_Laenge(int j) {
     z_.Sicht.TWA_Laenge = j;
 }
 
-void Listenwahl::zeige_Studien() { z_.Zusammenfassung_aktiv = false; }
+void Listenwahl::zeige_Studien() { z_.zeige_Studien(); }
 
 void Listenwahl::zeige_Zusammenfassung() {
     if (z_.Studienzahl() <= 1) return;
-    z_.Zusammenfassung_aktiv = true;
+    z_.zeige_Zusammenfassung();
     Laeufe_.berechne();
 }
 

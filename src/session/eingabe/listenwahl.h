@@ -9,7 +9,7 @@ namespace varnok {
 // of what is already chosen does nothing.
 class Listenwahl {
 public:
-    Listenwahl(Zustand& z, Laufsteuerung& Laeufe, Feldeingabe& Felder, Diagrammsteuerung& Diagramme)
+    Listenwahl(Eingabestand& z, Laufsteuerung& Laeufe, Feldeingabe& Felder, Diagrammsteuerung& Diagramme)
         : z_(z), Laeufe_(Laeufe), Felder_(Felder), Diagramme_(Diagramme) {}
 
     // compound data
@@ -46,10 +46,12 @@ public:
 private:
     void merke_Applikation();
 
-    Zustand& z_;
+    Eingabestand& z_;
     Laufsteuerung& Laeufe_;
     Feldeingabe& Felder_;
     Diagrammsteuerung& Diagramme_;
+    std::vector<Applikationszeile> Zeilenvorrat_;  // of the table, cut off by a smaller number
+    int Vorrat_der_Lesung_ = 0;
 };
 
 }  // namespace varnok

@@ -2,19 +2,19 @@
 
 #include <string>
 
-#include "session/kern/zustand.h"
+#include "session/kern/schauplatz.h"
 
 namespace varnok {
 
 // What the fields of text tell: a character was left out.
 class Zeichenmeldung {
 public:
-    explicit Zeichenmeldung(Zustand& z) : z_(z) {}
+    explicit Zeichenmeldung(Schauplatz& z) : z_(z) {}
 
-    void sage(const std::string& Hinweis) { z_.Statuszeile = Hinweis; }
+    void sage(const std::string& Hinweis) { z_.Statuszeile.sage(Hinweis); }
 
 private:
-    Zustand& z_;
+    Schauplatz& z_;
 };
 
 }  // namespace varnok

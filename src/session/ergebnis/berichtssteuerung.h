@@ -23,6 +23,9 @@ public:
     // The same where it no longer tells of what is shown: other results, another view, other names.
     void schliesse_veralteten();
 
+    // Name of the report file written last, while the simulation has the description that it tells; else empty.
+    std::string Ergebnisdatei() const;
+
     // The report on the screen, null without one.
     const Bericht* offener() const { return Bericht_.get(); }
 
@@ -38,6 +41,8 @@ private:
     Diagrammsteuerung& Diagramme_;
     std::unique_ptr<Bericht> Bericht_;
     int Zeichnung_ = 0;  // the drawing that the open report tells of
+    std::string Ergebnisdatei_;
+    std::string berichtete_Beschreibung_;
 };
 
 }  // namespace varnok

@@ -74,7 +74,7 @@ void Bildsteuerung::speichere_Daten(const std::string& Pfad, char Dezimalzeichen
 void Bildsteuerung::schreibe(const std::string& Pfad, const std::string& Inhalt, const std::string& Was) {
     schreibe_Datei(Pfad, Inhalt, als_Datei);
     Ordner_ = Pfad.substr(0, Pfad.find_last_of('/'));
-    z_.Statuszeile = Was + " written: " + Pfad;
+    z_.Statuszeile.sage(Was + " written: " + Pfad);
 }
 
 }  // namespace varnok

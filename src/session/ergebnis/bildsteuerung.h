@@ -36,7 +36,7 @@ public:
     // The numbers of curves, averages and tables.
     std::string Daten(const Datenform& f) const;
     void speichere_Daten(const std::string& Pfad, char Dezimalzeichen);
-    void melde_kopiert(const std::string& Was) { z_.Statuszeile = Was + " copied: " + Diagramme_.vorderes()->Titel.Text; }
+    void melde_kopiert(const std::string& Was) { z_.Statuszeile.sage(Was + " copied: " + Diagramme_.vorderes()->Titel.Text); }
 
 private:
     void schreibe(const std::string& Pfad, const std::string& Inhalt, const std::string& Was);

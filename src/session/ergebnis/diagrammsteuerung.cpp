@@ -26,7 +26,7 @@ void Diagrammsteuerung::setze_Bereiche_nach_Ansicht() {
 }
 
 Diagrammsteuerung::Grundlage Diagrammsteuerung::jetzige_Grundlage() const {
-    Grundlage g{{}, z_.Sicht, z_.Zusammenfassung_aktiv, z_.Vorgabe.Beschreibung, z_.Vorgabe.Studie, Bereiche_};
+    Grundlage g{{}, z_.Sicht, z_.Zusammenfassung_aktiv(), z_.Vorgabe.Beschreibung, z_.Vorgabe.Studie, Bereiche_};
     for (const int st : z_.gezeigte_Studien())
         g.Werte.at(static_cast<std::size_t>(st)) = z_.Werte().at(static_cast<std::size_t>(st));
     for (int c = 0; c < Stoffe; ++c) g.Namen.push_back(Stoffname(z_.Vorgabe, c));
@@ -34,7 +34,7 @@ Diagrammsteuerung::Grundlage Diagrammsteuerung::jetzige_Grundlage() const {
 }
 
 bool Diagrammsteuerung::gleicher_Anblick() const {
-    return gezeichnet_ && gezeichnet_->Sicht == z_.Sicht && gezeichnet_->Zusammenfassung == z_.Zusammenfassung_aktiv &&
+    return gezeichnet_ && gezeichnet_->Sicht == z_.Sicht && gezeichnet_->Zusammenfassung == z_.Zusammenfassung_aktiv() &&
            gezeichnet_->Bereiche == Bereiche_ && gezeichnete_Saetze_ == z_.Namen && gesehene_Ausschnitte_ == Ausschnitte_;
 }
 
@@ -48,7 +48,7 @@ bool Diagrammsteuerung::ziehe_nach(const Ergebnis* gelaufen) {
     gezeichnet_ = jetzige_Grundlage();  // the drawing may have moved the ends of its axes
     gezeichnete_Saetze_ = z_.Namen;
     gesehene_Ausschnitte_ = Ausschnitte_;
-    ++z_.Zeichnung;
+    ++Zeichnung_;
     return true;
 }
 
@@ -62,8 +62,8 @@ void Diagrammsteuerung::schneide_aus() {
 }
 
 void Diagrammsteuerung::zeichne(const Ergebnis* gelaufen) {
-    gezeichnete_ = z_.Zusammenfassung_aktiv ? erstelle_Diagramme_Zusammenfassung(z_.zeige(), Bereiche_, z_.i_studie())
-                                            : erstelle_Diagramme(z_.zeige(), Bereiche_, z_.i_studie());
+    gezeichnete_ = z_.Zusammenfassung_aktiv() ? erstelle_Diagramme_Zusammenfassung(z_.zeige(), Bereiche_, z_.i_studie())
+                                              : erstelle_Diagramme(z_.zeige(), Bereiche_, z_.i_studie());
     std::string Fehler;
     // Files that fail for one reason are told in one line.
     const auto sammle = [&](const std::string& Text) {
@@ -78,37 +78,37 @@ void Diagrammsteuerung::zeichne(const Ergebnis* gelaufen) {
 
 int& Diagrammsteuerung::Platz_vorne() {
     const Stoffschema m = z_.Felder().Berechnungsmodus;
-    return z_.Zusammenfassung_aktiv ? vorne_Zusammenfassung_[m] : vorne_[m];
+    return z_.Zusammenfassung_aktiv() ? vorne_Zusammenfassung_[m] : vorne_[m];
 }
 
 int Diagrammsteuerung::vorne() const { return const_cast<Diagrammsteuerung*>(this)->Platz_vorne(); }
 
 const Diagramm* Diagrammsteuerung::vorderes() const {
     const auto Treffer = std::find_if(Diagramme_.begin(), Diagramme_.end(), [&](const Diagramm& d) {
-        return d.Nummer == vorne() && d.Zusammenfassung == z_.Zusammenfassung_aktiv;
+        return d.Nummer == vorne() && d.Zusammenfassung == z_.Zusammenfassung_aktiv();
     });
     return Treffer == Diagramme_.end() ? nullptr : &*Treffer;
 }
 
 void Diagrammsteuerung::bringe_nach_vorn(int i_substanz) {
     const Stoffschema m = z_.Felder().Berechnungsmodus;
-    const int Nummer = z_.Zusammenfassung_aktiv ? Zusammenfassungssatz_von(m, i_substanz) : Diagrammsatz_von(m, i_substanz);
+    const int Nummer = z_.Zusammenfassung_aktiv() ? Zusammenfassungssatz_von(m, i_substanz) : Diagrammsatz_von(m, i_substanz);
     if (Nummer != kein_Diagramm) Platz_vorne() = Nummer;
 }
 
 void Diagrammsteuerung::schalte_weiter() {
     const auto i = static_cast<std::size_t>(vorne());
-    Platz_vorne() = z_.Zusammenfassung_aktiv ? Zusammenfassungsring[i].Nummer : Diagrammring[i].Nummer;
+    Platz_vorne() = z_.Zusammenfassung_aktiv() ? Zusammenfassungsring[i].Nummer : Diagrammring[i].Nummer;
 }
 
 bool Diagrammsteuerung::skaliere(const std::string& Start, const std::string& Ende) {
     const bool eindeutig = ist_eindeutig(Start) && ist_eindeutig(Ende);
-    if (eindeutig && uebernimm_Skalierung(Bereiche_, z_.Zusammenfassung_aktiv, vorne(), Start, Ende)) {
+    if (eindeutig && uebernimm_Skalierung(Bereiche_, z_.Zusammenfassung_aktiv(), vorne(), Start, Ende)) {
         Ausschnitte_.erase(Ausschnittplatz());
         std::string Meldung;
         nimm_Zahl_an(z_, "Start (d)", Start, Meldung);
         nimm_Zahl_an(z_, "End (d)", Ende, Meldung);
-        if (!Meldung.empty()) z_.Statuszeile = Meldung;
+        if (!Meldung.empty()) z_.Statuszeile.sage(Meldung);
         return true;
     }
     z_.Welt.Fragen->frage({Skalierungsfehler_Titel, Skalierungsfehler, Symbol::Ausrufezeichen, {Knopf::OK, Knopf::Abbrechen}});
@@ -117,12 +117,12 @@ bool Diagrammsteuerung::skaliere(const std::string& Start, const std::string& En
 
 double Diagrammsteuerung::X_Start() const {
     const auto i = static_cast<std::size_t>(vorne());
-    return z_.Zusammenfassung_aktiv ? Bereiche_.X_Start_Zusammenfassung[i] : Bereiche_.X_Start[i];
+    return z_.Zusammenfassung_aktiv() ? Bereiche_.X_Start_Zusammenfassung[i] : Bereiche_.X_Start[i];
 }
 
 double Diagrammsteuerung::X_Ende() const {
     const auto i = static_cast<std::size_t>(vorne());
-    return z_.Zusammenfassung_aktiv ? Bereiche_.X_Ende_Zusammenfassung[i] : Bereiche_.X_Ende[i];
+    return z_.Zusammenfassung_aktiv() ? Bereiche_.X_Ende_Zusammenfassung[i] : Bereiche_.X_Ende[i];
 }
 
 std::optional<Zeitraum> Diagrammsteuerung::gesehener_Zeitraum() const {
@@ -157,7 +157,7 @@ void Diagrammsteuerung::verschiebe(double Anteil) {
 
 void Diagrammsteuerung::zeige_alles() {
     Ausschnitte_.erase(Ausschnittplatz());
-    setze_Bereich_nach_Ansicht(Bereiche_, z_.Sicht.PEC_Typ, z_.Zusammenfassung_aktiv, vorne());
+    setze_Bereich_nach_Ansicht(Bereiche_, z_.Sicht.PEC_Typ, z_.Zusammenfassung_aktiv(), vorne());
 }
 
 void Diagrammsteuerung::merke_Legende(bool Zusammenfassung, int Diagrammsatz, const std::optional<Flaechenort>& Ort) {
@@ -167,7 +167,7 @@ void Diagrammsteuerung::merke_Legende(bool Zusammenfassung, int Diagrammsatz, co
 
 const std::optional<Flaechenort>& Diagrammsteuerung::Legende() const {
     const auto i = static_cast<std::size_t>(vorne());
-    return z_.Zusammenfassung_aktiv ? Legenden_Zusammenfassung_[i] : Legenden_[i];
+    return z_.Zusammenfassung_aktiv() ? Legenden_Zusammenfassung_[i] : Legenden_[i];
 }
 
 }  // namespace varnok

@@ -38,6 +38,8 @@ public:
 
     // Another number at each drawing for which view or records are others than at the one before.
     int Anblick() const { return Anblick_; }
+    // Another number at each drawing.
+    int Zeichnung() const { return Zeichnung_; }
 
     void bringe_nach_vorn(int i_substanz);
     // A left click: the next diagram of the scheme comes to the front.
@@ -84,7 +86,7 @@ private:
     // What is seen of the diagrams that were drawn.
     void schneide_aus();
     using Platz = std::pair<bool, int>;  // summary or not, number
-    Platz Ausschnittplatz() const { return {z_.Zusammenfassung_aktiv, vorne()}; }
+    Platz Ausschnittplatz() const { return {z_.Zusammenfassung_aktiv(), vorne()}; }
     std::optional<Zeitraum> gesehener_Zeitraum() const;
     int& Platz_vorne();
 
@@ -102,6 +104,7 @@ private:
     std::optional<Grundlage> gezeichnet_;            // of the last drawing
     std::array<std::string, 4> gezeichnete_Saetze_;  // names of the records then
     int Anblick_ = 0;
+    int Zeichnung_ = 0;
 };
 
 }  // namespace varnok

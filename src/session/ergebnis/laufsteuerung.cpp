@@ -6,6 +6,7 @@
 
 #include "exposure/anpassung.h"
 #include "records/dateien.h"
+#include "records/klimadatei.h"
 #include "run/applikation.h"
 #include "run/laufeingang.h"
 #include "session/kern/texte.h"
@@ -34,7 +35,8 @@ void Laufsteuerung::sieh_Klima_an() {
     }
     const auto Pfad = z_.Ordner->finde(z_.Vorgabe.Klimaszenario, Klima_Endung);
     const auto Bytes = Pfad ? lies_Datei_falls_moeglich(*Pfad) : std::nullopt;
-    if (Bytes && z_.Klima && *z_.Klima == *Bytes) return;  // results of one weather share it
+    const Klimabytes& bekannt = z_.Klima;
+    if (Bytes && bekannt && *bekannt == *Bytes) return;  // results of one weather share it
     z_.Klima = Bytes ? std::make_shared<const std::string>(*Bytes) : nullptr;
 }
 
@@ -63,7 +65,7 @@ bool Laufsteuerung::fuehre_aus(const std::vector<int>& Studien, bool auch_guelti
 }
 
 bool Laufsteuerung::rechne_Studie(int i_studie) {
-    z_.Tabellenfehler.reset();
+    Tabellenfehler_.reset();
     Studienlauf Gerechnet;
     try {
         const Projektklima Klima(*z_.Ordner);
@@ -85,8 +87,8 @@ bool Laufsteuerung::ende_ohne_Ergebnis(const Laufergebnis& Ausgang) {
     const bool Tabelle = Ausgang.Ausgang == Laufausgang::Tabelle_ungueltig;
     const bool Datei = Ausgang.Ausgang == Laufausgang::Klimadatei_fehlt;
     z_.Gerechnetes.melde_Grund({Texte::nicht_gueltig, !Tabelle});
-    if (Tabelle) z_.Tabellenfehler = Zelle{Ausgang.Zeile, Ausgang.Spalte};
-    z_.Szenarioeditor_faellig = Datei;
+    if (Tabelle) Tabellenfehler_ = Zelle{Ausgang.Zeile, Ausgang.Spalte};
+    Klimadatei_fehlt_ = Datei;
     melde(z_, Datei ? Texte::Datei_fehlt : Texte::keine_gueltige_Eingabe, Meldung(Ausgang.Ausgang));
     return false;
 }

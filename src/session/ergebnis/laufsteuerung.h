@@ -1,7 +1,11 @@
 #pragma once
 
 #include <memory>
+#include <optional>
+#include <string>
+#include <vector>
 
+#include "session/eingabe/zelle.h"
 #include "session/ergebnis/diagrammsteuerung.h"
 #include "session/kern/zustand.h"
 
@@ -24,11 +28,18 @@ public:
     bool berechne_alle_Studien();
 
     // The scaling dialog has closed, also by Cancel: a run in the single view.
-    void schliesse_Skalierung() { berechne(!z_.Zusammenfassung_aktiv); }
+    void schliesse_Skalierung() { berechne(!z_.Zusammenfassung_aktiv()); }
 
     // Scales the results that are shown to the dose of the present input, where they differ in that alone and it is exact. False:
     // nothing was done.
     bool skaliere();
+
+    // The last run found no climate file, and told so: the scenario editor is to open.
+    bool Klimadatei_fehlt() const { return Klimadatei_fehlt_; }
+    void oeffne_Szenarioeditor() { Klimadatei_fehlt_ = false; }
+    // The cell that a message spoke of, to be selected.
+    const std::optional<Zelle>& Tabellenfehler() const { return Tabellenfehler_; }
+    void melde_Zelle(Zelle z) { Tabellenfehler_ = z; }
 
     // Tells in one box what the runs since then warn of, once their results are drawn.
     void melde_Warnungen();
@@ -47,6 +58,8 @@ private:
     std::unique_ptr<Lauf> Arbeitsplatz_ = std::make_unique<Lauf>();
     std::shared_ptr<const Ergebnis> gelaufen_;
     std::vector<std::string> Warnungen_;
+    std::optional<Zelle> Tabellenfehler_;
+    bool Klimadatei_fehlt_ = false;
 };
 
 }  // namespace varnok

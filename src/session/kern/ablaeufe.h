@@ -107,8 +107,7 @@ constexpr Ablauf Ablauf_von(Tat<&Beschreibungseingabe::aendere>) { return {Weg::
 constexpr Ablauf Ablauf_von(Tat<&Beschreibungseingabe::schliesse>) { return {Weg::Handlung}; }
 constexpr Ablauf Ablauf_von(Tat<&Beschreibungseingabe::nimm_zurueck>) { return {Weg::Handlung}; }
 
-// A run that found no climate file has told of it: the field that it came from is not accepted a second time.
-constexpr Ablauf Ablauf_von(Tat<&Szenarioeditor::oeffne>) { return {Weg::Befehl, false, &Zustand::Szenarioeditor_faellig}; }
+constexpr Ablauf Ablauf_von(Tat<&Szenarioeditor::oeffne>) { return {Weg::Befehl, false, true}; }
 constexpr Ablauf Ablauf_von(Tat<&Szenarioeditor::waehle_Szenario>) { return {Weg::Zwischenschritt}; }
 constexpr Ablauf Ablauf_von(Tat<&Szenarioeditor::verlasse_Zahl>) { return {Weg::Zwischenschritt}; }
 constexpr Ablauf Ablauf_von(Tat<&Szenarioeditor::aendere>) { return {Weg::Zwischenschritt}; }

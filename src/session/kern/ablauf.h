@@ -1,7 +1,5 @@
 #pragma once
 
-#include "session/kern/zustand.h"
-
 namespace varnok {
 
 // What stands around a command. Everywhere a fault becomes a message, what was entered stays, and the program goes on.
@@ -14,8 +12,9 @@ enum class Weg {
 
 struct Ablauf {
     varnok::Weg Weg;
-    bool nach_Fehler = false;            // the answer of a command that ended with a fault
-    bool Zustand::*ohne_Feld = nullptr;  // with that mark a command leaves the field in work as it is
+    bool nach_Fehler = false;  // the answer of a command that ended with a fault
+    // Where a run has told of a missing climate file, the field that it came from is not accepted a second time.
+    bool nach_Klimameldung = false;
 };
 
 // Names a command for `Ablauf_von`, see ablaeufe.h. What has no line there is no command.

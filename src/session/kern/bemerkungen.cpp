@@ -27,9 +27,9 @@ std::vector<Bemerkung> zum_Satz(const Dateistand& Datei, Satzart Art) {
 
 std::vector<Bemerkung> zum_Klima(const Zustand& z) {
     std::vector<Bemerkung> Gefundene;
-    if (!z.Klima) return Gefundene;
+    if (!z.Klima.Wert()) return Gefundene;
     try {
-        zerlege_Klimadatei(*z.Klima, z.Vorgabe.Klimaszenario + Klima_Endung, &Gefundene);
+        zerlege_Klimadatei(*z.Klima.Wert(), z.Vorgabe.Klimaszenario + Klima_Endung, &Gefundene);
     } catch (const Laufzeitfehler&) {
         Gefundene.clear();  // the run tells of a file that is of no use
     }

@@ -17,8 +17,16 @@ void Ruecknahme::wiederhole() {
 
 // A field in work is no step yet.
 void Ruecknahme::merke() {
-    if (std::exchange(z_.Verlauf_beginnt, false)) return Verlauf_.beginne(z_.Vorgabe);
+    const int jetzige = Folge_der_Saetze();
+    if (std::exchange(Folge_, jetzige) != jetzige) return Verlauf_.beginne(z_.Vorgabe);
     if (!Felder_.ist_in_Arbeit()) Verlauf_.merke(z_.Vorgabe);
+}
+
+// There is no way back behind a record that was read, given up or renamed.
+int Ruecknahme::Folge_der_Saetze() const {
+    int Folge = 0;
+    for (const Satzplatz& p : z_.Saetze) Folge += p.Lesungen() + p.Umbenennungen();
+    return Folge;
 }
 
 // An input of the history in place of the present one, with the study and the compound in view that it concerns.
@@ -30,7 +38,6 @@ void Ruecknahme::stelle_her(const Eingabe& e) {
     }
     if (u.i_studie >= 0) z_.Sicht.Studie_Index = u.i_studie;
     z_.Sicht.Studie_Index = std::min(z_.Sicht.Studie_Index, z_.Studienzahl() - 1);
-    if (z_.Studienzahl() < 2) z_.Zusammenfassung_aktiv = false;
     if (u.i_substanz >= 0) z_.Sicht.Substanz = u.i_substanz;
     if (z_.Sicht.Substanz >= Anzahl_Stoffe(z_.Vorgabe.Berechnungsmodus)) z_.Sicht.Substanz = 0;
     Felder_.fuelle();

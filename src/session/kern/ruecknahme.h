@@ -10,7 +10,7 @@ namespace varnok {
 // Undo and redo.
 class Ruecknahme {
 public:
-    Ruecknahme(Zustand& z, Laufsteuerung& Laeufe, Feldeingabe& Felder, Diagrammsteuerung& Diagramme)
+    Ruecknahme(Eingabestand& z, Laufsteuerung& Laeufe, Feldeingabe& Felder, Diagrammsteuerung& Diagramme)
         : z_(z), Laeufe_(Laeufe), Felder_(Felder), Diagramme_(Diagramme) {}
 
     void mache_rueckgaengig();
@@ -24,12 +24,14 @@ public:
 
 private:
     void stelle_her(const Eingabe& e);
+    int Folge_der_Saetze() const;
 
-    Zustand& z_;
+    Eingabestand& z_;
     Laufsteuerung& Laeufe_;
     Feldeingabe& Felder_;
     Diagrammsteuerung& Diagramme_;
     Verlauf Verlauf_;
+    int Folge_ = 0;  // of the records, at the last step
 };
 
 }  // namespace varnok

@@ -25,23 +25,38 @@ public:
     // Told mark: the user changed it and is asked before it goes.
     bool Geaendert() const { return Geaendert_; }
 
+    // Counts what ties other values to the record: reading it, giving it up.
+    int Lesungen() const { return Lesungen_; }
+    int Umbenennungen() const { return Umbenennungen_; }
+
     // The selector names another record, to be read.
     void verlange() { verwirf({}); }
     // What the selector names cannot be on the screen.
     void verwirf(std::string Grund) {
-        gelesen_ = Geaendert_ = false;
-        Grund_ = std::move(Grund);
+        stelle(false, std::move(Grund));
+        ++Lesungen_;
     }
     // The values of this file are on the screen.
     void lies(Dateistand Datei) {
-        verlange();
+        kenne(std::move(Datei));
+        ++Lesungen_;
+    }
+    // The values that are on the screen already stand for this file.
+    void kenne(Dateistand Datei) {
         Datei_ = std::move(Datei);
-        gelesen_ = true;
+        stelle(true, {});
     }
     // What was entered without a record stands for the one that the selector names.
     void nimm_Eingegebenes_an() { gelesen_ = true; }
     // The file has another name, with its content.
-    void benenne(std::string Name) { Datei_.Name = std::move(Name); }
+    void benenne(std::string Name) {
+        folge_der_Kopie(std::move(Name));
+        ++Umbenennungen_;
+    }
+    // What is known of the copy is what was read of the original. A file that was not read is not what the values stand for.
+    void folge_der_Kopie(std::string Name) {
+        if (gelesen_) Datei_.Name = std::move(Name);
+    }
     // A save wrote this; the mark is the business of the command that saves.
     void schreibe(Dateistand Datei) {
         gespeichert_ = Datei.Bytes;
@@ -56,11 +71,19 @@ public:
     void stelle_Marke(bool Geaendert) { Geaendert_ = Geaendert; }
 
 private:
+    void stelle(bool gelesen, std::string Grund) {
+        gelesen_ = gelesen;
+        Grund_ = std::move(Grund);
+        Geaendert_ = false;
+    }
+
     Dateistand Datei_;
     std::string gespeichert_;
     std::string Grund_;
     bool gelesen_ = false;
     bool Geaendert_ = false;
+    int Lesungen_ = 0;
+    int Umbenennungen_ = 0;
 };
 
 }  // namespace varnok

@@ -1,8 +1,6 @@
 #include "session/kern/sitzung.h"
 
-#include <QDateTime>
 #include <algorithm>
-#include <chrono>
 #include <exception>
 #include <utility>
 
@@ -33,15 +31,15 @@ void Sitzung::versuche(const Handlung& h) {
 // The one way of a command.
 void Sitzung::fuehre(const Ablauf& a, const Handlung& h) {
     if (a.Weg == Weg::Zwischenschritt) return versuche(h);
-    const bool nimmt_an = a.Weg != Weg::Handlung && !(a.ohne_Feld && z_.*a.ohne_Feld);
+    const bool nimmt_an = a.Weg != Weg::Handlung && !(a.nach_Klimameldung && Laeufe_.Klimadatei_fehlt());
     const bool Lauf_fehlt = nimmt_an && a.Weg == Weg::Rechenbefehl && Felder_.aktives_Feld() >= 0;
-    std::string vorher = letzte_Statuszeile_;
+    std::string gesagt = z_.Statuszeile.gesagt();
     if (nimmt_an && !nimm_Texte_an(a.Weg == Weg::Befehl)) return;
-    letzte_Statuszeile_ = std::move(vorher);  // what a field told belongs to this command
+    z_.Statuszeile.zaehle_zur_naechsten(std::move(gesagt));  // what a field told belongs to this command
     Laeufe_.sieh_Klima_an();
     versuche(h);
     // A command that was to run and did not leaves the accepted value without results.
-    if (Lauf_fehlt && z_.Hinweis() && !z_.abgedeckt() && !z_.beendet) versuche([this] { Laeufe_.berechne(); });
+    if (Lauf_fehlt && z_.Hinweis() && !z_.abgedeckt() && !z_.beendet()) versuche([this] { Laeufe_.berechne(); });
     schliesse_Handlung_ab();
 }
 
@@ -59,6 +57,7 @@ bool Sitzung::nimm_Texte_an(bool mit_Lauf) {
 void Sitzung::schliesse_Handlung_ab() {
     Laeufe_.sieh_Klima_an();  // the action may have named another file, or changed this one
     raeume_Marken_auf();
+    if (!z_.Zusammenfassung_aktiv()) z_.zeige_Studien();  // it does not come back with a second study
     if (z_.Gestartet) {
         if (z_.alles_Gezeigte_gueltig()) z_.Gerechnetes.vergiss_Grund();
         versuche([this] { Diagramme_.ziehe_nach(Laeufe_.nimm_Gelaufenes().get()); });
@@ -67,7 +66,7 @@ void Sitzung::schliesse_Handlung_ab() {
     }
     Ruecknahme_.merke();
     fuehre_Statuszeile();
-    if (z_.beendet) Zwischenstand_.raeume();
+    if (z_.beendet()) Zwischenstand_.raeume();
 }
 
 // Where a save would write nothing else than the files hold, there is nothing to ask about.
@@ -77,20 +76,10 @@ void Sitzung::raeume_Marken_auf() {
     for (Satzplatz& p : z_.Saetze) p.vergiss_Aenderung();
 }
 
-// A line stands until the next change of an input or a result; one about files is written by their commands.
 void Sitzung::fuehre_Statuszeile() {
-    const bool neue = z_.Statuszeile != letzte_Statuszeile_;
     // The first results take no line away: until then nobody has seen it.
     const bool andere_Werte = letzte_Werte_ != Ergebnisse{} && z_.Werte() != letzte_Werte_;
-    const bool geaendert = z_.Vorgabe != letzte_Vorgabe_ || andere_Werte;
-    if (!neue && geaendert) z_.Statuszeile.clear();
-    if (neue && !z_.Statuszeile.empty()) {
-        const Systemuhr Maschine;
-        const auto jetzt = (z_.Welt.Zeit ? *z_.Welt.Zeit : Maschine).jetzt().time_since_epoch();
-        const auto Sekunden = std::chrono::duration_cast<std::chrono::seconds>(jetzt).count();
-        z_.Statuszeit = QDateTime::fromSecsSinceEpoch(Sekunden).toString(u"HH:mm").toStdString();
-    }
-    letzte_Statuszeile_ = z_.Statuszeile;
+    z_.Statuszeile.schliesse_ab(z_.Vorgabe != letzte_Vorgabe_ || andere_Werte, z_.Zeit());
     letzte_Vorgabe_ = z_.Vorgabe;
     letzte_Werte_ = z_.Werte();
 }

@@ -14,6 +14,16 @@
 namespace varnok {
 
 class Sitzung {
+    // All parts of `Sitzung` or `const Sitzung`.
+    template <class S>
+    static auto Teile_von(S& s) {
+        return std::tie(s.Diagramme_, s.Bilder_, s.Laeufe_, s.Felder_, s.Ruecknahme_, s.Saetze_, s.Organiser_, s.Listen_,
+                        s.Studien_, s.Beschreibung_, s.Editor_, s.Tabelle_, s.Berichte_, s.Update_, s.Optionen_, s.Dateien_,
+                        s.Hilfe_, s.Programm_, s.Zwischenstand_, s.Zeichen_, s.Projekte_, s.Wiederherstellung_);
+    }
+    auto Teile() { return Teile_von(*this); }
+    auto Teile() const { return Teile_von(*this); }
+
 public:
     explicit Sitzung(Umgebung Welt);
 
@@ -56,16 +66,6 @@ private:
     void raeume_Marken_auf();
     void fuehre_Statuszeile();
 
-    // All parts of `Sitzung` or `const Sitzung`.
-    template <class S>
-    static auto Teile_von(S& s) {
-        return std::tie(s.Diagramme_, s.Bilder_, s.Laeufe_, s.Felder_, s.Ruecknahme_, s.Saetze_, s.Organiser_, s.Listen_,
-                        s.Studien_, s.Beschreibung_, s.Editor_, s.Tabelle_, s.Berichte_, s.Update_, s.Optionen_, s.Dateien_,
-                        s.Hilfe_, s.Programm_, s.Zwischenstand_, s.Zeichen_, s.Projekte_, s.Wiederherstellung_);
-    }
-    auto Teile() { return Teile_von(*this); }
-    auto Teile() const { return Teile_von(*this); }
-
     Zustand z_;
     Diagrammsteuerung Diagramme_{z_};
     Bildsteuerung Bilder_{z_, Diagramme_};
@@ -73,7 +73,7 @@ private:
     Feldeingabe Felder_{z_, Laeufe_};
     Ruecknahme Ruecknahme_{z_, Laeufe_, Felder_, Diagramme_};
     Satzverwaltung Saetze_{z_, Laeufe_, Felder_, Diagramme_};
-    Organiser Organiser_{z_, Saetze_};
+    Organiser Organiser_{z_, Saetze_, Beschreibung_};
     Listenwahl Listen_{z_, Laeufe_, Felder_, Diagramme_};
     Studienverwaltung Studien_{z_, Laeufe_, Felder_};
     Beschreibungseingabe Beschreibung_{z_};
@@ -92,7 +92,6 @@ private:
     // As the last action left them.
     Eingabe letzte_Vorgabe_;
     Ergebnisse letzte_Werte_;
-    std::string letzte_Statuszeile_;
 };
 
 }  // namespace varnok

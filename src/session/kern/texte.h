@@ -43,8 +43,8 @@ inline std::string Dauer(std::chrono::seconds Zeit) {
     const auto in = [](long long Wieviele, const char* Einheit) {
         return std::to_string(Wieviele) + " " + Einheit + (Wieviele == 1 ? "" : "s");
     };
-    if (s >= 48 * 3600) return in(s / (24 * 3600), "day");
-    if (s >= 2 * 3600) return in(s / 3600, "hour");
+    if (s >= 48LL * 3600) return in(s / (24LL * 3600), "day");
+    if (s >= 2LL * 3600) return in(s / 3600, "hour");
     return in(s / 60, "minute");
 }
 // What the lock of another machine means, in front of a question.

@@ -18,7 +18,7 @@ std::string Anfang(const std::string& Text) {
 
 bool ist_eindeutig(const std::string& Text) { return !lies_Zahl(Text).mehrere_Trennzeichen; }
 
-std::string nimm_Zahl_an(const Zustand& z, const std::string& Feld, const std::string& Text, std::string& Meldung) {
+std::string nimm_Zahl_an(const Schauplatz& z, const std::string& Feld, const std::string& Text, std::string& Meldung) {
     const Zahllesung l = lies_Zahl(Text);
     if (l.ganz()) return Text;
     const std::string Zahl = allgemeine_Zahl(l.Zahl, z.Welt.Dezimalzeichen);
@@ -27,10 +27,10 @@ std::string nimm_Zahl_an(const Zustand& z, const std::string& Feld, const std::s
     return Zahl;
 }
 
-std::string nimm_Zahl_an(Zustand& z, const std::string& Feld, const std::string& Text) {
+std::string nimm_Zahl_an(Schauplatz& z, const std::string& Feld, const std::string& Text) {
     std::string Meldung;
     const std::string Zahl = nimm_Zahl_an(z, Feld, Text, Meldung);
-    if (!Meldung.empty()) z.Statuszeile = Meldung;
+    if (!Meldung.empty()) z.Statuszeile.sage(Meldung);
     return Zahl;
 }
 

@@ -21,24 +21,24 @@ Ausgang Aktualisierungssteuerung::fuehre(Suche s) {
     struct Merker {
         bool& laeuft;
         ~Merker() { laeuft = false; }
-    } const Ende{z_.Aktualisierung_laeuft};
-    z_.Aktualisierung_laeuft = true;
-    z_.Aktualisierungsfehler = false;
+    } const Ende{laeuft_};
+    laeuft_ = true;
+    Fehler_ = false;
     Aktualisierung a(*z_.Welt.Fragen, z_.Welt.Update, vor_dem_Ende_);
     const Ausgang Ergebnis = s(a);
-    z_.Aktualisierungsfehler = ist_Aktualisierungsfehler(Ergebnis);
-    if (Ergebnis == Ausgang::Programmende) z_.beendet = true;
+    Fehler_ = ist_Aktualisierungsfehler(Ergebnis);
+    if (Ergebnis == Ausgang::Programmende) z_.beende();
     return Ergebnis;
 }
 
 void Aktualisierungssteuerung::halte_an() {
-    if (z_.Aktualisierung_laeuft && z_.Welt.Update.Netz) z_.Welt.Update.Netz->brich_ab();
+    if (laeuft_ && z_.Welt.Update.Netz) z_.Welt.Update.Netz->brich_ab();
 }
 
 void Aktualisierungssteuerung::suche() {
     brich_ab();
     const Ausgang Ergebnis = fuehre([](Aktualisierung& a) { return a.Suche_nach_Update(); });
-    if (Ergebnis == Ausgang::keine_Antwort && !z_.beendet)
+    if (Ergebnis == Ausgang::keine_Antwort && !z_.beendet())
         varnok::melde(z_, Texte::keine_Verbindung, Texte::Updateserver_antwortet_nicht);
 }
 
@@ -49,8 +49,8 @@ void Aktualisierungssteuerung::suche_beim_Start(std::function<void(const std::st
     Welt.Netz->hole_nebenher(Welt.Ziel.Versionsseite(), Startgrenze,
                              [this, antwortet = std::move(antwortet)](const Abrufantwort& Seite) {
                                  sucht_beim_Start_ = false;
-                                 z_.Aktualisierungsfehler = !Seite || !Version_der_Seite(*Seite);
-                                 if (!z_.Aktualisierungsfehler && !z_.Gestartet && !z_.beendet) antwortet(*Seite);
+                                 Fehler_ = !Seite || !Version_der_Seite(*Seite);
+                                 if (!Fehler_ && !z_.Gestartet && !z_.beendet()) antwortet(*Seite);
                              });
 }
 

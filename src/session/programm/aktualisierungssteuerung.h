@@ -4,7 +4,7 @@
 #include <string>
 #include <utility>
 
-#include "session/kern/zustand.h"
+#include "session/kern/schauplatz.h"
 
 namespace varnok {
 
@@ -12,7 +12,7 @@ namespace varnok {
 class Aktualisierungssteuerung {
 public:
     // `vor_dem_Ende`: see `Aktualisierung`.
-    Aktualisierungssteuerung(Zustand& z, std::function<void()> vor_dem_Ende) : z_(z), vor_dem_Ende_(std::move(vor_dem_Ende)) {}
+    Aktualisierungssteuerung(Schauplatz& z, std::function<void()> vor_dem_Ende) : z_(z), vor_dem_Ende_(std::move(vor_dem_Ende)) {}
     ~Aktualisierungssteuerung();
     Aktualisierungssteuerung(const Aktualisierungssteuerung&) = delete;
     Aktualisierungssteuerung& operator=(const Aktualisierungssteuerung&) = delete;
@@ -27,16 +27,21 @@ public:
     // the version page if it comes while the start page is still on the screen, and calls `melde`.
     void suche_beim_Start(std::function<void(const std::string& Seite)> antwortet);
     void melde(const std::string& Seite);
-    bool darf_suchen() const { return !z_.Aktualisierung_laeuft; }
+    bool laeuft() const { return laeuft_; }
+    bool darf_suchen() const { return !laeuft_; }
+    // The last check received no usable answer.
+    bool Fehler() const { return Fehler_; }
 
 private:
     template <class Suche>
     Aktualisierungsausgang fuehre(Suche s);
     void brich_ab();
 
-    Zustand& z_;
+    Schauplatz& z_;
     std::function<void()> vor_dem_Ende_;
     bool sucht_beim_Start_ = false;
+    bool laeuft_ = false;
+    bool Fehler_ = false;
 };
 
 }  // namespace varnok

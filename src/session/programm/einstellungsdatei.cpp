@@ -4,16 +4,16 @@
 
 namespace varnok {
 
-std::string Einstellungspfad(const Zustand& z) { return z.Welt.Programmpfad + "/VARNOK.ini"; }
+std::string Einstellungspfad(const Eingabestand& z) { return z.Welt.Programmpfad + "/VARNOK.ini"; }
 
-void Einstellungen_schreiben(const Zustand& z) {
+void Einstellungen_schreiben(const Eingabestand& z) {
     Einstellungen e = z.Einstellung;
     e.Projektpfad = z.Projektpfad;
     e.TWA = z.Parameter().TWA;
     schreibe_Datei(Einstellungspfad(z), Einstellungen_als_Bytes(e), {Schreibweise::ungefragt, z.Welt.Programmpfad});
 }
 
-void setze_Ausgabeprojekt(Zustand& z, const std::string& Pfad) {
+void setze_Ausgabeprojekt(Eingabestand& z, const std::string& Pfad) {
     z.Ausgabeprojekt = Projektordner(Pfad);
     z.ohne_Nebenausgaben = !ist_beschreibbar(Pfad);
 }

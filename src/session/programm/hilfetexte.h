@@ -3,14 +3,14 @@
 #include <string>
 #include <vector>
 
-#include "session/kern/zustand.h"
+#include "session/kern/schauplatz.h"
 
 namespace varnok {
 
 // Texts about the program that come from files beside it.
 class Hilfetexte {
 public:
-    explicit Hilfetexte(Zustand& z) : z_(z) {}
+    explicit Hilfetexte(Schauplatz& z) : z_(z) {}
 
     // The tips as far as the file has them, read anew. What is wrong with the file is told once; nothing ends for want of a tip.
     std::vector<std::string> Tooltips();
@@ -20,7 +20,7 @@ public:
     std::string Feldhilfe(const std::vector<std::string>& Objektnamen, const std::string& Aufschrift) const;
 
 private:
-    Zustand& z_;
+    Schauplatz& z_;
     std::string gemeldet_;  // what was told about the file of tips
 };
 

@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <system_error>
 
+#include "base/dateipfad.h"
 #include "base/laufzeitfehler.h"
 #include "exposure/twa.h"
 #include "records/schreibort.h"
@@ -15,8 +16,6 @@
 
 namespace varnok {
 namespace {
-
-std::filesystem::path als_Pfad(const std::string& Utf8) { return {std::u8string(Utf8.begin(), Utf8.end())}; }
 
 // What goes wrong here is told nowhere: the first file that is written says it.
 void lege_Unterordner_an(const Projektordner& Projekt) {
@@ -83,7 +82,7 @@ void Optionensteuerung::setze_Projektpfad(const std::string& Pfad) {
     lege_Unterordner_an(*z_.Ausgabeprojekt);
     if (Pfad == z_.Projektpfad) return;
     z_.Projektpfad = Pfad;
-    z_.Statuszeile = "Output goes to \"" + Pfad + "\"; its input data are shown after the next start.";
+    z_.Statuszeile.sage("Output goes to \"" + Pfad + "\"; its input data are shown after the next start.");
 }
 
 bool Optionensteuerung::schliesse() {

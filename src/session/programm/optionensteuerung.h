@@ -29,7 +29,7 @@ std::string Einwand_gegen_Projektpfad(const std::string& Pfad);
 // The options dialog: `oeffne`, `uebernimm` with OK, `schliesse` when it is gone, however it was left.
 class Optionensteuerung {
 public:
-    Optionensteuerung(Zustand& z, Laufsteuerung& Laeufe, Listenwahl& Listen) : z_(z), Laeufe_(Laeufe), Listen_(Listen) {}
+    Optionensteuerung(Eingabestand& z, Laufsteuerung& Laeufe, Listenwahl& Listen) : z_(z), Laeufe_(Laeufe), Listen_(Listen) {}
 
     // The options as they are now.
     Optionsentwurf oeffne();
@@ -49,7 +49,7 @@ private:
     void sage_Tips_ab();
     void rechne();
 
-    Zustand& z_;
+    Eingabestand& z_;
     Laufsteuerung& Laeufe_;
     Listenwahl& Listen_;
     Optionsentwurf vorher_;

@@ -15,7 +15,7 @@
 namespace varnok {
 namespace {
 
-std::optional<Einstellungen> lies_Einstellungen(Zustand& z) {
+std::optional<Einstellungen> lies_Einstellungen(Eingabestand& z) {
     const std::string Pfad = Einstellungspfad(z);
     try {
         return zerlege_Einstellungen(lies_Datei(Pfad), Pfad, &z.zu_den_Einstellungen);
@@ -25,7 +25,7 @@ std::optional<Einstellungen> lies_Einstellungen(Zustand& z) {
 }
 
 // False where the file is missing or cannot be read: then it is made anew from the defaults without a word.
-bool lade_Einstellungen(Zustand& z) {
+bool lade_Einstellungen(Eingabestand& z) {
     const auto gelesen = lies_Einstellungen(z);
     z.Einstellung = gelesen.value_or(Einstellungen{});
     // Who starts for the first time learns from the tips.
@@ -37,7 +37,7 @@ bool lade_Einstellungen(Zustand& z) {
 }
 
 // A folder that cannot be written is told at the end, when there is something to write.
-void schreibe_erste_Einstellungen(const Zustand& z) {
+void schreibe_erste_Einstellungen(const Eingabestand& z) {
     try {
         if (!z.nur_lesbar) Einstellungen_schreiben(z);
     } catch (const Laufzeitfehler&) {
@@ -46,7 +46,7 @@ void schreibe_erste_Einstellungen(const Zustand& z) {
 }
 
 // Whether the program still runs on another machine only the user can know.
-void sage_Sperre(Zustand& z) {
+void sage_Sperre(Eingabestand& z) {
     const auto Inhaber = z.Sperre->anderer();
     if (!Inhaber) return;
     if (Inhaber->Rechner.empty()) return melde(z, Texte::Ordner_in_Gebrauch, Texte::zweites_Fenster);
@@ -55,21 +55,21 @@ void sage_Sperre(Zustand& z) {
     if (z.Welt.Fragen->frage(f) == Knopf::Ja) z.Sperre->uebernimm();
 }
 
-void oeffne_Ordner(Zustand& z) {
+void oeffne_Ordner(Eingabestand& z) {
     try {
         z.Ordner.emplace(z.Projektpfad);
     } catch (const Laufzeitfehler&) {
-        z.Statuszeile = "The project path \"" + z.Projektpfad + "\" is not there; \"" + z.Welt.Programmpfad + "\" is used.";
+        z.Statuszeile.sage("The project path \"" + z.Projektpfad + "\" is not there; \"" + z.Welt.Programmpfad + "\" is used.");
         z.Projektpfad = z.Welt.Programmpfad;
         z.Ordner.emplace(z.Projektpfad);
     }
     z.nur_lesbar = !ist_beschreibbar(z.Ordner->Pfad()) || !ist_beschreibbar(z.Ordner->Eingabeordner());
     setze_Ausgabeprojekt(z, z.Ordner->Pfad());
-    if (z.nur_lesbar) z.Statuszeile += (z.Statuszeile.empty() ? "\"" : " \"") + z.Ordner->Pfad() + "\"" + Texte::nur_lesbar;
+    if (z.nur_lesbar) z.Statuszeile.sage_dazu("\"" + z.Ordner->Pfad() + "\"" + Texte::nur_lesbar);
 }
 
 // The newest first; before it the one that the program was called with.
-std::vector<std::string> Startfolge(const Zustand& z) {
+std::vector<std::string> Startfolge(const Eingabestand& z) {
     std::vector<std::string> Namen = Simulationen_nach_Alter(*z.Ordner);
     const auto gewollte = std::find(Namen.begin(), Namen.end(), z.Welt.erste_Simulation);
     if (gewollte != Namen.end()) std::rotate(Namen.begin(), gewollte, gewollte + 1);
@@ -94,7 +94,7 @@ bool Programmablauf::lade_erste() {
     for (const std::string& Name : Startfolge(z_)) {
         try {
             Saetze_.lade_Start(Name);
-            return !z_.beendet;
+            return !z_.beendet();
         } catch (const Laufzeitfehler& f) {
             melde(z_, Texte::Laufzeitfehler, f.what());
         }
@@ -113,16 +113,16 @@ bool Programmablauf::oeffne_Projekt() {
     Saetze_.fuelle_Listen();
     z_.Sicht.TWA_Laenge = TWA_Vorauswahl(z_.Parameter().TWA_Zeiten);
     z_.Felder().Studie = {""};  // what stands under the cover where no compound can be read
-    return (Zwischenstand_.biete_an() || lade_erste()) && !z_.beendet;
+    return (Zwischenstand_.biete_an() || lade_erste()) && !z_.beendet();
 }
 
 void Programmablauf::starte() {
     if (z_.Gestartet) return;
     z_.Gestartet = true;
     // The handler of the pattern makes the first run; what it marks is no change of the user.
-    const std::array<bool, 4> Marken = z_.Marken();
+    const auto Marken = z_.Marken();
     Listen_.fuehre_Muster_aus();
-    for (std::size_t Art = 0; Art < Marken.size(); ++Art) z_.Saetze[Art].stelle_Marke(Marken[Art]);
+    z_.stelle_Marken(Marken);
 }
 
 // What is not saved at the end goes into `backup`; in a project that is open for reading only there is none. False where the user
@@ -151,18 +151,18 @@ void Programmablauf::beende() {
     const std::string zweiter = z_.nur_lesbar ? "" : Fehler_bei([&] { Einstellungen_schreiben(z_); });
     Fehler += (Fehler.empty() || zweiter.empty() ? "" : "\n") + zweiter;
     if (!Fehler.empty()) melde(z_, Texte::Laufzeitfehler, Fehler);
-    z_.beendet = true;
+    z_.beende();
 }
 
 bool Programmablauf::schliesse_Fenster() {
-    if (z_.beendet) return true;
+    if (z_.beendet()) return true;
     Felder_.nimm_Ungueltiges_zurueck();
     Studien_.bestaetige(false);  // a name in the box counts as typed
     const auto zu_sichern = Saetze_.frage_nach_Sicherung();
     if (!zu_sichern) return false;
     if (!zu_sichern->empty() && !Saetze_.speichere_Arten(*zu_sichern)) return false;
-    z_.beendet = sichere_am_Ende();
-    return z_.beendet;
+    if (sichere_am_Ende()) z_.beende();
+    return z_.beendet();
 }
 
 }  // namespace varnok

@@ -78,12 +78,12 @@ void Projektoeffnung::oeffne(const std::string& Pfad) {
     if (ist_hier(Wahl.Ordner)) return oeffne_hier(Wahl.Simulation);
     if (!z_.Welt.weiteres_Fenster || !z_.Welt.weiteres_Fenster(Pfad))
         throw Laufzeitfehler("\"" + Pfad + "\" cannot be opened: no further window of the program could be started");
-    z_.Statuszeile = "\"" + Pfad + "\" opens in a window of its own.";
+    z_.Statuszeile.sage("\"" + Pfad + "\" opens in a window of its own.");
 }
 
 void Projektoeffnung::oeffne_hier(const std::string& Name) {
     if (Name.empty()) {
-        z_.Statuszeile = "This window shows that project already.";
+        z_.Statuszeile.sage("This window shows that project already.");
         return;
     }
     const auto Platz = [&] { return std::find(z_.Listen[Simulation].begin(), z_.Listen[Simulation].end(), Name); };

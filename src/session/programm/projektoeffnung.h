@@ -19,7 +19,7 @@ struct Zuletztes {
 // Other projects beside the one in this window, and what the user opened last, in whatever window.
 class Projektoeffnung {
 public:
-    Projektoeffnung(Zustand& z, Satzverwaltung& Saetze) : z_(z), Saetze_(Saetze) {}
+    Projektoeffnung(Eingabestand& z, Satzverwaltung& Saetze) : z_(z), Saetze_(Saetze) {}
 
     // A project folder or a summary file: a simulation of the project in this window is loaded here, anything else gets a window
     // of its own. What cannot be opened is told.
@@ -36,7 +36,7 @@ private:
     void oeffne_hier(const std::string& Simulation);
     bool ist_hier(const std::string& Ordner) const;
 
-    Zustand& z_;
+    Eingabestand& z_;
     Satzverwaltung& Saetze_;
     std::string gemerkt_;
 };

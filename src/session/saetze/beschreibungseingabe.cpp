@@ -8,7 +8,7 @@ namespace varnok {
 void Beschreibungseingabe::oeffne() {
     alter_Text_ = z_.Felder().Beschreibung;
     alte_Marke_ = z_.Saetze[Simulation].Geaendert();
-    z_.Beschreibung_offen = true;
+    offen_ = true;
 }
 
 void Beschreibungseingabe::aendere(const std::string& Text) {
@@ -17,14 +17,13 @@ void Beschreibungseingabe::aendere(const std::string& Text) {
         eine_Zeile.begin(), eine_Zeile.end(), [](char c) { return c == '\n' || c == '\r'; }, ' ');
     if (eine_Zeile == z_.Felder().Beschreibung) return;
     z_.Felder().Beschreibung = eine_Zeile;
-    z_.Ergebnisdatei.clear();
     z_.Saetze[Simulation].merke_Aenderung();
 }
 
-void Beschreibungseingabe::schliesse() { z_.Beschreibung_offen = false; }
+void Beschreibungseingabe::schliesse() { offen_ = false; }
 
 void Beschreibungseingabe::nimm_zurueck() {
-    if (!std::exchange(z_.Beschreibung_offen, false)) return;
+    if (!std::exchange(offen_, false)) return;
     z_.Felder().Beschreibung = alter_Text_;
     z_.Saetze[Simulation].stelle_Marke(alte_Marke_);
 }

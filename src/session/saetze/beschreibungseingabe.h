@@ -1,13 +1,16 @@
 #pragma once
 
-#include "session/kern/zustand.h"
+#include "session/kern/eingabestand.h"
 
 namespace varnok {
 
 // The description of the simulation, typed on the main screen.
 class Beschreibungseingabe {
 public:
-    explicit Beschreibungseingabe(Zustand& z) : z_(z) {}
+    explicit Beschreibungseingabe(Eingabestand& z) : z_(z) {}
+
+    // The text is being typed.
+    bool offen() const { return offen_; }
 
     void oeffne();
     // A line end is not kept: a summary file holds the text in one line.
@@ -17,9 +20,10 @@ public:
     void nimm_zurueck();
 
 private:
-    Zustand& z_;
+    Eingabestand& z_;
     std::string alter_Text_;
     bool alte_Marke_ = false;  // of the simulation
+    bool offen_ = false;
 };
 
 }  // namespace varnok

@@ -46,7 +46,7 @@ void Eingabedateien::lade(const std::string& Dateiname) {
     const std::string Name = Dateiname.substr(0, Dateiname.size() - std::min<std::size_t>(Dateiname.size(), 4));
     pruefe_Namen(Name);
     const std::string Satz = z_.Namen[Wirkstoff];
-    z_.Statuszeile.clear();
+    z_.Statuszeile.leere();
     if (z_.verschieden(Wirkstoff)) {
         sichere(z_,
                 {{{Satz + Endungen[Wirkstoff], Satz_als_Bytes(Wirkstoff, z_.Vorgabe, z_.Sicht, z_.Welt.Dezimalzeichen)}}, {}});
@@ -62,7 +62,7 @@ bool Eingabedateien::speichere(const std::string& Dateiname) {
     pruefe_Namen(Name);
     verlange_Schreibrecht(z_);
     if (!Saetze_.pruefe_Auswahl({Knopf::OK, Knopf::Abbrechen})) return false;
-    z_.Statuszeile.clear();
+    z_.Statuszeile.leere();
     // Three lines, no description: read as four, the file is misread, and that is why this dialog stays out of use.
     std::string Bytes;
     for (std::size_t Art = 1; Art <= 3; ++Art) Bytes += als_Satztext(z_.Namen[Art], Satzart_Namen[Art]) + "\r\n";
@@ -79,7 +79,7 @@ bool Eingabedateien::speichere(const std::string& Dateiname) {
     sichere(z_, ersetzt);
     schreibe_Datei(z_.Ordner->Zielpfad(Name, Endung), Bytes, als_Satz);
     zeige_als_Simulation(Name);
-    z_.Simulation_markiert = false;
+    z_.vergiss_Kombination();
     for (std::size_t Art = 1; Art <= 3; ++Art) {
         if (!z_.Saetze[Art].gelesen()) continue;
         Satz_schreiben(*z_.Ordner, z_.Namen[Art], static_cast<Satzart>(Art), z_.Vorgabe, z_.Sicht, z_.Welt.Dezimalzeichen);
@@ -96,7 +96,7 @@ void Eingabedateien::loesche(const std::string& Ordner, const std::string& Datei
                              z_.Ordner->Eingabeordner() + "\"");
     }
     const std::string Pfad = z_.Ordner->Eingabeordner() + "/" + Dateiname;
-    z_.Statuszeile.clear();
+    z_.Statuszeile.leere();
     Sicherungsgut Gut;
     Gut.nimm_Datei(Pfad, Dateiname);
     sichere(z_, Gut);

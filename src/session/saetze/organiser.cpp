@@ -19,7 +19,7 @@ bool enthaelt(const std::vector<std::string>& Liste, const std::string& Name) {
 }
 
 // Empty where the file cannot be read.
-std::string Dateibytes(const Zustand& z, const std::string& Name) {
+std::string Dateibytes(const Eingabestand& z, const std::string& Name) {
     const auto Pfad = z.Ordner->finde(Name, Endungen[Simulation]);
     return Pfad ? lies_Datei_falls_moeglich(*Pfad).value_or("") : "";
 }
@@ -27,9 +27,9 @@ std::string Dateibytes(const Zustand& z, const std::string& Name) {
 // What "Done" changes on the main screen until the summary file is written.
 class Merkstand {
 public:
-    explicit Merkstand(const Zustand& z) : Listen_(z), Saetze_(z.Saetze), Beschreibung_(z.Felder().Beschreibung) {}
+    explicit Merkstand(const Eingabestand& z) : Listen_(z), Saetze_(z.Saetze), Beschreibung_(z.Felder().Beschreibung) {}
 
-    void stelle_her(Zustand& z) const {
+    void stelle_her(Eingabestand& z) const {
         static_cast<Satzlisten&>(z) = Listen_;
         z.Saetze = Saetze_;
         z.Felder().Beschreibung = Beschreibung_;
@@ -46,7 +46,7 @@ private:
 void Organiser::oeffne() {
     gewaehlt_.fill(false);
     umbenannt_ = Szenario_bearbeitet_ = Lauf_ = false;
-    z_.Beschreibung_offen = false;
+    Beschreibung_.schliesse();
     Projektname_ = alter_Projektname_ = alte_Beschreibung_ = z_.Felder().Beschreibung;
     Listen_.Namen = z_.Namen;
     for (const Satzart Art : alle_Arten) Befehle_.lies_Liste(Art);
@@ -102,7 +102,7 @@ void Organiser::waehle_mit_Inhalt(Satzart Art) {
 
 void Organiser::kopiere(Satzart Art) {
     const std::vector<std::string> vorher = Listen_.Listen[Art];
-    z_.Statuszeile.clear();
+    z_.Statuszeile.leere();
     if (!Befehle_.kopiere(Art)) return;
     // The copy may have replaced the file of what the main screen shows.
     const std::string neu = Listen_.gewaehlt(Art);
@@ -112,7 +112,7 @@ void Organiser::kopiere(Satzart Art) {
 }
 
 void Organiser::loesche(Satzart Art) {
-    z_.Statuszeile.clear();
+    z_.Statuszeile.leere();
     if (!Befehle_.loesche(Art)) return;
     ziehe_Hauptformular_nach(Art);
     waehle_mit_Inhalt(Art);
@@ -120,7 +120,7 @@ void Organiser::loesche(Satzart Art) {
 
 bool Organiser::benenne_um(Satzart Art, const std::string& Text, bool mit_Frage) {
     const std::string alt = Listen_.gewaehlt(Art);
-    z_.Statuszeile.clear();
+    z_.Statuszeile.leere();
     const Umbenennung Ausgang = Befehle_.benenne_um(Art, Text, mit_Frage);
     if (Ausgang != Umbenennung::erfolgt) return Ausgang == Umbenennung::unveraendert;
     umbenannt_ = true;
@@ -146,7 +146,7 @@ void Organiser::ziehe_Hauptformular_nach(Satzart Art, const std::string& alt, co
     if (gezeigt.empty() != (z_.Auswahl(Art) < 0))
         entwerte_im_Hauptformular(Art, gezeigt.empty() ? Texte::Satz_ersetzt : Texte::Satz_geloescht);
     if (!umbenannt) return;
-    Waechter_.merke_Namen(Art, neu);
+    z_.Saetze[Art].benenne(neu);
     if (z_.Gestartet) z_.merke_Kombination();
 }
 
@@ -233,13 +233,11 @@ bool Organiser::uebernimm() {
     }
     pruefe_Dateien();
     const std::vector<Satzart> Arten = zu_lesende();
-    z_.Statuszeile.clear();
+    z_.Statuszeile.leere();
     sichere(Arten);
-    const bool andere_Beschreibung = Projektname_ != alte_Beschreibung_;
     if (!uebergib()) return false;
-    if (andere_Beschreibung) z_.Ergebnisdatei.clear();
     z_.Saetze[Simulation].vergiss_Aenderung();
-    z_.Simulation_markiert = false;
+    z_.vergiss_Kombination();
     Lauf_ = Lauf;
     if (!Lauf) return true;
     for (const Satzart Art : Arten) {
@@ -256,7 +254,7 @@ bool Organiser::uebergib() {
     const Merkstand vorher(z_);
     gib_Listen_weiter();
     z_.Felder().Beschreibung = Projektname_;
-    z_.Saetze[Simulation].lies({z_.gewaehlt(Simulation), gelesen_});
+    z_.Saetze[Simulation].kenne({z_.gewaehlt(Simulation), gelesen_});
     if (z_.Auswahl(Simulation) < 0) return true;  // the folder has no simulation
     if (z_.nur_lesbar) return true;               // what was put together here is looked at, and written nowhere
     bool geschrieben = false;

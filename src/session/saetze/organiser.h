@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "session/saetze/beschreibungseingabe.h"
 #include "session/saetze/satzbefehle.h"
 #include "session/saetze/satzverwaltung.h"
 #include "session/saetze/satzwaechter.h"
@@ -15,7 +16,8 @@ namespace varnok {
 // has another name follows at once, too, so that nothing there stands under a name that means another file.
 class Organiser {
 public:
-    Organiser(Zustand& z, Satzverwaltung& Saetze) : z_(z), Saetze_(Saetze), Befehle_(z, Listen_) {}
+    Organiser(Eingabestand& z, Satzverwaltung& Saetze, Beschreibungseingabe& Beschreibung)
+        : z_(z), Saetze_(Saetze), Beschreibung_(Beschreibung), Befehle_(z, Listen_) {}
 
     // Fills the lists from the project folder and shows what the main screen shows: simulation, records, description. Without a
     // simulation there, the last one of the list with the records of its file; one that cannot be read throws.
@@ -64,8 +66,9 @@ private:
     void ziehe_Hauptformular_nach(Satzart Art, const std::string& alt = {}, const std::string& neu = {});
     void entwerte_im_Hauptformular(Satzart Art, const char* Grund);
 
-    Zustand& z_;
+    Eingabestand& z_;
     Satzverwaltung& Saetze_;
+    Beschreibungseingabe& Beschreibung_;
     Satzlisten Listen_;
     Satzbefehle Befehle_;
     Satzwaechter Waechter_{z_};

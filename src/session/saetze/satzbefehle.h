@@ -3,7 +3,8 @@
 #include <string>
 #include <vector>
 
-#include "session/kern/zustand.h"
+#include "session/kern/satzlisten.h"
+#include "session/kern/schauplatz.h"
 #include "session/saetze/sicherungsgut.h"
 
 namespace varnok {
@@ -16,7 +17,7 @@ enum class Umbenennung { erfolgt, unveraendert, abgelehnt };
 class Satzbefehle {
 public:
     // `Listen`: the selectors of the window, or those of a dialog.
-    Satzbefehle(Zustand& z, Satzlisten& Listen) : z_(z), Listen_(Listen) {}
+    Satzbefehle(Schauplatz& z, Satzlisten& Listen) : z_(z), Listen_(Listen) {}
 
     // Path of the template of a record. A missing one is a fault that names it.
     std::string Vorlage(Satzart Art) const;
@@ -40,7 +41,7 @@ private:
     // Puts a file into `backup` and tells in the status line where.
     void sichere_Datei(const std::string& Pfad, const std::string& Dateiname);
 
-    Zustand& z_;
+    Schauplatz& z_;
     Satzlisten& Listen_;
 };
 

@@ -36,7 +36,6 @@ void Satzverwaltung::nenne_Unwaehlbare() {
 // for.
 void Satzverwaltung::erklaere_ungelesen(Satzart Art, const std::string& Grund) {
     z_.Saetze[Art].verwirf(Grund);
-    z_.Verlauf_beginnt = true;
     stelle_voran(Grund + ".");
 }
 
@@ -80,8 +79,6 @@ bool Satzverwaltung::lies_Satz(Satzart Art, const std::string& Satzname) {
 
 // What is tied to a record whose values have just come.
 void Satzverwaltung::folge_dem_Satz(Satzart Art, int alte_TWA_Zeiten) {
-    z_.Verlauf_beginnt = true;
-    if (Art == Applikation) z_.Zeilenvorrat.clear();
     if (Art == Wirkstoff) nach_Wirkstoff(alte_TWA_Zeiten);
     if (Art == Applikation) Diagramme_.setze_Bereiche_nach_Ansicht();
     Diagramme_.bringe_nach_vorn(z_.Sicht.Substanz);
@@ -89,7 +86,6 @@ void Satzverwaltung::folge_dem_Satz(Satzart Art, int alte_TWA_Zeiten) {
 
 void Satzverwaltung::nach_Wirkstoff(int alte_TWA_Zeiten) {
     if (z_.Parameter().TWA_Zeiten != alte_TWA_Zeiten) z_.Sicht.TWA_Laenge = TWA_Vorauswahl(z_.Parameter().TWA_Zeiten);
-    if (z_.Studienzahl() <= 1) z_.Zusammenfassung_aktiv = false;
     // A compound that the scheme does not have cannot stay in view.
     if (z_.Sicht.Substanz >= Anzahl_Stoffe(z_.Felder().Berechnungsmodus)) z_.Sicht.Substanz = 0;
     Felder_.fuelle();
@@ -101,7 +97,7 @@ void Satzverwaltung::uebernimm(const std::string& Simulation, const Simulationss
     z_.Namen[varnok::Simulation] = Simulation;
     for (Satzplatz& p : z_.Saetze) p.verlange();
     Waechter_.merke(varnok::Simulation, Simulation);
-    z_.Simulation_markiert = false;
+    z_.vergiss_Kombination();
     Waechter_.merke_Gespeichertes(varnok::Simulation);
 }
 
@@ -118,7 +114,7 @@ void Satzverwaltung::waehle_Simulation(int Position) {
     const std::string Fremdes = Waechter_.Fremdes(alle_Arten);
     if (!z_.Ordner->finde(Simulation, Endungen[0])) Befehle_.lies_Liste(varnok::Simulation);
     const Simulationssatz Satz = lies_Simulation(*z_.Ordner, Simulation);
-    z_.Statuszeile.clear();
+    z_.Statuszeile.leere();
     sichere_Ungesichertes();
     stelle_voran(Fremdes);
     uebernimm(Simulation, Satz);
@@ -149,16 +145,14 @@ void Satzverwaltung::waehle_Satz(Satzart Art, int Position) {
     const std::string neu = z_.Listen[Art].at(static_cast<std::size_t>(Position));
     const std::string Fremdes = Waechter_.Fremdes({Art});
     const std::string vorher = z_.Namen[Art];
-    const bool geaendert = z_.Saetze[Simulation].Geaendert();
-    const bool markiert = z_.Simulation_markiert;
+    const auto Marken = z_.Marken();
     const auto kehre_zurueck = [&] {
         z_.Namen[Art] = vorher;
-        z_.Saetze[Simulation].stelle_Marke(geaendert);
-        z_.Simulation_markiert = markiert;
+        z_.stelle_Marken(Marken);
     };
     const Knopf Antwort = wird_gefragt(Art) ? frage_Sicherung(Art, neu) : Knopf::Nein;
     if (Antwort == Knopf::nicht_jetzt) return;
-    z_.Statuszeile.clear();
+    z_.Statuszeile.leere();
     // The selector shows the record chosen already, so Yes stores the values of the record left under the name of the one chosen.
     z_.Namen[Art] = neu;
     merke_Kombination();
@@ -178,7 +172,7 @@ void Satzverwaltung::lege_an(Satzart Art) {
     verlange_Schreibrecht(z_);
     const std::string Fremdes = Waechter_.Fremdes({Art});
     Befehle_.Vorlage(Art);
-    z_.Statuszeile.clear();
+    z_.Statuszeile.leere();
     sichere_vor_dem_Lesen(Art);
     Befehle_.lege_an(Art);
     stelle_voran(Fremdes);
@@ -189,31 +183,28 @@ void Satzverwaltung::lege_an(Satzart Art) {
 
 void Satzverwaltung::kopiere(Satzart Art) {
     const std::string Fremdes = Waechter_.Fremdes({Art});
-    z_.Statuszeile.clear();
+    z_.Statuszeile.leere();
     if (!Befehle_.kopiere(Art)) return;
     stelle_voran(Fremdes);
-    // What the user knows of the copy is what was read of the original.
-    Waechter_.merke_Namen(Art, z_.gewaehlt(Art));
+    z_.Saetze[Art].folge_der_Kopie(z_.gewaehlt(Art));
     if (Art != Simulation) merke_Kombination();
 }
 
 void Satzverwaltung::loesche(Satzart Art) {
     const std::string Fremdes = Waechter_.Fremdes({Art});
-    z_.Statuszeile.clear();
+    z_.Statuszeile.leere();
     if (!Befehle_.loesche(Art, Waechter_.Ungesichertes({Art}))) return;
     stelle_voran(Fremdes);
     z_.Saetze[Art].verwirf(Texte::Satz_geloescht);
-    z_.Verlauf_beginnt = true;
 }
 
 bool Satzverwaltung::benenne_um(Satzart Art, const std::string& Text, bool mit_Frage) {
     const std::string alt = z_.gewaehlt(Art);
     const std::string Fremdes = Waechter_.Fremdes({Art});
-    z_.Statuszeile.clear();
+    z_.Statuszeile.leere();
     const Umbenennung Ausgang = Befehle_.benenne_um(Art, Text, mit_Frage);
     if (Ausgang != Umbenennung::erfolgt) return Ausgang == Umbenennung::unveraendert;
-    Waechter_.merke_Namen(Art, z_.gewaehlt(Art));
-    z_.Verlauf_beginnt = true;
+    z_.Saetze[Art].benenne(z_.gewaehlt(Art));
     merke_Kombination();
     nenne_Simulationen_mit(Art, alt, z_);
     stelle_voran(Fremdes);
@@ -244,10 +235,7 @@ void Satzverwaltung::sichere_vor_dem_Lesen(Satzart Art) {
     Waechter_.sichere_Ungesichertes(Arten);
 }
 
-void Satzverwaltung::stelle_voran(const std::string& Hinweis) {
-    if (Hinweis.empty()) return;
-    z_.Statuszeile = z_.Statuszeile.empty() ? Hinweis : Hinweis + " " + z_.Statuszeile;
-}
+void Satzverwaltung::stelle_voran(const std::string& Hinweis) { z_.Statuszeile.stelle_voran(Hinweis); }
 
 bool Satzverwaltung::lies_nach() {
     if (!z_.Saetze[Simulation].gelesen() && z_.Auswahl(Simulation) >= 0) {
@@ -262,7 +250,6 @@ bool Satzverwaltung::lies_nach() {
 void Satzverwaltung::lies_neu(const std::vector<Satzart>& Arten) {
     fuelle_Listen();
     for (const Satzart Art : Arten) z_.Saetze[Art].verlange();
-    if (!Arten.empty()) z_.Verlauf_beginnt = true;
     lies_nach();
 }
 
@@ -270,7 +257,7 @@ void Satzverwaltung::lies_neu(const std::vector<Satzart>& Arten) {
 bool Satzverwaltung::lies_auf_Wunsch_nach() {
     if (!z_.Saetze[Simulation].gelesen() && z_.Auswahl(Simulation) >= 0) return lies_nach();
     const std::string Fremdes = Waechter_.Fremdes(alle_Arten);
-    z_.Statuszeile.clear();
+    z_.Statuszeile.leere();
     if (!z_.Saetze_vollstaendig()) sichere_vor_dem_Lesen(Simulation);
     stelle_voran(Fremdes);
     if (!lies_nach()) return false;
@@ -315,16 +302,16 @@ bool Satzverwaltung::speichere_Arten(std::vector<Satzart> Arten) {
     if (!pruefe_Auswahl({Knopf::OK, Knopf::Abbrechen})) return false;
     Arten.insert(Arten.begin(), Simulation);
     const std::string Fremdes = Waechter_.Fremdes(Arten);
-    const std::string bisher = std::exchange(z_.Statuszeile, "");
+    const std::string bisher = z_.Statuszeile.nimm();
     if (Waechter_.schreibe(Arten) != Schreibausgang::geschrieben) {
-        z_.Statuszeile = bisher;
+        z_.Statuszeile.sage(bisher);
         return false;
     }
     if (z_.Auswahl(Simulation) < 0) Befehle_.lies_Liste(Simulation);
     for (const Satzart Art : Arten) {
         if (Art != Simulation) z_.Saetze[Art].vergiss_Aenderung();
     }
-    z_.Simulation_markiert = false;
+    z_.vergiss_Kombination();
     stelle_voran(Fremdes);
     stelle_voran(Sicherungszeile(Arten));
     return true;

@@ -17,7 +17,7 @@ namespace varnok {
 // The records behind the selectors: loading, choosing and saving.
 class Satzverwaltung {
 public:
-    Satzverwaltung(Zustand& z, Laufsteuerung& Laeufe, Feldeingabe& Felder, Diagrammsteuerung& Diagramme)
+    Satzverwaltung(Eingabestand& z, Laufsteuerung& Laeufe, Feldeingabe& Felder, Diagrammsteuerung& Diagramme)
         : z_(z), Laeufe_(Laeufe), Felder_(Felder), Diagramme_(Diagramme) {}
 
     // Reads the entries of all four selectors from the project folder.
@@ -97,7 +97,7 @@ private:
     void schliesse_Laden_ab();
     void merke_Kombination();
 
-    Zustand& z_;
+    Eingabestand& z_;
     Laufsteuerung& Laeufe_;
     Feldeingabe& Felder_;
     Diagrammsteuerung& Diagramme_;

@@ -11,7 +11,7 @@
 
 namespace varnok {
 
-std::string Name_des_Ungesicherten(const Zustand& z, Satzart Art) {
+std::string Name_des_Ungesicherten(const Eingabestand& z, Satzart Art) {
     return "unsaved " + z.Saetze[Art].Datei().Name + Endungen[Art];
 }
 

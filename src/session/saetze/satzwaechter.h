@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "session/kern/zustand.h"
+#include "session/kern/eingabestand.h"
 #include "session/saetze/sicherungsgut.h"
 
 namespace varnok {
@@ -14,16 +14,12 @@ enum class Schreibausgang { geschrieben, verweigert, nicht_jetzt };
 // without a question, and what is replaced or dropped is in `backup` before.
 class Satzwaechter {
 public:
-    explicit Satzwaechter(Zustand& z) : z_(z) {}
+    explicit Satzwaechter(Eingabestand& z) : z_(z) {}
 
     // The values of the file of that name are on the screen: its content is known.
     void merke(Satzart Art, const std::string& Name);
     // The values on the screen are those of the file: what a save would write from now on is what makes a difference.
     void merke_Gespeichertes(Satzart Art);
-    // The file that was read got another name, with its content. A file that was not read is not what the values stand for.
-    void merke_Namen(Satzart Art, const std::string& Name) {
-        if (z_.Saetze[Art].gelesen()) z_.Saetze[Art].benenne(Name);
-    }
 
     // Writes the files that the selectors name from the values on the screen: all of them, or none where the user does not want
     // one replaced, or not now. A type that was not read is left out; what was entered for such a record goes into `backup`.
@@ -53,10 +49,10 @@ private:
     Knopf frage_wegen_Fenster() const;
     Knopf frage_wegen_Ersatz(const Auftrag& a, const std::string& vorhanden) const;
 
-    Zustand& z_;
+    Eingabestand& z_;
 };
 
 // What the values of a record are called where no file holds them.
-std::string Name_des_Ungesicherten(const Zustand& z, Satzart Art);
+std::string Name_des_Ungesicherten(const Eingabestand& z, Satzart Art);
 
 }  // namespace varnok

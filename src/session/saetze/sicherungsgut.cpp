@@ -19,13 +19,12 @@ void Sicherungsgut::nimm(Sicherungsgut anderes) {
     for (auto& g : anderes.Gruende) Gruende.push_back(std::move(g));
 }
 
-void sichere(Zustand& z, const Sicherungsgut& Gut) {
+void sichere(Schauplatz& z, const Sicherungsgut& Gut) {
     std::string Gruende;
     for (const std::string& g : Gut.Gruende) Gruende += g + "\n";
     std::string Ort;
     try {
-        const Systemuhr Maschine;
-        Ort = sichere(*z.Ordner, z.Welt.Zeit ? *z.Welt.Zeit : Maschine, Gut.Stuecke);
+        Ort = sichere(*z.Ordner, z.Zeit(), Gut.Stuecke);
     } catch (const Laufzeitfehler& f) {
         Gruende += std::string(f.what()) + "\n";
     }
@@ -38,10 +37,10 @@ void sichere(Zustand& z, const Sicherungsgut& Gut) {
     std::string Namen;
     for (const Sicherungsstueck& s : Gut.Stuecke) Namen += (Namen.empty() ? "\"" : ", \"") + s.Dateiname + "\"";
     // A command may have told something before, or keep something twice.
-    z.Statuszeile += (z.Statuszeile.empty() ? "" : " ") + ("What was there before is kept in " + Ort + ": " + Namen);
+    z.Statuszeile.sage_dazu("What was there before is kept in " + Ort + ": " + Namen);
 }
 
-void verlange_Schreibrecht(const Zustand& z) {
+void verlange_Schreibrecht(const Schauplatz& z) {
     if (z.nur_lesbar) throw Laufzeitfehler("The project folder \"" + z.Ordner->Pfad() + "\"" + Texte::nur_lesbar);
 }
 

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "records/sicherung.h"
-#include "session/kern/zustand.h"
+#include "session/kern/schauplatz.h"
 
 namespace varnok {
 
@@ -28,9 +28,9 @@ public:
 
 // Puts it into `backup`; the status line names the place. What cannot be kept is told, and the user asked whether to go on: where
 // not, throws `Befehl_aufgegeben`.
-void sichere(Zustand& z, const Sicherungsgut& Gut);
+void sichere(Schauplatz& z, const Sicherungsgut& Gut);
 
 // Before a command on the files of the project: throws Laufzeitfehler where that is open for reading only.
-void verlange_Schreibrecht(const Zustand& z);
+void verlange_Schreibrecht(const Schauplatz& z);
 
 }  // namespace varnok

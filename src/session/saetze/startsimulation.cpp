@@ -12,7 +12,7 @@ namespace varnok {
 namespace {
 
 // The files of the start simulation, as far as they are there.
-Sicherungsgut Dateien_der_Startsimulation(const Zustand& z) {
+Sicherungsgut Dateien_der_Startsimulation(const Eingabestand& z) {
     Sicherungsgut Gut;
     for (const Satzart Art : {Simulation, Wirkstoff, Applikation, Szenario}) {
         const auto Pfad = z.Ordner->finde(Startsimulation, Endungen[Art]);
@@ -25,10 +25,10 @@ Sicherungsgut Dateien_der_Startsimulation(const Zustand& z) {
 
 void Satzverwaltung::lade_Voreinstellungen() {
     verlange_Schreibrecht(z_);
-    z_.Statuszeile.clear();
+    z_.Statuszeile.leere();
     sichere_Ungesichertes(Dateien_der_Startsimulation(z_));
     stelle_Voreinstellungen_her(*z_.Ordner, {z_.Welt.installierte_Daten, z_.Welt.Programmpfad});
-    z_.beendet = true;
+    z_.beende();
     melde(z_, "Default settings",
           "The default parameters have been loaded and VARNOK will now quit.\n"
           "The settings become available after the next program call.");
@@ -42,7 +42,7 @@ void Satzverwaltung::beende_oder_stelle_her(const std::string& Text, bool beim_S
     } else {
         sichere_Ungesichertes();
     }
-    z_.beendet = true;  // not where something unsaved could not be kept
+    z_.beende();  // not where something unsaved could not be kept
 }
 
 bool Satzverwaltung::lade_Zwischenstand(const Zwischenstand& Stand) {
@@ -53,7 +53,7 @@ bool Satzverwaltung::lade_Zwischenstand(const Zwischenstand& Stand) {
     z_.Felder().Beschreibung = Satz.Beschreibung;
     for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) z_.Namen[Art] = Satz.Dateinamen[Art];
     z_.Saetze[Simulation].stelle_Marke(z_.verschieden(Simulation));
-    z_.Simulation_markiert = Satz.Dateinamen != gespeicherter.Dateinamen;
+    if (Satz.Dateinamen != gespeicherter.Dateinamen) z_.merke_Kombination();
     beim_Start_ = true;
     bool alles = lies_fehlende_Saetze();
     beim_Start_ = false;

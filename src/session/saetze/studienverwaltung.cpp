@@ -48,7 +48,7 @@ void Studienverwaltung::fuege_an(const std::string& Name) {
     const int neu = z_.Studienzahl() - 1;
     setze_Startwerte(z_.Parameter(), static_cast<std::size_t>(neu));
     z_.Sicht.Studie_Index = neu;
-    z_.Zusammenfassung_aktiv = false;
+    z_.zeige_Studien();
     Felder_.fuelle();
     Laeufe_.berechne();
 }
@@ -71,8 +71,7 @@ void Studienverwaltung::loesche() {
     z_.Sicht.Studie_Index = std::min(Platz, z_.Studienzahl() - 1);
     // The flag of the application pattern, not that of the compound: the question on exit has always named that record.
     z_.Saetze[2].merke_Aenderung();
-    if (z_.Studienzahl() == 1) z_.Zusammenfassung_aktiv = false;
-    z_.Statuszeile = "Koc, Q10, Walker, To and kinetics of the following studies stay with their place. Please check.";
+    z_.Statuszeile.sage("Koc, Q10, Walker, To and kinetics of the following studies stay with their place. Please check.");
     Felder_.fuelle();
     Laeufe_.berechne();
 }

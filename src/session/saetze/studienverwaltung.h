@@ -11,7 +11,7 @@ namespace varnok {
 // open neither adding nor deleting is possible.
 class Studienverwaltung {
 public:
-    Studienverwaltung(Zustand& z, Laufsteuerung& Laeufe, Feldeingabe& Felder) : z_(z), Laeufe_(Laeufe), Felder_(Felder) {}
+    Studienverwaltung(Eingabestand& z, Laufsteuerung& Laeufe, Feldeingabe& Felder) : z_(z), Laeufe_(Laeufe), Felder_(Felder) {}
 
     bool darf_addieren() const { return z_.Gestartet && z_.Studienzahl() < max_Studien && !Name_offen_; }
     bool darf_loeschen() const { return z_.Gestartet && z_.Studienzahl() > 1 && !Name_offen_; }
@@ -37,7 +37,7 @@ private:
     void fuege_an(const std::string& Name);
     void benenne_um(const std::string& Name);
 
-    Zustand& z_;
+    Eingabestand& z_;
     Laufsteuerung& Laeufe_;
     Feldeingabe& Felder_;
     bool Name_offen_ = false;

@@ -79,7 +79,7 @@ bool Szenarioeditor::ausserhalb(Szenarioentwurf::Feld f) const {
 }
 
 bool Szenarioeditor::oeffne() {
-    z_.Szenarioeditor_faellig = false;
+    Laeufe_.oeffne_Szenarioeditor();
     Saetze_.lies_Szenario_nach();
     // The values of another record would stand there under the name of this one.
     if (z_.Auswahl(varnok::Szenario) >= 0 && !z_.Saetze[varnok::Szenario].gelesen())
@@ -91,7 +91,7 @@ bool Szenarioeditor::oeffne() {
     fuelle_Listen();
     zeige_Werte();
     gezeigt_ = e_;
-    return !z_.beendet;
+    return !z_.beendet();
 }
 
 void Szenarioeditor::fuelle_Listen() {
@@ -278,8 +278,8 @@ void Szenarioeditor::verwirf() {
 void Szenarioeditor::schliesse() {
     Saetze_.lies_Szenario_nach();
     if (std::exchange(Lauf_faellig_, false)) Laeufe_.berechne();
-    z_.Szenarioeditor_faellig = false;
-    if (!Gelesenes_.empty()) z_.Statuszeile = Gelesenes_;
+    Laeufe_.oeffne_Szenarioeditor();
+    if (!Gelesenes_.empty()) z_.Statuszeile.sage(Gelesenes_);
 }
 
 }  // namespace varnok

@@ -136,9 +136,9 @@ void Wiederherstellung::stelle_her(const std::vector<Gesichertes>& Gewaehlte) {
     if (Gewaehlte.empty()) return;
     verlange_Schreibrecht(z_);
     const std::vector<Auftrag> Auftraege = stelle_zusammen(Gewaehlte);
-    z_.Statuszeile.clear();
+    z_.Statuszeile.leere();
     sichere(z_, ersetztes(Auftraege));
-    const std::string gesichert = std::exchange(z_.Statuszeile, "");
+    const std::string gesichert = z_.Statuszeile.nimm();
     std::string Namen;
     std::vector<Satzart> gezeigte;
     std::exception_ptr Fehler;  // what came back before it is told and shown all the same
@@ -153,9 +153,8 @@ void Wiederherstellung::stelle_her(const std::vector<Gesichertes>& Gewaehlte) {
         if (steht_auf_dem_Schirm(a)) gezeigte.push_back(a.Art);
     }
     Saetze_.lies_neu(gezeigte);
-    const std::string weiteres = std::exchange(z_.Statuszeile, Namen.empty() ? "" : "Restored: " + Namen + ".");
-    for (const std::string& Text : {weiteres, gesichert})
-        z_.Statuszeile += (Text.empty() || z_.Statuszeile.empty() ? "" : " ") + Text;
+    if (!Namen.empty()) z_.Statuszeile.stelle_voran("Restored: " + Namen + ".");
+    z_.Statuszeile.sage_dazu(gesichert);
     if (Fehler) std::rethrow_exception(Fehler);
 }
 

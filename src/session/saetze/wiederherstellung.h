@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "session/kern/zustand.h"
+#include "session/kern/eingabestand.h"
 #include "session/saetze/satzverwaltung.h"
 #include "session/saetze/satzwaechter.h"
 
@@ -28,7 +28,7 @@ struct Gesichertes {
 // "File, Restore...": what the backups hold, what of it differs from now, and some of it brought back.
 class Wiederherstellung {
 public:
-    Wiederherstellung(Zustand& z, Satzverwaltung& Saetze) : z_(z), Saetze_(Saetze) {}
+    Wiederherstellung(Eingabestand& z, Satzverwaltung& Saetze) : z_(z), Saetze_(Saetze) {}
 
     // The newest backup first. What could not come back as a record is left out.
     std::vector<Gesichertes> Angebot() const;
@@ -49,7 +49,7 @@ private:
     Sicherungsgut ersetztes(const std::vector<Auftrag>& Auftraege) const;
     bool steht_auf_dem_Schirm(const Auftrag& a) const;
 
-    Zustand& z_;
+    Eingabestand& z_;
     Satzverwaltung& Saetze_;
     Satzwaechter Waechter_{z_};
 };

@@ -58,7 +58,7 @@ bool Zwischensicherung::lade(const Zwischenstand& Stand) {
 }
 
 void Zwischensicherung::schreibe() {
-    if (!z_.Gestartet || !zustaendig() || Felder_.ist_in_Arbeit() || z_.beendet) return;
+    if (!z_.Gestartet || !zustaendig() || Felder_.ist_in_Arbeit() || z_.beendet()) return;
     Zwischenstand s = jetziger();
     if (s.Stuecke.empty() && !z_.verschieden(Simulation)) s = {};
     if (s == geschrieben_) return;
@@ -71,7 +71,7 @@ void Zwischensicherung::schreibe() {
         geschrieben_ = std::move(s);
         gescheitert_ = false;
     } catch (const Laufzeitfehler& f) {
-        if (!gescheitert_) z_.Statuszeile = std::string("Unsaved values are not kept: ") + f.what();
+        if (!gescheitert_) z_.Statuszeile.sage(std::string("Unsaved values are not kept: ") + f.what());
         gescheitert_ = true;
     }
 }

@@ -10,7 +10,7 @@ namespace varnok {
 // its end. Of two windows on a folder the first one has it.
 class Zwischensicherung {
 public:
-    Zwischensicherung(Zustand& z, Satzverwaltung& Saetze, Feldeingabe& Felder) : z_(z), Saetze_(Saetze), Felder_(Felder) {}
+    Zwischensicherung(Eingabestand& z, Satzverwaltung& Saetze, Feldeingabe& Felder) : z_(z), Saetze_(Saetze), Felder_(Felder) {}
 
     // At the start: offers what the start before left, which did not come to its end. It is in `backup` either way. True if it
     // is on the screen now.
@@ -28,7 +28,7 @@ private:
     }
     bool lade(const Zwischenstand& Stand);
 
-    Zustand& z_;
+    Eingabestand& z_;
     Satzverwaltung& Saetze_;
     Feldeingabe& Felder_;
     Zwischenstand geschrieben_;

@@ -64,7 +64,7 @@ Diagrammflaeche* Ergebnisbereich::erstelle_Flaeche(bool Zusammenfassung, int Num
 }
 
 Diagrammflaeche* Ergebnisbereich::Flaeche_vorn(const Seite& s) const {
-    const auto& Flaechen = Stand().Zusammenfassung_aktiv ? s.Zusammenfassungen : s.Diagramme;
+    const auto& Flaechen = Stand().Zusammenfassung_aktiv() ? s.Zusammenfassungen : s.Diagramme;
     const int vorn = Programm_.zeige<Diagrammsteuerung>().vorne();
     return *std::find_if(Flaechen.begin(), Flaechen.end(), [vorn](const Diagrammflaeche* d) { return d->Nummer() == vorn; });
 }
@@ -125,7 +125,7 @@ void Ergebnisbereich::fuelle_Tafeln(const Seite& s) {
     const int wichtig = Zeile_des_Mittelwerts(Sicht());
     for (int c = 0; c < n; ++c) {
         const auto k = static_cast<std::size_t>(c);
-        if (Stand().Zusammenfassung_aktiv) {
+        if (Stand().Zusammenfassung_aktiv()) {
             s.Zusammenfassungen[k]->Tafel()->zeige(Ergebnisse_aller_Studien(Stand(), c), wichtig);
             continue;
         }
@@ -140,11 +140,11 @@ void Ergebnisbereich::fuelle_Tafeln(const Seite& s) {
 }
 
 void Ergebnisbereich::fuelle_Diagramme(const Seite& s) {
-    const auto& Flaechen = Stand().Zusammenfassung_aktiv ? s.Zusammenfassungen : s.Diagramme;
+    const auto& Flaechen = Stand().Zusammenfassung_aktiv() ? s.Zusammenfassungen : s.Diagramme;
     const auto& Liste = Programm_.zeige<Diagrammsteuerung>().Diagramme();
     for (Diagrammflaeche* f : Flaechen) {
         const auto Treffer = std::find_if(Liste.begin(), Liste.end(), [&](const Diagramm& d) {
-            return d.Nummer == f->Nummer() && d.Zusammenfassung == Stand().Zusammenfassung_aktiv;
+            return d.Nummer == f->Nummer() && d.Zusammenfassung == Stand().Zusammenfassung_aktiv();
         });
         if (Treffer == Liste.end()) {
             f->leere();
@@ -161,8 +161,8 @@ void Ergebnisbereich::zeige_Ergebnisse(Seite& s) {
             if (d->Tafel()) d->Tafel()->erlaube(mit_Tafel);
         }
     }
-    if (!Stand().abgedeckt() && Zeichnung_ != Stand().Zeichnung) {
-        Zeichnung_ = Stand().Zeichnung;
+    if (!Stand().abgedeckt() && Zeichnung_ != Programm_.zeige<Diagrammsteuerung>().Zeichnung()) {
+        Zeichnung_ = Programm_.zeige<Diagrammsteuerung>().Zeichnung();
         // In the view without grids they keep the last text they had.
         if (mit_Tafel) fuelle_Tafeln(s);
         fuelle_Diagramme(s);

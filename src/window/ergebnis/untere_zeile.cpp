@@ -75,7 +75,7 @@ void Untere_Zeile::zeige() {
     zeige_Option(*Endpunkt_, Option_zu_Endpunkt(Sicht().Endpunkt));
     zeige_Option(*PEC_Typ_, Sicht().PEC_Typ);
     TWA_Laenge_->zeige(Programm_.zeige<Listenwahl>().TWA_Laengen(), Sicht().TWA_Laenge);
-    Ergebnisdatei_->setText(in_Qt(Stand().Ergebnisdatei));
+    Ergebnisdatei_->setText(in_Qt(Programm_.zeige<Berichtssteuerung>().Ergebnisdatei()));
 }
 
 }  // namespace varnok

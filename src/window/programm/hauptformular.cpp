@@ -183,16 +183,17 @@ void Hauptformular::zeige() {
     Steuerung_->beende_Zeigen();
     Nachlauf_->start();
     // Whatever action the run belonged to is over first.
-    if (Programm_.Stand().Szenarioeditor_faellig) QTimer::singleShot(0ms, this, &Hauptformular::oeffne_faelligen_Editor);
+    if (Programm_.zeige<Laufsteuerung>().Klimadatei_fehlt())
+        QTimer::singleShot(0ms, this, &Hauptformular::oeffne_faelligen_Editor);
 }
 
 // Behind a box or a dialog an action may be under way; it is shown when it is over.
 void Hauptformular::sichere_Zwischenstand() {
     if (QApplication::activeModalWidget()) return;
     Programm_.fuehre_aus<&Projektoeffnung::merke>();
-    const std::string vorher = Programm_.Stand().Statuszeile;
+    const std::string vorher = Programm_.Stand().Statuszeile.Text();
     Programm_.fuehre_aus<&Zwischensicherung::schreibe>();
-    if (Programm_.Stand().Statuszeile != vorher) Schalter_->zeige();
+    if (Programm_.Stand().Statuszeile.Text() != vorher) Schalter_->zeige();
 }
 
 void Hauptformular::zeige_Getipptes() {
@@ -211,7 +212,7 @@ void Hauptformular::zeige_Titel() {
 
 void Hauptformular::oeffne_faelligen_Editor() {
     const Zustand& z = Programm_.Stand();
-    if (!z.Szenarioeditor_faellig || z.beendet || QApplication::activeModalWidget()) return;
+    if (!Programm_.zeige<Laufsteuerung>().Klimadatei_fehlt() || z.beendet() || QApplication::activeModalWidget()) return;
     zeige_Szenarioeditor(Programm_, this);
     nach_Handlung();
 }
@@ -235,7 +236,7 @@ void Hauptformular::zeige_Versionsinfo() {
 
 // The one place where an action of the user ends.
 void Hauptformular::nach_Handlung() {
-    if (Programm_.Stand().beendet || std::exchange(schliessen_faellig_, false)) {
+    if (Programm_.Stand().beendet() || std::exchange(schliessen_faellig_, false)) {
         close();
         return;
     }
@@ -316,14 +317,15 @@ void Hauptformular::oeffne_Organiser() {
 
 void Hauptformular::waehle_Fehlerzelle() {
     const Zustand& z = Programm_.Stand();
-    if (z.Tabellenfehler && (z.abgedeckt() || Programm_.zeige<Applikationstabelle>().ist_in_Arbeit()))
-        Applikation_->waehle_Zelle(*z.Tabellenfehler);
+    if (Programm_.zeige<Laufsteuerung>().Tabellenfehler() &&
+        (z.abgedeckt() || Programm_.zeige<Applikationstabelle>().ist_in_Arbeit()))
+        Applikation_->waehle_Zelle(*Programm_.zeige<Laufsteuerung>().Tabellenfehler());
 }
 
 // What a field tells of a character that it did not take. Actions of the menu tell with an empty text, too.
 void Hauptformular::closeEvent(QCloseEvent* e) {
     // What waits for the server ends first; then the window closes.
-    if (Programm_.Stand().Aktualisierung_laeuft) {
+    if (Programm_.zeige<Aktualisierungssteuerung>().laeuft()) {
         schliessen_faellig_ = true;
         Programm_.fuehre_aus<&Aktualisierungssteuerung::halte_an>();
         e->ignore();
@@ -368,7 +370,7 @@ bool Hauptformular::eventFilter(QObject* Objekt, QEvent* e) {
                                      QEvent::TouchBegin,
                                      QEvent::TouchUpdate,
                                      QEvent::TouchEnd};
-    const bool wartet = Programm_.Stand().Aktualisierung_laeuft && !QApplication::activeModalWidget();
+    const bool wartet = Programm_.zeige<Aktualisierungssteuerung>().laeuft() && !QApplication::activeModalWidget();
     if (!wartet || std::find(Eingaben.begin(), Eingaben.end(), e->type()) == Eingaben.end()) {
         return QMainWindow::eventFilter(Objekt, e);
     }

@@ -83,8 +83,8 @@ void Schalterrahmen::zeige() {
     zeige_Bemerkungen();
     zeige_Hinweis();
     Bericht_erstellen_->setEnabled(Stand().Gestartet);
-    const std::string& Zeile = Stand().Statuszeile;
-    const QString Text = Zeile.empty() ? QString() : in_Qt(Stand().Statuszeit + ' ' + Zeile);
+    const std::string& Zeile = Stand().Statuszeile.Text();
+    const QString Text = Zeile.empty() ? QString() : in_Qt(Stand().Statuszeile.Zeit() + ' ' + Zeile);
     // What has happened goes before what could be done.
     if (Text != Statustext_) {
         Handhabung_.clear();

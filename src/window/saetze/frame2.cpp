@@ -51,8 +51,8 @@ void Frame2::schliesse_auf() {
 
 void Frame2::zeige() {
     Simulation_->zeige();
-    Simulation_->Liste->faerbe(Stand().Simulation_markiert ? Farben::Markierung : QColor());
-    Beschreibung_->zeige(in_Qt(Felder().Beschreibung), Stand().Beschreibung_offen, farbig());
+    Simulation_->Liste->faerbe(Stand().Simulation_markiert() ? Farben::Markierung : QColor());
+    Beschreibung_->zeige(in_Qt(Felder().Beschreibung), Programm_.zeige<Beschreibungseingabe>().offen(), farbig());
 }
 
 }  // namespace varnok

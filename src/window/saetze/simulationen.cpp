@@ -18,7 +18,7 @@ Simulationen::Simulationen(Sitzung& Programm, Szenarioaufruf oeffne_Szenarioedit
     : QDialog(parent),
       Programm_(Programm),
       oeffne_Szenarioeditor_(std::move(oeffne_Szenarioeditor)),
-      alter_Status_(Programm.Stand().Statuszeile) {
+      alter_Status_(Programm.Stand().Statuszeile.Text()) {
     setObjectName(u"Simulationen"_s);
     setWindowTitle(u"Simulation organiser"_s);
     auto* Blatt = new QVBoxLayout(this);
@@ -82,7 +82,7 @@ void Simulationen::zeige() {
     Edit_->setEnabled(Einwand.isEmpty());
     Edit_->setToolTip(als_Tip(Einwand));
     Edit_->setAccessibleDescription(Einwand);
-    const std::string& Status = Programm_.Stand().Statuszeile;
+    const std::string& Status = Programm_.Stand().Statuszeile.Text();
     Status_->setText(Status == alter_Status_ ? QString() : in_Qt(Status));
     Q_EMIT gehandelt();
 }

@@ -157,24 +157,24 @@ double k_SFO(const Sitzung& s) { return s.Stand().Parameter().k_SFO[0][0]; }
 
 TEST_F(Felder, typing_12_starts_no_run_at_1) {
     gestartet();
-    const int Laeufe = s_->Stand().Zeichnung;
+    const int Laeufe = s_->zeige<Diagrammsteuerung>().Zeichnung();
     const int f = Feld("S_DT50_0");
     s_->fuehre_aus<&Feldeingabe::betrete>(f);
     s_->fuehre_aus<&Feldeingabe::aendere>(f, "1");
     s_->fuehre_aus<&Feldeingabe::aendere>(f, "12");
-    EXPECT_EQ(s_->Stand().Zeichnung, Laeufe);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe);
     EXPECT_TRUE(s_->fuehre_aus<&Feldeingabe::verlasse>(f));
-    EXPECT_EQ(s_->Stand().Zeichnung, Laeufe + 1);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe + 1);
     EXPECT_DOUBLE_EQ(k_SFO(*s_), std::log(2.0) / 12);
 }
 
 TEST_F(Felder, enter_with_no_change_does_nothing) {
     gestartet();
-    const int Laeufe = s_->Stand().Zeichnung;
+    const int Laeufe = s_->zeige<Diagrammsteuerung>().Zeichnung();
     const int f = Feld("S_DT50_0");
     s_->fuehre_aus<&Feldeingabe::betrete>(f);
     EXPECT_TRUE(s_->fuehre_aus<&Feldeingabe::bestaetige>(f));
-    EXPECT_EQ(s_->Stand().Zeichnung, Laeufe);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe);
     EXPECT_FALSE(s_->Stand().Hinweis());
 }
 
@@ -379,12 +379,12 @@ TEST_F(Felder, a_command_out_of_an_invalid_field_is_not_done) {
 
 TEST_F(Felder, refresh_out_of_a_changed_field_makes_one_run) {
     gestartet();
-    const int Laeufe = s_->Stand().Zeichnung;
+    const int Laeufe = s_->zeige<Diagrammsteuerung>().Zeichnung();
     const int f = Feld("S_DT50_0");
     s_->fuehre_aus<&Feldeingabe::betrete>(f);
     s_->fuehre_aus<&Feldeingabe::aendere>(f, "33");
     s_->fuehre_aus<&Satzverwaltung::aktualisiere>();
-    EXPECT_EQ(s_->Stand().Zeichnung, Laeufe + 1);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe + 1);
 }
 
 TEST_F(Felder, showing_a_study_writes_nothing_back) {

@@ -17,18 +17,18 @@ float Reihe(const Sitzung& s, int Studie, int Stoff, std::size_t Tag) {
 
 TEST_F(Auswahlprobe, another_kinetics_stores_its_code_marks_the_record_and_runs) {
     gestartet();
-    const int Laeufe = s_->Stand().Zeichnung;
+    const int Laeufe = s_->zeige<Diagrammsteuerung>().Zeichnung();
     s_->fuehre_aus<&Listenwahl::waehle_Kinetik>(0, FOMC);
     EXPECT_EQ(s_->Stand().Parameter().Kinetik[0][0], FOMC);
     EXPECT_TRUE(s_->Stand().Saetze[1].Geaendert());
-    EXPECT_EQ(s_->Stand().Zeichnung, Laeufe + 1);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe + 1);
 }
 
 TEST_F(Auswahlprobe, the_same_kinetics_again_does_nothing) {
     gestartet();
-    const int Laeufe = s_->Stand().Zeichnung;
+    const int Laeufe = s_->zeige<Diagrammsteuerung>().Zeichnung();
     s_->fuehre_aus<&Listenwahl::waehle_Kinetik>(0, SFO);
-    EXPECT_EQ(s_->Stand().Zeichnung, Laeufe);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe);
     EXPECT_FALSE(s_->Stand().Saetze[1].Geaendert());
 }
 
@@ -36,10 +36,10 @@ TEST_F(Auswahlprobe, a_study_shows_its_values_and_is_run_once) {
     Parameter_.k_SFO[0][1] = 0.02;  // ln(2) / 0.02 = 34.6573590279972655 d
     schreibe_Probe();
     gestartet();
-    const int Laeufe = s_->Stand().Zeichnung;
+    const int Laeufe = s_->zeige<Diagrammsteuerung>().Zeichnung();
     s_->fuehre_aus<&Listenwahl::waehle_Studie>(1);
     EXPECT_EQ(s_->zeige<Feldeingabe>().Text(Feld("S_DT50_0")), "34.6573590279973");
-    EXPECT_EQ(s_->Stand().Zeichnung, Laeufe + 1);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe + 1);
     EXPECT_GT(Maximum(1), 0.0F);
 }
 
@@ -83,7 +83,7 @@ TEST_F(Auswahlprobe, another_scheme_ends_the_summary_view) {
     gestartet();
     s_->fuehre_aus<&Listenwahl::zeige_Zusammenfassung>();
     s_->fuehre_aus<&Listenwahl::waehle_Berechnungsmodus>(zwei_parallel);
-    EXPECT_FALSE(s_->Stand().Zusammenfassung_aktiv);
+    EXPECT_FALSE(s_->Stand().Zusammenfassung_aktiv());
     EXPECT_FALSE(s_->Stand().abgedeckt());
 }
 
@@ -106,12 +106,12 @@ TEST_F(Auswahlprobe, a_compound_in_view_marks_nothing) {
 
 TEST_F(Auswahlprobe, a_name_is_run_on_leaving_only_if_it_changed) {
     gestartet();
-    const int Laeufe = s_->Stand().Zeichnung;
+    const int Laeufe = s_->zeige<Diagrammsteuerung>().Zeichnung();
     s_->fuehre_aus<&Listenwahl::verlasse_Namen>();
-    EXPECT_EQ(s_->Stand().Zeichnung, Laeufe);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe);
     s_->fuehre_aus<&Listenwahl::aendere_Namen>(0, "Parent Q");
     s_->fuehre_aus<&Listenwahl::verlasse_Namen>();
-    EXPECT_EQ(s_->Stand().Zeichnung, Laeufe + 1);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe + 1);
     EXPECT_TRUE(s_->Stand().Saetze[1].Geaendert());
 }
 
@@ -145,14 +145,14 @@ TEST_F(Auswahlprobe, an_interval_ends_the_summary_view) {
     gestartet();
     s_->fuehre_aus<&Listenwahl::zeige_Zusammenfassung>();
     s_->fuehre_aus<&Listenwahl::waehle_Intervall>(6);
-    EXPECT_FALSE(s_->Stand().Zusammenfassung_aktiv);
+    EXPECT_FALSE(s_->Stand().Zusammenfassung_aktiv());
     EXPECT_EQ(Werte().Applikationstag[1], 7);
 }
 
 TEST_F(Auswahlprobe, the_summary_view_runs_every_study_and_keeps_the_selection) {
     gestartet();
     s_->fuehre_aus<&Listenwahl::zeige_Zusammenfassung>();
-    EXPECT_TRUE(s_->Stand().Zusammenfassung_aktiv);
+    EXPECT_TRUE(s_->Stand().Zusammenfassung_aktiv());
     EXPECT_GT(Maximum(1), 0.0F);
     EXPECT_EQ(s_->Stand().i_studie(), 0);
     EXPECT_FALSE(s_->Stand().abgedeckt());
@@ -266,9 +266,9 @@ TEST_F(Tabellenprobe, keys_edit_the_cell_and_mark_record_and_hint) {
 TEST_F(Tabellenprobe, enter_checks_once_and_makes_one_run) {
     oeffne();
     s_->fuehre_aus<&Applikationstabelle::haenge_an>(Zelle{1, 2}, '0');
-    const int Laeufe = s_->Stand().Zeichnung;
+    const int Laeufe = s_->zeige<Diagrammsteuerung>().Zeichnung();
     s_->fuehre_aus<&Applikationstabelle::bestaetige>();
-    EXPECT_EQ(s_->Stand().Zeichnung, Laeufe + 1);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe + 1);
     EXPECT_EQ(Werte().Tagesrate[31], 1000.0F);
 }
 
@@ -277,9 +277,9 @@ TEST_F(Tabellenprobe, an_empty_month_is_told_once_and_its_cell_selected) {
     s_->fuehre_aus<&Applikationstabelle::leere>(Zelle{1, 1});
     Fragen_.erwarte("No valid input!", Daten_ungueltig);
     s_->fuehre_aus<&Applikationstabelle::bestaetige>();
-    ASSERT_TRUE(s_->Stand().Tabellenfehler);
-    EXPECT_EQ(s_->Stand().Tabellenfehler->Zeile, 1);
-    EXPECT_EQ(s_->Stand().Tabellenfehler->Spalte, 1);
+    ASSERT_TRUE(s_->zeige<Laufsteuerung>().Tabellenfehler());
+    EXPECT_EQ(s_->zeige<Laufsteuerung>().Tabellenfehler()->Zeile, 1);
+    EXPECT_EQ(s_->zeige<Laufsteuerung>().Tabellenfehler()->Spalte, 1);
     EXPECT_TRUE(s_->Stand().abgedeckt());
     EXPECT_TRUE(s_->Stand().Hinweis());
 }

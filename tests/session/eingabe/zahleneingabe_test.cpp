@@ -29,7 +29,7 @@ TEST_P(Angenommen, text_is_replaced_by_the_number_taken_and_told) {
     const std::string erwartet = GetParam().gelesen.empty()
                                      ? std::string()
                                      : "Koc (L/kgl): " + GetParam().gelesen + " was read as " + GetParam().gezeigt + ".";
-    EXPECT_EQ(s_->Stand().Statuszeile, erwartet);
+    EXPECT_EQ(s_->Stand().Statuszeile.Text(), erwartet);
     EXPECT_FALSE(s_->Stand().Hinweis());
 }
 
@@ -77,7 +77,7 @@ TEST_F(Zahleneingabe, enter_replaces_the_text_as_leaving_does) {
     ASSERT_TRUE(s_->fuehre_aus<&Feldeingabe::bestaetige>(f));
     EXPECT_EQ(s_->zeige<Feldeingabe>().Text(f), "750");
     EXPECT_EQ(s_->Stand().Felder().Applikationsrate.Text(), "750");
-    EXPECT_EQ(s_->Stand().Statuszeile, "Rate: \"750 g\" was read as 750.");
+    EXPECT_EQ(s_->Stand().Statuszeile.Text(), "Rate: \"750 g\" was read as 750.");
 }
 
 TEST_F(Zahleneingabe, a_thousandth_of_the_rate_is_never_calculated) {
@@ -99,7 +99,7 @@ TEST_F(Zahleneingabe, the_same_text_in_two_fields_is_told_twice) {
     gestartet();
     ASSERT_TRUE(tippe("S_KOC_0", "7x5"));
     ASSERT_TRUE(tippe("S_KOC_1", "7x5"));
-    EXPECT_EQ(s_->Stand().Statuszeile, "Koc (L/kgl), metabolite 1: \"7x5\" was read as 7.");
+    EXPECT_EQ(s_->Stand().Statuszeile.Text(), "Koc (L/kgl), metabolite 1: \"7x5\" was read as 7.");
 }
 
 TEST_F(Zahleneingabe, text_of_a_command_that_closes_the_field_is_replaced_too) {
@@ -149,20 +149,20 @@ protected:
 TEST_F(Zellen, second_separator_is_refused_with_the_message_of_the_cell_and_nothing_runs) {
     mit_Tabelle();
     const float vorher = Maximum();
-    const int Zeichnung = s_->Stand().Zeichnung;
+    const int Zeichnung = s_->zeige<Diagrammsteuerung>().Zeichnung();
     tippe_Zelle({0, 2}, "1.250.5");
     Fragen_.erwarte(ungueltig, "The applikations rate is invalid. Please correct!");
     s_->fuehre_aus<&Applikationstabelle::bestaetige>();
-    EXPECT_EQ(s_->Stand().Zeichnung, Zeichnung);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Zeichnung);
     EXPECT_EQ(Maximum(), vorher);
-    EXPECT_EQ(s_->Stand().Tabellenfehler, (Zelle{0, 2}));
+    EXPECT_EQ(s_->zeige<Laufsteuerung>().Tabellenfehler(), (Zelle{0, 2}));
     // The next command meets the same text.
     Fragen_.erwarte(ungueltig, "The applikations rate is invalid. Please correct!");
     s_->fuehre_aus<&Satzverwaltung::aktualisiere>();
-    EXPECT_EQ(s_->Stand().Zeichnung, Zeichnung);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Zeichnung);
     tippe_Zelle({0, 2}, "1250.5");
     s_->fuehre_aus<&Applikationstabelle::bestaetige>();
-    EXPECT_EQ(s_->Stand().Zeichnung, Zeichnung + 1);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Zeichnung + 1);
 }
 
 TEST_F(Zellen, one_with_a_value_outside_its_range_is_known_once_it_is_left) {
@@ -187,7 +187,7 @@ TEST_F(Zellen, emptied_rate_reads_as_0_and_is_told) {
     s_->fuehre_aus<&Applikationstabelle::leere>(Zelle{0, 3});
     s_->fuehre_aus<&Applikationstabelle::bestaetige>();
     EXPECT_EQ(Text(0, 3), "0");
-    EXPECT_EQ(s_->Stand().Statuszeile, "interception in row 1: an empty text was read as 0.");
+    EXPECT_EQ(s_->Stand().Statuszeile.Text(), "interception in row 1: an empty text was read as 0.");
 }
 
 TEST_F(Zellen, pasted_text_is_taken_as_numbers_and_what_is_none_is_left_out) {
@@ -257,7 +257,7 @@ TEST_F(Zahleneingabe, scenario_takes_no_text_in_silence) {
     EXPECT_TRUE(s_->fuehre_aus<&Szenarioeditor::uebernimm>());
     s_->fuehre_aus<&Szenarioeditor::schliesse>();
     EXPECT_EQ(s_->Stand().Parameter().Bodendichte, 1.3);
-    EXPECT_EQ(s_->Stand().Statuszeile, "Soil density (kg/L): \"1.3 kg\" was read as 1.3.");
+    EXPECT_EQ(s_->Stand().Statuszeile.Text(), "Soil density (kg/L): \"1.3 kg\" was read as 1.3.");
 }
 
 TEST_F(Zahleneingabe, scaling_takes_no_text_in_silence) {
@@ -266,7 +266,7 @@ TEST_F(Zahleneingabe, scaling_takes_no_text_in_silence) {
     EXPECT_FALSE(s_->fuehre_aus<&Diagrammsteuerung::skaliere>("0", "1.250,5"));
     EXPECT_TRUE(s_->fuehre_aus<&Diagrammsteuerung::skaliere>("0", "100 d"));
     s_->fuehre_aus<&Laufsteuerung::schliesse_Skalierung>();
-    EXPECT_EQ(s_->Stand().Statuszeile, "End (d): \"100 d\" was read as 100.");
+    EXPECT_EQ(s_->Stand().Statuszeile.Text(), "End (d): \"100 d\" was read as 100.");
 }
 
 TEST_F(Zahleneingabe, one_application_a_year_from_a_record_is_in_the_list_while_the_input_holds_it) {

@@ -29,7 +29,7 @@ TEST_F(Berichtsprobe, of_the_selected_study_is_shown_and_written_to_output) {
     s_->fuehre_aus<&Berichtssteuerung::erstelle>();
     ASSERT_NE(s_->zeige<Berichtssteuerung>().offener(), nullptr);
     EXPECT_NE(s_->zeige<Berichtssteuerung>().offener()->Text.find("RESULTS OF THE CALCULATION"), std::string::npos);
-    EXPECT_EQ(s_->Stand().Ergebnisdatei, "A trial");  // all name parts off
+    EXPECT_EQ(s_->zeige<Berichtssteuerung>().Ergebnisdatei(), "A trial");  // all name parts off
     EXPECT_TRUE(gibt_es("output/A trial.rtf"));
 }
 
@@ -103,15 +103,15 @@ TEST_F(Berichtsprobe, with_a_description_that_no_file_can_be_called_by_has_a_nam
     s_->fuehre_aus<&Beschreibungseingabe::aendere>("Field A/B");
     s_->fuehre_aus<&Berichtssteuerung::erstelle>();
     ASSERT_NE(s_->zeige<Berichtssteuerung>().offener(), nullptr);
-    EXPECT_EQ(s_->Stand().Ergebnisdatei.substr(0, 9), "Field A_B");
-    EXPECT_TRUE(gibt_es("output/" + s_->Stand().Ergebnisdatei + ".rtf"));
+    EXPECT_EQ(s_->zeige<Berichtssteuerung>().Ergebnisdatei().substr(0, 9), "Field A_B");
+    EXPECT_TRUE(gibt_es("output/" + s_->zeige<Berichtssteuerung>().Ergebnisdatei() + ".rtf"));
 }
 
 TEST_F(Berichtsprobe, another_description_clears_the_name_of_the_output_file) {
     gestartet();
     s_->fuehre_aus<&Berichtssteuerung::erstelle>();
     s_->fuehre_aus<&Beschreibungseingabe::aendere>("Another");
-    EXPECT_EQ(s_->Stand().Ergebnisdatei, "");
+    EXPECT_EQ(s_->zeige<Berichtssteuerung>().Ergebnisdatei(), "");
 }
 
 TEST_F(Berichtsprobe, has_the_legend_where_it_was_dragged_to_in_the_diagram_in_front) {
@@ -160,7 +160,7 @@ TEST_F(Berichtsprobe, is_saved_as_a_PDF) {
     s_->fuehre_aus<&Berichtssteuerung::erstelle>();
     s_->fuehre_aus<&Berichtssteuerung::speichere_PDF>((Wurzel_ / "report.pdf").string());
     EXPECT_EQ(Datei("report.pdf").substr(0, 5), "%PDF-");
-    EXPECT_EQ(s_->Stand().Statuszeile, "Report written: " + (Wurzel_ / "report.pdf").string());
+    EXPECT_EQ(s_->Stand().Statuszeile.Text(), "Report written: " + (Wurzel_ / "report.pdf").string());
 }
 
 }  // namespace

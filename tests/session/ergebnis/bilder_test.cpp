@@ -203,7 +203,7 @@ TEST_F(Bildprobe, a_file_that_cannot_be_written_is_told_and_results_stand) {
     Fragen_.erwarte_Anfang("Runtime error", "");
     s_->fuehre_aus<&Bildsteuerung::speichere>((Wurzel_ / "no such folder" / "a.svg").string(), Bildart::SVG, true);
     EXPECT_FALSE(s_->Stand().abgedeckt());
-    EXPECT_EQ(s_->Stand().Statuszeile.find("written"), std::string::npos);
+    EXPECT_EQ(s_->Stand().Statuszeile.Text().find("written"), std::string::npos);
 }
 
 TEST_F(Bildprobe, a_report_for_print_has_another_picture) {

@@ -75,7 +75,7 @@ TEST_F(Luegen, a_digit_typed_into_a_cell_leaves_table_and_diagram_of_the_new_vie
 
 TEST_F(Luegen, esc_after_typing_leaves_no_hint_no_run_and_no_question) {
     gestartet();
-    const int Zeichnung = z().Zeichnung;
+    const int Zeichnung = s_->zeige<Diagrammsteuerung>().Zeichnung();
     const Ergebnisse vorher = z().Werte();
     const int f = Feld("S_DT50_0");
     s_->fuehre_aus<&Feldeingabe::betrete>(f);
@@ -84,10 +84,10 @@ TEST_F(Luegen, esc_after_typing_leaves_no_hint_no_run_and_no_question) {
     s_->fuehre_aus<&Feldeingabe::nimm_zurueck>(f);
     EXPECT_FALSE(z().Hinweis());
     EXPECT_TRUE(s_->fuehre_aus<&Feldeingabe::verlasse>(f));
-    EXPECT_EQ(z().Zeichnung, Zeichnung);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Zeichnung);
     EXPECT_EQ(z().Werte(), vorher);
     s_->fuehre_aus<&Programmablauf::beende>();
-    EXPECT_TRUE(z().beendet);
+    EXPECT_TRUE(z().beendet());
     EXPECT_TRUE(gesichert().empty());
 }
 
@@ -127,14 +127,14 @@ TEST_F(Luegen, a_report_closes_over_other_results_other_inputs_and_the_summary) 
 
 TEST_F(Luegen, after_a_failed_write_nothing_tells_of_the_report_before) {
     gestartet().fuehre_aus<&Berichtssteuerung::erstelle>();
-    ASSERT_FALSE(z().Ergebnisdatei.empty());
+    ASSERT_FALSE(s_->zeige<Berichtssteuerung>().Ergebnisdatei().empty());
     s_->fuehre_aus<&Berichtssteuerung::schliesse>();
     std::filesystem::remove_all(Wurzel_ / "output");
     std::ofstream(Wurzel_ / "output") << "no folder";
     Fragen_.erwarte_Anfang("Runtime error", "");
     s_->fuehre_aus<&Berichtssteuerung::erstelle>();
-    EXPECT_EQ(z().Ergebnisdatei, "");
-    EXPECT_EQ(z().Statuszeile, "The report was not written.");
+    EXPECT_EQ(s_->zeige<Berichtssteuerung>().Ergebnisdatei(), "");
+    EXPECT_EQ(z().Statuszeile.Text(), "The report was not written.");
 }
 
 TEST_F(Luegen, half_the_dose_under_weather_that_another_program_changed_is_not_half_the_old_result) {
@@ -176,14 +176,14 @@ TEST_F(Luegen, a_record_that_cannot_be_read_is_covered_with_file_line_and_reason
     Fragen_.erwarte_Anfang("Save changes?", "", Knopf::Nein);
     waehle(Wirkstoff, "Second");
     EXPECT_EQ(z().Abdeckungswort(), "Second.che, line 2: the file ends before \"Unit:\"");
-    EXPECT_THAT(z().Statuszeile, HasSubstr("Second.che, line 2"));
+    EXPECT_THAT(z().Statuszeile.Text(), HasSubstr("Second.che, line 2"));
     EXPECT_EQ(z().Felder(), vorher);
     EXPECT_FALSE(z().Saetze[Wirkstoff].Geaendert());
     ASSERT_TRUE(tippe("S_DT50_0", "13"));
     s_->fuehre_aus<&Satzverwaltung::speichere>();
-    EXPECT_THAT(z().Statuszeile, AllOf(HasSubstr("\"Second.che\" was not read"), Not(HasSubstr("All input data"))));
+    EXPECT_THAT(z().Statuszeile.Text(), AllOf(HasSubstr("\"Second.che\" was not read"), Not(HasSubstr("All input data"))));
     s_->fuehre_aus<&Programmablauf::beende>();
-    EXPECT_TRUE(z().beendet);
+    EXPECT_TRUE(z().beendet());
     EXPECT_EQ(Datei("input/Second.che"), "rubbish");
     EXPECT_EQ(z().Werte()[0]->Vorgabe->Parameter.k_SFO[0][0], vorher.Parameter.k_SFO[0][0]);  // no run since
 }
@@ -205,13 +205,13 @@ TEST_F(Luegen, a_start_with_an_empty_compound_record_is_covered_and_shows_no_cur
     schreibe("Probe.che", "");
     gestartet();
     EXPECT_EQ(z().Abdeckungswort(), "Probe.che, line 1: the file ends before \"Pesticide data\"");
-    EXPECT_EQ(z().Zeichnung, 0);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), 0);
     s_->fuehre_aus<&Berichtssteuerung::erstelle>();
     EXPECT_EQ(s_->zeige<Berichtssteuerung>().offener(), nullptr);
     EXPECT_TRUE(tippe("S_DT50_0", "12"));
     s_->fuehre_aus<&Ruecknahme::mache_rueckgaengig>();
     s_->fuehre_aus<&Listenwahl::zeige_Zusammenfassung>();
-    EXPECT_EQ(z().Zeichnung, 0);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), 0);
     waehle(Wirkstoff, "Second");
     EXPECT_FALSE(z().abgedeckt());
     EXPECT_EQ(z().Studienzahl(), 2);
@@ -227,8 +227,8 @@ TEST_F(Luegen, no_line_names_what_has_no_name) {
     s_->fuehre_aus<&Organiser::schliesse_ab>();
     ASSERT_EQ(z().Auswahl(Simulation), -1);
     s_->fuehre_aus<&Satzverwaltung::speichere>();
-    EXPECT_THAT(z().Statuszeile, Not(HasSubstr("\"\"")));
-    EXPECT_THAT(z().Statuszeile, HasSubstr("\"Probe.che\""));
+    EXPECT_THAT(z().Statuszeile.Text(), Not(HasSubstr("\"\"")));
+    EXPECT_THAT(z().Statuszeile.Text(), HasSubstr("\"Probe.che\""));
 }
 
 TEST_F(Luegen, undo_of_a_deleted_study_brings_back_all_of_it) {
@@ -283,7 +283,7 @@ TEST_F(Luegen, esc_on_choosing_a_record_leaves_everything_as_it_was) {
     EXPECT_EQ(z().gewaehlt(Wirkstoff), "Probe");
     EXPECT_EQ(z().Felder(), vorher);
     EXPECT_EQ(z().Marken(), Marken);
-    EXPECT_FALSE(z().Simulation_markiert);
+    EXPECT_FALSE(z().Simulation_markiert());
     EXPECT_FALSE(z().abgedeckt());
     EXPECT_FALSE(z().Hinweis());
     EXPECT_EQ(Datei("input/Second.che"), Datei_davor);
@@ -301,7 +301,7 @@ TEST_F(Luegen, yes_on_choosing_saves_that_record_and_the_summary_and_nothing_els
     EXPECT_TRUE(z().Saetze[Applikation].Geaendert());
     EXPECT_EQ(Datei("input/Probe.vnk"), "A trial\r\nSecond\r\nProbe\r\nProbe\r\n");
     EXPECT_EQ(gesichert(), Namen{"Second.che"});
-    EXPECT_THAT(z().Statuszeile, AllOf(HasSubstr("\"Second.che\""), Not(HasSubstr("All input data"))));
+    EXPECT_THAT(z().Statuszeile.Text(), AllOf(HasSubstr("\"Second.che\""), Not(HasSubstr("All input data"))));
 }
 
 // Answers No to all and keeps the questions.

@@ -51,8 +51,8 @@ TEST_F(Wahre_Worte, everything_that_one_command_has_to_tell_stands_in_the_line) 
     std::filesystem::remove(Wurzel_ / "input/Probe.sce");
     Fragen_.erwarte_Anfang("Save changes?", "", Knopf::Nein);
     waehle(Wirkstoff, "Second");
-    EXPECT_THAT(z().Statuszeile, AllOf(HasSubstr("\"Probe.che\" was changed by another program since it was read."),
-                                       HasSubstr("What was there before is kept in"), HasSubstr("\"unsaved Probe.che\"")));
+    EXPECT_THAT(z().Statuszeile.Text(), AllOf(HasSubstr("\"Probe.che\" was changed by another program since it was read."),
+                                              HasSubstr("What was there before is kept in"), HasSubstr("\"unsaved Probe.che\"")));
 }
 
 }  // namespace

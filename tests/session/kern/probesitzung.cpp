@@ -21,27 +21,7 @@ std::filesystem::path neuer_Ordner() {
 
 }  // namespace
 
-Probesitzung::Probesitzung() : Wurzel_(neuer_Ordner()) {
-    Parameter_.Bodendichte = 1.5;
-    Parameter_.Bodentiefe = 5;
-    Parameter_.Plateautiefe = 20;
-    Parameter_.Kohlenstoffgehalt = 1;
-    Parameter_.Feldkapazitaet = 30;
-    Parameter_.Welkepunkt = 10;
-    Parameter_.KOC = fuer_alle(100.0);
-    Felder_.Studie = {"First soil", "Second soil"};
-    Felder_.Name_Wirkstoff = "Parent P";
-    Felder_.Name_Met_1 = "Metabolite M1";
-    Felder_.Name_Met_2 = "Metabolite M2";
-    Felder_.Molmasse_Wirkstoff = "300";
-    Felder_.Molmasse_Met_1 = "200";
-    Felder_.Molmasse_Met_2 = "150";
-    Felder_.Bildungsanteil_Met_1 = "40";
-    Felder_.Bildungsanteil_Met_2 = "30";
-    Felder_.Bodenszenario = "Sandy loam";
-    for (auto& Zeile : Felder_.Applikationsschema) Zeile = {"01", "05", "100", "0"};
-    schreibe_Probe();
-}
+Probesitzung::Probesitzung() : Wurzel_(neuer_Ordner()) { schreibe_Probe(); }
 
 Probesitzung::~Probesitzung() {
     s_.reset();

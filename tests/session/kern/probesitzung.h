@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <string>
 
+#include "session/kern/probeeingabe.h"
 #include "session/kern/sitzung.h"
 #include "support/drehbuch.h"
 
@@ -34,7 +35,7 @@ protected:
 
     std::filesystem::path Wurzel_;
     Drehbuch Fragen_;
-    Eingabe Felder_;  // of the record "Probe"
+    Eingabe Felder_ = Probeeingabe();  // of the record "Probe"
     Laufparameter& Parameter_ = Felder_.Parameter;
     Ansicht Sicht_;  // written with the records, too
     std::unique_ptr<Sitzung> s_;

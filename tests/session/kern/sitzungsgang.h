@@ -14,6 +14,7 @@
 
 #include "session/kern/sitzung.h"
 #include "session/kern/sitzungsgang_projekt.h"
+#include "session/kern/sitzungsgang_vergleich.h"
 
 namespace varnok::gang {
 
@@ -75,23 +76,6 @@ private:
     bool ja_ = false;
     std::set<std::string> Titel_;
     std::string Bericht_;
-};
-
-// Results calculated anew, each input once.
-class Gegenrechnung {
-public:
-    std::shared_ptr<const Ergebnis> rechne(const Eingabe& e, int i_studie, const Klimabytes& Klima);
-
-private:
-    struct Platz {
-        Eingabe Vorgabe;
-        int i_studie = 0;
-        std::string Klima;
-        std::shared_ptr<const Ergebnis> Werte;
-    };
-    std::vector<Platz> Plaetze_;
-    std::size_t naechster_ = 0;
-    Lauf Arbeitsplatz_;
 };
 
 class Gang {

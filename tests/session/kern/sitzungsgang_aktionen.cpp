@@ -167,7 +167,7 @@ void skaliere(Gang& g) {
     g.s().fuehre_aus<&Laufsteuerung::schliesse_Skalierung>();
 }
 void ziehe_Legende(Gang& g) {
-    g.s().fuehre_aus<&Diagrammsteuerung::merke_Legende>(g.z().Zusammenfassung_aktiv, g.s().zeige<Diagrammsteuerung>().vorne(),
+    g.s().fuehre_aus<&Diagrammsteuerung::merke_Legende>(g.z().Zusammenfassung_aktiv(), g.s().zeige<Diagrammsteuerung>().vorne(),
                                                         Flaechenort{0.1 * g.r().unter(9), 0.3});
 }
 
@@ -292,19 +292,19 @@ void verlasse_Namen(Gang& g) {
     g.Name_in_Arbeit = false;
 }
 void oeffne_Beschreibung(Gang& g) {
-    if (!g.z().Beschreibung_offen && g.s().fuehre_aus<&Feldeingabe::schliesse_ab>(true))
+    if (!g.s().zeige<Beschreibungseingabe>().offen() && g.s().fuehre_aus<&Feldeingabe::schliesse_ab>(true))
         g.s().fuehre_aus<&Beschreibungseingabe::oeffne>();
 }
 void tippe_Beschreibung(Gang& g) {
     oeffne_Beschreibung(g);
-    if (!g.z().Beschreibung_offen) return;
+    if (!g.s().zeige<Beschreibungseingabe>().offen()) return;
     g.s().fuehre_aus<&Beschreibungseingabe::aendere>("Text " + std::to_string(g.r().unter(5)));
 }
 void schliesse_Beschreibung(Gang& g) {
-    if (g.z().Beschreibung_offen) g.s().fuehre_aus<&Beschreibungseingabe::schliesse>();
+    if (g.s().zeige<Beschreibungseingabe>().offen()) g.s().fuehre_aus<&Beschreibungseingabe::schliesse>();
 }
 void Beschreibung_zurueck(Gang& g) {
-    if (g.z().Beschreibung_offen) g.s().fuehre_aus<&Beschreibungseingabe::nimm_zurueck>();
+    if (g.s().zeige<Beschreibungseingabe>().offen()) g.s().fuehre_aus<&Beschreibungseingabe::nimm_zurueck>();
 }
 
 void aendere_Szenario(Gang& g) {

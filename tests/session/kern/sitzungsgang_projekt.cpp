@@ -11,6 +11,7 @@
 
 #include "records/satz.h"
 #include "records/simulation.h"
+#include "session/kern/probeeingabe.h"
 
 namespace varnok::gang {
 namespace {
@@ -37,33 +38,9 @@ std::string Bytes_von(const fs::path& p) {
 
 void schreibe(const fs::path& p, const std::string& Bytes) { std::ofstream(p, std::ios::binary) << Bytes; }
 
-Eingabe erste_Eingabe() {
-    Eingabe e;
-    Laufparameter& p = e.Parameter;
-    p.Bodendichte = 1.5;
-    p.Bodentiefe = 5;
-    p.Plateautiefe = 20;
-    p.Kohlenstoffgehalt = 1;
-    p.Feldkapazitaet = 30;
-    p.Welkepunkt = 10;
-    p.KOC = fuer_alle(100.0);
-    e.Studie = {"First soil", "Second soil"};
-    e.Name_Wirkstoff = "Parent P";
-    e.Name_Met_1 = "Metabolite M1";
-    e.Name_Met_2 = "Metabolite M2";
-    e.Molmasse_Wirkstoff = "300";
-    e.Molmasse_Met_1 = "200";
-    e.Molmasse_Met_2 = "150";
-    e.Bildungsanteil_Met_1 = "40";
-    e.Bildungsanteil_Met_2 = "30";
-    e.Bodenszenario = "Sandy loam";
-    for (auto& Zeile : e.Applikationsschema) Zeile = {"01", "05", "100", "0"};
-    return e;
-}
-
 // Three studies of other kinetics, a table of five applications, variable weather.
 Eingabe zweite_Eingabe() {
-    Eingabe e = erste_Eingabe();
+    Eingabe e = Probeeingabe();
     Laufparameter& p = e.Parameter;
     e.Studie = {"Field A", "Field B", "Field C"};
     e.Berechnungsmodus = zwei_in_Folge;
@@ -113,7 +90,7 @@ void Gangprojekt::schreibe_Anfang() {
     const auto Saetze = [&](const std::string& Name, const Eingabe& e) {
         for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) Satz_schreiben(Ordner, Name, Art, e, {});
     };
-    Saetze("Alpha", erste_Eingabe());
+    Saetze("Alpha", Probeeingabe());
     Saetze("Beta", zweite_Eingabe());
     const fs::path Eingang = Wurzel_ / "input";
     for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) {
@@ -180,7 +157,7 @@ fs::path Gangprojekt::waehle(const char* Endung, Zufall& r) const {
 std::string Gangprojekt::aendere(const char* Endung, Zufall& r) {
     const fs::path p = waehle(Endung, r);
     if (p.empty()) return "nothing there";
-    Eingabe e = r.einmal_von(2) ? erste_Eingabe() : zweite_Eingabe();
+    Eingabe e = r.einmal_von(2) ? Probeeingabe() : zweite_Eingabe();
     e.Parameter.Bodendichte = 1 + r.unter(9) / 10.0;
     e.Applikationsrate = std::to_string(100 + r.unter(900));
     e.Parameter.k_SFO[0][0] = 0.01 + r.unter(50) / 1000.0;

@@ -53,7 +53,7 @@ TEST_F(Onlinecheck, without_a_host_answers_with_the_connection_message) {
     gestartet();
     erwarte_keine_Verbindung();
     s_->fuehre_aus<&Aktualisierungssteuerung::suche>();
-    EXPECT_TRUE(s_->Stand().Aktualisierungsfehler);
+    EXPECT_TRUE(s_->zeige<Aktualisierungssteuerung>().Fehler());
     EXPECT_FALSE(s_->Stand().abgedeckt());
 }
 
@@ -72,7 +72,7 @@ TEST_F(Onlinecheck, without_an_answer_tells_that_there_is_no_connection) {
     gestartete();
     erwarte_keine_Verbindung();
     s_->fuehre_aus<&Aktualisierungssteuerung::suche>();
-    EXPECT_TRUE(s_->Stand().Aktualisierungsfehler);
+    EXPECT_TRUE(s_->zeige<Aktualisierungssteuerung>().Fehler());
     EXPECT_EQ(Netz_.gefragt, std::vector<std::string>{Ziel_.Versionsseite()});
 }
 
@@ -83,8 +83,8 @@ TEST_F(Onlinecheck, with_the_latest_version_says_so_and_clears_the_error) {
     Server_bietet("20180921");
     Fragen_.erwarte("VARNOK", "You have the latest version of the software.");
     s_->fuehre_aus<&Aktualisierungssteuerung::suche>();
-    EXPECT_FALSE(s_->Stand().Aktualisierungsfehler);
-    EXPECT_FALSE(s_->Stand().beendet);
+    EXPECT_FALSE(s_->zeige<Aktualisierungssteuerung>().Fehler());
+    EXPECT_FALSE(s_->Stand().beendet());
 }
 
 TEST_F(Onlinecheck, with_an_older_version_on_the_server_calls_this_one_unofficial) {
@@ -92,7 +92,7 @@ TEST_F(Onlinecheck, with_an_older_version_on_the_server_calls_this_one_unofficia
     gestartete();
     Fragen_.erwarte("VARNOK", "You are using an unofficial version of the software.\n", Knopf::Abbrechen);
     s_->fuehre_aus<&Aktualisierungssteuerung::suche>();
-    EXPECT_FALSE(s_->Stand().Aktualisierungsfehler);
+    EXPECT_FALSE(s_->zeige<Aktualisierungssteuerung>().Fehler());
 }
 
 TEST_F(Onlinecheck, with_a_newer_version_that_is_not_wanted_goes_on) {
@@ -100,7 +100,7 @@ TEST_F(Onlinecheck, with_a_newer_version_that_is_not_wanted_goes_on) {
     gestartete();
     Fragen_.erwarte("Update available!", neue_Version, Knopf::Nein);
     s_->fuehre_aus<&Aktualisierungssteuerung::suche>();
-    EXPECT_FALSE(s_->Stand().beendet);
+    EXPECT_FALSE(s_->Stand().beendet());
     EXPECT_TRUE(Tausch_.bereit.empty());
 }
 
@@ -113,7 +113,7 @@ TEST_F(Onlinecheck, an_update_drops_what_is_not_saved_and_ends) {
     s_->fuehre_aus<&Aktualisierungssteuerung::suche>();
     EXPECT_EQ(Tausch_.bereit, "new program");
     EXPECT_EQ(Tausch_.gestartet, 1);
-    EXPECT_TRUE(s_->Stand().beendet);
+    EXPECT_TRUE(s_->Stand().beendet());
     EXPECT_TRUE(s_->fuehre_aus<&Programmablauf::schliesse_Fenster>());  // without a question
     EXPECT_EQ(Datei("input/Probe.app"), vorher);
 }
@@ -125,8 +125,8 @@ TEST_F(Onlinecheck, a_download_that_fails_is_told_as_such) {
     Fragen_.erwarte("Update available!", neue_Version, Knopf::Ja);
     Fragen_.erwarte_Anfang("Update not installed", "The new version could not be downloaded:");
     s_->fuehre_aus<&Aktualisierungssteuerung::suche>();
-    EXPECT_TRUE(s_->Stand().Aktualisierungsfehler);
-    EXPECT_FALSE(s_->Stand().beendet);
+    EXPECT_TRUE(s_->zeige<Aktualisierungssteuerung>().Fehler());
+    EXPECT_FALSE(s_->Stand().beendet());
 }
 
 TEST_F(Onlinecheck, a_wrong_signature_has_one_message_of_its_own) {
@@ -138,9 +138,9 @@ TEST_F(Onlinecheck, a_wrong_signature_has_one_message_of_its_own) {
                  "it was damaged on its way, or it is not from the maker of VARNOK.\n"
                  "Nothing was replaced.");
     s_->fuehre_aus<&Aktualisierungssteuerung::suche>();
-    EXPECT_TRUE(s_->Stand().Aktualisierungsfehler);
+    EXPECT_TRUE(s_->zeige<Aktualisierungssteuerung>().Fehler());
     EXPECT_TRUE(Tausch_.bereit.empty());
-    EXPECT_FALSE(s_->Stand().beendet);
+    EXPECT_FALSE(s_->Stand().beendet());
 }
 
 TEST_F(Onlinecheck, a_script_that_does_not_start_keeps_the_program_running) {
@@ -152,7 +152,7 @@ TEST_F(Onlinecheck, a_script_that_does_not_start_keeps_the_program_running) {
         .erwarte("Update not installed", "The program that replaces this one could not be started.\nNothing was replaced.");
     s_->fuehre_aus<&Aktualisierungssteuerung::suche>();
     EXPECT_TRUE(Tausch_.bereit.empty());
-    EXPECT_FALSE(s_->Stand().beendet);
+    EXPECT_FALSE(s_->Stand().beendet());
 }
 
 TEST_F(Onlinecheck, of_a_program_that_cannot_be_replaced_gives_the_address) {
@@ -169,11 +169,11 @@ TEST_F(Onlinecheck, of_a_program_that_cannot_be_replaced_gives_the_address) {
 TEST_F(Onlinecheck, is_known_to_run_while_it_waits_for_the_server) {
     gestartete();
     bool laeuft = false;
-    Netz_.waehrend = [&] { laeuft = s_->Stand().Aktualisierung_laeuft; };
+    Netz_.waehrend = [&] { laeuft = s_->zeige<Aktualisierungssteuerung>().laeuft(); };
     erwarte_keine_Verbindung();
     s_->fuehre_aus<&Aktualisierungssteuerung::suche>();
     EXPECT_TRUE(laeuft);
-    EXPECT_FALSE(s_->Stand().Aktualisierung_laeuft);
+    EXPECT_FALSE(s_->zeige<Aktualisierungssteuerung>().laeuft());
 }
 
 TEST_F(Onlinecheck, waits_for_a_field_that_is_not_valid) {
@@ -200,7 +200,7 @@ TEST_F(Onlinecheck, at_the_start_speaks_over_the_start_page) {
     Fragen_.erwarte("VARNOK", "You have the latest version of the software.");
     Netz_.antworte(Seite("20180921"));
     EXPECT_EQ(Handlungen_, 1);
-    EXPECT_FALSE(s_->Stand().Aktualisierungsfehler);
+    EXPECT_FALSE(s_->zeige<Aktualisierungssteuerung>().Fehler());
 }
 
 TEST_F(Onlinecheck, at_the_start_can_update) {
@@ -209,7 +209,7 @@ TEST_F(Onlinecheck, at_the_start_can_update) {
     Fragen_.erwarte("Update available!", neue_Version, Knopf::Ja).erwarte("VARNOK", geladen);
     Netz_.antworte(Seite("20180922"));
     EXPECT_EQ(Tausch_.gestartet, 1);
-    EXPECT_TRUE(s_->Stand().beendet);
+    EXPECT_TRUE(s_->Stand().beendet());
 }
 
 TEST_F(Onlinecheck, at_the_start_is_silent_without_a_usable_answer) {
@@ -217,7 +217,7 @@ TEST_F(Onlinecheck, at_the_start_is_silent_without_a_usable_answer) {
     for (const Abrufantwort& Antwort : {Abrufantwort(), Abrufantwort(""), Abrufantwort("20180922.zip")}) {
         suche_beim_Start();
         Netz_.antworte(Antwort);
-        EXPECT_TRUE(s_->Stand().Aktualisierungsfehler);
+        EXPECT_TRUE(s_->zeige<Aktualisierungssteuerung>().Fehler());
     }
     EXPECT_EQ(Handlungen_, 0);
 }
@@ -230,7 +230,7 @@ TEST_F(Onlinecheck, at_the_start_a_download_that_fails_is_told) {
     Fragen_.erwarte("Update available!", neue_Version, Knopf::Ja);
     Fragen_.erwarte_Anfang("Update not installed", "The new version could not be downloaded:");
     Netz_.antworte(Seite("20180922"));
-    EXPECT_TRUE(s_->Stand().Aktualisierungsfehler);
+    EXPECT_TRUE(s_->zeige<Aktualisierungssteuerung>().Fehler());
 }
 
 TEST_F(Onlinecheck, at_the_start_says_nothing_any_more_on_the_working_screen) {

@@ -71,7 +71,7 @@ TEST_F(Auftrag, Ein_Tag) {
         s_->fuehre_aus<&Satzverwaltung::waehle_Simulation>(z().Auswahl(Simulation));
     }
     s_->fuehre_aus<&Programmablauf::beende>();
-    EXPECT_TRUE(z().beendet) << Fragen_.gehoert;
+    EXPECT_TRUE(z().beendet()) << Fragen_.gehoert;
     s_.reset();
 }
 

@@ -36,7 +36,7 @@ TEST_F(Ende, writes_the_summary_and_the_settings_without_a_question_when_nothing
     const auto alt = Stempel(Wurzel_ / "input/Probe.vnk") - std::chrono::hours(1);
     std::filesystem::last_write_time(Wurzel_ / "input/Probe.vnk", alt);
     s_->fuehre_aus<&Programmablauf::beende>();
-    EXPECT_TRUE(s_->Stand().beendet);
+    EXPECT_TRUE(s_->Stand().beendet());
     EXPECT_GT(Stempel(Wurzel_ / "input/Probe.vnk"), alt);  // this is what makes the next start find it
 }
 
@@ -45,7 +45,7 @@ TEST_F(Ende, asks_for_the_changed_record_and_saves_on_yes) {
     ASSERT_TRUE(tippe("S_DT50_0", "12"));
     Fragen_.erwarte("Save changes?", Frage_nach("pesticide"), Knopf::Ja);
     s_->fuehre_aus<&Programmablauf::beende>();
-    EXPECT_TRUE(s_->Stand().beendet);
+    EXPECT_TRUE(s_->Stand().beendet());
     Eingabe e;
     Ansicht a;
     Satz_lesen(Projektordner(Wurzel_.string()), "Probe", Wirkstoff, e, a);
@@ -70,7 +70,7 @@ TEST_F(Ende, asks_once_for_each_changed_record_and_saves_those_with_a_yes) {
     const std::string Wirkstoffdatei = Datei("input/Probe.che");
     const std::string Muster = Datei("input/Probe.app");
     s_->fuehre_aus<&Programmablauf::beende>();
-    EXPECT_TRUE(s_->Stand().beendet);
+    EXPECT_TRUE(s_->Stand().beendet());
     EXPECT_EQ(Datei("input/Probe.che"), Wirkstoffdatei);
     EXPECT_NE(Datei("input/Probe.app"), Muster);
     EXPECT_EQ(gesichert(), Liste{"unsaved Probe.che"});
@@ -86,7 +86,7 @@ TEST_F(Ende, not_now_at_any_question_does_nothing_and_does_not_end) {
         Fragen_.erwarte("Save changes?", Frage_nach("pesticide"), Knopf::Ja)
             .erwarte("Save changes?", Frage_nach("application"), Knopf::nicht_jetzt);
         Fenster ? s_->fuehre_aus<&Programmablauf::schliesse_Fenster>() : s_->fuehre_aus<&Programmablauf::beende>();
-        EXPECT_FALSE(s_->Stand().beendet);
+        EXPECT_FALSE(s_->Stand().beendet());
     }
     EXPECT_EQ(Datei("input/Probe.che"), Wirkstoffdatei);
     EXPECT_EQ(Stempel(Wurzel_ / "input/Probe.vnk"), Zeit);
@@ -119,7 +119,7 @@ TEST_F(Ende, tells_once_of_files_that_cannot_be_written_and_ends) {
     }
     Fragen_.erwarte_Anfang("Runtime error", "");
     s_->fuehre_aus<&Programmablauf::beende>();
-    EXPECT_TRUE(s_->Stand().beendet);
+    EXPECT_TRUE(s_->Stand().beendet());
 }
 
 TEST_F(Ende, stays_where_a_yes_cannot_be_done) {
@@ -130,7 +130,7 @@ TEST_F(Ende, stays_where_a_yes_cannot_be_done) {
         Fragen_.erwarte("Save changes?", Frage_nach("pesticide"), Knopf::Ja)
             .erwarte_Anfang("Runtime error", "Cannot write the file");
         Fenster ? s_->fuehre_aus<&Programmablauf::schliesse_Fenster>() : s_->fuehre_aus<&Programmablauf::beende>();
-        EXPECT_FALSE(s_->Stand().beendet);
+        EXPECT_FALSE(s_->Stand().beendet());
     }
 }
 
@@ -142,7 +142,7 @@ TEST_F(Ende, with_an_empty_selector_is_refused_and_the_program_stays) {
     EXPECT_TRUE(s_->Stand().abgedeckt());
     Fragen_.erwarte("Record not set", "Application record not set. Please select!");
     s_->fuehre_aus<&Programmablauf::beende>();
-    EXPECT_FALSE(s_->Stand().beendet);
+    EXPECT_FALSE(s_->Stand().beendet());
 }
 
 TEST_F(Ende, by_the_close_box_leaves_the_summary_stamp_old_and_writes_no_settings) {
@@ -170,7 +170,7 @@ TEST_F(Ende, a_save_that_fails_names_the_file_and_keeps_the_program_and_the_valu
     std::filesystem::rename(Wurzel_ / "input", Wurzel_ / "elsewhere");
     Fragen_.erwarte_Anfang("Runtime error", "Cannot write the file \"" + (Wurzel_ / "input/Probe.vnk").string());
     s_->fuehre_aus<&Satzverwaltung::speichere>();
-    EXPECT_FALSE(s_->Stand().beendet);
+    EXPECT_FALSE(s_->Stand().beendet());
     EXPECT_EQ(s_->zeige<Feldeingabe>().Text(Feld("S_DT50_0")), "12");
 }
 
@@ -182,7 +182,7 @@ TEST_F(Ende, program_defaults_restore_the_start_simulation_and_end_without_a_que
     std::filesystem::copy(std::filesystem::path(VARNOK_DATENORDNER) / "input", Wurzel_ / "input",
                           std::filesystem::copy_options::overwrite_existing | std::filesystem::copy_options::recursive);
     s_->fuehre_aus<&Satzverwaltung::lade_Voreinstellungen>();
-    EXPECT_TRUE(s_->Stand().beendet);
+    EXPECT_TRUE(s_->Stand().beendet());
 }
 
 }  // namespace

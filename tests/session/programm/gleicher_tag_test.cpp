@@ -56,8 +56,8 @@ public:
     void berichte() {
         befiehl<&Berichtssteuerung::erstelle>();
         EXPECT_NE(s_->zeige<Berichtssteuerung>().offener(), nullptr);
-        EXPECT_NE(s_->Stand().Statuszeile.find("eport"), std::string::npos)
-            << "what became of it is told: " << s_->Stand().Statuszeile;
+        EXPECT_NE(s_->Stand().Statuszeile.Text().find("eport"), std::string::npos)
+            << "what became of it is told: " << s_->Stand().Statuszeile.Text();
     }
     void beginne() {
         s_ = std::make_unique<Sitzung>(Umgebung{&Zuhoerer_, Wurzel_.string(), "", '.'});
@@ -97,7 +97,7 @@ protected:
             const Zustand& z = s_->Stand();
             Gesehen.push_back({Maximum(), z.gewaehlt(Simulation), z.Vorgabe.Studie.front(), z.abgedeckt()});
         }
-        EXPECT_TRUE(s_->Stand().beendet);
+        EXPECT_TRUE(s_->Stand().beendet());
         s_.reset();
         return Gesehen;
     }

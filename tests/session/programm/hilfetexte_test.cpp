@@ -40,7 +40,7 @@ TEST_F(Hilfe, a_missing_file_is_told_once_and_the_program_goes_on) {
     EXPECT_TRUE(s_->fuehre_aus<&Hilfetexte::Tooltips>().empty());
     EXPECT_TRUE(s_->fuehre_aus<&Hilfetexte::Tooltips>().empty());
     EXPECT_FALSE(s_->Stand().abgedeckt());
-    EXPECT_FALSE(s_->Stand().beendet);
+    EXPECT_FALSE(s_->Stand().beendet());
 }
 
 TEST_F(Hilfe, a_short_file_is_told_once_and_gives_the_tips_it_has) {

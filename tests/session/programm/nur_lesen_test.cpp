@@ -42,7 +42,7 @@ TEST_F(Nur_lesen, it_opens_calculates_and_ends_without_a_question) {
     EXPECT_TRUE(z().nur_lesbar);
     EXPECT_FALSE(z().abgedeckt());
     s_->fuehre_aus<&Programmablauf::beende>();
-    EXPECT_TRUE(z().beendet);
+    EXPECT_TRUE(z().beendet());
     EXPECT_EQ(Dateien(), vorher);
 }
 
@@ -84,7 +84,7 @@ TEST_F(Nur_lesen, each_command_on_files_answers_with_one_message) {
         erwarte_eine_Meldung();
         Befehl(*s_);
     }
-    EXPECT_FALSE(z().beendet);
+    EXPECT_FALSE(z().beendet());
     EXPECT_EQ(s_->zeige<Feldeingabe>().Text(Feld("S_DT50_0")), "12");
 }
 
@@ -94,10 +94,10 @@ TEST_F(Nur_lesen, at_the_end_yes_is_told_and_stays_and_no_ends_it) {
     Fragen_.erwarte_Anfang("Save changes?", "You modified", Knopf::Ja);
     erwarte_eine_Meldung();
     s_->fuehre_aus<&Programmablauf::beende>();
-    EXPECT_FALSE(z().beendet);
+    EXPECT_FALSE(z().beendet());
     Fragen_.erwarte_Anfang("Save changes?", "You modified", Knopf::Nein);
     s_->fuehre_aus<&Programmablauf::beende>();
-    EXPECT_TRUE(z().beendet);
+    EXPECT_TRUE(z().beendet());
 }
 
 TEST_F(Nur_lesen, the_close_box_ends_like_that_too) {
@@ -153,7 +153,7 @@ TEST_F(Nur_lesen, what_an_earlier_program_left_unsaved_stays_until_the_folder_ca
     s_->fuehre_aus<&Zwischensicherung::schreibe>();
     Fragen_.erwarte_Anfang("Save changes?", "You modified", Knopf::Nein);
     s_->fuehre_aus<&Programmablauf::beende>();
-    EXPECT_TRUE(z().beendet);
+    EXPECT_TRUE(z().beendet());
     EXPECT_EQ(Datei("backup/unsaved"), Stand);
     Rechte_.reset();
     Fragen_.erwarte_Anfang("Unsaved values", "The program did not come to its end the last time.", Knopf::Ja);

@@ -31,12 +31,12 @@ TEST_F(Optionsprobe, cancelled_change_nothing_and_run_nothing) {
     gestartet();
     const Laufparameter vorher = s_->Stand().Parameter();
     const std::string Einstellung = Datei("VARNOK.ini");
-    const int Zeichnung = s_->Stand().Zeichnung;
+    const int Zeichnung = s_->zeige<Diagrammsteuerung>().Zeichnung();
     s_->fuehre_aus<&Optionensteuerung::oeffne>();
     EXPECT_FALSE(s_->fuehre_aus<&Optionensteuerung::schliesse>());
     EXPECT_EQ(s_->Stand().Parameter(), vorher);
     EXPECT_EQ(s_->Stand().Projektpfad, Wurzel_.string());
-    EXPECT_EQ(s_->Stand().Zeichnung, Zeichnung);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Zeichnung);
     EXPECT_EQ(Datei("VARNOK.ini"), Einstellung);
     EXPECT_FALSE(irgendetwas_geaendert());
 }
@@ -44,32 +44,32 @@ TEST_F(Optionsprobe, cancelled_change_nothing_and_run_nothing) {
 TEST_F(Optionsprobe, cancelled_after_an_earlier_OK_run_nothing_either) {
     gestartet();
     bestaetige_unveraendert();
-    const int Zeichnung = s_->Stand().Zeichnung;
+    const int Zeichnung = s_->zeige<Diagrammsteuerung>().Zeichnung();
     s_->fuehre_aus<&Optionensteuerung::oeffne>();
     s_->fuehre_aus<&Optionensteuerung::schliesse>();
-    EXPECT_EQ(s_->Stand().Zeichnung, Zeichnung);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Zeichnung);
 }
 
 TEST_F(Optionsprobe, accepted_unchanged_run_once_and_mark_nothing) {
     gestartet();
-    const int Zeichnung = s_->Stand().Zeichnung;
+    const int Zeichnung = s_->zeige<Diagrammsteuerung>().Zeichnung();
     const Laufparameter vorher = s_->Stand().Parameter();
     EXPECT_FALSE(bestaetige_unveraendert());
-    EXPECT_EQ(s_->Stand().Zeichnung, Zeichnung + 1);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Zeichnung + 1);
     EXPECT_EQ(s_->Stand().Parameter(), vorher);
     EXPECT_FALSE(irgendetwas_geaendert());
-    EXPECT_FALSE(s_->Stand().Simulation_markiert);
+    EXPECT_FALSE(s_->Stand().Simulation_markiert());
     EXPECT_FALSE(s_->Stand().abgedeckt());
-    EXPECT_EQ(s_->Stand().Statuszeile, "");
+    EXPECT_EQ(s_->Stand().Statuszeile.Text(), "");
 }
 
 TEST_F(Optionsprobe, in_the_summary_view_run_all_studies_and_stay_there) {
     gestartet();
     s_->fuehre_aus<&Listenwahl::zeige_Zusammenfassung>();
-    const int Zeichnung = s_->Stand().Zeichnung;
+    const int Zeichnung = s_->zeige<Diagrammsteuerung>().Zeichnung();
     bestaetige([](Optionsentwurf& o) { o.Einheit = 1; });
-    EXPECT_TRUE(s_->Stand().Zusammenfassung_aktiv);
-    EXPECT_EQ(s_->Stand().Zeichnung, Zeichnung + 1);
+    EXPECT_TRUE(s_->Stand().Zusammenfassung_aktiv());
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Zeichnung + 1);
     EXPECT_FLOAT_EQ(Maximum(0), 1333.3334F);
     EXPECT_FLOAT_EQ(Maximum(1), 1333.3334F);
 }
@@ -160,7 +160,7 @@ TEST_F(Optionsprobe, the_parts_of_the_name_mark_the_compound_and_make_the_name) 
     bestaetige([](Optionsentwurf& o) { o.Ausgabename_Teile[1] = true; });
     EXPECT_TRUE(s_->Stand().Saetze[Wirkstoff].Geaendert());
     s_->fuehre_aus<&Berichtssteuerung::erstelle>();
-    EXPECT_NE(s_->Stand().Ergebnisdatei.find("First soil"), std::string::npos);
+    EXPECT_NE(s_->zeige<Berichtssteuerung>().Ergebnisdatei().find("First soil"), std::string::npos);
     s_->fuehre_aus<&Satzverwaltung::speichere>();
     EXPECT_EQ(Zeile("input/Probe.che", "Output file name"), "Output file name :\t0\t1\t0\t0\t0\t0\t0");
 }
@@ -194,11 +194,11 @@ TEST_F(Optionsprobe, tooltips_switched_off_write_the_settings_and_say_when_they_
     e.Tips_anzeigen = 1;
     std::ofstream(Wurzel_ / "VARNOK.ini", std::ios::binary) << Einstellungen_als_Bytes(e);
     gestartet();
-    const int Zeichnung = s_->Stand().Zeichnung;
+    const int Zeichnung = s_->zeige<Diagrammsteuerung>().Zeichnung();
     Fragen_.erwarte("Tooltips", "The tooltips will be switched off when you exit VARNOK and call it again!");
     EXPECT_FALSE(bestaetige([](Optionsentwurf& o) { o.Tips_anzeigen = 0; }));
     EXPECT_EQ(Zeile("VARNOK.ini", "Tooltips:"), "Tooltips:\t0");
-    EXPECT_EQ(s_->Stand().Zeichnung, Zeichnung + 1);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Zeichnung + 1);
 }
 
 TEST_F(Optionsprobe, settings_that_cannot_be_written_are_told_and_the_run_follows) {

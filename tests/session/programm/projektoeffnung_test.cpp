@@ -61,7 +61,7 @@ TEST_F(Oeffnung, another_project_gets_a_window_of_its_own) {
     const std::string anderes = Projekt("Field");
     oeffne(anderes);
     EXPECT_EQ(Fenster_, std::vector{anderes});
-    EXPECT_EQ(s_->Stand().Statuszeile, "\"" + anderes + "\" opens in a window of its own.");
+    EXPECT_EQ(s_->Stand().Statuszeile.Text(), "\"" + anderes + "\" opens in a window of its own.");
     EXPECT_EQ(s_->Stand().Projektpfad, Wurzel_.string());
 }
 
@@ -87,7 +87,7 @@ TEST_F(Oeffnung, this_project_by_another_name_is_not_opened_twice) {
     fs::create_directory_symlink(Wurzel_, Orte_ / "link");
     oeffne((Orte_ / "link").string());
     EXPECT_TRUE(Fenster_.empty());
-    EXPECT_EQ(s_->Stand().Statuszeile, "This window shows that project already.");
+    EXPECT_EQ(s_->Stand().Statuszeile.Text(), "This window shows that project already.");
 }
 
 TEST_F(Oeffnung, what_cannot_be_opened_is_told_and_everything_stays) {
@@ -142,7 +142,7 @@ TEST_F(Oeffnung, file_that_cannot_be_written_or_read_says_nothing) {
     std::ofstream(Orte_ / "kept") << "a file where the folder should be";
     starte();
     EXPECT_TRUE(Projekte().empty());
-    EXPECT_EQ(s_->Stand().Statuszeile, "");
+    EXPECT_EQ(s_->Stand().Statuszeile.Text(), "");
 }
 
 }  // namespace

@@ -27,7 +27,7 @@ TEST_F(Projektpfad, a_new_project_path_gets_both_folders_and_the_selectors_stay)
     EXPECT_EQ(s_->Stand().Projektpfad, (Wurzel_ / "new").string());
     EXPECT_EQ(s_->Stand().Listen, Listen);
     EXPECT_FALSE(irgendetwas_geaendert());
-    EXPECT_NE(s_->Stand().Statuszeile.find((Wurzel_ / "new").string()), std::string::npos);
+    EXPECT_NE(s_->Stand().Statuszeile.Text().find((Wurzel_ / "new").string()), std::string::npos);
 }
 
 TEST_F(Projektpfad, folders_that_are_there_are_kept_in_whatever_case) {
@@ -118,7 +118,7 @@ TEST_F(Projektpfad, any_name_of_a_folder_comes_back_from_the_settings_file) {
 
 TEST_F(Projektpfad, what_is_no_folder_is_refused_and_nothing_is_changed) {
     gestartet();
-    const int Zeichnung = s_->Stand().Zeichnung;
+    const int Zeichnung = s_->zeige<Diagrammsteuerung>().Zeichnung();
     const std::string hier = Wurzel_.string() + "/";
     for (const std::string& Pfad : {hier + "no such folder", hier + "input/Probe.che", std::string()}) {
         Optionsentwurf o = s_->fuehre_aus<&Optionensteuerung::oeffne>();
@@ -130,7 +130,7 @@ TEST_F(Projektpfad, what_is_no_folder_is_refused_and_nothing_is_changed) {
     }
     EXPECT_EQ(s_->Stand().Parameter().Einheit, 0);
     EXPECT_EQ(s_->Stand().Projektpfad, Wurzel_.string());
-    EXPECT_EQ(s_->Stand().Zeichnung, Zeichnung);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Zeichnung);
 }
 
 TEST_F(Projektpfad, a_folder_with_a_line_end_in_its_name_is_refused) {
@@ -164,7 +164,7 @@ TEST_F(Projektpfad, the_next_start_is_in_the_new_project) {
     gestartet();
     waehle_Projekt("new");
     s_->fuehre_aus<&Programmablauf::beende>();
-    ASSERT_TRUE(s_->Stand().beendet);
+    ASSERT_TRUE(s_->Stand().beendet());
 
     const Umgebung Welt{&Fragen_, Wurzel_.string(), VARNOK_DATENORDNER, '.'};
     Fragen_.erwarte("Data file missing", Vorgaben_fehlen, Knopf::Ja).erwarte("Default settings", Vorgaben_geladen);
@@ -183,7 +183,7 @@ TEST_F(Projektpfad, a_project_named_in_the_call_is_opened_all_the_same) {
     gestartet();
     waehle_Projekt("new");
     s_->fuehre_aus<&Programmablauf::beende>();
-    ASSERT_TRUE(s_->Stand().beendet);
+    ASSERT_TRUE(s_->Stand().beendet());
     s_.reset();
 
     Umgebung Welt{&Fragen_, Wurzel_.string(), VARNOK_DATENORDNER, '.'};

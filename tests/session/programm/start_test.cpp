@@ -48,7 +48,7 @@ TEST_F(Start, with_a_project_path_that_is_gone_uses_the_program_folder_and_says_
     std::ofstream(Wurzel_ / Einstellungsdatei, std::ios::binary) << Einstellungen_als_Bytes(e);
     nur_geladen();
     EXPECT_EQ(s_->Stand().Projektpfad, Wurzel_.string());
-    EXPECT_NE(s_->Stand().Statuszeile.find("no such folder"), std::string::npos);
+    EXPECT_NE(s_->Stand().Statuszeile.Text().find("no such folder"), std::string::npos);
 }
 
 TEST_F(Start, without_a_simulation_offers_the_defaults_and_ends_on_no) {
@@ -83,8 +83,8 @@ TEST_F(Start, with_a_missing_record_and_others_to_choose_is_covered_and_says_whi
     std::filesystem::remove(Wurzel_ / "input/Probe.sce");
     gestartet();
     EXPECT_EQ(s_->Stand().Abdeckungswort(), "Record \"Probe.sce\" missing: choose one");
-    EXPECT_NE(s_->Stand().Statuszeile.find("\"Probe.sce\""), std::string::npos);
-    EXPECT_EQ(s_->Stand().Zeichnung, 0);
+    EXPECT_NE(s_->Stand().Statuszeile.Text().find("\"Probe.sce\""), std::string::npos);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), 0);
     s_->fuehre_aus<&Satzverwaltung::waehle_Satz>(Szenario, 0);
     EXPECT_FALSE(s_->Stand().abgedeckt());
 }

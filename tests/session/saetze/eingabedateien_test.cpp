@@ -67,7 +67,7 @@ TEST_F(Dateidialogprobe, loading_asks_where_the_folder_has_no_compound_record_le
     std::filesystem::remove(Wurzel_ / "input/Probe.che");
     Fragen_.erwarte("Data file missing", "File Probe is missing. Should the default settings be loaded ", Knopf::Nein);
     s_->fuehre_aus<&Eingabedateien::lade>("Probe.txt");
-    EXPECT_TRUE(s_->Stand().beendet);
+    EXPECT_TRUE(s_->Stand().beendet());
 }
 
 // No line of description, as the dialog has always written it.
@@ -78,7 +78,7 @@ TEST_F(Dateidialogprobe, saving_writes_three_names_and_the_records) {
     EXPECT_EQ(Datei("input/Other.vnk"), "Probe\r\nProbe\r\nProbe\r\n");
     EXPECT_EQ(Datei("input/Probe.vnk"), "A trial\r\nProbe\r\nProbe\r\nProbe\r\n");
     EXPECT_EQ(s_->Stand().gewaehlt(Simulation), "Other");
-    EXPECT_FALSE(s_->Stand().Simulation_markiert);
+    EXPECT_FALSE(s_->Stand().Simulation_markiert());
     for (std::size_t t = 1; t <= 3; ++t) EXPECT_FALSE(s_->Stand().Saetze[t].Geaendert());
     Eingabe e;
     Ansicht a;

@@ -15,7 +15,7 @@ protected:
     std::string Pfad(const std::string& Datei) const { return (Wurzel_ / "input" / Datei).string(); }
     void aendere_von_aussen(const std::string& Datei) const { schreibe_Datei(Pfad(Datei), lies_Datei(Pfad(Datei)) + "theirs"); }
     void entferne_von_aussen(const std::string& Datei) const { std::filesystem::remove(Pfad(Datei)); }
-    bool Status_nennt(const std::string& Text) const { return z().Statuszeile.find(Text) != std::string::npos; }
+    bool Status_nennt(const std::string& Text) const { return z().Statuszeile.Text().find(Text) != std::string::npos; }
     void erwarte_Ersatzfrage(const std::string& Datei, Knopf Antwort) {
         Fragen_.erwarte("Replace existing record?",
                         "The record '" + Datei + "' was changed by another program since it was read. Do you want to replace it?",
@@ -28,7 +28,7 @@ TEST_F(Fremdes, a_changed_record_is_told_at_refresh_and_the_values_stay) {
     gestartet();
     aendere_von_aussen("Probe.che");
     s_->fuehre_aus<&Satzverwaltung::aktualisiere>();
-    EXPECT_EQ(z().Statuszeile, "\"Probe.che\" was changed by another program since it was read.");
+    EXPECT_EQ(z().Statuszeile.Text(), "\"Probe.che\" was changed by another program since it was read.");
     EXPECT_EQ(z().Felder().Name_Wirkstoff, "Parent P");
     EXPECT_FALSE(z().abgedeckt());
 }
@@ -38,14 +38,14 @@ TEST_F(Fremdes, a_deleted_record_is_told_at_refresh_and_save_writes_it_anew) {
     const std::string Inhalt = Datei("input/Probe.app");
     entferne_von_aussen("Probe.app");
     s_->fuehre_aus<&Satzverwaltung::aktualisiere>();
-    EXPECT_EQ(z().Statuszeile, "\"Probe.app\" was deleted by another program since it was read.");
+    EXPECT_EQ(z().Statuszeile.Text(), "\"Probe.app\" was deleted by another program since it was read.");
     EXPECT_EQ(z().gewaehlt(Applikation), "Probe");
     s_->fuehre_aus<&Satzverwaltung::speichere>();
     EXPECT_EQ(Datei("input/Probe.vnk"), "A trial\r\nProbe\r\nProbe\r\nProbe\r\n");
     EXPECT_TRUE(gibt_es("input/Probe.app"));
     EXPECT_TRUE(Status_nennt("saved. \"Probe.app\" was deleted by another program"));
     s_->fuehre_aus<&Satzverwaltung::aktualisiere>();
-    EXPECT_EQ(z().Statuszeile, "");
+    EXPECT_EQ(z().Statuszeile.Text(), "");
 }
 
 TEST_F(Fremdes, a_copy_of_a_changed_record_is_theirs_and_is_not_saved_over_unasked) {
@@ -117,7 +117,7 @@ TEST_F(Fremdes, a_simulation_that_names_a_record_gone_since_the_start_waits_for_
     s_->fuehre_aus<&Satzverwaltung::waehle_Simulation>(1);
     EXPECT_EQ(z().Auswahl(Applikation), -1);
     EXPECT_TRUE(z().abgedeckt());
-    EXPECT_FALSE(z().beendet);
+    EXPECT_FALSE(z().beendet());
     waehle(Applikation, "Probe");
     EXPECT_FALSE(z().abgedeckt());
     EXPECT_EQ(z().Parameter().Bodendichte, 3);
@@ -149,9 +149,9 @@ TEST_F(Fremdes, a_record_that_went_is_named_and_covers_while_there_are_others_to
     gestartet();
     entferne_von_aussen("Second.app");
     waehle(Applikation, "Second");
-    EXPECT_FALSE(z().beendet);
+    EXPECT_FALSE(z().beendet());
     EXPECT_EQ(z().Abdeckungswort(), "Record \"Second.app\" missing: choose one");
-    EXPECT_NE(z().Statuszeile.find("Second.app"), std::string::npos);
+    EXPECT_NE(z().Statuszeile.Text().find("Second.app"), std::string::npos);
     waehle(Applikation, "Probe");
     EXPECT_FALSE(z().abgedeckt());
 }
@@ -171,7 +171,7 @@ protected:
 
 TEST_F(LetzterSatz, no_to_the_question_ends_the_program_with_all_unsaved_values_in_backup) {
     waehle_ins_Leere(Knopf::Nein);
-    EXPECT_TRUE(z().beendet);
+    EXPECT_TRUE(z().beendet());
     for (const char* Name : {"unsaved Probe.app", "unsaved Probe.che", "unsaved Probe.vnk"}) {
         EXPECT_THAT(gesichert(), testing::Contains(Name));
     }
@@ -179,7 +179,7 @@ TEST_F(LetzterSatz, no_to_the_question_ends_the_program_with_all_unsaved_values_
 
 TEST_F(LetzterSatz, esc_at_the_question_never_ends_the_program) {
     waehle_ins_Leere(Knopf::nicht_jetzt);
-    EXPECT_FALSE(z().beendet);
+    EXPECT_FALSE(z().beendet());
     EXPECT_EQ(z().Abdeckungswort(), "Record \"Second.app\" missing: choose one");
     EXPECT_EQ(s_->zeige<Feldeingabe>().Text(Feld("S_DT50_0")), "12");
     EXPECT_TRUE(z().Saetze[Wirkstoff].Geaendert());
@@ -191,7 +191,7 @@ TEST_F(Fremdes, a_changed_summary_file_is_asked_about_at_exit_and_stays_on_no) {
     schreibe_Datei(Pfad("Probe.vnk"), "theirs\r\nSecond\r\nSecond\r\nSecond\r\n");
     erwarte_Ersatzfrage("Probe.vnk", Knopf::Nein);
     s_->fuehre_aus<&Programmablauf::beende>();
-    EXPECT_TRUE(z().beendet);
+    EXPECT_TRUE(z().beendet());
     EXPECT_EQ(Datei("input/Probe.vnk"), "theirs\r\nSecond\r\nSecond\r\nSecond\r\n");
     EXPECT_EQ(gesichert(), Namen{"unsaved Probe.vnk"});
 }
@@ -212,7 +212,7 @@ TEST_F(Fremdes, exit_stays_where_its_save_was_refused) {
     erwarte_Sicherungsfrage(Knopf::Ja);
     erwarte_Ersatzfrage("Probe.che", Knopf::Nein);
     s_->fuehre_aus<&Programmablauf::beende>();
-    EXPECT_FALSE(z().beendet);
+    EXPECT_FALSE(z().beendet());
     EXPECT_TRUE(z().Saetze[1].Geaendert());
 }
 
@@ -248,7 +248,7 @@ TEST_F(ZweitesFenster, writes_nothing_at_exit_after_a_no) {
     s_->fuehre_aus<&Beschreibungseingabe::aendere>("mine");
     erwarte_Fensterfrage(Knopf::Nein);
     s_->fuehre_aus<&Programmablauf::beende>();
-    EXPECT_TRUE(z().beendet);
+    EXPECT_TRUE(z().beendet());
     EXPECT_EQ(Datei("input/Probe.vnk"), "A trial\r\nProbe\r\nProbe\r\nProbe\r\n");
     EXPECT_EQ(gesichert(), Namen{"unsaved Probe.vnk"});
 }
@@ -259,7 +259,7 @@ TEST_F(ZweitesFenster, asks_once_for_an_exit_that_saves) {
     erwarte_Sicherungsfrage(Knopf::Ja);
     erwarte_Fensterfrage(Knopf::Ja);
     s_->fuehre_aus<&Programmablauf::beende>();
-    EXPECT_TRUE(z().beendet);
+    EXPECT_TRUE(z().beendet());
     EXPECT_NE(Datei("input/Probe.che"), vorher);
 }
 
@@ -268,7 +268,7 @@ TEST_F(ZweitesFenster, stays_open_where_the_save_at_exit_was_refused) {
     erwarte_Sicherungsfrage(Knopf::Ja);
     erwarte_Fensterfrage(Knopf::Nein);
     s_->fuehre_aus<&Programmablauf::beende>();
-    EXPECT_FALSE(z().beendet);
+    EXPECT_FALSE(z().beendet());
     EXPECT_TRUE(z().Saetze[1].Geaendert());
 }
 

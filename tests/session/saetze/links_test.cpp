@@ -82,7 +82,7 @@ TEST_F(Linksprobe, exit_writes_no_summary_file_through_one) {
     const auto vorher = fs::last_write_time(fremd_ / "Probe.vnk");
     gestartet();
     s_->fuehre_aus<&Programmablauf::beende>();
-    EXPECT_TRUE(z().beendet);
+    EXPECT_TRUE(z().beendet());
     EXPECT_EQ(fs::last_write_time(fremd_ / "Probe.vnk"), vorher);
 }
 
@@ -93,7 +93,7 @@ TEST_F(Linksprobe, exit_says_so_where_that_file_differs_and_keeps_the_difference
     s_->fuehre_aus<&Beschreibungseingabe::aendere>("Another");
     Fragen_.erwarte_Anfang("Runtime error", "\"" + (Wurzel_ / "input/Probe.vnk").string() + "\" is a link to another folder");
     s_->fuehre_aus<&Programmablauf::beende>();
-    EXPECT_TRUE(z().beendet);
+    EXPECT_TRUE(z().beendet());
     EXPECT_EQ(lies(fremd_ / "Probe.vnk"), vorher);
     EXPECT_TRUE(fs::exists(Wurzel_ / "backup"));
 }
@@ -133,7 +133,7 @@ TEST_F(Linksprobe, settings_file_is_not_written_through_one) {
     gestartet();
     Fragen_.erwarte_Anfang("Runtime error", "Cannot write the file");
     s_->fuehre_aus<&Programmablauf::beende>();
-    EXPECT_TRUE(z().beendet);
+    EXPECT_TRUE(z().beendet());
     Fremdes_ist_unberuehrt();
 }
 
@@ -148,7 +148,7 @@ TEST_F(Linksprobe, pipes_in_the_project_make_nobody_wait) {
     EXPECT_EQ(z().Listen[Wirkstoff], std::vector<std::string>{"Probe"});
     Fragen_.erwarte_Anfang("Runtime error", "Cannot write the file");
     s_->fuehre_aus<&Programmablauf::beende>();
-    EXPECT_TRUE(z().beendet);
+    EXPECT_TRUE(z().beendet());
 }
 
 }  // namespace

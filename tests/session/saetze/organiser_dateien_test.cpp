@@ -209,7 +209,7 @@ TEST_F(Organiserdateien, after_deleting_the_simulation_and_closing_saving_and_le
     const auto vorher = Dateien();
     s_->fuehre_aus<&Programmablauf::beende>();
     EXPECT_EQ(Dateien(), vorher);
-    EXPECT_TRUE(z().beendet);
+    EXPECT_TRUE(z().beendet());
 }
 
 TEST_F(Organiserdateien, deleting_what_the_main_screen_does_not_show_leaves_its_results) {
@@ -227,7 +227,7 @@ TEST_F(Organiserdateien, deleting_what_the_main_screen_does_not_show_leaves_its_
 TEST_F(Organiserdateien, a_renamed_record_alone_is_written_into_the_summary_and_nothing_is_read) {
     gestartet();
     ASSERT_TRUE(tippe("S_DT50_0", "12"));
-    const int Zeichnung = z().Zeichnung;
+    const int Zeichnung = s_->zeige<Diagrammsteuerung>().Zeichnung();
     oeffne();
     auto erwartet = Dateien();
     EXPECT_TRUE(benenne_um(Wirkstoff, "Better name"));
@@ -241,9 +241,9 @@ TEST_F(Organiserdateien, a_renamed_record_alone_is_written_into_the_summary_and_
     EXPECT_EQ(z().Namen[1], "Better name");
     EXPECT_EQ(s_->zeige<Feldeingabe>().Text(Feld("S_DT50_0")), "12");
     EXPECT_TRUE(z().Saetze[1].Geaendert());
-    EXPECT_EQ(z().Zeichnung, Zeichnung);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Zeichnung);
     EXPECT_TRUE(Gesichertes().empty());
-    EXPECT_FALSE(z().Simulation_markiert);
+    EXPECT_FALSE(z().Simulation_markiert());
     s_->fuehre_aus<&Satzverwaltung::speichere>();  // the file is the one that was read: no question, and nothing to be kept
     EXPECT_NE(Datei("input/Better name.che"), erwartet["Better name.che"]);
     EXPECT_TRUE(Gesichertes().empty());
@@ -282,7 +282,7 @@ TEST_F(Organiserdateien, after_a_rename_and_closing_the_main_screen_has_the_new_
     EXPECT_EQ(z().gewaehlt(Simulation), "Zebra");
     EXPECT_EQ(Datei("input/Zebra.vnk"), Zusammenfassung);
     EXPECT_TRUE(z().Saetze[0].Geaendert());
-    EXPECT_TRUE(z().Simulation_markiert);
+    EXPECT_TRUE(z().Simulation_markiert());
     EXPECT_FALSE(z().abgedeckt());
 }
 
@@ -290,7 +290,7 @@ TEST_F(Organiserdateien, the_status_line_names_the_simulations_that_a_rename_lea
     oeffne();
     waehle(Wirkstoff, "Second");
     EXPECT_TRUE(benenne_um(Wirkstoff, "Third"));
-    EXPECT_EQ(z().Statuszeile, "Simulations that still name \"Second\": \"Second\", \"Torn\"");
+    EXPECT_EQ(z().Statuszeile.Text(), "Simulations that still name \"Second\": \"Second\", \"Torn\"");
 }
 
 TEST_F(Organiserdateien, a_typed_extension_is_not_doubled_and_an_unchanged_name_changes_nothing) {

@@ -66,12 +66,12 @@ TEST_F(Organiserszenario, a_name_picked_in_the_editor_is_followed_and_saved_and_
     oeffne();
     bearbeite([](Sitzung& s) { s.fuehre_aus<&Szenarioeditor::waehle_Szenario>(1); });
     EXPECT_EQ(gewaehlt(Szenario), "Second");
-    const int Zeichnung = z().Zeichnung;
+    const int Zeichnung = s_->zeige<Diagrammsteuerung>().Zeichnung();
     EXPECT_TRUE(fertig());
     EXPECT_EQ(Datei("input/Probe.vnk"), Zeilen("A trial", "Probe", "Probe", "Second"));
     EXPECT_EQ(z().Parameter().Bodendichte, 1.5);
-    EXPECT_EQ(z().Zeichnung, Zeichnung);
-    EXPECT_FALSE(z().Simulation_markiert);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Zeichnung);
+    EXPECT_FALSE(z().Simulation_markiert());
 }
 
 TEST_F(Organiserszenario, the_editor_does_not_take_back_what_was_picked_before_it) {

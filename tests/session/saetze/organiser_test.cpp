@@ -45,7 +45,7 @@ TEST_F(Organisertest, a_description_that_is_not_saved_survives_the_opening_and_i
 TEST_F(Organisertest, a_description_in_work_is_closed_by_the_opening) {
     gestartet().fuehre_aus<&Beschreibungseingabe::oeffne>();
     oeffne();
-    EXPECT_FALSE(z().Beschreibung_offen);
+    EXPECT_FALSE(s_->zeige<Beschreibungseingabe>().offen());
 }
 
 TEST_F(Organisertest, without_a_simulation_on_the_main_screen_the_last_entry_is_shown_with_its_own_description) {
@@ -83,11 +83,11 @@ TEST_F(Organisertest, done_without_any_selection_writes_nothing_and_runs_nothing
     oeffne();
     const auto vorher = Dateien();
     const auto Zeit = Stempel("Probe.vnk");
-    const int Zeichnung = z().Zeichnung;
+    const int Zeichnung = s_->zeige<Diagrammsteuerung>().Zeichnung();
     EXPECT_TRUE(fertig());
     EXPECT_EQ(Dateien(), vorher);
     EXPECT_EQ(Stempel("Probe.vnk"), Zeit);
-    EXPECT_EQ(z().Zeichnung, Zeichnung);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Zeichnung);
     EXPECT_TRUE(Gesichertes().empty());
     EXPECT_FALSE(z().abgedeckt());
 }
@@ -114,7 +114,7 @@ TEST_F(Organisertest, choosing_a_simulation_shows_its_text_and_names_and_reads_n
 
 TEST_F(Organisertest, done_reads_the_three_records_of_another_simulation_and_makes_one_run) {
     oeffne();
-    const int Zeichnung = z().Zeichnung;
+    const int Zeichnung = s_->zeige<Diagrammsteuerung>().Zeichnung();
     waehle(Simulation, "Second");
     EXPECT_TRUE(fertig());
     EXPECT_EQ(Maske().Name_Wirkstoff, "Other parent");
@@ -122,7 +122,7 @@ TEST_F(Organisertest, done_reads_the_three_records_of_another_simulation_and_mak
     EXPECT_EQ(z().Parameter().Bodendichte, 3);
     EXPECT_EQ(z().gewaehlt(Simulation), "Second");
     EXPECT_EQ(Maske().Beschreibung, "The second one");
-    EXPECT_EQ(z().Zeichnung, Zeichnung + 1);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Zeichnung + 1);
     EXPECT_FALSE(z().abgedeckt());
     EXPECT_FALSE(z().Saetze[0].Geaendert());
     EXPECT_EQ(Datei("input/Second.vnk"), Zeilen("The second one", "Second", "Second", "Second"));
@@ -136,7 +136,7 @@ TEST_F(Organisertest, another_record_is_saved_in_the_summary_file_and_loaded) {
     EXPECT_TRUE(fertig());
     EXPECT_EQ(Datei("input/Probe.vnk"), Zeilen("A trial", "Probe", "Probe", "Second"));
     EXPECT_FLOAT_EQ(Maximum(), 0.6666667F);  // 1000 g/ha in 5 cm at a density of 3
-    EXPECT_FALSE(z().Simulation_markiert);
+    EXPECT_FALSE(z().Simulation_markiert());
 }
 
 TEST_F(Organisertest, each_missing_record_holds_the_dialog_with_its_own_message_whatever_the_answer) {
@@ -200,7 +200,7 @@ TEST_F(Organisertest, opening_and_done_leave_another_combination_on_the_screen_a
     EXPECT_EQ(gewaehlt(Szenario), "Second");
     EXPECT_TRUE(fertig());
     EXPECT_EQ(z().Parameter().Bodendichte, 3);
-    EXPECT_TRUE(z().Simulation_markiert);
+    EXPECT_TRUE(z().Simulation_markiert());
     EXPECT_EQ(Dateien(), vorher);
 }
 
@@ -236,7 +236,7 @@ TEST_F(Organisertest, values_that_done_reads_over_are_in_the_backup_and_nothing_
     Satz_lesen_aus(Gerettet.at("unsaved Probe.che"), "", Wirkstoff, e, a);
     EXPECT_NEAR(e.Parameter.k_SFO[0][0], 0.0577622650, 1e-9);  // ln 2 / 12
     EXPECT_EQ(Gerettet.at("unsaved Probe.vnk"), Zeilen("not saved yet", "Probe", "Probe", "Probe"));
-    EXPECT_NE(z().Statuszeile.find("backup/"), std::string::npos);
+    EXPECT_NE(z().Statuszeile.Text().find("backup/"), std::string::npos);
 }
 
 TEST_F(Organisertest, choosing_the_same_entry_again_reads_its_record_again) {
@@ -253,7 +253,7 @@ TEST_F(Organisertest, choosing_the_same_entry_again_reads_its_record_again) {
 TEST_F(Organisertest, a_changed_description_alone_is_written_and_shown_and_nothing_is_read) {
     gestartet();
     ASSERT_TRUE(tippe("S_DT50_0", "12"));
-    const int Zeichnung = z().Zeichnung;
+    const int Zeichnung = s_->zeige<Diagrammsteuerung>().Zeichnung();
     oeffne();
     beschreibe("In other words");
     EXPECT_TRUE(fertig());
@@ -261,7 +261,7 @@ TEST_F(Organisertest, a_changed_description_alone_is_written_and_shown_and_nothi
     EXPECT_EQ(Maske().Beschreibung, "In other words");
     EXPECT_EQ(s_->zeige<Feldeingabe>().Text(Feld("S_DT50_0")), "12");
     EXPECT_TRUE(z().Saetze[1].Geaendert());
-    EXPECT_EQ(z().Zeichnung, Zeichnung + 1);  // the picture carries the description
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Zeichnung + 1);  // the picture carries the description
     EXPECT_EQ(s_->zeige<Diagrammsteuerung>().vorderes()->Titel.Text.find("A trial"), std::string::npos);
     EXPECT_TRUE(Gesichertes().empty());
 }
@@ -269,11 +269,11 @@ TEST_F(Organisertest, a_changed_description_alone_is_written_and_shown_and_nothi
 TEST_F(Organisertest, a_changed_description_clears_the_name_of_the_report) {
     gestartet().fuehre_aus<&Berichtssteuerung::erstelle>();
     s_->fuehre_aus<&Berichtssteuerung::schliesse>();
-    ASSERT_FALSE(z().Ergebnisdatei.empty());
+    ASSERT_FALSE(s_->zeige<Berichtssteuerung>().Ergebnisdatei().empty());
     oeffne();
     beschreibe("In other words");
     EXPECT_TRUE(fertig());
-    EXPECT_TRUE(z().Ergebnisdatei.empty());
+    EXPECT_TRUE(s_->zeige<Berichtssteuerung>().Ergebnisdatei().empty());
 }
 
 TEST_F(Organisertest, a_line_break_in_the_description_becomes_a_blank) {
@@ -306,9 +306,9 @@ TEST_F(Organisertest, before_the_start_the_records_are_read_and_nothing_is_run) 
     waehle(Simulation, "Second");
     EXPECT_TRUE(fertig());
     EXPECT_EQ(Maske().Name_Wirkstoff, "Other parent");
-    EXPECT_EQ(z().Zeichnung, 0);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), 0);
     s_->fuehre_aus<&Programmablauf::starte>();
-    EXPECT_EQ(z().Zeichnung, 1);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), 1);
     EXPECT_FALSE(z().abgedeckt());
 }
 
@@ -317,7 +317,7 @@ TEST_F(Organisertest, done_shows_in_the_summary_view_the_studies_of_the_new_inpu
     oeffne();
     waehle(Szenario, "Second");
     EXPECT_TRUE(fertig());
-    EXPECT_TRUE(z().Zusammenfassung_aktiv);
+    EXPECT_TRUE(z().Zusammenfassung_aktiv());
     EXPECT_FLOAT_EQ(Maximum(0), 0.6666667F);
     EXPECT_FLOAT_EQ(Maximum(1), 0.6666667F);
 }
@@ -329,7 +329,7 @@ TEST_F(Organisertest, closing_hands_nothing_over_and_writes_nothing) {
     s_->fuehre_aus<&Beschreibungseingabe::aendere>("not saved yet");
     ASSERT_TRUE(tippe("S_DT50_0", "12"));
     const auto vorher = Dateien();
-    const int Zeichnung = z().Zeichnung;
+    const int Zeichnung = s_->zeige<Diagrammsteuerung>().Zeichnung();
     oeffne();
     waehle(Simulation, "Second");
     waehle(Wirkstoff, "Probe");
@@ -339,7 +339,7 @@ TEST_F(Organisertest, closing_hands_nothing_over_and_writes_nothing) {
     EXPECT_EQ(Maske().Beschreibung, "not saved yet");
     EXPECT_EQ(z().gewaehlt(Simulation), "Probe");
     EXPECT_EQ(s_->zeige<Feldeingabe>().Text(Feld("S_DT50_0")), "12");
-    EXPECT_EQ(z().Zeichnung, Zeichnung);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Zeichnung);
     EXPECT_FALSE(z().abgedeckt());
     EXPECT_TRUE(Gesichertes().empty());
 }
@@ -351,10 +351,10 @@ TEST_F(Organisertest, what_was_picked_before_closing_does_not_come_up_at_the_nex
     oeffne();
     EXPECT_EQ(gewaehlt(Simulation), "Probe");
     const auto vorher = Dateien();
-    const int Zeichnung = z().Zeichnung;
+    const int Zeichnung = s_->zeige<Diagrammsteuerung>().Zeichnung();
     EXPECT_TRUE(fertig());
     EXPECT_EQ(Dateien(), vorher);
-    EXPECT_EQ(z().Zeichnung, Zeichnung);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Zeichnung);
 }
 
 }  // namespace

@@ -38,14 +38,14 @@ protected:
 
 TEST_F(Satzprobe, a_simulation_brings_its_description_its_records_and_one_run) {
     gestartet();
-    const int Laeufe = s_->Stand().Zeichnung;
+    const int Laeufe = s_->zeige<Diagrammsteuerung>().Zeichnung();
     s_->fuehre_aus<&Satzverwaltung::waehle_Simulation>(Platz(0, "Second"));
     EXPECT_EQ(s_->Stand().Felder().Beschreibung, "Second");
     EXPECT_EQ(s_->Stand().Felder().Name_Wirkstoff, "Other parent");
     EXPECT_EQ(s_->Stand().Parameter().Bodendichte, 3);
-    EXPECT_EQ(s_->Stand().Zeichnung, Laeufe + 1);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe + 1);
     EXPECT_FALSE(s_->Stand().Saetze[0].Geaendert());
-    EXPECT_FALSE(s_->Stand().Simulation_markiert);
+    EXPECT_FALSE(s_->Stand().Simulation_markiert());
 }
 
 TEST_F(Satzprobe, a_simulation_with_a_missing_record_stays_covered_until_one_is_picked) {
@@ -102,7 +102,7 @@ TEST_F(Satzprobe, another_record_marks_the_simulation_and_runs) {
     gestartet();
     s_->fuehre_aus<&Satzverwaltung::waehle_Satz>(Szenario, Platz(3, "Second"));
     EXPECT_TRUE(s_->Stand().Saetze[0].Geaendert());
-    EXPECT_TRUE(s_->Stand().Simulation_markiert);
+    EXPECT_TRUE(s_->Stand().Simulation_markiert());
     EXPECT_FLOAT_EQ(Maximum(), 0.6666667F);  // twice the density
 }
 
@@ -159,7 +159,7 @@ TEST_F(Satzprobe, esc_brings_the_old_description_back_and_locks_it) {
     s_->fuehre_aus<&Beschreibungseingabe::aendere>("typed by mistake");
     s_->fuehre_aus<&Beschreibungseingabe::nimm_zurueck>();
     EXPECT_EQ(s_->Stand().Felder().Beschreibung, "A trial");
-    EXPECT_FALSE(s_->Stand().Beschreibung_offen);
+    EXPECT_FALSE(s_->zeige<Beschreibungseingabe>().offen());
 }
 
 TEST_F(Satzprobe, a_character_without_a_place_in_the_file_is_told_on_saving_and_the_old_file_stays) {

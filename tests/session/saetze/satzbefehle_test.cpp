@@ -12,14 +12,14 @@ namespace {
 
 TEST_F(Befehlsprobe, a_new_record_takes_the_values_of_its_template_the_first_number_and_one_run) {
     gestartet();
-    const int Laeufe = z().Zeichnung;
+    const int Laeufe = s_->zeige<Diagrammsteuerung>().Zeichnung();
     s_->fuehre_aus<&Satzverwaltung::lege_an>(Szenario);
     EXPECT_EQ(z().gewaehlt(Szenario), "new scenario1");
     EXPECT_EQ(Datei(in("new scenario1", Szenario)), Datei(in("Second", Szenario)));
     EXPECT_EQ(z().Parameter().Bodendichte, 3);
     EXPECT_TRUE(z().Saetze[0].Geaendert());
-    EXPECT_TRUE(z().Simulation_markiert);
-    EXPECT_EQ(z().Zeichnung, Laeufe + 1);
+    EXPECT_TRUE(z().Simulation_markiert());
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe + 1);
     EXPECT_FALSE(z().abgedeckt());
     erwarte_Gleichstand(Szenario);
 }
@@ -60,21 +60,21 @@ TEST_F(Befehlsprobe, unsaved_values_are_in_backup_before_a_new_record_replaces_t
     s_->fuehre_aus<&Satzverwaltung::lege_an>(Wirkstoff);
     EXPECT_EQ(gesichert(), Namen{"unsaved Probe.che"});
     EXPECT_FALSE(z().Saetze[1].Geaendert());
-    EXPECT_NE(z().Statuszeile.find("backup/"), std::string::npos);
+    EXPECT_NE(z().Statuszeile.Text().find("backup/"), std::string::npos);
 }
 
 TEST_F(Befehlsprobe, a_copy_has_the_file_of_the_old_name_and_the_values_of_the_screen_stay) {
     gestartet();
     tippe("S_DT50_0", "12");
-    const int Laeufe = z().Zeichnung;
+    const int Laeufe = s_->zeige<Diagrammsteuerung>().Zeichnung();
     s_->fuehre_aus<&Satzverwaltung::kopiere>(Wirkstoff);
     EXPECT_EQ(Datei("input/copy of Probe.che"), Datei("input/Probe.che"));
     EXPECT_EQ(z().gewaehlt(Wirkstoff), "copy of Probe");
     EXPECT_EQ(s_->zeige<Feldeingabe>().Text(Feld("S_DT50_0")), "12");
     EXPECT_TRUE(z().Saetze[1].Geaendert());
     EXPECT_TRUE(z().Saetze[0].Geaendert());
-    EXPECT_TRUE(z().Simulation_markiert);
-    EXPECT_EQ(z().Zeichnung, Laeufe);
+    EXPECT_TRUE(z().Simulation_markiert());
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe);
     EXPECT_FALSE(z().abgedeckt());
     erwarte_Gleichstand(Wirkstoff);
 }
@@ -177,7 +177,7 @@ TEST_F(Befehlsprobe, after_deleting_a_simulation_exit_only_renews_the_stamp_of_i
     s_->fuehre_aus<&Satzverwaltung::loesche>(Simulation);
     EXPECT_TRUE(z().abgedeckt());
     s_->fuehre_aus<&Programmablauf::beende>();
-    EXPECT_TRUE(z().beendet);
+    EXPECT_TRUE(z().beendet());
     EXPECT_EQ(Datei("input/Second.vnk"), Nachbar);
     const auto Alter =
         std::filesystem::file_time_type::clock::now() - std::filesystem::last_write_time(Wurzel_ / "input/Second.vnk");
@@ -204,7 +204,7 @@ TEST_F(Befehlsprobe, a_record_gets_another_name_and_nothing_is_read) {
     EXPECT_EQ(s_->zeige<Feldeingabe>().Text(Feld("S_DT50_0")), "12");
     EXPECT_TRUE(z().Saetze[1].Geaendert());
     EXPECT_TRUE(z().Saetze[0].Geaendert());
-    EXPECT_TRUE(z().Simulation_markiert);
+    EXPECT_TRUE(z().Simulation_markiert());
     EXPECT_FALSE(z().abgedeckt());
     erwarte_Gleichstand(Wirkstoff);
 }
@@ -268,7 +268,7 @@ TEST_F(Befehlsprobe, a_rename_names_the_simulations_that_lose_their_record) {
     std::filesystem::last_write_time(Wurzel_ / "input/Third.vnk", std::filesystem::last_write_time(Wurzel_ / "input/Second.vnk"));
     gestartet();
     s_->fuehre_aus<&Satzverwaltung::benenne_um>(Wirkstoff, "Renamed", true);
-    EXPECT_EQ(z().Statuszeile, "Simulations that still name \"Probe\": \"Third\"");
+    EXPECT_EQ(z().Statuszeile.Text(), "Simulations that still name \"Probe\": \"Third\"");
 }
 
 struct Unname {

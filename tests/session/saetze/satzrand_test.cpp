@@ -21,7 +21,7 @@ protected:
         const auto frueher = std::filesystem::last_write_time(Wurzel_ / "input/Second.vnk");
         std::filesystem::last_write_time(Wurzel_ / "input" / (Name + ".vnk"), frueher);
     }
-    bool Status_nennt(const std::string& Text) const { return z().Statuszeile.find(Text) != std::string::npos; }
+    bool Status_nennt(const std::string& Text) const { return z().Statuszeile.Text().find(Text) != std::string::npos; }
 };
 
 struct Befehl {
@@ -195,7 +195,7 @@ TEST_F(Satzrand, deletion_keeps_the_file_and_the_unsaved_values_in_one_backup) {
     EXPECT_FALSE(z().Saetze[1].Geaendert());
     const auto Ort = std::filesystem::directory_iterator(Wurzel_ / "backup")->path();
     EXPECT_EQ(lies_Datei((Ort / "Probe.che").string()), alt);
-    EXPECT_EQ(z().Statuszeile,
+    EXPECT_EQ(z().Statuszeile.Text(),
               "What was there before is kept in backup/" + Ort.filename().string() + ": \"Probe.che\", \"unsaved Probe.che\"");
 }
 
@@ -207,7 +207,7 @@ TEST_F(Satzrand, what_is_typed_after_a_deletion_is_in_backup_before_the_neighbou
     s_->fuehre_aus<&Satzverwaltung::aktualisiere>();
     EXPECT_EQ(gesichert(), (Namen{"Probe.che", "unsaved Probe.che"}));
     EXPECT_EQ(z().Felder().Name_Wirkstoff, "Parent P");
-    EXPECT_TRUE(z().Simulation_markiert);
+    EXPECT_TRUE(z().Simulation_markiert());
     EXPECT_FALSE(z().abgedeckt());
 }
 
@@ -230,7 +230,7 @@ TEST_F(Satzrand, exit_after_a_deletion_asks_nothing_and_leaves_the_neighbour_alo
     s_->fuehre_aus<&Satzverwaltung::loesche>(Wirkstoff);
     s_->fuehre_aus<&Listenwahl::aendere_Namen>(0, "Typed later");
     s_->fuehre_aus<&Programmablauf::beende>();
-    EXPECT_TRUE(z().beendet);
+    EXPECT_TRUE(z().beendet());
     EXPECT_EQ(Datei("input/Second.che"), Nachbar);
     EXPECT_EQ(gesichert(), (Namen{"Probe.che", "unsaved Probe.che"}));
     EXPECT_EQ(Datei("input/Probe.vnk"), "A trial\r\nSecond\r\nProbe\r\nProbe\r\n");
@@ -249,13 +249,13 @@ TEST_F(Satzrand, a_yes_that_cannot_save_puts_selection_and_mark_back) {
     schreibe_Simulation_ohne_Satz("Torn");
     gestartet().fuehre_aus<&Satzverwaltung::waehle_Simulation>(2);
     s_->fuehre_aus<&Listenwahl::aendere_Namen>(0, "Typed");
-    const bool Marke = z().Simulation_markiert;
+    const bool Marke = z().Simulation_markiert();
     const std::string vorher = Datei("input/Probe.che");
     erwarte_Sicherungsfrage(Knopf::Ja);
     Fragen_.erwarte("Record not set", "Application record not set. Please select!");
     waehle(Wirkstoff, "Probe");
     EXPECT_EQ(z().gewaehlt(Wirkstoff), "Second");
-    EXPECT_EQ(z().Simulation_markiert, Marke);
+    EXPECT_EQ(z().Simulation_markiert(), Marke);
     EXPECT_TRUE(z().Saetze[1].Geaendert());
     EXPECT_EQ(Datei("input/Probe.che"), vorher);
 }
@@ -276,7 +276,7 @@ TEST_F(Satzrand, exit_that_is_refused_keeps_the_marks_of_what_was_not_saved) {
     erwarte_Sicherungsfrage(Knopf::Nein);
     Fragen_.erwarte("Record not set", "Application record not set. Please select!");
     s_->fuehre_aus<&Programmablauf::beende>();
-    EXPECT_FALSE(z().beendet);
+    EXPECT_FALSE(z().beendet());
     EXPECT_TRUE(z().Saetze[1].Geaendert());
 }
 
@@ -291,7 +291,7 @@ TEST_F(Satzrand, yes_at_exit_and_at_the_close_box_with_an_empty_selector_writes_
     }
     s_->fuehre_aus<&Programmablauf::beende>();
     EXPECT_FALSE(s_->fuehre_aus<&Programmablauf::schliesse_Fenster>());
-    EXPECT_FALSE(z().beendet);
+    EXPECT_FALSE(z().beendet());
     EXPECT_EQ(Datei("input/Second.che"), vorher);
     EXPECT_FALSE(gibt_es("input/.app"));
 }

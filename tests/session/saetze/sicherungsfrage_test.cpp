@@ -95,7 +95,7 @@ TEST_F(Sicherungsfrage, value_that_no_record_can_hold_blocks_no_program_defaults
     erwarte_Frage("unsaved Probe.vnk: ", Knopf::Ja);
     Fragen_.erwarte_Anfang("Default settings", "The default parameters");
     s_->fuehre_aus<&Satzverwaltung::lade_Voreinstellungen>();
-    EXPECT_TRUE(z().beendet);
+    EXPECT_TRUE(z().beendet());
 }
 
 TEST_F(Sicherungsfrage, a_record_that_cannot_be_read_can_be_deleted) {
@@ -138,7 +138,7 @@ TEST_F(Versagende_Platte, record_whose_flush_fails_is_not_called_saved) {
     EXPECT_EQ(Datei("input/Probe.che"), vorher);
     EXPECT_TRUE(z().Saetze[Wirkstoff].Geaendert());
     EXPECT_TRUE(z().verschieden(Wirkstoff));
-    EXPECT_EQ(z().Statuszeile.find("saved"), std::string::npos) << z().Statuszeile;
+    EXPECT_EQ(z().Statuszeile.Text().find("saved"), std::string::npos) << z().Statuszeile.Text();
 }
 
 TEST_F(Versagende_Platte, full_disk_keeps_nobody_from_going_on_and_leaving) {
@@ -158,12 +158,12 @@ TEST_F(Versagende_Platte, full_disk_keeps_nobody_from_going_on_and_leaving) {
     Fragen_.erwarte_Anfang("Save changes?", "You modified", Knopf::Ja);
     Fragen_.erwarte_Anfang("Runtime error", "Cannot write the file");
     s_->fuehre_aus<&Programmablauf::beende>();
-    EXPECT_FALSE(z().beendet) << "a Yes that could not be done keeps the program";
+    EXPECT_FALSE(z().beendet()) << "a Yes that could not be done keeps the program";
     Fragen_.erwarte_Anfang("Save changes?", "You modified", Knopf::Nein);
     erwarte_Frage("Cannot write the file", Knopf::Ja);
     Fragen_.erwarte_Anfang("Runtime error", "Cannot write the file");
     s_->fuehre_aus<&Programmablauf::beende>();
-    EXPECT_TRUE(z().beendet);
+    EXPECT_TRUE(z().beendet());
     EXPECT_FALSE(gibt_es("backup"));
 }
 

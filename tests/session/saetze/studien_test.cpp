@@ -55,13 +55,13 @@ TEST_F(Studienprobe, the_box_of_a_new_study_proposes_the_next_number_and_nothing
 
 TEST_F(Studienprobe, a_new_study_is_selected_run_once_and_marks_the_compound) {
     gestartet();
-    const int Laeufe = s_->Stand().Zeichnung;
+    const int Laeufe = s_->zeige<Diagrammsteuerung>().Zeichnung();
     addiere("Field 7");
     EXPECT_EQ(Studien(), (std::vector<std::string>{"First soil", "Second soil", "Field 7"}));
     EXPECT_EQ(s_->Stand().i_studie(), 2);
     EXPECT_EQ(s_->Stand().Studienzahl(), 3);
     EXPECT_TRUE(s_->Stand().Saetze[1].Geaendert());
-    EXPECT_EQ(s_->Stand().Zeichnung, Laeufe + 1);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe + 1);
     EXPECT_FALSE(s_->Stand().abgedeckt());
     EXPECT_FALSE(s_->zeige<Studienverwaltung>().Name_offen());
 }
@@ -192,17 +192,17 @@ TEST_F(Studienprobe, deleting_marks_the_application_pattern_and_says_what_to_che
     loesche();
     EXPECT_TRUE(s_->Stand().Saetze[2].Geaendert());
     EXPECT_FALSE(s_->Stand().Saetze[1].Geaendert());
-    EXPECT_EQ(s_->Stand().Statuszeile,
+    EXPECT_EQ(s_->Stand().Statuszeile.Text(),
               "Koc, Q10, Walker, To and kinetics of the following studies stay with their place. Please check.");
 }
 
 TEST_F(Studienprobe, after_deleting_the_study_that_moved_up_is_shown_and_run) {
     drei_Studien();
     s_->fuehre_aus<&Listenwahl::waehle_Studie>(1);
-    const int Laeufe = s_->Stand().Zeichnung;
+    const int Laeufe = s_->zeige<Diagrammsteuerung>().Zeichnung();
     loesche();
     EXPECT_EQ(s_->Stand().i_studie(), 1);
-    EXPECT_EQ(s_->Stand().Zeichnung, Laeufe + 1);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe + 1);
     EXPECT_EQ(s_->zeige<Feldeingabe>().Text(Feld("S_KOC_0")), "200");  // of the place, not of the study
     EXPECT_FALSE(s_->Stand().abgedeckt());
 }
@@ -216,9 +216,9 @@ TEST_F(Studienprobe, deleting_the_last_entry_selects_the_new_last_one) {
 
 TEST_F(Studienprobe, with_one_study_left_there_is_nothing_to_delete_and_no_summary) {
     gestartet().fuehre_aus<&Listenwahl::zeige_Zusammenfassung>();
-    EXPECT_TRUE(s_->Stand().Zusammenfassung_aktiv);
+    EXPECT_TRUE(s_->Stand().Zusammenfassung_aktiv());
     loesche();
-    EXPECT_FALSE(s_->Stand().Zusammenfassung_aktiv);
+    EXPECT_FALSE(s_->Stand().Zusammenfassung_aktiv());
     EXPECT_FALSE(s_->zeige<Studienverwaltung>().darf_loeschen());
     EXPECT_FALSE(s_->zeige<Listenwahl>().darf_Zusammenfassung());
     s_->fuehre_aus<&Studienverwaltung::loesche>();

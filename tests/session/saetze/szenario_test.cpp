@@ -96,19 +96,19 @@ TEST_F(Szenarioprobe, a_depth_and_a_temperature_outside_the_lists_are_entries_of
 
 TEST_F(Szenarioprobe, done_without_a_change_stores_nothing_and_runs_nothing) {
     gestartet();
-    const int Laeufe = s_->Stand().Zeichnung;
+    const int Laeufe = s_->zeige<Diagrammsteuerung>().Zeichnung();
     const Laufparameter vorher = p();
     offen();
     fertig();
     EXPECT_EQ(p(), vorher);
-    EXPECT_EQ(s_->Stand().Zeichnung, Laeufe);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe);
     EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert());
     EXPECT_FALSE(s_->Stand().Saetze[0].Geaendert());
 }
 
 TEST_F(Szenarioprobe, changed_values_are_stored_mark_the_scenario_and_lead_to_one_run) {
     gestartet();
-    const int Laeufe = s_->Stand().Zeichnung;
+    const int Laeufe = s_->zeige<Diagrammsteuerung>().Zeichnung();
     Sitzung& s = offen();
     s.fuehre_aus<&Szenarioeditor::aendere>(E::Bodendichte, "1,25");
     s.fuehre_aus<&Szenarioeditor::aendere>(E::Kohlenstoffgehalt, "2");
@@ -123,7 +123,7 @@ TEST_F(Szenarioprobe, changed_values_are_stored_mark_the_scenario_and_lead_to_on
     EXPECT_EQ(p().Bodentiefe, 2.5);
     EXPECT_TRUE(s_->Stand().Saetze[3].Geaendert());
     EXPECT_FALSE(s_->Stand().Saetze[0].Geaendert());
-    EXPECT_EQ(s_->Stand().Zeichnung, Laeufe + 1);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe + 1);
     EXPECT_FALSE(s_->Stand().abgedeckt());
 }
 
@@ -240,12 +240,12 @@ TEST_F(Szenarioprobe, a_tillage_depth_too_small_in_the_record_is_corrected_by_do
     Parameter_.Plateautiefe = 2.5;
     schreibe_Probe();
     gestartet();
-    const int Laeufe = s_->Stand().Zeichnung;
+    const int Laeufe = s_->zeige<Diagrammsteuerung>().Zeichnung();
     offen();
     fertig();
     EXPECT_EQ(p().Plateautiefe, 5);
     EXPECT_TRUE(s_->Stand().Saetze[3].Geaendert());
-    EXPECT_EQ(s_->Stand().Zeichnung, Laeufe + 1);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe + 1);
 }
 
 TEST_F(Szenarioprobe, both_depths_made_smaller_are_no_problem) {
@@ -280,13 +280,13 @@ TEST_F(Szenarioprobe, the_message_about_the_tillage_depth_carries_the_informatio
 // "1.50" is the same number, "1.5" with a unit behind it too.
 TEST_F(Szenarioprobe, another_text_for_the_same_number_changes_nothing) {
     gestartet();
-    const int Laeufe = s_->Stand().Zeichnung;
+    const int Laeufe = s_->zeige<Diagrammsteuerung>().Zeichnung();
     Sitzung& s = offen();
     s.fuehre_aus<&Szenarioeditor::aendere>(E::Bodendichte, "1,50");
     s.fuehre_aus<&Szenarioeditor::aendere>(E::Feldkapazitaet, "30 Vol%");
     fertig();
     EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert());
-    EXPECT_EQ(s_->Stand().Zeichnung, Laeufe);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe);
 }
 
 // 15 digits do not tell the whole of this density.
@@ -343,15 +343,15 @@ TEST_F(Szenarioprobe, a_changed_value_runs_every_study_of_the_summary) {
 // "Done" stores, but what is calculated waits until the dialog has gone.
 TEST_F(Szenarioprobe, the_run_comes_after_the_dialog_has_closed) {
     gestartet();
-    const int Laeufe = s_->Stand().Zeichnung;
+    const int Laeufe = s_->zeige<Diagrammsteuerung>().Zeichnung();
     offen().fuehre_aus<&Szenarioeditor::aendere>(E::Bodendichte, "2");
     s_->fuehre_aus<&Szenarioeditor::uebernimm>();
     EXPECT_EQ(p().Bodendichte, 2);
-    EXPECT_EQ(s_->Stand().Zeichnung, Laeufe);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe);
     s_->fuehre_aus<&Szenarioeditor::schliesse>();
-    EXPECT_EQ(s_->Stand().Zeichnung, Laeufe + 1);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe + 1);
     s_->fuehre_aus<&Szenarioeditor::schliesse>();
-    EXPECT_EQ(s_->Stand().Zeichnung, Laeufe + 1);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe + 1);
 }
 
 TEST_F(Szenarioprobe, the_dialog_writes_no_file) {

@@ -7,14 +7,14 @@ namespace {
 
 TEST_F(Szenarioprobe, another_temperature_alone_starts_no_run_and_shows_the_hint) {
     gestartet();
-    const int Laeufe = s_->Stand().Zeichnung;
+    const int Laeufe = s_->zeige<Diagrammsteuerung>().Zeichnung();
     offen().fuehre_aus<&Szenarioeditor::waehle_Temperatur>(10);
     fertig();
     EXPECT_EQ(p().Szenariotemperatur, 10);
     EXPECT_EQ(Klimatext(s_->Stand().Felder()),
               "10 \xC2\xB0"
               "C constant");
-    EXPECT_EQ(s_->Stand().Zeichnung, Laeufe);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe);
     EXPECT_TRUE(s_->Stand().Hinweis());
     EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert());
 }
@@ -23,7 +23,7 @@ TEST_F(Szenarioprobe, a_chosen_climate_file_marks_the_scenario_and_runs) {
     klimadatei("Site A");
     klimadatei("Site B");
     gestartet();
-    const int Laeufe = s_->Stand().Zeichnung;
+    const int Laeufe = s_->zeige<Diagrammsteuerung>().Zeichnung();
     Sitzung& s = offen();
     EXPECT_EQ(Entwurf().Klima, 1);  // none is equal: the search ends at the last entry
     s.fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(1);
@@ -32,7 +32,7 @@ TEST_F(Szenarioprobe, a_chosen_climate_file_marks_the_scenario_and_runs) {
     EXPECT_EQ(p().Klimamodus, 1);
     EXPECT_EQ(s_->Stand().Felder().Klimaszenario, "Site A");
     EXPECT_TRUE(s_->Stand().Saetze[3].Geaendert());
-    EXPECT_EQ(s_->Stand().Zeichnung, Laeufe + 1);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe + 1);
 }
 
 TEST_F(Szenarioprobe, a_preselected_climate_file_is_stored_with_the_variable_mode_only_and_marks_nothing) {
@@ -65,33 +65,33 @@ TEST_F(Szenarioprobe, a_missing_climate_file_asks_for_the_editor_once_and_done_r
     klimadatei("Site A");
     Fragen_.erwarte_Anfang("Data file missing", "");
     gestartet();
-    EXPECT_TRUE(s_->Stand().Szenarioeditor_faellig);
+    EXPECT_TRUE(s_->zeige<Laufsteuerung>().Klimadatei_fehlt());
     EXPECT_TRUE(s_->Stand().abgedeckt());
-    const int Laeufe = s_->Stand().Zeichnung;
+    const int Laeufe = s_->zeige<Diagrammsteuerung>().Zeichnung();
     offen();
-    EXPECT_FALSE(s_->Stand().Szenarioeditor_faellig);
+    EXPECT_FALSE(s_->zeige<Laufsteuerung>().Klimadatei_fehlt());
     abgebrochen();
     EXPECT_TRUE(s_->Stand().abgedeckt());
     offen().fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(0);
     fertig();
-    EXPECT_EQ(s_->Stand().Zeichnung, Laeufe + 1);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe + 1);
     EXPECT_FALSE(s_->Stand().abgedeckt());
 }
 
 TEST_F(Szenarioprobe, mode_and_temperature_together_still_start_no_run) {
     klimadatei("Site A");
     gestartet();
-    const int Laeufe = s_->Stand().Zeichnung;
+    const int Laeufe = s_->zeige<Diagrammsteuerung>().Zeichnung();
     Sitzung& s = offen();
     s.fuehre_aus<&Szenarioeditor::waehle_Temperatur>(7);
     s.fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(1);
     fertig();
-    EXPECT_EQ(s_->Stand().Zeichnung, Laeufe);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe);
     EXPECT_TRUE(s_->Stand().Hinweis());
     EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert());
     EXPECT_FALSE(s_->Stand().abgedeckt());
     s_->fuehre_aus<&Satzverwaltung::aktualisiere>();
-    EXPECT_EQ(s_->Stand().Zeichnung, Laeufe + 1);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe + 1);
     EXPECT_FALSE(s_->Stand().Hinweis());
 }
 
@@ -134,21 +134,21 @@ TEST_F(Szenarioprobe, the_same_climate_file_chosen_again_changes_nothing) {
     Felder_.Klimaszenario = "Site A";
     schreibe_Probe();
     gestartet();
-    const int Laeufe = s_->Stand().Zeichnung;
+    const int Laeufe = s_->zeige<Diagrammsteuerung>().Zeichnung();
     Sitzung& s = offen();
     EXPECT_EQ(Entwurf().Klima, 0);
     s.fuehre_aus<&Szenarioeditor::waehle_Klimaszenario>(1);
     s.fuehre_aus<&Szenarioeditor::waehle_Klimaszenario>(0);
     fertig();
     EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert());
-    EXPECT_EQ(s_->Stand().Zeichnung, Laeufe);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe);
 }
 
 TEST_F(Szenarioprobe, a_climate_file_chosen_and_not_used_changes_nothing) {
     klimadatei("Site A");
     klimadatei("Site B");
     gestartet();
-    const int Laeufe = s_->Stand().Zeichnung;
+    const int Laeufe = s_->zeige<Diagrammsteuerung>().Zeichnung();
     Sitzung& s = offen();
     s.fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(1);
     s.fuehre_aus<&Szenarioeditor::waehle_Klimaszenario>(0);
@@ -156,7 +156,7 @@ TEST_F(Szenarioprobe, a_climate_file_chosen_and_not_used_changes_nothing) {
     fertig();
     EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert());
     EXPECT_FALSE(s_->Stand().Hinweis());
-    EXPECT_EQ(s_->Stand().Zeichnung, Laeufe);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe);
     EXPECT_EQ(Klimatext(s_->Stand().Felder()),
               "20 \xC2\xB0"
               "C constant");
@@ -170,12 +170,12 @@ TEST_F(Szenarioprobe, a_climate_file_named_in_another_case_is_the_one_selected_a
     Felder_.Klimaszenario = "site a";
     schreibe_Probe();
     gestartet();
-    const int Laeufe = s_->Stand().Zeichnung;
+    const int Laeufe = s_->zeige<Diagrammsteuerung>().Zeichnung();
     offen();
     EXPECT_EQ(Entwurf().Klima, 0);
     fertig();
     EXPECT_EQ(s_->Stand().Felder().Klimaszenario, "site a");
-    EXPECT_EQ(s_->Stand().Zeichnung, Laeufe);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe);
 }
 
 // The editor shows the last file where the one of the record is gone: "Done" takes it, and the results follow.
@@ -184,13 +184,13 @@ TEST_F(Szenarioprobe, done_after_a_missing_climate_file_takes_the_file_on_displa
     klimadatei("Site A");
     klimadatei("Site B");
     gestartet_mit_Meldung();
-    const int Laeufe = s_->Stand().Zeichnung;
+    const int Laeufe = s_->zeige<Diagrammsteuerung>().Zeichnung();
     offen();
     EXPECT_EQ(Entwurf().Klima, 1);
     fertig();
     EXPECT_EQ(s_->Stand().Felder().Klimaszenario, "Site B");
     EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert());  // preselected, not chosen
-    EXPECT_EQ(s_->Stand().Zeichnung, Laeufe + 1);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe + 1);
     EXPECT_FALSE(s_->Stand().abgedeckt());
 }
 
@@ -198,12 +198,12 @@ TEST_F(Szenarioprobe, cancel_after_a_missing_climate_file_does_not_repeat_the_ru
     ohne_Klimadatei();
     klimadatei("Site A");
     gestartet_mit_Meldung();
-    const int Laeufe = s_->Stand().Zeichnung;
+    const int Laeufe = s_->zeige<Diagrammsteuerung>().Zeichnung();
     offen().fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(0);
     abgebrochen();
-    EXPECT_EQ(s_->Stand().Zeichnung, Laeufe);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe);
     EXPECT_TRUE(s_->Stand().abgedeckt());
-    EXPECT_FALSE(s_->Stand().Szenarioeditor_faellig);
+    EXPECT_FALSE(s_->zeige<Laufsteuerung>().Klimadatei_fehlt());
     EXPECT_EQ(s_->Stand().Felder().Klimaszenario, "gone");
 }
 
@@ -230,7 +230,7 @@ TEST_F(Szenarioprobe, a_run_of_the_editor_that_fails_again_does_not_open_it_agai
     std::filesystem::remove(Wurzel_ / "input/Site A.cli");
     Fragen_.erwarte("Data file missing", "Cannot load climate data file. Please correct!");
     fertig();
-    EXPECT_FALSE(s_->Stand().Szenarioeditor_faellig);
+    EXPECT_FALSE(s_->zeige<Laufsteuerung>().Klimadatei_fehlt());
     EXPECT_TRUE(s_->Stand().abgedeckt());
 }
 
@@ -245,7 +245,7 @@ TEST_F(Szenarioprobe, a_field_in_work_is_not_told_twice_of_the_missing_file) {
     s_->fuehre_aus<&Feldeingabe::aendere>(f, "700");
     Fragen_.erwarte("Data file missing", "Cannot load climate data file. Please correct!");
     s_->fuehre_aus<&Feldeingabe::bestaetige>(f);
-    EXPECT_TRUE(s_->Stand().Szenarioeditor_faellig);
+    EXPECT_TRUE(s_->zeige<Laufsteuerung>().Klimadatei_fehlt());
     offen();
     abgebrochen();
 }

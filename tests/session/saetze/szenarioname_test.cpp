@@ -10,7 +10,7 @@ using E = Szenarioentwurf;
 TEST_F(Szenarioprobe, another_name_leaves_every_value_and_marks_the_simulation_only) {
     zweites_Szenario();
     gestartet();
-    const int Laeufe = s_->Stand().Zeichnung;
+    const int Laeufe = s_->zeige<Diagrammsteuerung>().Zeichnung();
     Sitzung& s = offen();
     EXPECT_EQ(Entwurf().Szenarien, (std::vector<std::string>{"Another", "Probe"}));
     s.fuehre_aus<&Szenarioeditor::aendere>(E::Bodendichte, "9");
@@ -21,9 +21,9 @@ TEST_F(Szenarioprobe, another_name_leaves_every_value_and_marks_the_simulation_o
     EXPECT_EQ(s_->Stand().gewaehlt(3), "Another");
     EXPECT_EQ(s_->Stand().Namen[3], "Another");
     EXPECT_TRUE(s_->Stand().Saetze[0].Geaendert());
-    EXPECT_TRUE(s_->Stand().Simulation_markiert);
+    EXPECT_TRUE(s_->Stand().Simulation_markiert());
     EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert());
-    EXPECT_EQ(s_->Stand().Zeichnung, Laeufe);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe);
 }
 
 TEST_F(Szenarioprobe, saved_under_another_name_the_scenario_that_was_there_is_kept_in_backup) {
@@ -42,12 +42,12 @@ TEST_F(Szenarioprobe, saved_under_another_name_the_scenario_that_was_there_is_ke
 
 TEST_F(Szenarioprobe, a_soil_name_is_copied_and_marks_the_scenario_without_a_run) {
     gestartet();
-    const int Laeufe = s_->Stand().Zeichnung;
+    const int Laeufe = s_->zeige<Diagrammsteuerung>().Zeichnung();
     offen().fuehre_aus<&Szenarioeditor::aendere>(E::Bodenszenario, "Silt loam");
     fertig();
     EXPECT_EQ(s_->Stand().Felder().Bodenszenario, "Silt loam");
     EXPECT_TRUE(s_->Stand().Saetze[3].Geaendert());
-    EXPECT_EQ(s_->Stand().Zeichnung, Laeufe);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe);
 }
 
 TEST_F(Szenarioprobe, a_soil_name_that_no_record_can_hold_is_refused_where_it_is_typed) {

@@ -45,7 +45,7 @@ protected:
     void gestartet_mit_Meldung() {
         Fragen_.erwarte("Data file missing", "Cannot load climate data file. Please correct!");
         gestartet();
-        ASSERT_TRUE(s_->Stand().Szenarioeditor_faellig);
+        ASSERT_TRUE(s_->zeige<Laufsteuerung>().Klimadatei_fehlt());
     }
     // A simulation that names a scenario that is not there.
     void ohne_Szenario_geladen() {

@@ -80,7 +80,7 @@ TEST_F(Restoreprobe, brings_several_back_and_keeps_what_they_replace) {
     const auto neu = Angebot().front();
     EXPECT_EQ(neu.Dateiname, "Probe.che");
     EXPECT_EQ(Datei("backup/" + neu.Sicherung + "/Probe.che"), jetzt);
-    EXPECT_EQ(z().Statuszeile.find("Restored: "), 0U) << z().Statuszeile;
+    EXPECT_EQ(z().Statuszeile.Text().find("Restored: "), 0U) << z().Statuszeile.Text();
 }
 
 TEST_F(Restoreprobe, keeps_what_was_entered_for_the_record_on_the_screen) {
@@ -159,7 +159,7 @@ TEST_F(Versagende_Platte_beim_Restore, what_came_back_before_it_failed_is_told_a
     s_->fuehre_aus<&Wiederherstellung::stelle_her>(Gewaehlte);
     EXPECT_EQ(Datei("input/Probe.che"), Wirkstoffsatz("Old one"));
     EXPECT_EQ(z().Felder().Name_Wirkstoff, "Old one");
-    EXPECT_TRUE(z().Statuszeile.starts_with("Restored: \"Probe.che\".")) << z().Statuszeile;
+    EXPECT_TRUE(z().Statuszeile.Text().starts_with("Restored: \"Probe.che\".")) << z().Statuszeile.Text();
     EXPECT_EQ(Datei("input/Probe.app"), vorher);
 }
 

@@ -318,7 +318,7 @@ void Versagende_Platte_im_Gang::verlange_Ausweg() {
     Antworten_.auf_dem_Weg_hinaus = true;
     s_->fuehre_aus<&Programmablauf::schliesse_Fenster>();
     Antworten_.auf_dem_Weg_hinaus = false;
-    EXPECT_TRUE(z().beendet) << Antworten_.gehoert;
+    EXPECT_TRUE(z().beendet()) << Antworten_.gehoert;
     raeume_Hindernisse();
     oeffne();
 }

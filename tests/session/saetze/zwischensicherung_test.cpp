@@ -70,7 +70,7 @@ TEST_F(Absturz, another_simulation_with_another_record_and_description_comes_bac
     EXPECT_EQ(z().gewaehlt(Szenario), "Probe");
     EXPECT_EQ(z().Felder().Beschreibung, "Typed");
     EXPECT_EQ(Feldtext("Applikationsrate"), "700");
-    EXPECT_TRUE(z().Simulation_markiert);
+    EXPECT_TRUE(z().Simulation_markiert());
     EXPECT_EQ(Datei("input/Second.vnk"), Zeilen("The second one", "Second", "Second", "Second"));
 }
 
@@ -102,7 +102,7 @@ TEST_F(Absturz, the_end_of_the_program_removes_it) {
         ASSERT_TRUE(liegt_da());
         Fragen_.erwarte_Anfang("Save changes?", "You modified pesticide", Knopf::Nein);
         Fenster ? s_->fuehre_aus<&Programmablauf::schliesse_Fenster>() : s_->fuehre_aus<&Programmablauf::beende>();
-        EXPECT_TRUE(z().beendet);
+        EXPECT_TRUE(z().beendet());
         EXPECT_FALSE(liegt_da());
     }
 }
@@ -147,12 +147,12 @@ TEST_F(Absturz, what_cannot_be_written_is_told_once) {
     std::ofstream(Wurzel_ / "backup") << "a file";
     ASSERT_TRUE(tippe("S_DT50_0", "12"));
     gezeichnet();
-    EXPECT_THAT(z().Statuszeile, HasSubstr("Unsaved values are not kept"));
+    EXPECT_THAT(z().Statuszeile.Text(), HasSubstr("Unsaved values are not kept"));
     for (const char* Wert : {"13", "14"}) {  // a line stands until the next change
         ASSERT_TRUE(tippe("S_DT50_0", Wert));
         gezeichnet();
     }
-    EXPECT_EQ(z().Statuszeile, "");
+    EXPECT_EQ(z().Statuszeile.Text(), "");
 }
 
 // ---- what the start before left and cannot be put into `backup`
@@ -178,7 +178,7 @@ TEST_F(Absturz, values_that_cannot_be_kept_at_the_start_stay_and_are_offered_aga
         Fragen_.erwarte_Anfang("Save changes?", "You modified", Knopf::Nein)
             .erwarte_Anfang("Runtime error", "Cannot make the folder", Knopf::Ja);
         s_->fuehre_aus<&Programmablauf::schliesse_Fenster>();
-        EXPECT_TRUE(z().beendet);
+        EXPECT_TRUE(z().beendet());
         s_.reset();
         EXPECT_EQ(Datei("backup/unsaved"), Stand) << "nor does a clean end remove it";
     }
@@ -196,7 +196,7 @@ TEST_F(Absturz, a_file_larger_than_any_state_is_told_and_stays) {
     gestartet();
     EXPECT_FALSE(z().abgedeckt());
     s_->fuehre_aus<&Programmablauf::beende>();
-    EXPECT_TRUE(z().beendet);
+    EXPECT_TRUE(z().beendet());
     EXPECT_TRUE(liegt_da());
 }
 
@@ -207,7 +207,7 @@ TEST_F(Absturz, in_a_folder_that_is_a_link_to_outside_nothing_is_offered_or_remo
     std::filesystem::create_directory_symlink(fremd, Wurzel_ / "backup");
     gestartet();
     s_->fuehre_aus<&Programmablauf::beende>();
-    EXPECT_TRUE(z().beendet);
+    EXPECT_TRUE(z().beendet());
     EXPECT_TRUE(std::filesystem::exists(fremd / "unsaved"));
     std::filesystem::remove_all(fremd);
 }

@@ -279,7 +279,7 @@ private Q_SLOTS:
 
 private:
     const Zustand& Stand() { return p_->Programm().Stand(); }
-    int Zeichnung() { return Stand().Zeichnung; }
+    int Zeichnung() { return p_->Programm().zeige<Diagrammsteuerung>().Zeichnung(); }
     double k_SFO() { return Stand().Parameter().k_SFO[0][0]; }
     QLineEdit* Feld(const char* Name) { return p_->Teil<QLineEdit>(Name); }
     bool Hinweis() { return !p_->Teil<QPushButton>("Aktualisieren")->icon().isNull(); }

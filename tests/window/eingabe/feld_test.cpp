@@ -165,7 +165,7 @@ private:
     }
 
     void abgelehnt(const char* Feld, const char* Text, bool Enter, const char* Meldung) {
-        const int vorher = p_->Programm().Stand().Zeichnung;
+        const int vorher = p_->Programm().zeige<Diagrammsteuerung>().Zeichnung();
         auto* f = p_->Teil<QLineEdit>(Feld);
         p_->tippe(Feld, "5");  // so that an empty text is a change as well
         f->selectAll();
@@ -179,7 +179,7 @@ private:
         QCOMPARE(f->selectedText(), QString::fromLatin1(Text));
         QCOMPARE(f->text(), QString::fromLatin1(Text));
         QCOMPARE(Farbe(Feld), QColor(255, 255, 0));
-        QCOMPARE(p_->Programm().Stand().Zeichnung, vorher);
+        QCOMPARE(p_->Programm().zeige<Diagrammsteuerung>().Zeichnung(), vorher);
     }
 
     Mitschrift Fragen_;

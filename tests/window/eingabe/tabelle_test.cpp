@@ -64,13 +64,13 @@ private Q_SLOTS:
         QFETCH(QString, Zeichen);
         QFETCH(bool, Ziffernblock);
         QFETCH(QString, danach);
-        const int vorher = Stand().Zeichnung;
+        const int vorher = p_->Programm().zeige<Diagrammsteuerung>().Zeichnung();
         QTest::sendKeyEvent(QTest::Click, t_, static_cast<Qt::Key>(Taste), Zeichen,
                             Ziffernblock ? Qt::KeypadModifier : Qt::NoModifier);
         QCOMPARE(t_->item(0, 2)->text(), danach);
         QCOMPARE(Stand().Saetze[2].Geaendert(), danach != u"400"_s);
         QCOMPARE(Hinweis(), danach.toDouble() != 400);  // "400." is the same number
-        QCOMPARE(Stand().Zeichnung, vorher);
+        QCOMPARE(p_->Programm().zeige<Diagrammsteuerung>().Zeichnung(), vorher);
         QCOMPARE(t_->currentRow(), 0);
         QCOMPARE(t_->currentColumn(), 2);
     }
@@ -84,10 +84,10 @@ private Q_SLOTS:
     }
 
     void the_keypad_enter_makes_one_run() {
-        const int vorher = Stand().Zeichnung;
+        const int vorher = p_->Programm().zeige<Diagrammsteuerung>().Zeichnung();
         QTest::keyClicks(t_, u"0"_s);
         p_->druecke("Applikationsschema", Qt::Key_Enter, Qt::KeypadModifier);
-        QCOMPARE(Stand().Zeichnung, vorher + 1);
+        QCOMPARE(p_->Programm().zeige<Diagrammsteuerung>().Zeichnung(), vorher + 1);
         QVERIFY(!Hinweis());
         QVERIFY(!p_->sichtbar("Abdeckung"));
         QCOMPARE(Fragen_.nimm().filter(u"No valid input!"_s), QStringList());
@@ -140,7 +140,7 @@ private Q_SLOTS:
 
     // Rows appear at once, the results wait for Enter; rows cut off are not forgotten while the record stands.
     void the_number_of_rows_follows_its_list_without_a_run() {
-        const int vorher = Stand().Zeichnung;
+        const int vorher = p_->Programm().zeige<Diagrammsteuerung>().Zeichnung();
         const QString fuenfte = t_->item(4, 2)->text();
         const int hoch = t_->height();
         p_->waehle_Eintrag("Anzahl", 1);
@@ -151,19 +151,19 @@ private Q_SLOTS:
         QCOMPARE(t_->rowCount(), 5);
         QCOMPARE(t_->item(4, 2)->text(), fuenfte);
         QVERIFY(!Hinweis());  // the results are those of this table
-        QCOMPARE(Stand().Zeichnung, vorher);
+        QCOMPARE(p_->Programm().zeige<Diagrammsteuerung>().Zeichnung(), vorher);
         QVERIFY(!Stand().Saetze[2].Geaendert());
     }
 
     void enter_ends_the_summary_view() {
         p_->waehle_Simulation("Sugar beet, Compound E");
         p_->Programm().fuehre_aus<&Listenwahl::zeige_Zusammenfassung>();
-        QVERIFY(Stand().Zusammenfassung_aktiv);
+        QVERIFY(Stand().Zusammenfassung_aktiv());
         p_->waehle("Applikationsmuster_2");
-        QVERIFY(Stand().Zusammenfassung_aktiv);
+        QVERIFY(Stand().Zusammenfassung_aktiv());
         t_->setFocus();
         p_->druecke("Applikationsschema", Qt::Key_Return);
-        QVERIFY(!Stand().Zusammenfassung_aktiv);
+        QVERIFY(!Stand().Zusammenfassung_aktiv());
         Fragen_.nimm();
     }
 

@@ -44,7 +44,7 @@ private Q_SLOTS:
         p_->klicke("Bericht_erstellen");
         QVERIFY(p_->sichtbar("Bericht"));
         QVERIFY(p_->Teil<QTextEdit>("Bericht")->toPlainText().contains(u"RESULTS OF THE CALCULATION"_s));
-        QVERIFY(!p_->Programm().Stand().Ergebnisdatei.empty());
+        QVERIFY(!p_->Programm().zeige<Berichtssteuerung>().Ergebnisdatei().empty());
         QVERIFY(p_->Teil<QAction>("M_Drucken")->isEnabled());
     }
 
@@ -177,7 +177,7 @@ private Q_SLOTS:
         });
         p_->klicke("Bericht_PDF");
         QCOMPARE(Ordner, u"Output"_s);
-        QCOMPARE(Name, QString::fromStdString(p_->Programm().Stand().Ergebnisdatei) + u".pdf"_s);
+        QCOMPARE(Name, QString::fromStdString(p_->Programm().zeige<Berichtssteuerung>().Ergebnisdatei()) + u".pdf"_s);
     }
 
     void a_name_with_a_percent_sign_is_proposed_as_it_is() {

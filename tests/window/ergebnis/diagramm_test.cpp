@@ -110,13 +110,13 @@ private Q_SLOTS:
     }
 
     void an_accepted_end_is_the_end_of_the_axis() {
-        const int vorher = p_->Programm().Stand().Zeichnung;
+        const int vorher = p_->Programm().zeige<Diagrammsteuerung>().Zeichnung();
         skaliere([](QDialog& d) {
             Liste(d, "Startzeitpunkt")->setEditText(u"20"_s);
             Liste(d, "Skalierung_X_Achse")->setEditText(u"1000"_s);
             QTest::keyClick(Liste(d, "Skalierung_X_Achse"), Qt::Key_Return);
         });
-        QCOMPARE(p_->Programm().Stand().Zeichnung, vorher + 1);
+        QCOMPARE(p_->Programm().zeige<Diagrammsteuerung>().Zeichnung(), vorher + 1);
         QCOMPARE(p_->Programm().zeige<Diagrammsteuerung>().X_Start(), 20.0);
         QCOMPARE(p_->Programm().zeige<Diagrammsteuerung>().X_Ende(), 1000.0);
         QCOMPARE(p_->vorn()->Inhalt()->Kurven.front().erster_Tag, 20);
@@ -143,13 +143,13 @@ private Q_SLOTS:
     }
 
     void cancel_stores_nothing_and_runs_all_the_same() {
-        const int vorher = p_->Programm().Stand().Zeichnung;
+        const int vorher = p_->Programm().zeige<Diagrammsteuerung>().Zeichnung();
         skaliere([](QDialog& d) {
             Liste(d, "Skalierung_X_Achse")->setEditText(u"1000"_s);
             d.findChild<QPushButton*>(u"Abbrechen"_s)->click();
         });
         QCOMPARE(p_->Programm().zeige<Diagrammsteuerung>().X_Ende(), 364.0);
-        QCOMPARE(p_->Programm().Stand().Zeichnung, vorher + 1);
+        QCOMPARE(p_->Programm().zeige<Diagrammsteuerung>().Zeichnung(), vorher + 1);
     }
 
     void a_start_behind_the_end_says_so() {

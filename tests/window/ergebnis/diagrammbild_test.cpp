@@ -214,7 +214,7 @@ private Q_SLOTS:
     }
 
     void the_status_line_says_what_was_written_or_copied() {
-        const auto Status = [this] { return in_Qt(p_->Programm().Stand().Statuszeile); };
+        const auto Status = [this] { return in_Qt(p_->Programm().Stand().Statuszeile.Text()); };
         const QString Pfad = speichere("M_Bild_PDF", u"curve.pdf"_s);
         QCOMPARE(Status(), u"Picture written: "_s + Pfad);
         p_->Teil<QAction>("M_Bild_kopieren")->trigger();

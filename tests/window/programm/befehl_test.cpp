@@ -228,7 +228,7 @@ private:
     }
 
     const Zustand& Stand() { return p_->Programm().Stand(); }
-    int Zeichnung() { return Stand().Zeichnung; }
+    int Zeichnung() { return p_->Programm().zeige<Diagrammsteuerung>().Zeichnung(); }
     bool Hinweis() { return !p_->Teil<QPushButton>("Aktualisieren")->icon().isNull(); }
 
     static QString Anzeige(const QWidget& w) {

@@ -321,7 +321,7 @@ private Q_SLOTS:
         QTest::qWait(50);
         QCOMPARE(Kaesten, 1);
         QVERIFY(p_->Fenster().isVisible());
-        QVERIFY(!p_->Programm().Stand().beendet);
+        QVERIFY(!p_->Programm().Stand().beendet());
         QCOMPARE(p_->Teil<QLineEdit>("S_DT50_0")->text(), u"17"_s);
         QVERIFY(p_->Programm().Stand().Saetze[1].Geaendert());
         QCOMPARE(p_->Inhalt(Satzdatei), alt);

@@ -92,7 +92,8 @@ private Q_SLOTS:
         for (const char z : RTF) {
             if (static_cast<unsigned char>(z) < 0x20) QVERIFY(z == '\r' || z == '\n' || z == '\t');
         }
-        QVERIFY(QFile::exists(p_->Pfad(u"output/"_s + in_Qt(p_->Programm().Stand().Ergebnisdatei) + u".rtf"_s)));
+        QVERIFY(
+            QFile::exists(p_->Pfad(u"output/"_s + in_Qt(p_->Programm().zeige<Berichtssteuerung>().Ergebnisdatei()) + u".rtf"_s)));
     }
 
 private:

@@ -35,7 +35,7 @@ private Q_SLOTS:
         QVERIFY(!p_->sichtbar("Kinetikschema"));
         QVERIFY(!p_->Teil<QMenu>("M_editieren")->menuAction()->isEnabled());
         QVERIFY(p_->Teil<QAction>("M_Speichern")->isEnabled());
-        QCOMPARE(p_->Programm().Stand().Zeichnung, 0);
+        QCOMPARE(p_->Programm().zeige<Diagrammsteuerung>().Zeichnung(), 0);
     }
 
     void starten_shows_the_results_of_the_start_simulation() {
@@ -50,12 +50,12 @@ private Q_SLOTS:
 
     void a_typed_dt50_counts_when_tab_leaves_the_field() {
         p_->starte();
-        const int vorher = p_->Programm().Stand().Zeichnung;
+        const int vorher = p_->Programm().zeige<Diagrammsteuerung>().Zeichnung();
         p_->tippe("S_DT50_0", "10");
-        QCOMPARE(p_->Programm().Stand().Zeichnung, vorher);
+        QCOMPARE(p_->Programm().zeige<Diagrammsteuerung>().Zeichnung(), vorher);
         QVERIFY(!p_->Teil<QPushButton>("Aktualisieren")->icon().isNull());
         p_->druecke("S_DT50_0", Qt::Key_Tab);
-        QCOMPARE(p_->Programm().Stand().Zeichnung, vorher + 1);
+        QCOMPARE(p_->Programm().zeige<Diagrammsteuerung>().Zeichnung(), vorher + 1);
         QVERIFY(p_->Teil<QPushButton>("Aktualisieren")->icon().isNull());
         // Ten days are one half-life at the reference temperature; the row of 7 days lies before it, that of 14 behind.
         QVERIFY(p_->Zelle("Ergebnisse_0", 5, 1).toDouble() > 1.3333 / 2);
@@ -93,20 +93,20 @@ private Q_SLOTS:
 
     void refresh_out_of_a_changed_field_is_one_run() {
         p_->starte();
-        const int vorher = p_->Programm().Stand().Zeichnung;
+        const int vorher = p_->Programm().zeige<Diagrammsteuerung>().Zeichnung();
         p_->tippe("S_DT50_0", "20");
         p_->klicke("Aktualisieren");
         QTest::qWait(30);
-        QCOMPARE(p_->Programm().Stand().Zeichnung, vorher + 1);
+        QCOMPARE(p_->Programm().zeige<Diagrammsteuerung>().Zeichnung(), vorher + 1);
     }
 
     // The mouse as the desktop tells it: pressed, held for a while, released.
     void a_button_held_down_out_of_a_changed_field_is_one_run() {
         p_->starte();
-        const int vorher = p_->Programm().Stand().Zeichnung;
+        const int vorher = p_->Programm().zeige<Diagrammsteuerung>().Zeichnung();
         p_->tippe("S_DT50_0", "20");
         p_->druecke_langsam("Aktualisieren");
-        QCOMPARE(p_->Programm().Stand().Zeichnung, vorher + 1);
+        QCOMPARE(p_->Programm().zeige<Diagrammsteuerung>().Zeichnung(), vorher + 1);
         QCOMPARE(p_->Programm().zeige<Feldeingabe>().aktives_Feld(), -1);
     }
 
@@ -265,7 +265,7 @@ private Q_SLOTS:
         QVERIFY(p_->Fenster().isVisible());
         p_->druecke("Ende", Qt::Key_Space);
         QVERIFY(!p_->Fenster().isVisible());
-        QVERIFY(p_->Programm().Stand().beendet);
+        QVERIFY(p_->Programm().Stand().beendet());
     }
 
     void a_right_press_unlocks_the_description() {

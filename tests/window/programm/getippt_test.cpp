@@ -300,7 +300,7 @@ private Q_SLOTS:
         p_->klicke("speichern");
         const QString Text = p_->Teil<QLabel>("Statuszeile")->text();
         QVERIFY2(Text.contains(QRegularExpression(u"^\\d\\d:\\d\\d \\S"_s)), qPrintable(Text));
-        QCOMPARE(aus_Qt(Text), Stand().Statuszeit + " " + Stand().Statuszeile);
+        QCOMPARE(aus_Qt(Text), Stand().Statuszeile.Zeit() + " " + Stand().Statuszeile.Text());
         p_->tippe("S_DT50_0", "17");
         p_->druecke("S_DT50_0", Qt::Key_Tab);
         QCOMPARE(p_->Teil<QLabel>("Statuszeile")->text(), QString());

@@ -113,32 +113,32 @@ private Q_SLOTS:
 
     void enter_is_OK_and_esc_is_cancel() {
         starte();
-        const int vorher = p_->Programm().Stand().Zeichnung;
+        const int vorher = p_->Programm().zeige<Diagrammsteuerung>().Zeichnung();
         mit_Dialog([](QDialog& d) {
             klicke_auf(d, "Einheit_1");
             QTest::keyClick(&d, Qt::Key_Escape);
         });
         QCOMPARE(int(p_->Programm().Stand().Parameter().Einheit), 0);
-        QCOMPARE(p_->Programm().Stand().Zeichnung, vorher);
+        QCOMPARE(p_->Programm().zeige<Diagrammsteuerung>().Zeichnung(), vorher);
         mit_Dialog([](QDialog& d) {
             klicke_auf(d, "Einheit_1");
             QTest::keyClick(&d, Qt::Key_Return);
         });
         QCOMPARE(int(p_->Programm().Stand().Parameter().Einheit), 1);
-        QCOMPARE(p_->Programm().Stand().Zeichnung, vorher + 1);
+        QCOMPARE(p_->Programm().zeige<Diagrammsteuerung>().Zeichnung(), vorher + 1);
     }
 
     void enter_in_the_tree_is_OK() {
         starte();
-        const int vorher = p_->Programm().Stand().Zeichnung;
+        const int vorher = p_->Programm().zeige<Diagrammsteuerung>().Zeichnung();
         mit_Dialog([](QDialog& d) { QTest::keyClick(Teil_von<QTreeView>(d, "Dir1"), Qt::Key_Return); });
-        QCOMPARE(p_->Programm().Stand().Zeichnung, vorher + 1);
+        QCOMPARE(p_->Programm().zeige<Diagrammsteuerung>().Zeichnung(), vorher + 1);
     }
 
     void cancel_changes_nothing_whatever_was_clicked() {
         starte();
         const Laufparameter vorher = p_->Programm().Stand().Parameter();
-        const int Zeichnung = p_->Programm().Stand().Zeichnung;
+        const int Zeichnung = p_->Programm().zeige<Diagrammsteuerung>().Zeichnung();
         mit_Dialog([](QDialog& d) {
             for (const char* Name :
                  {"Einheit_1", "Separate_Rueckstaende_2", "TWA_Zeiten_0", "Check1_4", "Tips_anzeigen_1", "Farbeinstellung_1"})
@@ -147,7 +147,7 @@ private Q_SLOTS:
             klicke_auf(d, "Abbrechen");
         });
         QVERIFY(p_->Programm().Stand().Parameter() == vorher);
-        QCOMPARE(p_->Programm().Stand().Zeichnung, Zeichnung);
+        QCOMPARE(p_->Programm().zeige<Diagrammsteuerung>().Zeichnung(), Zeichnung);
         QCOMPARE(QString::fromStdString(p_->Programm().Stand().Projektpfad), p_->Pfad({}));
         QVERIFY(rahmenfarbe("Kinetikschema") == Farben::Wirkstoff);
     }

@@ -130,7 +130,7 @@ private Q_SLOTS:
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
         QTest::qWait(1);
         QVERIFY(p_->Fenster().isVisible());
-        QVERIFY(!p_->Programm().Stand().beendet);
+        QVERIFY(!p_->Programm().Stand().beendet());
     }
 
     void tab_enters_a_group_at_the_chosen_option() {

@@ -153,10 +153,10 @@ private Q_SLOTS:
         p_->starte();
         p_->tippe("Applikationsrate", "1");
         const Zustand& z = p_->Programm().Stand();
-        const int Zeichnung = z.Zeichnung;
+        const int Zeichnung = p_->Programm().zeige<Diagrammsteuerung>().Zeichnung();
         const auto Marken = z.Marken();
         oeffne("M_Versionsinfo", [](QDialog&) {});
-        QCOMPARE(z.Zeichnung, Zeichnung);
+        QCOMPARE(p_->Programm().zeige<Diagrammsteuerung>().Zeichnung(), Zeichnung);
         QVERIFY(z.Hinweis());
         QVERIFY(z.Marken() == Marken);
         QCOMPARE(Fragen_.nimm(), QStringList());

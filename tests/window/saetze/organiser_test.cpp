@@ -166,18 +166,18 @@ private Q_SLOTS:
     void done_at_once_writes_nothing_and_leaves_the_results() {
         p_->starte();
         const QByteArray vorher = p_->Inhalt(u"input/Programcheck.vnk"_s);
-        const int Zeichnung = p_->Programm().Stand().Zeichnung;
+        const int Zeichnung = p_->Programm().zeige<Diagrammsteuerung>().Zeichnung();
         im_Dialog([](Dialogprobe d) {
             d.klicke("Ende");
             QVERIFY(!d.offen());
         });
         QCOMPARE(p_->Inhalt(u"input/Programcheck.vnk"_s), vorher);
-        QCOMPARE(p_->Programm().Stand().Zeichnung, Zeichnung);
+        QCOMPARE(p_->Programm().zeige<Diagrammsteuerung>().Zeichnung(), Zeichnung);
     }
 
     void another_simulation_is_loaded_after_done_with_one_run() {
         p_->starte();
-        const int Zeichnung = p_->Programm().Stand().Zeichnung;
+        const int Zeichnung = p_->Programm().zeige<Diagrammsteuerung>().Zeichnung();
         im_Dialog([&](Dialogprobe d) {
             d.waehle("Simulationsliste", "Potatoes, Compound C");
             QCOMPARE(d.Teil<QLineEdit>("Projektname")->text(), u"Seven treatments, biphasic parent with one metabolite"_s);
@@ -188,7 +188,7 @@ private Q_SLOTS:
         });
         QCOMPARE(p_->Teil<QComboBox>("Simulationsliste")->currentText(), u"Potatoes, Compound C"_s);
         QCOMPARE(p_->Teil<QComboBox>("Liste_1")->currentText(), u"Compound C with one metabolite"_s);
-        QCOMPARE(p_->Programm().Stand().Zeichnung, Zeichnung + 1);
+        QCOMPARE(p_->Programm().zeige<Diagrammsteuerung>().Zeichnung(), Zeichnung + 1);
         QVERIFY(!p_->sichtbar("Abdeckung"));
     }
 

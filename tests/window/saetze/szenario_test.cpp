@@ -56,7 +56,7 @@ private Q_SLOTS:
     }
 
     void done_by_enter_stores_and_runs() {
-        const int Laeufe = p_->Programm().Stand().Zeichnung;
+        const int Laeufe = p_->Programm().zeige<Diagrammsteuerung>().Zeichnung();
         bei([&] { p_->klicke("Edit"); },
             [](Szenario_Form& f) {
                 auto* Dichte = Teil<QLineEdit>(f, "S_Bodendichte");
@@ -66,7 +66,7 @@ private Q_SLOTS:
                 QVERIFY(!f.isVisible());
             });
         QCOMPARE(p_->Programm().Stand().Parameter().Bodendichte, 1.2);
-        QCOMPARE(p_->Programm().Stand().Zeichnung, Laeufe + 1);
+        QCOMPARE(p_->Programm().zeige<Diagrammsteuerung>().Zeichnung(), Laeufe + 1);
         QVERIFY(!p_->gibt_es_sichtbar(u"Abdeckung"_s));
     }
 
@@ -235,7 +235,7 @@ private Q_SLOTS:
                 QTest::mouseClick(Teil<QPushButton>(f, "Ende"), Qt::LeftButton);
             });
         QCOMPARE(p_->Teil<QComboBox>("Liste_3")->currentText(), u"Loam, 10 degrees"_s);
-        QVERIFY(p_->Programm().Stand().Simulation_markiert);
+        QVERIFY(p_->Programm().Stand().Simulation_markiert());
     }
 
     // The line stands in the main window; no box comes in between.

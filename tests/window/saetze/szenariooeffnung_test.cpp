@@ -117,10 +117,10 @@ private Q_SLOTS:
     }
 
     void a_valid_field_is_accepted_before_it_opens_and_an_invalid_one_keeps_it_closed() {
-        const int Laeufe = p_->Programm().Stand().Zeichnung;
+        const int Laeufe = p_->Programm().zeige<Diagrammsteuerung>().Zeichnung();
         p_->tippe("S_DT50_0", "12");
         QCOMPARE(bei([&] { p_->klicke("Edit"); }), 1);
-        QCOMPARE(p_->Programm().Stand().Zeichnung, Laeufe + 1);
+        QCOMPARE(p_->Programm().zeige<Diagrammsteuerung>().Zeichnung(), Laeufe + 1);
         p_->aktiviere();
         p_->tippe("S_Q10_0", "0");
         QCOMPARE(bei([&] { QTest::mouseClick(p_->Teil<QWidget>("Szenariorahmen"), Qt::LeftButton, {}, {3, 3}); }), 0);

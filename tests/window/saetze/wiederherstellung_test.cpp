@@ -70,7 +70,7 @@ private Q_SLOTS:
             d.findChild<QPushButton*>(u"Herstellen"_s)->click();
         });
         QVERIFY(QFile::exists(p_->Pfad(u"input/<img src=x>.app"_s)));
-        QVERIFY(p_->Programm().Stand().Statuszeile.starts_with("Restored: "));
+        QVERIFY(p_->Programm().Stand().Statuszeile.Text().starts_with("Restored: "));
     }
 
 private:

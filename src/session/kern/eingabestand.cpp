@@ -1,0 +1,53 @@
+#include "session/kern/eingabestand.h"
+
+#include <numeric>
+
+#include "base/laufzeitfehler.h"
+#include "records/satz.h"
+#include "records/simulation.h"
+
+namespace varnok {
+
+std::vector<int> Eingabestand::gezeigte_Studien() const {
+    if (!Zusammenfassung_aktiv()) return {i_studie()};
+    std::vector<int> alle(static_cast<std::size_t>(Studienzahl()));
+    std::iota(alle.begin(), alle.end(), 0);
+    return alle;
+}
+
+bool Eingabestand::Saetze_vollstaendig() const {
+    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) {
+        if (Auswahl(Art) < 0 || !Saetze[Art].gelesen()) return false;
+    }
+    return Saetze[Simulation].gelesen();  // a simulation in the place of a deleted one
+}
+
+std::string Eingabestand::Speicherbytes(Satzart Art) const {
+    if (Art != Simulation) return Satz_als_Bytes(Art, Vorgabe, Sicht, Welt.Dezimalzeichen);
+    Simulationssatz Satz{Vorgabe.Beschreibung, {}};
+    for (const Satzart t : {Wirkstoff, Applikation, Szenario}) Satz.Dateinamen[t] = Namen[t];
+    return Simulation_als_Bytes(Satz);
+}
+
+std::string Eingabestand::Speicherbild(Satzart Art) const {
+    try {
+        return Speicherbytes(Art);
+    } catch (const Laufzeitfehler& f) {
+        return f.what();
+    }
+}
+
+bool Eingabestand::verschieden(Satzart Art) const {
+    return Saetze[Art].gelesen() ? Speicherbild(Art) != Saetze[Art].gespeichert() : Saetze[Art].Geaendert();
+}
+
+Eingabestand::Marken_je_Art Eingabestand::Marken() const {
+    return {Saetze[0].Geaendert(), Saetze[1].Geaendert(), Saetze[2].Geaendert(), Saetze[3].Geaendert(), andere_Kombination_};
+}
+
+void Eingabestand::stelle_Marken(const Marken_je_Art& Marken) {
+    for (std::size_t Art = 0; Art < Saetze.size(); ++Art) Saetze[Art].stelle_Marke(Marken[Art]);
+    andere_Kombination_ = Marken.back();
+}
+
+}  // namespace varnok

@@ -1,0 +1,68 @@
+#pragma once
+
+// What is entered: the records behind the selectors, the inputs on the screen, the view chosen. Knows nothing of results.
+
+#include <array>
+#include <string>
+#include <vector>
+
+#include "records/projektordner.h"
+#include "run/ansicht.h"
+#include "run/eingabe.h"
+#include "session/kern/satzlisten.h"
+#include "session/kern/satzplatz.h"
+#include "session/kern/schauplatz.h"
+
+namespace varnok {
+
+struct Eingabestand : Schauplatz, Satzlisten {
+    Eingabe Vorgabe;  // all inputs on the screen
+    Ansicht Sicht;    // what the user has chosen to look at
+    std::array<Satzplatz, 4> Saetze;
+
+    Eingabe& Felder() { return Vorgabe; }
+    const Eingabe& Felder() const { return Vorgabe; }
+    Laufparameter& Parameter() { return Vorgabe.Parameter; }
+    const Laufparameter& Parameter() const { return Vorgabe.Parameter; }
+    int i_studie() const { return Sicht.Studie_Index; }
+    int Studienzahl() const { return Vorgabe.Studienzahl(); }
+
+    // Told mark: all studies are in view, of which there are several.
+    bool Zusammenfassung_aktiv() const { return Zusammenfassung_ && Studienzahl() > 1; }
+    void zeige_Zusammenfassung() { Zusammenfassung_ = true; }
+    void zeige_Studien() { Zusammenfassung_ = false; }
+    // The studies that the view on display shows: the selected one, in the summary view all.
+    std::vector<int> gezeigte_Studien() const;
+
+    // Told mark: the selectors name another combination of records than the summary file does.
+    bool Simulation_markiert() const { return andere_Kombination_; }
+    void merke_Kombination() {
+        Saetze[Simulation].merke_Aenderung();
+        andere_Kombination_ = true;
+    }
+    // The combination is that of the summary file, which was read or written.
+    void vergiss_Kombination() { andere_Kombination_ = false; }
+    // The told marks, by kind, and that of the combination.
+    using Marken_je_Art = std::array<bool, 5>;
+    Marken_je_Art Marken() const;
+    // As they were before a step that did not come about, or that is no change of the user's.
+    void stelle_Marken(const Marken_je_Art& Marken);
+
+    // ---- what follows from all that; nobody keeps it ----
+
+    // Whether each selector names a record whose values are on the screen.
+    bool Saetze_vollstaendig() const;
+    // What a save of this kind writes. Throws Laufzeitfehler for a text or a value that no record can hold.
+    std::string Speicherbytes(Satzart Art) const;
+    // The same for comparing: where nothing can be written, the reason.
+    std::string Speicherbild(Satzart Art) const;
+    // Whether a save would now write something else than right after reading or saving. A place that was not read is different
+    // only by what the user entered there.
+    bool verschieden(Satzart Art) const;
+
+private:
+    bool Zusammenfassung_ = false;
+    bool andere_Kombination_ = false;
+};
+
+}  // namespace varnok
