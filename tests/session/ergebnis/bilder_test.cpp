@@ -139,7 +139,7 @@ std::vector<std::string> Zeilen(const std::string& Text) {
 std::string Daten_mit_beiden_Zeichen(Sitzung& s, const std::string& Pfad) {
     const auto gelesen = [&](char Dezimalzeichen) {
         s.fuehre_aus<&Bildsteuerung::speichere_Daten>(Pfad, Dezimalzeichen);
-        EXPECT_EQ(s.Stand().Statuszeile, "Data written: " + Pfad);
+        EXPECT_EQ(s.Stand().Statuszeile.Text(), "Data written: " + Pfad);
         return lies_Datei(Pfad);
     };
     const std::string mit_Punkt = gelesen('.');
