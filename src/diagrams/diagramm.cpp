@@ -4,17 +4,12 @@
 #include <cmath>
 
 #include "base/zahlen.h"
+#include "diagrams/lesegang.h"
 #include "exposure/bezeichnungen.h"
 
 namespace varnok {
 
 namespace {
-
-bool ist_Spitze(const std::vector<float>& w, std::size_t i) {
-    const bool steigt_an = i == 0 || w[i - 1] < w[i];
-    const bool faellt_ab = i + 1 == w.size() || w[i + 1] < w[i];
-    return steigt_an && faellt_ab && w[i] > 0;
-}
 
 // The peak nearest to the point, the distances measured in those of the catch.
 std::optional<Ablesung> fange_Spitze(const Diagramm& d, Punkt p, Punkt Fang) {

@@ -64,8 +64,8 @@ std::vector<Moeglichkeit> Moeglichkeiten(const Rahmenfeld& f, const Rahmenwunsch
         const auto Platz = static_cast<Rahmenplatz>(i);
         const Flaechenrechteck r = am_Platz(w, Platz, f.Raum);
         const Moeglichkeit m = {{Platz, r}, zaehle_Verdecktes(f, r)};
-        if (w.bisheriger == Platz && (w.bleibt || m.Preis.nichts())) return {m};
-        Liste.push_back(m);
+        if (w.bisheriger == Platz && w.bleibt) return {m};
+        Liste.insert(w.bisheriger == Platz && m.Preis.nichts() ? Liste.begin() : Liste.end(), m);
     }
     return Liste;
 }
@@ -100,7 +100,14 @@ Verdecktes zaehle_Verdecktes(const Rahmenfeld& f, const Flaechenrechteck& r) {
     return v;
 }
 
-std::vector<Rahmenstand> ordne_Rahmen(const Rahmenfeld& f, const std::vector<Rahmenwunsch>& Rahmen) {
+namespace {
+
+struct Rahmenwahl {
+    std::vector<Rahmenstand> Staende;
+    bool frei = false;  // nothing is covered
+};
+
+Rahmenwahl waehle_Plaetze(const Rahmenfeld& f, const std::vector<Rahmenwunsch>& Rahmen) {
     std::vector<std::vector<Moeglichkeit>> Listen;
     for (const Rahmenwunsch& w : Rahmen) Listen.push_back(Moeglichkeiten(f, w));
     // Every choice, like the counting of a number with a digit for each frame: of equal ones the first, which leaves the first
@@ -115,9 +122,32 @@ std::vector<Rahmenstand> ordne_Rahmen(const Rahmenfeld& f, const std::vector<Rah
         while (i > 0 && ++Ziffern[i - 1] == Listen[i - 1].size()) Ziffern[--i] = 0;
         if (i == 0) break;
     }
-    std::vector<Rahmenstand> Staende;
-    for (const Moeglichkeit* m : beste) Staende.push_back(m->Stand);
-    return Staende;
+    Rahmenwahl w = {{}, Kosten(beste) == std::pair(0, Verdecktes())};
+    for (const Moeglichkeit* m : beste) w.Staende.push_back(m->Stand);
+    return w;
+}
+
+}  // namespace
+
+std::vector<Rahmenstand> ordne_Rahmen(const Rahmenfeld& f, const std::vector<Rahmenwunsch>& Rahmen) {
+    return waehle_Plaetze(f, Rahmen).Staende;
+}
+
+std::size_t waehle_Groesse(const Rahmenfeld& f, std::vector<Rahmenwunsch> Rahmen, const std::vector<Rahmengroesse>& Groessen) {
+    constexpr double zu_viel = 0.4;
+    const std::size_t letzte = Groessen.size() - 1;
+    const auto ist_frei = [&](const Rahmengroesse& g) {
+        Rahmen.back().Breite = g.Breite;
+        Rahmen.back().Hoehe = g.Hoehe;
+        return !Rahmen.back().gezogen && waehle_Plaetze(f, Rahmen).frei;
+    };
+    const auto ertraeglich = [&](const Rahmengroesse& g) { return g.Breite * g.Hoehe <= zu_viel * f.Raum.Breite * f.Raum.Hoehe; };
+    const auto Ende = Groessen.begin() + static_cast<std::ptrdiff_t>(letzte);
+    if (const auto freie = std::find_if(Groessen.begin(), Ende, ist_frei); freie != Ende)
+        return static_cast<std::size_t>(freie - Groessen.begin());
+    if (ertraeglich(Groessen.front())) return 0;
+    if (ist_frei(Groessen.back())) return letzte;
+    return static_cast<std::size_t>(std::find_if(Groessen.begin(), Ende, ertraeglich) - Groessen.begin());
 }
 
 }  // namespace varnok

@@ -55,4 +55,14 @@ Verdecktes zaehle_Verdecktes(const Rahmenfeld& f, const Flaechenrechteck& r);
 // place already and covers nothing, stays.
 std::vector<Rahmenstand> ordne_Rahmen(const Rahmenfeld& f, const std::vector<Rahmenwunsch>& Rahmen);
 
+struct Rahmengroesse {
+    double Breite = 0;
+    double Hoehe = 0;
+};
+
+// Which of its sizes the last frame takes, that which reads best being the first and one for need alone the last: the first in
+// which no frame covers anything. Where there is none, the first unless it hides too much of the room; then that for need if all
+// is free with it, else the first that hides less.
+std::size_t waehle_Groesse(const Rahmenfeld& f, std::vector<Rahmenwunsch> Rahmen, const std::vector<Rahmengroesse>& Groessen);
+
 }  // namespace varnok

@@ -14,21 +14,22 @@ namespace varnok {
 namespace {
 
 constexpr double Zeile = 16;       // units that a line of a label takes
-constexpr double Titelzeile = 19;  // and one of the title
+constexpr double Titelzeile = 19;  // and one of the title, in letters of their usual size
 constexpr double Legendenzeilenhoehe = 18;
-constexpr double Rand = 3;  // units free beside title and comment
+constexpr double Rand = 6;  // units free beside title and comment
 
 // Title and comment over each other, broken into lines; gives the units that they take.
 double ordne_Titel(Diagramm& d, Beschriftungsplaetze& p, const QSizeF& Groesse) {
     const double Breite = Groesse.width() - 2 * Rand;
-    const int Titelzeilen = setze_Titel(d.Titel, Breite, Schriftgroesse_Titel, true, false);
-    const int Kommentarzeilen = setze_Titel(d.Kommentar, Breite, Schriftgroesse_Fenster, false, true);
-    const double unter_Titel = 1 + Titelzeilen * Titelzeile;
+    const int Titelzeilen = setze_Titel(d.Titel, Breite, Schriftgroesse_Titel, Schriftgroesse_Bericht + 1, true, false);
+    const int Kommentargroesse = std::min(Schriftgroesse_Fenster, d.Titel.Groesse - 1);
+    const int Kommentarzeilen = setze_Titel(d.Kommentar, Breite, Kommentargroesse, Schriftgroesse_Bericht, false, true);
+    p.Titelzeile = Titelzeile * d.Titel.Groesse / Schriftgroesse_Titel / Groesse.height();
+    p.Kommentarzeile = Zeile * d.Kommentar.Groesse / Schriftgroesse_Fenster / Groesse.height();
+    const double unter_Titel = 1 + Titelzeilen * p.Titelzeile * Groesse.height();
     p.Titel_oben = 1 / Groesse.height();
     p.Kommentar_oben = unter_Titel / Groesse.height();
-    p.Titelzeile = Titelzeile / Groesse.height();
-    p.Kommentarzeile = Zeile / Groesse.height();
-    return unter_Titel + Kommentarzeilen * Zeile;
+    return unter_Titel + Kommentarzeilen * p.Kommentarzeile * Groesse.height();
 }
 
 // The name of the y axis at the top of its axis, that of the time axis in the middle below its numbers.

@@ -37,11 +37,20 @@ QStringList fuelle_Zeilen(const QString& Text, const QFontMetricsF& Masse, doubl
     return Zeilen;
 }
 
+// Behind the last dash, or before the name of the study: there a new statement begins.
+qsizetype Fuge(const QString& Text) {
+    using namespace Qt::StringLiterals;
+    const qsizetype Studie = Text.lastIndexOf(u" Study: "_s);
+    return Studie > 0 ? Studie : Text.lastIndexOf(u" - "_s) + 2;
+}
+
 QStringList brich_um(const QString& ganz, const QFontMetricsF& Masse, double Breite) {
     QStringList beste = {ganz};
     if (Masse.horizontalAdvance(ganz) <= Breite) return beste;
+    const auto geteilt = [&](qsizetype i) { return QStringList{ganz.left(i).trimmed(), ganz.mid(i).trimmed()}; };
+    if (const qsizetype i = Fuge(ganz); i > 2 && breiteste(geteilt(i), Masse) <= Breite) return geteilt(i);
     for (qsizetype i = ganz.indexOf(u' '); i > 0; i = ganz.indexOf(u' ', i + 1)) {
-        const QStringList zwei = {ganz.left(i).trimmed(), ganz.mid(i).trimmed()};
+        const QStringList zwei = geteilt(i);
         if (breiteste(zwei, Masse) < breiteste(beste, Masse)) beste = zwei;
     }
     return beste;
@@ -59,8 +68,8 @@ Titelsatz setze_in_zwei_Zeilen(const QString& Text, double Breite, int Groesse, 
     }
 }
 
-int setze_Titel(Beschriftung& b, double Breite, int Groesse, bool fett, bool kursiv) {
-    Titelsatz s = setze_in_zwei_Zeilen(in_Qt(b.Text), Breite, Groesse, Schriftgroesse_Bericht, fett, kursiv);
+int setze_Titel(Beschriftung& b, double Breite, int Groesse, int kleinste, bool fett, bool kursiv) {
+    Titelsatz s = setze_in_zwei_Zeilen(in_Qt(b.Text), Breite, Groesse, kleinste, fett, kursiv);
     if (!s.passt) s.Zeilen = fuelle_Zeilen(in_Qt(b.Text), QFontMetricsF(Diagrammschrift(s.Groesse, fett, kursiv)), Breite);
     b.Groesse = s.Groesse;
     b.Text = aus_Qt(s.Zeilen.join(u'\n'));

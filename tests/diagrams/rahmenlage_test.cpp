@@ -118,5 +118,55 @@ TEST(Rahmenlage, home_is_moved_inside_the_room) {
     steht(s, Rahmenplatz::Heimat, 0.5, 0.4);
 }
 
+// One that covers no curve at its place leaves it all the same where another frame stands upon it.
+TEST(Rahmenlage, what_stands_there_makes_room_for_another_frame) {
+    Rahmenwunsch Legende = {0.4, 0.4, {0.6, 0}};
+    Legende.bisheriger = Rahmenplatz::Heimat;
+    Rahmenwunsch Tafel = {0.4, 0.3, {0.6, 0.6}};
+    Tafel.bisheriger = Rahmenplatz::rechts;
+    const auto Staende = ordne_Rahmen(Feldprobe().Feld(), {Legende, Tafel});
+    steht(Staende[0], Rahmenplatz::Heimat, 0.6, 0);
+    steht(Staende[1], Rahmenplatz::Heimat, 0.6, 0.6);
+}
+
+TEST(Rahmengroesse, the_first_that_covers_nothing) {
+    Feldprobe f;
+    const Rahmenwunsch w = {0, 0, {0, 0}};
+    const std::vector<Rahmengroesse> Groessen = {{0.6, 0.6}, {0.4, 0.4}, {0.1, 0.1}};
+    EXPECT_EQ(waehle_Groesse(f.Feld(), {w}, Groessen), 0U);
+    f.Strich(0.5, 0, 0.5, 1);
+    EXPECT_EQ(waehle_Groesse(f.Feld(), {w}, Groessen), 1U);
+}
+
+TEST(Rahmengroesse, frames_stay_clear_of_each_other) {
+    const Rahmenwunsch w = {0, 0, {0, 0}};
+    EXPECT_EQ(waehle_Groesse(Feldprobe().Feld(), {{0.5, 1, {0, 0}}, w}, {{0.6, 0.6}, {0.4, 0.4}, {0.1, 0.1}}), 1U);
+}
+
+TEST(Rahmengroesse, that_for_need_only_where_the_others_hide_too_much) {
+    Feldprobe f;
+    const Rahmenwunsch w = {0, 0, {0, 0}};
+    for (int i = 0; i < 20; ++i) f.Strich(i / 20.0, 0, i / 20.0, 1);
+    EXPECT_EQ(waehle_Groesse(f.Feld(), {w}, {{0.9, 0.5}, {0.9, 0.45}, {0.2, 0.2}}), 2U);
+    EXPECT_EQ(waehle_Groesse(f.Feld(), {w}, {{0.9, 0.5}, {0.7, 0.5}, {0.2, 0.2}}), 1U);
+    EXPECT_EQ(waehle_Groesse(f.Feld(), {w}, {{0.9, 0.4}, {0.8, 0.4}, {0.2, 0.2}}), 0U);
+}
+
+TEST(Rahmengroesse, that_for_need_where_all_is_free_with_it) {
+    Feldprobe f;
+    for (int i = 6; i < 20; ++i) f.Strich(i / 20.0, 0, i / 20.0, 1);
+    const Rahmenwunsch w = {0, 0, {0, 0}};
+    EXPECT_EQ(waehle_Groesse(f.Feld(), {w}, {{0.9, 0.5}, {0.7, 0.5}, {0.2, 0.2}}), 2U);
+    EXPECT_EQ(waehle_Groesse(f.Feld(), {w}, {{0.8, 0.4}, {0.7, 0.4}, {0.2, 0.2}}), 0U);
+}
+
+TEST(Rahmengroesse, one_that_was_dragged_covers_what_it_will) {
+    Feldprobe f;
+    f.Strich(0.5, 0, 0.5, 1);
+    const Rahmenwunsch w = {0, 0, {0, 0}, Flaechenort{0.3, 0.3}};
+    EXPECT_EQ(waehle_Groesse(f.Feld(), {w}, {{0.6, 0.6}, {0.4, 0.4}, {0.1, 0.1}}), 0U);
+    EXPECT_EQ(waehle_Groesse(f.Feld(), {w}, {{0.7, 0.6}, {0.4, 0.4}, {0.1, 0.1}}), 1U);
+}
+
 }  // namespace
 }  // namespace varnok

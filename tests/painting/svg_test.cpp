@@ -146,9 +146,17 @@ QString geschrieben(const QTemporaryDir& Ordner, const QString& Name, const QByt
     return Datei.fileName();
 }
 
+// Names that would break a careless file.
+Lauf_bauer mit_feindlichem_Namen() {
+    Lauf_bauer b;
+    b.Felder.Beschreibung = "a & b <c> ]]> --> \"q\" 'n' &#0; \x01 \xC2\xB5 \xE6\x97\xA5";
+    b.Felder.Name_Wirkstoff = "<script>alert(1)</script> & url(#surface)";
+    return b;
+}
+
 TEST(SVG, is_opened_by_a_drawing_program) {
     const QTemporaryDir Ordner;
-    const QString SVG = geschrieben(Ordner, QStringLiteral("a.svg"), SVG_von(Lauf_bauer()));
+    const QString SVG = geschrieben(Ordner, QStringLiteral("a.svg"), SVG_von(mit_feindlichem_Namen()));
     const QString PNG = Ordner.filePath(QStringLiteral("a.png"));
     if (!rufe("inkscape", {SVG, QStringLiteral("--export-filename=") + PNG})) GTEST_SKIP() << "inkscape is not installed";
     const QImage Bild(PNG);
@@ -159,7 +167,7 @@ TEST(SVG, is_opened_by_a_drawing_program) {
 // In a page that a word processor turns into a PDF its texts are found again.
 TEST(SVG, is_opened_by_a_word_processor) {
     const QTemporaryDir Ordner;
-    geschrieben(Ordner, QStringLiteral("a.svg"), SVG_von(Lauf_bauer()));
+    geschrieben(Ordner, QStringLiteral("a.svg"), SVG_von(mit_feindlichem_Namen()));
     const QString Seite =
         geschrieben(Ordner, QStringLiteral("a.html"), "<html><body><p>A page</p><img src=\"a.svg\"></body></html>");
     const QString Profil = QStringLiteral("-env:UserInstallation=file://") + Ordner.filePath(QStringLiteral("profile"));
@@ -169,7 +177,9 @@ TEST(SVG, is_opened_by_a_word_processor) {
     const auto Text =
         rufe("pdftotext", {QStringLiteral("-layout"), Ordner.filePath(QStringLiteral("a.pdf")), QStringLiteral("-")});
     if (!Ausgabe || !Text) GTEST_SKIP() << "soffice or pdftotext is not installed";
-    EXPECT_NE(ohne_Luecken(*Text).find("Timeafterfirstapplication(d)"), std::string::npos) << *Text;
+    for (const char* Stelle :
+         {"Timeafterfirstapplication(d)", "concentrationofa&b<c>]]>-->\"q\"'n'&#0;", "<script>alert(1)</script>"})
+        EXPECT_NE(ohne_Luecken(*Text).find(Stelle), std::string::npos) << *Text;
 }
 
 TEST(PDF, has_the_size) {

@@ -17,7 +17,7 @@ namespace {
 Beschriftung gesetzt(const std::string& Text, double Breite, int Zeilen) {
     Beschriftung b;
     b.Text = Text;
-    EXPECT_EQ(setze_Titel(b, Breite, Schriftgroesse_Titel, true, false), Zeilen) << Text;
+    EXPECT_EQ(setze_Titel(b, Breite, Schriftgroesse_Titel, Schriftgroesse_Bericht, true, false), Zeilen) << Text;
     return b;
 }
 
@@ -29,6 +29,17 @@ TEST(Titelsatz, one_line_where_it_fits) {
 
 TEST(Titelsatz, two_lines_of_about_the_same_width_where_it_does_not) {
     EXPECT_EQ(gesetzt("first half of it second half of it", 200, 2).Text, "first half of it\nsecond half of it");
+}
+
+// Where both lines find room so, whatever their lengths.
+TEST(Titelsatz, the_second_line_begins_with_a_statement_of_its_own) {
+    EXPECT_EQ(gesetzt("Annual concentration of a long description Study: x", 450, 2).Text,
+              "Annual concentration of a long description\nStudy: x");
+    EXPECT_EQ(gesetzt("Mode: Parent only  - presented substance: x", 300, 2).Text,
+              "Mode: Parent only  -\npresented substance: x");
+    // Else as even as can be.
+    EXPECT_EQ(gesetzt("one two three four five six seven eight Study: x", 250, 2).Text,
+              "one two three four five\nsix seven eight Study: x");
 }
 
 TEST(Titelsatz, smaller_letters_before_a_third_line) {
@@ -44,7 +55,7 @@ TEST(Titelsatz, nothing_is_ever_cut) {
           std::string("x"), std::string("many short words ") + std::string(50, 'i') + " and more of them here"}) {
         Beschriftung b;
         b.Text = Text;
-        setze_Titel(b, 100, Schriftgroesse_Titel, true, false);
+        setze_Titel(b, 100, Schriftgroesse_Titel, Schriftgroesse_Bericht, true, false);
         QString ohne_Umbruch = in_Qt(b.Text);
         EXPECT_EQ(ohne_Umbruch.remove(u'\n').remove(u' '), in_Qt(Text).remove(u' '));
         for (const QString& Zeile : in_Qt(b.Text).split(u'\n'))
@@ -71,6 +82,22 @@ TEST(Titelsatz, of_a_picture_is_centred_over_the_axes_and_larger_than_the_commen
             EXPECT_TRUE(!s.kursiv || s.Groesse < Schriftgroesse_Titel);
         }
         EXPECT_EQ(Titelzeilen, b.Felder.Beschreibung.empty() ? 1 : 2);
+    }
+}
+
+// On a small picture a long title has smaller letters, and the comment still smaller ones.
+TEST(Titelsatz, the_comment_is_smaller_than_any_title) {
+    for (const std::size_t Laenge : {10U, 60U, 120U, 250U}) {
+        Lauf_bauer l;
+        for (std::size_t i = 0; i < Laenge; ++i) l.Felder.Beschreibung += i % 8 == 7 ? ' ' : 'e';
+        const Zeichenliste z = mit_Beschriftung(Wirkstoffdiagramm(l), {.Groesse = {453, 340}});
+        int Titel = 0, Kommentar = 0;
+        for (const Schriftzug& s : z.Texte) {
+            if (s.Inhalt.starts_with("Annual")) Titel = s.Groesse;
+            if (s.kursiv) Kommentar = std::max(Kommentar, s.Groesse);
+        }
+        EXPECT_GT(Kommentar, 0);
+        EXPECT_LT(Kommentar, Titel) << Laenge;
     }
 }
 

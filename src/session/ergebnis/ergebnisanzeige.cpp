@@ -61,4 +61,9 @@ Tabellentext Ergebnisse_aller_Studien(const Zustand& z, int i_substanz) {
     });
 }
 
+int Zeile_des_Mittelwerts(const Ansicht& a) {
+    constexpr int davor = 2;  // head and PECmax
+    return davor + a.TWA_Laenge;
+}
+
 }  // namespace varnok

@@ -10,4 +10,7 @@ namespace varnok {
 Tabellentext Ergebnisse_einer_Studie(const Zustand& z, int i_substanz);
 Tabellentext Ergebnisse_aller_Studien(const Zustand& z, int i_substanz);
 
+// The row of both for the average that the diagrams show.
+int Zeile_des_Mittelwerts(const Ansicht& a);
+
 }  // namespace varnok

@@ -34,6 +34,8 @@ constexpr Seite Seiten[] = {
     {"untere_Zeile", "docs/glossary.md", "Results"},
     {"Berechnungsmodus", "docs/glossary.md", "Results"},
     {"Bericht", "docs/glossary.md", "Reports and batch"},
+    {"Ergebnis", "docs/glossary.md", "Results"},
+    {"Diagramm", "README.md", "In the window"},
     {"", "README.md", "In the window"},
 };
 

@@ -10,6 +10,8 @@ namespace {
 constexpr const char* Satzliste =
     "Right click or F2: rename. Ctrl+D: copy. Ctrl+Delete: delete. Shift+F10: menu. Letters search the open list";
 constexpr const char* Tafel = "Drag: move. Double click: hide (View brings it back). Click a cell, Ctrl+C: copy";
+constexpr const char* Diagramm =
+    "Arrows: read off (Ctrl: peaks). Click or F6: next diagram. F7: time range. Shift + drag or wheel: zoom. Home: whole range";
 constexpr const char* Legende = "Drag: move. Double click: hide (View brings it back)";
 constexpr const char* Zahl = "Enter: calculate. Esc: the value before. F1: meaning, range and unit";
 
@@ -23,6 +25,8 @@ constexpr Zeile Zeilen[] = {
     {"Studie", "Right click or F2: rename. Ctrl+Delete: delete. Shift+F10: menu"},
     {"Beschreibung", "Right click or F2: change it. Enter keeps the change, Esc drops it. Double click: all simulations"},
     {"Applikationsschema", "Digits write into a cell. Delete empties it. Enter: calculate. Ctrl+C, Ctrl+V: copy, paste"},
+    {"Diagramm", Diagramm},
+    {"Diagramm_Zusammenfassung", Diagramm},
     {"Ergebnisse", Tafel},
     {"Ergebnisse_Zusammenfassung", Tafel},
     {"Ergebnisrahmen", Tafel},

@@ -3,7 +3,6 @@
 
 #include <QFontInfo>
 #include <QLabel>
-#include <QMouseEvent>
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
@@ -23,10 +22,8 @@ namespace {
 using namespace Qt::StringLiterals;
 
 constexpr double gewohnte_Schrift = 12;  // pixels of the usual letters of a desktop
-constexpr double Schildrand = 2;         // units around a label
-constexpr double Fangweite = 4;          // units within which a peak is met
-constexpr double kuerzester_Zug = 6;     // pixels, to tell it from a click
-constexpr Qt::KeyboardModifiers Tasten = Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier;
+constexpr double Schildrand = 2;         // units below the title and around a name
+constexpr double Seitenrand = 6;         // units beside a title
 
 // Units that a line of a label takes.
 double Zeilenhoehe_Schild() { return std::ceil(QFontMetricsF(Diagrammschrift(Schriftgroesse_Fenster, true)).height()); }
@@ -43,7 +40,7 @@ Diagrammflaeche::Diagrammflaeche(bool Zusammenfassung, int Nummer, const QString
     setAccessibleName(u"Diagram"_s);
     setPalette(helle_Palette(Qt::white));
     setMouseTracking(true);
-    setStatusTip(u"Click: next diagram (F6). Right click: time range (F7). Shift + drag or wheel: zoom. Home: whole range"_s);
+    setFocusPolicy(Qt::TabFocus);  // a click shows the next diagram
     const std::array<QString, 4> Namen = {u"Diagrammtitel"_s, u"Diagrammkommentar"_s, u"Name_x_Achse"_s, u"Name_y_Achse"_s};
     for (std::size_t i = 0; i < Namen.size(); ++i) Schilder_[i] = erstelle_Schild(Namen[i], Endung);
     Ablesungsschild_ = erstelle_Schild(u"Ablesung"_s, Endung);
@@ -55,6 +52,10 @@ Diagrammflaeche::Diagrammflaeche(bool Zusammenfassung, int Nummer, const QString
     if (mehrfach) return;
     Tafel_ = new Ergebnisrahmen(Endung, Ergebnistitel, this);
     connect(Tafel_, &Flaechenrahmen::betreten, this, &Diagrammflaeche::verbirg_Ablesung);
+    connect(Tafel_, &Ergebnisrahmen::umgeklappt, this, [this] {
+        ordne_Tafel(Tafelsatz_);
+        ordne_Rahmen();
+    });
 }
 
 QLabel* Diagrammflaeche::erstelle_Schild(const QString& Name, const QString& Endung) {
@@ -71,7 +72,6 @@ void Diagrammflaeche::zeige(const Diagramm& d, int Anblick) {
     Legende_->zeige(d.Legendeninhalt, d.Nummer);
     Legende_->erlaube(true);
     if (Tafel_) Tafel_->setze_Titel(in_Qt(d.Ergebnistitel));
-    setAccessibleDescription(in_Qt(d.Titel.Text) + u'\n' + in_Qt(d.Kommentar.Text));
     ordne();
 }
 
@@ -92,7 +92,7 @@ void Diagrammflaeche::hole_Rahmen_heim() {
 }
 
 void Diagrammflaeche::ordne() {
-    verbirg_Ablesung();
+    zeige_Ablesung(std::nullopt);
     Massstab_ = std::clamp(QFontInfo(font()).pixelSize() / gewohnte_Schrift, 1.0, 2.0);
     Bild_ = {};
     const double Zeile = Zeilenhoehe_Schild();
@@ -109,10 +109,11 @@ void Diagrammflaeche::ordne() {
     ordne_Schilder();
     Legende_->ordne(width(), Massstab_);
     if (Tafel_) {
-        const double Achse = Inhalt_ ? auf_Flaeche(rect(), Liste_.System, {0, 0}).y() : height();
-        Tafel_->ordne(size(), static_cast<int>(Achse));
+        waehle_Tafelsatz();
+        ordne_Tafel(Tafelsatz_);
     }
     ordne_Rahmen();
+    zeige_Lesestelle();
     update();
 }
 
@@ -125,31 +126,54 @@ Rahmenfeld Diagrammflaeche::Feld() const {
     return f;
 }
 
+std::vector<Flaechenrahmen*> Diagrammflaeche::sichtbare_Rahmen() const {
+    std::vector<Flaechenrahmen*> sichtbare;
+    for (Flaechenrahmen* r : {static_cast<Flaechenrahmen*>(Legende_), static_cast<Flaechenrahmen*>(Tafel_)}) {
+        if (r && !r->isHidden()) sichtbare.push_back(r);
+    }
+    return sichtbare;
+}
+
+std::vector<Rahmenwunsch> Diagrammflaeche::Wuensche() const {
+    std::vector<Rahmenwunsch> Liste;
+    for (const Flaechenrahmen* r : sichtbare_Rahmen()) {
+        const auto Anteil = in_Anteilen(r->rect(), size());
+        Liste.push_back({Anteil.Breite, Anteil.Hoehe, r->Heimat(), r->gezogen(), Plaetze_.at(r == Tafel_), steht_fest()});
+    }
+    return Liste;
+}
+
 void Diagrammflaeche::ordne_Rahmen() {
     const QSizeF g = size();
-    const std::pair jetzt(Anblick_, size());
-    const std::array<Flaechenrahmen*, 2> alle = {Legende_, Tafel_};
-    std::vector<Rahmenwunsch> Wuensche;
-    std::vector<std::size_t> welche;
-    for (std::size_t i = 0; i < alle.size(); ++i) {
-        if (!alle[i] || alle[i]->isHidden()) continue;
-        const auto Anteil = in_Anteilen(alle[i]->rect(), g);
-        Wuensche.push_back(
-            {Anteil.Breite, Anteil.Hoehe, alle[i]->Heimat(), alle[i]->gezogen(), Plaetze_[i], gestellt_fuer_ == jetzt});
-        welche.push_back(i);
+    const std::vector<Rahmenstand> Staende = varnok::ordne_Rahmen(Feld(), Wuensche());
+    auto Stand = Staende.begin();
+    for (Flaechenrahmen* r : sichtbare_Rahmen()) {
+        r->stelle(QPointF(Stand->Ort.links * g.width(), Stand->Ort.oben * g.height()).toPoint());
+        if (gesehen_) Plaetze_.at(r == Tafel_) = Stand->Platz;
+        ++Stand;
     }
-    const std::vector<Rahmenstand> Staende = varnok::ordne_Rahmen(Feld(), Wuensche);
-    for (std::size_t k = 0; k < welche.size(); ++k) {
-        const Rahmenstand& s = Staende[k];
-        alle[welche[k]]->stelle(QPointF(s.Ort.links * g.width(), s.Ort.oben * g.height()).toPoint());
-        if (gesehen_) Plaetze_[welche[k]] = s.Platz;
+    gestellt_fuer_ = {Anblick_, size()};
+}
+
+void Diagrammflaeche::ordne_Tafel(Tafelsatz s) {
+    const double Achse = Inhalt_ ? auf_Flaeche(rect(), Liste_.System, {0, 0}).y() : height();
+    Tafel_->ordne(size(), static_cast<int>(Achse), s);
+}
+
+void Diagrammflaeche::waehle_Tafelsatz() {
+    if (!Inhalt_ || Tafel_->isHidden() || (steht_fest() && gesehen_)) return;
+    std::vector<Rahmengroesse> Groessen;
+    for (const Tafelsatz s : {Tafelsatz::gewohnt, Tafelsatz::klein, Tafelsatz::gefaltet}) {
+        ordne_Tafel(s);
+        const auto Anteil = in_Anteilen(Tafel_->rect(), size());
+        Groessen.push_back({Anteil.Breite, Anteil.Hoehe});
     }
-    gestellt_fuer_ = jetzt;
+    Tafelsatz_ = static_cast<Tafelsatz>(waehle_Groesse(Feld(), Wuensche(), Groessen));
 }
 
 double Diagrammflaeche::bestimme_Kopf() {
     constexpr int kleinster_Titel = 9;
-    const double Breite = Groesse().width() - 2 * Schildrand - 1;
+    const double Breite = Groesse().width() - 2 * Seitenrand - 1;
     Titelsatz_ = setze_in_zwei_Zeilen(in_Qt(Inhalt_->Titel.Text), Breite, Schriftgroesse_Titel, kleinster_Titel, true, false);
     const int Kommentargroesse = std::min(Schriftgroesse_Fenster, Titelsatz_.Groesse - 1);
     Kommentarsatz_ =
@@ -166,7 +190,7 @@ void Diagrammflaeche::setze_Schild(Schildname s, const Beschriftung& b, const Ti
     QFont Schrift = Diagrammschrift(Satz.Groesse, b.fett);
     Schrift.setPixelSize(static_cast<int>(std::lround(Schrift.pixelSize() * Massstab_)));
     const QFontMetrics Masse(Schrift);
-    const auto Rand = static_cast<int>(Schildrand * Massstab_);
+    const auto Rand = static_cast<int>((mittig ? Seitenrand : Schildrand) * Massstab_);
     QStringList Zeilen;
     int Breite = 0;
     for (const QString& z : Satz.Zeilen) {
@@ -250,87 +274,5 @@ void Diagrammflaeche::paintEvent(QPaintEvent*) {
 }
 
 void Diagrammflaeche::resizeEvent(QResizeEvent*) { ordne(); }
-
-void Diagrammflaeche::changeEvent(QEvent* e) {
-    QWidget::changeEvent(e);
-    if (e->type() == QEvent::FontChange) ordne();
-    if (e->type() == QEvent::EnabledChange) verbirg_Ablesung();
-}
-
-void Diagrammflaeche::mousePressEvent(QMouseEvent* e) {
-    const bool mit_Taste = e->modifiers() & Tasten;
-    if (e->button() == Qt::LeftButton && mit_Taste) {
-        if (Inhalt_) Auswahl_ = {e->position().x(), e->position().x()};
-    } else if (e->button() == Qt::LeftButton) {
-        Q_EMIT weiterzuschalten();
-    } else if (e->button() == Qt::RightButton) {
-        if (mit_Taste) {
-            hole_Rahmen_heim();
-        } else {
-            Q_EMIT zu_skalieren();
-        }
-    }
-    e->accept();
-}
-
-// Each press counts.
-void Diagrammflaeche::mouseDoubleClickEvent(QMouseEvent* e) { mousePressEvent(e); }
-
-void Diagrammflaeche::mouseMoveEvent(QMouseEvent* e) {
-    if (!Auswahl_) return zeige_Ablesung(e->position());
-    Auswahl_->second = e->position().x();
-    update();
-}
-
-void Diagrammflaeche::mouseReleaseEvent(QMouseEvent* e) {
-    if (!Auswahl_ || e->button() != Qt::LeftButton) return;
-    const auto [von, bis] = std::minmax(Auswahl_->first, Auswahl_->second);
-    Auswahl_.reset();
-    update();
-    if (bis - von >= kuerzester_Zug) Q_EMIT Zeitraum_gezogen(Tag_bei(von), Tag_bei(bis));
-}
-
-void Diagrammflaeche::wheelEvent(QWheelEvent* e) {
-    constexpr double Raste = 120;
-    if (Inhalt_ && e->angleDelta().y() != 0)
-        Q_EMIT gedreht(std::pow(0.8, e->angleDelta().y() / Raste), Tag_bei(e->position().x()));
-    e->accept();
-}
-
-Punkt Diagrammflaeche::logisch_bei(const QPointF& Ort) const {
-    const Koordinaten& k = Liste_.System;
-    return {k.links + Ort.x() / width() * k.Breite(), k.oben - Ort.y() / height() * k.Hoehe()};
-}
-
-void Diagrammflaeche::leaveEvent(QEvent*) { verbirg_Ablesung(); }
-
-void Diagrammflaeche::verbirg_Ablesung() {
-    Ablesungsschild_->hide();
-    if (!Ablesepunkt_) return;
-    Ablesepunkt_.reset();
-    update();
-}
-
-void Diagrammflaeche::zeige_Ablesung(const QPointF& Ort) {
-    if (!Inhalt_) return;
-    const Koordinaten& k = Liste_.System;
-    Punkt p = logisch_bei(Ort);
-    // The first and the last day can be met from outside too.
-    const Punkt Einheit = {Massstab_ / width() * k.Breite(), Massstab_ / height() * k.Hoehe()};
-    if (std::abs(p.x - std::clamp(p.x, Achsen_.links, Achsen_.rechts)) < 5 * Einheit.x)
-        p.x = std::clamp(p.x, Achsen_.links, Achsen_.rechts);
-    const std::optional<Ablesung> a =
-        p.y >= 0 ? lies_ab(*Inhalt_, p, {Fangweite * Einheit.x, Fangweite * Einheit.y}) : std::nullopt;
-    if (!a) {
-        verbirg_Ablesung();
-        return;
-    }
-    const QString Text = in_Qt(Ablesungstext(*Inhalt_, *a));
-    Ablesungsschild_->setText(Ablesungsschild_->fontMetrics().elidedText(Text, Qt::ElideRight, Ablesungsschild_->width()));
-    Ablesungsschild_->show();
-    Ablesefarbe_ = a->Farbe;
-    Ablesepunkt_ = auf_Flaeche(rect(), k, {static_cast<double>(a->Tag), static_cast<double>(a->Wert)});
-    update();
-}
 
 }  // namespace varnok

@@ -11,6 +11,7 @@
 
 #include "diagrams/diagramm.h"
 #include "diagrams/diagrammsaetze.h"
+#include "diagrams/lesegang.h"
 #include "diagrams/rahmenlage.h"
 #include "painting/titelsatz.h"
 
@@ -19,7 +20,9 @@ class QLabel;
 namespace varnok {
 
 class Ergebnisrahmen;
+class Flaechenrahmen;
 class Legendenrahmen;
+enum class Tafelsatz;
 
 // The surface of one diagram, light on any desktop: the drawing, and standing on it labels, legend and the grid of
 // results. The painted drawing is kept until another one or another size comes.
@@ -40,6 +43,7 @@ public:
     const std::optional<Diagramm>& Inhalt() const { return Inhalt_; }
     // Legend and results come back to where they stood at first.
     void hole_Rahmen_heim();
+    // That of the mouse; one by keys comes back.
     void verbirg_Ablesung();
     // What frames must not cover, as it is shown now.
     Rahmenfeld Feld() const;
@@ -64,6 +68,8 @@ protected:
     void mouseReleaseEvent(QMouseEvent* e) override;
     void wheelEvent(QWheelEvent* e) override;
     void leaveEvent(QEvent* e) override;
+    void keyPressEvent(QKeyEvent* e) override;
+    void focusOutEvent(QFocusEvent* e) override;
 
 private:
     enum Schildname { Titel, Kommentar, x_Achse, y_Achse };
@@ -75,7 +81,16 @@ private:
     void ordne_Ablesung();
     void setze_Schild(Schildname s, const Beschriftung& b, const Titelsatz& Satz, const QPointF& Ort, bool mittig);
     void ordne_Rahmen();
-    void zeige_Ablesung(const QPointF& Ort);
+    std::vector<Flaechenrahmen*> sichtbare_Rahmen() const;
+    std::vector<Rahmenwunsch> Wuensche() const;
+    // Nothing has happened that frames leave their places for.
+    bool steht_fest() const { return gestellt_fuer_ == std::pair(Anblick_, size()); }
+    void ordne_Tafel(Tafelsatz s);
+    void waehle_Tafelsatz();
+    void lies_ab_bei(const QPointF& Ort);
+    void zeige_Ablesung(const std::optional<Ablesung>& a);
+    // The place that keys have led to, also for those who hear it.
+    void zeige_Lesestelle();
     void male_Bild();
     // The place of the drawing under a pixel.
     Punkt logisch_bei(const QPointF& Ort) const;
@@ -97,9 +112,11 @@ private:
     QLabel* Ablesungsschild_;
     std::optional<QPointF> Ablesepunkt_;
     int Ablesefarbe_ = 0;
+    std::optional<Lesestelle> Lesestelle_;              // while keys read off
     std::optional<std::pair<double, double>> Auswahl_;  // pixels from left to right, while days are marked
     Legendenrahmen* Legende_;
     Ergebnisrahmen* Tafel_ = nullptr;
+    Tafelsatz Tafelsatz_ = {};
     // Where frames stand that were not dragged, and what they were placed for; nothing before that has been seen.
     std::array<std::optional<Rahmenplatz>, 2> Plaetze_;
     int Anblick_ = 0;

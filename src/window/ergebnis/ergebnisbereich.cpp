@@ -122,10 +122,11 @@ void Ergebnisbereich::bestimme_Zeilen() {
 
 void Ergebnisbereich::fuelle_Tafeln(const Seite& s) {
     const int n = static_cast<int>(s.Zusammenfassungen.size());
+    const int wichtig = Zeile_des_Mittelwerts(Sicht());
     for (int c = 0; c < n; ++c) {
         const auto k = static_cast<std::size_t>(c);
         if (Stand().Zusammenfassung_aktiv()) {
-            s.Zusammenfassungen[k]->Tafel()->zeige(Ergebnisse_aller_Studien(Stand(), c));
+            s.Zusammenfassungen[k]->Tafel()->zeige(Ergebnisse_aller_Studien(Stand(), c), wichtig);
             continue;
         }
         Tabellentext Tabelle = Ergebnisse_einer_Studie(Stand(), c);
@@ -134,7 +135,7 @@ void Ergebnisbereich::fuelle_Tafeln(const Seite& s) {
         } else {
             Tabelle.pop_back();
         }
-        s.Diagramme[k]->Tafel()->zeige(Tabelle);
+        s.Diagramme[k]->Tafel()->zeige(Tabelle, wichtig);
     }
 }
 
@@ -166,7 +167,10 @@ void Ergebnisbereich::zeige_Ergebnisse(Seite& s) {
         if (mit_Tafel) fuelle_Tafeln(s);
         fuelle_Diagramme(s);
     }
+    // Who reads off by keys goes on with the diagram that comes.
+    const bool im_Fokus = s.Stapel->currentWidget()->hasFocus();
     s.Stapel->setCurrentWidget(Flaeche_vorn(s));
+    if (im_Fokus) s.Stapel->currentWidget()->setFocus();
 }
 
 void Ergebnisbereich::zeige() {

@@ -1,10 +1,12 @@
 #include "window/ergebnis/ergebnisrahmen.h"
 
+#include <QFontInfo>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QRegularExpression>
 #include <QSet>
 #include <QStyle>
 #include <QStyledItemDelegate>
@@ -13,10 +15,12 @@
 #include <QVBoxLayout>
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 #include "painting/qt_text.h"
 #include "session/ergebnis/studienkoepfe.h"
 #include "window/kern/bausteine.h"
+#include "window/kern/fokus.h"
 #include "window/kern/rahmenfarben.h"
 #include "window/kern/zwischenablage.h"
 
@@ -34,6 +38,7 @@ struct Abstaende {
 };
 constexpr Abstaende weit = {6, 4};
 constexpr Abstaende eng = {3, 2};
+constexpr Abstaende knapp = {2, 1};
 
 constexpr int Kopfrolle = Qt::UserRole;  // what is seen of the text of a head
 constexpr int Zellenrand = 8;
@@ -141,7 +146,8 @@ protected:
 Ergebnisrahmen::Ergebnisrahmen(const QString& Endung, const QString& Titel, QWidget* parent)
     : Flaechenrahmen("Ergebnisrahmen"_L1 + Endung, Heimat_Ergebnis, parent),
       Titel_(Ueberschrift(Titel, this)),
-      Tafel_(new Ergebnistafel(0, 0, this)) {
+      Tafel_(new Ergebnistafel(0, 0, this)),
+      Rest_(new QLabel(this)) {
     Titel_->setObjectName("Ergebnistitel"_L1 + Endung);
     Titel_->setWordWrap(true);
     setAccessibleName(u"Results"_s);
@@ -171,8 +177,14 @@ Ergebnisrahmen::Ergebnisrahmen(const QString& Endung, const QString& Titel, QWid
     Spalte->setSpacing(weit.unter_Titel);
     Spalte->addWidget(Titel_);
     Spalte->addWidget(Tafel_);
+    Spalte->addWidget(Rest_);
+    Rest_->setObjectName("Tafelrest"_L1 + Endung);
+    Rest_->setAlignment(Qt::AlignRight);
+    Rest_->hide();
     reiche_weiter(Titel_);
+    reiche_weiter(Rest_);
     reiche_weiter(Tafel_->viewport());
+    Tafel_->installEventFilter(this);
 }
 
 void Ergebnisrahmen::setze_Titel(const QString& Titel) {
@@ -180,7 +192,8 @@ void Ergebnisrahmen::setze_Titel(const QString& Titel) {
     Tafel_->setAccessibleName(Titel);
 }
 
-void Ergebnisrahmen::zeige(const Tabellentext& Tabelle) {
+void Ergebnisrahmen::zeige(const Tabellentext& Tabelle, int wichtig) {
+    wichtig_ = wichtig;
     Tafel_->setRowCount(static_cast<int>(Tabelle.size()));
     Tafel_->setColumnCount(Tabelle.empty() ? 0 : static_cast<int>(Tabelle.front().size()));
     const QColor Kopf = QColor(230, 233, 232);
@@ -201,25 +214,85 @@ void Ergebnisrahmen::zeige(const Tabellentext& Tabelle) {
     }
 }
 
-void Ergebnisrahmen::ordne(const QSize& Flaeche, int Achsenhoehe) {
-    const int n = std::max(1, Tafel_->columnCount());
+int Ergebnisrahmen::Platz_fuer_Spalten(int Flaechenbreite) const {
     const QMargins Rand = layout()->contentsMargins();
-    // The grid of many studies takes no more than two thirds of the surface, as far as its numbers let it.
-    const int schmal = std::max(Ziffern(*this, 8), Flaeche.width() * 2 / 3 / n);
-    const int passend = (Flaeche.width() - 12 - Rand.left() - Rand.right()) / n;
+    return Flaechenbreite - 12 - Rand.left() - Rand.right();
+}
+
+int Ergebnisrahmen::Spaltenbreite(int Flaechenbreite) const {
+    const int n = std::max(1, Tafel_->columnCount());
+    const int passend = Platz_fuer_Spalten(Flaechenbreite) / n;
     const double gewohnte =
-        Flaeche.width() < Ziffern(*this, 66) ? 9.5 : 11;  // on a small surface there is a legend to leave room for
-    const int Spalte = std::max(1, std::min({Ziffern(*this, gewohnte), n > 3 ? schmal : passend, passend}));
-    for (int j = 0; j < n; ++j) Tafel_->setColumnWidth(j, Spalte);
-    const int Breite = Spalte * n;
+        Flaechenbreite < Ziffern(*this, 66) ? 9.5 : 11;  // on a small surface there is a legend to leave room for
+    if (n <= 3) return std::max(1, std::min(Ziffern(*this, gewohnte), passend));
+    // The grid of many studies takes no more than two thirds of the surface, as far as its numbers let it.
+    const int noetig = Ziffern(*this, Satz_ == Tafelsatz::gewohnt ? 8 : 7);
+    const int erlaubt = std::max(noetig, Flaechenbreite * 2 / 3 / n);
+    const int Wort = Kopfwortbreite();
+    const int bequem = std::max(Ziffern(*this, gewohnte), Wort <= erlaubt ? Wort : 0);
+    return std::max(1, std::min({bequem, erlaubt, passend}));
+}
+
+int Ergebnisrahmen::Kopfwortbreite() const {
+    static const QRegularExpression Ende(u"(?<=-)| "_s);
+    int Breite = 0;
+    for (int j = 1; j < Tafel_->columnCount(); ++j) {
+        const QTableWidgetItem* Kopf = Tafel_->item(0, j);
+        for (const QString& Wort : Kopf ? Kopf->text().split(Ende) : QStringList())
+            Breite = std::max(Breite, fontMetrics().horizontalAdvance(Wort) + Zellenrand + 1);
+    }
+    return Breite;
+}
+
+int Ergebnisrahmen::Namensbreite() const {
+    int Breite = 0;
+    for (int i = 0; i < Tafel_->rowCount(); ++i) {
+        if (const QTableWidgetItem* Name = Tafel_->item(i, 0))
+            Breite = std::max(Breite, fontMetrics().horizontalAdvance(Name->text().trimmed()) + Zellenrand);
+    }
+    return Breite;
+}
+
+int Ergebnisrahmen::falte() {
+    int gesehene = 0;
+    for (int i = 0; i < Tafel_->rowCount(); ++i) {
+        const bool gesehen = !zugeklappt() || i < 2 || i == wichtig_;
+        Tafel_->setRowHidden(i, !gesehen);
+        gesehene += gesehen;
+    }
+    const int Rest = Tafel_->rowCount() - gesehene;
+    Rest_->setText(in_Qt(Rest) + u" more rows: click"_s);
+    Rest_->setVisible(Rest > 0);
+    return gesehene;
+}
+
+void Ergebnisrahmen::ordne(const QSize& Flaeche, int Achsenhoehe, Tafelsatz s) {
+    Satz_ = s;
+    QFont Schrift = parentWidget()->font();
+    if (s != Tafelsatz::gewohnt) Schrift.setPixelSize(QFontInfo(Schrift).pixelSize() * 5 / 6);
+    setFont(Schrift);
+    const int Zeilen = falte();
+    const int Spalte = Spaltenbreite(Flaeche.width());
+    const int Rest = Platz_fuer_Spalten(Flaeche.width()) - (Tafel_->columnCount() - 1) * Spalte;
+    for (int j = 0; j < Tafel_->columnCount(); ++j)
+        Tafel_->setColumnWidth(j, j == 0 ? std::max(Spalte, std::min(Namensbreite(), Rest)) : Spalte);
+    const int Breite = std::max(1, Tafel_->horizontalHeader()->length());
     const int Titelhoehe =
         Titel_->fontMetrics().boundingRect(QRect(0, 0, Breite, 1000), Qt::TextWordWrap, Titel_->text()).height();
     const int Platz = Achsenhoehe - static_cast<int>(Heimat_Ergebnis.oben * Flaeche.height()) - Titelhoehe - 4;
-    const bool drei = Zeilen_bis(Platz) >= Tafel_->rowCount() + 2;
+    const bool drei = !zugeklappt() && Zeilen_bis(Platz) >= Zeilen + 2;
     ordne_Zeilen(Platz, ordne_Koepfe(Spalte, drei ? 3 : 2));
     Titel_->setFixedSize(Breite, Titelhoehe);
     Tafel_->setFixedSize(Breite, Tafel_->verticalHeader()->length());
     adjustSize();
+}
+
+bool Ergebnisrahmen::eventFilter(QObject* Kind, QEvent* e) {
+    if (Kind != Tafel_) return Flaechenrahmen::eventFilter(Kind, e);
+    if (e->type() != QEvent::FocusIn && e->type() != QEvent::FocusOut) return false;
+    const bool im_Fokus = e->type() == QEvent::FocusIn || betrifft_nur_Fenster(static_cast<QFocusEvent*>(e)->reason());
+    if (std::exchange(im_Fokus_, im_Fokus) != im_Fokus && Satz_ == Tafelsatz::gefaltet) Q_EMIT umgeklappt();
+    return false;
 }
 
 int Ergebnisrahmen::Zeilen_bis(int Platz) const { return (Platz - weit.ganz()) / fontMetrics().height(); }
@@ -255,13 +328,16 @@ void Ergebnisrahmen::ordne_Zeilen(int Platz, int Kopfzeilen) {
     constexpr int leere_Zeile = 2;
     const int Schrift = fontMetrics().height();
     const int Zeilen = Tafel_->rowCount();
+    if (zugeklappt()) Platz = Zeilen * (Schrift + 3) + weit.ganz();
     const int Textzeilen = std::max(1, Zeilen - 1 + Kopfzeilen);
-    const bool zu_hoch = Textzeilen * Schrift > Platz - weit.ganz();
+    const bool klein = Satz_ == Tafelsatz::klein;
+    const bool zu_hoch = klein || Textzeilen * Schrift > Platz - weit.ganz();
     const bool ohne_letzte = zu_hoch && Zeilen > 1 && letzte_Zeile_leer();
-    const Abstaende& a = zu_hoch ? eng : weit;
+    const Abstaende& a = klein ? knapp : zu_hoch ? eng : weit;
     const int fuer_Zeilen = Platz - a.ganz() - (ohne_letzte ? leere_Zeile : 0);
     // Numbers reach less far down than letters, so a pixel less is enough for them.
-    const int Zeile = std::clamp(fuer_Zeilen / (Textzeilen - (ohne_letzte ? 1 : 0)), Schrift - 1, Schrift + 3);
+    const int hoechste = klein ? Schrift - 1 : Schrift + 3;
+    const int Zeile = std::clamp(fuer_Zeilen / (Textzeilen - (ohne_letzte ? 1 : 0)), Schrift - 1, hoechste);
     layout()->setContentsMargins(8, a.Rand, 8, a.Rand);
     layout()->setSpacing(a.unter_Titel);
     for (int i = 0; i < Zeilen; ++i) Tafel_->setRowHeight(i, i == 0 ? (Kopfzeilen - 1) * Schrift + Zeile : Zeile);
@@ -280,8 +356,9 @@ void Ergebnisrahmen::zeige_Griff(bool gehalten) {
 void Ergebnisrahmen::klicke(const QMouseEvent& e) {
     const QPoint Ort = Tafel_->viewport()->mapFromGlobal(e.globalPosition().toPoint());
     const QModelIndex Zelle = Tafel_->indexAt(Ort);
-    if (!Zelle.isValid()) return;
+    if (!Zelle.isValid() && !zugeklappt()) return;
     Tafel_->setFocus(Qt::MouseFocusReason);
+    if (!Zelle.isValid()) return;
     const QModelIndex Anfang = Tafel_->currentIndex();
     if (!(e.modifiers() & Qt::ShiftModifier) || !Anfang.isValid()) {
         Tafel_->setCurrentCell(Zelle.row(), Zelle.column());

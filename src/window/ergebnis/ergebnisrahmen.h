@@ -8,19 +8,30 @@ class QTableWidget;
 
 namespace varnok {
 
-// The grid of results upon a diagram, under its title. Cells can be selected by click and copied.
+// How a grid is set, as `waehle_Groesse` counts: in the letters of the desktop, in smaller ones, or its most important rows
+// alone.
+enum class Tafelsatz { gewohnt, klein, gefaltet };
+
+// The grid of results upon a diagram, under its title. Cells can be selected by click and copied. Where it
+// is folded a click or the focus shows all rows as long as it has the focus.
 class Ergebnisrahmen : public Flaechenrahmen {
     Q_OBJECT
 public:
     // `Endung`: what the object names end in, e.g. "_4" or "_Zusammenfassung_2".
     Ergebnisrahmen(const QString& Endung, const QString& Titel, QWidget* parent);
 
-    void zeige(const Tabellentext& Tabelle);
+    // `wichtig`: the row that is seen with the first two where others are not.
+    void zeige(const Tabellentext& Tabelle, int wichtig);
     void setze_Titel(const QString& Titel);
     // In the present font, on a surface of that size whose time axis lies at that height.
-    void ordne(const QSize& Flaeche, int Achsenhoehe);
+    void ordne(const QSize& Flaeche, int Achsenhoehe, Tafelsatz s);
+
+Q_SIGNALS:
+    // It wants to be set anew.
+    void umgeklappt();
 
 protected:
+    bool eventFilter(QObject* Kind, QEvent* e) override;
     void zeige_Griff(bool gehalten) override;
     void klicke(const QMouseEvent& e) override;
 
@@ -30,11 +41,22 @@ private:
     // Lines of letters that stand between title and time axis.
     int Zeilen_bis(int Platz) const;
     bool letzte_Zeile_leer() const;
+    int Platz_fuer_Spalten(int Flaechenbreite) const;
+    int Spaltenbreite(int Flaechenbreite) const;
+    int Namensbreite() const;    // of the names of the rows
+    int Kopfwortbreite() const;  // of the longest word that the head of a study cannot break
+    // Hides rows, and gives how many are seen.
+    int falte();
+    bool zugeklappt() const { return Satz_ == Tafelsatz::gefaltet && !im_Fokus_; }
     // Heights of the rows, of which the first has so many lines, for that room between title and time axis.
     void ordne_Zeilen(int Platz, int Kopfzeilen);
 
     QLabel* Titel_;
     QTableWidget* Tafel_;
+    QLabel* Rest_;  // what is to be said of rows that are not seen
+    Tafelsatz Satz_ = Tafelsatz::gewohnt;
+    int wichtig_ = 0;
+    bool im_Fokus_ = false;
 };
 
 }  // namespace varnok

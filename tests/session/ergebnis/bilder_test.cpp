@@ -7,6 +7,7 @@
 #include "painting/bildausgabe.h"
 #include "painting/bildflaeche.h"
 #include "painting/zeichner.h"
+#include "records/dateien.h"
 #include "session/kern/probesitzung.h"
 
 namespace varnok {
@@ -124,6 +125,69 @@ TEST_F(Ausgelieferte_Bilder, have_no_point_of_a_curve_under_a_text) {
     }
     RecordProperty("pictures", Bilder_);
     RecordProperty("with_a_curve_behind_the_legend", mit_Kurve_hinter_Legende_);
+}
+
+std::vector<std::string> Zeilen(const std::string& Text) {
+    std::vector<std::string> Liste;
+    for (std::size_t i = 0, Ende = Text.find("\r\n"); Ende != std::string::npos; i = Ende + 2, Ende = Text.find("\r\n", i))
+        Liste.push_back(Text.substr(i, Ende - i));
+    return Liste;
+}
+
+// What the data file of the diagram in front holds with a point and with a comma: all of the same, the lines of the days number
+// by number.
+std::string Daten_mit_beiden_Zeichen(Sitzung& s, const std::string& Pfad) {
+    const auto gelesen = [&](char Dezimalzeichen) {
+        s.fuehre_aus<&Bildsteuerung::speichere_Daten>(Pfad, Dezimalzeichen);
+        EXPECT_EQ(s.Stand().Statuszeile.Text(), "Data written: " + Pfad);
+        return lies_Datei(Pfad);
+    };
+    const std::string mit_Punkt = gelesen('.');
+    const auto Punkt = Zeilen(mit_Punkt), Komma = Zeilen(gelesen(','));
+    EXPECT_EQ(Punkt.size(), Komma.size());
+    int Tage = 0;
+    for (std::size_t i = 0; i < std::min(Punkt.size(), Komma.size()); ++i) {
+        if (Punkt[i].empty() || Punkt[i].find_first_not_of("0123456789.,E-") != std::string::npos) continue;
+        std::string Zeile = Komma[i];
+        std::replace(Zeile.begin(), Zeile.end(), ',', '.');
+        std::replace(Zeile.begin(), Zeile.end(), ';', ',');
+        EXPECT_EQ(Zeile, Punkt[i]);
+        ++Tage;
+    }
+    EXPECT_GE(Tage, 365);
+    EXPECT_EQ(static_cast<std::size_t>(Tage), s.zeige<Diagrammsteuerung>().vorderes()->Kurven.front().Werte.size());
+    return mit_Punkt;
+}
+
+int Vorkommen(const std::string& Text, const std::string& Gesuchtes) {
+    int n = 0;
+    for (std::size_t i = Text.find(Gesuchtes); i != std::string::npos; i = Text.find(Gesuchtes, i + 1)) ++n;
+    return n;
+}
+
+TEST_F(Ausgelieferte_Bilder, data_hold_every_curve_every_box_and_every_table) {
+    const auto Simulationen = s_->Stand().Listen[Simulation];
+    const auto Platz = std::find(Simulationen.begin(), Simulationen.end(), "Sugar beet, Compound E") - Simulationen.begin();
+    s_->fuehre_aus<&Satzverwaltung::waehle_Simulation>(static_cast<int>(Platz));
+    s_->fuehre_aus<&Listenwahl::waehle_PEC_Typ>(jaehrlich);
+    for (int i = 0; i < 3; ++i) s_->fuehre_aus<&Diagrammsteuerung::schalte_weiter>();
+    const std::string Pfad = (Wurzel_ / "output" / "data.csv").string();
+    const std::string Stoffe = Daten_mit_beiden_Zeichen(*s_, Pfad);
+    EXPECT_EQ(Vorkommen(Stoffe, "\r\nday,Compound E (mg/kg),Metabolite E1 (mg/kg),Metabolite E2 (mg/kg)\r\n0,"), 1);
+    for (const char* Stoff : {"Compound E", "Metabolite E1", "Metabolite E2"}) {
+        const std::string Name = std::string("\r\n") + Stoff;
+        EXPECT_EQ(Vorkommen(Stoffe, Name + ","), 1) << Stoff;                                 // its box
+        EXPECT_EQ(Vorkommen(Stoffe, Name + "\r\nTime(d),PECactual,PECtwa\r\n"), 1) << Stoff;  // its table
+    }
+    s_->fuehre_aus<&Listenwahl::zeige_Zusammenfassung>();
+    const std::string Studien = Daten_mit_beiden_Zeichen(*s_, Pfad);
+    EXPECT_EQ(Vorkommen(Studien, "\r\nday,\"Soil 1, first order (mg/kg)\","), 1);
+    for (int st = 1; st <= 6; ++st) {
+        const std::string Name = "\"Soil " + std::to_string(st) + ",";
+        EXPECT_EQ(Vorkommen(Studien, "\r\n" + Name), 1) << st;  // its box
+        EXPECT_EQ(Vorkommen(Studien, "," + Name), 2) << st;     // its columns of curves and of the table
+    }
+    EXPECT_EQ(Vorkommen(Studien, "\r\nTime(d),"), 1);
 }
 
 class Bildprobe : public Probesitzung {};

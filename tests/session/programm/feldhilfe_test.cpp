@@ -93,11 +93,18 @@ TEST_F(Hilfeseiten, marks_of_the_text_are_letters) {
 TEST(Hilfeauslieferung, every_part_of_a_page_is_found_in_the_documentation) {
     const std::string Wurzel = VARNOK_DATENORDNER "/..";
     for (const char* Name : {"Liste_1", "Frame2", "Fruchtwechsel", "Kinetikschema", "Applikationsrahmen", "Szenariorahmen",
-                             "untere_Zeile", "Berechnungsmodus", "Bericht", "Ende"}) {
+                             "untere_Zeile", "Berechnungsmodus", "Bericht", "Ende", "Diagramm_8", "Ergebnisse_8"}) {
         const std::string Text = Feldhilfe({{Name}, "x", {}, Wurzel});
         EXPECT_THAT(Text, HasSubstr("---\n\n## ")) << Name;
         EXPECT_THAT(Text, HasSubstr("docs/batch_at_work.md)"));
     }
+}
+
+TEST(Hilfeauslieferung, a_diagram_has_the_page_that_tells_its_keys) {
+    const std::string Wurzel = VARNOK_DATENORDNER "/..";
+    const std::string Text = Feldhilfe({{"Diagramm_8", "Flaeche", "Berechnungsmodus"}, "Diagram", {}, Wurzel});
+    EXPECT_THAT(Text, HasSubstr("Keys do it while the diagram has the focus"));
+    EXPECT_THAT(Feldhilfe({{"Ergebnisse_8", "Ergebnisrahmen_8", "Diagramm_8"}, "Results", {}, Wurzel}), HasSubstr("## Results"));
 }
 
 TEST(Handhabung, tells_mouse_and_keys_of_what_has_them) {
@@ -105,6 +112,8 @@ TEST(Handhabung, tells_mouse_and_keys_of_what_has_them) {
     EXPECT_EQ(Handhabung("Simulationsliste"), Handhabung("Liste_1"));
     EXPECT_THAT(Handhabung("Beschreibung"), HasSubstr("F2: change it"));
     EXPECT_THAT(Handhabung("Ergebnisse_Zusammenfassung_8"), HasSubstr("Ctrl+C"));
+    EXPECT_THAT(Handhabung("Diagramm_11"), HasSubstr("Arrows: read off"));
+    EXPECT_EQ(Handhabung("Diagramm_Zusammenfassung_8"), Handhabung("Diagramm_0"));
     EXPECT_THAT(Handhabung("S_DT50_1_DFOP_2"), HasSubstr("Esc: the value before"));
     EXPECT_EQ(Handhabung("Copy_1"), "");
     EXPECT_EQ(Handhabung(""), "");

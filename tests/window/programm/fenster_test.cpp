@@ -321,7 +321,7 @@ private Q_SLOTS:
                                       u"Liste_2 Copy_2 Loeschen_2 Applikationsmuster_1"_s,
                                       u"Applikationsrate Anzahl Interzeption Intervall App_Tag App_Monat Fruchtwechsel"_s,
                                       u"Liste_3 Copy_3 Loeschen_3 Edit"_s,
-                                      u"Berechnungsmodus_Leiste Ergebnisse_0"_s,
+                                      u"Berechnungsmodus_Leiste Diagramm_0 Ergebnisse_0"_s,
                                       u"Endpunkt_1 PEC_Typ_0 TWA_Laenge"_s,
                                       u"Aktualisieren speichern Bericht_erstellen Ende"_s};
         QCOMPARE(Weg, erwartet.join(u' ').split(u' '));
