@@ -2,7 +2,6 @@
 
 #include <QFontMetricsF>
 #include <algorithm>
-#include <cmath>
 #include <limits>
 
 #include "painting/zeichner.h"
@@ -10,8 +9,7 @@
 namespace varnok {
 namespace {
 
-constexpr double Luecke = 4;       // between a number and its tick, and between two numbers
-constexpr double Feinabstand = 3;  // fine ticks that stand closer would be a bar
+constexpr double Luecke = 4;  // between a number and its tick, and between two numbers
 
 // The axes as the drawing has them: margins in shares of the axis lengths.
 struct Achsen {
@@ -19,9 +17,6 @@ struct Achsen {
 
     bool an_x_Achse(const Schriftzug& s) const { return s.Ort.y < 0; }
     bool an_y_Achse(const Schriftzug& s) const { return s.Ort.x < Start - Laenge_x / 20; }
-    bool ist_Feinstrich_x(const Linie& l) const { return l.von.x == l.bis.x && ist(-l.bis.y, Laenge_y / 90); }
-    bool ist_Feinstrich_y(const Linie& l) const { return l.von.y == l.bis.y && ist(Start - l.bis.x, Laenge_x / 100); }
-    static bool ist(double Laenge, double erwartet) { return std::abs(Laenge - erwartet) < 0.01 * erwartet; }
 
     double Laenge_x;
     double Start;
@@ -44,16 +39,6 @@ void lichte(std::vector<Schriftzug>& Texte, Gehoert gehoert, Strecke strecke) {
         return false;
     };
     Texte.erase(std::remove_if(Texte.begin(), Texte.end(), stoert), Texte.end());
-}
-
-// Leaves them out where they stand closer than that.
-template <class Gehoert, class Ort>
-void lichte_Feinstriche(std::vector<Linie>& Linien, Gehoert gehoert, Ort ort, double kleinster_Abstand) {
-    const auto erster = std::find_if(Linien.begin(), Linien.end(), gehoert);
-    if (erster == Linien.end()) return;
-    const auto zweiter = std::find_if(erster + 1, Linien.end(), gehoert);
-    if (zweiter == Linien.end() || std::abs(ort(*zweiter) - ort(*erster)) >= kleinster_Abstand) return;
-    Linien.erase(std::remove_if(erster, Linien.end(), gehoert), Linien.end());
 }
 
 struct Raender {
@@ -103,10 +88,6 @@ Koordinaten passe_an_Flaeche(Zeichenliste& z, const QSizeF& Flaeche, const Diagr
     lichte(
         z.Texte, [&](const Schriftzug& s) { return !a.an_x_Achse(s) && s.Ort.x < a.Start; },
         [&](const Schriftzug& s) { return std::pair(s.Ort.y, s.Ort.y + 0.8 * Zeile * y); });
-    lichte_Feinstriche(
-        z.Linien, [&](const Linie& l) { return a.ist_Feinstrich_x(l); }, [](const Linie& l) { return l.von.x; }, Feinabstand * x);
-    lichte_Feinstriche(
-        z.Linien, [&](const Linie& l) { return a.ist_Feinstrich_y(l); }, [](const Linie& l) { return l.von.y; }, Feinabstand * y);
     return {a.Start, a.Laenge_y, a.Start + a.Laenge_x, 0};
 }
 
