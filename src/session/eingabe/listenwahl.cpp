@@ -52,10 +52,6 @@ void Listenwahl::waehle_Muster(Applikationsart m) {
     if (m == z_.Felder().Applikationsmuster) return;
     z_.Felder().Applikationsmuster = m;
     if (!z_.Gestartet) return;
-    fuehre_Muster_aus();
-}
-
-void Listenwahl::fuehre_Muster_aus() {
     merke_Applikation();
     Laeufe_.berechne();
 }

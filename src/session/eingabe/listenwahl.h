@@ -23,7 +23,6 @@ public:
 
     // application pattern
     void waehle_Muster(Applikationsart m);
-    void fuehre_Muster_aus();
     void waehle_Monat(int i);
     void waehle_Tag(int i);
     void waehle_Intervall(int i);

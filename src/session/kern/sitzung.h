@@ -88,7 +88,7 @@ private:
     Zeichenmeldung Zeichen_{z_};
     Projektoeffnung Projekte_{z_, Saetze_};
     Zwischensicherung Zwischenstand_{z_, Saetze_, Felder_};
-    Programmablauf Programm_{z_, Saetze_, Felder_, Listen_, Studien_, Tabelle_, Zwischenstand_};
+    Programmablauf Programm_{z_, Saetze_, Felder_, Laeufe_, Studien_, Tabelle_, Zwischenstand_};
     Wiederherstellung Wiederherstellung_{z_, Saetze_};
     // As the last action left them.
     Eingabe letzte_Vorgabe_;

@@ -92,7 +92,7 @@ bool Optionensteuerung::schliesse() {
     const Optionsentwurf Neue = jetzt();
     merke_Aenderungen(Neue);
     if (Neue.Tips_anzeigen < vorher_.Tips_anzeigen) sage_Tips_ab();
-    rechne();
+    Laeufe_.berechne(true);  // the options concern all studies
     return Neue.Tips_anzeigen > vorher_.Tips_anzeigen;
 }
 
@@ -112,9 +112,6 @@ void Optionensteuerung::sage_Tips_ab() {
     });
     melde(z_, "Tooltips", "The tooltips will be switched off when you exit VARNOK and call it again!");
 }
-
-// The options concern all studies.
-void Optionensteuerung::rechne() { Laeufe_.berechne(true); }
 
 std::optional<std::string> Optionensteuerung::lege_Ordner_an(const std::string& darin, const std::string& Name) {
     if (const std::string Einwand = Einwand_gegen_Namen(Name); !Einwand.empty()) {

@@ -47,7 +47,6 @@ private:
     void setze_Projektpfad(const std::string& Pfad);
     void merke_Aenderungen(const Optionsentwurf& Neue);
     void sage_Tips_ab();
-    void rechne();
 
     Eingabestand& z_;
     Laufsteuerung& Laeufe_;

@@ -104,10 +104,7 @@ bool Programmablauf::oeffne_Projekt() {
 void Programmablauf::starte() {
     if (z_.Gestartet) return;
     z_.Gestartet = true;
-    // The handler of the pattern makes the first run; what it marks is no change of the user.
-    const auto Marken = z_.Marken();
-    Listen_.fuehre_Muster_aus();
-    z_.stelle_Marken(Marken);
+    Laeufe_.berechne();
 }
 
 // What is not saved at the end goes into `backup`; in a project that is open for reading only there is none. False where the user

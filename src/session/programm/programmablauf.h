@@ -2,7 +2,7 @@
 
 #include "session/eingabe/applikationstabelle.h"
 #include "session/eingabe/feldeingabe.h"
-#include "session/eingabe/listenwahl.h"
+#include "session/ergebnis/laufsteuerung.h"
 #include "session/saetze/satzverwaltung.h"
 #include "session/saetze/studienverwaltung.h"
 #include "session/saetze/zwischensicherung.h"
@@ -12,12 +12,12 @@ namespace varnok {
 // From the first file that is read to the end of the program.
 class Programmablauf {
 public:
-    Programmablauf(Zustand& z, Satzverwaltung& Saetze, Feldeingabe& Felder, Listenwahl& Listen, Studienverwaltung& Studien,
+    Programmablauf(Zustand& z, Satzverwaltung& Saetze, Feldeingabe& Felder, Laufsteuerung& Laeufe, Studienverwaltung& Studien,
                    Applikationstabelle& Tabelle, Zwischensicherung& Zwischenstand)
         : z_(z),
           Saetze_(Saetze),
           Felder_(Felder),
-          Listen_(Listen),
+          Laeufe_(Laeufe),
           Studien_(Studien),
           Tabelle_(Tabelle),
           Zwischenstand_(Zwischenstand) {}
@@ -43,7 +43,7 @@ private:
     Zustand& z_;
     Satzverwaltung& Saetze_;
     Feldeingabe& Felder_;
-    Listenwahl& Listen_;
+    Laufsteuerung& Laeufe_;
     Studienverwaltung& Studien_;
     Applikationstabelle& Tabelle_;
     Zwischensicherung& Zwischenstand_;

@@ -27,7 +27,8 @@ void Satzverwaltung::nenne_Unwaehlbare() {
     for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) {
         for (const std::string& Name : z_.Listen[Art]) {
             const std::string Einwand = Einwand_gegen_Text(Name);
-            if (!Einwand.empty()) stelle_voran("\"" + Name + Endungen[Art] + "\" cannot be chosen: " + Einwand + ".");
+            if (!Einwand.empty())
+                z_.Statuszeile.stelle_voran("\"" + Name + Endungen[Art] + "\" cannot be chosen: " + Einwand + ".");
         }
     }
 }
@@ -36,7 +37,7 @@ void Satzverwaltung::nenne_Unwaehlbare() {
 // for.
 void Satzverwaltung::erklaere_ungelesen(Satzart Art, const std::string& Grund) {
     z_.Saetze[Art].verwirf(Grund);
-    stelle_voran(Grund + ".");
+    z_.Statuszeile.stelle_voran(Grund + ".");
 }
 
 // Only where its kind has no record at all is there nothing to choose.
@@ -45,7 +46,7 @@ void Satzverwaltung::erklaere_fehlend(Satzart Art) {
     const std::string Grund = Name.empty() ? Texte::Satz_fehlt : Texte::fehlender_Satz(Name + Endungen[Art]);
     Befehle_.lies_Liste(Art);
     if (z_.Saetze[Art].gelesen()) {
-        stelle_voran(Grund + ".");  // the values are still those of the file that is gone, and kept as such
+        z_.Statuszeile.stelle_voran(Grund + ".");  // the values are still those of the file that is gone, and kept as such
     } else {
         erklaere_ungelesen(Art, Grund);
     }
@@ -113,7 +114,7 @@ void Satzverwaltung::waehle_Simulation(int Position) {
     const Simulationssatz Satz = lies_Simulation(*z_.Ordner, Simulation);
     z_.Statuszeile.vergiss_Frueheres();
     sichere_Ungesichertes();
-    stelle_voran(Fremdes);
+    z_.Statuszeile.stelle_voran(Fremdes);
     uebernimm(Simulation, Satz);
     for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) Befehle_.lies_Liste(Art);  // a record that went is not found
     if (lies_fehlende_Saetze()) schliesse_Laden_ab();
@@ -160,7 +161,7 @@ void Satzverwaltung::waehle_Satz(Satzart Art, int Position) {
         throw;
     }
     z_.Statuszeile.vergiss_Frueheres();
-    stelle_voran(Fremdes);
+    z_.Statuszeile.stelle_voran(Fremdes);
     z_.Saetze[Art].verlange();
     if (lies_fehlende_Saetze()) schliesse_Laden_ab();
 }
@@ -172,7 +173,7 @@ void Satzverwaltung::lege_an(Satzart Art) {
     sichere_vor_dem_Lesen(Art);
     Befehle_.lege_an(Art);
     z_.Statuszeile.vergiss_Frueheres();
-    stelle_voran(Fremdes);
+    z_.Statuszeile.stelle_voran(Fremdes);
     merke_Kombination();
     z_.Saetze[Art].verlange();
     if (lies_fehlende_Saetze()) schliesse_Laden_ab();
@@ -182,7 +183,7 @@ void Satzverwaltung::kopiere(Satzart Art) {
     const std::string Fremdes = Waechter_.Fremdes({Art});
     if (!Befehle_.kopiere(Art)) return;
     z_.Statuszeile.vergiss_Frueheres();
-    stelle_voran(Fremdes);
+    z_.Statuszeile.stelle_voran(Fremdes);
     z_.Saetze[Art].folge_der_Kopie(z_.gewaehlt(Art));
     if (Art != Simulation) merke_Kombination();
 }
@@ -191,7 +192,7 @@ void Satzverwaltung::loesche(Satzart Art) {
     const std::string Fremdes = Waechter_.Fremdes({Art});
     if (!Befehle_.loesche(Art, Waechter_.Ungesichertes({Art}))) return;
     z_.Statuszeile.vergiss_Frueheres();
-    stelle_voran(Fremdes);
+    z_.Statuszeile.stelle_voran(Fremdes);
     z_.Saetze[Art].verwirf(Texte::Satz_geloescht);
 }
 
@@ -204,7 +205,7 @@ bool Satzverwaltung::benenne_um(Satzart Art, const std::string& Text, bool mit_F
     z_.Saetze[Art].benenne(z_.gewaehlt(Art));
     merke_Kombination();
     nenne_Simulationen_mit(Art, alt, z_);
-    stelle_voran(Fremdes);
+    z_.Statuszeile.stelle_voran(Fremdes);
     return true;
 }
 
@@ -219,7 +220,7 @@ void Satzverwaltung::nenne_Simulationen_mit(Satzart Art, const std::string& Name
             continue;  // a summary file that cannot be read names nothing
         }
     }
-    if (!Namen.empty()) stelle_voran("Simulations that still name \"" + Name + "\": " + Namen);
+    if (!Namen.empty()) z_.Statuszeile.stelle_voran("Simulations that still name \"" + Name + "\": " + Namen);
 }
 
 // The record of this kind, and those that were not read yet, are about to be read over what the screen shows. A simulation is
@@ -231,8 +232,6 @@ void Satzverwaltung::sichere_vor_dem_Lesen(Satzart Art) {
     }
     Waechter_.sichere_Ungesichertes(Arten);
 }
-
-void Satzverwaltung::stelle_voran(const std::string& Hinweis) { z_.Statuszeile.stelle_voran(Hinweis); }
 
 bool Satzverwaltung::lies_nach() {
     if (!z_.Saetze[Simulation].gelesen() && z_.Auswahl(Simulation) >= 0) {
@@ -255,7 +254,7 @@ bool Satzverwaltung::lies_auf_Wunsch_nach() {
     if (!z_.Saetze[Simulation].gelesen() && z_.Auswahl(Simulation) >= 0) return lies_nach();
     const std::string Fremdes = Waechter_.Fremdes(alle_Arten);
     if (!z_.Saetze_vollstaendig()) sichere_vor_dem_Lesen(Simulation);
-    stelle_voran(Fremdes);
+    z_.Statuszeile.stelle_voran(Fremdes);
     if (!lies_nach()) return false;
     merke_Kombination();
     return true;
@@ -303,8 +302,8 @@ bool Satzverwaltung::speichere_Arten(std::vector<Satzart> Arten) {
     for (const Satzart Art : Arten) {
         if (Art != Simulation) z_.Saetze[Art].vergiss_Aenderung();
     }
-    stelle_voran(Fremdes);
-    stelle_voran(Sicherungszeile(Arten));
+    z_.Statuszeile.stelle_voran(Fremdes);
+    z_.Statuszeile.stelle_voran(Sicherungszeile(Arten));
     return true;
 }
 

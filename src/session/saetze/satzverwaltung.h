@@ -92,7 +92,6 @@ private:
     Knopf frage_Sicherung(Satzart Art, const std::string& Ziel) const;
     std::string Sicherungszeile(const std::vector<Satzart>& Arten) const;
     void sichere_vor_dem_Lesen(Satzart Art);
-    void stelle_voran(const std::string& Hinweis);
     bool lies_fehlende_Saetze();
     void schliesse_Laden_ab();
     void merke_Kombination();

@@ -10,6 +10,7 @@
 namespace varnok {
 namespace {
 
+using ::testing::Contains;
 using ::testing::HasSubstr;
 using ::testing::StartsWith;
 
@@ -90,6 +91,42 @@ TEST_F(Annahme, the_close_box_takes_a_cell_in_work_as_the_number_it_holds) {
     EXPECT_TRUE(s_->fuehre_aus<&Programmablauf::schliesse_Fenster>());
     EXPECT_EQ(gespeichert("Probe").Applikationsschema[0][2].Text(), "750");
     EXPECT_EQ(gespeichert("Probe").Applikationsschema[1][2].Text(), "800");
+}
+
+// Changes that set no mark of their record, before it is read over
+
+TEST_F(Annahme, a_deleted_study_is_in_backup_when_another_compound_is_chosen) {
+    gestartet();
+    Fragen_.erwarte_Anfang("Delete study", "", Knopf::Ja);
+    s_->fuehre_aus<&Studienverwaltung::loesche>();
+    waehle(Wirkstoff, "Second");
+    EXPECT_THAT(gesichert(), Contains("unsaved Probe.che"));
+}
+
+TEST_F(Annahme, a_temperature_is_in_backup_when_another_scenario_is_chosen) {
+    gestartet();
+    s_->fuehre_aus<&Szenarioeditor::oeffne>();
+    s_->fuehre_aus<&Szenarioeditor::waehle_Temperatur>(7);
+    EXPECT_TRUE(s_->fuehre_aus<&Szenarioeditor::uebernimm>());
+    s_->fuehre_aus<&Szenarioeditor::schliesse>();
+    ASSERT_FALSE(z().Saetze[Szenario].Geaendert());
+    waehle(Szenario, "Second");
+    EXPECT_THAT(gesichert(), Contains("unsaved Probe.sce"));
+}
+
+TEST_F(Annahme, a_report_after_the_organiser_carries_the_names_of_the_moment) {
+    gestartet();
+    s_->fuehre_aus<&Organiser::oeffne>();
+    s_->fuehre_aus<&Organiser::aendere_Projektname>("Other words");
+    ASSERT_TRUE(s_->fuehre_aus<&Organiser::uebernimm>());
+    s_->fuehre_aus<&Organiser::schliesse_ab>();
+    s_->fuehre_aus<&Listenwahl::aendere_Namen>(0, "Renamed P");
+    s_->fuehre_aus<&Berichtssteuerung::erstelle>();
+    ASSERT_NE(s_->zeige<Berichtssteuerung>().offener(), nullptr);
+    EXPECT_EQ(s_->zeige<Berichtssteuerung>().Ergebnisdatei().substr(0, 11), "Other words");
+    const Diagramm& Bild = *s_->zeige<Diagrammsteuerung>().vorderes();
+    EXPECT_THAT(Bild.Titel.Text, HasSubstr("Other words"));
+    EXPECT_THAT(Bild.Kommentar.Text, HasSubstr("Renamed P"));
 }
 
 // The line at the foot
