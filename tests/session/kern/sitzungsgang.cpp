@@ -92,7 +92,8 @@ void Gang::starte_ohne(const char* Endung, Knopf Antwort) {
     Fragen_.bestehe_auf(Antwort);
     const bool offen = tue<&Programmablauf::oeffne_Projekt>();
     Fragen_.bestehe_auf(std::nullopt);
-    if (offen) throw Verstoss{"start", std::string("the program starts although there is no ") + Endung};
+    if (offen && Endung == Endungen[Simulation]) throw Verstoss{"start", "the program starts although there is no simulation"};
+    if (offen) starte_neben(Sperrlage::frei);  // a simulation that names a compound that is missing comes no farther than that
     abgestuerzt_ = true;
 }
 
