@@ -47,11 +47,25 @@ void Berichtssteuerung::schliesse_veralteten() {
     if (Bericht_ && (z_.Hinweis() || z_.abgedeckt() || Grundlage_ != jetzige_Grundlage())) schliesse();
 }
 
+// Valid results are those of the present input in all that a run reads. A report tells of it in the rest, too: the date in constant
+// climate, the text of a number.
+Ergebnisse Berichtssteuerung::mit_jetziger_Vorgabe() const {
+    const auto Vorgabe = std::make_shared<const Eingabe>(z_.Vorgabe);
+    Ergebnisse Werte = z_.Werte();
+    for (const int st : z_.gezeigte_Studien()) {
+        const auto e = std::make_shared<Ergebnis>(*Werte.at(static_cast<std::size_t>(st)));
+        e->Vorgabe = Vorgabe;
+        Werte[static_cast<std::size_t>(st)] = e;
+    }
+    return Werte;
+}
+
 void Berichtssteuerung::stelle_her(const Diagramm& Bild) {
+    const Ergebnisse Werte = mit_jetziger_Vorgabe();
     Grundlage_ = jetzige_Grundlage();
     const Berichtsart Art = z_.Zusammenfassung_aktiv() ? Berichtsart::erweitert : Berichtsart::Standard;
     Bericht_ = std::make_unique<Bericht>(
-        schreibe_Bericht({z_.zeige(), Art, z_.Namen[Applikation], Programmversion, Berichtszeit_nach(z_.Zeit()), Bild,
+        schreibe_Bericht({{Werte, z_.Sicht, z_.Vorgabe}, Art, z_.Namen[Applikation], Programmversion, Berichtszeit_nach(z_.Zeit()), Bild,
                           Diagramme_.Legende(), z_.Einstellung.Bild.fuer_Druck, Herkunft_der_Ergebnisse(z_)}));
 }
 

@@ -47,6 +47,7 @@ private:
 
     Grundlage jetzige_Grundlage() const;
     void schreibe(const Diagramm& Bild);
+    Ergebnisse mit_jetziger_Vorgabe() const;
     void stelle_her(const Diagramm& Bild);
 
     Zustand& z_;

@@ -29,144 +29,146 @@
 
 namespace varnok {
 
-// A run that failed says nothing against the value of its field.
-constexpr Ablauf Ablauf_von(Tat<&Feldeingabe::betrete>) { return {Weg::Zwischenschritt}; }
-constexpr Ablauf Ablauf_von(Tat<&Feldeingabe::aendere>) { return {Weg::Zwischenschritt}; }
-constexpr Ablauf Ablauf_von(Tat<&Feldeingabe::bestaetige>) { return {Weg::Handlung, true}; }
-constexpr Ablauf Ablauf_von(Tat<&Feldeingabe::verlasse>) { return {Weg::Handlung, true}; }
-constexpr Ablauf Ablauf_von(Tat<&Feldeingabe::schliesse_ab>) { return {Weg::Handlung, true}; }
-constexpr Ablauf Ablauf_von(Tat<&Feldeingabe::nimm_zurueck>) { return {Weg::Handlung}; }
+inline constexpr Befehlsliste alle_Befehle{
+    // A run that failed says nothing against the value of its field.
+    Zeile<&Feldeingabe::betrete>{Weg::Zwischenschritt},
+    Zeile<&Feldeingabe::aendere>{Weg::Zwischenschritt},
+    Zeile<&Feldeingabe::bestaetige>{Weg::Handlung, true},
+    Zeile<&Feldeingabe::verlasse>{Weg::Handlung, true},
+    Zeile<&Feldeingabe::schliesse_ab>{Weg::Handlung, true},
+    Zeile<&Feldeingabe::nimm_zurueck>{Weg::Handlung},
 
-constexpr Ablauf Ablauf_von(Tat<&Listenwahl::waehle_Substanz>) { return {Weg::Befehl}; }
-constexpr Ablauf Ablauf_von(Tat<&Listenwahl::waehle_Kinetik>) { return {Weg::Rechenbefehl}; }
-constexpr Ablauf Ablauf_von(Tat<&Listenwahl::waehle_Studie>) { return {Weg::Befehl}; }
-constexpr Ablauf Ablauf_von(Tat<&Listenwahl::waehle_Berechnungsmodus>) { return {Weg::Rechenbefehl}; }
-constexpr Ablauf Ablauf_von(Tat<&Listenwahl::aendere_Namen>) { return {Weg::Zwischenschritt}; }
-constexpr Ablauf Ablauf_von(Tat<&Listenwahl::verlasse_Namen>) { return {Weg::Handlung}; }
-constexpr Ablauf Ablauf_von(Tat<&Listenwahl::waehle_Muster>) { return {Weg::Rechenbefehl}; }
-constexpr Ablauf Ablauf_von(Tat<&Listenwahl::waehle_Monat>) { return {Weg::Rechenbefehl}; }
-constexpr Ablauf Ablauf_von(Tat<&Listenwahl::waehle_Tag>) { return {Weg::Rechenbefehl}; }
-constexpr Ablauf Ablauf_von(Tat<&Listenwahl::waehle_Intervall>) { return {Weg::Rechenbefehl}; }
-constexpr Ablauf Ablauf_von(Tat<&Listenwahl::waehle_Anzahl>) { return {Weg::Rechenbefehl}; }
-constexpr Ablauf Ablauf_von(Tat<&Listenwahl::waehle_Endpunkt>) { return {Weg::Befehl}; }
-constexpr Ablauf Ablauf_von(Tat<&Listenwahl::waehle_PEC_Typ>) { return {Weg::Befehl}; }
-constexpr Ablauf Ablauf_von(Tat<&Listenwahl::waehle_Fruchtwechsel>) { return {Weg::Befehl}; }
-constexpr Ablauf Ablauf_von(Tat<&Listenwahl::waehle_TWA_Laenge>) { return {Weg::Befehl}; }
-constexpr Ablauf Ablauf_von(Tat<&Listenwahl::zeige_Studien>) { return {Weg::Befehl}; }
-constexpr Ablauf Ablauf_von(Tat<&Listenwahl::zeige_Zusammenfassung>) { return {Weg::Befehl}; }
+    Zeile<&Listenwahl::waehle_Substanz>{Weg::Befehl},
+    Zeile<&Listenwahl::waehle_Kinetik>{Weg::Rechenbefehl},
+    Zeile<&Listenwahl::waehle_Studie>{Weg::Befehl},
+    Zeile<&Listenwahl::waehle_Berechnungsmodus>{Weg::Rechenbefehl},
+    Zeile<&Listenwahl::aendere_Namen>{Weg::Zwischenschritt},
+    Zeile<&Listenwahl::verlasse_Namen>{Weg::Handlung},
+    Zeile<&Listenwahl::waehle_Muster>{Weg::Rechenbefehl},
+    Zeile<&Listenwahl::waehle_Monat>{Weg::Rechenbefehl},
+    Zeile<&Listenwahl::waehle_Tag>{Weg::Rechenbefehl},
+    Zeile<&Listenwahl::waehle_Intervall>{Weg::Rechenbefehl},
+    Zeile<&Listenwahl::waehle_Anzahl>{Weg::Rechenbefehl},
+    Zeile<&Listenwahl::waehle_Endpunkt>{Weg::Befehl},
+    Zeile<&Listenwahl::waehle_PEC_Typ>{Weg::Befehl},
+    Zeile<&Listenwahl::waehle_Fruchtwechsel>{Weg::Befehl},
+    Zeile<&Listenwahl::waehle_TWA_Laenge>{Weg::Befehl},
+    Zeile<&Listenwahl::zeige_Studien>{Weg::Befehl},
+    Zeile<&Listenwahl::zeige_Zusammenfassung>{Weg::Befehl},
 
-// A cell in work is no step.
-constexpr Ablauf Ablauf_von(Tat<&Applikationstabelle::haenge_an>) { return {Weg::Zwischenschritt}; }
-constexpr Ablauf Ablauf_von(Tat<&Applikationstabelle::nimm_letztes>) { return {Weg::Zwischenschritt}; }
-constexpr Ablauf Ablauf_von(Tat<&Applikationstabelle::leere>) { return {Weg::Zwischenschritt}; }
-constexpr Ablauf Ablauf_von(Tat<&Applikationstabelle::fuege_ein>) { return {Weg::Zwischenschritt}; }
-constexpr Ablauf Ablauf_von(Tat<&Applikationstabelle::schliesse_ab>) { return {Weg::Handlung, true}; }
-constexpr Ablauf Ablauf_von(Tat<&Applikationstabelle::bestaetige>) { return {Weg::Rechenbefehl}; }
+    // A cell in work is no step.
+    Zeile<&Applikationstabelle::haenge_an>{Weg::Zwischenschritt},
+    Zeile<&Applikationstabelle::nimm_letztes>{Weg::Zwischenschritt},
+    Zeile<&Applikationstabelle::leere>{Weg::Zwischenschritt},
+    Zeile<&Applikationstabelle::fuege_ein>{Weg::Zwischenschritt},
+    Zeile<&Applikationstabelle::schliesse_ab>{Weg::Handlung, true},
+    Zeile<&Applikationstabelle::bestaetige>{Weg::Rechenbefehl},
 
-constexpr Ablauf Ablauf_von(Tat<&Studienverwaltung::addiere>) { return {Weg::Befehl}; }
-constexpr Ablauf Ablauf_von(Tat<&Studienverwaltung::loesche>) { return {Weg::Rechenbefehl}; }
-constexpr Ablauf Ablauf_von(Tat<&Studienverwaltung::beginne_Umbenennen>) { return {Weg::Befehl}; }
-constexpr Ablauf Ablauf_von(Tat<&Studienverwaltung::aendere>) { return {Weg::Zwischenschritt}; }
-constexpr Ablauf Ablauf_von(Tat<&Studienverwaltung::bestaetige>) { return {Weg::Handlung}; }
-constexpr Ablauf Ablauf_von(Tat<&Studienverwaltung::nimm_zurueck>) { return {Weg::Zwischenschritt}; }
+    Zeile<&Studienverwaltung::addiere>{Weg::Befehl},
+    Zeile<&Studienverwaltung::loesche>{Weg::Rechenbefehl},
+    Zeile<&Studienverwaltung::beginne_Umbenennen>{Weg::Befehl},
+    Zeile<&Studienverwaltung::aendere>{Weg::Zwischenschritt},
+    Zeile<&Studienverwaltung::bestaetige>{Weg::Handlung},
+    Zeile<&Studienverwaltung::nimm_zurueck>{Weg::Zwischenschritt},
 
-constexpr Ablauf Ablauf_von(Tat<&Ruecknahme::mache_rueckgaengig>) { return {Weg::Befehl}; }
-constexpr Ablauf Ablauf_von(Tat<&Ruecknahme::wiederhole>) { return {Weg::Befehl}; }
+    Zeile<&Ruecknahme::mache_rueckgaengig>{Weg::Befehl},
+    Zeile<&Ruecknahme::wiederhole>{Weg::Befehl},
 
-constexpr Ablauf Ablauf_von(Tat<&Laufsteuerung::schliesse_Skalierung>) { return {Weg::Rechenbefehl}; }
-constexpr Ablauf Ablauf_von(Tat<&Laufsteuerung::nimm_Tabellenfehler>) { return {Weg::Zwischenschritt}; }
+    Zeile<&Laufsteuerung::schliesse_Skalierung>{Weg::Rechenbefehl},
+    Zeile<&Laufsteuerung::nimm_Tabellenfehler>{Weg::Zwischenschritt},
 
-constexpr Ablauf Ablauf_von(Tat<&Diagrammsteuerung::schalte_weiter>) { return {Weg::Befehl}; }
-constexpr Ablauf Ablauf_von(Tat<&Diagrammsteuerung::skaliere>) { return {Weg::Zwischenschritt}; }
-constexpr Ablauf Ablauf_von(Tat<&Diagrammsteuerung::merke_Legende>) { return {Weg::Zwischenschritt}; }
-constexpr Ablauf Ablauf_von(Tat<&Diagrammsteuerung::zeige_Zeitraum>) { return {Weg::Befehl}; }
-constexpr Ablauf Ablauf_von(Tat<&Diagrammsteuerung::strecke>) { return {Weg::Befehl}; }
-constexpr Ablauf Ablauf_von(Tat<&Diagrammsteuerung::strecke_um>) { return {Weg::Befehl}; }
-constexpr Ablauf Ablauf_von(Tat<&Diagrammsteuerung::verschiebe>) { return {Weg::Befehl}; }
-constexpr Ablauf Ablauf_von(Tat<&Diagrammsteuerung::zeige_alles>) { return {Weg::Befehl}; }
+    Zeile<&Diagrammsteuerung::schalte_weiter>{Weg::Befehl},
+    Zeile<&Diagrammsteuerung::skaliere>{Weg::Zwischenschritt},
+    Zeile<&Diagrammsteuerung::merke_Legende>{Weg::Zwischenschritt},
+    Zeile<&Diagrammsteuerung::zeige_Zeitraum>{Weg::Befehl},
+    Zeile<&Diagrammsteuerung::strecke>{Weg::Befehl},
+    Zeile<&Diagrammsteuerung::strecke_um>{Weg::Befehl},
+    Zeile<&Diagrammsteuerung::verschiebe>{Weg::Befehl},
+    Zeile<&Diagrammsteuerung::zeige_alles>{Weg::Befehl},
 
-constexpr Ablauf Ablauf_von(Tat<&Bildsteuerung::setze>) { return {Weg::Befehl}; }
-constexpr Ablauf Ablauf_von(Tat<&Bildsteuerung::speichere>) { return {Weg::Befehl}; }
-constexpr Ablauf Ablauf_von(Tat<&Bildsteuerung::speichere_Daten>) { return {Weg::Befehl}; }
-constexpr Ablauf Ablauf_von(Tat<&Bildsteuerung::melde_kopiert>) { return {Weg::Befehl}; }
+    Zeile<&Bildsteuerung::setze>{Weg::Befehl},
+    Zeile<&Bildsteuerung::speichere>{Weg::Befehl},
+    Zeile<&Bildsteuerung::speichere_Daten>{Weg::Befehl},
+    Zeile<&Bildsteuerung::melde_kopiert>{Weg::Befehl},
 
-constexpr Ablauf Ablauf_von(Tat<&Berichtssteuerung::erstelle>) { return {Weg::Befehl}; }
-constexpr Ablauf Ablauf_von(Tat<&Berichtssteuerung::schliesse>) { return {Weg::Zwischenschritt}; }
-constexpr Ablauf Ablauf_von(Tat<&Berichtssteuerung::speichere_PDF>) { return {Weg::Handlung}; }
+    Zeile<&Berichtssteuerung::erstelle>{Weg::Befehl},
+    Zeile<&Berichtssteuerung::schliesse>{Weg::Zwischenschritt},
+    Zeile<&Berichtssteuerung::speichere_PDF>{Weg::Handlung},
 
-constexpr Ablauf Ablauf_von(Tat<&Satzverwaltung::waehle_Simulation>) { return {Weg::Rechenbefehl}; }
-constexpr Ablauf Ablauf_von(Tat<&Satzverwaltung::waehle_Satz>) { return {Weg::Rechenbefehl}; }
-constexpr Ablauf Ablauf_von(Tat<&Satzverwaltung::lege_an>) { return {Weg::Rechenbefehl}; }
-constexpr Ablauf Ablauf_von(Tat<&Satzverwaltung::kopiere>) { return {Weg::Befehl}; }
-constexpr Ablauf Ablauf_von(Tat<&Satzverwaltung::loesche>) { return {Weg::Befehl}; }
-constexpr Ablauf Ablauf_von(Tat<&Satzverwaltung::benenne_um>) { return {Weg::Befehl}; }
-constexpr Ablauf Ablauf_von(Tat<&Satzverwaltung::speichere>) { return {Weg::Befehl}; }
-constexpr Ablauf Ablauf_von(Tat<&Satzverwaltung::aktualisiere>) { return {Weg::Rechenbefehl}; }
+    Zeile<&Satzverwaltung::waehle_Simulation>{Weg::Rechenbefehl},
+    Zeile<&Satzverwaltung::waehle_Satz>{Weg::Rechenbefehl},
+    Zeile<&Satzverwaltung::lege_an>{Weg::Rechenbefehl},
+    Zeile<&Satzverwaltung::kopiere>{Weg::Befehl},
+    Zeile<&Satzverwaltung::loesche>{Weg::Befehl},
+    Zeile<&Satzverwaltung::benenne_um>{Weg::Befehl},
+    Zeile<&Satzverwaltung::speichere>{Weg::Befehl},
+    Zeile<&Satzverwaltung::aktualisiere>{Weg::Rechenbefehl},
 
-constexpr Ablauf Ablauf_von(Tat<&Beschreibungseingabe::oeffne>) { return {Weg::Befehl}; }
-constexpr Ablauf Ablauf_von(Tat<&Beschreibungseingabe::aendere>) { return {Weg::Zwischenschritt}; }
-constexpr Ablauf Ablauf_von(Tat<&Beschreibungseingabe::schliesse>) { return {Weg::Handlung}; }
-constexpr Ablauf Ablauf_von(Tat<&Beschreibungseingabe::nimm_zurueck>) { return {Weg::Handlung}; }
+    Zeile<&Beschreibungseingabe::oeffne>{Weg::Befehl},
+    Zeile<&Beschreibungseingabe::aendere>{Weg::Zwischenschritt},
+    Zeile<&Beschreibungseingabe::schliesse>{Weg::Handlung},
+    Zeile<&Beschreibungseingabe::nimm_zurueck>{Weg::Handlung},
 
-constexpr Ablauf Ablauf_von(Tat<&Szenarioeditor::oeffne>) { return {Weg::Befehl, false, true}; }
-constexpr Ablauf Ablauf_von(Tat<&Szenarioeditor::waehle_Szenario>) { return {Weg::Zwischenschritt}; }
-constexpr Ablauf Ablauf_von(Tat<&Szenarioeditor::verlasse_Zahl>) { return {Weg::Zwischenschritt}; }
-constexpr Ablauf Ablauf_von(Tat<&Szenarioeditor::aendere>) { return {Weg::Zwischenschritt}; }
-constexpr Ablauf Ablauf_von(Tat<&Szenarioeditor::waehle_Option>) { return {Weg::Zwischenschritt}; }
-constexpr Ablauf Ablauf_von(Tat<&Szenarioeditor::waehle_Tiefe>) { return {Weg::Zwischenschritt}; }
-constexpr Ablauf Ablauf_von(Tat<&Szenarioeditor::blaettere>) { return {Weg::Zwischenschritt}; }
-constexpr Ablauf Ablauf_von(Tat<&Szenarioeditor::verlasse>) { return {Weg::Zwischenschritt}; }
-constexpr Ablauf Ablauf_von(Tat<&Szenarioeditor::waehle_Klimabedingungen>) { return {Weg::Zwischenschritt}; }
-constexpr Ablauf Ablauf_von(Tat<&Szenarioeditor::waehle_Temperatur>) { return {Weg::Zwischenschritt}; }
-constexpr Ablauf Ablauf_von(Tat<&Szenarioeditor::waehle_Klimaszenario>) { return {Weg::Zwischenschritt}; }
-constexpr Ablauf Ablauf_von(Tat<&Szenarioeditor::uebernimm>) { return {Weg::Handlung}; }
-constexpr Ablauf Ablauf_von(Tat<&Szenarioeditor::verwirf>) { return {Weg::Zwischenschritt}; }
-constexpr Ablauf Ablauf_von(Tat<&Szenarioeditor::schliesse>) { return {Weg::Handlung}; }
+    Zeile<&Szenarioeditor::oeffne>{Weg::Befehl, false, true},
+    Zeile<&Szenarioeditor::waehle_Szenario>{Weg::Zwischenschritt},
+    Zeile<&Szenarioeditor::verlasse_Zahl>{Weg::Zwischenschritt},
+    Zeile<&Szenarioeditor::aendere>{Weg::Zwischenschritt},
+    Zeile<&Szenarioeditor::waehle_Option>{Weg::Zwischenschritt},
+    Zeile<&Szenarioeditor::waehle_Tiefe>{Weg::Zwischenschritt},
+    Zeile<&Szenarioeditor::blaettere>{Weg::Zwischenschritt},
+    Zeile<&Szenarioeditor::verlasse>{Weg::Zwischenschritt},
+    Zeile<&Szenarioeditor::waehle_Klimabedingungen>{Weg::Zwischenschritt},
+    Zeile<&Szenarioeditor::waehle_Temperatur>{Weg::Zwischenschritt},
+    Zeile<&Szenarioeditor::waehle_Klimaszenario>{Weg::Zwischenschritt},
+    Zeile<&Szenarioeditor::uebernimm>{Weg::Handlung},
+    Zeile<&Szenarioeditor::verwirf>{Weg::Zwischenschritt},
+    Zeile<&Szenarioeditor::schliesse>{Weg::Handlung},
 
-// The dialog opens with what could be read.
-constexpr Ablauf Ablauf_von(Tat<&Organiser::oeffne>) { return {Weg::Befehl, true}; }
-constexpr Ablauf Ablauf_von(Tat<&Organiser::waehle>) { return {Weg::Zwischenschritt}; }
-constexpr Ablauf Ablauf_von(Tat<&Organiser::aendere_Projektname>) { return {Weg::Zwischenschritt}; }
-constexpr Ablauf Ablauf_von(Tat<&Organiser::kopiere>) { return {Weg::Zwischenschritt}; }
-constexpr Ablauf Ablauf_von(Tat<&Organiser::loesche>) { return {Weg::Zwischenschritt}; }
-constexpr Ablauf Ablauf_von(Tat<&Organiser::benenne_um>) { return {Weg::Zwischenschritt}; }
-constexpr Ablauf Ablauf_von(Tat<&Organiser::beginne_Bearbeiten>) { return {Weg::Zwischenschritt}; }
-constexpr Ablauf Ablauf_von(Tat<&Organiser::beende_Bearbeiten>) { return {Weg::Zwischenschritt}; }
-constexpr Ablauf Ablauf_von(Tat<&Organiser::uebernimm>) { return {Weg::Zwischenschritt}; }
-constexpr Ablauf Ablauf_von(Tat<&Organiser::verwirf>) { return {Weg::Zwischenschritt}; }
-constexpr Ablauf Ablauf_von(Tat<&Organiser::schliesse_ab>) { return {Weg::Handlung}; }
+    // The dialog opens with what could be read.
+    Zeile<&Organiser::oeffne>{Weg::Befehl, true},
+    Zeile<&Organiser::waehle>{Weg::Zwischenschritt},
+    Zeile<&Organiser::aendere_Projektname>{Weg::Zwischenschritt},
+    Zeile<&Organiser::kopiere>{Weg::Zwischenschritt},
+    Zeile<&Organiser::loesche>{Weg::Zwischenschritt},
+    Zeile<&Organiser::benenne_um>{Weg::Zwischenschritt},
+    Zeile<&Organiser::beginne_Bearbeiten>{Weg::Zwischenschritt},
+    Zeile<&Organiser::beende_Bearbeiten>{Weg::Zwischenschritt},
+    Zeile<&Organiser::uebernimm>{Weg::Zwischenschritt},
+    Zeile<&Organiser::verwirf>{Weg::Zwischenschritt},
+    Zeile<&Organiser::schliesse_ab>{Weg::Handlung},
 
-constexpr Ablauf Ablauf_von(Tat<&Eingabedateien::lade>) { return {Weg::Handlung}; }
-constexpr Ablauf Ablauf_von(Tat<&Eingabedateien::speichere>) { return {Weg::Handlung}; }
-constexpr Ablauf Ablauf_von(Tat<&Eingabedateien::loesche>) { return {Weg::Handlung}; }
+    Zeile<&Eingabedateien::lade>{Weg::Handlung},
+    Zeile<&Eingabedateien::speichere>{Weg::Handlung},
+    Zeile<&Eingabedateien::loesche>{Weg::Handlung},
 
-constexpr Ablauf Ablauf_von(Tat<&Optionensteuerung::oeffne>) { return {Weg::Zwischenschritt}; }
-constexpr Ablauf Ablauf_von(Tat<&Optionensteuerung::uebernimm>) { return {Weg::Zwischenschritt}; }
-constexpr Ablauf Ablauf_von(Tat<&Optionensteuerung::lege_Ordner_an>) { return {Weg::Zwischenschritt}; }
-constexpr Ablauf Ablauf_von(Tat<&Optionensteuerung::schliesse>) { return {Weg::Rechenbefehl}; }
+    Zeile<&Optionensteuerung::oeffne>{Weg::Zwischenschritt},
+    Zeile<&Optionensteuerung::uebernimm>{Weg::Zwischenschritt},
+    Zeile<&Optionensteuerung::lege_Ordner_an>{Weg::Zwischenschritt},
+    Zeile<&Optionensteuerung::schliesse>{Weg::Rechenbefehl},
 
-constexpr Ablauf Ablauf_von(Tat<&Zeichenmeldung::sage>) { return {Weg::Handlung}; }
+    Zeile<&Zeichenmeldung::sage>{Weg::Handlung},
 
-constexpr Ablauf Ablauf_von(Tat<&Hilfetexte::Tooltips>) { return {Weg::Zwischenschritt}; }
+    Zeile<&Hilfetexte::Tooltips>{Weg::Zwischenschritt},
 
-constexpr Ablauf Ablauf_von(Tat<&Aktualisierungssteuerung::suche>) { return {Weg::Befehl}; }
-constexpr Ablauf Ablauf_von(Tat<&Aktualisierungssteuerung::suche_beim_Start>) { return {Weg::Zwischenschritt}; }
-constexpr Ablauf Ablauf_von(Tat<&Aktualisierungssteuerung::melde>) { return {Weg::Handlung}; }
+    Zeile<&Aktualisierungssteuerung::suche>{Weg::Befehl},
+    Zeile<&Aktualisierungssteuerung::suche_beim_Start>{Weg::Zwischenschritt},
+    Zeile<&Aktualisierungssteuerung::melde>{Weg::Handlung},
 
-// Comes behind an action, when that has been drawn.
-constexpr Ablauf Ablauf_von(Tat<&Zwischensicherung::schreibe>) { return {Weg::Zwischenschritt}; }
-constexpr Ablauf Ablauf_von(Tat<&Aktualisierungssteuerung::halte_an>) { return {Weg::Zwischenschritt}; }
+    // Comes behind an action, when that has been drawn.
+    Zeile<&Zwischensicherung::schreibe>{Weg::Zwischenschritt},
+    Zeile<&Aktualisierungssteuerung::halte_an>{Weg::Zwischenschritt},
 
-constexpr Ablauf Ablauf_von(Tat<&Wiederherstellung::stelle_her>) { return {Weg::Befehl}; }
+    Zeile<&Wiederherstellung::stelle_her>{Weg::Befehl},
 
-constexpr Ablauf Ablauf_von(Tat<&Projektoeffnung::oeffne>) { return {Weg::Rechenbefehl}; }
-constexpr Ablauf Ablauf_von(Tat<&Projektoeffnung::merke>) { return {Weg::Zwischenschritt}; }
+    Zeile<&Projektoeffnung::oeffne>{Weg::Rechenbefehl},
+    Zeile<&Projektoeffnung::merke>{Weg::Zwischenschritt},
 
-constexpr Ablauf Ablauf_von(Tat<&Programmablauf::oeffne_Projekt>) { return {Weg::Handlung}; }
-constexpr Ablauf Ablauf_von(Tat<&Programmablauf::starte>) { return {Weg::Handlung}; }
-constexpr Ablauf Ablauf_von(Tat<&Programmablauf::beginne_Dialog>) { return {Weg::Befehl}; }
-constexpr Ablauf Ablauf_von(Tat<&Programmablauf::beende>) { return {Weg::Befehl}; }
-constexpr Ablauf Ablauf_von(Tat<&Programmablauf::schliesse_Fenster>) { return {Weg::Handlung}; }
-constexpr Ablauf Ablauf_von(Tat<&Satzverwaltung::lade_Voreinstellungen>) { return {Weg::Befehl}; }
+    Zeile<&Programmablauf::oeffne_Projekt>{Weg::Handlung},
+    Zeile<&Programmablauf::starte>{Weg::Handlung},
+    Zeile<&Programmablauf::beginne_Dialog>{Weg::Befehl},
+    Zeile<&Programmablauf::beende>{Weg::Befehl},
+    Zeile<&Programmablauf::schliesse_Fenster>{Weg::Handlung},
+    Zeile<&Satzverwaltung::lade_Voreinstellungen>{Weg::Befehl},
+};
 
 }  // namespace varnok

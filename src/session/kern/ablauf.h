@@ -17,9 +17,22 @@ struct Ablauf {
     bool nach_Klimameldung = false;
 };
 
-// Names a command for `Ablauf_von`, see ablaeufe.h. What has no line there is no command.
+// A command with what stands around it: a line of ablaeufe.h.
 template <auto Befehl>
-struct Tat {};
+struct Zeile {
+    Ablauf Wie;
+};
+
+// All lines. The line of a command is the base class of its type, so none and two of them do not compile.
+template <class... Zeilen>
+struct Befehlsliste : Zeilen... {};
+template <class... Zeilen>
+Befehlsliste(Zeilen...) -> Befehlsliste<Zeilen...>;
+
+template <auto Befehl>
+constexpr Ablauf Ablauf_von(const Zeile<Befehl>& z) {
+    return z.Wie;
+}
 
 // The part that a command belongs to.
 template <class Funktion>

@@ -42,7 +42,7 @@ public:
         using Teil = Teil_mit<Befehl>;
         using Antwort = std::invoke_result_t<decltype(Befehl), Teil&, Angaben...>;
         using Wert = std::conditional_t<std::is_void_v<Antwort>, bool, std::decay_t<Antwort>>;
-        constexpr Ablauf Weg = Ablauf_von(Tat<Befehl>{});
+        constexpr Ablauf Weg = Ablauf_von<Befehl>(alle_Befehle);
         Wert w{};
         fuehre(Weg, [&] {
             if constexpr (std::is_same_v<Wert, bool>) w = Weg.nach_Fehler;

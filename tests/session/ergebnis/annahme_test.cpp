@@ -129,6 +129,18 @@ TEST_F(Annahme, a_report_after_the_organiser_carries_the_names_of_the_moment) {
     EXPECT_THAT(Bild.Kommentar.Text, HasSubstr("Renamed P"));
 }
 
+// No run reads the date in constant climate: results stay valid, and a report tells the date of the screen.
+TEST_F(Annahme, a_report_tells_the_application_date_of_the_moment) {
+    gestartet();
+    const int Zeichnung = s_->zeige<Diagrammsteuerung>().Zeichnung();
+    s_->fuehre_aus<&Listenwahl::waehle_Monat>(6);
+    s_->fuehre_aus<&Listenwahl::waehle_Tag>(14);
+    EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Zeichnung);
+    s_->fuehre_aus<&Berichtssteuerung::erstelle>();
+    ASSERT_NE(s_->zeige<Berichtssteuerung>().offener(), nullptr);
+    EXPECT_THAT(s_->zeige<Berichtssteuerung>().offener()->Text, HasSubstr("Application date:             15 Jul"));
+}
+
 // The line at the foot
 
 TEST_F(Annahme, what_a_field_was_read_as_stands_before_what_the_command_says) {

@@ -17,21 +17,22 @@ std::string Stelle(const std::string& Bytes, std::size_t i) {
     return Bytes.substr(von, Bytes.find('\r', i) - von);
 }
 
-void Esc(Sitzung& s) {
-    if (s.zeige<Feldeingabe>().aktives_Feld() >= 0)
-        s.fuehre_aus<&Feldeingabe::nimm_zurueck>(s.zeige<Feldeingabe>().aktives_Feld());
-    s.fuehre_aus<&Studienverwaltung::nimm_zurueck>();
-    if (s.zeige<Beschreibungseingabe>().offen()) s.fuehre_aus<&Beschreibungseingabe::nimm_zurueck>();
+void Esc(Gang& g) {
+    const Sitzung& s = g.s();
+    if (s.zeige<Feldeingabe>().aktives_Feld() >= 0) g.tue<&Feldeingabe::nimm_zurueck>(s.zeige<Feldeingabe>().aktives_Feld());
+    g.tue<&Studienverwaltung::nimm_zurueck>();
+    if (s.zeige<Beschreibungseingabe>().offen()) g.tue<&Beschreibungseingabe::nimm_zurueck>();
 }
 
 }  // namespace
 
 void Gang::pruefe_Ende(Knopf Antwort) {
     Fragen_.bestehe_auf(Antwort);
+    Fragen_.lass_los(true);
     for (const bool nach_Esc : {false, true}) {
-        if (nach_Esc) Esc(*s_);
-        s_->fuehre_aus<&Programmablauf::beende>();
-        if (!z().beendet()) s_->fuehre_aus<&Programmablauf::schliesse_Fenster>();
+        if (nach_Esc) Esc(*this);
+        tue<&Programmablauf::beende>();
+        if (!z().beendet()) tue<&Programmablauf::schliesse_Fenster>();
         if (z().beendet()) return;
     }
     // A save that cannot be done is told, and then only No ends the program.
@@ -42,6 +43,7 @@ void Gang::pruefe_Ende(Knopf Antwort) {
 
 void Gang::pruefe_andere_Simulation() {
     Fragen_.bestehe_auf(Knopf::Nein);
+    Fragen_.lass_los(true);
     const Dateien da = Projekt_.lies();
     const auto& Liste = z().Listen[Simulation];
     for (std::size_t i = 0; i < Liste.size(); ++i) {
@@ -52,10 +54,10 @@ void Gang::pruefe_andere_Simulation() {
         } catch (const Laufzeitfehler&) {
             continue;
         }
-        s_->fuehre_aus<&Satzverwaltung::waehle_Simulation>(static_cast<int>(i));
+        tue<&Satzverwaltung::waehle_Simulation>(static_cast<int>(i));
         if (z().gewaehlt(Simulation) != Name && !z().beendet()) {
-            Esc(*s_);
-            s_->fuehre_aus<&Satzverwaltung::waehle_Simulation>(static_cast<int>(i));
+            Esc(*this);
+            tue<&Satzverwaltung::waehle_Simulation>(static_cast<int>(i));
         }
         if (z().gewaehlt(Simulation) != Name && !z().beendet())
             throw Verstoss{"no other simulation can be chosen", Name + Fragen_.Bericht()};
@@ -66,7 +68,7 @@ void Gang::pruefe_andere_Simulation() {
 // Saved and loaded by another program: the same numbers, the same results.
 void Gang::pruefe_Sicherung() {
     Fragen_.bestehe_auf(Knopf::Ja);
-    s_->fuehre_aus<&Satzverwaltung::speichere>();
+    tue<&Satzverwaltung::speichere>();
     const bool gesagt =
         Fragen_.gefragt("Record not set") || Fragen_.gefragt("Runtime error") || Fragen_.gefragt("No valid input!");
     if (gesagt || z().beendet() || s_->zeige<Feldeingabe>().aktives_Feld() >= 0) return;

@@ -16,7 +16,7 @@ std::vector<Aktion> wuerfle(std::uint64_t Saat, int Anzahl) {
         const int Gewicht = Arten[static_cast<std::size_t>(Art)].Gewicht;
         Lose.insert(Lose.end(), static_cast<std::size_t>(Gewicht), Art);
         // None is left out, however light.
-        if (Gewicht > 0) gezogene.insert(gezogene.end(), static_cast<std::size_t>(Anzahl) / 140, Art);
+        if (Gewicht > 0) gezogene.insert(gezogene.end(), static_cast<std::size_t>(Anzahl) / 128, Art);
     }
     gezogene.resize(std::min(gezogene.size(), static_cast<std::size_t>(Anzahl)));
     while (gezogene.size() < static_cast<std::size_t>(Anzahl)) gezogene.push_back(r.eins_von(Lose));
@@ -47,7 +47,9 @@ Gangergebnis gehe(const std::vector<Aktion>& Liste) {
         }
     }
     e.Protokoll = g.Protokoll();
+    e.Befehle = g.Befehle();
     e.Fragen = g.Fragen();
+    e.Fremdes = g.Fremdes();
     e.Abdeckungen = g.Abdeckungen();
     e.verglichen = g.verglichen();
     e.Schritte = g.Schritte();

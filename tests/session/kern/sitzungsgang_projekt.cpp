@@ -104,8 +104,11 @@ void Gangprojekt::schreibe_Anfang() {
     schreibe_Simulation(Ordner, "Alpha", {"The first one", {"", "Alpha", "Alpha", "Alpha"}});
     schreibe_Simulation(Ordner, "Beta", {"The second one", {"", "Beta", "Beta", "Beta"}});
     schreibe_Simulation(Ordner, "Torn", {"Names what is not there", {"", "Beta", "Alpha", "gone"}});
+    schreibe_Simulation(Ordner, "Nameless", {"Names no compound", {"", "", "Alpha", "Alpha"}});
+    schreibe_Simulation(Ordner, "Torn pattern", {"Names what is not there", {"", "Beta", "gone", "Alpha"}});
+    schreibe_Simulation(Ordner, "Torn compound", {"Names what is not there", {"", "gone", "Alpha", "Alpha"}});
     Anfang_ = lies();
-    ordne_Zeiten({}, {{"Torn.vnk", ""}});
+    for (const char* Name : {"Torn.vnk", "Nameless.vnk", "Torn pattern.vnk", "Torn compound.vnk"}) ordne_Zeiten({}, {{Name, ""}});
     ordne_Zeiten({}, {{"Beta.vnk", ""}});
     ordne_Zeiten({}, {{"Alpha.vnk", ""}});
 }
@@ -154,9 +157,8 @@ fs::path Gangprojekt::waehle(const char* Endung, Zufall& r) const {
     return Passende.empty() ? fs::path() : r.eins_von(Passende);
 }
 
-std::string Gangprojekt::aendere(const char* Endung, Zufall& r) {
-    const fs::path p = waehle(Endung, r);
-    if (p.empty()) return "nothing there";
+// Other values than before in a file of that kind.
+void Gangprojekt::schreibe_neu(const fs::path& p, Zufall& r) {
     Eingabe e = r.einmal_von(2) ? Probeeingabe() : zweite_Eingabe();
     e.Parameter.Bodendichte = 1 + r.unter(9) / 10.0;
     e.Applikationsrate = std::to_string(100 + r.unter(900));
@@ -168,13 +170,58 @@ std::string Gangprojekt::aendere(const char* Endung, Zufall& r) {
     if (p.extension() == Endungen[Simulation]) {
         schreibe(p, Simulation_als_Bytes({"Changed outside " + std::to_string(r.unter(100)), {"", "Alpha", "Beta", "Alpha"}}));
     }
+}
+
+std::string Gangprojekt::aendere(const char* Endung, Zufall& r) {
+    const fs::path p = waehle(Endung, r);
+    if (p.empty()) return "nothing there";
+    schreibe_neu(p, r);
     return p.filename().string();
+}
+
+std::string Gangprojekt::aendere_Datei(const std::string& Name, Zufall& r) {
+    schreibe_neu(Wurzel_ / "input" / Name, r);
+    return Name;
+}
+
+std::string Gangprojekt::bringe_neue(const char* Endung, Zufall& r) {
+    for (const char* Name : {"Delivered", "Delivered later", "Delivered last"}) {
+        const fs::path p = Wurzel_ / "input" / (std::string(Name) + Endung);
+        if (fs::exists(p)) continue;
+        schreibe_neu(p, r);
+        return p.filename().string();
+    }
+    return "nothing new";
+}
+
+// To another name and back.
+std::string Gangprojekt::benenne_um(const char* Endung, Zufall& r) {
+    const fs::path p = waehle(Endung, r);
+    if (p.empty()) return "nothing there";
+    const std::string Vorsatz = "Moved ";
+    const std::string alt = p.filename().string();
+    const fs::path neu = p.parent_path() / (alt.starts_with(Vorsatz) ? alt.substr(Vorsatz.size()) : Vorsatz + alt);
+    if (fs::exists(neu)) return "name taken";
+    fs::rename(p, neu);
+    return neu.filename().string();
 }
 
 std::string Gangprojekt::loesche(const char* Endung, Zufall& r) {
     const fs::path p = waehle(Endung, r);
     if (!p.empty()) fs::remove(p);
     return p.filename().string();
+}
+
+std::string Gangprojekt::loesche_Datei(const std::string& Name) {
+    fs::remove(Wurzel_ / "input" / Name);
+    return Name;
+}
+
+std::string Gangprojekt::loesche_alle(const char* Endung) {
+    for (const auto& [Name, Bytes] : lies()) {
+        if (Name.ends_with(Endung)) loesche_Datei(Name);
+    }
+    return std::string("all ") + Endung;
 }
 
 std::string Gangprojekt::zerstoere(const char* Endung, Zufall& r) {
@@ -195,8 +242,13 @@ std::string Gangprojekt::zerstoere(const char* Endung, Zufall& r) {
     return p.filename().string();
 }
 
-void Gangprojekt::stelle_her() {
+// As at the beginning; what came since then goes, so that no list grows for ever.
+std::string Gangprojekt::stelle_her() {
+    for (const auto& [Name, Bytes] : lies()) {
+        if (!Anfang_.contains(Name) && (Name.starts_with("Delivered") || Name.starts_with("Moved"))) loesche_Datei(Name);
+    }
     for (const auto& [Name, Bytes] : Anfang_) schreibe(Wurzel_ / "input" / Name, Bytes);
+    return "as at the beginning";
 }
 
 }  // namespace varnok::gang

@@ -2,6 +2,7 @@
 
 // The project folder of a random walk, and what another program does to it.
 
+#include <array>
 #include <chrono>
 #include <cstdint>
 #include <filesystem>
@@ -57,15 +58,21 @@ public:
     // A summary file that was written is younger than all others, whatever the clock of the machine says.
     void ordne_Zeiten(const Dateien& vorher, const Dateien& nachher);
 
-    // Another program.
+    // Another program; each says what it did.
     std::string aendere(const char* Endung, Zufall& r);
     std::string loesche(const char* Endung, Zufall& r);
     std::string zerstoere(const char* Endung, Zufall& r);
-    void stelle_her();
+    std::string bringe_neue(const char* Endung, Zufall& r);
+    std::string benenne_um(const char* Endung, Zufall& r);
+    std::string aendere_Datei(const std::string& Name, Zufall& r);
+    std::string loesche_Datei(const std::string& Name);
+    std::string loesche_alle(const char* Endung);
+    std::string stelle_her();
 
 private:
     std::filesystem::path waehle(const char* Endung, Zufall& r) const;
     void schreibe_Anfang();
+    void schreibe_neu(const std::filesystem::path& p, Zufall& r);
 
     std::filesystem::path Wurzel_;
     Dateien Anfang_;
@@ -74,6 +81,10 @@ private:
     std::map<std::string, std::filesystem::file_time_type> Zeiten_;
     int Takt_ = 0;
 };
+
+// The kinds of file in `input`.
+inline constexpr std::array<const char*, 5> Dateiarten = {Endungen[Simulation], Endungen[Wirkstoff], Endungen[Applikation],
+                                                          Endungen[Szenario], Klima_Endung};
 
 // A weather of constant rain and of that temperature in the middle of its year.
 std::string Wetterdatei(double Temperatur);

@@ -120,7 +120,8 @@ std::shared_ptr<const Ergebnis> Gegenrechnung::rechne(const Eingabe& e, int i_st
     for (const Platz& p : Plaetze_) {
         if (p.i_studie == i_studie && p.Klima == Wetter && p.Vorgabe == Schluessel) return p.Werte;
     }
-    const auto Lauf_ = berechne_Studie(Arbeitsplatz_, std::make_shared<const Eingabe>(e), i_studie, bekanntes_Wetter(Klima));
+    Lauf neuer;  // nothing is left in it of another input
+    const auto Lauf_ = berechne_Studie(neuer, std::make_shared<const Eingabe>(e), i_studie, bekanntes_Wetter(Klima));
     constexpr std::size_t Hoechstzahl = 24;
     if (Plaetze_.size() < Hoechstzahl) Plaetze_.emplace_back();
     Plaetze_[naechster_++ % Hoechstzahl] = {Schluessel, i_studie, Wetter, Lauf_.Werte};

@@ -38,7 +38,6 @@ private:
     };
     std::vector<Platz> Plaetze_;
     std::size_t naechster_ = 0;
-    Lauf Arbeitsplatz_;
 };
 
 }  // namespace varnok::gang
