@@ -27,7 +27,7 @@ constexpr std::array alle_Arten = {Simulation, Wirkstoff, Applikation, Szenario}
 constexpr bool bei_Fragen_Ergebnisse = true;
 constexpr bool bei_Fragen_Diagramm = true;
 constexpr bool Bericht_nennt_die_Eingabe_des_Schirms = false;  // in constant climate it tells the date of the results
-constexpr bool Bericht_nennt_den_Satz_von_jetzt = false;
+constexpr bool Bericht_nennt_Satz_und_Boden_von_jetzt = false;
 constexpr bool Zeit_in_der_Statuszeile = true;
 constexpr bool Marke_der_Kombination = false;
 
@@ -215,10 +215,13 @@ void Gang::pruefe_Bericht(const Zustand& frisch) const {
     const Bericht* Offener = s_->zeige<Berichtssteuerung>().offener();
     if (Offener == nullptr) return;
     if (z().Hinweis() || z().abgedeckt()) throw Verstoss{"an open report over other values", ""};
-    const std::string Satz = Bericht_nennt_den_Satz_von_jetzt ? z().Namen[Applikation] : "@@";
+    const std::string Satz = Bericht_nennt_Satz_und_Boden_von_jetzt ? z().Namen[Applikation] : "@@";
     const Berichtsangaben Angaben{Programmversion, "@@", "@@", Satz};
-    const std::string neu = z().Zusammenfassung_aktiv() ? erstelle_erweiterten_Bericht(frisch.zeige(), Angaben)
-                                                        : erstelle_Standardbericht(frisch.zeige(), Angaben);
+    Eingabe Namen = frisch.Vorgabe;
+    if (!Bericht_nennt_Satz_und_Boden_von_jetzt) Namen.Bodenszenario = "@@";
+    const Darstellung d{frisch.Werte(), frisch.Sicht, Namen};
+    const std::string neu =
+        z().Zusammenfassung_aktiv() ? erstelle_erweiterten_Bericht(d, Angaben) : erstelle_Standardbericht(d, Angaben);
     const std::string hier = ohne_Zeitpunkt(Offener->Text, neu);
     const std::string dort = ohne_Zeitpunkt(neu, neu);
     if (hier != dort) throw Verstoss{"an open report of something else", Unterschied(hier, dort)};
