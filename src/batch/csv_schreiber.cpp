@@ -3,8 +3,8 @@
 
 #include "batch/csv_zeile.h"
 #include "batch/schreiber.h"
-#include "exposure/bezeichnungen.h"
 #include "records/eingabenamen.h"
+#include "run/bezeichnungen.h"
 
 namespace varnok::batch {
 namespace {

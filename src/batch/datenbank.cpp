@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "base/programm.h"
-#include "exposure/bezeichnungen.h"
+#include "run/bezeichnungen.h"
 
 namespace varnok::batch {
 namespace {

@@ -4,7 +4,7 @@
 
 #include "base/programm.h"
 #include "batch/schreiber.h"
-#include "exposure/bezeichnungen.h"
+#include "run/bezeichnungen.h"
 
 namespace varnok::batch {
 namespace {

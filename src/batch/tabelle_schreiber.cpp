@@ -6,8 +6,8 @@
 #include "base/zahlen.h"
 #include "base/zeichensatz.h"
 #include "batch/schreiber.h"
-#include "exposure/bezeichnungen.h"
 #include "exposure/ergebnistabelle.h"
+#include "run/bezeichnungen.h"
 
 namespace varnok::batch {
 namespace {

@@ -10,8 +10,8 @@
 #include "base/programm.h"
 #include "base/zahlen.h"
 #include "batch/aufruf.h"
-#include "exposure/bezeichnungen.h"
 #include "exposure/ergebnistabelle.h"
+#include "run/bezeichnungen.h"
 
 namespace varnok::batch {
 namespace {

@@ -3,9 +3,9 @@
 #include "base/laufzeitfehler.h"
 #include "base/zahlen.h"
 #include "batch/csv_zeile.h"
-#include "exposure/bezeichnungen.h"
 #include "exposure/ergebnistabelle.h"
 #include "records/dateien.h"
+#include "run/bezeichnungen.h"
 #include "run/kalender.h"
 #include "run/tageswerte.h"
 

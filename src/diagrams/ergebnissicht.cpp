@@ -4,8 +4,8 @@
 #include <array>
 #include <string_view>
 
-#include "exposure/bezeichnungen.h"
 #include "exposure/twa.h"
+#include "run/bezeichnungen.h"
 
 namespace varnok {
 namespace {

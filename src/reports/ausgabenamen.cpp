@@ -3,7 +3,7 @@
 #include <QDateTime>
 #include <algorithm>
 
-#include "exposure/bezeichnungen.h"
+#include "run/bezeichnungen.h"
 
 namespace varnok {
 namespace {

@@ -7,9 +7,9 @@
 #include "base/laufzeitfehler.h"
 #include "base/text.h"
 #include "base/zahlen.h"
-#include "exposure/bezeichnungen.h"
 #include "exposure/ergebnistabelle.h"
 #include "reports/berichtswoerter.h"
+#include "run/bezeichnungen.h"
 
 namespace varnok {
 namespace {

@@ -6,11 +6,11 @@
 #include "base/laufzeitfehler.h"
 #include "base/text.h"
 #include "base/zahlen.h"
-#include "exposure/bezeichnungen.h"
 #include "exposure/ergebnistabelle.h"
 #include "reports/berichtstext.h"
 #include "reports/berichtswoerter.h"
 #include "reports/textaufbau.h"
+#include "run/bezeichnungen.h"
 
 namespace varnok {
 namespace {
