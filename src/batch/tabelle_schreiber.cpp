@@ -7,6 +7,7 @@
 #include "base/zeichensatz.h"
 #include "batch/schreiber.h"
 #include "exposure/ergebnistabelle.h"
+#include "exposure/twa.h"
 #include "run/bezeichnungen.h"
 
 namespace varnok::batch {
@@ -26,7 +27,7 @@ const std::array<std::size_t, 5>& Fenster(const Simulationsergebnis& r) {
 
 Zellen Kopfzeile(const Simulationsergebnis& r, const Endpunktergebnis& e) {
     Zellen k = {"Study", "Compound", "Maximum", "Day", "Plateau", "Max+plateau"};
-    for (const std::size_t j : Fenster(r)) k.push_back("TWA " + allgemeine_Zahl(e.TWA[j].Tage) + " d");
+    for (const std::size_t j : Fenster(r)) k.push_back("TWA " + Fensterlaenge(e.TWA[j].Tage));
     k.emplace_back("Reached after 10 years");
     return k;
 }

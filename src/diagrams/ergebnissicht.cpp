@@ -84,7 +84,7 @@ std::string Ergebnissicht::Ergebnistitel() const {
 }
 
 std::string Ergebnissicht::TWA_Text() const {
-    return "TWA " + gewaehlt(TWA_Eintraege(Vorgabe_.Parameter), d_.Sicht.TWA_Laenge).substr(3);
+    return "TWA  (" + Fensterlaenge(gewaehlt(varnok::TWA_Fenster(Vorgabe_.Parameter), d_.Sicht.TWA_Laenge)) + ")";
 }
 
 std::string Ergebnissicht::Titelanfang() const { return std::string(Titelanfaenge[PEC_Art()]) + d_.Namen.Beschreibung; }
