@@ -39,12 +39,12 @@ void schreibe_Eingaben(CSV_Zeile& z, const Simulationsergebnis& r, int i_studie,
     for (const Eingabename& n : Eingabenamen()) {
         if (n.Indizes == Indexart::Tabellenreihe) {
             for (std::size_t k = 0; k < Tabellenreihen; ++k)
-                k < Reihen ? z.Text(n.lies(e, r.Sicht, {0, 0, static_cast<int>(k)}).Text) : z.leer();
+                k < Reihen ? z.Text(n.lies(e, r.Sicht, {0, 0, static_cast<int>(k)}).Text()) : z.leer();
             continue;
         }
         const bool nur_Wirkstoff = n.Indizes == Indexart::Studie;
         const bool fehlt = (nur_Wirkstoff && i_substanz > 0) || (n.Indizes == Indexart::Metabolit && i_substanz == 0);
-        fehlt ? z.leer() : z.Text(n.lies(e, r.Sicht, {i_studie, i_substanz, 0}).Text);
+        fehlt ? z.leer() : z.Text(n.lies(e, r.Sicht, {i_studie, i_substanz, 0}).Text());
     }
     z.Text(alle_Bemerkungen(r.Bemerkungen));
     z.Text(r.Eingabensumme);
@@ -107,7 +107,7 @@ void schreibe_Zeile(CSV_Zeile z, const Simulationsausgang& a, const Schreibumfan
     z.Text(a.Ergebnis.Name);
     if (a.Herkunft) {
         z.Text(std::to_string(a.Herkunft->Reihe));
-        for (const Eingabewert& w : a.Herkunft->Werte) z.Text(w.Text);
+        for (const Eingabewert& w : a.Herkunft->Werte) z.Text(w.Text());
     }
     schreibe_Werte(z, s, i_substanz, Endpunkt);
     if (u.mit_Eingaben) schreibe_Eingaben(z, a.Ergebnis, s.i_studie, i_substanz);

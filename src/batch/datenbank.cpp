@@ -55,7 +55,7 @@ void Datenbank::schreibe_Werte(const Simulationsausgang& a, long long Variante) 
     for (std::size_t i = 0; i < u_.Namen.size(); ++i) {
         const Eingabewert& x = a.Herkunft->Werte[i];
         w.nimm(1, Variante).nimm(2, u_.Namen[i]);
-        (x.ist_Wort ? w.nimm(3, x.Text) : w.nimm(3, x.Zahl)).fuehre_aus();
+        (x.ist_Wort ? w.nimm(3, x.Wort) : w.nimm(3, x.Zahl())).fuehre_aus();
     }
 }
 

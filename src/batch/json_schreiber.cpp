@@ -79,9 +79,10 @@ JSON als_Objekt(const Bemerkung& b) {
 // A whole number as such: 750, as it was typed.
 JSON als_JSON(const Eingabewert& w) {
     constexpr double groesste = 1e15;
-    if (w.ist_Wort) return w.Text;
-    if (w.Zahl == std::floor(w.Zahl) && std::abs(w.Zahl) < groesste) return static_cast<long long>(w.Zahl);
-    return w.Zahl;
+    if (w.ist_Wort) return w.Wort;
+    const double Zahl = w.Zahl();
+    if (Zahl == std::floor(Zahl) && std::abs(Zahl) < groesste) return static_cast<long long>(Zahl);
+    return Zahl;
 }
 
 JSON als_Objekt(const Variante& v, const std::vector<std::string>& Namen) {

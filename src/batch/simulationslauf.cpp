@@ -56,7 +56,7 @@ Eingabensumme gemeinsame_Summe(const Auftrag& a, const Lesung& l, const std::str
     const auto Klimabytes = Klimadatei ? lies_Datei_falls_moeglich(*Klimadatei) : std::nullopt;
     if (Klimabytes) Summe.nimm_Datei(*Klimabytes);
     if (a.Einstellungen) Summe.nimm_Datei(*a.Einstellungen);
-    for (const gegebener_Wert& w : a.Vorgaben.Werte()) Summe.nimm_Wert(w.Bezug.Text, w.Wert.Text);
+    for (const gegebener_Wert& w : a.Vorgaben.Werte()) Summe.nimm_Wert(w.Bezug.Text, w.Wert.Text());
     return Summe;
 }
 
@@ -68,7 +68,7 @@ std::string Summe_von(const Auftrag& a, const std::shared_ptr<const Lesung>& l, 
         Platz.Summe = Arbeitsplatz::Summenstand{l, Klima, gemeinsame_Summe(a, *l, Klima)};
     Eingabensumme Summe = Platz.Summe->Summe;
     const auto& Namen = a.Vorgaben.Variantennamen();
-    for (std::size_t i = 0; Herkunft && i < Namen.size(); ++i) Summe.nimm_Wert(Namen[i].Text, Herkunft->Werte[i].Text);
+    for (std::size_t i = 0; Herkunft && i < Namen.size(); ++i) Summe.nimm_Wert(Namen[i].Text, Herkunft->Werte[i].Text());
     return Summe.als_Text();
 }
 

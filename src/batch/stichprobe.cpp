@@ -184,8 +184,8 @@ private:
                     z.r * Punkte[static_cast<std::size_t>(z.Vorgaenger)] + std::sqrt(std::max(0.0, 1 - z.r * z.r)) * Punkte[j];
                 u = Wahrscheinlichkeit(Punkte[j]);
             }
-            Eingabewert w = z.Werte->Quantil(u);
-            if (z.Werte->aus_Liste() || nimmt_an(*Namen_[j].Name, w.Zahl)) return w;
+            const auto w = z.Werte->Quantil(u);
+            if (w && (z.Werte->aus_Liste() || nimmt_an(*Namen_[j].Name, w->Zahl()))) return *w;
         }
         throw Aufruffehler(Bezeichnung(Reihe_) + ", row " + std::to_string(j + 1) + ": " + Namen_[j].Text + ": " +
                            std::to_string(Versuche) + " values in a row fell outside its range (" +

@@ -82,7 +82,7 @@ std::string Endpunkttabelle(const Simulationsergebnis& r, Endpunktart Endpunkt) 
 std::string Variantentext(const Variante& v, const std::vector<std::string>& Namen) {
     std::string Text = std::to_string(v.Reihe);
     for (std::size_t i = 0; i < Namen.size(); ++i)
-        Text.append(i == 0 ? ": " : ", ").append(Namen[i]).append(" = ").append(v.Werte[i].Text);
+        Text.append(i == 0 ? ": " : ", ").append(Namen[i]).append(" = ").append(v.Werte[i].Text());
     return druckbar(Text);
 }
 

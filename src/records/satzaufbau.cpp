@@ -171,7 +171,7 @@ void gehe_durch_Applikation(Satzgang& g, Eingabe& e, Ansicht& a) {
     g.Zeile("Application type:", {ohne_Komma(Auswahl(e.Applikationsmuster, unregelmaessig))});
     g.Zeile("PEC-Type:", {Auswahl(a.PEC_Typ, Anreicherung)});
     g.beginne("Regular application date:");
-    g.Zwischenwert(mit_Teil(Position(e.App_Monat, 1, 12), "month"));
+    g.Zwischenwert(mit_Teil(Position(e.App_Monat, 1, Monate), "month"));
     // The list of days follows the month, so that a day of the old month does not outlive it.
     const int Tage = Tage_im_Monat(e.App_Monat + 1);
     e.App_Tag = std::min(e.App_Tag, Tage - 1);
@@ -179,7 +179,7 @@ void gehe_durch_Applikation(Satzgang& g, Eingabe& e, Ansicht& a) {
     g.Zeile("Application rate (g/ha):", {mit(Zahltext(e.Applikationsrate), Grenzen_von("Applikationsrate"))});
     g.Zeile("Crop interception (%):", {mit(Zahltext(e.Interzeption), Grenzen_von("Interzeption"))});
     // The list of intervals is full here and is cut to 365/number as soon as the number is known.
-    g.Zeile("Time between applications:", {Position(e.Intervall_Index, 1, 365)});
+    g.Zeile("Time between applications:", {Position(e.Intervall_Index, 1, Tage_pro_Jahr)});
     g.Zeile("Number of applications per year:", {Anzahl(e.Anzahl_Index)});
     waehle_Anzahl(e, e.Anzahl());
     gehe_durch_Tabelle(g, e.Applikationsschema);

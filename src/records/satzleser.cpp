@@ -12,16 +12,6 @@
 namespace varnok {
 namespace {
 
-// A day or month with two digits. What is far from being one stays short with an exponent.
-std::string zweistellig(double Zahl) {
-    constexpr double ohne_Exponent = 1e15;
-    if (std::abs(Zahl) >= ohne_Exponent) return allgemeine_Zahl(Zahl);
-    const std::string Ziffern = feste_Zahl(std::abs(Zahl), 0);
-    std::string Text(Zahl < 0 && Ziffern != "0" ? 1 : 0, '-');
-    Text.append(Ziffern.size() < 2 ? 1 : 0, '0');
-    return Text += Ziffern;
-}
-
 // With the single pattern there is one application, whatever the number says.
 bool wird_gelesen(const Eingabe& e, const Wertebereich& Speicher, int i_studie, int i_substanz) {
     if (Speicher.Name == "Anzahl") return e.Applikationsmuster != einzeln;

@@ -30,8 +30,6 @@ std::string Kinetikteil(const Ergebnis& e) {
     return Teil + ")";
 }
 
-std::string zweistellig(int Zahl) { return (Zahl < 10 ? "0" : "") + std::to_string(Zahl); }
-
 }  // namespace
 
 Berichtszeit Berichtszeit_nach(const Uhr& u) {
