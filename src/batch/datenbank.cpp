@@ -96,7 +96,7 @@ void Datenbank::melde(const Simulationsausgang& a, const Variantennummer& Varian
     const auto schreibe_Meldung = [&](const char* Art, const std::string& Text) {
         mit(m.nimm(1, Simulation_), 2, Variante).nimm(3, std::string(Art)).nimm(4, Text).fuehre_aus();
     };
-    if (a.Fehler) schreibe_Meldung("error", *a.Fehler);
+    if (a.Fehler) schreibe_Meldung("error", a.Fehler->what());
     for (const auto& s : a.Ergebnis.Studien) {
         for (const std::string& Text : s->Warnungen) schreibe_Meldung("warning", Text);
     }

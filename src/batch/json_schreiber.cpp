@@ -136,7 +136,7 @@ void haenge_an(JSON& Objekt, const Simulationsergebnis& r) {
 JSON als_Objekt(const Simulationsausgang& a, const Schreibumfang& u, const char* Fehlerschluessel) {
     JSON Objekt = Anfang_von(a, u);
     if (a.Fehler) {
-        Objekt[Fehlerschluessel] = *a.Fehler;
+        Objekt[Fehlerschluessel] = a.Fehler->what();
     } else {
         haenge_an(Objekt, a.Ergebnis);
     }

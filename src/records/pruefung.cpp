@@ -38,15 +38,7 @@ public:
     void bemaengle(int Zeile, const std::string& Feld, const std::string& Meldung, const std::string& Text = {}) {
         Befunde_.push_back({{Ordner_->Eingabedatei(Datei_), Zeile > 0 ? Zeile : 1, Feld, Meldung, Text, std::nullopt}, true});
     }
-    // The message of a fault names its file in front, which the finding has already.
-    void bemaengle(const Laufzeitfehler& f) {
-        std::string Meldung = f.what();
-        const Fehlerort& Ort = f.Ort();
-        std::string davor = "File " + Datei_;
-        if (Ort.Zeile > 0) davor += ", line " + std::to_string(Ort.Zeile);
-        if (Meldung.starts_with(davor + ": ")) Meldung.erase(0, davor.size() + 2);
-        bemaengle(Ort.Zeile, Ort.Feld, Meldung, Ort.Text);
-    }
+    void bemaengle(const Laufzeitfehler& f) { bemaengle(f.Ort().Zeile, f.Ort().Feld, f.Grund(), f.Ort().Text); }
     Befunde nimm() { return std::move(Befunde_); }
 
 private:

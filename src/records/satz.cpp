@@ -38,8 +38,7 @@ struct Lesung {
 };
 
 [[noreturn]] void verwirf(const Lesung& l, const Lesefehler& f, const std::string& Zusatz = {}) {
-    throw Laufzeitfehler("File " + l.Datei + ", line " + std::to_string(f.Zeile()) + ": " + f.what() + Zusatz,
-                         {.Datei = l.Datei, .Zeile = f.Zeile(), .Feld = f.Feld(), .Text = f.Text()});
+    throw Laufzeitfehler(f.what() + Zusatz, {.Datei = l.Datei, .Zeile = f.Zeile(), .Feld = f.Feld(), .Text = f.Text()});
 }
 
 Lesebefund abgebrochen(const Lesefehler& f) { return {Leseausgang::abgebrochen, f.Zeile(), f.what(), f.Feld(), f.Text(), {}}; }
@@ -177,8 +176,7 @@ Lesebefund lies(Lesung& l, Satzart Art) {
 Lesebefund Satz_lesen_aus(const std::string& Bytes, const std::string& Datei, Satzart Art, Eingabe& e, Ansicht& a,
                           char Dezimalzeichen) {
     if (Art < Wirkstoff || Art > Vorlage_Szenario) throw Laufzeitfehler("File " + Datei + " is no record", {Datei});
-    if (Bytes.size() > Hoechstgroesse_Datei)
-        throw Laufzeitfehler("File " + Datei + ", line 1: the file is too large for a record", {Datei, 1});
+    if (Bytes.size() > Hoechstgroesse_Datei) throw Laufzeitfehler("the file is too large for a record", {Datei, 1});
     Lesung l{Satzleser(Bytes, Datei, Dezimalzeichen), Datei, e, a};
     if (Bytes.starts_with(UTF8_Marke)) l.Leser.bemerke(1, "the file begins with the mark of UTF-8 and was read as Windows-1252");
     Lesebefund Befund = lies(l, Grundart(Art));

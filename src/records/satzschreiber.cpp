@@ -63,6 +63,8 @@ std::string Satzschreiber::als_Zahltext(double Zahl) const {
     return Text;
 }
 
-void Satzschreiber::melde(const std::string& Grund) const { throw Laufzeitfehler("The record cannot be saved: " + Grund); }
+void Satzschreiber::melde(const std::string& Grund) const {
+    throw Laufzeitfehler("The record cannot be saved: " + Grund, {.Feld = Name_});
+}
 
 }  // namespace varnok

@@ -66,7 +66,7 @@ std::optional<Satzstelle> finde_Satzstelle(const Fehlerort& Ort, const Eingabe& 
     if (gefunden == Eintraege.end()) return std::nullopt;
     // With the irregular pattern it is the table that holds doses and interceptions.
     if (gefunden->Art == Applikation && e.Applikationsmuster == unregelmaessig) {
-        return Satzstelle{Applikation, Ort.Zeile > 0 ? Zeile_der_Tabellenreihe(Ort.Zeile) : 0};
+        return Satzstelle{Applikation, Ort.Reihe > 0 ? Zeile_der_Tabellenreihe(Ort.Reihe) : 0};
     }
     const auto davor = Zeilen_davor(gefunden->gezaehlt_ab, Ort, e);
     if (!davor) return std::nullopt;

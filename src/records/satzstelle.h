@@ -23,8 +23,8 @@ constexpr int Zeile_der_Tabellenreihe(int Reihe) {
     return Zeilen_davor + Reihe;
 }
 
-// Record and line of the store that a fault names; its `Zeile` is the row of the table where it is about one. Nothing for
-// a store that no record holds, or one of a study or compound that the fault does not name.
+// Record and line of the store that a fault names. Nothing for a store that no record holds, or one of a study or compound that
+// the fault does not name.
 std::optional<Satzstelle> finde_Satzstelle(const Fehlerort& Ort, const Eingabe& e);
 
 }  // namespace varnok

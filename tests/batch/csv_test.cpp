@@ -142,7 +142,7 @@ TEST(Batch_CSV, text_with_commas_quotes_and_line_ends_is_quoted) {
 TEST(Batch_CSV, simulation_at_fault_has_no_row) {
     Simulationsausgang a;
     a.Ergebnis.Name = "bad";
-    a.Fehler = "reason";
+    a.Fehler.emplace("reason");
     EXPECT_EQ(als_CSV({a}), als_CSV({}));
 }
 

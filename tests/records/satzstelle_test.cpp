@@ -35,8 +35,8 @@ std::string Zeile_von(const Fehlerort& Ort, const Eingabe& e) {
     return Zeilen.at(static_cast<std::size_t>(Stelle->Zeile - 1));
 }
 
-Fehlerort Ort(const std::string& Feld, int i_studie = -1, int i_substanz = -1, int Zeile = 0) {
-    return {"", Zeile, Feld, i_studie, i_substanz};
+Fehlerort Ort(const std::string& Feld, int i_studie = -1, int i_substanz = -1, int Reihe = 0) {
+    return {.Feld = Feld, .i_studie = i_studie, .i_substanz = i_substanz, .Reihe = Reihe};
 }
 
 struct Feldfall {
