@@ -9,8 +9,6 @@
 namespace varnok::batch {
 namespace {
 
-constexpr std::size_t meiste_Fenster = 12;
-
 constexpr std::size_t Tabellenreihen = max_Applikationen;
 
 // Columns of the inputs: a row of the table is about one study and compound, so a name needs no index but that of the
@@ -60,7 +58,7 @@ void schreibe_Kopf(CSV_Zeile z, const Schreibumfang& u) {
     }
     for (int j = 1; j <= Jahre; ++j) z.Text("Jahresmaximum_" + std::to_string(j));
     for (const char* Name : {"Plateauwert", "Plateauzuwachs", "Plateautext"}) z.Text(Name);
-    for (std::size_t j = 1; j <= meiste_Fenster; ++j) {
+    for (std::size_t j = 1; j <= meiste_TWA; ++j) {
         for (const char* Teil : {"_days", "_maximum", "_start", "_actual"}) z.Text("TWA_" + std::to_string(j) + Teil);
     }
     if (u.mit_Eingaben) schreibe_Eingabenkopf(z);
@@ -69,7 +67,7 @@ void schreibe_Kopf(CSV_Zeile z, const Schreibumfang& u) {
 }
 
 void schreibe_Fenster(CSV_Zeile& z, const std::vector<Fensterergebnis>& TWA) {
-    for (std::size_t j = 0; j < meiste_Fenster; ++j) {
+    for (std::size_t j = 0; j < meiste_TWA; ++j) {
         if (j < TWA.size()) {
             z.Zahl(TWA[j].Tage);
             z.Zahl(TWA[j].Maximum);
