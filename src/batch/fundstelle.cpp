@@ -33,7 +33,7 @@ Fundstelle finde_Fundstelle(const Laufergebnis& Ergebnis, const Eingabe& e, cons
     if (Ergebnis.Ausgang != Laufausgang::Tabelle_ungueltig) return in_Datei({.i_studie = i_studie}, Datei);
     const int Reihe = Ergebnis.Zeile + 1;
     const std::string Spalte = Ergebnis.Spalte == 0 ? "day" : "month";
-    Fundstelle Stelle = in_Datei({.Feld = Spalte, .i_studie = i_studie, .Reihe = Reihe}, Datei, Zeile_der_Tabellenreihe(Reihe));
+    Fundstelle Stelle = in_Datei({.Feld = Spalte, .i_studie = i_studie, .Reihe = Reihe}, Datei, Stelle_der_Reihe(Reihe, e).Zeile);
     Stelle.Text += ", row " + std::to_string(Reihe) + " of the table, " + Spalte;
     return Stelle;
 }

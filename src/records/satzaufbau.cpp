@@ -4,6 +4,7 @@
 #include <array>
 #include <type_traits>
 
+#include "base/text.h"
 #include "run/kalender.h"
 
 namespace varnok {
@@ -32,7 +33,13 @@ Feld Zahltext(Zahlwert& Platz) { return {Feldart::Zahltext, &Platz}; }
 
 Feld mit(Feld f, const Wertebereich* Grenzen, std::string_view Teil = {}) {
     f.Grenzen = Grenzen;
+    if (Grenzen) f.Speicher = Grenzen->Name;
     f.Teil = Teil;
+    return f;
+}
+
+Feld im_Speicher(Feld f, std::string_view Speicher) {
+    f.Speicher = Speicher;
     return f;
 }
 
@@ -101,7 +108,7 @@ void gehe_durch_Studie(Satzgang& g, Laufparameter& p, std::string& Name, std::si
     for (const auto& Zeile : Stoffeigenschaften) gehe_durch(g, Zeile, p, Studie);
     // FOMC and HS are kinetics of the parent alone.
     const auto Kinetik = [&](std::size_t c, Kinetikart letzte) {
-        return von_Stoff(Kennzahl(p.Kinetik[c][Studie], letzte), nullptr, c, static_cast<int>(Studie));
+        return im_Speicher(von_Stoff(Kennzahl(p.Kinetik[c][Studie], letzte), nullptr, c, static_cast<int>(Studie)), "Kinetik");
     };
     g.Zeile("Kinetics:", {Kinetik(0, HS), Kinetik(1, DFOP), Kinetik(2, DFOP)});
     for (const auto& Zeile : Abbauparameter) gehe_durch(g, Zeile, p, Studie);
@@ -151,7 +158,7 @@ void gehe_durch_Szenario(Satzgang& g, Eingabe& e) {
     g.Zeile("Field capacity (Vol%):", {mit(Zahl(p.Feldkapazitaet), Grenzen_von("Feldkapazitaet"))});
     g.Zeile("Wilting point (Vol%):", {mit(Zahl(p.Welkepunkt), Grenzen_von("Welkepunkt"))});
     std::string Klima = Klimatext(e);
-    g.Zeile("Climatic condition:", {Text(Klima)});
+    g.Zeile("Climatic condition:", {im_Speicher(Text(Klima), "Klimatext")});
     e.Klimaszenario = Klima;
     if (g.folgt_Trennlinie()) {
         p.Klimamodus = 0;
@@ -224,6 +231,14 @@ void gehe_durch_Wirkstoffdaten(Satzgang& g, Eingabe& e, Ansicht& a, int& Zaehler
             {mit_Teil(Text(e.Name_Met_2), "name"), Masse(e.Molmasse_Met_2, 2), Anteil(e.Bildungsanteil_Met_2, 2)});
     g.Schlusszeile();
 }
+
+std::string Zeilenname(std::string_view Beschriftung) {
+    std::string_view Name = ohne_Randblanks(Beschriftung);
+    if (Name.ends_with(':')) Name.remove_suffix(1);
+    return std::string(ohne_Randblanks(Name));
+}
+
+std::string Reihenname(int Reihe) { return "row " + std::to_string(Reihe) + " of the application table"; }
 
 std::string ausserhalb(std::string_view Wertetext, std::string_view Feldname, const Feld& f) {
     return '"' + std::string(Wertetext) + "\" is not valid for " + std::string(Feldname) + " (" + std::to_string(f.von) + " to " +

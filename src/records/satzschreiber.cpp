@@ -19,7 +19,7 @@ void Satzschreiber::beginne(std::string_view Beschriftung) {
 }
 
 void Satzschreiber::beginne_Tabellenzeile(int Nummer) {
-    Name_ = "row " + std::to_string(Nummer) + " of the application table";
+    Name_ = Reihenname(Nummer);
     Wertanfang_ = Bytes_.size();
 }
 
