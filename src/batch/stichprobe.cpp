@@ -127,7 +127,7 @@ private:
         std::vector<gewichteter_Wert> Werte;
         std::vector<std::string> Reihe;
         while (Leser.lies(Reihe)) {
-            const std::string davor = Leser.Bezeichnung() + ", line " + std::to_string(Leser.Zeile()) + ": ";
+            const std::string davor = Zeilenangabe(Leser.Bezeichnung(), Leser.Zeile()) + ": ";
             if (Reihe.size() != (gewichtet ? 2 : 1))
                 throw Aufruffehler(davor + (gewichtet ? "a value and its weight belong there" : "one value belongs there"));
             if (Leser.Zeile() == 1 && ist_Kopf(Reihe, gewichtet)) continue;

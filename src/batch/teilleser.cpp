@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "base/dateipfad.h"
+#include "base/laufzeitfehler.h"
 #include "base/programm.h"
 #include "base/text.h"
 #include "base/zahlen.h"
@@ -36,8 +37,7 @@ public:
     bool zu_Ende() { return Strom_.peek() == std::char_traits<char>::eof(); }
 
     [[noreturn]] void verwirf(const std::string& Grund) const {
-        throw Aufruffehler("--merge " + Datei_ + (Nummer_ > 0 ? ", line " + std::to_string(Nummer_) : std::string()) + ": " +
-                           Grund);
+        throw Aufruffehler("--merge " + Zeilenangabe(Datei_, Nummer_) + ": " + Grund);
     }
 
 private:
