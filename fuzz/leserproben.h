@@ -158,7 +158,7 @@ inline void pruefe_Namen(const std::string& Eingang) {
     try {
         const Namensbezug b = lies_Namensbezug(std::string_view(Eingang).substr(0, Gleich));
         const Eingabewert w = lies_Eingabewert(b, std::string_view(Eingang).substr(Gleich + 1), Ordner);
-        fordere(lies_Eingabewert(b, w.Text, Ordner) == w);
+        fordere(lies_Eingabewert(b, w.Text(), Ordner) == w);
         Eingabe e;
         Ansicht a;
         e.Studie = {"1", "2"};

@@ -4,8 +4,8 @@
 
 namespace varnok {
 
-std::string als_Zeile(const Bemerkung& b) {
-    std::string Zeile = b.Datei + ":" + std::to_string(b.Zeile) + ": remark: ";
+std::string als_Zeile(const Bemerkung& b, std::string_view Art) {
+    std::string Zeile = b.Datei + ":" + std::to_string(b.Zeile) + ": " + std::string(Art) + ": ";
     if (!b.Feld.empty()) Zeile += b.Feld + ": ";
     Zeile += b.Meldung;
     if (!b.Text.empty() || b.Wert) Zeile += " (" + b.Text + (b.Wert ? " -> " + allgemeine_Zahl(*b.Wert) : "") + ")";

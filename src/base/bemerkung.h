@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace varnok {
 
@@ -18,7 +19,7 @@ struct Bemerkung {
     friend bool operator==(const Bemerkung&, const Bemerkung&) = default;
 };
 
-// X.che:11: remark: KOC (L/kg), parent: only its beginning is a number (7x5 -> 7)
-std::string als_Zeile(const Bemerkung& b);
+// X.che:11: remark: KOC (L/kg), parent: only its beginning is a number (7x5 -> 7). `Art` is the word behind the line.
+std::string als_Zeile(const Bemerkung& b, std::string_view Art = "remark");
 
 }  // namespace varnok

@@ -10,23 +10,32 @@ namespace varnok {
 // store at fault with its study and compound.
 struct Fehlerort {
     std::string Datei = {};  // with its ending, empty without one
-    int Zeile = 0;           // counted from 1, 0 without one
+    int Zeile = 0;           // of the file, counted from 1, 0 without one
     std::string Feld = {};   // name of the store, e.g. "Bodendichte"; of a fault in a file as the file names it
     int i_studie = -1;       // counted from 0, -1 where the fault concerns no study
     int i_substanz = -1;     // 0 parent, -1 where it concerns no compound
     std::string Text = {};   // what stands in the file
+    int Reihe = 0;           // of the table of applications, counted from 1, 0 where the fault concerns none
 };
 
-// The one exception of the program: input or a file that makes going on impossible. The text names
-// the file, the line or the input, and what is wrong with it; it is shown to the user as it stands.
+// "X.che, line 12", or "X.che" for line 0.
+std::string Zeilenangabe(const std::string& Datei, int Zeile);
+
+// The one exception of the program: input or a file that makes going on impossible. `what` names the file, the line or the
+// input, and what is wrong with it; it is shown to the user as it stands.
 class Laufzeitfehler : public std::runtime_error {
 public:
-    explicit Laufzeitfehler(const std::string& Text, Fehlerort Ort = {}) : std::runtime_error(Text), Ort_(std::move(Ort)) {}
+    // `what` is the reason with the line in front of it, where the place has one: "File X.che, line 12: the reason".
+    // `davor` stands there instead where more is to be said.
+    explicit Laufzeitfehler(std::string Grund, Fehlerort Ort = {}, const std::string& davor = {});
 
     const Fehlerort& Ort() const { return Ort_; }
+    // What is wrong, without the place in front.
+    const std::string& Grund() const { return Grund_; }
 
 private:
     Fehlerort Ort_;
+    std::string Grund_;
 };
 
 // Input that makes the arithmetic impossible, such as a soil density of 0. `Eingabewert` names the

@@ -15,6 +15,10 @@ std::string_view ohne_Randblanks(std::string_view Text) {
     return Text.substr(erstes, Text.find_last_not_of(' ') - erstes + 1);
 }
 
+bool nur_Ziffern(std::string_view Text) {
+    return !Text.empty() && Text.find_first_not_of("0123456789") == std::string_view::npos;
+}
+
 bool gleich_ohne_Gross_Klein(std::string_view a, std::string_view b) {
     return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) { return klein(x) == klein(y); });
 }

@@ -227,6 +227,8 @@ double wie_im_Satz(double Zahl) { return std::isfinite(Zahl) ? Wert(allgemeine_Z
 
 std::string gekuerzte_Zahl(double Zahl, int Stellen, char Dezimalzeichen) { return allgemein(Zahl, Stellen, Dezimalzeichen); }
 
+double gekuerzt(double Zahl, int Stellen) { return std::isfinite(Zahl) ? lies(gekuerzte_Zahl(Zahl, Stellen)) : Zahl; }
+
 std::string feste_Zahl(double Zahl, int Nachkommastellen, char Dezimalzeichen) {
     if (!std::isfinite(Zahl)) return nicht_endlich(Zahl);
     const Dezimaltext d = zerlege(Zahl, 15);
@@ -251,6 +253,15 @@ std::string feste_Zahl(double Zahl, int Nachkommastellen, char Dezimalzeichen) {
 }
 
 double gerundet(double Zahl, int Nachkommastellen) { return lies(feste_Zahl(Zahl, Nachkommastellen)); }
+
+std::string zweistellig(double Zahl) {
+    constexpr double ohne_Exponent = 1e15;
+    if (std::abs(Zahl) >= ohne_Exponent) return allgemeine_Zahl(Zahl);
+    const std::string Ziffern = feste_Zahl(std::abs(Zahl), 0);
+    std::string Text(Zahl < 0 && Ziffern != "0" ? 1 : 0, '-');
+    Text.append(Ziffern.size() < 2 ? 1 : 0, '0');
+    return Text += Ziffern;
+}
 
 std::string genaue_Zahl(float Zahl) { return genau(Zahl); }
 std::string genaue_Zahl(double Zahl) { return genau(Zahl); }

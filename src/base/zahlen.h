@@ -41,6 +41,9 @@ std::string allgemeine_Zahl(float Zahl, char Dezimalzeichen = '.');
 // The same form with at most `Stellen` significant digits, 1 to 15.
 std::string gekuerzte_Zahl(double Zahl, int Stellen, char Dezimalzeichen = '.');
 
+// The number that this text shows.
+double gekuerzt(double Zahl, int Stellen);
+
 // The number that a record holding `allgemeine_Zahl(Zahl)` gives back.
 double wie_im_Satz(double Zahl);
 
@@ -50,6 +53,9 @@ std::string feste_Zahl(double Zahl, int Nachkommastellen, char Dezimalzeichen = 
 
 // The number that this text shows.
 double gerundet(double Zahl, int Nachkommastellen);
+
+// A day, month or hour with two digits. What is far from being one stays short with an exponent.
+std::string zweistellig(double Zahl);
 
 // The shortest text that reads back as the same single or double precision value.
 std::string genaue_Zahl(float Zahl);

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "base/programm.h"
+#include "base/text.h"
 #include "base/zahlen.h"
 #include "batch/vorgaben.h"
 
@@ -46,8 +47,7 @@ struct Zahlentexte {
 
 // A whole number of digits alone; nothing for anything else or outside [von, bis].
 std::optional<int> lies_ganze_Zahl(std::string_view Text, int von, int bis) {
-    const bool Ziffern = std::all_of(Text.begin(), Text.end(), [](char z) { return z >= '0' && z <= '9'; });
-    if (Text.empty() || Text.size() > 9 || !Ziffern) return std::nullopt;
+    if (Text.size() > 9 || !nur_Ziffern(Text)) return std::nullopt;
     return ganze_Zahl(fuehrende_Zahl(Text), von, bis);
 }
 
@@ -61,8 +61,7 @@ int fordere_ganze_Zahl(const std::string& Option, const std::string& Text, int v
 // The seed has 32 bits.
 std::uint32_t lies_Saat(const std::string& Text) {
     constexpr double groesste = 4294967295.0;
-    const bool Ziffern = std::all_of(Text.begin(), Text.end(), [](char z) { return z >= '0' && z <= '9'; });
-    const double Zahl = Ziffern && Text.size() <= 10 ? fuehrende_Zahl(Text) : groesste + 1;
+    const double Zahl = nur_Ziffern(Text) && Text.size() <= 10 ? fuehrende_Zahl(Text) : groesste + 1;
     if (Zahl <= groesste) return static_cast<std::uint32_t>(Zahl);
     throw Aufruffehler("--seed: \"" + Text + "\" is not a whole number of 0 to 4294967295");
 }

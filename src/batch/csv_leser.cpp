@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "base/dateipfad.h"
+#include "base/laufzeitfehler.h"
 #include "base/text.h"
 #include "batch/aufruf.h"
 
@@ -70,7 +71,7 @@ bool CSV_Leser::lies_Zeile(std::vector<std::string>& Zellen) {
     for (;;) {
         const int Zeichen = naechstes();
         if (Zeichen == Ende) {
-            if (offen) throw Aufruffehler(Bezeichnung_ + ", line " + std::to_string(Zeile_) + ": a quotation mark has no end");
+            if (offen) throw Aufruffehler(Zeilenangabe(Bezeichnung_, Zeile_) + ": a quotation mark has no end");
             if (Zellen.empty() && z.Text.empty()) return false;
             z.lege_ab(Zellen);
             return true;

@@ -3,13 +3,11 @@
 
 #include "batch/csv_zeile.h"
 #include "batch/schreiber.h"
-#include "exposure/bezeichnungen.h"
 #include "records/eingabenamen.h"
+#include "run/bezeichnungen.h"
 
 namespace varnok::batch {
 namespace {
-
-constexpr std::size_t meiste_Fenster = 12;
 
 constexpr std::size_t Tabellenreihen = max_Applikationen;
 
@@ -39,12 +37,12 @@ void schreibe_Eingaben(CSV_Zeile& z, const Simulationsergebnis& r, int i_studie,
     for (const Eingabename& n : Eingabenamen()) {
         if (n.Indizes == Indexart::Tabellenreihe) {
             for (std::size_t k = 0; k < Tabellenreihen; ++k)
-                k < Reihen ? z.Text(n.lies(e, r.Sicht, {0, 0, static_cast<int>(k)}).Text) : z.leer();
+                k < Reihen ? z.Text(n.lies(e, r.Sicht, {0, 0, static_cast<int>(k)}).Text()) : z.leer();
             continue;
         }
         const bool nur_Wirkstoff = n.Indizes == Indexart::Studie;
         const bool fehlt = (nur_Wirkstoff && i_substanz > 0) || (n.Indizes == Indexart::Metabolit && i_substanz == 0);
-        fehlt ? z.leer() : z.Text(n.lies(e, r.Sicht, {i_studie, i_substanz, 0}).Text);
+        fehlt ? z.leer() : z.Text(n.lies(e, r.Sicht, {i_studie, i_substanz, 0}).Text());
     }
     z.Text(alle_Bemerkungen(r.Bemerkungen));
     z.Text(r.Eingabensumme);
@@ -60,7 +58,7 @@ void schreibe_Kopf(CSV_Zeile z, const Schreibumfang& u) {
     }
     for (int j = 1; j <= Jahre; ++j) z.Text("Jahresmaximum_" + std::to_string(j));
     for (const char* Name : {"Plateauwert", "Plateauzuwachs", "Plateautext"}) z.Text(Name);
-    for (std::size_t j = 1; j <= meiste_Fenster; ++j) {
+    for (std::size_t j = 1; j <= meiste_TWA; ++j) {
         for (const char* Teil : {"_days", "_maximum", "_start", "_actual"}) z.Text("TWA_" + std::to_string(j) + Teil);
     }
     if (u.mit_Eingaben) schreibe_Eingabenkopf(z);
@@ -69,7 +67,7 @@ void schreibe_Kopf(CSV_Zeile z, const Schreibumfang& u) {
 }
 
 void schreibe_Fenster(CSV_Zeile& z, const std::vector<Fensterergebnis>& TWA) {
-    for (std::size_t j = 0; j < meiste_Fenster; ++j) {
+    for (std::size_t j = 0; j < meiste_TWA; ++j) {
         if (j < TWA.size()) {
             z.Zahl(TWA[j].Tage);
             z.Zahl(TWA[j].Maximum);
@@ -107,7 +105,7 @@ void schreibe_Zeile(CSV_Zeile z, const Simulationsausgang& a, const Schreibumfan
     z.Text(a.Ergebnis.Name);
     if (a.Herkunft) {
         z.Text(std::to_string(a.Herkunft->Reihe));
-        for (const Eingabewert& w : a.Herkunft->Werte) z.Text(w.Text);
+        for (const Eingabewert& w : a.Herkunft->Werte) z.Text(w.Text());
     }
     schreibe_Werte(z, s, i_substanz, Endpunkt);
     if (u.mit_Eingaben) schreibe_Eingaben(z, a.Ergebnis, s.i_studie, i_substanz);

@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "base/programm.h"
-#include "exposure/bezeichnungen.h"
+#include "run/bezeichnungen.h"
 
 namespace varnok::batch {
 namespace {
@@ -55,7 +55,7 @@ void Datenbank::schreibe_Werte(const Simulationsausgang& a, long long Variante) 
     for (std::size_t i = 0; i < u_.Namen.size(); ++i) {
         const Eingabewert& x = a.Herkunft->Werte[i];
         w.nimm(1, Variante).nimm(2, u_.Namen[i]);
-        (x.ist_Wort ? w.nimm(3, x.Text) : w.nimm(3, x.Zahl)).fuehre_aus();
+        (x.ist_Wort ? w.nimm(3, x.Wort) : w.nimm(3, x.Zahl())).fuehre_aus();
     }
 }
 
@@ -96,7 +96,7 @@ void Datenbank::melde(const Simulationsausgang& a, const Variantennummer& Varian
     const auto schreibe_Meldung = [&](const char* Art, const std::string& Text) {
         mit(m.nimm(1, Simulation_), 2, Variante).nimm(3, std::string(Art)).nimm(4, Text).fuehre_aus();
     };
-    if (a.Fehler) schreibe_Meldung("error", *a.Fehler);
+    if (a.Fehler) schreibe_Meldung("error", a.Fehler->what());
     for (const auto& s : a.Ergebnis.Studien) {
         for (const std::string& Text : s->Warnungen) schreibe_Meldung("warning", Text);
     }

@@ -12,8 +12,8 @@
 #include "base/laufzeitfehler.h"
 #include "batch/aufruf.h"
 #include "batch/datenbankziel.h"
-#include "exposure/bezeichnungen.h"
 #include "exposure/ergebnistabelle.h"
+#include "run/bezeichnungen.h"
 
 namespace varnok::batch {
 namespace {

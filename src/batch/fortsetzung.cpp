@@ -6,6 +6,7 @@
 #include <system_error>
 
 #include "base/dateipfad.h"
+#include "base/laufzeitfehler.h"
 #include "batch/aufruf.h"
 
 namespace varnok::batch {
@@ -77,7 +78,7 @@ void Fortsetzung::gleiche_ab(const Arbeitsstueck& s, const std::string& Summe) {
         Anfang_zu_Ende_ = true;
         return;
     }
-    const std::string davor = "--resume " + Datei_ + ", line " + std::to_string(Zeilennummer_) + ": ";
+    const std::string davor = "--resume " + Zeilenangabe(Datei_, Zeilennummer_) + ": ";
     const std::string wessen =
         "simulation \"" + s.Simulation + "\"" + (s.Herkunft ? ", variant " + std::to_string(s.Herkunft->Reihe) : std::string());
     if (!Zeile.starts_with(Zeilenanfang(s)))
@@ -97,7 +98,7 @@ void Fortsetzung::gleiche_ab(const Arbeitsstueck& s, const std::string& Summe) {
 void Fortsetzung::schliesse_Abgleich_ab() {
     std::string Zeile;
     if (lies_Zeile(Zeile))
-        throw Aufruffehler("--resume " + Datei_ + ", line " + std::to_string(Zeilennummer_) +
+        throw Aufruffehler("--resume " + Zeilenangabe(Datei_, Zeilennummer_) +
                            ": the file holds more than this call; it is of another one");
 }
 

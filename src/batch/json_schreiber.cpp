@@ -4,7 +4,7 @@
 
 #include "base/programm.h"
 #include "batch/schreiber.h"
-#include "exposure/bezeichnungen.h"
+#include "run/bezeichnungen.h"
 
 namespace varnok::batch {
 namespace {
@@ -79,9 +79,10 @@ JSON als_Objekt(const Bemerkung& b) {
 // A whole number as such: 750, as it was typed.
 JSON als_JSON(const Eingabewert& w) {
     constexpr double groesste = 1e15;
-    if (w.ist_Wort) return w.Text;
-    if (w.Zahl == std::floor(w.Zahl) && std::abs(w.Zahl) < groesste) return static_cast<long long>(w.Zahl);
-    return w.Zahl;
+    if (w.ist_Wort) return w.Wort;
+    const double Zahl = w.Zahl();
+    if (Zahl == std::floor(Zahl) && std::abs(Zahl) < groesste) return static_cast<long long>(Zahl);
+    return Zahl;
 }
 
 JSON als_Objekt(const Variante& v, const std::vector<std::string>& Namen) {
@@ -135,7 +136,7 @@ void haenge_an(JSON& Objekt, const Simulationsergebnis& r) {
 JSON als_Objekt(const Simulationsausgang& a, const Schreibumfang& u, const char* Fehlerschluessel) {
     JSON Objekt = Anfang_von(a, u);
     if (a.Fehler) {
-        Objekt[Fehlerschluessel] = *a.Fehler;
+        Objekt[Fehlerschluessel] = a.Fehler->what();
     } else {
         haenge_an(Objekt, a.Ergebnis);
     }

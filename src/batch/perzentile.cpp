@@ -8,8 +8,8 @@
 
 #include "base/zahlen.h"
 #include "batch/csv_zeile.h"
-#include "exposure/bezeichnungen.h"
 #include "exposure/ergebnistabelle.h"
+#include "run/bezeichnungen.h"
 
 namespace varnok::batch {
 namespace {

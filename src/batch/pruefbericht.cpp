@@ -1,7 +1,6 @@
 #include "batch/pruefbericht.h"
 
 #include <nlohmann/json.hpp>
-#include <string_view>
 
 #include "base/druckbares.h"
 #include "base/zahlen.h"
@@ -17,12 +16,7 @@ const char* Art_von(const Befund& b) { return b.Mangel ? "fault" : "remark"; }
 
 }  // namespace
 
-std::string als_Zeile(const Befund& b) {
-    std::string Zeile = varnok::als_Zeile(b.Stelle);
-    constexpr std::string_view Bemerkungswort = ": remark: ";
-    if (b.Mangel) Zeile.replace(Zeile.find(Bemerkungswort, b.Stelle.Datei.size()), Bemerkungswort.size(), ": fault: ");
-    return druckbar(Zeile);
-}
+std::string als_Zeile(const Befund& b) { return druckbar(varnok::als_Zeile(b.Stelle, Art_von(b))); }
 
 std::string Befunde_als_JSON(const Befunde& Liste) {
     using JSON = nlohmann::ordered_json;

@@ -21,20 +21,18 @@ void fordere_Satz(const Auftrag& a, const std::string& Simulationsname, const Si
     const std::string& Name = Satz.Dateinamen[Art];
     if (a.Ordner.enthaelt(Name, Endungen[Art])) return;
     // Line 1 of the summary file is the description, so the kinds of record stand on lines 2 to 4.
-    std::string Text =
-        Dateistelle(Simulationsname + Endungen[Simulation], Art + 1) + ": there is no " + Satzwoerter[Art] + " \"" + Name + "\"";
+    const Fehlerort Ort = {.Datei = Simulationsname + Endungen[Simulation], .Zeile = Art + 1, .Text = Name};
+    std::string Grund = std::string("there is no ") + Satzwoerter[Art] + " \"" + Name + "\"";
     const auto aehnlich = a.Ordner.finde(Name, Endungen[Art]);
     if (aehnlich && a.Ordner.enthaelt(Satzname(*aehnlich), Endungen[Art])) {
-        Text += "; there is \"" + Satzname(*aehnlich) + "\", which differs in upper and lower case";
+        Grund += "; there is \"" + Satzname(*aehnlich) + "\", which differs in upper and lower case";
     }
-    throw Laufzeitfehler(Text);
+    throw Laufzeitfehler(Grund, Ort, Dateistelle(Ort.Datei, Ort.Zeile));
 }
 
 }  // namespace
 
-std::string Dateistelle(const std::string& Dateiname, int Zeile) {
-    return "file " + Dateiname + (Zeile > 0 ? ", line " + std::to_string(Zeile) : "");
-}
+std::string Dateistelle(const std::string& Dateiname, int Zeile) { return "file " + Zeilenangabe(Dateiname, Zeile); }
 
 std::string Satzdatei(const Simulationssatz& Satz, Satzart Art) { return Satz.Dateinamen[Art] + Endungen[Art]; }
 
@@ -53,12 +51,14 @@ void lade_Saetze(const Auftrag& a, const std::string& Simulation, const Simulati
     for (const Satzart Art : Lesefolge) {
         const std::string Datei = Satzdatei(Satz, Art);
         const auto Pfad = a.Ordner.finde(Satz.Dateinamen[Art], Endungen[Art]);
-        if (!Pfad) throw Laufzeitfehler(Dateistelle(Datei) + " is missing");
+        if (!Pfad) throw Laufzeitfehler(Dateistelle(Datei) + " is missing", {Datei});
         Bytes[Art] = lies_Datei(*Pfad);
         const Lesebefund Befund = Satz_lesen_aus(Bytes[Art], Datei, Art, e, Sicht);
         haenge_an(Bemerkungen, Befund.Bemerkungen, a.Ordner);
-        if (Befund.Ausgang == Leseausgang::abgebrochen)
-            throw Laufzeitfehler(Dateistelle(Datei, Befund.Zeile) + ": " + Befund.Grund);
+        if (Befund.Ausgang == Leseausgang::abgebrochen) {
+            throw Laufzeitfehler(Befund.Grund, {.Datei = Datei, .Zeile = Befund.Zeile, .Feld = Befund.Feld, .Text = Befund.Text},
+                                 Dateistelle(Datei, Befund.Zeile));
+        }
     }
     if (!Summe) return;
     for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) Summe->nimm_Datei(Bytes[Art]);

@@ -110,7 +110,7 @@ void schreibe_Werte(CSV_Zeile& z, const Zeileninhalt& r) {
         const auto Art = Satz_von(n);
         if (!Art) continue;
         for (const Eingabeort& o : alle_Orte(n))
-            r.gelesen&&* Art == r.Art&& ist_da(n, o, r.e) ? z.Text(n.lies(r.e, r.Sicht, o).Text) : z.leer();
+            r.gelesen&&* Art == r.Art&& ist_da(n, o, r.e) ? z.Text(n.lies(r.e, r.Sicht, o).Text()) : z.leer();
     }
 }
 

@@ -10,6 +10,4 @@ std::string als_Text(Schreiber& s, const std::vector<Simulationsausgang>& Ausgae
 
 std::string als_JSON(const std::vector<Simulationsausgang>& Ausgaenge) { return als_Text(*JSON_Schreiber(), Ausgaenge); }
 
-std::string als_CSV(const std::vector<Simulationsausgang>& Ausgaenge) { return als_Text(*CSV_Schreiber(), Ausgaenge); }
-
 }  // namespace varnok::batch

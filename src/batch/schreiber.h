@@ -48,6 +48,5 @@ std::unique_ptr<Schreiber> Tabellenschreiber(const Schreibumfang& u = {});
 // The whole document at once.
 std::string als_Text(Schreiber& s, const std::vector<Simulationsausgang>& Ausgaenge);
 std::string als_JSON(const std::vector<Simulationsausgang>& Ausgaenge);
-std::string als_CSV(const std::vector<Simulationsausgang>& Ausgaenge);
 
 }  // namespace varnok::batch

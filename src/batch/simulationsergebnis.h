@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "base/bemerkung.h"
+#include "base/laufzeitfehler.h"
 #include "batch/variantenquelle.h"
 #include "exposure/ergebnis.h"
 #include "run/ansicht.h"
@@ -35,7 +36,7 @@ struct Simulationsausgang {
     Simulationsergebnis Ergebnis;
     std::size_t Position = 0;          // among the simulations and variants of the whole call, from 0
     std::optional<Variante> Herkunft;  // the variant that it is
-    std::optional<std::string> Fehler;
+    std::optional<Laufzeitfehler> Fehler;
     std::vector<std::string> Schreibfehler;  // series and reports that could not be written
 };
 

@@ -56,7 +56,7 @@ Eingabensumme gemeinsame_Summe(const Auftrag& a, const Lesung& l, const std::str
     const auto Klimabytes = Klimadatei ? lies_Datei_falls_moeglich(*Klimadatei) : std::nullopt;
     if (Klimabytes) Summe.nimm_Datei(*Klimabytes);
     if (a.Einstellungen) Summe.nimm_Datei(*a.Einstellungen);
-    for (const gegebener_Wert& w : a.Vorgaben.Werte()) Summe.nimm_Wert(w.Bezug.Text, w.Wert.Text);
+    for (const gegebener_Wert& w : a.Vorgaben.Werte()) Summe.nimm_Wert(w.Bezug.Text, w.Wert.Text());
     return Summe;
 }
 
@@ -68,7 +68,7 @@ std::string Summe_von(const Auftrag& a, const std::shared_ptr<const Lesung>& l, 
         Platz.Summe = Arbeitsplatz::Summenstand{l, Klima, gemeinsame_Summe(a, *l, Klima)};
     Eingabensumme Summe = Platz.Summe->Summe;
     const auto& Namen = a.Vorgaben.Variantennamen();
-    for (std::size_t i = 0; Herkunft && i < Namen.size(); ++i) Summe.nimm_Wert(Namen[i].Text, Herkunft->Werte[i].Text);
+    for (std::size_t i = 0; Herkunft && i < Namen.size(); ++i) Summe.nimm_Wert(Namen[i].Text, Herkunft->Werte[i].Text());
     return Summe.als_Text();
 }
 
@@ -76,8 +76,10 @@ std::string Summe_von(const Auftrag& a, const std::shared_ptr<const Lesung>& l, 
 std::vector<int> gewaehlte_Studien(const Auftrag& a, const Gelesenes& g) {
     const int Anzahl = g.Vorgabe->Studienzahl();
     if (a.Studie && *a.Studie > Anzahl) {
-        throw Laufzeitfehler("there is no study " + std::to_string(*a.Studie) + ": " + Dateistelle(Satzdatei(g.Satz, Wirkstoff)) +
-                             " has " + std::to_string(Anzahl));
+        const std::string Datei = Satzdatei(g.Satz, Wirkstoff);
+        throw Laufzeitfehler(
+            "there is no study " + std::to_string(*a.Studie) + ": " + Dateistelle(Datei) + " has " + std::to_string(Anzahl),
+            {.Datei = Datei, .i_studie = *a.Studie - 1});
     }
     if (a.Studie) return {*a.Studie - 1};
     std::vector<int> alle(static_cast<std::size_t>(Anzahl));
@@ -85,18 +87,22 @@ std::vector<int> gewaehlte_Studien(const Auftrag& a, const Gelesenes& g) {
     return alle;
 }
 
+// A study that cannot be calculated.
+[[noreturn]] void melde(const std::string& Grund, const Fundstelle& Stelle, const Eingabe& e) {
+    const int st = Stelle.Ort.i_studie;
+    const std::string Studie = "study " + std::to_string(st + 1) + " \"" + e.Studie[static_cast<std::size_t>(st)] + '"';
+    throw Laufzeitfehler(Grund, Stelle.Ort, Stelle.Text.empty() ? Studie : Studie + ": " + Stelle.Text);
+}
+
 std::shared_ptr<const Ergebnis> rechne_Studie(const Gelesenes& g, int st, Umfang u, const Arbeitsplatz& Platz) {
     const Eingabe& e = *g.Vorgabe;
-    const std::string davor = "study " + std::to_string(st + 1) + " \"" + e.Studie[static_cast<std::size_t>(st)] + "\": ";
     Studienlauf Fertig;
     try {
         Fertig = berechne_Studie(*Platz.Rechnung, g.Vorgabe, st, *Platz.Klima, u);
     } catch (const Laufzeitfehler& f) {
-        const std::string Ort = Fundstelle(f, e, g.Satz, st);
-        throw Laufzeitfehler(davor + (Ort.empty() ? "" : Ort + ": ") + f.what());
+        melde(f.Grund(), finde_Fundstelle(f, e, g.Satz, st), e);
     }
-    if (!Fertig.Ausgang.gelungen())
-        throw Laufzeitfehler(davor + Fundstelle(Fertig.Ausgang, e, g.Satz) + ": " + Meldung(Fertig.Ausgang.Ausgang));
+    if (!Fertig.Ausgang.gelungen()) melde(Meldung(Fertig.Ausgang.Ausgang), finde_Fundstelle(Fertig.Ausgang, e, g.Satz, st), e);
     return Fertig.Werte;
 }
 
@@ -139,7 +145,7 @@ void rechne(const Auftrag& a, const Arbeitsstueck& s, Arbeitsplatz& Platz, Simul
     Simulationsergebnis& r = Ausgang.Ergebnis;
     const auto l = s.Gelesenes ? s.Gelesenes : lies_Simulationssaetze(a, s.Simulation);
     r.Bemerkungen = l->Bemerkungen;
-    if (l->Fehler) throw Laufzeitfehler(*l->Fehler);
+    if (l->Fehler) throw *l->Fehler;
     const Gelesenes g = setze_ein(a, *l, s.Herkunft);
     const Eingabe& e = *g.Vorgabe;
     r.Eingabensumme = Summe_von(a, l, e, s.Herkunft, Platz);
@@ -174,7 +180,7 @@ std::shared_ptr<const Lesung> lies_Simulationssaetze(const Auftrag& a, const std
     try {
         lies(a, Name, *l);
     } catch (const Laufzeitfehler& f) {
-        l->Fehler = f.what();
+        l->Fehler = f;
         l->Vorgabe.reset();
     }
     return l;
@@ -200,10 +206,12 @@ Simulationsausgang rechne_Simulation(const Auftrag& a, const Arbeitsstueck& s, A
         rechne(a, s, Platz, Ausgang);
         return Ausgang;
     } catch (const std::bad_alloc&) {
-        Ausgang.Fehler = "there is not enough memory for this simulation; fewer --jobs need less";
+        Ausgang.Fehler.emplace("there is not enough memory for this simulation; fewer --jobs need less");
         Ausgang.Ergebnis.Eingabensumme.clear();  // another attempt may well succeed
+    } catch (const Laufzeitfehler& f) {
+        Ausgang.Fehler = f;
     } catch (const std::exception& f) {
-        Ausgang.Fehler = f.what();
+        Ausgang.Fehler.emplace(f.what());
     }
     Ausgang.Ergebnis.Studien.clear();
     return Ausgang;

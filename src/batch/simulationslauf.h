@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "base/laufzeitfehler.h"
 #include "base/schnittstellen.h"
 #include "batch/berichtsauftrag.h"
 #include "batch/berichtsnamen.h"
@@ -46,8 +47,8 @@ struct Lesung {
     std::shared_ptr<const Eingabe> Vorgabe;  // null with a `Fehler`
     Ansicht Sicht;
     std::vector<Bemerkung> Bemerkungen;
-    std::optional<Eingabensumme> Summe;  // of the three records, where it is wanted
-    std::optional<std::string> Fehler;   // why it cannot be used
+    std::optional<Eingabensumme> Summe;    // of the three records, where it is wanted
+    std::optional<Laufzeitfehler> Fehler;  // why it cannot be used
 };
 
 // What a worker uses again for each of its simulations. What it was used for before plays no part in the results.

@@ -127,7 +127,7 @@ private:
         std::vector<gewichteter_Wert> Werte;
         std::vector<std::string> Reihe;
         while (Leser.lies(Reihe)) {
-            const std::string davor = Leser.Bezeichnung() + ", line " + std::to_string(Leser.Zeile()) + ": ";
+            const std::string davor = Zeilenangabe(Leser.Bezeichnung(), Leser.Zeile()) + ": ";
             if (Reihe.size() != (gewichtet ? 2 : 1))
                 throw Aufruffehler(davor + (gewichtet ? "a value and its weight belong there" : "one value belongs there"));
             if (Leser.Zeile() == 1 && ist_Kopf(Reihe, gewichtet)) continue;
@@ -184,8 +184,8 @@ private:
                     z.r * Punkte[static_cast<std::size_t>(z.Vorgaenger)] + std::sqrt(std::max(0.0, 1 - z.r * z.r)) * Punkte[j];
                 u = Wahrscheinlichkeit(Punkte[j]);
             }
-            Eingabewert w = z.Werte->Quantil(u);
-            if (z.Werte->aus_Liste() || nimmt_an(*Namen_[j].Name, w.Zahl)) return w;
+            const auto w = z.Werte->Quantil(u);
+            if (w && (z.Werte->aus_Liste() || nimmt_an(*Namen_[j].Name, w->Zahl()))) return *w;
         }
         throw Aufruffehler(Bezeichnung(Reihe_) + ", row " + std::to_string(j + 1) + ": " + Namen_[j].Text + ": " +
                            std::to_string(Versuche) + " values in a row fell outside its range (" +

@@ -6,8 +6,9 @@
 #include "base/zahlen.h"
 #include "base/zeichensatz.h"
 #include "batch/schreiber.h"
-#include "exposure/bezeichnungen.h"
 #include "exposure/ergebnistabelle.h"
+#include "exposure/twa.h"
+#include "run/bezeichnungen.h"
 
 namespace varnok::batch {
 namespace {
@@ -26,7 +27,7 @@ const std::array<std::size_t, 5>& Fenster(const Simulationsergebnis& r) {
 
 Zellen Kopfzeile(const Simulationsergebnis& r, const Endpunktergebnis& e) {
     Zellen k = {"Study", "Compound", "Maximum", "Day", "Plateau", "Max+plateau"};
-    for (const std::size_t j : Fenster(r)) k.push_back("TWA " + allgemeine_Zahl(e.TWA[j].Tage) + " d");
+    for (const std::size_t j : Fenster(r)) k.push_back("TWA " + Fensterlaenge(e.TWA[j].Tage));
     k.emplace_back("Reached after 10 years");
     return k;
 }
@@ -81,7 +82,7 @@ std::string Endpunkttabelle(const Simulationsergebnis& r, Endpunktart Endpunkt) 
 std::string Variantentext(const Variante& v, const std::vector<std::string>& Namen) {
     std::string Text = std::to_string(v.Reihe);
     for (std::size_t i = 0; i < Namen.size(); ++i)
-        Text.append(i == 0 ? ": " : ", ").append(Namen[i]).append(" = ").append(v.Werte[i].Text);
+        Text.append(i == 0 ? ": " : ", ").append(Namen[i]).append(" = ").append(v.Werte[i].Text());
     return druckbar(Text);
 }
 

@@ -7,11 +7,13 @@
 #include <utility>
 
 #include "base/dateipfad.h"
+#include "base/laufzeitfehler.h"
 #include "base/programm.h"
+#include "base/text.h"
 #include "base/zahlen.h"
 #include "batch/aufruf.h"
-#include "exposure/bezeichnungen.h"
 #include "exposure/ergebnistabelle.h"
+#include "run/bezeichnungen.h"
 
 namespace varnok::batch {
 namespace {
@@ -35,8 +37,7 @@ public:
     bool zu_Ende() { return Strom_.peek() == std::char_traits<char>::eof(); }
 
     [[noreturn]] void verwirf(const std::string& Grund) const {
-        throw Aufruffehler("--merge " + Datei_ + (Nummer_ > 0 ? ", line " + std::to_string(Nummer_) : std::string()) + ": " +
-                           Grund);
+        throw Aufruffehler("--merge " + Zeilenangabe(Datei_, Nummer_) + ": " + Grund);
     }
 
 private:
@@ -48,8 +49,7 @@ private:
 constexpr const char* keine_Position = "there is no position; only the outputs of calls with --shard can be joined";
 
 std::size_t lies_Position(const Zeilenquelle& q, std::string_view Text) {
-    const bool Ziffern = std::all_of(Text.begin(), Text.end(), [](char z) { return z >= '0' && z <= '9'; });
-    if (Text.empty() || Text.size() > 15 || !Ziffern) q.verwirf(keine_Position);
+    if (Text.size() > 15 || !nur_Ziffern(Text)) q.verwirf(keine_Position);
     return static_cast<std::size_t>(fuehrende_Zahl(Text));
 }
 
@@ -60,7 +60,7 @@ Fruchtfolge Fruchtwechsel_von(const JSON& Objekt, Fruchtfolge sonst) {
     if (Objekt.contains("variant") && Objekt["variant"]["values"].contains("rotation")) Werte = &Objekt["variant"]["values"];
     if (Werte == nullptr && Objekt.contains("inputs")) Werte = &Objekt["inputs"];
     if (Werte == nullptr || !Werte->contains("rotation")) return sonst;
-    return static_cast<Fruchtfolge>(static_cast<int>((*Werte)["rotation"].get<double>()) - 1);
+    return Fruchtfolge_von(static_cast<int>((*Werte)["rotation"].get<double>()));
 }
 
 Kennwerte Kennwerte_von(const JSON& e, int Studie, int Stoff, Fruchtfolge Fruchtwechsel) {
@@ -274,13 +274,12 @@ private:
         const float Maximum = einfach("Maximum_Bodentiefe");
         const float Plateau = einfach("Plateauwert");
         const std::string Jahre_dazwischen = Zelle("rotation");
-        const Fruchtfolge f = Jahre_dazwischen.empty()
-                                  ? w_.Fruchtwechsel
-                                  : static_cast<Fruchtfolge>(static_cast<int>(fuehrende_Zahl(Jahre_dazwischen)) - 1);
+        const Fruchtfolge f =
+            Jahre_dazwischen.empty() ? w_.Fruchtwechsel : Fruchtfolge_von(static_cast<int>(fuehrende_Zahl(Jahre_dazwischen)));
         k.Maximum = static_cast<double>(Maximum);
         k.Plateau = static_cast<double>(Plateau);
         k.Maximum_mit_Plateau = Ansichtswert(Plateau, Anreicherung, f, Maximum);
-        for (int j = 1; j <= 12; ++j) {
+        for (int j = 1; j <= meiste_TWA; ++j) {
             const std::string davor = "TWA_" + std::to_string(j);
             if (Zelle(davor + "_days").empty()) break;
             k.TWA.emplace_back(static_cast<double>(einfach(davor + "_days")), static_cast<double>(einfach(davor + "_maximum")));

@@ -48,7 +48,7 @@ private:
             throw Aufruffehler(Leser_.Bezeichnung() + ": the file is empty; its first line names the values");
         for (std::size_t j = 0; j < Zellen_.size(); ++j) {
             const std::string davor =
-                Leser_.Bezeichnung() + ", line " + std::to_string(Leser_.Zeile()) + ", column " + std::to_string(j + 1) + ": ";
+                Zeilenangabe(Leser_.Bezeichnung(), Leser_.Zeile()) + ", column " + std::to_string(j + 1) + ": ";
             try {
                 nimm_Namen(lies_Namensbezug(Zellen_[j]), davor);
             } catch (const Laufzeitfehler& f) {

@@ -151,7 +151,7 @@ public:
                 Texte.push_back(druckbar(r.Name) + ": " + druckbar(als_Zeile(b)));
             }
         }
-        if (s.Fehler) Texte.push_back(davor + druckbar(*s.Fehler));
+        if (s.Fehler) Texte.push_back(davor + druckbar(s.Fehler->what()));
         return Texte;
     }
 

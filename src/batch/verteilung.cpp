@@ -27,9 +27,9 @@ template <class Art>
 class Stetige : public Verteilung {
 public:
     explicit Stetige(const Art& d) : d_(d) {}
-    Eingabewert Quantil(double u) const override {
+    std::optional<Eingabewert> Quantil(double u) const override {
         const double x = bm::quantile(d_, u);
-        return std::isfinite(x) ? als_Eingabewert(x) : Eingabewert{{}, x, false};
+        return std::isfinite(x) ? std::optional(als_Eingabewert(x)) : std::nullopt;
     }
 
 private:
@@ -86,13 +86,13 @@ public:
     explicit Liste(std::vector<gewichteter_Wert> Werte) : Werte_(std::move(Werte)) {
         if (!Werte_.front().Wert.ist_Wort) {
             std::stable_sort(Werte_.begin(), Werte_.end(),
-                             [](const auto& x, const auto& y) { return x.Wert.Zahl < y.Wert.Zahl; });
+                             [](const auto& x, const auto& y) { return x.Wert.Zahl() < y.Wert.Zahl(); });
         }
         double Summe = 0;
         for (const gewichteter_Wert& w : Werte_) Grenzen_.push_back(Summe += w.Gewicht);
     }
 
-    Eingabewert Quantil(double u) const override {
+    std::optional<Eingabewert> Quantil(double u) const override {
         const auto Stelle = std::upper_bound(Grenzen_.begin(), Grenzen_.end(), u * Grenzen_.back());
         const auto i = static_cast<std::size_t>(std::min(Stelle, Grenzen_.end() - 1) - Grenzen_.begin());
         return Werte_[i].Wert;

@@ -14,8 +14,8 @@ namespace varnok::batch {
 class Verteilung {
 public:
     virtual ~Verteilung() = default;
-    // The value below which the share u (between 0 and 1) lies, in general form. A number may be infinite.
-    virtual Eingabewert Quantil(double u) const = 0;
+    // The value below which the share u (between 0 and 1) lies, in general form; nothing where it is not finite.
+    virtual std::optional<Eingabewert> Quantil(double u) const = 0;
     // Whether only given values come out, all of which the field takes.
     virtual bool aus_Liste() const { return false; }
 };

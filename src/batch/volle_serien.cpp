@@ -3,9 +3,10 @@
 #include "base/laufzeitfehler.h"
 #include "base/zahlen.h"
 #include "batch/csv_zeile.h"
-#include "exposure/bezeichnungen.h"
 #include "exposure/ergebnistabelle.h"
 #include "records/dateien.h"
+#include "run/applikation.h"
+#include "run/bezeichnungen.h"
 #include "run/kalender.h"
 #include "run/tageswerte.h"
 
@@ -15,16 +16,14 @@ namespace {
 // Day of the year, from 0, of the first application.
 int erster_Jahrestag(const Eingabe& e) {
     if (e.Applikationsmuster != unregelmaessig) return Julian(e.App_Monat + 1) + e.App_Tag;
-    const Applikationszeile& erste = e.Applikationsschema.front();
-    return Julian(ganze_Zahl(erste[1].Zahl(), 1, 12).value_or(1)) + ganze_Zahl(erste[0].Zahl(), 1, Tage_pro_Jahr).value_or(1) - 1;
+    return Jahrestag(e.Applikationsschema.front()).value_or(0);  // a run takes no other row
 }
 
 // "03 May"
 std::string Datum(int Jahrestag) {
     int Monat = 1;
-    while (Monat < 12 && Julian(Monat + 1) <= Jahrestag) ++Monat;
-    const std::string Tag = std::to_string(Jahrestag - Julian(Monat) + 1);
-    return (Tag.size() < 2 ? "0" : "") + Tag + " " + std::string(Monatsnamen[static_cast<std::size_t>(Monat - 1)]);
+    while (Monat < Monate && Julian(Monat + 1) <= Jahrestag) ++Monat;
+    return zweistellig(Jahrestag - Julian(Monat) + 1) + " " + std::string(Monatsnamen[static_cast<std::size_t>(Monat - 1)]);
 }
 
 void schreibe_Kopf(CSV_Zeile z, const Ergebnis& s) {

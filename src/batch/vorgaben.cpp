@@ -93,12 +93,12 @@ std::vector<Bemerkung> Vorgabensatz::Bemerkungen(const Variante* v, const Eingab
         const Namensbezug& b = Bezug(i);
         const Eingabewert& w = Wert(i, v);
         const auto bemerke = [&](const std::string& Meldung) {
-            const auto Zahl = w.ist_Wort ? std::nullopt : std::optional(w.Zahl);
-            Alle.push_back({i < Werte_.size() ? Werte_[i].Option : Quelle, 1, b.Text, Meldung, w.Text, Zahl});
+            const auto Zahl = w.ist_Wort ? std::nullopt : std::optional(w.Zahl());
+            Alle.push_back({i < Werte_.size() ? Werte_[i].Option : Quelle, 1, b.Text, Meldung, w.Text(), Zahl});
         };
         if (!wird_gelesen(b, e)) bemerke("no run of this simulation reads it");
         const Wertebereich* g = finde_Wertebereich(b.Name->Speicher);
-        if (g != nullptr && !w.ist_Wort && !g->ueblich.enthaelt(w.Zahl))
+        if (g != nullptr && !w.ist_Wort && !g->ueblich.enthaelt(w.Zahl()))
             bemerke("outside the usual range (" + als_Text(g->ueblich) + ")");
     }
     return Alle;

@@ -5,7 +5,7 @@
 
 #include "base/zahlen.h"
 #include "diagrams/lesegang.h"
-#include "exposure/bezeichnungen.h"
+#include "run/bezeichnungen.h"
 
 namespace varnok {
 

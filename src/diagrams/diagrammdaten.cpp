@@ -5,7 +5,7 @@
 
 #include "base/text.h"
 #include "base/zahlen.h"
-#include "exposure/bezeichnungen.h"
+#include "run/bezeichnungen.h"
 
 namespace varnok {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "base/zahlen.h"
+#include "exposure/twa.h"
 #include "run/zeitachse.h"
 
 namespace varnok {
@@ -33,8 +33,8 @@ void richte_fuer_Druck(Diagramm& d) {
         for (Legendeneintrag& e : g.Eintraege) richte(e.Linie);
     }
     if (d.Zusammenfassung && !d.Mittelwerte.empty()) {
-        const std::string Tage = allgemeine_Zahl(d.Mittelwerte.front().Tage);
-        d.Legendeninhalt.Gruppen.front().Eintraege.push_back({"thin: TWA (" + Tage + " d)", {Schwarz, 1}});
+        const std::string Eintrag = TWA_Eintrag(static_cast<float>(d.Mittelwerte.front().Tage));
+        d.Legendeninhalt.Gruppen.front().Eintraege.push_back({"thin: " + Eintrag, {Schwarz, 1}});
     }
 }
 

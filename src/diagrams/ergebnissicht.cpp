@@ -4,8 +4,8 @@
 #include <array>
 #include <string_view>
 
-#include "exposure/bezeichnungen.h"
 #include "exposure/twa.h"
+#include "run/bezeichnungen.h"
 
 namespace varnok {
 namespace {
@@ -84,7 +84,7 @@ std::string Ergebnissicht::Ergebnistitel() const {
 }
 
 std::string Ergebnissicht::TWA_Text() const {
-    return "TWA " + gewaehlt(TWA_Eintraege(Vorgabe_.Parameter), d_.Sicht.TWA_Laenge).substr(3);
+    return "TWA  (" + Fensterlaenge(gewaehlt(varnok::TWA_Fenster(Vorgabe_.Parameter), d_.Sicht.TWA_Laenge)) + ")";
 }
 
 std::string Ergebnissicht::Titelanfang() const { return std::string(Titelanfaenge[PEC_Art()]) + d_.Namen.Beschreibung; }

@@ -16,8 +16,9 @@ constexpr auto Platz = [](int i) { return static_cast<std::size_t>(i); };
 
 // What is no finite number is a fault of the input.
 template <class Zahl>
-Zahl endlich(Zahl Wert, const char* Name) {
-    if (!std::isfinite(Wert)) melde_unmoegliche_Rechnung(std::string(Name) + " = " + allgemeine_Zahl(Wert));
+Zahl endlich(Zahl Wert, const char* Name, int i_studie, int i_substanz = -1) {
+    if (!std::isfinite(Wert))
+        melde_unmoegliche_Rechnung(std::string(Name) + " = " + allgemeine_Zahl(Wert), {{}, 0, Name, i_studie, i_substanz});
     return Wert;
 }
 
@@ -41,6 +42,10 @@ struct Speicherplatz {
     const T& aus(const Ergebnistabelle<T>& Tabelle) const {
         return Tabelle[Platz(e)][Platz(st)][Platz(c)];
     }
+    template <class Zahl>
+    Zahl endlich(Zahl Wert, const char* Name) const {
+        return varnok::endlich(Wert, Name, st, c);
+    }
     Tagesreihe_lesend Boden() const { return s.Reihe_Bodentiefe(e, st, c); }
 };
 
@@ -48,8 +53,8 @@ std::vector<Fensterergebnis> entnimm_Fenster(const Speicherplatz& p, const std::
     std::vector<Fensterergebnis> TWA;
     for (std::size_t j = 0; j < Fenster.size(); ++j) {
         const float aktuell = PECactual(p.Boden(), p.aus(p.s.Maximumtag_Bodentiefe), Fenster[j]);
-        TWA.push_back({endlich(Fenster[j], "TWA_Tage"), endlich(p.aus(p.s.TWA_Maximum)[j + 1], "TWA_Maximum"),
-                       p.aus(p.s.TWA_Starttag)[j + 1], endlich(aktuell, "PECactual")});
+        TWA.push_back({p.endlich(Fenster[j], "TWA_Tage"), p.endlich(p.aus(p.s.TWA_Maximum)[j + 1], "TWA_Maximum"),
+                       p.aus(p.s.TWA_Starttag)[j + 1], p.endlich(aktuell, "PECactual")});
     }
     return TWA;
 }
@@ -57,12 +62,12 @@ std::vector<Fensterergebnis> entnimm_Fenster(const Speicherplatz& p, const std::
 Endpunktergebnis entnimm_Endpunkt(const Speicherplatz& p, const std::vector<float>& Fenster, Umfang u) {
     const Ergebnisspeicher& s = p.s;
     Endpunktergebnis r;
-    r.Maximum_Bodentiefe = endlich(p.aus(s.Maximum_Bodentiefe), "Maximum_Bodentiefe");
+    r.Maximum_Bodentiefe = p.endlich(p.aus(s.Maximum_Bodentiefe), "Maximum_Bodentiefe");
     r.Maximumtag_Bodentiefe = p.aus(s.Maximumtag_Bodentiefe);
-    r.Maximum_Plateautiefe = endlich(p.aus(s.Maximum_Plateautiefe), "Maximum_Plateautiefe");
-    for (std::size_t j = 0; j < Jahre; ++j) r.Jahresmaximum[j] = endlich(p.aus(s.Jahresmaximum)[j + 1], "Jahresmaximum");
-    r.Plateauwert = endlich(p.aus(s.Plateauwert), "Plateauwert");
-    r.Plateauzuwachs = endlich(p.aus(s.Plateauzuwachs), "Plateauzuwachs");
+    r.Maximum_Plateautiefe = p.endlich(p.aus(s.Maximum_Plateautiefe), "Maximum_Plateautiefe");
+    for (std::size_t j = 0; j < Jahre; ++j) r.Jahresmaximum[j] = p.endlich(p.aus(s.Jahresmaximum)[j + 1], "Jahresmaximum");
+    r.Plateauwert = p.endlich(p.aus(s.Plateauwert), "Plateauwert");
+    r.Plateauzuwachs = p.endlich(p.aus(s.Plateauzuwachs), "Plateauzuwachs");
     r.Plateautext = p.aus(s.Plateautext);
     r.Plateauprozent = p.aus(s.Plateauprozent);
     r.TWA = entnimm_Fenster(p, Fenster);
@@ -81,7 +86,7 @@ Ergebnis entnimm_Ergebnis(const Lauf& l, int i_studie, std::shared_ptr<const Ein
     r.Vorgabe = std::move(Vorgabe);
     r.i_studie = i_studie;
     r.Anzahl_pro_Jahr = s.Anzahl_pro_Jahr;
-    r.Wirksame_Rate = endlich(s.Wirksame_Rate, "Wirksame_Rate");
+    r.Wirksame_Rate = endlich(s.Wirksame_Rate, "Wirksame_Rate", i_studie);
     r.Applikationstag.assign(s.Applikationstag.begin() + 1, s.Applikationstag.begin() + 1 + r.Anzahl_pro_Jahr);
     r.erste_Rate = s.Tagesrate[Platz(s.Applikationstag[1])];
     if (u == Umfang::vollstaendig) {

@@ -42,17 +42,14 @@ double Ansichtswert(float Plateauwert, PEC_Ansicht PEC_Art, Fruchtfolge Fruchtwe
 }
 
 std::string Formatiere_Zahl(double Wert, bool kuerzen, bool Grenztext, int Einheit) {
-    std::string Text = "0.0";
-    if (!kuerzen && Grenztext) {
-        Text = feste_Zahl(Wert, Einheit == 0 ? 4 : 2);
-    } else if (Wert < 0) {
-        throw Laufzeitfehler("A negative concentration cannot be shown: " + allgemeine_Zahl(Wert));
-    } else if (Wert != 0) {
-        Text = feste_Zahl(Wert, Stellen_fuer(Wert));
-    }
-    if (kuerzen && varnok::Wert(Text) > 0) schneide_Nullen(Text);
+    const bool fest = !kuerzen && Grenztext;
+    if (!fest && Wert < 0) throw Laufzeitfehler("A negative concentration cannot be shown: " + allgemeine_Zahl(Wert));
+    const int Stellen = fest ? (Einheit == 0 ? 4 : 2) : Wert == 0 ? 1 : Stellen_fuer(Wert);
+    const double gezeigter = gerundet(Wert, Stellen);
+    if (fest && gezeigter == 0) return Einheit == 1 ? "<0.01" : "<0.0001";
+    std::string Text = feste_Zahl(Wert, Stellen);
+    if (kuerzen && gezeigter > 0) schneide_Nullen(Text);
     if (Text.back() == '.') Text.pop_back();
-    if (varnok::Wert(Text) == 0 && Grenztext && !kuerzen) return Einheit == 1 ? "<0.01" : "<0.0001";
     return Text;
 }
 
@@ -68,7 +65,7 @@ Tabellentext Tabellenkopf(const Laufparameter& p, char Dezimalzeichen) {
     Tabelle[1][0] = "         PECmax";
     Tabelle[1][2] = "       --------";  // a peak has no average
     for (std::size_t j = 0; j < Fenster.size(); ++j) {
-        const std::string Laenge = allgemeine_Zahl(Fenster[j], Dezimalzeichen) + " d";
+        const std::string Laenge = Fensterlaenge(Fenster[j], Dezimalzeichen);
         // A digit of the proportional grid font is about twice as wide as a blank.
         Tabelle[j + 2][0] = Blanks(25 - 2 * static_cast<std::ptrdiff_t>(Zeichenzahl(Laenge))) + Laenge;
     }

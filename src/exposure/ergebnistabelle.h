@@ -21,7 +21,7 @@ int PECactual_Tag(int Maximumtag, float Fenstertage);
 
 using Tabellentext = std::vector<std::vector<std::string>>;  // [row][column]
 
-// Row labels and heads of a result grid: 15 - 2 x `TWA_Zeiten` rows, 3 columns.
+// Row labels and heads of a result grid: 3 rows more than averaging windows, 3 columns.
 Tabellentext Tabellenkopf(const Laufparameter& p, char Dezimalzeichen = '.');
 
 // The result grid of a compound and study for endpoint, view and crop rotation chosen.

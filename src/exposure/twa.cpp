@@ -91,9 +91,13 @@ std::vector<float> TWA_Fenster(const Laufparameter& p) {
     return Fenster;
 }
 
+std::string Fensterlaenge(float Tage, char Dezimalzeichen) { return allgemeine_Zahl(Tage, Dezimalzeichen) + " d"; }
+
+std::string TWA_Eintrag(float Tage, char Dezimalzeichen) { return "TWA (" + Fensterlaenge(Tage, Dezimalzeichen) + ")"; }
+
 std::vector<std::string> TWA_Eintraege(const Laufparameter& p, char Dezimalzeichen) {
     std::vector<std::string> Eintraege;
-    for (const float Tage : TWA_Fenster(p)) Eintraege.push_back("TWA (" + allgemeine_Zahl(Tage, Dezimalzeichen) + " d)");
+    for (const float Tage : TWA_Fenster(p)) Eintraege.push_back(TWA_Eintrag(Tage, Dezimalzeichen));
     return Eintraege;
 }
 

@@ -10,7 +10,11 @@ namespace varnok {
 // Lengths in days of the averaging windows in force, as the calculation takes them: in single precision.
 std::vector<float> TWA_Fenster(const Laufparameter& p);
 
-// Entries of the selector of windows, "TWA (21 d)", shortest list place first.
+// What a window is called: by its length, "21 d", and as an entry of the selector, "TWA (21 d)".
+std::string Fensterlaenge(float Tage, char Dezimalzeichen = '.');
+std::string TWA_Eintrag(float Tage, char Dezimalzeichen = '.');
+
+// Entries of the selector of windows, first place of the list first.
 std::vector<std::string> TWA_Eintraege(const Laufparameter& p, char Dezimalzeichen = '.');
 
 // Preselected position of that selector: the 28-day or the 30-day window.

@@ -5,15 +5,11 @@
 #include <QByteArray>
 #include <QImage>
 #include <QString>
-#include <array>
 
 #include "diagrams/zeichenliste.h"
 #include "painting/svg_schreiber.h"
 
 namespace varnok {
-
-// Resolutions of a saved picture, per inch.
-inline constexpr std::array<int, 4> Bildaufloesungen = {96, 150, 300, 600};
 
 // The units of 1/96 inch of a length.
 constexpr double mm_in_Einheiten(double mm) { return mm / 25.4 * 96; }

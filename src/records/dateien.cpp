@@ -17,7 +17,7 @@ namespace varnok {
 namespace {
 
 [[noreturn]] void melde(const std::string& Vorgang, const std::string& Pfad, const std::string& Grund) {
-    throw Laufzeitfehler("Cannot " + Vorgang + " the file \"" + Pfad + "\": " + Grund, {Pfad.substr(Pfad.rfind('/') + 1)});
+    throw Laufzeitfehler("Cannot " + Vorgang + " the file \"" + Pfad + "\": " + Grund, {letzter_Teil(Pfad)});
 }
 
 // Opened without waiting for whom a pipe may have at its other end.

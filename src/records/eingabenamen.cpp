@@ -8,6 +8,7 @@
 #include "base/laufzeitfehler.h"
 #include "base/text.h"
 #include "base/zahlen.h"
+#include "run/bezeichnungen.h"
 #include "run/halbwertszeit.h"
 #include "run/kalender.h"
 
@@ -21,14 +22,11 @@ constexpr std::size_t Platz(int i) { return static_cast<std::size_t>(i); }
 
 // The words of the choices, in the order of their codes.
 constexpr std::array<std::string_view, 3> Muster = {"single", "regular", "irregular"};
-constexpr std::array<std::string_view, 4> Kinetiken = {"SFO", "DFOP", "FOMC", "HS"};
-constexpr std::array<std::string_view, 2> Massen = {"mg", "µg"};
 constexpr std::array<std::string_view, 2> TWA_Listennamen = {"monthly", "EU"};
-constexpr std::string_view konstant = "constant";
 
-Eingabewert Wort(Wortliste Worte, int Code) { return {std::string(Worte[Platz(Code)]), static_cast<double>(Code), true}; }
+Eingabewert Wort(Wortliste Worte, int Code) { return als_Eingabewert(Worte[Platz(Code)], Code); }
 
-int Code(const Eingabewert& w) { return static_cast<int>(w.Zahl); }
+int Code(const Eingabewert& w) { return static_cast<int>(w.Zahl()); }
 
 // --- how a value comes out of the input and goes into it ---
 
@@ -38,7 +36,7 @@ Eingabewert lies_je_Stoff(const Eingabe& e, const Ansicht&, const Ort& o) {
 }
 template <auto Tabelle>
 void setze_je_Stoff(Eingabe& e, Ansicht&, const Ort& o, const Eingabewert& w) {
-    (e.Parameter.*Tabelle)[Platz(o.Stoff)][Platz(o.Studie)] = w.Zahl;
+    (e.Parameter.*Tabelle)[Platz(o.Stoff)][Platz(o.Studie)] = w.Zahl();
 }
 
 template <auto Tabelle>
@@ -47,7 +45,7 @@ Eingabewert lies_je_Studie(const Eingabe& e, const Ansicht&, const Ort& o) {
 }
 template <auto Tabelle>
 void setze_je_Studie(Eingabe& e, Ansicht&, const Ort& o, const Eingabewert& w) {
-    (e.Parameter.*Tabelle)[Platz(o.Studie)] = w.Zahl;
+    (e.Parameter.*Tabelle)[Platz(o.Studie)] = w.Zahl();
 }
 
 template <auto Feld>
@@ -57,7 +55,7 @@ Eingabewert lies_Parameter(const Eingabe& e, const Ansicht&, const Ort&) {
 template <auto Feld>
 void setze_Parameter(Eingabe& e, Ansicht&, const Ort&, const Eingabewert& w) {
     auto& Ziel = e.Parameter.*Feld;
-    Ziel = static_cast<std::remove_reference_t<decltype(Ziel)>>(w.Zahl);
+    Ziel = static_cast<std::remove_reference_t<decltype(Ziel)>>(w.Zahl());
 }
 
 template <auto Feld>
@@ -66,7 +64,7 @@ Eingabewert lies_Feld(const Eingabe& e, const Ansicht&, const Ort&) {
 }
 template <auto Feld>
 void setze_Feld(Eingabe& e, Ansicht&, const Ort&, const Eingabewert& w) {
-    e.*Feld = Zahlwert(w.Text);
+    e.*Feld = w.Wert;
 }
 
 template <int Spalte>
@@ -76,13 +74,12 @@ Eingabewert lies_Zelle(const Eingabe& e, const Ansicht&, const Ort& o) {
 // Days and months have two digits in the table.
 template <int Spalte>
 void setze_Zelle(Eingabe& e, Ansicht&, const Ort& o, const Eingabewert& w) {
-    const bool einstellig = Spalte < 2 && w.Text.size() < 2;
-    e.Applikationsschema.at(Platz(o.Reihe))[Platz(Spalte)] = Zahlwert(einstellig ? "0" + w.Text : w.Text);
+    e.Applikationsschema.at(Platz(o.Reihe))[Platz(Spalte)] = Spalte < 2 ? Zahlwert(zweistellig(w.Zahl())) : w.Wert;
 }
 
 // A rate constant as the DT50 that its field shows.
-Eingabewert DT50(double k) { return als_Eingabewert(Wert(Text_der_Halbwertszeit(k, '.'))); }
-double Konstante(const Eingabewert& w) { return wie_im_Satz(Halbwertszeit(w.Zahl)); }
+Eingabewert DT50(double k) { return als_Eingabewert(gezeigte_Halbwertszeit(k)); }
+double Konstante(const Eingabewert& w) { return wie_im_Satz(Halbwertszeit(w.Zahl())); }
 
 Kinetikart Kinetik(const Eingabe& e, const Ort& o) { return e.Parameter.Kinetik[Platz(o.Stoff)][Platz(o.Studie)]; }
 
@@ -105,7 +102,7 @@ void setze_DT50_Phase(Eingabe& e, Ansicht&, const Ort& o, const Eingabewert& w) 
     (ist_HS ? (e.Parameter.*bei_HS)[Platz(o.Studie)] : (e.Parameter.*bei_DFOP)[Platz(o.Stoff)][Platz(o.Studie)]) = Konstante(w);
 }
 
-Eingabewert lies_Kinetik(const Eingabe& e, const Ansicht&, const Ort& o) { return Wort(Kinetiken, Kinetik(e, o)); }
+Eingabewert lies_Kinetik(const Eingabe& e, const Ansicht&, const Ort& o) { return Wort(Kinetiknamen, Kinetik(e, o)); }
 void setze_Kinetik(Eingabe& e, Ansicht&, const Ort& o, const Eingabewert& w) {
     e.Parameter.Kinetik[Platz(o.Stoff)][Platz(o.Studie)] = static_cast<Kinetikart>(Code(w));
 }
@@ -131,9 +128,7 @@ void setze_Position(Eingabe& e, Ansicht&, const Ort&, const Eingabewert& w) {
 Eingabewert lies_Fruchtwechsel(const Eingabe&, const Ansicht& a, const Ort&) {
     return als_Eingabewert(Anbaujahre(a.Fruchtwechsel));
 }
-void setze_Fruchtwechsel(Eingabe&, Ansicht& a, const Ort&, const Eingabewert& w) {
-    a.Fruchtwechsel = static_cast<Fruchtfolge>(Code(w) - 1);
-}
+void setze_Fruchtwechsel(Eingabe&, Ansicht& a, const Ort&, const Eingabewert& w) { a.Fruchtwechsel = Fruchtfolge_von(Code(w)); }
 
 Eingabewert lies_Schema(const Eingabe& e, const Ansicht&, const Ort&) { return als_Eingabewert(e.Berechnungsmodus); }
 void setze_Schema(Eingabe& e, Ansicht&, const Ort&, const Eingabewert& w) {
@@ -142,28 +137,31 @@ void setze_Schema(Eingabe& e, Ansicht&, const Ort&, const Eingabewert& w) {
 
 Eingabewert lies_Molmasse(const Eingabe& e, const Ansicht&, const Ort& o) { return als_Eingabewert(Molmasse(e, o.Stoff).Zahl()); }
 void setze_Molmasse(Eingabe& e, Ansicht&, const Ort& o, const Eingabewert& w) {
-    (o.Stoff == 0 ? e.Molmasse_Wirkstoff : o.Stoff == 1 ? e.Molmasse_Met_1 : e.Molmasse_Met_2) = Zahlwert(w.Text);
+    (o.Stoff == 0 ? e.Molmasse_Wirkstoff : o.Stoff == 1 ? e.Molmasse_Met_1 : e.Molmasse_Met_2) = w.Wert;
 }
 Eingabewert lies_Bildungsanteil(const Eingabe& e, const Ansicht&, const Ort& o) {
     return als_Eingabewert(Bildungsanteil(e, o.Stoff).Zahl());
 }
 void setze_Bildungsanteil(Eingabe& e, Ansicht&, const Ort& o, const Eingabewert& w) {
-    (o.Stoff == 1 ? e.Bildungsanteil_Met_1 : e.Bildungsanteil_Met_2) = Zahlwert(w.Text);
+    (o.Stoff == 1 ? e.Bildungsanteil_Met_1 : e.Bildungsanteil_Met_2) = w.Wert;
 }
 
 Eingabewert lies_Klima(const Eingabe& e, const Ansicht&, const Ort&) {
-    return {e.Parameter.Klimamodus == 1 ? e.Klimaszenario : std::string(konstant), 0, true};
+    return als_Eingabewert(e.Parameter.Klimamodus == 1 ? std::string_view(e.Klimaszenario) : konstantes_Klima);
 }
 void setze_Klima(Eingabe& e, Ansicht&, const Ort&, const Eingabewert& w) {
-    e.Parameter.Klimamodus = w.Text == konstant ? 0 : 1;
-    e.Klimaszenario = w.Text == konstant ? std::string() : w.Text;
+    const bool konstant = w.Wort == konstantes_Klima;
+    e.Parameter.Klimamodus = konstant ? 0 : 1;
+    e.Klimaszenario = konstant ? std::string() : w.Wort;
 }
 
 template <std::uint8_t Laufparameter::*Feld>
 Eingabewert lies_Wahl(Wortliste Worte, const Eingabe& e) {
     return Wort(Worte, e.Parameter.*Feld);
 }
-Eingabewert lies_Einheit(const Eingabe& e, const Ansicht&, const Ort&) { return lies_Wahl<&Laufparameter::Einheit>(Massen, e); }
+Eingabewert lies_Einheit(const Eingabe& e, const Ansicht&, const Ort&) {
+    return lies_Wahl<&Laufparameter::Einheit>(Masseneinheiten, e);
+}
 Eingabewert lies_TWA(const Eingabe& e, const Ansicht&, const Ort&) {
     return lies_Wahl<&Laufparameter::TWA_Zeiten>(TWA_Listennamen, e);
 }
@@ -218,16 +216,16 @@ constexpr std::array Tabelle = {
     Zahl("rate", "Applikationsrate", Indexart::keiner, lies_Feld<&Eingabe::Applikationsrate>,
          setze_Feld<&Eingabe::Applikationsrate>),
     Zahl("interception", "Interzeption", Indexart::keiner, lies_Feld<&Eingabe::Interzeption>, setze_Feld<&Eingabe::Interzeption>),
-    Auswahl("interval", "Intervall", 1, 365, "d", lies_Position<&Eingabe::Intervall_Index>,
+    Auswahl("interval", "Intervall", 1, Tage_pro_Jahr, "d", lies_Position<&Eingabe::Intervall_Index>,
             setze_Position<&Eingabe::Intervall_Index>),
-    Auswahl("month", "App_Monat", 1, 12, "", lies_Position<&Eingabe::App_Monat>, setze_Position<&Eingabe::App_Monat>),
-    Auswahl("day", "App_Tag", 1, 31, "", lies_Position<&Eingabe::App_Tag>, setze_Position<&Eingabe::App_Tag>),
+    Auswahl("month", "App_Monat", 1, Monate, "", lies_Position<&Eingabe::App_Monat>, setze_Position<&Eingabe::App_Monat>),
+    Auswahl("day", "App_Tag", 1, laengster_Monat, "", lies_Position<&Eingabe::App_Tag>, setze_Position<&Eingabe::App_Tag>),
     Tabellenwert<0>("day", "Tabellentag"),
     Tabellenwert<1>("month", "Tabellenmonat"),
     Tabellenwert<2>("rate", "Tabellenrate"),
     Tabellenwert<3>("interception", "Tabelleninterzeption"),
-    Auswahl("rotation", "Fruchtwechsel", 1, 3, "years", lies_Fruchtwechsel, setze_Fruchtwechsel),
-    Wortwahl("kinetics", "Kinetik", Indexart::Studie_und_Stoff, Kinetiken, lies_Kinetik, setze_Kinetik, vor_anderen),
+    Auswahl("rotation", "Fruchtwechsel", 1, Anbaujahre(jedes_dritte_Jahr), "years", lies_Fruchtwechsel, setze_Fruchtwechsel),
+    Wortwahl("kinetics", "Kinetik", Indexart::Studie_und_Stoff, Kinetiknamen, lies_Kinetik, setze_Kinetik, vor_anderen),
     Zahl("DT50", "k_SFO", Indexart::Studie_und_Stoff, lies_DT50, setze_DT50),
     Zahl("DT50_1", "k1_DFOP", Indexart::Studie_und_Stoff, lies_DT50_Phase<&P::k1_DFOP, &P::k1_HS>,
          setze_DT50_Phase<&P::k1_DFOP, &P::k1_HS>),
@@ -254,7 +252,7 @@ constexpr std::array Tabelle = {
     Auswahl("scheme", "Berechnungsmodus", 0, 3, "", lies_Schema, setze_Schema, vor_anderen),
     Auswahl("separate", "Separate_Rueckstaende", 0, 2, "", lies_Parameter<&P::Separate_Rueckstaende>,
             setze_Parameter<&P::Separate_Rueckstaende>),
-    Wortwahl("unit", "Einheit", Indexart::keiner, Massen, lies_Einheit, setze_Parameter<&P::Einheit>),
+    Wortwahl("unit", "Einheit", Indexart::keiner, Masseneinheiten, lies_Einheit, setze_Parameter<&P::Einheit>),
     Wortwahl("twa", "TWA_Zeiten", Indexart::keiner, TWA_Listennamen, lies_TWA, setze_Parameter<&P::TWA_Zeiten>),
 };
 
@@ -262,10 +260,10 @@ constexpr std::array Tabelle = {
 
 std::span<const Eingabename> Eingabenamen() { return Tabelle; }
 
-Eingabewert als_Eingabewert(double Zahl) {
-    std::string Text = allgemeine_Zahl(Zahl);
-    const double gerundete = Wert(Text);
-    return {std::move(Text), gerundete, false};
+Eingabewert als_Eingabewert(double Zahl) { return {.Wert = Zahlwert::in_allgemeiner_Form(Zahl, '.')}; }
+
+Eingabewert als_Eingabewert(std::string_view Wort, int Code) {
+    return {.Wort = std::string(Wort), .Code = Code, .ist_Wort = true};
 }
 
 std::vector<benannter_Wert> benannte_Werte(const Eingabe& e, const Ansicht& Sicht) {

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "base/wertebereiche.h"
+#include "base/zahlwert.h"
 #include "records/projektordner.h"
 #include "run/ansicht.h"
 #include "run/eingabe.h"
@@ -27,9 +28,13 @@ struct Eingabeort {
 
 // A value as a call gives it or as the input holds it.
 struct Eingabewert {
-    std::string Text;       // a number in general form, or a word
-    double Zahl = 0;        // of a word its place in the list
+    Zahlwert Wert = {};     // a number in general form; of a word none
+    std::string Wort = {};  // of a choice, or the climate
+    int Code = 0;           // of a word its place in the list
     bool ist_Wort = false;  // whether it is no number
+
+    const std::string& Text() const { return ist_Wort ? Wort : Wert.Text(); }
+    double Zahl() const { return ist_Wort ? Code : Wert.Zahl(); }
 
     friend bool operator==(const Eingabewert& a, const Eingabewert& b) = default;
 };
@@ -73,8 +78,9 @@ Namensbezug lies_Namensbezug(std::string_view Text);
 // The value that a text means for a name. Throws Laufzeitfehler for what is not one number as a whole, outside the range, no
 // word of the list, or a climate file that the project has not.
 Eingabewert lies_Eingabewert(const Namensbezug& b, std::string_view Text, const Projektordner& Ordner);
-// The same for a number; it takes its general form before anything uses it.
+// The same for a number; it takes its general form before anything uses it. A word of a choice, and its place in the list.
 Eingabewert als_Eingabewert(double Zahl);
+Eingabewert als_Eingabewert(std::string_view Wort, int Code = 0);
 // Whether the field takes the number.
 bool nimmt_an(const Eingabename& n, double Zahl);
 

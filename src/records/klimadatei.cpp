@@ -88,8 +88,7 @@ Klimatag zerlege_Tag(std::string_view Zeile, int Nummer, const std::string& Date
         const Zahllesung l = lies_Zahl(Text);
         Tag.*s.Ziel = l.Zahl;
         if (!std::isfinite(l.Zahl)) {
-            throw Laufzeitfehler("File " + Datei + ", line " + std::to_string(Nummer) + ": \"" + aus_Windows_1252(Text) +
-                                     "\" is too large a number",
+            throw Laufzeitfehler('"' + aus_Windows_1252(Text) + "\" is too large a number",
                                  {.Datei = Datei, .Zeile = Nummer, .Feld = std::string(s.Grenzen.Name), .Text = Auszug(Text)});
         }
         Bemerkungen.pruefe(s, Nummer, Text, l);
@@ -113,7 +112,7 @@ std::vector<Klimatag> zerlege_Klimadatei(const std::string& Bytes, const std::st
         if (!Zeile) break;
         Tage.push_back(zerlege_Tag(*Zeile, Zeilen.Nummer(), Datei, Sammler));
     }
-    if (Tage.empty()) throw Laufzeitfehler("File " + Datei + ", line 2: the file ends before the first day", {Datei, 2});
+    if (Tage.empty()) throw Laufzeitfehler("the file ends before the first day", {Datei, 2});
     Sammler.schliesse_ab(Tage.size(), Zeilen.voraus().has_value());
     if (Bemerkungen) Bemerkungen->insert(Bemerkungen->end(), Gefundene.begin(), Gefundene.end());
     return Tage;

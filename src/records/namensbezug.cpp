@@ -9,6 +9,7 @@
 #include "base/text.h"
 #include "base/zahlen.h"
 #include "records/eingabenamen.h"
+#include "run/bezeichnungen.h"
 #include "run/kalender.h"
 #include "run/laufeingang.h"
 
@@ -106,7 +107,7 @@ const Eingabename* finde_Namen(std::string_view Name, bool mit_Klammer) {
 
 // Micro sign, Greek letter and "u" mean the same.
 std::string vereinheitlicht(std::string_view Text) {
-    if (Text == "\u03BCg" || Text == "ug") return "µg";
+    if (Text == "\u03BCg" || Text == "ug") return std::string(Masseneinheiten[1]);
     return std::string(Text);
 }
 
@@ -117,17 +118,17 @@ Eingabewert lies_Wort(const Namensbezug& b, std::string_view Text) {
         if (!gleich_ohne_Gross_Klein(Worte[i], gesucht)) continue;
         const bool nur_Wirkstoff = b.Name->Speicher == "Kinetik" && i > DFOP;
         if (nur_Wirkstoff && b.Stoff > 0) verwirf(b.Text, std::string(Worte[i]) + " is a kinetics of the parent alone");
-        return {std::string(Worte[i]), static_cast<double>(i), true};
+        return als_Eingabewert(Worte[i], static_cast<int>(i));
     }
     verwirf(b.Text, "\"" + std::string(Text) + "\" is not " + Wertebereich_als_Text(*b.Name));
 }
 
 Eingabewert lies_Klima(const Namensbezug& b, std::string_view Text, const Projektordner& Ordner) {
-    if (gleich_ohne_Gross_Klein(Text, "constant")) return {"constant", 0, true};
+    if (gleich_ohne_Gross_Klein(Text, konstantes_Klima)) return als_Eingabewert(konstantes_Klima);
     const std::string Name(Text);
     for (const std::string& Vorhandener : Ordner.Namen(Klima_Endung)) {
         if (gleich_ohne_Gross_Klein(Vorhandener, Name))
-            return {Ordner.enthaelt(Name, Klima_Endung) ? Name : Vorhandener, 0, true};
+            return als_Eingabewert(Ordner.enthaelt(Name, Klima_Endung) ? Name : Vorhandener);
     }
     verwirf(b.Text, "there is no climate file \"" + Name + "\" in this project");
 }
@@ -252,7 +253,7 @@ Eingabewert lies_Eingabewert(const Namensbezug& b, std::string_view Text, const 
     if (!z.ganz()) verwirf(b.Text, "\"" + std::string(Kern) + "\" is not one number");
     if (!std::isfinite(z.Zahl)) verwirf(b.Text, "\"" + std::string(Kern) + "\" is too large a number");
     Eingabewert w = als_Eingabewert(z.Zahl);
-    if (!nimmt_an(*b.Name, w.Zahl)) {
+    if (!nimmt_an(*b.Name, w.Zahl())) {
         const std::string Einheit = b.Name->Einheit.empty() ? "" : " " + std::string(b.Name->Einheit);
         verwirf(b.Text,
                 "\"" + std::string(Kern) + "\" lies outside its range (" + Wertebereich_als_Text(*b.Name) + Einheit + ")");

@@ -194,7 +194,7 @@ std::string Projektordner::Eingabeordner() const { return gelesenes_ ? gelesenes
 
 std::string Projektordner::Eingabedatei(const std::string& Dateiname) const {
     const std::string Ordner = Eingabeordner();
-    return Ordner.substr(Ordner.find_last_of('/') + 1) + "/" + Dateiname;
+    return letzter_Teil(Ordner) + "/" + Dateiname;
 }
 
 std::optional<std::string> Projektordner::finde(const std::string& Name, const std::string& Endung) const {

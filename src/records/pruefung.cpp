@@ -1,18 +1,14 @@
 #include "records/pruefung.h"
 
 #include <optional>
-#include <string_view>
 #include <utility>
 
 #include "base/laufzeitfehler.h"
-#include "base/text.h"
-#include "base/zeichensatz.h"
 #include "records/dateien.h"
 #include "records/klimadatei.h"
 #include "records/satz.h"
 #include "records/satzstelle.h"
 #include "records/simulation.h"
-#include "records/zeilen.h"
 #include "run/applikation.h"
 #include "run/lauf.h"
 #include "run/tageswerte.h"
@@ -21,8 +17,6 @@ namespace varnok {
 namespace {
 
 using Befunde = std::vector<Befund>;
-
-constexpr int Zeile_des_Klimas = 9;  // of a scenario record
 
 // The findings about a file.
 class Sammler {
@@ -38,15 +32,10 @@ public:
     void bemaengle(int Zeile, const std::string& Feld, const std::string& Meldung, const std::string& Text = {}) {
         Befunde_.push_back({{Ordner_->Eingabedatei(Datei_), Zeile > 0 ? Zeile : 1, Feld, Meldung, Text, std::nullopt}, true});
     }
-    // The message of a fault names its file in front, which the finding has already.
-    void bemaengle(const Laufzeitfehler& f) {
-        std::string Meldung = f.what();
-        const Fehlerort& Ort = f.Ort();
-        std::string davor = "File " + Datei_;
-        if (Ort.Zeile > 0) davor += ", line " + std::to_string(Ort.Zeile);
-        if (Meldung.starts_with(davor + ": ")) Meldung.erase(0, davor.size() + 2);
-        bemaengle(Ort.Zeile, Ort.Feld, Meldung, Ort.Text);
+    void bemaengle(const Satzstelle& Stelle, const std::string& Meldung, const std::string& Text = {}) {
+        bemaengle(Stelle.Zeile, Stelle.Name, Meldung, Text);
     }
+    void bemaengle(const Laufzeitfehler& f) { bemaengle(f.Ort().Zeile, f.Ort().Feld, f.Grund(), f.Ort().Text); }
     Befunde nimm() { return std::move(Befunde_); }
 
 private:
@@ -55,50 +44,34 @@ private:
     Befunde Befunde_;
 };
 
-// What the line of a record calls its value: its label, or the row of the table.
-std::string Feldname(const std::string& Bytes, int Zeile, Satzart Art) {
-    if (Art == Applikation && Zeile >= Zeile_der_Tabellenreihe(1))
-        return "row " + std::to_string(Zeile - Zeile_der_Tabellenreihe(0)) + " of the application table";
-    Zeilenfolge Zeilen(Bytes);
-    std::optional<std::string_view> diese;
-    for (int i = 0; i < Zeile; ++i) diese = Zeilen.naechste();
-    if (!diese) return {};
-    std::string_view Name = ohne_Randblanks(diese->substr(0, diese->find('\t')));
-    if (Name.ends_with(':')) Name.remove_suffix(1);
-    return aus_Windows_1252(Name);
-}
-
 // What a run of the record would break off at, whatever it is combined with.
 template <class Probe>
-void probiere(Sammler& s, const Eingabe& e, const std::string& Bytes, Probe p) {
+void probiere(Sammler& s, const Eingabe& e, Probe p) {
     try {
         p();
     } catch (const Laufzeitfehler& f) {
         const auto Stelle = finde_Satzstelle(f.Ort(), e);
-        const int Zeile = Stelle ? Stelle->Zeile : 0;
-        s.bemaengle(Zeile, Zeile > 0 ? Feldname(Bytes, Zeile, Stelle->Art) : f.Ort().Feld, f.what());
+        Stelle ? s.bemaengle(*Stelle, f.what()) : s.bemaengle(0, f.Ort().Feld, f.what());
     }
 }
 
-void pruefe_Applikation(Sammler& s, Eingabe e, const std::string& Bytes, Ergebnisspeicher& Speicher) {
+void pruefe_Applikation(Sammler& s, Eingabe e, Ergebnisspeicher& Speicher) {
     if (e.Applikationsmuster == unregelmaessig) {
         if (const auto Zelle = Tabelle_mit_Applikationen_berechne_PEC(e)) {
-            const int Zeile = Zeile_der_Tabellenreihe(Zelle->Zeile + 1);
-            s.bemaengle(Zeile, Feldname(Bytes, Zeile, Applikation), Meldung(Laufausgang::Tabelle_ungueltig));
+            s.bemaengle(Stelle_der_Reihe(Zelle->Zeile + 1, e), Meldung(Laufausgang::Tabelle_ungueltig));
             return;
         }
     }
-    probiere(s, e, Bytes, [&] {
+    probiere(s, e, [&] {
         if (!Lade_Applikationen(e, 0, Speicher))
-            s.bemaengle(Zeile_der_Tabellenreihe(1), "application table", Meldung(Laufausgang::Datumsfolge_ungueltig));
+            s.bemaengle(Stelle_der_Reihe(1, e).Zeile, "application table", Meldung(Laufausgang::Datumsfolge_ungueltig));
     });
 }
 
-void pruefe_Szenario(Sammler& s, const Eingabe& e, const std::string& Bytes, const Projektordner& Ordner) {
-    probiere(s, e, Bytes, [&] { pruefe_Boden(e.Parameter); });
+void pruefe_Szenario(Sammler& s, const Eingabe& e, const Projektordner& Ordner) {
+    probiere(s, e, [&] { pruefe_Boden(e.Parameter); });
     if (e.Parameter.Klimamodus == 1 && !Ordner.finde(e.Klimaszenario, Klima_Endung))
-        s.bemaengle(Zeile_des_Klimas, Feldname(Bytes, Zeile_des_Klimas, Szenario), "there is no climate file of that name",
-                    e.Klimaszenario);
+        s.bemaengle(*finde_Satzstelle({.Feld = "Klimatext"}, e), "there is no climate file of that name", e.Klimaszenario);
 }
 
 }  // namespace
@@ -158,9 +131,9 @@ Befunde Projektpruefer::pruefe_Satz(const std::string& Bytes, const std::string&
         if (b.Ausgang != Leseausgang::gelesen) {
             s.bemaengle(b.Zeile, b.Feld, b.Grund, b.Text);
         } else if (Art == Applikation || Art == Vorlage_Applikation) {
-            pruefe_Applikation(s, e, Bytes, *Speicher_);
+            pruefe_Applikation(s, e, *Speicher_);
         } else if (Art == Szenario || Art == Vorlage_Szenario) {
-            pruefe_Szenario(s, e, Bytes, Ordner_);
+            pruefe_Szenario(s, e, Ordner_);
         }
     } catch (const Laufzeitfehler& f) {
         s.bemaengle(f);

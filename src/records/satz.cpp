@@ -11,6 +11,7 @@
 #include "records/satzaufbau.h"
 #include "records/satzleser.h"
 #include "records/satzschreiber.h"
+#include "records/satzstelle.h"
 #include "records/zeilen.h"
 #include "run/studientabellen.h"
 
@@ -18,13 +19,6 @@ namespace varnok {
 namespace {
 
 constexpr int Zeile_der_Flaggen = 3;
-
-// Places of an application pattern and of a scenario that a reading may stop behind.
-constexpr int Zeile_der_Interzeption = 6;
-constexpr int Zeile_der_Anzahl = 8;
-constexpr int Zeile_der_Plateautiefe = 5;
-constexpr int Zeile_des_Welkepunkts = 8;
-constexpr int Zeile_der_Temperatur = 11;
 
 // The kind of record that a template has the layout of.
 Satzart Grundart(Satzart Art) { return Art > Szenario ? static_cast<Satzart>(Art - Szenario) : Art; }
@@ -38,8 +32,7 @@ struct Lesung {
 };
 
 [[noreturn]] void verwirf(const Lesung& l, const Lesefehler& f, const std::string& Zusatz = {}) {
-    throw Laufzeitfehler("File " + l.Datei + ", line " + std::to_string(f.Zeile()) + ": " + f.what() + Zusatz,
-                         {.Datei = l.Datei, .Zeile = f.Zeile(), .Feld = f.Feld(), .Text = f.Text()});
+    throw Laufzeitfehler(f.what() + Zusatz, {.Datei = l.Datei, .Zeile = f.Zeile(), .Feld = f.Feld(), .Text = f.Text()});
 }
 
 Lesebefund abgebrochen(const Lesefehler& f) { return {Leseausgang::abgebrochen, f.Zeile(), f.what(), f.Feld(), f.Text(), {}}; }
@@ -103,10 +96,12 @@ Lesebefund lies_Wirkstoff(Lesung& l) {
     return {};
 }
 
+int Zeile_von(const char* Speicher, const Eingabe& e) { return finde_Satzstelle({.Feld = Speicher}, e)->Zeile; }
+
 // The last line that a run of the pattern reads; none where it is the table's last.
-std::optional<int> letzte_noetige_Zeile(Applikationsart Muster) {
-    if (Muster == unregelmaessig) return std::nullopt;
-    return Muster == einzeln ? Zeile_der_Interzeption : Zeile_der_Anzahl;
+std::optional<int> letzte_noetige_Zeile(const Eingabe& e) {
+    if (e.Applikationsmuster == unregelmaessig) return std::nullopt;
+    return Zeile_von(e.Applikationsmuster == einzeln ? "Interzeption" : "Anzahl", e);
 }
 
 // Rows and lists that the record does not give are those of a program that has read none, never those of the record before.
@@ -123,7 +118,7 @@ Lesebefund lies_Applikation(Lesung& l) {
         gehe_durch_Applikation(l.Leser, l.Felder, l.Sicht);
         return {};
     } catch (const Lesefehler& f) {
-        const auto noetig = letzte_noetige_Zeile(l.Felder.Applikationsmuster);
+        const auto noetig = letzte_noetige_Zeile(l.Felder);
         if (!noetig || f.Zeile() <= *noetig) return abgebrochen(f);
         waehle_Anzahl(l.Felder, l.Felder.Anzahl());
         l.Leser.bemerke(f.Zeile(), std::string(f.what()) + "; reading stopped there, and the rest is not needed");
@@ -134,12 +129,13 @@ Lesebefund lies_Applikation(Lesung& l) {
 // What each value alone does not show.
 void vergleiche_Bodenwerte(Lesung& l) {
     const Laufparameter& p = l.Felder.Parameter;
-    if (p.Plateautiefe < p.Bodentiefe) {
-        l.Leser.bemerke(Zeile_der_Plateautiefe, "Plateaudepth", "below the soil depth (line 4)", p.Plateautiefe);
-    }
-    if (p.Welkepunkt > p.Feldkapazitaet) {
-        l.Leser.bemerke(Zeile_des_Welkepunkts, "Wilting point (Vol%)", "above the field capacity (line 7)", p.Welkepunkt);
-    }
+    const auto bemerke = [&](const char* Speicher, const char* Meldung, const char* anderer, double Wert) {
+        const Satzstelle Stelle = finde_Satzstelle({.Feld = Speicher}, l.Felder).value();
+        const std::string Zeile = std::to_string(Zeile_von(anderer, l.Felder));
+        l.Leser.bemerke(Stelle.Zeile, Stelle.Name, std::string(Meldung) + " (line " + Zeile + ")", Wert);
+    };
+    if (p.Plateautiefe < p.Bodentiefe) bemerke("Plateautiefe", "below the soil depth", "Bodentiefe", p.Plateautiefe);
+    if (p.Welkepunkt > p.Feldkapazitaet) bemerke("Welkepunkt", "above the field capacity", "Feldkapazitaet", p.Welkepunkt);
 }
 
 // A record that ends before it tells of the climate comes from a time of constant 20 degrees; the climate file makes the
@@ -150,7 +146,9 @@ Lesebefund lies_Szenario(Lesung& l) {
         return {};
     } catch (const Lesefehler& f) {
         Laufparameter& p = l.Felder.Parameter;
-        const bool vor_dem_Klima = f.am_Aufbau() && f.Zeile() > Zeile_des_Welkepunkts && f.Zeile() < Zeile_der_Temperatur;
+        const int Zeile_der_Temperatur = Zeile_von("Szenariotemperatur", l.Felder);
+        const bool hinter_dem_Boden = f.Zeile() > Zeile_von("Welkepunkt", l.Felder);
+        const bool vor_dem_Klima = f.am_Aufbau() && hinter_dem_Boden && f.Zeile() < Zeile_der_Temperatur;
         const bool nur_ohne_Temperatur = f.Zeile() == Zeile_der_Temperatur && p.Klimamodus == 1;
         if (!vor_dem_Klima && !nur_ohne_Temperatur) return abgebrochen(f);
         p.Szenariotemperatur = 20;
@@ -177,8 +175,7 @@ Lesebefund lies(Lesung& l, Satzart Art) {
 Lesebefund Satz_lesen_aus(const std::string& Bytes, const std::string& Datei, Satzart Art, Eingabe& e, Ansicht& a,
                           char Dezimalzeichen) {
     if (Art < Wirkstoff || Art > Vorlage_Szenario) throw Laufzeitfehler("File " + Datei + " is no record", {Datei});
-    if (Bytes.size() > Hoechstgroesse_Datei)
-        throw Laufzeitfehler("File " + Datei + ", line 1: the file is too large for a record", {Datei, 1});
+    if (Bytes.size() > Hoechstgroesse_Datei) throw Laufzeitfehler("the file is too large for a record", {Datei, 1});
     Lesung l{Satzleser(Bytes, Datei, Dezimalzeichen), Datei, e, a};
     if (Bytes.starts_with(UTF8_Marke)) l.Leser.bemerke(1, "the file begins with the mark of UTF-8 and was read as Windows-1252");
     Lesebefund Befund = lies(l, Grundart(Art));

@@ -4,6 +4,7 @@
 #include <array>
 #include <type_traits>
 
+#include "base/text.h"
 #include "run/kalender.h"
 
 namespace varnok {
@@ -32,7 +33,13 @@ Feld Zahltext(Zahlwert& Platz) { return {Feldart::Zahltext, &Platz}; }
 
 Feld mit(Feld f, const Wertebereich* Grenzen, std::string_view Teil = {}) {
     f.Grenzen = Grenzen;
+    if (Grenzen) f.Speicher = Grenzen->Name;
     f.Teil = Teil;
+    return f;
+}
+
+Feld im_Speicher(Feld f, std::string_view Speicher) {
+    f.Speicher = Speicher;
     return f;
 }
 
@@ -101,7 +108,7 @@ void gehe_durch_Studie(Satzgang& g, Laufparameter& p, std::string& Name, std::si
     for (const auto& Zeile : Stoffeigenschaften) gehe_durch(g, Zeile, p, Studie);
     // FOMC and HS are kinetics of the parent alone.
     const auto Kinetik = [&](std::size_t c, Kinetikart letzte) {
-        return von_Stoff(Kennzahl(p.Kinetik[c][Studie], letzte), nullptr, c, static_cast<int>(Studie));
+        return im_Speicher(von_Stoff(Kennzahl(p.Kinetik[c][Studie], letzte), nullptr, c, static_cast<int>(Studie)), "Kinetik");
     };
     g.Zeile("Kinetics:", {Kinetik(0, HS), Kinetik(1, DFOP), Kinetik(2, DFOP)});
     for (const auto& Zeile : Abbauparameter) gehe_durch(g, Zeile, p, Studie);
@@ -151,7 +158,7 @@ void gehe_durch_Szenario(Satzgang& g, Eingabe& e) {
     g.Zeile("Field capacity (Vol%):", {mit(Zahl(p.Feldkapazitaet), Grenzen_von("Feldkapazitaet"))});
     g.Zeile("Wilting point (Vol%):", {mit(Zahl(p.Welkepunkt), Grenzen_von("Welkepunkt"))});
     std::string Klima = Klimatext(e);
-    g.Zeile("Climatic condition:", {Text(Klima)});
+    g.Zeile("Climatic condition:", {im_Speicher(Text(Klima), "Klimatext")});
     e.Klimaszenario = Klima;
     if (g.folgt_Trennlinie()) {
         p.Klimamodus = 0;
@@ -171,7 +178,7 @@ void gehe_durch_Applikation(Satzgang& g, Eingabe& e, Ansicht& a) {
     g.Zeile("Application type:", {ohne_Komma(Auswahl(e.Applikationsmuster, unregelmaessig))});
     g.Zeile("PEC-Type:", {Auswahl(a.PEC_Typ, Anreicherung)});
     g.beginne("Regular application date:");
-    g.Zwischenwert(mit_Teil(Position(e.App_Monat, 1, 12), "month"));
+    g.Zwischenwert(mit_Teil(Position(e.App_Monat, 1, Monate), "month"));
     // The list of days follows the month, so that a day of the old month does not outlive it.
     const int Tage = Tage_im_Monat(e.App_Monat + 1);
     e.App_Tag = std::min(e.App_Tag, Tage - 1);
@@ -179,7 +186,7 @@ void gehe_durch_Applikation(Satzgang& g, Eingabe& e, Ansicht& a) {
     g.Zeile("Application rate (g/ha):", {mit(Zahltext(e.Applikationsrate), Grenzen_von("Applikationsrate"))});
     g.Zeile("Crop interception (%):", {mit(Zahltext(e.Interzeption), Grenzen_von("Interzeption"))});
     // The list of intervals is full here and is cut to 365/number as soon as the number is known.
-    g.Zeile("Time between applications:", {Position(e.Intervall_Index, 1, 365)});
+    g.Zeile("Time between applications:", {Position(e.Intervall_Index, 1, Tage_pro_Jahr)});
     g.Zeile("Number of applications per year:", {Anzahl(e.Anzahl_Index)});
     waehle_Anzahl(e, e.Anzahl());
     gehe_durch_Tabelle(g, e.Applikationsschema);
@@ -224,6 +231,14 @@ void gehe_durch_Wirkstoffdaten(Satzgang& g, Eingabe& e, Ansicht& a, int& Zaehler
             {mit_Teil(Text(e.Name_Met_2), "name"), Masse(e.Molmasse_Met_2, 2), Anteil(e.Bildungsanteil_Met_2, 2)});
     g.Schlusszeile();
 }
+
+std::string Zeilenname(std::string_view Beschriftung) {
+    std::string_view Name = ohne_Randblanks(Beschriftung);
+    if (Name.ends_with(':')) Name.remove_suffix(1);
+    return std::string(ohne_Randblanks(Name));
+}
+
+std::string Reihenname(int Reihe) { return "row " + std::to_string(Reihe) + " of the application table"; }
 
 std::string ausserhalb(std::string_view Wertetext, std::string_view Feldname, const Feld& f) {
     return '"' + std::string(Wertetext) + "\" is not valid for " + std::string(Feldname) + " (" + std::to_string(f.von) + " to " +

@@ -35,6 +35,7 @@ struct Feld {
     bool mit_Komma = true;                  // a decimal comma counts as a point
     std::string_view Teil = {};             // which value of its line this is, e.g. "parent"; empty for the only one
     const Wertebereich* Grenzen = nullptr;  // what its field on the screen accepts; null without such a field
+    std::string_view Speicher = {};         // the store, as a `Fehlerort` names it; empty where none does
     int i_studie = -1;                      // that it belongs to, counted from 0
     int i_substanz = -1;
 };
@@ -74,6 +75,10 @@ void gehe_durch_Applikation(Satzgang& g, Eingabe& e, Ansicht& a);
 void gehe_durch_Wirkstoffkopf(Satzgang& g, Eingabe& e);
 void gehe_durch_Ausgabename(Satzgang& g, Eingabe& e);
 void gehe_durch_Wirkstoffdaten(Satzgang& g, Eingabe& e, Ansicht& a, int& Zaehler);
+
+// How messages call a line: its label without the colon, or the row of the table, counted from 1.
+std::string Zeilenname(std::string_view Beschriftung);
+std::string Reihenname(int Reihe);
 
 // "7" is not valid for "Unit:" (0 to 1)
 std::string ausserhalb(std::string_view Wertetext, std::string_view Feldname, const Feld& f);

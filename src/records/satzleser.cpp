@@ -12,16 +12,6 @@
 namespace varnok {
 namespace {
 
-// A day or month with two digits. What is far from being one stays short with an exponent.
-std::string zweistellig(double Zahl) {
-    constexpr double ohne_Exponent = 1e15;
-    if (std::abs(Zahl) >= ohne_Exponent) return allgemeine_Zahl(Zahl);
-    const std::string Ziffern = feste_Zahl(std::abs(Zahl), 0);
-    std::string Text(Zahl < 0 && Ziffern != "0" ? 1 : 0, '-');
-    Text.append(Ziffern.size() < 2 ? 1 : 0, '0');
-    return Text += Ziffern;
-}
-
 // With the single pattern there is one application, whatever the number says.
 bool wird_gelesen(const Eingabe& e, const Wertebereich& Speicher, int i_studie, int i_substanz) {
     if (Speicher.Name == "Anzahl") return e.Applikationsmuster != einzeln;
@@ -31,14 +21,13 @@ bool wird_gelesen(const Eingabe& e, const Wertebereich& Speicher, int i_studie, 
 }  // namespace
 
 std::string Satzleser::Zeilenname::Text() const {
-    if (Tabellenzeile > 0) return "row " + std::to_string(Tabellenzeile) + " of the application table";
+    if (Tabellenzeile > 0) return Reihenname(Tabellenzeile);
     if (Beschriftung == Trennlinientext) return "the divider";
     return '"' + std::string(ohne_Randblanks(Beschriftung)) + '"';
 }
 
 std::string Satzleser::Zeilenname::Feldname(const Feld& f) const {
-    std::string Name = Tabellenzeile > 0 ? Text() : std::string(ohne_Randblanks(Beschriftung));
-    if (!Name.empty() && Name.back() == ':') Name = ohne_Randblanks(Name.substr(0, Name.size() - 1));
+    std::string Name = Tabellenzeile > 0 ? Reihenname(Tabellenzeile) : varnok::Zeilenname(Beschriftung);
     if (!f.Teil.empty()) Name += ", " + std::string(f.Teil);
     if (f.i_studie >= 0) Name += ", study " + std::to_string(f.i_studie + 1);
     return Name;

@@ -19,7 +19,7 @@ void Satzschreiber::beginne(std::string_view Beschriftung) {
 }
 
 void Satzschreiber::beginne_Tabellenzeile(int Nummer) {
-    Name_ = "row " + std::to_string(Nummer) + " of the application table";
+    Name_ = Reihenname(Nummer);
     Wertanfang_ = Bytes_.size();
 }
 
@@ -63,6 +63,8 @@ std::string Satzschreiber::als_Zahltext(double Zahl) const {
     return Text;
 }
 
-void Satzschreiber::melde(const std::string& Grund) const { throw Laufzeitfehler("The record cannot be saved: " + Grund); }
+void Satzschreiber::melde(const std::string& Grund) const {
+    throw Laufzeitfehler("The record cannot be saved: " + Grund, {.Feld = Name_});
+}
 
 }  // namespace varnok

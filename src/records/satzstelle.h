@@ -3,6 +3,7 @@
 // Where a value of the input stands in its record.
 
 #include <optional>
+#include <string>
 
 #include "base/laufzeitfehler.h"
 #include "records/projektordner.h"
@@ -12,19 +13,17 @@ namespace varnok {
 
 struct Satzstelle {
     Satzart Art = Wirkstoff;
-    int Zeile = 0;  // counted from 1; 0 where the fault does not tell which row of the table it is about
+    int Zeile = 0;          // counted from 1; 0 where the fault does not tell which row of the table it is about
+    std::string Name = {};  // of the line, as messages call it; empty without one
 
     friend bool operator==(const Satzstelle&, const Satzstelle&) = default;
 };
 
-// Line of a row of the table of irregular applications, both counted from 1.
-constexpr int Zeile_der_Tabellenreihe(int Reihe) {
-    constexpr int Zeilen_davor = 9;
-    return Zeilen_davor + Reihe;
-}
-
-// Record and line of the store that a fault names; its `Zeile` is the row of the table where it is about one. Nothing for
-// a store that no record holds, or one of a study or compound that the fault does not name.
+// Record and line of the store that a fault names. Nothing for a store that no record holds, or one of a study or compound
+// that the fault does not name.
 std::optional<Satzstelle> finde_Satzstelle(const Fehlerort& Ort, const Eingabe& e);
+
+// A row of the table of irregular applications, counted from 1.
+Satzstelle Stelle_der_Reihe(int Reihe, const Eingabe& e);
 
 }  // namespace varnok

@@ -9,12 +9,14 @@ namespace varnok {
 
 std::string als_Satztext(std::string_view Utf8, std::string_view Feldname) {
     const std::string Anfang = "The record cannot be saved: " + std::string(Feldname) + " holds ";
+    const Fehlerort Ort = {.Feld = std::string(Feldname), .Text = std::string(Utf8)};
     const auto Bytes = nach_Windows_1252(Utf8);
     if (!Bytes) {
-        throw Laufzeitfehler(Anfang + "the character \"" + Zeichen_ohne_Platz(Utf8) +
-                             "\", which has no place in its character set (Windows-1252)");
+        throw Laufzeitfehler(
+            Anfang + "the character \"" + Zeichen_ohne_Platz(Utf8) + "\", which has no place in its character set (Windows-1252)",
+            Ort);
     }
-    if (Bytes->find_first_of("\r\n") != std::string::npos) throw Laufzeitfehler(Anfang + "a line end");
+    if (Bytes->find_first_of("\r\n") != std::string::npos) throw Laufzeitfehler(Anfang + "a line end", Ort);
     return *Bytes;
 }
 

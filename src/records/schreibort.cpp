@@ -49,7 +49,7 @@ bool ist_darin(const fs::path& Pfad, const fs::path& Ordner) {
 }
 
 [[noreturn]] void lehne_ab(const std::string& Pfad, const std::string& Grund) {
-    throw Laufzeitfehler("Cannot write the file \"" + Pfad + "\": " + Grund, {Pfad.substr(Pfad.rfind('/') + 1)});
+    throw Laufzeitfehler("Cannot write the file \"" + Pfad + "\": " + Grund, {letzter_Teil(Pfad)});
 }
 
 std::string Linkbeschreibung(const fs::path& Pfad) {
@@ -146,14 +146,15 @@ bool ist_beschreibbar(const std::string&) { return true; }
 
 void lege_Ordner_an(const std::string& Pfad, const std::string& Grenze) {
     if (!Grenze.empty() && liegt_ausserhalb(Pfad, Grenze)) {
-        throw Laufzeitfehler("Cannot write to the folder \"" + Pfad + "\": it is a link to outside of \"" + Grenze + "\"");
+        throw Laufzeitfehler("Cannot write to the folder \"" + Pfad + "\": it is a link to outside of \"" + Grenze + "\"",
+                             {letzter_Teil(Pfad)});
     }
     std::error_code Fehler;
     fs::create_directories(als_Pfad(Pfad), Fehler);
     std::error_code unwichtig;
     if (fs::is_directory(als_Pfad(Pfad), unwichtig)) return;
     const std::string Grund = Fehler ? Fehler.message() : "there is something else of that name";
-    throw Laufzeitfehler("Cannot make the folder \"" + Pfad + "\": " + Grund);
+    throw Laufzeitfehler("Cannot make the folder \"" + Pfad + "\": " + Grund, {letzter_Teil(Pfad)});
 }
 
 void entferne_Ordner(const std::string& Pfad, const std::string& Grenze) {

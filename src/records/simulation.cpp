@@ -51,10 +51,7 @@ Simulationssatz zerlege_Simulation(const std::string& Bytes, const std::string& 
     for (std::size_t i = 0; i < Zeilennamen.size(); ++i) {
         const auto Zeile = Zeilen.naechste();
         if (!Zeile) {
-            const int Nummer = Zeilen.Nummer() + 1;
-            throw Laufzeitfehler(
-                "File " + Datei + ", line " + std::to_string(Nummer) + ": the file ends before " + Zeilennamen[i],
-                {Datei, Nummer});
+            throw Laufzeitfehler(std::string("the file ends before ") + Zeilennamen[i], {Datei, Zeilen.Nummer() + 1});
         }
         (i == 0 ? Satz.Beschreibung : Satz.Dateinamen[i]) = aus_Windows_1252(*Zeile);
     }

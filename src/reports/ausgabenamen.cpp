@@ -3,7 +3,7 @@
 #include <QDateTime>
 #include <algorithm>
 
-#include "exposure/bezeichnungen.h"
+#include "run/bezeichnungen.h"
 
 namespace varnok {
 namespace {
@@ -29,8 +29,6 @@ std::string Kinetikteil(const Ergebnis& e) {
     for (int c = 1; c < Anzahl; ++c) Teil += " - " + Kinetikname(e, c);
     return Teil + ")";
 }
-
-std::string zweistellig(int Zahl) { return (Zahl < 10 ? "0" : "") + std::to_string(Zahl); }
 
 }  // namespace
 

@@ -7,9 +7,9 @@
 #include "base/laufzeitfehler.h"
 #include "base/text.h"
 #include "base/zahlen.h"
-#include "exposure/bezeichnungen.h"
 #include "exposure/ergebnistabelle.h"
 #include "reports/berichtswoerter.h"
+#include "run/bezeichnungen.h"
 
 namespace varnok {
 namespace {
@@ -69,32 +69,6 @@ void haenge_Tabelle_an(Textaufbau& t, const Eingabe& e) {
     }
 }
 
-// The digits at the front are taken away; their number.
-std::size_t nimm_Ziffern(std::string_view& Text) {
-    const std::size_t Anzahl = std::min(Text.find_first_not_of("0123456789"), Text.size());
-    Text.remove_prefix(Anzahl);
-    return Anzahl;
-}
-
-bool nimm_Zeichen(std::string_view& Text, std::string_view eines_von) {
-    if (Text.empty() || eines_von.find(Text.front()) == std::string_view::npos) return false;
-    Text.remove_prefix(1);
-    return true;
-}
-
-// A sign, digits with one comma or point, an exponent, and nothing else.
-bool ist_Zahl(std::string_view Text) {
-    nimm_Zeichen(Text, "+-");
-    std::size_t Ziffern = nimm_Ziffern(Text);
-    if (nimm_Zeichen(Text, ",.")) Ziffern += nimm_Ziffern(Text);
-    if (Ziffern == 0) return false;
-    if (nimm_Zeichen(Text, "Ee")) {
-        nimm_Zeichen(Text, "+-");
-        if (nimm_Ziffern(Text) == 0) return false;
-    }
-    return Text.empty();
-}
-
 using Applikationsabschnitt = void (*)(Textaufbau&, const Eingabe&);
 constexpr std::array<Applikationsabschnitt, 3> Applikationsabschnitte = {haenge_einzelne_an, haenge_regelmaessige_an,
                                                                          haenge_Tabelle_an};
@@ -119,7 +93,7 @@ const char* Schemaname(Stoffschema s) { return Berichtsschemata.at(s); }
 
 std::string Punkttext(const Zahlwert& z) {
     std::string Text = z.Text();
-    if (ist_Zahl(ohne_Randblanks(Text))) std::replace(Text.begin(), Text.end(), ',', '.');
+    if (lies_Zahl(ohne_Randblanks(Text)).ganz()) std::replace(Text.begin(), Text.end(), ',', '.');
     return Text;
 }
 

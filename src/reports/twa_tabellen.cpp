@@ -6,11 +6,11 @@
 #include "base/laufzeitfehler.h"
 #include "base/text.h"
 #include "base/zahlen.h"
-#include "exposure/bezeichnungen.h"
 #include "exposure/ergebnistabelle.h"
 #include "reports/berichtstext.h"
 #include "reports/berichtswoerter.h"
 #include "reports/textaufbau.h"
+#include "run/bezeichnungen.h"
 
 namespace varnok {
 namespace {
@@ -23,7 +23,7 @@ public:
     Stoffbericht(const Darstellung& d, int i_substanz)
         : Wort(Endpunktnamen[d.Sicht.Endpunkt]),
           Einheit("(" + std::string(Konzentrationseinheit(d.Vorgabe().Parameter.Einheit, d.Sicht.Endpunkt)) + ")"),
-          Fruchtfolge(Anbaujahre(d.Sicht.Fruchtwechsel)),
+          Jahre_je_Frucht(Anbaujahre(d.Sicht.Fruchtwechsel)),
           Fenster(d.Werte(d.Sicht.Studie_Index, i_substanz).TWA.size()),
           Studien(d.Namen.Studie),
           d_(d),
@@ -75,7 +75,7 @@ public:
 
     const std::string Wort;
     const std::string Einheit;
-    const int Fruchtfolge;      // 1 every year, 2 every 2nd, 3 every 3rd
+    const int Jahre_je_Frucht;  // 1 every year, 2 every 2nd, 3 every 3rd
     const std::size_t Fenster;  // number of averaging windows
     const std::vector<std::string>& Studien;
 
@@ -133,9 +133,9 @@ void haenge_Hintergrund_an(Textaufbau& t, const Stoffbericht& b, const std::stri
            2);
     t.Text({"(**  according to the estimation ", b.Werte(st).Plateautext, " was reached after 10 years without crop rotation)"},
            3);
-    t.Zeile("Reduction factor to account for crop rotation: ", std::to_string(b.Fruchtfolge), 2);
+    t.Zeile("Reduction factor to account for crop rotation: ", std::to_string(b.Jahre_je_Frucht), 2);
     t.Text({"Final Background concentration in ", b.Wort, " including crop rotation", b.Einheit, Luecke,
-            b.Z(b.Hintergrund(st) / b.Fruchtfolge)},
+            b.Z(b.Hintergrund(st) / b.Jahre_je_Frucht)},
            4);
 }
 
@@ -208,9 +208,9 @@ void haenge_Hintergrund_aller_Studien_an(Textaufbau& t, const Stoffbericht& b, c
     t.Text({Kopf}, 1);
     haenge_Studienzeilen_an(t, b, lange_Luecke, [&](int st) { return b.Z(b.Hintergrund(st)); });
     t.Enden(2);
-    t.Zeile("Reduction factor to account for crop rotation: ", std::to_string(b.Fruchtfolge), 3);
+    t.Zeile("Reduction factor to account for crop rotation: ", std::to_string(b.Jahre_je_Frucht), 3);
     t.Text({Kopf, " including crop rotation"}, 1);
-    haenge_Studienzeilen_an(t, b, lange_Luecke, [&](int st) { return b.Z(b.Hintergrund(st) / b.Fruchtfolge); });
+    haenge_Studienzeilen_an(t, b, lange_Luecke, [&](int st) { return b.Z(b.Hintergrund(st) / b.Jahre_je_Frucht); });
     t.Enden(3);
 }
 

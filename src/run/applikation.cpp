@@ -12,23 +12,16 @@ namespace {
 
 enum Spalte { Tag = 0, Monat = 1, Rate = 2, Bedeckung = 3 };
 
-// The same, checked. `Tabellenzeile` counts from 1, 0 outside the table.
-double gepruefte_Dosis(const Zahlwert& Rate, const Zahlwert& Interzeption, int Tabellenzeile = 0) {
+// The same, checked. `Reihe` of the table counts from 1, 0 outside the table.
+double gepruefte_Dosis(const Zahlwert& Rate, const Zahlwert& Interzeption, int Reihe = 0) {
     const double Dosis = Nettodosis(Rate, Interzeption);
     const bool unter_0 = Rate.Zahl() < 0 || Interzeption.Zahl() > 100;
     if (unter_0 || !std::isfinite(static_cast<float>(Dosis))) {
         melde_unmoegliche_Rechnung(
             "Application rate (g/ha) = " + Rate.Text() + ", Crop interception (%) = " + Interzeption.Text(),
-            {.Datei = {}, .Zeile = Tabellenzeile, .Feld = "Applikationsrate"});
+            {.Feld = "Applikationsrate", .Reihe = Reihe});
     }
     return Dosis;
-}
-
-// Day of the year of a table row, counted from 0; nothing outside a year of 365 days.
-std::optional<int> Jahrestag(const Applikationszeile& Zeile) {
-    const auto Monatszahl = ganze_Zahl(Zeile[Monat].Zahl(), -32768, 32767);
-    if (!Monatszahl) return std::nullopt;
-    return ganze_Zahl(Julian(*Monatszahl) + Zeile[Tag].Zahl() - 1, 0, Tage_pro_Jahr - 1);
 }
 
 void trage_ein(Ergebnisspeicher& s, int Ereignis, int Tag, double Dosis) {
@@ -97,6 +90,12 @@ void wiederhole_jaehrlich(Ergebnisspeicher& s) {
 }  // namespace
 
 double Nettodosis(const Zahlwert& Rate, const Zahlwert& Interzeption) { return Rate.Zahl() * (100 - Interzeption.Zahl()) / 100; }
+
+std::optional<int> Jahrestag(const Applikationszeile& Zeile) {
+    const auto Monatszahl = ganze_Zahl(Zeile[Monat].Zahl(), -32768, 32767);
+    if (!Monatszahl) return std::nullopt;
+    return ganze_Zahl(Julian(*Monatszahl) + Zeile[Tag].Zahl() - 1, 0, Tage_pro_Jahr - 1);
+}
 
 std::optional<Tabellenzelle> Tabelle_mit_Applikationen_berechne_PEC(Eingabe& e) {
     for (int i = 0; i < e.Anzahl(); ++i) {

@@ -13,6 +13,9 @@ struct Tabellenzelle {
     int Spalte = 0;
 };
 
+// Day of the year of a table row, counted from 0; nothing outside a year of 365 days.
+std::optional<int> Jahrestag(const Applikationszeile& Zeile);
+
 // Checks the table before a run: gives the cell whose day or month is no date of a year, nothing if all
 // are. An interception of 100 or more becomes "99" without a word, since an event without a dose would
 // shift the slots of all later ones.

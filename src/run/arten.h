@@ -26,5 +26,6 @@ constexpr int Anzahl_Stoffe(Stoffschema s) { return std::min<int>(s, zwei_parall
 
 // Years from one crop to the next.
 constexpr int Anbaujahre(Fruchtfolge f) { return f + 1; }
+constexpr Fruchtfolge Fruchtfolge_von(int Anbaujahre) { return static_cast<Fruchtfolge>(Anbaujahre - 1); }
 
 }  // namespace varnok

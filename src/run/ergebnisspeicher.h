@@ -12,6 +12,8 @@
 
 namespace varnok {
 
+inline constexpr int TWA_Plaetze = meiste_TWA + 1;  // place 0 is never used
+
 // Index order [endpoint][study][compound].
 template <class T>
 using Ergebnistabelle = std::array<std::array<std::array<T, Stoffe>, Studienplaetze>, Endpunkte>;

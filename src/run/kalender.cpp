@@ -8,11 +8,11 @@
 namespace varnok {
 namespace {
 
-constexpr std::array<int, 13> Tage_davor = {0, 31, 59, 90, 120, 151, 181, 212, 243, 273, 304, 334, Tage_pro_Jahr};
+constexpr std::array<int, Monate + 1> Tage_davor = {0, 31, 59, 90, 120, 151, 181, 212, 243, 273, 304, 334, Tage_pro_Jahr};
 
 }  // namespace
 
-int Julian(int Monat) { return Monat >= 1 && Monat <= 12 ? Tage_davor[static_cast<std::size_t>(Monat - 1)] : 0; }
+int Julian(int Monat) { return Monat >= 1 && Monat <= Monate ? Tage_davor[static_cast<std::size_t>(Monat - 1)] : 0; }
 
 int Tage_im_Monat(int Monat) {
     const auto i = static_cast<std::size_t>(Monat);

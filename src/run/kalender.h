@@ -2,8 +2,11 @@
 
 namespace varnok {
 
+inline constexpr int Monate = 12;
+inline constexpr int laengster_Monat = 31;  // days
+
 // Days of a 365-day year before the first of a month: 0, 31, 59 ... 334 for 1 to 12, else 0.
-// The name is historical, no Julian days are involved.
+// In spite of the name no Julian days are involved.
 int Julian(int Monat);
 
 // 31, 28 or 30 days of a month 1 to 12. There is no 29 February.

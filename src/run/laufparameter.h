@@ -1,8 +1,10 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <string>
+#include <tuple>
 
 #include "run/arten.h"
 #include "run/zeitachse.h"
@@ -38,6 +40,10 @@ struct TWA_Listen {
 
     friend bool operator==(const TWA_Listen&, const TWA_Listen&) = default;
 };
+
+// The most averaging windows that a list has.
+inline constexpr int meiste_TWA =
+    static_cast<int>(std::max(std::tuple_size_v<decltype(TWA_Listen::EU)>, std::tuple_size_v<decltype(TWA_Listen::Monat)>));
 
 // The run parameters that all parts of the program share. The values set here are those of a
 // program that has read no record yet.
@@ -79,8 +85,5 @@ struct Laufparameter {
 
     friend bool operator==(const Laufparameter&, const Laufparameter&) = default;
 };
-
-// Number of averaging windows in force.
-constexpr int Anzahl_TWA(std::uint8_t TWA_Zeiten) { return 12 - 2 * TWA_Zeiten; }
 
 }  // namespace varnok

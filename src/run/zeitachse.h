@@ -19,7 +19,6 @@ inline constexpr int max_Applikationen = 20;  // a year
 inline constexpr int Ereignisplaetze = 221;   // place 0 and eleven years of events
 inline constexpr int Slots_Plateau = 221;     // slot 0 is the sum of all others
 inline constexpr int Slots_Boden = 23;        // slot 0, one year's events and two spare places
-inline constexpr int TWA_Plaetze = 13;        // place 0 is never used
 
 // Year of a day, counted from 1.
 constexpr int Jahr_von(int Tag) { return Tag / Tage_pro_Jahr + 1; }

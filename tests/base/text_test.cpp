@@ -19,6 +19,11 @@ TEST(Text, blanks_alone_leave_nothing) {
 
 TEST(Text, a_tab_is_no_blank) { EXPECT_EQ(ohne_Randblanks(" \ta\t "), "\ta\t"); }
 
+TEST(Text, digits_alone) {
+    for (const char* t : {"0", "0123456789"}) EXPECT_TRUE(nur_Ziffern(t)) << t;
+    for (const char* t : {"", " 1", "1 ", "-1", "1.5", "1e3", "\xC2\xB2"}) EXPECT_FALSE(nur_Ziffern(t)) << t;
+}
+
 TEST(Text, letters_a_to_z_are_equal_in_either_case) {
     EXPECT_TRUE(gleich_ohne_Gross_Klein("Varnok.INI", "vARNOK.ini"));
     EXPECT_TRUE(gleich_ohne_Gross_Klein("", ""));

@@ -166,5 +166,21 @@ TEST(genaue_Zahl, is_the_shortest_such_text) {
     EXPECT_EQ(genaue_Zahl(1.0 / 3), "0.3333333333333333");
 }
 
+TEST(Zweistellig, of_a_day_or_month_has_a_zero_in_front) {
+    EXPECT_EQ(zweistellig(3), "03");
+    EXPECT_EQ(zweistellig(12), "12");
+    EXPECT_EQ(zweistellig(0), "00");
+    EXPECT_EQ(zweistellig(-5), "-05");
+    EXPECT_EQ(zweistellig(120), "120");
+    EXPECT_EQ(zweistellig(1e20), "1E+20");
+}
+
+TEST(Gekuerzt, is_what_the_text_of_so_many_digits_means) {
+    EXPECT_EQ(gekuerzt(69.31471805599453, 3), 69.3);
+    EXPECT_EQ(gekuerzt(-0.000123456, 2), -0.00012);
+    EXPECT_EQ(gekuerzt(9.99e20, 1), 1e21);
+    EXPECT_EQ(gekuerzt(0, 5), 0);
+}
+
 }  // namespace
 }  // namespace varnok

@@ -96,6 +96,7 @@ INSTANTIATE_TEST_SUITE_P(
                     A{"--draws", "3", "soil"}, A{"--seed", "3", "soil"}, A{"--resume", "soil"},
                     A{"--sample", "b", "--draws", "0", "soil"},
                     A{"--sample", "b", "--draws", "1", "--seed", "4294967296", "soil"},
+                    A{"--sample", "b", "--draws", "1", "--seed", "", "soil"},
                     A{"--sample", "b", "--draws", "1", "--seed", "-1", "soil"}, A{"--json-lines", "-", "--resume", "soil"},
                     A{"--sqlite", "-", "soil"}, A{"--json-lines", "a", "--resume", "--csv", "b", "soil"}, A{"--merge", "a", "b"},
                     A{"--check", "--summary", "a", "soil"}, A{"--records", "a", "--json", "b", "soil"},

@@ -55,7 +55,7 @@ std::size_t Spalte(const Tabelle& t, const std::string& Name) {
 }
 
 TEST(Batch_CSV, header_names_every_column_once) {
-    const Tabelle t = lies_CSV(als_CSV({}));
+    const Tabelle t = lies_CSV(als_Text(*CSV_Schreiber(), {}));
     ASSERT_EQ(t.size(), 1U);
     std::vector<std::string> Namen = {
         "simulation", "study",           "study_name",    "compound",           "compound_name",         "endpoint",
@@ -130,7 +130,7 @@ TEST(Batch_CSV, text_with_commas_quotes_and_line_ends_is_quoted) {
     s.Vorgabe = a.Ergebnis.Vorgabe = std::make_shared<const Eingabe>(e);
     s.Stoffwerte.resize(1);
     a.Ergebnis.Studien.push_back(std::make_shared<const Ergebnis>(s));
-    const std::string Text = als_CSV({a});
+    const std::string Text = als_Text(*CSV_Schreiber(), {a});
     EXPECT_THAT(Text, testing::HasSubstr("\r\n\"one, two\",1,\"the \"\"field\"\" study\",0,\"line\r\nend\","));
     const Tabelle t = lies_CSV(Text);
     ASSERT_EQ(t.size(), 3U);
@@ -142,8 +142,8 @@ TEST(Batch_CSV, text_with_commas_quotes_and_line_ends_is_quoted) {
 TEST(Batch_CSV, simulation_at_fault_has_no_row) {
     Simulationsausgang a;
     a.Ergebnis.Name = "bad";
-    a.Fehler = "reason";
-    EXPECT_EQ(als_CSV({a}), als_CSV({}));
+    a.Fehler.emplace("reason");
+    EXPECT_EQ(als_Text(*CSV_Schreiber(), {a}), als_Text(*CSV_Schreiber(), {}));
 }
 
 }  // namespace

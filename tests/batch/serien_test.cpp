@@ -70,6 +70,26 @@ TEST_F(Serien, largest_value_of_a_column_is_the_maximum_of_the_results_to_the_bi
     EXPECT_EQ(Plateau, e["Maximum_Plateautiefe"].get<float>());
 }
 
+// Day 0 of an irregular pattern is the first row of the table, in every writing that the run takes for a date: 5 days before
+// 1 February is 26 January.
+TEST_F(Serien, full_series_begins_on_the_day_that_the_run_takes) {
+    struct Fall {
+        const char *Tag, *Monat, *Datum;
+    };
+    for (const Fall& f : {Fall{"03", "05", "03 May"}, Fall{"-05", "02", "26 Jan"}, Fall{"40", "01", "09 Feb"}}) {
+        Probe p;
+        p.Felder.Applikationsmuster = unregelmaessig;
+        p.Felder.Applikationsschema = {{f.Tag, f.Monat, "100", "0"}, {"15", "06", "100", "0"}};
+        p.Felder.Anzahl_Index = 0;
+        Projekt.schreibe("case", p);
+        const auto r = rufe({"--series-full", Ordner, Projekt.Pfad()});
+        ASSERT_EQ(r.Status, 0) << r.fehler;
+        const auto z = Zeilen(Inhalt(Ordner + "/case - study 1.csv"), "\r\n");
+        ASSERT_GT(z.size(), 1U);
+        EXPECT_EQ(z[1].substr(0, 11), std::string("0,1,") + f.Datum + ",") << f.Tag << " / " << f.Monat;
+    }
+}
+
 std::vector<std::string> Dateien(const std::string& Ordner) {
     std::vector<std::string> Namen;
     for (const auto& d : fs::directory_iterator(Ordner)) Namen.push_back(d.path().filename().string());

@@ -42,7 +42,7 @@ struct Ziehungen : testing::Test {
         for (std::size_t i = 0; i < Anzahl; ++i) {
             const Variante v = Quelle->naechste();
             EXPECT_EQ(v.Reihe, i + 1);
-            for (std::size_t j = 0; j < Reihen.size(); ++j) Reihen[j].push_back(v.Werte[j].Zahl);
+            for (std::size_t j = 0; j < Reihen.size(); ++j) Reihen[j].push_back(v.Werte[j].Zahl());
         }
         return Reihen;
     }

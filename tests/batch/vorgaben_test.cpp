@@ -67,7 +67,7 @@ TEST_F(Vorgaben, every_name_reads_back_what_it_puts_in) {
         setze(e, Sicht, b, lies_Eingabewert(b, Text, Ordner));
         bool gefunden = false;
         for (const Eingabeort& o : Orte(b, e)) {
-            EXPECT_EQ(n.lies(e, Sicht, o).Text, Text);
+            EXPECT_EQ(n.lies(e, Sicht, o).Text(), Text);
             gefunden = true;
         }
         EXPECT_TRUE(gefunden);

@@ -39,20 +39,41 @@ public:
     }
 };
 
-// Says OK, or the first answer offered, to whatever is told.
+// Says OK, or the first answer offered, to whatever is told, and keeps the text.
 class Jasager final : public Rueckfrage {
 public:
-    Knopf frage(const Frage& f) override { return f.Knoepfe.front(); }
+    Knopf frage(const Frage& f) override {
+        Texte.push_back(f.Text);
+        return f.Knoepfe.front();
+    }
+    std::vector<std::string> Texte;
+};
+
+// A line of a record replaced, so that no program can calculate it.
+struct Schaden {
+    const char* Endung = nullptr;
+    int Zeile = 0;
+    const char* Text = nullptr;
 };
 
 struct Fall {
     fs::path Projekt;
     std::string Simulation;
+    Schaden Fehler = {};
 };
 
-void PrintTo(const Fall& f, std::ostream* aus) { *aus << f.Projekt.filename().string() << ", " << f.Simulation; }
+void PrintTo(const Fall& f, std::ostream* aus) {
+    *aus << f.Projekt.filename().string() << ", " << f.Simulation;
+    if (f.Fehler.Text) *aus << ", " << f.Fehler.Text;
+}
 
-// Every case of tests/cases and everything that is shipped.
+constexpr Schaden Schaeden[] = {
+    {".sce", 3, "Soil density (kg/L):\t0"},      {".sce", 9, "Climatic condition:\tnowhere\r\nClimate mode:\t1"},
+    {".app", 5, "Application rate (g/ha):\t-1"}, {".che", 9, "Number of studies:\tnone"},
+    {".che", 15, "Kinetics:\t9\t0\t0"},
+};
+
+// Every case of tests/cases, everything that is shipped, and one case with each damage.
 std::vector<Fall> alle_Faelle() {
     std::vector<fs::path> Projekte = {VARNOK_DATENORDNER};
     for (const auto& Eintrag : fs::directory_iterator(VARNOK_TESTORDNER "/cases")) Projekte.push_back(Eintrag.path());
@@ -62,6 +83,7 @@ std::vector<Fall> alle_Faelle() {
         for (const std::string& Name : Projektordner(Projekt.string()).Namen(Endungen[Simulation]))
             Faelle.push_back({Projekt, Name});
     }
+    for (const Schaden& s : Schaeden) Faelle.push_back({VARNOK_TESTORDNER "/cases/single_application_sfo", "case", s});
     return Faelle;
 }
 
@@ -79,6 +101,7 @@ protected:
         fs::create_directories(Projekt() / "output");
         fs::copy(GetParam().Projekt / "input", Projekt() / "input", fs::copy_options::recursive);
         fs::permissions(Projekt() / "input", fs::perms::owner_all, fs::perm_options::add);
+        if (GetParam().Fehler.Text) beschaedige(GetParam().Fehler);
     }
     ~Eine_Rechnung() override {
         s_.reset();
@@ -87,6 +110,26 @@ protected:
 
     fs::path Projekt() const { return Wurzel_ / "projekt"; }
     fs::path Ausgabe(const std::string& Name) const { return Wurzel_ / "batch" / Name; }
+
+    void beschaedige(const Schaden& s) const {
+        const fs::path Datei = Projekt() / "input" / (GetParam().Simulation + s.Endung);
+        std::string Bytes = Inhalt(Datei);
+        std::size_t von = 0;
+        for (int i = 1; i < s.Zeile; ++i) von = Bytes.find("\r\n", von) + 2;
+        Bytes.replace(von, Bytes.find("\r\n", von) - von, s.Text);
+        fs::permissions(Datei, fs::perms::owner_write, fs::perm_options::add);
+        std::ofstream(Datei, std::ios::binary) << Bytes;
+    }
+
+    // What varnok-batch says of the fault ends with what the window tells: where it lies, the window shows otherwise.
+    void vergleiche_Fehler() const {
+        const JSON Liste = JSON::parse(Inhalt(Ausgabe("ergebnis.json"))).at("errors");
+        ASSERT_EQ(Liste.size(), 1U);
+        const std::string Meldung = Liste[0].at("message");
+        EXPECT_TRUE(std::any_of(Fragen_.Texte.begin(), Fragen_.Texte.end(),
+                                [&](const std::string& t) { return !t.empty() && Meldung.ends_with(t); }))
+            << Meldung << "\nin the window: " << testing::PrintToString(Fragen_.Texte);
+    }
 
     // varnok-batch on this simulation with these outputs.
     bool rufe_Batch(const std::vector<std::string>& Ausgaben) {
@@ -168,7 +211,10 @@ TEST_P(Eine_Rechnung, gives_the_same_bytes_in_both_programs) {
     const bool gelungen = rufe_Batch({"--json", Ausgabe("ergebnis.json").string(), "--series", Ausgabe("serien").string()});
     const Zustand& z = oeffne().Stand();
     ASSERT_EQ(gelungen, !z.abgedeckt()) << "one program shows a result and the other does not";
-    if (!gelungen) return;
+    if (!gelungen) {
+        vergleiche_Fehler();
+        return;
+    }
     Berichte_moeglich_ = rufe_Batch({"--report", Ausgabe("berichte").string(), "--extended"});
 
     const int Studien = z.Studienzahl();

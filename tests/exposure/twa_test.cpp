@@ -26,7 +26,6 @@ float Mittel(const Lauf& l, std::size_t j, std::size_t e = 0, std::size_t c = 0)
 int Start(const Lauf& l, std::size_t j, std::size_t e = 0, std::size_t c = 0) { return l.Speicher.TWA_Starttag[e][0][c][j]; }
 
 TEST(TWA_Liste, the_regulation_has_ten_windows) {
-    EXPECT_EQ(Anzahl_TWA(1), 10);
     EXPECT_EQ(TWA_Eintraege(Laufparameter{}),
               (std::vector<std::string>{"TWA (1 d)", "TWA (2 d)", "TWA (4 d)", "TWA (7 d)", "TWA (14 d)", "TWA (21 d)",
                                         "TWA (28 d)", "TWA (42 d)", "TWA (50 d)", "TWA (100 d)"}));

@@ -21,6 +21,8 @@ namespace {
 
 std::uint32_t Bits(float v) { return std::bit_cast<std::uint32_t>(v); }
 
+int Fensterzahl(const Laufparameter& p) { return p.TWA_Zeiten == 1 ? 10 : 12; }
+
 // First difference of two stores of numbers as text, empty without one.
 template <class A, class B>
 std::string Unterschied(const A& Lauf_, const B& Referenz) {
@@ -128,7 +130,7 @@ void vergleiche(const Lauf_bauer& b, int& berechnet) {
         vergleiche_Reihen(l, r->Stoffe[c], static_cast<int>(c));
         for (std::size_t e = 0; e < 2; ++e) {
             SCOPED_TRACE("endpoint " + std::to_string(e));
-            vergleiche_Maxima(l.Speicher, r->Stoffe[c], e, st, c, Anzahl_TWA(b.Felder.Parameter.TWA_Zeiten));
+            vergleiche_Maxima(l.Speicher, r->Stoffe[c], e, st, c, Fensterzahl(b.Felder.Parameter));
             vergleiche_Plateau(l.Speicher, r->Stoffe[c], e, st, c);
         }
     }
@@ -363,7 +365,7 @@ TEST(Zufallslauf, DISABLED_thousands_agree_to_the_bit) {
 // Averages of windows behind the list in force, and of compounds that are not in the scheme, are no result.
 template <class Tabelle>
 void leere_Ungenutztes(Tabelle& Fensterwerte, int i_studie, const Eingabe& e) {
-    const auto Fenster = static_cast<std::size_t>(Anzahl_TWA(e.Parameter.TWA_Zeiten));
+    const auto Fenster = static_cast<std::size_t>(Fensterzahl(e.Parameter));
     for (auto& Endpunkt : Fensterwerte) {
         auto& Werte = Endpunkt[static_cast<std::size_t>(i_studie)];
         for (std::size_t c = 0; c < Stoffe; ++c) {

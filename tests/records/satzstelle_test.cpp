@@ -35,8 +35,8 @@ std::string Zeile_von(const Fehlerort& Ort, const Eingabe& e) {
     return Zeilen.at(static_cast<std::size_t>(Stelle->Zeile - 1));
 }
 
-Fehlerort Ort(const std::string& Feld, int i_studie = -1, int i_substanz = -1, int Zeile = 0) {
-    return {"", Zeile, Feld, i_studie, i_substanz};
+Fehlerort Ort(const std::string& Feld, int i_studie = -1, int i_substanz = -1, int Reihe = 0) {
+    return {.Feld = Feld, .i_studie = i_studie, .i_substanz = i_substanz, .Reihe = Reihe};
 }
 
 struct Feldfall {
@@ -112,7 +112,16 @@ TEST(Satzstelle, dose_of_the_irregular_pattern_is_the_row_of_its_table) {
 TEST(Satzstelle, dose_of_the_irregular_pattern_without_its_row_is_the_record_alone) {
     Eingabe e = zwei_Studien();
     e.Applikationsmuster = unregelmaessig;
-    EXPECT_EQ(finde_Satzstelle(Ort("Applikationsrate"), e), (Satzstelle{Applikation, 0}));
+    EXPECT_EQ(finde_Satzstelle(Ort("Applikationsrate"), e), (Satzstelle{Applikation, 0, ""}));
+}
+
+TEST(Satzstelle, tells_what_the_line_is_called) {
+    Eingabe e = zwei_Studien();
+    EXPECT_EQ(finde_Satzstelle(Ort("Bodendichte"), e), (Satzstelle{Szenario, 3, "Soil density (kg/L)"}));
+    EXPECT_EQ(finde_Satzstelle(Ort("Kinetik", 1, 2), e)->Name, "Kinetics");
+    EXPECT_EQ(finde_Satzstelle(Ort("Klimatext"), e), (Satzstelle{Szenario, 9, "Climatic condition"}));
+    e.Applikationsmuster = unregelmaessig;
+    EXPECT_EQ(Stelle_der_Reihe(2, e), (Satzstelle{Applikation, 11, "row 2 of the application table"}));
 }
 
 TEST(Satzstelle, what_stands_in_no_record_has_none) {

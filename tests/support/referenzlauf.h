@@ -23,7 +23,7 @@ struct Stoffergebnis {
     std::array<std::array<float, 11>, 2> Jahresmaximum{};  // years 1..10
     std::array<double, 2> Plateauzuwachs{};
     std::array<std::string, 2> Plateautext;
-    std::array<std::array<float, 13>, 2> TWA_Maximum{};  // windows 1..`Anzahl_TWA`
+    std::array<std::array<float, 13>, 2> TWA_Maximum{};  // windows in force, from 1
     std::array<std::array<int, 13>, 2> TWA_Starttag{};
 };
 

@@ -37,8 +37,42 @@ def fragen(text):
     return list(wegweiser(abschnitt))
 
 
-def hat_Namen(code, name):
-    return re.search(rf"(?<!\w){re.escape(name)}(?!\w)", nur_code(code)) is not None
+# What stands in front of a name that is defined, back to the last ";", "{" or "}": types and names alone, one at least.
+VOR_DEFINITION = re.compile(
+    r"\s*(?:#[^\n]*\n\s*|\w+\s*:(?!:)\s*)*(?:template\s*<[^;{}]*>\s*)?"
+    r"(?!(?:return|throw|else|new|case)\b)\w[\w:<>,&*\s.-]*[\s&*:>]"
+)
+# Between the parameters of a function and its body: qualifiers, the type behind an arrow, the values of members.
+VOR_RUMPF = re.compile(r"\s*(?:(?:const|noexcept|override|final)\s*)*(?:->[^;{]*|:[^;]*)?\{")
+HINTER_ANDEREM = re.compile(r"\s*(?:final\s*)?(?:\[[^\]]*\]\s*|:[^:;{][^;{]*)*[={]")
+
+
+def hinter_Klammer(code, stelle):
+    """Behind the bracket that closes the one at this place."""
+    tiefe = 0
+    for i in range(stelle, len(code)):
+        tiefe += {"(": 1, ")": -1}.get(code[i], 0)
+        if tiefe == 0:
+            return i + 1
+    return len(code)
+
+
+def definiert(code, name):
+    """Whether the code defines a function, type, namespace, constant or test of that name: a call is no answer."""
+    code = nur_code(code)
+    if re.search(rf"^TEST(?:_F|_P)?\(\w+,\s*{re.escape(name)}\)\s*\{{", code, re.MULTILINE):
+        return True
+    for treffer in re.finditer(rf"(?<!\w){re.escape(name)}(?!\w)", code):
+        anfang = max(code.rfind(zeichen, 0, treffer.start()) for zeichen in ";{}") + 1
+        if not VOR_DEFINITION.fullmatch(code[anfang : treffer.start()]):
+            continue
+        klammer = re.compile(r"\s*\(").match(code, treffer.end())
+        if klammer:
+            if VOR_RUMPF.match(code, hinter_Klammer(code, klammer.end() - 1)):
+                return True
+        elif HINTER_ANDEREM.match(code, treffer.end()):
+            return True
+    return False
 
 
 def irrwege(wurzel, text):
@@ -51,8 +85,8 @@ def irrwege(wurzel, text):
         datei, name = wurzel / dateien[0], namen[0]
         if datei.suffix not in ENDUNGEN or not datei.is_file():
             fehler.append(f"{frage}: there is no source {dateien[0]}")
-        elif not hat_Namen(datei.read_text(encoding="utf-8"), name):
-            fehler.append(f"{frage}: {dateien[0]} has no {name}")
+        elif not definiert(datei.read_text(encoding="utf-8"), name):
+            fehler.append(f"{frage}: {dateien[0]} does not define {name}")
     return fehler
 
 
@@ -73,7 +107,7 @@ class Dokumente(unittest.TestCase):
     def setUpClass(cls):
         cls.text = (WURZEL / "docs/architecture.md").read_text(encoding="utf-8")
 
-    def test_every_way_leads_to_a_file_that_has_the_name(self):
+    def test_every_way_leads_to_a_file_that_defines_the_name(self):
         for name in DOKUMENTE:
             self.assertEqual([], irrwege(WURZEL, (WURZEL / name).read_text(encoding="utf-8")), name)
 
@@ -109,7 +143,29 @@ class Vergleich(Baumtest):
 
     def test_a_name_in_a_comment_in_a_text_or_within_another_does_not_count(self):
         for name in ("Ende", "Wort", "rech", "Satz::rechne"):
-            self.assertEqual([f"a: src/run/a.cpp has no {name}"], self.irrwege(f"a | `src/run/a.cpp` | `{name}`"))
+            erwartet = [f"a: src/run/a.cpp does not define {name}"]
+            self.assertEqual(erwartet, self.irrwege(f"a | `src/run/a.cpp` | `{name}`"))
+
+    def test_a_call_a_declaration_and_a_mere_use_do_not_answer(self):
+        self.schreibe(
+            "src/run/b.cpp",
+            "int gerufen(int);\nint ruft() {\n    if (gefragt(1)) {\n        return gerufen(2);\n    }\n"
+            "    Typ t{gerufen(3)};\n    gerufen(4);\n    auto x = gerufen(5);\n    return Liste{x}.size();\n}\nint Typ::eins() { return 1; }\n",
+        )
+        for name in ("gerufen", "gefragt", "Typ", "Liste"):
+            erwartet = [f"a: src/run/b.cpp does not define {name}"]
+            self.assertEqual(erwartet, self.irrwege(f"a | `src/run/b.cpp` | `{name}`"))
+
+    def test_functions_types_namespaces_and_constants_answer(self):
+        self.schreibe(
+            "src/run/b.h",
+            "#pragma once\nnamespace varnok::Worte {\nclass Art final : public Grund {\npublic:\n"
+            "    Art() : a_{1}, b_(2) {}\n"
+            "    bool gilt(int (*f)(int)) const override { return f(1); }\n};\nenum class Wahl : int { ja };\n"
+            "constexpr int Tabelle[] = {1};\ntemplate <class T>\nstd::vector<T> alle(const T& t) {\n}\nusing Kurz = int;\n",
+        )
+        namen = ("varnok::Worte", "Art", "gilt", "Wahl", "Tabelle", "alle", "Kurz")
+        self.assertEqual([], self.irrwege(*(f"{name} | `src/run/b.h` | `{name}`" for name in namen)))
 
     def test_a_missing_file_and_a_folder_are_told(self):
         self.assertEqual(

@@ -4,12 +4,12 @@
 #include <array>
 
 #include "base/dateiname.h"
-#include "exposure/bezeichnungen.h"
 #include "painting/bildausgabe.h"
 #include "painting/bildflaeche.h"
 #include "painting/qt_text.h"
 #include "records/dateien.h"
 #include "reports/ausgabedateien.h"
+#include "run/bezeichnungen.h"
 #include "session/ergebnis/ergebnisanzeige.h"
 
 namespace varnok {

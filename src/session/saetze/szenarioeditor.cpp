@@ -38,17 +38,26 @@ const Zahlenfeld* Zeile_von(Szenarioentwurf::Feld f) {
     return Zeile == Zahlenfelder.end() ? nullptr : &*Zeile;
 }
 
-// The list of depths with the position of `Tiefe`. A depth that is no entry becomes one of its own behind the others.
-Tiefenwahl Tiefenliste(double Tiefe, std::array<int, 2> Vorgaben, char Dezimalzeichen) {
-    Tiefenwahl t;
-    for (int i = 0; i < Tiefenschritte; ++i) t.Eintraege.push_back(feste_Zahl((i + 1) / 10.0, 1, Dezimalzeichen));
-    t.Vorgaben = Vorgaben;
+constexpr double Tiefe_auf_Platz(int i) { return (i + 1) / 10.0; }
+
+// The place of a depth in the list, behind the others where it is no entry.
+int Platz_der_Tiefe(double Tiefe) {
     const auto Position = ganze_Zahl(Tiefe * 10 - 1, 0, Tiefenschritte - 1);
-    if (Position && std::abs((*Position + 1) / 10.0 - Tiefe) < 1e-9) {
-        t.Position = *Position;
-    } else {
+    return Position && std::abs(Tiefe_auf_Platz(*Position) - Tiefe) < 1e-9 ? *Position : Tiefenschritte;
+}
+
+// The list of depths with the position of `Tiefe`. A depth that is no entry becomes one of its own.
+Tiefenwahl Tiefenliste(double Tiefe, const std::array<double, 2>& Vorgaben, char Dezimalzeichen) {
+    Tiefenwahl t;
+    for (int i = 0; i < Tiefenschritte; ++i) {
+        t.Tiefen.push_back(Tiefe_auf_Platz(i));
+        t.Eintraege.push_back(feste_Zahl(t.Tiefen.back(), 1, Dezimalzeichen));
+    }
+    t.Vorgaben = {Platz_der_Tiefe(Vorgaben[0]), Platz_der_Tiefe(Vorgaben[1])};
+    t.Position = Platz_der_Tiefe(Tiefe);
+    if (t.Position == Tiefenschritte) {
+        t.Tiefen.push_back(Tiefe);
         t.Eintraege.push_back(allgemeine_Zahl(Tiefe, Dezimalzeichen));
-        t.Position = Tiefenschritte;
     }
     return t;
 }
@@ -116,8 +125,8 @@ void Szenarioeditor::zeige_Werte() {
     const char d = z_.Welt.Dezimalzeichen;
     e_.Texte = {z_.Felder().Bodenszenario, allgemeine_Zahl(p.Bodendichte, d), allgemeine_Zahl(p.Kohlenstoffgehalt, d),
                 allgemeine_Zahl(p.Feldkapazitaet, d), allgemeine_Zahl(p.Welkepunkt, d)};
-    e_.Boden = Tiefenliste(p.Bodentiefe, {49, 24}, d);
-    e_.Plateau = Tiefenliste(p.Plateautiefe, {49, 199}, d);
+    e_.Boden = Tiefenliste(p.Bodentiefe, Bodenvorgaben, d);
+    e_.Plateau = Tiefenliste(p.Plateautiefe, Plateauvorgaben, d);
     verlasse(&Szenarioentwurf::Boden);
     verlasse(&Szenarioentwurf::Plateau);
     e_.Klima = Platz_der_Klimadatei(e_.Klimadateien, z_.Felder().Klimaszenario);
@@ -171,9 +180,8 @@ void Szenarioeditor::merke_Aenderung() {
 }
 
 // Whether the parameter is another one now.
-bool Szenarioeditor::uebernimm_Wert(const std::string& Text, const std::string& gezeigt, double& Parameter) {
-    const double neu = wie_im_Satz(Wert(Text));
-    if (Text == gezeigt || neu == Parameter) return false;
+bool Szenarioeditor::uebernimm_Wert(double neu, double& Parameter) {
+    if (neu == Parameter) return false;
     Parameter = neu;
     merke_Aenderung();
     return true;
@@ -182,9 +190,11 @@ bool Szenarioeditor::uebernimm_Wert(const std::string& Text, const std::string& 
 void Szenarioeditor::uebernimm_Werte() {
     Laufparameter& p = z_.Parameter();
     using E = Szenarioentwurf;
-    const auto Text = [&](E::Feld f, double& Ziel) { uebernimm_Wert(e_.Texte[f], gezeigt_.Texte[f], Ziel); };
+    const auto Text = [&](E::Feld f, double& Ziel) {
+        if (e_.Texte[f] != gezeigt_.Texte[f]) uebernimm_Wert(wie_im_Satz(Wert(e_.Texte[f])), Ziel);
+    };
     const auto uebernimm_Tiefe = [&](const Tiefenwahl& t, const Tiefenwahl& alt, double& Ziel) {
-        return uebernimm_Wert(Eintrag(t.Eintraege, t.Position), Eintrag(alt.Eintraege, alt.Position), Ziel);
+        return t.Position != alt.Position && uebernimm_Wert(t.Tiefen[static_cast<std::size_t>(t.Position)], Ziel);
     };
     Text(E::Bodendichte, p.Bodendichte);
     uebernimm_Tiefe(e_.Boden, gezeigt_.Boden, p.Bodentiefe);

@@ -9,9 +9,14 @@
 
 namespace varnok {
 
+// The depths that are options, cm.
+inline constexpr std::array<double, 2> Bodenvorgaben = {5, 2.5};
+inline constexpr std::array<double, 2> Plateauvorgaben = {5, 20};
+
 // A depth in the editor: presets as options, and a list for every other depth.
 struct Tiefenwahl {
-    std::vector<std::string> Eintraege;  // cm
+    std::vector<double> Tiefen;          // cm
+    std::vector<std::string> Eintraege;  // the same as the list shows them
     int Position = 0;
     int Option = 2;                 // two presets, then "Individual"
     bool Liste_sichtbar = true;     // with "Individual" only
@@ -77,7 +82,7 @@ public:
 private:
     void fuelle_Listen();
     void zeige_Werte();
-    bool uebernimm_Wert(const std::string& Text, const std::string& gezeigt, double& Parameter);
+    bool uebernimm_Wert(double neu, double& Parameter);
     bool nimm_Texte_an();
     void uebernimm_Werte();
     void uebernimm_Plateautiefe();

@@ -5,8 +5,8 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
-#include "exposure/bezeichnungen.h"
 #include "painting/qt_text.h"
+#include "run/bezeichnungen.h"
 #include "window/eingabe/applikationsschema.h"
 #include "window/eingabe/feldzeile.h"
 #include "window/saetze/satzzeile.h"

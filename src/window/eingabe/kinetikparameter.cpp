@@ -2,8 +2,8 @@
 
 #include <array>
 
-#include "exposure/bezeichnungen.h"
 #include "painting/qt_text.h"
+#include "run/bezeichnungen.h"
 
 namespace varnok {
 namespace {

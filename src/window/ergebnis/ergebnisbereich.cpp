@@ -5,8 +5,8 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "exposure/bezeichnungen.h"
 #include "painting/qt_text.h"
+#include "run/bezeichnungen.h"
 #include "session/ergebnis/ergebnisanzeige.h"
 #include "window/ergebnis/abdeckung.h"
 #include "window/ergebnis/diagrammflaeche.h"

@@ -10,8 +10,8 @@
 #include <QTreeView>
 #include <QVBoxLayout>
 
-#include "exposure/bezeichnungen.h"
 #include "painting/qt_text.h"
+#include "run/bezeichnungen.h"
 #include "window/kern/bausteine.h"
 #include "window/programm/ordnerwahl.h"
 

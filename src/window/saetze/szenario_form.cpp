@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <initializer_list>
 
+#include "base/zahlen.h"
 #include "painting/qt_text.h"
 #include "window/kern/bausteine.h"
 #include "window/kern/rahmen.h"
@@ -118,8 +119,11 @@ void Szenario_Form::tippe(Szenarioentwurf::Feld f, const QString& Text) {
 }
 
 Tiefenfeld* Szenario_Form::erstelle_Tiefe(QGridLayout& Raster, int Zeile, bool Boden) {
-    const Tiefenfeld::Beschriftung Bodentext = {u"Soil depth (cm):"_s, {u" 5"_s, u"2.5"_s, u"Individual"_s}};
-    const Tiefenfeld::Beschriftung Plateautext = {u"Tillage depth(cm):"_s, {u"5"_s, u"20"_s, u"Individual"_s}};
+    const auto Vorgabe = [](double Tiefe) { return in_Qt(allgemeine_Zahl(Tiefe)); };
+    const Tiefenfeld::Beschriftung Bodentext = {u"Soil depth (cm):"_s,
+                                                {u' ' + Vorgabe(Bodenvorgaben[0]), Vorgabe(Bodenvorgaben[1]), u"Individual"_s}};
+    const Tiefenfeld::Beschriftung Plateautext = {u"Tillage depth(cm):"_s,
+                                                  {Vorgabe(Plateauvorgaben[0]), Vorgabe(Plateauvorgaben[1]), u"Individual"_s}};
     const QString Groesse = Boden ? u"Bodentiefe"_s : u"Plateautiefe"_s;
     auto* Feld = new Tiefenfeld(Groesse, Boden ? Bodentext : Plateautext, this, Raster, Zeile);
     const Szenarioeditor::Tiefe t = Boden ? &E::Boden : &E::Plateau;
