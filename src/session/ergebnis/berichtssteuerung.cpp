@@ -47,8 +47,8 @@ void Berichtssteuerung::schliesse_veralteten() {
     if (Bericht_ && (z_.Hinweis() || z_.abgedeckt() || Grundlage_ != jetzige_Grundlage())) schliesse();
 }
 
-// Valid results are those of the present input in all that a run reads. A report tells of it in the rest, too: the date in constant
-// climate, the text of a number.
+// Valid results are those of the present input in all that a run reads. A report tells of it in the rest, too: the date in
+// constant climate, the text of a number.
 Ergebnisse Berichtssteuerung::mit_jetziger_Vorgabe() const {
     const auto Vorgabe = std::make_shared<const Eingabe>(z_.Vorgabe);
     Ergebnisse Werte = z_.Werte();
@@ -64,9 +64,15 @@ void Berichtssteuerung::stelle_her(const Diagramm& Bild) {
     const Ergebnisse Werte = mit_jetziger_Vorgabe();
     Grundlage_ = jetzige_Grundlage();
     const Berichtsart Art = z_.Zusammenfassung_aktiv() ? Berichtsart::erweitert : Berichtsart::Standard;
-    Bericht_ = std::make_unique<Bericht>(
-        schreibe_Bericht({{Werte, z_.Sicht, z_.Vorgabe}, Art, z_.Namen[Applikation], Programmversion, Berichtszeit_nach(z_.Zeit()), Bild,
-                          Diagramme_.Legende(), z_.Einstellung.Bild.fuer_Druck, Herkunft_der_Ergebnisse(z_)}));
+    Bericht_ = std::make_unique<Bericht>(schreibe_Bericht({{Werte, z_.Sicht, z_.Vorgabe},
+                                                           Art,
+                                                           z_.Namen[Applikation],
+                                                           Programmversion,
+                                                           Berichtszeit_nach(z_.Zeit()),
+                                                           Bild,
+                                                           Diagramme_.Legende(),
+                                                           z_.Einstellung.Bild.fuer_Druck,
+                                                           Herkunft_der_Ergebnisse(z_)}));
 }
 
 void Berichtssteuerung::speichere_PDF(const std::string& Pfad) const {

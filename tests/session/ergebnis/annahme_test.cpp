@@ -138,7 +138,7 @@ TEST_F(Annahme, a_report_tells_the_application_date_of_the_moment) {
     EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Zeichnung);
     s_->fuehre_aus<&Berichtssteuerung::erstelle>();
     ASSERT_NE(s_->zeige<Berichtssteuerung>().offener(), nullptr);
-    EXPECT_THAT(s_->zeige<Berichtssteuerung>().offener()->Text, HasSubstr("Application date:             15 Jul"));
+    EXPECT_THAT(s_->zeige<Berichtssteuerung>().offener()->Text, HasSubstr("Application date:             \t15 Jul\r\n"));
 }
 
 // The line at the foot
