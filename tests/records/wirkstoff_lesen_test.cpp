@@ -358,7 +358,7 @@ TEST(Wirkstoff_lesen, value_outside_its_range_is_noted_where_the_scheme_and_the_
                "HS   k1 (1/d), study 1: only its beginning was taken as "
                "a number; outside the range 0 or above (-1x -> -1)"}}) {
         Satzprobe p;
-        const Lesebefund b = lies(mit_Zeile(Satz, static_cast<std::size_t>(erste_Studie + Zeile), Text), Wirkstoff, p);
+        const Lesebefund b = lies(mit_Zeile(Satz, erste_Studie + static_cast<std::size_t>(Zeile), Text), Wirkstoff, p);
         EXPECT_EQ(b.Ausgang, Leseausgang::gelesen);
         ASSERT_EQ(b.Bemerkungen.size(), *Bemerkung ? 1u : 0u) << Text;
         if (!*Bemerkung) continue;

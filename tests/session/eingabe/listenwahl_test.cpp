@@ -162,7 +162,7 @@ TEST_F(Auswahlprobe, in_the_summary_view_a_date_concerns_all_studies) {
     gestartet();
     s_->fuehre_aus<&Listenwahl::zeige_Zusammenfassung>();
     s_->fuehre_aus<&Listenwahl::waehle_Tag>(4);
-    for (int st = 0; st < 2; ++st) EXPECT_TRUE(s_->Stand().gueltig(static_cast<std::size_t>(st)));
+    for (int st = 0; st < 2; ++st) EXPECT_TRUE(s_->Stand().gueltig(st));
     EXPECT_FALSE(s_->Stand().abgedeckt());
 }
 

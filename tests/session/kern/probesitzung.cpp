@@ -1,9 +1,9 @@
 #include "session/kern/probesitzung.h"
 
-#include <unistd.h>
-
+#include <cstdlib>
 #include <fstream>
 #include <sstream>
+#include <stdexcept>
 
 #include "records/satz.h"
 #include "records/simulation.h"
@@ -11,12 +11,12 @@
 namespace varnok {
 namespace {
 
+// Nobody else's, nor that of a process before with the same number.
 std::filesystem::path neuer_Ordner() {
-    static int Nummer = 0;
-    auto Pfad =
-        std::filesystem::temp_directory_path() / ("varnok-" + std::to_string(::getpid()) + "-" + std::to_string(Nummer++));
-    std::filesystem::create_directories(Pfad / "input");
-    return Pfad;
+    std::string Muster = (std::filesystem::temp_directory_path() / "varnok-XXXXXX").string();
+    if (::mkdtemp(Muster.data()) == nullptr) throw std::runtime_error("no folder for the test: " + Muster);
+    std::filesystem::create_directories(std::filesystem::path(Muster) / "input");
+    return Muster;
 }
 
 }  // namespace

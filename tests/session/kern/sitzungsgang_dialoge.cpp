@@ -167,7 +167,8 @@ void Organiser_ohne_Simulation(Gang& g) {
 
 void Optionen_OK(Gang& g) {
     if (g.s().zeige<Feldeingabe>().aktives_Feld() < 0) g.tue<&Feldeingabe::betrete>(g.r().unter(5));
-    if (!g.tue<&Programmablauf::beginne_Dialog>()) return;  // the menu entry
+    if (!g.tue<&Feldeingabe::schliesse_ab>(true)) return;  // the focus goes to the menu
+    if (!g.tue<&Programmablauf::beginne_Dialog>()) return;
     Optionsentwurf o = g.tue<&Optionensteuerung::oeffne>();
     switch (g.r().unter(5)) {
         case 0:

@@ -78,8 +78,7 @@ void Esc_im_Feld(Gang& g) {
 }
 
 void waehle_Substanz(Gang& g) {
-    const bool frei = g.tue<&Feldeingabe::schliesse_ab>(true);  // a page is turned
-    if (frei) g.tue<&Listenwahl::waehle_Substanz>(g.r().unter(Anzahl_Stoffe(g.z().Felder().Berechnungsmodus)));
+    g.tue<&Listenwahl::waehle_Substanz>(g.r().unter(Anzahl_Stoffe(g.z().Felder().Berechnungsmodus)));
 }
 void waehle_Kinetik(Gang& g) {
     const int c = g.r().unter(Anzahl_Stoffe(g.z().Felder().Berechnungsmodus));

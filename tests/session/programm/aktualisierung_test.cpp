@@ -19,7 +19,7 @@ protected:
     Onlinecheck() : Ziel_{"http", "example.org", Testschluessel().Hex()} {
         Netz_.Antworten[Ziel_.Programm()] = "new program";
         Netz_.Antworten[Ziel_.Signatur()] =
-            Testschluessel().signiere(signierter_Text("20180922", Ziel_.Programmname(), "new program"));
+            Testschluessel().signiere(signierter_Text("20180922", Aktualisierungsziel::Programmname(), "new program"));
     }
     // Before the members that it uses.
     ~Onlinecheck() override { s_.reset(); }

@@ -1,5 +1,7 @@
 // What is unsaved survives a program that does not come to its end.
 
+#include <gmock/gmock.h>
+
 #include <fstream>
 
 #include "session/saetze/organiserprobe.h"

@@ -1,5 +1,6 @@
 // The report over the results.
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>

@@ -17,13 +17,8 @@ using namespace Qt::StringLiterals;
 namespace varnok {
 namespace {
 
-const QByteArrayList shipped = {"Soil 1, first order",
-                                "Soil 2, biphasic",
-                                "Soil 3, multi-compartment",
-                                "Soil 4, hockey stick",
-                                "Soil 5, first order",
-                                "Soil 6, trial at 15 \xb0"
-                                "C"};
+const QByteArrayList shipped = {"Soil 1, first order",  "Soil 2, biphasic",    "Soil 3, multi-compartment",
+                                "Soil 4, hockey stick", "Soil 5, first order", "Soil 6, trial at 15 \260C"};
 
 void benenne_Studien(const QString& Projekt, const QByteArrayList& Namen) {
     QFile f(Projekt + u"/input/Compound E with two metabolites in sequence.che"_s);

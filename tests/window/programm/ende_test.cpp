@@ -12,6 +12,7 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QTest>
+#include <QTimer>
 
 #include "window/kern/anmeldung.h"
 #include "window/kern/fensterprobe.h"

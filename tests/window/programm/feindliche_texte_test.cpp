@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QLabel>
 #include <QTableWidget>
+#include <QTest>
 #include <QTextDocument>
 #include <QTextEdit>
 #include <QXmlStreamReader>

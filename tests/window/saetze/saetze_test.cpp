@@ -139,7 +139,8 @@ private Q_SLOTS:
         QFETCH(int, Zusatz);
         QComboBox* l = liste("Liste_3");
         l->setFocus();
-        QTest::keyClick(l, static_cast<Qt::Key>(Taste), Qt::KeyboardModifiers::fromInt(Zusatz));
+        QTest::keyClick(l, static_cast<Qt::Key>(Taste),
+                        Qt::KeyboardModifiers::fromInt(static_cast<Qt::KeyboardModifiers::Int>(Zusatz)));
         auto* Menue = qobject_cast<QMenu*>(QApplication::activePopupWidget());
         QVERIFY(Menue);
         QStringList Zeilen;

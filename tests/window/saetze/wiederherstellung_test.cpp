@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QTreeWidget>
 
 #include "window/ergebnis/diagrammprobe.h"
