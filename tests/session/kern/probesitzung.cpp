@@ -15,6 +15,7 @@ namespace {
 std::filesystem::path neuer_Ordner() {
     std::string Muster = (std::filesystem::temp_directory_path() / "varnok-XXXXXX").string();
     if (::mkdtemp(Muster.data()) == nullptr) throw std::runtime_error("no folder for the test: " + Muster);
+    std::filesystem::permissions(Muster, std::filesystem::perms(0755));  // some tests look on as another user
     std::filesystem::create_directories(std::filesystem::path(Muster) / "input");
     return Muster;
 }
