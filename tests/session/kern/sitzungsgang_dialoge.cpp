@@ -28,8 +28,8 @@ void aendere_Szenario(Gang& g) {
                 g.tue<&Szenarioeditor::verlasse_Zahl>(E::Feldkapazitaet);
                 break;
             case 3:
-                g.tue<&Szenarioeditor::waehle_Tiefe>(&Szenarioentwurf::Boden, g.r().unter(300));
-                g.tue<&Szenarioeditor::blaettere>(&Szenarioentwurf::Boden, g.r().unter(300));
+                g.tue<&Szenarioeditor::waehle_Tiefe>(&Szenarioentwurf::Boden, g.r().unter(200));
+                g.tue<&Szenarioeditor::blaettere>(&Szenarioentwurf::Boden, g.r().unter(200));
                 g.tue<&Szenarioeditor::verlasse>(&Szenarioentwurf::Boden);
                 break;
             case 4:
@@ -61,6 +61,14 @@ void Editor_mit_falschem_Namen(Gang& g) {
     if (!g.tue<&Szenarioeditor::oeffne>()) return;
     g.tue<&Szenarioeditor::aendere>(Szenarioentwurf::Bodenszenario, "a\ttab");
     g.tue<&Szenarioeditor::verwirf>();
+    g.tue<&Szenarioeditor::schliesse>();
+}
+// One value alone, over results that can be seen.
+void andere_Bodentiefe(Gang& g) {
+    if (g.z().abgedeckt()) heile(g);
+    if (!g.tue<&Szenarioeditor::oeffne>()) return;
+    g.tue<&Szenarioeditor::waehle_Tiefe>(&Szenarioentwurf::Boden, g.r().unter(200));
+    g.tue<&Szenarioeditor::uebernimm>();
     g.tue<&Szenarioeditor::schliesse>();
 }
 // The plateau depth is told to be the smaller one.
@@ -266,6 +274,7 @@ std::vector<Aktionsart> Aktionen_in_Dialogen() {
         {"editor, Cancel", 10, Befehl | liest, Editor_Cancel},
         {"editor, a name that no record holds", 16, Befehl | liest, Editor_mit_falschem_Namen},
         {"editor, plateau too thin", 20, Befehl | liest, Plateau_zu_flach},
+        {"editor, another soil depth", 10, Befehl | liest, andere_Bodentiefe},
         {"organiser, Done", 80, Befehl | liest, Organiser_Done},
         {"organiser, Esc", 50, Befehl | liest, Organiser_Esc},
         {"organiser, copy, delete, replace", 10, Befehl | liest | Pruefung, Organiser_kopiert},

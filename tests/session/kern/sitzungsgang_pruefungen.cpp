@@ -83,6 +83,8 @@ void Gang::pruefe_Verworfenes(const Aktionsart& a, const Vorher& v, const Dateie
         if (!z().beendet() && (jetzt == Bild || (Art == Applikation && gleiche_Zahlen(jetzt, repariert(v.Vorgabe))))) continue;
         const bool Datei = std::any_of(nachher.begin(), nachher.end(), [&](const auto& d) { return d.second == Bild; });
         if (Datei || Projekt_.gesichert(Bild)) continue;
+        // The command that led to the end chose another record before: that combination is what was unsaved.
+        if (Art == Simulation && z().beendet() && Projekt_.gesichert(jetzt)) continue;
         // The editor's and the organiser's own changes are what the user did there.
         const std::string Name = a.Name;
         if (Name.starts_with("editor") && z().Saetze[Art].gelesen() && z().Saetze[Art].Datei().Name == v.Saetze[Art].Datei().Name)
