@@ -248,6 +248,7 @@ std::string Gangprojekt::stelle_her() {
         if (!Anfang_.contains(Name) && (Name.starts_with("Delivered") || Name.starts_with("Moved"))) loesche_Datei(Name);
     }
     for (const auto& [Name, Bytes] : Anfang_) schreibe(Wurzel_ / "input" / Name, Bytes);
+    ordne_Zeiten({}, Anfang_);  // files of one moment have no order of their own
     return "as at the beginning";
 }
 

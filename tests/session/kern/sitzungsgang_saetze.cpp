@@ -34,7 +34,7 @@ void loesche(Gang& g) {
 }
 void lege_an(Gang& g) {
     const Satzart Art = eine_Art(g, false);
-    if (g.z().Listen[Art].size() > viele_Saetze) return loesche(g);
+    if (g.z().Listen[Art].size() > viele_Saetze) loesche(g);
     g.tue<&Satzverwaltung::lege_an>(Art);
 }
 void kopiere(Gang& g) {
