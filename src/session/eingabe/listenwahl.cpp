@@ -85,7 +85,8 @@ void Listenwahl::waehle_Anzahl(int i) {
     if (Anzahl == e.Anzahl()) return;
     const std::size_t bisher = e.Applikationsschema.size();
     // Rows in store are those of the record on the screen.
-    if (std::exchange(Vorrat_der_Lesung_, z_.Saetze[Applikation].Lesungen()) != Vorrat_der_Lesung_) Zeilenvorrat_.clear();
+    const int jetzige = z_.Saetze[Applikation].Lesungen();
+    if (std::exchange(Vorrat_der_Lesung_, jetzige) != jetzige) Zeilenvorrat_.clear();
     Zeilenvorrat_.resize(max_Applikationen);
     std::copy(e.Applikationsschema.begin(), e.Applikationsschema.end(), Zeilenvorrat_.begin());
     varnok::waehle_Anzahl(e, Anzahl);

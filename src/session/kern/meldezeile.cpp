@@ -19,8 +19,8 @@ void Meldezeile::setze(Wort& w, std::string Text) {
     if (Text.empty()) return;
     vergiss_Frueheres();
     w = {std::move(Text), laufende_};
-    const Systemuhr Maschine;
-    const auto jetzt = (Uhr_ ? *Uhr_ : Maschine).jetzt().time_since_epoch();
+    if (Uhr_ == nullptr) return;
+    const auto jetzt = Uhr_->jetzt().time_since_epoch();
     const auto Sekunden = std::chrono::duration_cast<std::chrono::seconds>(jetzt).count();
     Zeit_ = QDateTime::fromSecsSinceEpoch(Sekunden).toString(u"HH:mm").toStdString();
 }

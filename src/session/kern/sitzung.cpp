@@ -16,7 +16,7 @@ constexpr std::array alle_Arten = {Simulation, Wirkstoff, Applikation, Szenario}
 
 Sitzung::Sitzung(Umgebung Welt) {
     z_.Welt = std::move(Welt);
-    z_.Statuszeile.stelle_Uhr(z_.Welt.Zeit);
+    z_.Statuszeile.stelle_Uhr(&z_.Zeit());
 }
 
 // The one place that turns a fault of a command into a message. What stands behind that is what there is by then.
