@@ -86,11 +86,7 @@ void Schalterrahmen::zeige() {
     const std::string& Zeile = Stand().Statuszeile.Text();
     const QString Text = Zeile.empty() ? QString() : in_Qt(Stand().Statuszeile.Zeit() + ' ' + Zeile);
     // What has happened goes before what could be done.
-    if (Text != Statustext_) {
-        Handhabung_.clear();
-        Fokushandhabung_.clear();
-        Status_neu_ = true;
-    }
+    if (Text != Statustext_) Handhabung_.clear();
     Statustext_ = Text;
     zeige_Status();
 }
@@ -101,23 +97,16 @@ void Schalterrahmen::zeige_Handhabung(const QString& Text) {
 }
 
 void Schalterrahmen::zeige_Fokushandhabung(const QString& Text) {
-    if (!isVisible()) return;  // nobody has read the line yet
-    Fokushandhabung_ = Status_neu_ && !Statustext_.isEmpty() ? QString() : Text;
-    Status_neu_ = false;
+    Fokushandhabung_ = Text;
     zeige_Status();
 }
 
+// The mouse passes over the line, the focus is always somewhere.
 void Schalterrahmen::zeige_Status() {
-    const QString& Hinweis = Handhabung_.isEmpty() ? Fokushandhabung_ : Handhabung_;
-    Status_->setText(Hinweis.isEmpty() ? Statustext_ : Hinweis);
+    const QString& in_Ruhe = Statustext_.isEmpty() ? Fokushandhabung_ : Statustext_;
+    Status_->setText(Handhabung_.isEmpty() ? in_Ruhe : Handhabung_);
 }
 
-// What was told at the start is read first.
-void Schalterrahmen::gib_Ende_den_Fokus() {
-    Ende_->setFocus(Qt::OtherFocusReason);
-    if (Statustext_.isEmpty()) return;
-    Fokushandhabung_.clear();
-    zeige_Status();
-}
+void Schalterrahmen::gib_Ende_den_Fokus() { Ende_->setFocus(Qt::OtherFocusReason); }
 
 }  // namespace varnok

@@ -17,7 +17,7 @@ public:
     void zeige_Hinweis();
     // What the control under the mouse can do, in place of the line until there is a new one; empty: no longer.
     void zeige_Handhabung(const QString& Text);
-    // The same of the control in focus; what has been told since the focus came to it goes before.
+    // The same of the control in focus, where there is no line.
     void zeige_Fokushandhabung(const QString& Text);
     void gib_Ende_den_Fokus();
 
@@ -33,7 +33,6 @@ private:
     QString Statustext_;
     QString Handhabung_;
     QString Fokushandhabung_;
-    bool Status_neu_ = false;     // the line came after the last change of the focus
     Schaltflaeche* Bemerkungen_;  // only where there are any
 };
 
