@@ -1,7 +1,6 @@
 #include "window/eingabe/zahlenfeld.h"
 
 #include <QKeyEvent>
-#include <QMouseEvent>
 #include <QtGui/QFocusEvent>
 
 #include "painting/qt_text.h"
@@ -19,7 +18,7 @@ const Feldbeschreibung& Zeile(int Feld) { return Feldtabelle()[static_cast<std::
 
 }  // namespace
 
-Zahlenfeld::Zahlenfeld(int Feld, QWidget* parent) : Textfeld(in_Qt(Zeile(Feld).Objektname()), parent), Feld_(Feld) {
+Zahlenfeld::Zahlenfeld(int Feld, QWidget* parent) : Ziffernfeld(in_Qt(Zeile(Feld).Objektname()), parent), Feld_(Feld) {
     setAccessibleName(Beschriftung());
     setAlignment(Qt::AlignRight);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
@@ -42,23 +41,6 @@ void Zahlenfeld::focusInEvent(QFocusEvent* e) {
 void Zahlenfeld::focusOutEvent(QFocusEvent* e) {
     QLineEdit::focusOutEvent(e);
     if (!betrifft_nur_Fenster(e->reason())) Q_EMIT verlassen();
-}
-
-void Zahlenfeld::mouseDoubleClickEvent(QMouseEvent* e) {
-    QLineEdit::mouseDoubleClickEvent(e);
-    if (e->button() != Qt::LeftButton) return;
-    doppelt_geklickt_ = true;
-    selectAll();
-}
-
-// A hand that shakes between press and release takes no digit out of the selection.
-void Zahlenfeld::mouseMoveEvent(QMouseEvent* e) {
-    if (!doppelt_geklickt_) QLineEdit::mouseMoveEvent(e);
-}
-
-void Zahlenfeld::mouseReleaseEvent(QMouseEvent* e) {
-    doppelt_geklickt_ = false;
-    QLineEdit::mouseReleaseEvent(e);
 }
 
 void Zahlenfeld::keyPressEvent(QKeyEvent* e) {

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "window/kern/bausteine.h"
+#include "window/kern/ziffernfeld.h"
 
 namespace varnok {
 
 // An entry field for a number, made from a row of the table of fields. It tells what the user does in it and
 // decides nothing; what is accepted is the session's matter.
-class Zahlenfeld : public Textfeld {
+class Zahlenfeld : public Ziffernfeld {
     Q_OBJECT
 public:
     // `Feld`: place in the table of fields.
@@ -33,14 +33,9 @@ protected:
     void focusInEvent(QFocusEvent* e) override;
     void focusOutEvent(QFocusEvent* e) override;
     void keyPressEvent(QKeyEvent* e) override;
-    // A double click selects the number as a whole, whatever signs are in it.
-    void mouseDoubleClickEvent(QMouseEvent* e) override;
-    void mouseMoveEvent(QMouseEvent* e) override;
-    void mouseReleaseEvent(QMouseEvent* e) override;
 
 private:
     int Feld_;
-    bool doppelt_geklickt_ = false;  // the button is still held
 };
 
 }  // namespace varnok

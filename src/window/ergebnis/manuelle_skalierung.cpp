@@ -11,6 +11,7 @@
 #include "diagrams/diagrammbereiche.h"
 #include "painting/qt_text.h"
 #include "window/kern/bausteine.h"
+#include "window/kern/ziffernfeld.h"
 
 namespace varnok {
 namespace {
@@ -21,7 +22,7 @@ using namespace Qt::StringLiterals;
 QComboBox* erstelle_Liste(const QString& Name, const QStringList& Eintraege, const std::string& Text, QWidget* parent) {
     auto* l = new Auswahlliste(Name, 8, parent);
     l->setEditable(true);
-    l->setLineEdit(new Textfeld(QString(), l));
+    l->setLineEdit(new Ziffernfeld(QString(), l));
     l->setInsertPolicy(QComboBox::NoInsert);
     l->setCompleter(nullptr);  // "36" stays 36 and becomes no 365
     l->addItems(Eintraege);

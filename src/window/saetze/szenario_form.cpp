@@ -14,6 +14,7 @@
 #include "painting/qt_text.h"
 #include "window/kern/bausteine.h"
 #include "window/kern/rahmen.h"
+#include "window/kern/ziffernfeld.h"
 #include "window/saetze/satzauswahl.h"
 #include "window/saetze/tiefenfeld.h"
 
@@ -91,7 +92,8 @@ QWidget* Szenario_Form::erstelle_Boden() {
 }
 
 void Szenario_Form::erstelle_Textzeile(QGridLayout& Raster, int Zeile, Szenarioentwurf::Feld f) {
-    auto* Feld = new Textfeld(QString::fromUtf16(Textzeilen[f].Name), this);
+    const QString Name = QString::fromUtf16(Textzeilen[f].Name);
+    Textfeld* Feld = f == E::Bodenszenario ? new Textfeld(Name, this) : new Ziffernfeld(Name, this);
     Texte_[f] = Feld;
     Raster.addWidget(Schild(QString::fromUtf16(Textzeilen[f].Aufschrift), Feld, this), Zeile, 0);
     if (f == E::Bodenszenario) {
