@@ -5,6 +5,7 @@
 #include <QWidget>
 #include <QtCore/QMimeData>
 #include <QtGui/QDropEvent>
+#include <utility>
 
 namespace varnok {
 namespace {
@@ -16,7 +17,8 @@ QString Datei_in(const QMimeData& Daten) {
 
 }  // namespace
 
-Dateiablage::Dateiablage(QWidget& Fenster) : QObject(&Fenster), Fenster_(Fenster) {
+Dateiablage::Dateiablage(QWidget& Fenster, std::function<bool()> frei)
+    : QObject(&Fenster), Fenster_(Fenster), frei_(std::move(frei)) {
     Fenster.setAcceptDrops(true);
     qApp->installEventFilter(this);
 }
@@ -27,7 +29,11 @@ bool Dateiablage::nimm(QDropEvent& e, bool losgelassen) {
     e.setDropAction(Qt::CopyAction);
     e.accept();
     // The source of the drag waits for the end of this event; what is opened may ask.
-    if (losgelassen) QTimer::singleShot(0, this, [this, Pfad] { Q_EMIT abgelegt(Pfad); });
+    if (losgelassen) {
+        QTimer::singleShot(0, this, [this, Pfad] {
+            if (frei_()) Q_EMIT abgelegt(Pfad);
+        });
+    }
     return true;
 }
 
@@ -35,9 +41,12 @@ bool Dateiablage::eventFilter(QObject* Objekt, QEvent* e) {
     const bool losgelassen = e->type() == QEvent::Drop;
     if (!losgelassen && e->type() != QEvent::DragEnter && e->type() != QEvent::DragMove) return QObject::eventFilter(Objekt, e);
     const auto* w = qobject_cast<QWidget*>(Objekt);
-    if (!w || w->window() != &Fenster_ || !nimm(*static_cast<QDropEvent*>(e), losgelassen))
-        return QObject::eventFilter(Objekt, e);
-    return true;
+    if (!w || w->window() != &Fenster_) return QObject::eventFilter(Objekt, e);
+    if (!frei_()) {  // no field takes it for text either
+        e->ignore();
+        return true;
+    }
+    return nimm(*static_cast<QDropEvent*>(e), losgelassen) || QObject::eventFilter(Objekt, e);
 }
 
 }  // namespace varnok

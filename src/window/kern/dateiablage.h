@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <functional>
 
 class QDropEvent;
 class QWidget;
@@ -11,7 +12,8 @@ namespace varnok {
 class Dateiablage : public QObject {
     Q_OBJECT
 public:
-    explicit Dateiablage(QWidget& Fenster);
+    // `frei`: whether the window can open something now.
+    Dateiablage(QWidget& Fenster, std::function<bool()> frei);
 
 Q_SIGNALS:
     void abgelegt(const QString& Pfad);
@@ -23,6 +25,7 @@ private:
     bool nimm(QDropEvent& e, bool losgelassen);
 
     QWidget& Fenster_;
+    std::function<bool()> frei_;
 };
 
 }  // namespace varnok

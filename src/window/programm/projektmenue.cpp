@@ -22,7 +22,11 @@ Projektmenue::Projektmenue(Sitzung& Programm, QMainWindow& Fenster) : QObject(&F
     Datei->insertMenu(danach, erstelle_Liste(u"M_letzte_Projekte"_s, u"Recent pro&jects"_s, &Projektoeffnung::Projekte));
     Datei->insertMenu(danach,
                       erstelle_Liste(u"M_letzte_Simulationen"_s, u"Recent si&mulations"_s, &Projektoeffnung::Simulationen));
-    connect(new Dateiablage(Fenster), &Dateiablage::abgelegt, this, &Projektmenue::oeffne);
+    // What lies under a dialog stays what the dialog is about.
+    const auto frei = [this] {
+        return !QApplication::activeModalWidget() && !Programm_.zeige<Aktualisierungssteuerung>().laeuft();
+    };
+    connect(new Dateiablage(Fenster, frei), &Dateiablage::abgelegt, this, &Projektmenue::oeffne);
 }
 
 // What was open last is read when the list opens: other windows write it, too.

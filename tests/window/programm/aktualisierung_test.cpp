@@ -3,6 +3,9 @@
 #include <QAction>
 #include <QApplication>
 #include <QTest>
+#include <QUrl>
+#include <QtCore/QMimeData>
+#include <QtGui/QDropEvent>
 
 #include "support/updatewelt.h"
 #include "window/kern/anmeldung.h"
@@ -42,6 +45,28 @@ private Q_SLOTS:
         QVERIFY(Eintrag()->isEnabled());
         QVERIFY(!QApplication::overrideCursor());
         QCOMPARE(Fragen_.nimm(), QStringList{u"Connection error: Varnok could not connect to the update server"_s});
+    }
+
+    void nothing_is_dropped_on_the_window_while_the_check_runs() {
+        p_->starte();
+        Fragen_.nimm();
+        QMimeData Daten;
+        Daten.setUrls({QUrl::fromLocalFile(p_->Pfad(u"input/Vines, Compound D.vnk"_s))});
+        QDragEnterEvent herein(QPoint(9, 9), Qt::CopyAction, &Daten, Qt::LeftButton, Qt::NoModifier);
+        QDropEvent ab(QPointF(9, 9), Qt::CopyAction, &Daten, Qt::LeftButton, Qt::NoModifier);
+        bool angenommen = true;
+        Netz_->waehrend = [&] {
+            herein.ignore();
+            QApplication::sendEvent(&p_->Fenster(), &herein);
+            ab.ignore();
+            QApplication::sendEvent(&p_->Fenster(), &ab);
+            angenommen = herein.isAccepted() || ab.isAccepted();
+        };
+        Eintrag()->trigger();
+        QVERIFY(!angenommen);
+        QTest::qWait(20);
+        QCOMPARE(p_->Programm().Stand().gewaehlt(Simulation), std::string("Programcheck"));
+        Fragen_.nimm();
     }
 
     void the_close_box_waits_for_the_check_and_then_closes_the_window() {

@@ -117,6 +117,25 @@ private Q_SLOTS:
         QCOMPARE(Fragen_.nimm().filter(u"Runtime"_s), QStringList());
     }
 
+    void nothing_is_dropped_under_an_open_dialog() {
+        const QString alt = p_->Teil<QLineEdit>("S_DT50_0")->text();
+        int abgelehnt = 0;
+        QTimer::singleShot(100, this, [&] {
+            auto* Dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            if (!Dialog) return;
+            for (const char* Name : {"Diagramm_0", "S_DT50_0", "Beschreibung"})
+                abgelehnt += lege_ab(p_->Teil<QWidget>(Name), p_->Pfad(u"input/Vines, Compound D.vnk"_s)) ? 0 : 1;
+            Dialog->reject();
+        });
+        Aktion("M_Laden")->trigger();
+        p_->aktiviere();
+        QTest::qWait(20);
+        QCOMPARE(in_Qt(Stand().gewaehlt(Simulation)), u"Programcheck"_s);
+        QCOMPARE(abgelehnt, 3);
+        QCOMPARE(p_->Teil<QLineEdit>("S_DT50_0")->text(), alt);
+        Fragen_.nimm();
+    }
+
     void what_is_no_project_is_told() {
         QVERIFY(lege_ab(p_->Teil<QWidget>("Diagramm_0"), p_->Pfad(u"input/Programcheck.che"_s)));
         const QStringList Meldungen = Fragen_.nimm();
