@@ -77,7 +77,7 @@ bool Laufsteuerung::rechne_Studie(int i_studie) {
     }
     if (!Gerechnet.Werte) return ende_ohne_Ergebnis(Gerechnet.Ausgang);
     z_.Vorgabe.Applikationsschema = Gerechnet.Werte->Vorgabe->Applikationsschema;  // the run may have repaired it
-    sammle_Warnungen(*Gerechnet.Werte);
+    ungemeldet_.at(static_cast<std::size_t>(i_studie)) = !Gerechnet.Werte->Warnungen.empty();
     gelaufen_ = Gerechnet.Werte;
     z_.Gerechnetes.uebernimm(i_studie, std::move(Gerechnet.Werte), z_.Klima);
     return true;
@@ -113,18 +113,25 @@ bool Laufsteuerung::skaliere() {
     return true;
 }
 
-void Laufsteuerung::sammle_Warnungen(const Ergebnis& e) {
-    for (const std::string& w : e.Warnungen) {
-        if (std::find(Warnungen_.begin(), Warnungen_.end(), w) == Warnungen_.end()) Warnungen_.push_back(w);
+// Of results that came under the cover is told when they come into sight.
+std::vector<std::string> Laufsteuerung::nimm_Warnungen() {
+    const std::vector<int> gezeigte = z_.gezeigte_Studien();
+    std::vector<std::string> Warnungen;
+    for (int st = 0; st < z_.Studienzahl(); ++st) {
+        const bool zu_sehen = z_.gueltig(st) || std::find(gezeigte.begin(), gezeigte.end(), st) != gezeigte.end();
+        if (!zu_sehen || !std::exchange(ungemeldet_.at(static_cast<std::size_t>(st)), false)) continue;
+        for (const std::string& w : z_.Werte().at(static_cast<std::size_t>(st))->Warnungen) {
+            if (std::find(Warnungen.begin(), Warnungen.end(), w) == Warnungen.end()) Warnungen.push_back(w);
+        }
     }
+    return Warnungen;
 }
 
 void Laufsteuerung::melde_Warnungen() {
-    const std::vector<std::string> Warnungen = std::exchange(Warnungen_, {});
-    if (Warnungen.empty() || z_.abgedeckt()) return;
+    if (z_.abgedeckt()) return;
     std::string Text;
-    for (const std::string& w : Warnungen) Text += (Text.empty() ? "" : "\n") + w;
-    melde(z_, Texte::kein_Endplateau, Text);
+    for (const std::string& w : nimm_Warnungen()) Text += (Text.empty() ? "" : "\n") + w;
+    if (!Text.empty()) melde(z_, Texte::kein_Endplateau, Text);
 }
 
 void Laufsteuerung::melde_fehlenden_Satz() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <memory>
 #include <optional>
 #include <string>
@@ -43,7 +44,7 @@ public:
     std::optional<Zelle> nimm_Tabellenfehler() { return std::exchange(Tabellenfehler_, std::nullopt); }
     void melde_Zelle(Zelle z) { Tabellenfehler_ = z; }
 
-    // Tells in one box what the runs since then warn of, once their results are drawn.
+    // Tells in one box what the runs since then warn of, once their results are drawn and may be seen.
     void melde_Warnungen();
 
     // The result of the last run since this was asked, null without one; what it leaves for diagnosis goes with the next drawing.
@@ -53,13 +54,13 @@ private:
     bool fuehre_aus(const std::vector<int>& Studien, bool auch_gueltige);
     bool rechne_Studie(int i_studie);
     bool ende_ohne_Ergebnis(const Laufergebnis& Ausgang);
-    void sammle_Warnungen(const Ergebnis& e);
+    std::vector<std::string> nimm_Warnungen();
     void melde_fehlenden_Satz();
 
     Zustand& z_;
     std::unique_ptr<Lauf> Arbeitsplatz_ = std::make_unique<Lauf>();
     std::shared_ptr<const Ergebnis> gelaufen_;
-    std::vector<std::string> Warnungen_;
+    std::array<bool, max_Studien> ungemeldet_{};  // the results of a study warn of something that was not told yet
     std::optional<Zelle> Tabellenfehler_;
     bool Klimadatei_fehlt_ = false;
 };
