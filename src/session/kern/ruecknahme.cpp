@@ -42,8 +42,14 @@ void Ruecknahme::stelle_her(const Eingabe& e) {
     if (z_.Sicht.Substanz >= Anzahl_Stoffe(z_.Vorgabe.Berechnungsmodus)) z_.Sicht.Substanz = 0;
     Felder_.fuelle();
     Diagramme_.bringe_nach_vorn(z_.Sicht.Substanz);
-    Laeufe_.berechne();
-    // A run repairs the table; the step is the table as it was, or there would be no way past it.
+    // A run repairs the table, also one with a fault behind it; the step is the table as it was, or there would be no way past
+    // it.
+    try {
+        Laeufe_.berechne();
+    } catch (...) {
+        z_.Vorgabe.Applikationsschema = e.Applikationsschema;
+        throw;
+    }
     z_.Vorgabe.Applikationsschema = e.Applikationsschema;
 }
 

@@ -52,5 +52,42 @@ const std::vector<Fall> Faelle = {
 INSTANTIATE_TEST_SUITE_P(Befehle, Verlaufsanfang, ::testing::ValuesIn(Faelle),
                          [](const auto& f) { return std::string(f.param.Name); });
 
+// Two applications of a year; no run of the second study ends well.
+class Wiederholte_Schritte : public Probesitzung {
+protected:
+    Wiederholte_Schritte() {
+        Parameter_.Q10[0][1] = 1E300;
+        Parameter_.TRef[0][1] = 0;
+        Felder_.Applikationsmuster = unregelmaessig;
+        waehle_Anzahl(Felder_, 2);
+        Felder_.Applikationsschema[0] = {"01", "05", "100", "0"};
+        Felder_.Applikationsschema[1] = {"02", "05", "100", "0"};
+        schreibe_Probe();
+    }
+    void es_versagt() { Fragen_.erwarte_Anfang("Runtime error", "The calculation is not possible with these input data."); }
+    std::string Bedeckung() const { return s_->Stand().Felder().Applikationsschema[0][3].Text(); }
+};
+
+// A run makes 99 of a full interception before another one fails.
+TEST_F(Wiederholte_Schritte, keep_a_table_that_a_run_has_repaired_before_another_failed) {
+    gestartet();
+    const Zelle z{0, 3};
+    s_->fuehre_aus<&Applikationstabelle::leere>(z);
+    for (const char Ziffer : {'1', '0', '0'}) s_->fuehre_aus<&Applikationstabelle::haenge_an>(z, Ziffer);
+    es_versagt();
+    s_->fuehre_aus<&Listenwahl::zeige_Zusammenfassung>();
+    ASSERT_TRUE(s_->Stand().Zusammenfassung_aktiv());
+    ASSERT_EQ(Bedeckung(), "99");
+    es_versagt();
+    s_->fuehre_aus<&Ruecknahme::mache_rueckgaengig>();
+    EXPECT_EQ(Bedeckung(), "100");
+    es_versagt();
+    s_->fuehre_aus<&Ruecknahme::mache_rueckgaengig>();
+    EXPECT_EQ(Bedeckung(), "0");
+    es_versagt();
+    s_->fuehre_aus<&Ruecknahme::wiederhole>();
+    EXPECT_EQ(Bedeckung(), "100");
+}
+
 }  // namespace
 }  // namespace varnok
