@@ -108,7 +108,11 @@ void Organiser::waehle_mit_Inhalt(Satzart Art) {
     waehle_Simulation(Listen_.Auswahl(Simulation));
 }
 
+// All commands of the dialog lie in one action of the session.
+void Organiser::beginne_Befehl() { z_.Statuszeile.schliesse_ab(false); }
+
 void Organiser::kopiere(Satzart Art) {
+    beginne_Befehl();
     const std::vector<std::string> vorher = Listen_.Listen[Art];
     if (!Befehle_.kopiere(Art)) return;
     z_.Statuszeile.vergiss_Frueheres();
@@ -120,13 +124,16 @@ void Organiser::kopiere(Satzart Art) {
 }
 
 void Organiser::loesche(Satzart Art) {
+    beginne_Befehl();
+    const std::string Name = Listen_.gewaehlt(Art);
     if (!Befehle_.loesche(Art)) return;
     z_.Statuszeile.vergiss_Frueheres();
-    ziehe_Hauptformular_nach(Art);
+    ziehe_Hauptformular_nach(Art, Name);
     waehle_mit_Inhalt(Art);
 }
 
 bool Organiser::benenne_um(Satzart Art, const std::string& Text, bool mit_Frage) {
+    beginne_Befehl();
     const std::string alt = Listen_.gewaehlt(Art);
     const Umbenennung Ausgang = Befehle_.benenne_um(Art, Text, mit_Frage);
     if (Ausgang != Umbenennung::erfolgt) return Ausgang == Umbenennung::unveraendert;
@@ -150,16 +157,18 @@ void Organiser::ziehe_Hauptformular_nach(Satzart Art, const std::string& alt, co
     for (const std::string& Name : Listen_.Listen[Art]) {
         if (enthaelt(vorher, Name) || (Name == neu && enthaelt(vorher, alt))) z_.Listen[Art].push_back(Name);
     }
-    // Gone, or another file under the name of one that was missing.
-    if (gezeigt.empty() != (z_.Auswahl(Art) < 0))
-        entwerte_im_Hauptformular(Art, gezeigt.empty() ? Texte::Satz_ersetzt : Texte::Satz_geloescht);
+    const bool geloescht = neu.empty() && gezeigt == alt;
+    if (gezeigt.empty() && z_.Auswahl(Art) >= 0)  // another file under the name of one that was missing
+        entwerte_im_Hauptformular(Art, Texte::Satz_ersetzt);
+    if (!gezeigt.empty() && z_.Auswahl(Art) < 0)
+        entwerte_im_Hauptformular(Art, geloescht ? Texte::Satz_geloescht : Texte::fehlender_Satz(z_.Namen[Art] + Endungen[Art]));
     if (!umbenannt) return;
     z_.Saetze[Art].benenne(neu);
     if (z_.Gestartet) z_.Saetze[Simulation].merke_Aenderung();
 }
 
 // The file of what the main screen shows is gone: a save from there must not bring it back under a name that is taken by now.
-void Organiser::entwerte_im_Hauptformular(Satzart Art, const char* Grund) {
+void Organiser::entwerte_im_Hauptformular(Satzart Art, const std::string& Grund) {
     sichere({Art});
     z_.Saetze[Art].verwirf(Grund);
 }
@@ -239,6 +248,7 @@ bool Organiser::uebernimm() {
         gib_Listen_weiter();
         return true;
     }
+    beginne_Befehl();
     pruefe_Dateien();
     const std::vector<Satzart> Arten = zu_lesende();
     z_.Statuszeile.vergiss_Frueheres();

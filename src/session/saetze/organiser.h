@@ -61,8 +61,11 @@ private:
     void sichere(const std::vector<Satzart>& Arten);
     bool uebergib();
     void gib_Listen_weiter();
+    // What the status line says from here on is no part of what a command of the dialog said before.
+    void beginne_Befehl();
+    // `alt`: the entry that the command has deleted or, with `neu`, given that name.
     void ziehe_Hauptformular_nach(Satzart Art, const std::string& alt = {}, const std::string& neu = {});
-    void entwerte_im_Hauptformular(Satzart Art, const char* Grund);
+    void entwerte_im_Hauptformular(Satzart Art, const std::string& Grund);
 
     Eingabestand& z_;
     Satzverwaltung& Saetze_;

@@ -293,6 +293,17 @@ TEST_F(Organiserdateien, the_status_line_names_the_simulations_that_a_rename_lea
     EXPECT_EQ(z().Statuszeile.Text(), "Simulations that still name \"Second\": \"Second\", \"Torn\"");
 }
 
+TEST_F(Organiserdateien, the_status_line_tells_of_the_last_command_alone) {
+    oeffne();
+    waehle(Wirkstoff, "Second");
+    EXPECT_TRUE(benenne_um(Wirkstoff, "Third"));
+    EXPECT_TRUE(benenne_um(Wirkstoff, "Second"));
+    EXPECT_EQ(z().Statuszeile.Text(), "");
+    EXPECT_TRUE(benenne_um(Wirkstoff, "Third"));
+    kopiere(Applikation);
+    EXPECT_EQ(z().Statuszeile.Text(), "");
+}
+
 TEST_F(Organiserdateien, a_typed_extension_is_not_doubled_and_an_unchanged_name_changes_nothing) {
     oeffne();
     const auto vorher = Dateien();

@@ -1,5 +1,7 @@
 // What other programs and windows do to the files while the simulation organiser is open.
 
+#include <functional>
+
 #include "records/projektsperre.h"
 #include "session/saetze/organiserprobe.h"
 
@@ -42,6 +44,39 @@ TEST_F(Organiserfremde, a_record_that_another_program_took_away_is_told_and_lose
     EXPECT_FALSE(fertig());
     waehle(Wirkstoff, "Probe");
     EXPECT_TRUE(fertig());
+}
+
+// The command read the list anew and found it gone; it deleted nothing that is on the screen.
+TEST_F(Organiserfremde, a_record_on_the_screen_that_another_program_took_away_is_missing_and_not_deleted) {
+    const std::vector<std::function<void()>> Befehle = {
+        [this] { kopiere(Wirkstoff); },
+        [this] { loesche(Wirkstoff); },
+        [this] { benenne_um(Wirkstoff, "Third"); },
+    };
+    for (std::size_t i = 0; i < Befehle.size(); ++i) {
+        SCOPED_TRACE(i);
+        schreibe_Saetze("Second", "Other parent", 3);
+        schreibe_Saetze("Fourth", "Another parent", 3);
+        schreibe_Probe();
+        gestartet();
+        oeffne();
+        waehle(Wirkstoff, "Second");
+        std::filesystem::remove(Wurzel_ / "input/Probe.che");
+        Befehle[i]();
+        schliesse();
+        EXPECT_EQ(z().Abdeckungswort(), "Record \"Probe.che\" missing: choose one");
+        EXPECT_EQ(Gesichertes().count("unsaved Probe.che"), 1U);
+    }
+}
+
+TEST_F(Organiserfremde, a_record_on_the_screen_that_done_does_not_find_is_missing_and_not_deleted) {
+    oeffne();
+    waehle(Szenario, "Second");
+    std::filesystem::remove(Wurzel_ / "input/Probe.che");
+    Fragen_.erwarte_Anfang("Runtime error", "File Probe.che is missing in the folder");
+    EXPECT_FALSE(fertig());
+    schliesse();
+    EXPECT_EQ(z().Abdeckungswort(), "Record \"Probe.che\" missing: choose one");
 }
 
 TEST_F(Organiserfremde, a_simulation_that_another_program_took_away_is_not_written_again) {
