@@ -75,23 +75,25 @@ void Applikationsschema::focusOutEvent(QFocusEvent* e) {
     if (!betrifft_nur_Fenster(e->reason())) verlasse_Zelle();
 }
 
+void Applikationsschema::zeige_Zelle(Zelle z) {
+    const auto& Zeilen = Programm_.Stand().Felder().Applikationsschema;
+    const QString Text = in_Qt(Zeilen.at(static_cast<std::size_t>(z.Zeile)).at(static_cast<std::size_t>(z.Spalte)).Text());
+    QTableWidgetItem* Ziel = item(z.Zeile, z.Spalte);
+    if (!Ziel) {
+        Ziel = new QTableWidgetItem;
+        Ziel->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        setItem(z.Zeile, z.Spalte, Ziel);
+    }
+    if (Ziel->text() != Text) Ziel->setText(Text);
+    const bool ausserhalb = Programm_.zeige<Applikationstabelle>().ausserhalb(z);
+    Ziel->setData(Qt::AccessibleDescriptionRole, ausserhalb ? Zweifelswort() : QString());
+}
+
 void Applikationsschema::zeige() {
     zeigt_ = true;
-    const auto& Zeilen = Programm_.Stand().Felder().Applikationsschema;
-    setRowCount(static_cast<int>(Zeilen.size()));
+    setRowCount(static_cast<int>(Programm_.Stand().Felder().Applikationsschema.size()));
     for (int i = 0; i < rowCount(); ++i) {
-        for (int j = 0; j < columnCount(); ++j) {
-            const QString Text = in_Qt(Zeilen[static_cast<std::size_t>(i)][static_cast<std::size_t>(j)].Text());
-            QTableWidgetItem* Zelle = item(i, j);
-            if (!Zelle) {
-                Zelle = new QTableWidgetItem;
-                Zelle->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
-                setItem(i, j, Zelle);
-            }
-            if (Zelle->text() != Text) Zelle->setText(Text);
-            const bool ausserhalb = Programm_.zeige<Applikationstabelle>().ausserhalb({i, j});
-            Zelle->setData(Qt::AccessibleDescriptionRole, ausserhalb ? Zweifelswort() : QString());
-        }
+        for (int j = 0; j < columnCount(); ++j) zeige_Zelle({i, j});
     }
     if (currentRow() < 0 && rowCount() > 0) setCurrentCell(0, 0);
     // Up to five rows and a bit of the sixth, which tells that there is more.
@@ -123,9 +125,11 @@ bool Applikationsschema::bearbeite(const QKeyEvent& e) {
         Programm_.fuehre_aus<&Applikationstabelle::leere>(z);
     } else if (e.matches(QKeySequence::Paste)) {
         Programm_.fuehre_aus<&Applikationstabelle::fuege_ein>(z, aus_Qt(QApplication::clipboard()->text()));
+        zeige();
     } else {
         return false;
     }
+    zeige_Zelle(z);
     return true;
 }
 
@@ -135,7 +139,6 @@ void Applikationsschema::keyPressEvent(QKeyEvent* e) {
     } else if (e->matches(QKeySequence::Copy)) {
         kopiere_Zellen(*this);
     } else if (bearbeite(*e)) {
-        zeige();
         Q_EMIT getippt();
     } else {
         QTableWidget::keyPressEvent(e);

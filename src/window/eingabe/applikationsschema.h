@@ -26,7 +26,9 @@ protected:
     void focusOutEvent(QFocusEvent* e) override;
 
 private:
+    void zeige_Zelle(Zelle z);
     Zelle aktuelle_Zelle() const;
+    // Shows what the key has changed; false where it is none of the table's.
     bool bearbeite(const QKeyEvent& e);
     void verlasse_Zelle();
 

@@ -1,15 +1,12 @@
-// What is typed: where it lands, what it refreshes, how it is taken back, and what tells of it.
+// What is typed: where it lands, how it is taken back, and what tells of it.
 
 #include <QAction>
 #include <QApplication>
-#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
 #include <QRegularExpression>
-#include <QSet>
-#include <QTableWidget>
 #include <QTest>
 #include <QTextEdit>
 #include <algorithm>
@@ -26,67 +23,6 @@ namespace varnok {
 namespace {
 
 constexpr QColor Gelb(255, 255, 0);
-
-// The widgets that are painted anew or change their looks; what lies below a painted widget is painted with it and does not
-// count.
-class Auffrischungen : public QObject {
-public:
-    Auffrischungen() { qApp->installEventFilter(this); }
-    QStringList Namen() const {
-        QStringList Liste;
-        for (const QWidget* w : Teile_) {
-            const bool traegt =
-                std::any_of(Teile_.begin(), Teile_.end(), [w](const QWidget* x) { return x != w && w->isAncestorOf(x); });
-            if (!traegt) Liste << QString::fromLatin1(w->metaObject()->className()) + u' ' + w->objectName();
-        }
-        return Liste;
-    }
-
-protected:
-    bool eventFilter(QObject* o, QEvent* e) override {
-        auto* w = qobject_cast<QWidget*>(o);
-        if (w && e->type() == QEvent::Paint) Teile_.insert(w);
-        if (w && (e->type() == QEvent::EnabledChange || e->type() == QEvent::PaletteChange)) Teile_.insert(w);
-        return false;
-    }
-
-private:
-    QSet<QWidget*> Teile_;
-};
-
-// Writes something else into all other fields and lists, behind the program's back: what shows the session again afterwards was
-// refreshed.
-class Verstellte {
-public:
-    Verstellte(const QWidget& Fenster, const QWidget* ausser) {
-        for (QLineEdit* f : Fenster.findChildren<QLineEdit*>()) {
-            if (f == ausser || qobject_cast<QComboBox*>(f->parentWidget())) continue;
-            f->setText(u"?"_s);
-            Felder_ << f;
-        }
-        for (QComboBox* l : Fenster.findChildren<QComboBox*>()) {
-            if (l->currentIndex() < 0) continue;
-            const QSignalBlocker still(l);
-            l->setCurrentIndex(-1);
-            Listen_ << l;
-        }
-    }
-    QStringList erneuerte() const {
-        QStringList Namen;
-        for (const QLineEdit* f : Felder_) {
-            if (f->text() != u"?"_s) Namen << f->objectName();
-        }
-        for (const QComboBox* l : Listen_) {
-            if (l->currentIndex() >= 0) Namen << l->objectName();
-        }
-        return Namen;
-    }
-    qsizetype Anzahl() const { return Felder_.size() + Listen_.size(); }
-
-private:
-    QList<QLineEdit*> Felder_;
-    QList<QComboBox*> Listen_;
-};
 
 // Counts the yellow fields whenever something is asked.
 class Farbzaehler : public Mitschrift {
@@ -170,65 +106,6 @@ private Q_SLOTS:
         QTest::qWait(20);
         QCOMPARE(Farbzaehler::zaehle(p_->Fenster()), 1);
         QCOMPARE(feld("S_DT50_0")->palette().color(QPalette::Active, QPalette::Base), Gelb);
-    }
-
-    void a_double_click_selects_the_whole_number_data() {
-        QTest::addColumn<QByteArray>("Zahl");
-        for (const char* z : {"12.5", "-5", "1E-05", "2 5"}) QTest::newRow(z) << QByteArray(z);
-    }
-    void a_double_click_selects_the_whole_number() {
-        QFETCH(QByteArray, Zahl);
-        p_->tippe("S_TRef_0", Zahl);
-        QLineEdit* f = feld("S_TRef_0");
-        f->deselect();
-        const QPoint Ort = f->mapTo(&p_->Fenster(), QPoint(f->width() - 8, f->height() / 2));
-        QTest::mouseDClick(p_->Fenster().windowHandle(), Qt::LeftButton, {}, Ort);
-        QCOMPARE(f->selectedText(), QString::fromLatin1(Zahl));
-        p_->druecke("S_TRef_0", Qt::Key_Escape);
-    }
-
-    void a_key_refreshes_at_most_five_widgets_data() {
-        QTest::addColumn<QByteArray>("Feld");
-        for (const char* f : {"S_DT50_0", "Applikationsrate", "Beschreibung"}) QTest::newRow(f) << QByteArray(f);
-    }
-    void a_key_refreshes_at_most_five_widgets() {
-        QFETCH(QByteArray, Feld);
-        druecke_auf(Feld, Feld == "Beschreibung" ? Qt::RightButton : Qt::LeftButton);
-        feld(Feld)->end(false);
-        QTest::qWait(50);
-        for (int i = 0; i < 2; ++i) {  // the first one lights the hint
-            const Auffrischungen Zaehler;
-            QTest::keyClick(p_->Fenster().windowHandle(), Qt::Key_1);
-            QTest::qWait(50);
-            const QStringList Namen = Zaehler.Namen();
-            QVERIFY(!Namen.isEmpty());
-            QVERIFY2(Namen.size() <= 5, qPrintable(Namen.join(u", "_s)));
-        }
-        const Verstellte andere(p_->Fenster(), feld(Feld));
-        QVERIFY(andere.Anzahl() > 30);
-        QTest::keyClick(p_->Fenster().windowHandle(), Qt::Key_1);
-        QVERIFY2(andere.erneuerte().size() <= 5, qPrintable(andere.erneuerte().join(u", "_s)));
-        QVERIFY(p_->Fenster().windowTitle().endsWith(u'*'));
-        if (Feld != "Beschreibung") QVERIFY(!p_->Teil<QPushButton>("Aktualisieren")->icon().isNull());
-    }
-
-    void a_key_in_a_cell_shows_in_the_cell_and_refreshes_little() {
-        p_->waehle("Applikationsmuster_2");
-        Fragen_.vergiss();
-        auto* Tafel = p_->Teil<QTableWidget>("Applikationsschema");
-        Tafel->setFocus();
-        Tafel->setCurrentCell(0, 2);
-        QTest::qWait(50);
-        const QString alt = p_->Zelle("Applikationsschema", 0, 2);
-        const Auffrischungen Zaehler;
-        QTest::keyClick(Tafel, Qt::Key_7);
-        QTest::qWait(50);
-        const QStringList Namen = Zaehler.Namen();
-        QCOMPARE(p_->Zelle("Applikationsschema", 0, 2), alt + u'7');
-        QVERIFY2(Namen.size() <= 5, qPrintable(Namen.join(u", "_s)));
-        const Verstellte andere(p_->Fenster(), nullptr);
-        QTest::keyClick(Tafel, Qt::Key_7);
-        QVERIFY2(andere.erneuerte().size() <= 5, qPrintable(andere.erneuerte().join(u", "_s)));
     }
 
     void the_title_has_a_star_while_something_is_in_no_file() {
