@@ -1,5 +1,7 @@
 #include "session/eingabe/feldeingabe.h"
 
+#include <utility>
+
 #include "base/zahlen.h"
 #include "session/kern/texte.h"
 #include "session/kern/zahleneingabe.h"
@@ -82,10 +84,11 @@ void Feldeingabe::setze(int Feld, const Zahlwert& v) {
 
 void Feldeingabe::aendere(int Feld, const std::string& Text) {
     const Feldbeschreibung& f = Beschreibung(Feld);
-    geaendert_ = true;
+    Satzplatz& Satz = z_.Saetze[Satz_von(f)];
+    if (!std::exchange(geaendert_, true)) alte_Marke_ = Satz.Geaendert();
     setze(Feld, Text);
     if (Feldwert(Feld) == Alter_Wert_) z_.Feld_abgelehnt = false;
-    z_.Saetze[Satz_von(f)].merke_Aenderung();
+    Satz.merke_Aenderung();
 }
 
 bool Feldeingabe::pruefe(int Feld, bool Enter) {
@@ -137,6 +140,7 @@ bool Feldeingabe::ausserhalb(int Feld) const {
 void Feldeingabe::nimm_zurueck(int Feld) {
     if (Feld != aktiv_ || !geaendert_) return;
     setze(Feld, Alter_Wert_);
+    z_.Saetze[Satz_von(Beschreibung(Feld))].stelle_Marke(alte_Marke_);
     geaendert_ = z_.Feld_abgelehnt = false;
 }
 

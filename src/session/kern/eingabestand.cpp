@@ -23,16 +23,18 @@ bool Eingabestand::Saetze_vollstaendig() const {
     return Saetze[Simulation].gelesen();  // a simulation in the place of a deleted one
 }
 
-std::string Eingabestand::Speicherbytes(Satzart Art) const {
-    if (Art != Simulation) return Satz_als_Bytes(Art, Vorgabe, Sicht, Welt.Dezimalzeichen);
+std::string Eingabestand::Bytes(Satzart Art, const Ansicht& Gesehenes) const {
+    if (Art != Simulation) return Satz_als_Bytes(Art, Vorgabe, Gesehenes, Welt.Dezimalzeichen);
     Simulationssatz Satz{Vorgabe.Beschreibung, {}};
     for (const Satzart t : {Wirkstoff, Applikation, Szenario}) Satz.Dateinamen[t] = Namen[t];
     return Simulation_als_Bytes(Satz);
 }
 
+std::string Eingabestand::Speicherbytes(Satzart Art) const { return Bytes(Art, Sicht); }
+
 std::string Eingabestand::Speicherbild(Satzart Art) const {
     try {
-        return Speicherbytes(Art);
+        return Bytes(Art, {});
     } catch (const Laufzeitfehler& f) {
         return f.what();
     }

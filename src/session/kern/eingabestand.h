@@ -48,13 +48,16 @@ struct Eingabestand : Schauplatz, Satzlisten {
     bool Saetze_vollstaendig() const;
     // What a save of this kind writes. Throws Laufzeitfehler for a text or a value that no record can hold.
     std::string Speicherbytes(Satzart Art) const;
-    // The same for comparing: where nothing can be written, the reason.
+    // The inputs in it, for comparing: the same whatever is in view, which a record keeps and no result depends on. Where nothing
+    // can be written, the reason.
     std::string Speicherbild(Satzart Art) const;
-    // Whether a save would now write something else than right after reading or saving. A place that was not read is different
+    // Whether a save would now write other inputs than right after reading or saving. A place that was not read is different
     // only by what the user entered there.
     bool verschieden(Satzart Art) const;
 
 private:
+    std::string Bytes(Satzart Art, const Ansicht& Gesehenes) const;
+
     bool Zusammenfassung_ = false;
 };
 

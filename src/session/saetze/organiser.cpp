@@ -55,7 +55,8 @@ private:
 void Organiser::oeffne() {
     gewaehlt_.fill(false);
     umbenannt_ = Szenario_bearbeitet_ = Lauf_ = false;
-    Projektname_ = alter_Projektname_ = alte_Beschreibung_ = z_.Felder().Beschreibung;
+    Projektname_ = alter_Projektname_ = z_.Felder().Beschreibung;
+    fremde_Beschreibung_.reset();
     Listen_.Namen = z_.Namen;
     for (const Satzart Art : alle_Arten) Befehle_.lies_Liste(Art);
     // The description on the screen may not be saved yet, but it belongs to the simulation on the screen alone.
@@ -82,7 +83,7 @@ void Organiser::lies_Simulation_in_Maske(int Position) {
 void Organiser::waehle_Simulation(int Position) {
     lies_Simulation_in_Maske(Position);
     gewaehlt_.fill(true);
-    z_.Felder().Beschreibung = Projektname_;
+    fremde_Beschreibung_ = Projektname_;
 }
 
 void Organiser::waehle(Satzart Art, int Position) {
@@ -169,15 +170,8 @@ void Organiser::ziehe_Hauptformular_nach(Satzart Art, const std::string& alt, co
 
 // The file of what the main screen shows is gone: a save from there must not bring it back under a name that is taken by now.
 void Organiser::entwerte_im_Hauptformular(Satzart Art, const std::string& Grund) {
-    sichere({Art});
+    Waechter_.sichere_Ungesichertes({Art});
     z_.Saetze[Art].verwirf(Grund);
-}
-
-// The description of another simulation may stand on the main screen by now.
-void Organiser::sichere(const std::vector<Satzart>& Arten) {
-    std::string andere = std::exchange(z_.Felder().Beschreibung, alte_Beschreibung_);
-    Waechter_.sichere_Ungesichertes(Arten);
-    z_.Felder().Beschreibung = std::move(andere);
 }
 
 std::string Organiser::Einwand_gegen_Bearbeiten() const {
@@ -252,7 +246,7 @@ bool Organiser::uebernimm() {
     pruefe_Dateien();
     const std::vector<Satzart> Arten = zu_lesende();
     z_.Statuszeile.vergiss_Frueheres();
-    sichere(Arten);
+    Waechter_.sichere_Ungesichertes(Arten);
     if (!uebergib()) return false;
     z_.Saetze[Simulation].vergiss_Aenderung();
     Lauf_ = Lauf;
@@ -285,9 +279,10 @@ bool Organiser::uebergib() {
     return geschrieben;
 }
 
-void Organiser::verwirf() { z_.Felder().Beschreibung = alte_Beschreibung_; }
+void Organiser::verwirf() { fremde_Beschreibung_.reset(); }
 
 void Organiser::schliesse_ab() {
+    fremde_Beschreibung_.reset();
     if (!std::exchange(Lauf_, false)) return;
     Saetze_.lies_nach();
 }

@@ -103,6 +103,10 @@ bool Szenarioeditor::oeffne() {
     return !z_.beendet();
 }
 
+std::string Szenarioeditor::gezeigter_Satz() const {
+    return z_.Saetze[varnok::Szenario].gelesen() ? z_.Namen[varnok::Szenario] : z_.gewaehlt(varnok::Szenario);
+}
+
 void Szenarioeditor::fuelle_Listen() {
     for (int t = 0; t <= hoechste_Temperatur; ++t) e_.Temperaturen.push_back(std::to_string(t));
     e_.Temperatur = z_.Parameter().Szenariotemperatur;
@@ -114,7 +118,7 @@ void Szenarioeditor::fuelle_Listen() {
     e_.Klimadateien = z_.Ordner->Namen(Klima_Endung);
     e_.Szenarien = z_.Ordner->Namen(Endungen[varnok::Szenario]);
     // The values on the screen are those of their record, also when another program has deleted its file.
-    const std::string Name = z_.gewaehlt(varnok::Szenario);
+    const std::string Name = gezeigter_Satz();
     const bool fehlt = std::find(e_.Szenarien.begin(), e_.Szenarien.end(), Name) == e_.Szenarien.end();
     if (fehlt && !Name.empty()) e_.Szenarien.push_back(Name);
     e_.Szenario = Platz(e_.Szenarien, Name);
@@ -244,7 +248,7 @@ void Szenarioeditor::uebernimm_Namen() {
         geaendert_ = true;
     }
     const std::string Name = Eintrag(e_.Szenarien, e_.Szenario);
-    if (Name == z_.gewaehlt(varnok::Szenario)) return;
+    if (Name == gezeigter_Satz()) return;
     z_.Listen[varnok::Szenario] = z_.Ordner->Namen(Endungen[varnok::Szenario]);
     z_.Namen[varnok::Szenario] = Name;
     z_.Saetze[Simulation].merke_Aenderung();

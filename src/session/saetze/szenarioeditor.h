@@ -80,6 +80,8 @@ public:
     void schliesse();
 
 private:
+    // Of whose record the values on the screen are.
+    std::string gezeigter_Satz() const;
     void fuelle_Listen();
     void zeige_Werte();
     bool uebernimm_Wert(double neu, double& Parameter);

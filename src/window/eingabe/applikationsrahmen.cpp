@@ -136,6 +136,7 @@ void Applikationsrahmen::verbinde() {
     connect(Fruchtwechsel_, &QComboBox::activated, this,
             [this](int r) { befiehl<&Listenwahl::waehle_Fruchtwechsel>(static_cast<Fruchtfolge>(r)); });
     connect(Schema_, &Applikationsschema::getippt, this, &Rahmen::getippt);
+    connect(Schema_, &Applikationsschema::eingefuegt, this, &Rahmen::gehandelt);
     connect(Schema_, &Applikationsschema::verlassen, this, [this] { befiehl<&Applikationstabelle::schliesse_ab>(); });
     connect(Schema_, &Applikationsschema::bestaetigt, this, [this] { befiehl<&Applikationstabelle::bestaetige>(); });
 }

@@ -114,6 +114,13 @@ void Applikationsschema::waehle_Zelle(Zelle z) {
 
 Zelle Applikationsschema::aktuelle_Zelle() const { return {currentRow(), currentColumn()}; }
 
+void Applikationsschema::fuege_ein() {
+    const Zelle z = aktuelle_Zelle();
+    if (z.Zeile < 0 || z.Spalte < 0) return;
+    Programm_.fuehre_aus<&Applikationstabelle::fuege_ein>(z, aus_Qt(QApplication::clipboard()->text()));
+    Q_EMIT eingefuegt();
+}
+
 bool Applikationsschema::bearbeite(const QKeyEvent& e) {
     const Zelle z = aktuelle_Zelle();
     if (z.Zeile < 0 || z.Spalte < 0) return false;
@@ -123,9 +130,6 @@ bool Applikationsschema::bearbeite(const QKeyEvent& e) {
         Programm_.fuehre_aus<&Applikationstabelle::nimm_letztes>(z);
     } else if (e.key() == Qt::Key_Delete) {
         Programm_.fuehre_aus<&Applikationstabelle::leere>(z);
-    } else if (e.matches(QKeySequence::Paste)) {
-        Programm_.fuehre_aus<&Applikationstabelle::fuege_ein>(z, aus_Qt(QApplication::clipboard()->text()));
-        zeige();
     } else {
         return false;
     }
@@ -138,6 +142,8 @@ void Applikationsschema::keyPressEvent(QKeyEvent* e) {
         Q_EMIT bestaetigt();
     } else if (e->matches(QKeySequence::Copy)) {
         kopiere_Zellen(*this);
+    } else if (e->matches(QKeySequence::Paste)) {
+        fuege_ein();
     } else if (bearbeite(*e)) {
         Q_EMIT getippt();
     } else {

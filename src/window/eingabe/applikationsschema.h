@@ -17,6 +17,7 @@ public:
 
 Q_SIGNALS:
     void getippt();
+    void eingefuegt();
     void bestaetigt();
     // The cell that was typed into is no more the current one, or the table no more in focus.
     void verlassen();
@@ -28,6 +29,7 @@ protected:
 private:
     void zeige_Zelle(Zelle z);
     Zelle aktuelle_Zelle() const;
+    void fuege_ein();
     // Shows what the key has changed; false where it is none of the table's.
     bool bearbeite(const QKeyEvent& e);
     void verlasse_Zelle();

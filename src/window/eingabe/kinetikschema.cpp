@@ -83,8 +83,7 @@ void Kinetikschema::zeige_Studien() {
     const Studienverwaltung& Studien = Programm_.zeige<Studienverwaltung>();
     Studie_->zeige(Felder().Studie, Stand().i_studie());
     Addiere_Studie_->setEnabled(Studien.darf_addieren());
-    if (Studien.Name_offen() && !Studienname_->isVisible()) Studienname_->oeffne(in_Qt(Studien.Vorschlag()));
-    if (!Studien.Name_offen() && Studienname_->isVisible()) Studienname_->schliesse();
+    Studienname_->zeige(Studien.Name_offen(), in_Qt(Studien.Vorschlag()));
     // The fields still hold the values of the study before.
     Kinetikfelder_->setEnabled(!(Studien.Name_offen() && Studien.neu()));
 }

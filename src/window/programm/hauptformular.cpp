@@ -199,6 +199,7 @@ void Hauptformular::sichere_Zwischenstand() {
 void Hauptformular::zeige_Getipptes() {
     Schalter_->zeige_Hinweis();
     Ergebnisse_->zeige_Abdeckung();
+    Menue_->zeige();
     zeige_Titel();
 }
 

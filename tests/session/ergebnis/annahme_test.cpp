@@ -223,7 +223,7 @@ TEST_F(Annahme, an_open_report_closes_when_a_name_in_it_is_another) {
     EXPECT_EQ(s_->zeige<Berichtssteuerung>().offener(), nullptr);
     s_->fuehre_aus<&Berichtssteuerung::erstelle>();
     ASSERT_NE(s_->zeige<Berichtssteuerung>().offener(), nullptr);
-    EXPECT_TRUE(s_->fuehre_aus<&Satzverwaltung::benenne_um>(Applikation, "Third", true));
+    EXPECT_TRUE(benenne_um(*s_, Applikation, "Third", true));
     EXPECT_EQ(s_->zeige<Berichtssteuerung>().offener(), nullptr);
 }
 
@@ -309,7 +309,7 @@ TEST_F(Hinter_der_Meldung, bleiben_gueltige_Ergebnisse_zu_sehen) {
     starte();
     bool abgedeckt = true;
     Zuschauer_.bei_Frage = [&] { abgedeckt = z().abgedeckt(); };
-    EXPECT_FALSE(s_->fuehre_aus<&Satzverwaltung::benenne_um>(Szenario, "a/b", false));
+    EXPECT_FALSE(benenne_um(*s_, Szenario, "a/b", false));
     ASSERT_EQ(Zuschauer_.Gesehenes.size(), 1U);
     EXPECT_FALSE(abgedeckt);
 }

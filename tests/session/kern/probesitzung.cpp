@@ -73,4 +73,12 @@ float Probesitzung::Maximum(int i_studie, int i_substanz) const {
     return Werte(i_studie).Werte(Gesamtgehalt, i_substanz).Maximum_Bodentiefe;
 }
 
+bool benenne_um(Sitzung& s, Satzart Art, const std::string& Name, bool Enter) {
+    s.fuehre_aus<&Satzumbenennung::beginne>(Art);
+    s.fuehre_aus<&Satzumbenennung::aendere>(Name);
+    const bool fertig = s.fuehre_aus<&Satzumbenennung::bestaetige>(Enter);
+    s.fuehre_aus<&Satzumbenennung::nimm_zurueck>();
+    return fertig;
+}
+
 }  // namespace varnok

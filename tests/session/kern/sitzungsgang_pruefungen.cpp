@@ -67,7 +67,7 @@ void Gang::pruefe_Dateien(const Vorher& v) {
 // What a run makes of a table: other texts for its numbers, and less than 100 % of interception.
 std::string Gang::repariert(Eingabe e) const {
     Tabelle_mit_Applikationen_berechne_PEC(e);
-    return Satz_als_Bytes(Applikation, e, z().Sicht, z().Welt.Dezimalzeichen);
+    return Satz_als_Bytes(Applikation, e, {}, z().Welt.Dezimalzeichen);
 }
 
 // Values that no file held and that the screen does not show any more.
@@ -77,10 +77,11 @@ void Gang::pruefe_Verworfenes(const Aktionsart& a, const Vorher& v, const Dateie
     const bool andere_Simulation = z().beendet() || std::string(a.Name) == "simulation";
     for (const Satzart Art : alle_Arten) {
         const std::string& Bild = v.Bilder[Art];
-        if (!v.Saetze[Art].gelesen() || Bild.empty() || Bild == v.Saetze[Art].gespeichert()) continue;
+        if (!v.Saetze[Art].gelesen() || Bild.empty() || v.Eingaben[Art] == v.Saetze[Art].gespeichert()) continue;
         if (Art == Simulation && !andere_Simulation) continue;
         const std::string jetzt = z().Speicherbild(Art);
-        if (!z().beendet() && (jetzt == Bild || (Art == Applikation && gleiche_Zahlen(jetzt, repariert(v.Vorgabe))))) continue;
+        if (!z().beendet() && (jetzt == v.Eingaben[Art] || (Art == Applikation && gleiche_Zahlen(jetzt, repariert(v.Vorgabe)))))
+            continue;
         const bool Datei = std::any_of(nachher.begin(), nachher.end(), [&](const auto& d) { return d.second == Bild; });
         if (Datei || Projekt_.gesichert(Bild)) continue;
         // The command that led to the end chose another record before: that combination is what was unsaved.
@@ -90,7 +91,7 @@ void Gang::pruefe_Verworfenes(const Aktionsart& a, const Vorher& v, const Dateie
         if (Name.starts_with("editor") && z().Saetze[Art].gelesen() && z().Saetze[Art].Datei().Name == v.Saetze[Art].Datei().Name)
             continue;
         throw Verstoss{"unsaved values are dropped",
-                       Satzdatei(v.Saetze[Art].Datei().Name, Art) + ": " + Unterschied(Bild, jetzt)};
+                       Satzdatei(v.Saetze[Art].Datei().Name, Art) + ": " + Unterschied(v.Eingaben[Art], jetzt)};
     }
 }
 
@@ -273,8 +274,8 @@ void Gang::pruefe_Verlauf(const Aktionsart& a, const Vorher& v) {
     if ((a.Merkmale & immer) != 0) Zelle_in_Arbeit_ = false;
     if ((a.Merkmale & (Befehl | Handlung | fremd)) == 0 && v.Vorgabe.Applikationsschema != z().Vorgabe.Applikationsschema)
         Zelle_in_Arbeit_ = true;
-    // A record was read, perhaps: where the history stands now is known once nothing is in work.
-    if ((a.Merkmale & (liest | Pruefung)) != 0) letzter_Stand_.reset();
+    // The action went through the history itself: where that stands now is known once nothing is in work.
+    if (im_Verlauf_bewegt_) letzter_Stand_.reset();
     // A cell in work is no step before a command; one that did nothing may not have ended an action.
     const bool abgeschlossen = (a.Merkmale & (Befehl | Handlung)) != 0 && !(v.Vorgabe == z().Vorgabe);
     if (letzter_Stand_ && *letzter_Stand_ == z().Vorgabe && !offen) {
@@ -292,7 +293,8 @@ void Gang::pruefe_Verlauf(const Aktionsart& a, const Vorher& v) {
         return;
     }
     const Eingabe jetzt = z().Vorgabe;
-    const int hoechstens = 1 + 2 * ausstehend_ + (v.etwas_in_Arbeit ? 2 : 0);
+    constexpr int viele = 50;  // of an action of several commands
+    const int hoechstens = (a.Merkmale & (liest | Pruefung)) != 0 ? viele : 1 + 2 * ausstehend_ + (v.etwas_in_Arbeit ? 2 : 0);
     int n = 0;
     Fragen_.beginne();
     while (n < hoechstens && !(z().Vorgabe == *letzter_Stand_) && !s_->zeige<Ruecknahme>().Name_zurueck().empty()) {

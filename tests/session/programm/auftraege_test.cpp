@@ -3,6 +3,7 @@
 
 #include <cstdlib>
 
+#include "session/kern/probesitzung.h"
 #include "session/kern/sitzung.h"
 #include "support/drehbuch.h"
 
@@ -57,8 +58,8 @@ TEST_F(Auftrag, Ein_Tag) {
     for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) s_->fuehre_aus<&Satzverwaltung::kopiere>(Art);
     s_->fuehre_aus<&Satzverwaltung::speichere>();
     s_->fuehre_aus<&Satzverwaltung::lege_an>(Szenario);
-    s_->fuehre_aus<&Satzverwaltung::benenne_um>(Szenario, "../../outside", false);
-    s_->fuehre_aus<&Satzverwaltung::benenne_um>(Szenario, "renamed", false);
+    benenne_um(*s_, Szenario, "../../outside", false);
+    benenne_um(*s_, Szenario, "renamed", false);
     s_->fuehre_aus<&Satzverwaltung::loesche>(Szenario);
     s_->fuehre_aus<&Satzverwaltung::aktualisiere>();
     stelle_wieder_her();
@@ -82,7 +83,7 @@ TEST_F(Auftrag, Ohne_Ende) {
         s_->fuehre_aus<&Satzverwaltung::speichere>();
         s_->fuehre_aus<&Berichtssteuerung::erstelle>();
         s_->fuehre_aus<&Satzverwaltung::kopiere>(Szenario);
-        s_->fuehre_aus<&Satzverwaltung::benenne_um>(Szenario, "work " + std::to_string(Zahl_ % 3), true);
+        benenne_um(*s_, Szenario, "work " + std::to_string(Zahl_ % 3), true);
         s_->fuehre_aus<&Satzverwaltung::loesche>(Szenario);
         stelle_wieder_her();
         // No record but those of this simulation is ever saved.

@@ -79,7 +79,7 @@ TEST_F(Nur_lesen, each_command_on_files_answers_with_one_message) {
                               +[](Sitzung& s) { s.fuehre_aus<&Satzverwaltung::lege_an>(Szenario); },
                               +[](Sitzung& s) { s.fuehre_aus<&Satzverwaltung::kopiere>(Szenario); },
                               +[](Sitzung& s) { s.fuehre_aus<&Satzverwaltung::loesche>(Szenario); },
-                              +[](Sitzung& s) { s.fuehre_aus<&Satzverwaltung::benenne_um>(Szenario, "New name", true); },
+                              +[](Sitzung& s) { benenne_um(s, Szenario, "New name", true); },
                               +[](Sitzung& s) { s.fuehre_aus<&Satzverwaltung::lade_Voreinstellungen>(); }}) {
         erwarte_eine_Meldung();
         Befehl(*s_);

@@ -91,7 +91,7 @@ TEST_F(Start, with_a_missing_record_and_others_to_choose_is_covered_and_says_whi
 
 TEST_F(Start, after_a_rename_and_the_close_box_works_and_says_what_it_misses) {
     gestartet();
-    ASSERT_TRUE(s_->fuehre_aus<&Satzverwaltung::benenne_um>(Wirkstoff, "Renamed", true));
+    ASSERT_TRUE(benenne_um(*s_, Wirkstoff, "Renamed", true));
     ASSERT_TRUE(s_->fuehre_aus<&Programmablauf::schliesse_Fenster>());
     EXPECT_TRUE(gibt_es("backup"));  // the combination that no file holds
     gestartet();

@@ -48,13 +48,13 @@ const std::vector<Befehl> Befehle = {
      }},
     {"deletion_with_unsaved_values", tippe_Namen, [](Sitzung& s, Drehbuch& d) { loesche(s, d, Wirkstoff); }},
     {"deletion_of_a_simulation", nichts, [](Sitzung& s, Drehbuch& d) { loesche(s, d, Simulation); }},
-    {"rename", nichts, [](Sitzung& s, Drehbuch&) { s.fuehre_aus<&Satzverwaltung::benenne_um>(Szenario, "Other", true); }},
+    {"rename", nichts, [](Sitzung& s, Drehbuch&) { benenne_um(s, Szenario, "Other", true); }},
     {"rename_to_another_case", nichts,
-     [](Sitzung& s, Drehbuch&) { s.fuehre_aus<&Satzverwaltung::benenne_um>(Szenario, "PROBE", true); }},
+     [](Sitzung& s, Drehbuch&) { benenne_um(s, Szenario, "PROBE", true); }},
     {"rename_over_a_record_in_another_case", nichts,
      [](Sitzung& s, Drehbuch& d) {
          erwarte_Ja(d, "Replace existing record?");
-         s.fuehre_aus<&Satzverwaltung::benenne_um>(Szenario, "SECOND", true);
+         benenne_um(s, Szenario, "SECOND", true);
      }},
     {"save", tippe_Namen, [](Sitzung& s, Drehbuch&) { s.fuehre_aus<&Satzverwaltung::speichere>(); }, true},
     {"choice_with_yes", tippe_Namen,

@@ -63,7 +63,7 @@ TEST_F(Fremdes, a_copy_of_a_changed_record_is_theirs_and_is_not_saved_over_unask
 TEST_F(Fremdes, a_changed_record_that_got_another_name_is_not_saved_over_unasked) {
     gestartet();
     aendere_von_aussen("Probe.che");
-    s_->fuehre_aus<&Satzverwaltung::benenne_um>(Wirkstoff, "Renamed", true);
+    benenne_um(*s_, Wirkstoff, "Renamed", true);
     EXPECT_TRUE(Status_nennt("\"Probe.che\" was changed by another program"));
     erwarte_Ersatzfrage("Renamed.che", Knopf::Nein);
     s_->fuehre_aus<&Satzverwaltung::speichere>();

@@ -39,7 +39,7 @@ TEST_F(Organiserdateien, a_copied_simulation_is_read_into_the_dialog) {
     kopiere(Simulation);
     EXPECT_EQ(gewaehlt(Simulation), "copy of Second");
     EXPECT_EQ(o().Projektname(), "The second one");
-    EXPECT_EQ(Maske().Beschreibung, "The second one");
+    EXPECT_EQ(s_->zeige<Organiser>().gezeigte_Beschreibung(), "The second one");
     EXPECT_EQ(gewaehlt(Wirkstoff), "Second");
     EXPECT_TRUE(fertig());
     EXPECT_EQ(z().gewaehlt(Simulation), "copy of Second");

@@ -106,7 +106,7 @@ TEST_F(Organisertest, choosing_a_simulation_shows_its_text_and_names_and_reads_n
     oeffne();
     waehle(Simulation, "Second");
     EXPECT_EQ(o().Projektname(), "The second one");
-    EXPECT_EQ(Maske().Beschreibung, "The second one");
+    EXPECT_EQ(s_->zeige<Organiser>().gezeigte_Beschreibung(), "The second one");
     for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) EXPECT_EQ(gewaehlt(Art), "Second");
     EXPECT_EQ(Maske().Name_Wirkstoff, "Parent P");
     EXPECT_EQ(z().gewaehlt(Simulation), "Probe");
@@ -188,7 +188,7 @@ TEST_F(Organisertest, a_simulation_that_cannot_be_read_leaves_the_dialog_as_it_w
     waehle(Simulation, "Torn");
     EXPECT_EQ(gewaehlt(Simulation), "Second");
     EXPECT_EQ(o().Projektname(), "The second one");
-    EXPECT_EQ(Maske().Beschreibung, "The second one");
+    EXPECT_EQ(s_->zeige<Organiser>().gezeigte_Beschreibung(), "The second one");
 }
 
 TEST_F(Organisertest, opening_and_done_leave_another_combination_on_the_screen_alone) {

@@ -198,7 +198,7 @@ TEST_F(Befehlsprobe, a_record_gets_another_name_and_nothing_is_read) {
     gestartet();
     tippe("S_DT50_0", "12");
     const std::string Inhalt = Datei("input/Probe.che");
-    EXPECT_TRUE(s_->fuehre_aus<&Satzverwaltung::benenne_um>(Wirkstoff, "Renamed", true));
+    EXPECT_TRUE(benenne_um(*s_, Wirkstoff, "Renamed", true));
     EXPECT_FALSE(gibt_es("input/Probe.che"));
     EXPECT_EQ(Datei("input/Renamed.che"), Inhalt);
     EXPECT_EQ(s_->zeige<Feldeingabe>().Text(Feld("S_DT50_0")), "12");
@@ -211,23 +211,23 @@ TEST_F(Befehlsprobe, a_record_gets_another_name_and_nothing_is_read) {
 
 TEST_F(Befehlsprobe, a_typed_extension_of_the_kind_is_not_added_twice_and_another_one_stays) {
     gestartet();
-    s_->fuehre_aus<&Satzverwaltung::benenne_um>(Wirkstoff, "abc.che", true);
+    benenne_um(*s_, Wirkstoff, "abc.che", true);
     EXPECT_TRUE(gibt_es("input/abc.che"));
-    s_->fuehre_aus<&Satzverwaltung::benenne_um>(Wirkstoff, "abc.app", true);
+    benenne_um(*s_, Wirkstoff, "abc.app", true);
     EXPECT_TRUE(gibt_es("input/abc.app.che"));
 }
 
 TEST_F(Befehlsprobe, a_name_of_three_characters_is_taken_as_it_stands) {
     gestartet();
-    s_->fuehre_aus<&Satzverwaltung::benenne_um>(Wirkstoff, "che", true);
+    benenne_um(*s_, Wirkstoff, "che", true);
     EXPECT_TRUE(gibt_es("input/che.che"));
 }
 
 TEST_F(Befehlsprobe, an_unchanged_name_asks_nothing_and_a_change_of_case_only_renames) {
     gestartet();
-    EXPECT_TRUE(s_->fuehre_aus<&Satzverwaltung::benenne_um>(Wirkstoff, "Probe", true));
+    EXPECT_TRUE(benenne_um(*s_, Wirkstoff, "Probe", true));
     EXPECT_FALSE(z().Saetze[0].Geaendert());
-    EXPECT_TRUE(s_->fuehre_aus<&Satzverwaltung::benenne_um>(Wirkstoff, "PROBE", true));
+    EXPECT_TRUE(benenne_um(*s_, Wirkstoff, "PROBE", true));
     EXPECT_TRUE(gibt_es("input/PROBE.che"));
     EXPECT_FALSE(gibt_es("input/Probe.che"));
     erwarte_Gleichstand(Wirkstoff);
@@ -237,7 +237,7 @@ TEST_F(Befehlsprobe, a_taken_name_is_replaced_after_a_yes_and_kept_in_backup) {
     gestartet();
     const std::string Inhalt = Datei("input/Probe.sce");
     Fragen_.erwarte("Replace existing record?", "The record ' Second ' already exists. Do you want to replace it?", Knopf::Ja);
-    EXPECT_TRUE(s_->fuehre_aus<&Satzverwaltung::benenne_um>(Szenario, "Second", true));
+    EXPECT_TRUE(benenne_um(*s_, Szenario, "Second", true));
     EXPECT_EQ(Datei("input/Second.sce"), Inhalt);
     EXPECT_EQ(z().Listen[Szenario], Namen{"Second"});
     EXPECT_EQ(gesichert(), Namen{"Second.sce"});
@@ -246,10 +246,10 @@ TEST_F(Befehlsprobe, a_taken_name_is_replaced_after_a_yes_and_kept_in_backup) {
 TEST_F(Befehlsprobe, a_name_that_differs_only_in_case_from_another_record_is_told_as_existing) {
     gestartet();
     Fragen_.erwarte("Replace existing record?", "The record ' SECOND ' already exists. Do you want to replace it?", Knopf::Nein);
-    EXPECT_FALSE(s_->fuehre_aus<&Satzverwaltung::benenne_um>(Szenario, "SECOND", true));
+    EXPECT_FALSE(benenne_um(*s_, Szenario, "SECOND", true));
     EXPECT_EQ(z().gewaehlt(Szenario), "Probe");
     Fragen_.erwarte("Replace existing record?", "The record ' SECOND ' already exists. Do you want to replace it?", Knopf::Ja);
-    EXPECT_TRUE(s_->fuehre_aus<&Satzverwaltung::benenne_um>(Szenario, "SECOND", true));
+    EXPECT_TRUE(benenne_um(*s_, Szenario, "SECOND", true));
     EXPECT_EQ(z().Listen[Szenario], Namen{"SECOND"});
     erwarte_Gleichstand(Szenario);
 }
@@ -257,7 +257,7 @@ TEST_F(Befehlsprobe, a_name_that_differs_only_in_case_from_another_record_is_tol
 TEST_F(Befehlsprobe, a_taken_name_is_a_fault_where_the_box_was_only_left) {
     gestartet();
     Fragen_.erwarte("Runtime error", "The record \"Second\" already exists. \"Probe\" keeps its name.");
-    EXPECT_FALSE(s_->fuehre_aus<&Satzverwaltung::benenne_um>(Szenario, "Second", false));
+    EXPECT_FALSE(benenne_um(*s_, Szenario, "Second", false));
     EXPECT_EQ(z().gewaehlt(Szenario), "Probe");
     EXPECT_TRUE(gibt_es("input/Probe.sce"));
     EXPECT_FALSE(z().abgedeckt());
@@ -267,7 +267,7 @@ TEST_F(Befehlsprobe, a_rename_names_the_simulations_that_lose_their_record) {
     schreibe_Simulation(Projektordner(Wurzel_.string()), "Third", {"", {"", "Probe", "Second", "Second"}});
     std::filesystem::last_write_time(Wurzel_ / "input/Third.vnk", std::filesystem::last_write_time(Wurzel_ / "input/Second.vnk"));
     gestartet();
-    s_->fuehre_aus<&Satzverwaltung::benenne_um>(Wirkstoff, "Renamed", true);
+    benenne_um(*s_, Wirkstoff, "Renamed", true);
     EXPECT_EQ(z().Statuszeile.Text(), "Simulations that still name \"Probe\": \"Third\"");
 }
 
@@ -281,7 +281,7 @@ TEST_P(Unnamen, are_refused_before_a_file_is_touched) {
     gestartet();
     const Namen vorher = auf_Platte(Wirkstoff);
     Fragen_.erwarte_Anfang("Runtime error", "\"" + GetParam().Name + "\" cannot be the name of a record: ");
-    EXPECT_FALSE(s_->fuehre_aus<&Satzverwaltung::benenne_um>(Wirkstoff, GetParam().Name, true));
+    EXPECT_FALSE(benenne_um(*s_, Wirkstoff, GetParam().Name, true));
     EXPECT_EQ(auf_Platte(Wirkstoff), vorher);
     EXPECT_EQ(z().gewaehlt(Wirkstoff), "Probe");
     EXPECT_FALSE(z().Saetze[0].Geaendert());

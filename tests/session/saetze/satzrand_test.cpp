@@ -78,13 +78,13 @@ INSTANTIATE_TEST_SUITE_P(Commands, OhneSchreibrecht,
                                            Befehl{"rename",
                                                   [](Sitzung& s, Drehbuch& d) {
                                                       erwarte_Fehler(d, "rename");
-                                                      s.fuehre_aus<&Satzverwaltung::benenne_um>(Wirkstoff, "x", true);
+                                                      benenne_um(s, Wirkstoff, "x", true);
                                                   }},
                                            Befehl{"rename_over_a_record",
                                                   [](Sitzung& s, Drehbuch& d) {
                                                       d.erwarte_Anfang("Replace existing record?", "", Knopf::Ja);
                                                       erwarte_Fehler(d, "rename");
-                                                      s.fuehre_aus<&Satzverwaltung::benenne_um>(Wirkstoff, "Second", true);
+                                                      benenne_um(s, Wirkstoff, "Second", true);
                                                   }},
                                            Befehl{"save",
                                                   [](Sitzung& s, Drehbuch& d) {
@@ -152,7 +152,7 @@ TEST_F(Satzrand, a_copy_over_a_file_in_another_case_selects_the_entry_that_is_th
 
 TEST_F(Satzrand, a_copy_whose_name_grows_too_long_is_refused) {
     gestartet();
-    ASSERT_TRUE(s_->fuehre_aus<&Satzverwaltung::benenne_um>(Szenario, std::string(235, 'x'), true));
+    ASSERT_TRUE(benenne_um(*s_, Szenario, std::string(235, 'x'), true));
     Fragen_.erwarte_Anfang("Runtime error", "\"copy of xxx");
     s_->fuehre_aus<&Satzverwaltung::kopiere>(Szenario);
     EXPECT_EQ(z().gewaehlt(Szenario), std::string(235, 'x'));
@@ -161,7 +161,7 @@ TEST_F(Satzrand, a_copy_whose_name_grows_too_long_is_refused) {
 
 TEST_F(Satzrand, a_name_of_the_longest_kind_can_be_left_with_unsaved_values) {
     gestartet();
-    ASSERT_TRUE(s_->fuehre_aus<&Satzverwaltung::benenne_um>(Wirkstoff, std::string(240, 'x'), true));
+    ASSERT_TRUE(benenne_um(*s_, Wirkstoff, std::string(240, 'x'), true));
     tippe("S_DT50_0", "12");
     s_->fuehre_aus<&Satzverwaltung::waehle_Simulation>(1);
     EXPECT_EQ(z().gewaehlt(Wirkstoff), "Second");
@@ -170,9 +170,9 @@ TEST_F(Satzrand, a_name_of_the_longest_kind_can_be_left_with_unsaved_values) {
 
 TEST_F(Satzrand, unchanged_text_stays_also_where_the_name_ends_like_an_extension) {
     gestartet();
-    ASSERT_TRUE(s_->fuehre_aus<&Satzverwaltung::benenne_um>(Szenario, "field.sce.sce", true));
+    ASSERT_TRUE(benenne_um(*s_, Szenario, "field.sce.sce", true));
     EXPECT_EQ(z().gewaehlt(Szenario), "field.sce");
-    EXPECT_TRUE(s_->fuehre_aus<&Satzverwaltung::benenne_um>(Szenario, "field.sce", true));
+    EXPECT_TRUE(benenne_um(*s_, Szenario, "field.sce", true));
     EXPECT_EQ(z().gewaehlt(Szenario), "field.sce");
 }
 

@@ -217,7 +217,7 @@ std::string Versagende_Platte_im_Gang::handle_mit_Dateien() {
             break;
     }
     constexpr std::array Namen = {"alpha", "beta", "gamma", "delta", "epsilon", "zeta"};
-    s_->fuehre_aus<&Satzverwaltung::benenne_um>(t, Namen.at(static_cast<std::size_t>(ganze_Zahl(6))), ganze_Zahl(3) > 0);
+    benenne_um(*s_, t, Namen.at(static_cast<std::size_t>(ganze_Zahl(6))), ganze_Zahl(3) > 0);
     return "rename";
 }
 

@@ -165,7 +165,7 @@ std::string Zufallsgang::handle_mit_Dateien(int Wahl) {
     constexpr std::array<const char*, 6> Namen = {"alpha", "beta", "gamma", "delta", "epsilon", "zeta"};
     const std::string Name = Namen[static_cast<std::size_t>(ganze_Zahl(6))];
     const bool Enter = ganze_Zahl(3) > 0;
-    s_->fuehre_aus<&Satzverwaltung::benenne_um>(t, Name + (ganze_Zahl(2) == 0 ? Endungen[t] : ""), Enter);
+    benenne_um(*s_, t, Name + (ganze_Zahl(2) == 0 ? Endungen[t] : ""), Enter);
     m_.benenne_um(t, Name, Enter);
     return "rename";
 }
