@@ -181,7 +181,8 @@ private Q_SLOTS:
         QCOMPARE(aus_Qt(Text), Stand().Statuszeile.Zeit() + " " + Stand().Statuszeile.Text());
         p_->tippe("S_DT50_0", "17");
         p_->druecke("S_DT50_0", Qt::Key_Tab);
-        QCOMPARE(p_->Teil<QLabel>("Statuszeile")->text(), QString());
+        QCOMPARE(Stand().Statuszeile.Text(), std::string());
+        QCOMPARE(p_->Teil<QLabel>("Statuszeile")->text(), QApplication::focusWidget()->statusTip());
     }
 
     void a_report_carries_the_names_of_the_moment_data() {
