@@ -119,9 +119,9 @@ void haenge_an(JSON& Objekt, const Simulationsergebnis& r) {
     for (const Bemerkung& b : r.Bemerkungen) Bemerkungen.push_back(als_Objekt(b));
     Objekt.update({
         {"description", r.Beschreibung},
-        {"compound_record", r.Dateinamen[1]},
-        {"application_record", r.Dateinamen[2]},
-        {"scenario_record", r.Dateinamen[3]},
+        {"compound_record", r.Dateinamen[Wirkstoff]},
+        {"application_record", r.Dateinamen[Applikation]},
+        {"scenario_record", r.Dateinamen[Szenario]},
         {"Einheit", p.Einheit},
         {"Separate_Rueckstaende", p.Separate_Rueckstaende},
         {"TWA_Zeiten", p.TWA_Zeiten},

@@ -91,8 +91,8 @@ std::string Simulationstext(const Simulationsausgang& a, const Schreibumfang& u)
     std::string Text = "Simulation:  " + druckbar(r.Name) + "\n";
     if (a.Herkunft) Text += "Variant:     " + Variantentext(*a.Herkunft, u.Variantennamen) + "\n";
     if (!r.Beschreibung.empty()) Text += "Description: " + druckbar(r.Beschreibung) + "\n";
-    Text += "Records:     compound \"" + druckbar(r.Dateinamen[1]) + "\", application pattern \"" + druckbar(r.Dateinamen[2]) +
-            "\", scenario \"" + druckbar(r.Dateinamen[3]) + "\"\n";
+    Text += "Records:     compound \"" + druckbar(r.Dateinamen[Wirkstoff]) + "\", application pattern \"" +
+            druckbar(r.Dateinamen[Applikation]) + "\", scenario \"" + druckbar(r.Dateinamen[Szenario]) + "\"\n";
     for (const Endpunktart e : {Gesamtgehalt, Porenwasser}) Text += Endpunkttabelle(r, e);
     for (const auto& s : r.Studien) {
         for (const std::string& w : s->Warnungen)

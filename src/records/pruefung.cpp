@@ -86,7 +86,7 @@ Befunde Projektpruefer::pruefe_Simulation(const std::string& Name) const {
         std::vector<Bemerkung> Bemerkungen;
         const Simulationssatz Satz = lies_Simulation(Ordner_, Name, &Bemerkungen);
         s.bemerke(Bemerkungen);
-        for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) {
+        for (const Satzart Art : Eingabearten) {
             const std::string& Satzname = Satz.Dateinamen[Art];
             if (!Ordner_.enthaelt(Satzname, Endungen[Art]))
                 s.bemaengle(Art + 1, std::string(Satzart_Namen[Art]) + " record", "there is no record of that name", Satzname);

@@ -260,7 +260,7 @@ INSTANTIATE_TEST_SUITE_P(alle, Satz_Rundgang,
 TEST(Satz_Rundgang_in_Dateien, each_kind_goes_through_the_folder_unchanged) {
     const Probeordner o;
     const Satzprobe p = volle_Probe(3);
-    for (const auto Art : {Wirkstoff, Applikation, Szenario}) {
+    for (const auto Art : Eingabearten) {
         Satz_schreiben(o.Ordner(), "Größe", Art, p.Felder, p.Sicht);
         Satzprobe q;
         EXPECT_EQ(Satz_lesen(o.Ordner(), "Größe", Art, q.Felder, q.Sicht).Ausgang, Leseausgang::gelesen);

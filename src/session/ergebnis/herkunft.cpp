@@ -9,7 +9,7 @@ std::string Herkunft_der_Ergebnisse(const Zustand& z) {
     const std::string ungesichert = "inputs not saved";
     if (z.verschieden(Simulation)) return ungesichert;
     Eingabensumme Summe;
-    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) {
+    for (const Satzart Art : Eingabearten) {
         const Satzplatz& p = z.Saetze[Art];
         const auto Pfad = z.Ordner->finde(p.Datei().Name, Endungen[Art]);
         const auto Bytes = Pfad ? lies_Datei_falls_moeglich(*Pfad) : std::nullopt;

@@ -128,7 +128,7 @@ void Laufsteuerung::melde_Warnungen() {
 }
 
 void Laufsteuerung::melde_fehlenden_Satz() {
-    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) {
+    for (const Satzart Art : Eingabearten) {
         if (z_.Auswahl(Art) < 0) {
             melde(z_, Texte::Satz_nicht_gewaehlt, Texte::Satz_waehlen[Art]);
             return;

@@ -33,7 +33,7 @@ int Ruecknahme::Folge_der_Saetze() const {
 void Ruecknahme::stelle_her(const Eingabe& e) {
     const Unterschied u = vergleiche(z_.Vorgabe, e);
     z_.Vorgabe = e;
-    for (const Satzart Art : {Simulation, Wirkstoff, Applikation, Szenario}) {
+    for (const Satzart Art : alle_Arten) {
         if (u.Arten[Art]) z_.Saetze[Art].merke_Aenderung();
     }
     if (u.i_studie >= 0) z_.Sicht.Studie_Index = u.i_studie;

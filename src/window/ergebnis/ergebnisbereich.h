@@ -25,7 +25,7 @@ public:
     // The diagram in front, for a command; the field in work is accepted first. Null where that is refused, and where
     // there is no diagram to be seen.
     Diagrammflaeche* Flaeche_fuer_Befehl();
-    Diagrammflaeche* Flaeche_vorn() const { return Flaeche_vorn(Seiten_[Felder().Berechnungsmodus]); }
+    Diagrammflaeche* Flaeche_vorn() const { return Flaeche_vorn(Seiten_[Vorgabe().Berechnungsmodus]); }
     // The dialog for the time range of the diagram in front.
     void skaliere();
     // A view was chosen: grids that the user hid come back.

@@ -76,7 +76,7 @@ TEST_F(Zahleneingabe, enter_replaces_the_text_as_leaving_does) {
     s_->fuehre_aus<&Feldeingabe::aendere>(f, "750 g");
     ASSERT_TRUE(s_->fuehre_aus<&Feldeingabe::bestaetige>(f));
     EXPECT_EQ(s_->zeige<Feldeingabe>().Text(f), "750");
-    EXPECT_EQ(s_->Stand().Felder().Applikationsrate.Text(), "750");
+    EXPECT_EQ(s_->Stand().Vorgabe.Applikationsrate.Text(), "750");
     EXPECT_EQ(s_->Stand().Statuszeile.Text(), "Rate: \"750 g\" was read as 750.");
 }
 
@@ -136,7 +136,7 @@ protected:
         for (const char c : Tasten) s_->fuehre_aus<&Applikationstabelle::haenge_an>(z, c);
     }
     const std::string& Text(int Zeile, int Spalte) const {
-        return s_->Stand().Felder().Applikationsschema[static_cast<std::size_t>(Zeile)][static_cast<std::size_t>(Spalte)].Text();
+        return s_->Stand().Vorgabe.Applikationsschema[static_cast<std::size_t>(Zeile)][static_cast<std::size_t>(Spalte)].Text();
     }
     Sitzung& mit_Tabelle() {
         Felder_.Applikationsmuster = unregelmaessig;
@@ -275,14 +275,14 @@ TEST_F(Zahleneingabe, one_application_a_year_from_a_record_is_in_the_list_while_
     Felder_.Applikationsschema.resize(1);
     schreibe_Probe();
     gestartet();
-    EXPECT_EQ(s_->Stand().Felder().Anzahl(), 1);
-    EXPECT_EQ(kleinste_Anzahl(s_->Stand().Felder()), 1);
+    EXPECT_EQ(s_->Stand().Vorgabe.Anzahl(), 1);
+    EXPECT_EQ(kleinste_Anzahl(s_->Stand().Vorgabe), 1);
     EXPECT_EQ(Werte().Anzahl_pro_Jahr, 1);
     s_->fuehre_aus<&Listenwahl::waehle_Anzahl>(2);  // 1, 2, 3
-    EXPECT_EQ(s_->Stand().Felder().Anzahl(), 3);
-    EXPECT_EQ(kleinste_Anzahl(s_->Stand().Felder()), 2);
+    EXPECT_EQ(s_->Stand().Vorgabe.Anzahl(), 3);
+    EXPECT_EQ(kleinste_Anzahl(s_->Stand().Vorgabe), 2);
     s_->fuehre_aus<&Listenwahl::waehle_Anzahl>(0);
-    EXPECT_EQ(s_->Stand().Felder().Anzahl(), 2);
+    EXPECT_EQ(s_->Stand().Vorgabe.Anzahl(), 2);
 }
 
 }  // namespace

@@ -244,7 +244,7 @@ TEST_F(Optionsprobe, with_a_record_missing_stay_covered_without_a_word) {
     std::filesystem::last_write_time(Wurzel_ / "input/Torn.vnk",
                                      std::filesystem::last_write_time(Wurzel_ / "input/Probe.vnk") - std::chrono::hours(1));
     nur_geladen();
-    s_->fuehre_aus<&Programmablauf::starte>();
+    s_->fuehre_aus<&Programmablauf::verlasse_Startseite>();
     s_->fuehre_aus<&Satzverwaltung::waehle_Simulation>(1);
     ASSERT_TRUE(s_->Stand().abgedeckt());
     bestaetige([](Optionsentwurf& o) { o.Einheit = 1; });

@@ -82,7 +82,7 @@ TEST_F(Projektpfad, records_climate_and_backup_stay_with_the_old_project) {
     e.Klimaszenario = "Temperate site";
     std::filesystem::copy(std::filesystem::path(VARNOK_DATENORDNER) / "input/Temperate site.cli", Wurzel_ / "input");
     Satz_schreiben(Projektordner(Wurzel_.string()), "Weather", Szenario, e, Sicht_);
-    nur_geladen().fuehre_aus<&Programmablauf::starte>();
+    nur_geladen().fuehre_aus<&Programmablauf::verlasse_Startseite>();
     waehle_Projekt("new");
     s_->fuehre_aus<&Satzverwaltung::waehle_Satz>(Szenario, 1);
     EXPECT_EQ(s_->Stand().gewaehlt(Szenario), "Weather");

@@ -11,12 +11,12 @@ TEST_F(Szenarioprobe, another_temperature_alone_starts_no_run_and_shows_the_hint
     offen().fuehre_aus<&Szenarioeditor::waehle_Temperatur>(10);
     fertig();
     EXPECT_EQ(p().Szenariotemperatur, 10);
-    EXPECT_EQ(Klimatext(s_->Stand().Felder()),
+    EXPECT_EQ(Klimatext(s_->Stand().Vorgabe),
               "10 \xC2\xB0"
               "C constant");
     EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe);
     EXPECT_TRUE(s_->Stand().Hinweis());
-    EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert());
+    EXPECT_FALSE(s_->Stand().Saetze[Szenario].Geaendert());
 }
 
 TEST_F(Szenarioprobe, a_chosen_climate_file_marks_the_scenario_and_runs) {
@@ -30,8 +30,8 @@ TEST_F(Szenarioprobe, a_chosen_climate_file_marks_the_scenario_and_runs) {
     s.fuehre_aus<&Szenarioeditor::waehle_Klimaszenario>(0);
     fertig();
     EXPECT_EQ(p().Klimamodus, 1);
-    EXPECT_EQ(s_->Stand().Felder().Klimaszenario, "Site A");
-    EXPECT_TRUE(s_->Stand().Saetze[3].Geaendert());
+    EXPECT_EQ(s_->Stand().Vorgabe.Klimaszenario, "Site A");
+    EXPECT_TRUE(s_->Stand().Saetze[Szenario].Geaendert());
     EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe + 1);
 }
 
@@ -40,13 +40,13 @@ TEST_F(Szenarioprobe, a_preselected_climate_file_is_stored_with_the_variable_mod
     gestartet();
     offen();
     fertig();
-    EXPECT_EQ(Klimatext(s_->Stand().Felder()),
+    EXPECT_EQ(Klimatext(s_->Stand().Vorgabe),
               "20 \xC2\xB0"
               "C constant");
     offen().fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(1);
     fertig();
-    EXPECT_EQ(s_->Stand().Felder().Klimaszenario, "Site A");
-    EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert());
+    EXPECT_EQ(s_->Stand().Vorgabe.Klimaszenario, "Site A");
+    EXPECT_FALSE(s_->Stand().Saetze[Szenario].Geaendert());
     EXPECT_TRUE(s_->Stand().Hinweis());
 }
 
@@ -88,7 +88,7 @@ TEST_F(Szenarioprobe, mode_and_temperature_together_still_start_no_run) {
     fertig();
     EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe);
     EXPECT_TRUE(s_->Stand().Hinweis());
-    EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert());
+    EXPECT_FALSE(s_->Stand().Saetze[Szenario].Geaendert());
     EXPECT_FALSE(s_->Stand().abgedeckt());
     s_->fuehre_aus<&Satzverwaltung::aktualisiere>();
     EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe + 1);
@@ -108,7 +108,7 @@ TEST_F(Szenarioprobe, the_temperature_of_a_variable_climate_is_kept_and_makes_no
     s.fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(1);
     fertig();
     EXPECT_EQ(p().Szenariotemperatur, 7);
-    EXPECT_EQ(s_->Stand().Felder().Klimaszenario, "Site A");
+    EXPECT_EQ(s_->Stand().Vorgabe.Klimaszenario, "Site A");
     EXPECT_FALSE(s_->Stand().Hinweis());
 }
 
@@ -140,7 +140,7 @@ TEST_F(Szenarioprobe, the_same_climate_file_chosen_again_changes_nothing) {
     s.fuehre_aus<&Szenarioeditor::waehle_Klimaszenario>(1);
     s.fuehre_aus<&Szenarioeditor::waehle_Klimaszenario>(0);
     fertig();
-    EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert());
+    EXPECT_FALSE(s_->Stand().Saetze[Szenario].Geaendert());
     EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe);
 }
 
@@ -154,10 +154,10 @@ TEST_F(Szenarioprobe, a_climate_file_chosen_and_not_used_changes_nothing) {
     s.fuehre_aus<&Szenarioeditor::waehle_Klimaszenario>(0);
     s.fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(0);
     fertig();
-    EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert());
+    EXPECT_FALSE(s_->Stand().Saetze[Szenario].Geaendert());
     EXPECT_FALSE(s_->Stand().Hinweis());
     EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe);
-    EXPECT_EQ(Klimatext(s_->Stand().Felder()),
+    EXPECT_EQ(Klimatext(s_->Stand().Vorgabe),
               "20 \xC2\xB0"
               "C constant");
 }
@@ -174,7 +174,7 @@ TEST_F(Szenarioprobe, a_climate_file_named_in_another_case_is_the_one_selected_a
     offen();
     EXPECT_EQ(Entwurf().Klima, 0);
     fertig();
-    EXPECT_EQ(s_->Stand().Felder().Klimaszenario, "site a");
+    EXPECT_EQ(s_->Stand().Vorgabe.Klimaszenario, "site a");
     EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe);
 }
 
@@ -188,8 +188,8 @@ TEST_F(Szenarioprobe, done_after_a_missing_climate_file_takes_the_file_on_displa
     offen();
     EXPECT_EQ(Entwurf().Klima, 1);
     fertig();
-    EXPECT_EQ(s_->Stand().Felder().Klimaszenario, "Site B");
-    EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert());  // preselected, not chosen
+    EXPECT_EQ(s_->Stand().Vorgabe.Klimaszenario, "Site B");
+    EXPECT_FALSE(s_->Stand().Saetze[Szenario].Geaendert());  // preselected, not chosen
     EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe + 1);
     EXPECT_FALSE(s_->Stand().abgedeckt());
 }
@@ -204,7 +204,7 @@ TEST_F(Szenarioprobe, cancel_after_a_missing_climate_file_does_not_repeat_the_ru
     EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe);
     EXPECT_TRUE(s_->Stand().abgedeckt());
     EXPECT_FALSE(s_->zeige<Laufsteuerung>().Klimadatei_fehlt());
-    EXPECT_EQ(s_->Stand().Felder().Klimaszenario, "gone");
+    EXPECT_EQ(s_->Stand().Vorgabe.Klimaszenario, "gone");
 }
 
 // Neither a file nor a name to put in its place: no run, and the name is not lost.
@@ -218,7 +218,7 @@ TEST_F(Szenarioprobe, done_without_any_climate_file_keeps_the_name_and_runs_noth
     EXPECT_TRUE(s_->zeige<Szenarioeditor>().darf_variabel());  // back to what the record says
     s_->fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(1);
     fertig();
-    EXPECT_EQ(s_->Stand().Felder().Klimaszenario, "gone");
+    EXPECT_EQ(s_->Stand().Vorgabe.Klimaszenario, "gone");
     EXPECT_TRUE(s_->Stand().abgedeckt());
 }
 
