@@ -147,15 +147,15 @@ void setze_Bildungsanteil(Eingabe& e, Ansicht&, const Ort& o, const Eingabewert&
 }
 
 Eingabewert lies_Klima(const Eingabe& e, const Ansicht&, const Ort&) {
-    return als_Eingabewert(e.Parameter.Klimamodus == 1 ? std::string_view(e.Klimaszenario) : konstantes_Klima);
+    return als_Eingabewert(e.Parameter.Klimamodus == nach_Klimadatei ? std::string_view(e.Klimaszenario) : konstantes_Klima);
 }
 void setze_Klima(Eingabe& e, Ansicht&, const Ort&, const Eingabewert& w) {
     const bool konstant = w.Wort == konstantes_Klima;
-    e.Parameter.Klimamodus = konstant ? 0 : 1;
+    e.Parameter.Klimamodus = konstant ? konstante_Temperatur : nach_Klimadatei;
     e.Klimaszenario = konstant ? std::string() : w.Wort;
 }
 
-template <std::uint8_t Laufparameter::*Feld>
+template <auto Feld>
 Eingabewert lies_Wahl(Wortliste Worte, const Eingabe& e) {
     return Wort(Worte, e.Parameter.*Feld);
 }
@@ -250,7 +250,7 @@ constexpr std::array Tabelle = {
     Parameterwert<&P::Szenariotemperatur>("temperature", "Szenariotemperatur", true),
     Wortwahl("climate", "Klimaszenario", Indexart::keiner, {}, lies_Klima, setze_Klima, vor_anderen),
     Auswahl("scheme", "Berechnungsmodus", 0, 3, "", lies_Schema, setze_Schema, vor_anderen),
-    Auswahl("separate", "Separate_Rueckstaende", 0, 2, "", lies_Parameter<&P::Separate_Rueckstaende>,
+    Auswahl("separate", "Separate_Rueckstaende", gemeinsam, im_Jahr_getrennt, "", lies_Parameter<&P::Separate_Rueckstaende>,
             setze_Parameter<&P::Separate_Rueckstaende>),
     Wortwahl("unit", "Einheit", Indexart::keiner, Masseneinheiten, lies_Einheit, setze_Parameter<&P::Einheit>),
     Wortwahl("twa", "TWA_Zeiten", Indexart::keiner, TWA_Listennamen, lies_TWA, setze_Parameter<&P::TWA_Zeiten>),

@@ -70,7 +70,7 @@ void pruefe_Applikation(Sammler& s, Eingabe e, Ergebnisspeicher& Speicher) {
 
 void pruefe_Szenario(Sammler& s, const Eingabe& e, const Projektordner& Ordner) {
     probiere(s, e, [&] { pruefe_Boden(e.Parameter); });
-    if (e.Parameter.Klimamodus == 1 && !Ordner.finde(e.Klimaszenario, Klima_Endung))
+    if (e.Parameter.Klimamodus == nach_Klimadatei && !Ordner.finde(e.Klimaszenario, Klima_Endung))
         s.bemaengle(*finde_Satzstelle({.Feld = "Klimatext"}, e), "there is no climate file of that name", e.Klimaszenario);
 }
 

@@ -161,16 +161,16 @@ void gehe_durch_Szenario(Satzgang& g, Eingabe& e) {
     g.Zeile("Climatic condition:", {im_Speicher(Text(Klima), "Klimatext")});
     e.Klimaszenario = Klima;
     if (g.folgt_Trennlinie()) {
-        p.Klimamodus = 0;
+        p.Klimamodus = konstante_Temperatur;
         p.Szenariotemperatur = 20;
     } else {
-        g.Zeile("Climate mode:", {ohne_Komma(Ganzzahl(p.Klimamodus, 0, 1))});
+        g.Zeile("Climate mode:", {ohne_Komma(Auswahl(p.Klimamodus, nach_Klimadatei))});
         g.Zeile("Scenario Temperature:",
                 {mit(ohne_Komma(Ganzzahl(p.Szenariotemperatur, 0, Hoechstzahl_Byte)), Grenzen_von("Szenariotemperatur"))});
     }
     g.Schlusszeile();
     // Under constant temperature the line tells the temperature and no climate file.
-    if (p.Klimamodus == 0) e.Klimaszenario.clear();
+    if (p.Klimamodus == konstante_Temperatur) e.Klimaszenario.clear();
 }
 
 void gehe_durch_Applikation(Satzgang& g, Eingabe& e, Ansicht& a) {
@@ -195,7 +195,7 @@ void gehe_durch_Applikation(Satzgang& g, Eingabe& e, Ansicht& a) {
 
 void gehe_durch_Wirkstoffkopf(Satzgang& g, Eingabe& e) {
     g.Ueberschrift("Pesticide data");
-    g.Zeile("Unit:", {Ganzzahl(e.Parameter.Einheit, 0, 1)});
+    g.Zeile("Unit:", {Auswahl(e.Parameter.Einheit, Mikrogramm)});
 }
 
 void gehe_durch_Ausgabename(Satzgang& g, Eingabe& e) {
@@ -210,8 +210,8 @@ void gehe_durch_Ausgabename(Satzgang& g, Eingabe& e) {
 
 void gehe_durch_Wirkstoffdaten(Satzgang& g, Eingabe& e, Ansicht& a, int& Zaehler) {
     Laufparameter& p = e.Parameter;
-    g.Zeile("Separate residues:", {Ganzzahl(p.Separate_Rueckstaende, 0, 2)});
-    g.Zeile("TWA according to EU:", {Ganzzahl(p.TWA_Zeiten, 0, 1)});
+    g.Zeile("Separate residues:", {Auswahl(p.Separate_Rueckstaende, im_Jahr_getrennt)});
+    g.Zeile("TWA according to EU:", {Auswahl(p.TWA_Zeiten, EU_Liste)});
     g.Zeile("Calculation mode:", {Ganzzahl(p.Rechenmodus, 0, Hoechstzahl_Byte)});
     g.Trennlinie();
     g.Ueberschrift("Degradation kinetics Parameters");

@@ -66,7 +66,7 @@ TEST(Satz_schreiben, small_scenario_line_by_line) {
 TEST(Satz_schreiben, climate_line_is_the_temperature_or_the_climate_file) {
     Satzprobe p = volle_Probe();
     EXPECT_EQ(zerlegt(Bytes(Szenario, p))[8], "Climatic condition:\tTemperate site");
-    p.Felder.Parameter.Klimamodus = 0;
+    p.Felder.Parameter.Klimamodus = konstante_Temperatur;
     p.Felder.Parameter.Szenariotemperatur = 7;
     const Satzprobe vorher = p;
     EXPECT_EQ(zerlegt(Bytes(Szenario, p))[8],

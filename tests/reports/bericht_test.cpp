@@ -65,7 +65,7 @@ TEST(Bericht, the_run_is_only_read) {
     EXPECT_EQ(l.Studien, vorher.Studien);
     EXPECT_EQ(*l.Studien[0]->Vorgabe, l.Felder);
     for (int c = 0; c < 2; ++c) {
-        for (int e = 0; e < Endpunkte; ++e) {
+        for (const Endpunktart e : alle_Endpunkte) {
             const Endpunktergebnis& jetzt = l.Studien[0]->Werte(e, c);
             EXPECT_EQ(jetzt.Reihe_Bodentiefe, Werte.Werte(e, c).Reihe_Bodentiefe);
             EXPECT_EQ(jetzt.Reihe_Plateautiefe, Werte.Werte(e, c).Reihe_Plateautiefe);

@@ -16,7 +16,7 @@ std::string Herkunft_der_Ergebnisse(const Zustand& z) {
         if (!p.gelesen() || z.verschieden(Art) || Bytes != p.Datei().Bytes) return ungesichert;
         Summe.nimm_Datei(*Bytes);
     }
-    if (z.Parameter().Klimamodus == 1 && z.Klima.Wert()) Summe.nimm_Datei(*z.Klima.Wert());
+    if (z.Parameter().Klimamodus == nach_Klimadatei && z.Klima.Wert()) Summe.nimm_Datei(*z.Klima.Wert());
     return std::string(Eingabensummenname) + " " + Summe.als_Text();
 }
 

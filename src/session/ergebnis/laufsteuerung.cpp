@@ -29,7 +29,7 @@ bool nur_andere_Dosis(Eingabe alt, const Eingabe& neu, int i_studie) {
 }  // namespace
 
 void Laufsteuerung::sieh_Klima_an() {
-    if (z_.Parameter().Klimamodus != 1 || !z_.Ordner) {
+    if (z_.Parameter().Klimamodus == konstante_Temperatur || !z_.Ordner) {
         z_.Klima = nullptr;
         return;
     }

@@ -49,7 +49,7 @@ void Satzverwaltung::erklaere_fehlend(Satzart Art) {
 }
 
 bool Satzverwaltung::lies_Satz(Satzart Art, const std::string& Satzname) {
-    const int alte_TWA_Zeiten = z_.Parameter().TWA_Zeiten;
+    const TWA_Listenart alte_TWA_Zeiten = z_.Parameter().TWA_Zeiten;
     Lesebefund Befund;
     const std::string Fehler =
         Fehler_bei([&] { Befund = Satz_lesen(*z_.Ordner, Satzname, Art, z_.Vorgabe, z_.Sicht, z_.Welt.Dezimalzeichen); });
@@ -72,13 +72,13 @@ bool Satzverwaltung::lies_Satz(Satzart Art, const std::string& Satzname) {
 }
 
 // What is tied to a record whose values have just come.
-void Satzverwaltung::folge_dem_Satz(Satzart Art, int alte_TWA_Zeiten) {
+void Satzverwaltung::folge_dem_Satz(Satzart Art, TWA_Listenart alte_TWA_Zeiten) {
     if (Art == Wirkstoff) nach_Wirkstoff(alte_TWA_Zeiten);
     if (Art == Applikation) Diagramme_.setze_Bereiche_nach_Ansicht();
     Diagramme_.bringe_nach_vorn(z_.Sicht.Substanz);
 }
 
-void Satzverwaltung::nach_Wirkstoff(int alte_TWA_Zeiten) {
+void Satzverwaltung::nach_Wirkstoff(TWA_Listenart alte_TWA_Zeiten) {
     if (z_.Parameter().TWA_Zeiten != alte_TWA_Zeiten) z_.Sicht.TWA_Laenge = TWA_Vorauswahl(z_.Parameter().TWA_Zeiten);
     // A compound that the scheme does not have cannot stay in view.
     if (z_.Sicht.Substanz >= Anzahl_Stoffe(z_.Vorgabe.Berechnungsmodus)) z_.Sicht.Substanz = 0;

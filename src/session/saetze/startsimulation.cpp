@@ -65,7 +65,7 @@ bool Satzverwaltung::lade_Zwischenstand(const Zwischenstand& Stand) {
 bool Satzverwaltung::lies_Stueck(const Sicherungsstueck& Stueck) {
     for (const Satzart Art : Eingabearten) {
         if (!z_.Saetze[Art].gelesen() || Stueck.Dateiname != Name_des_Ungesicherten(z_, Art)) continue;
-        const int alte_TWA_Zeiten = z_.Parameter().TWA_Zeiten;
+        const TWA_Listenart alte_TWA_Zeiten = z_.Parameter().TWA_Zeiten;
         const Lesebefund Befund =
             Satz_lesen_aus(Stueck.Bytes, Stueck.Dateiname, Art, z_.Vorgabe, z_.Sicht, z_.Welt.Dezimalzeichen);
         if (Befund.Ausgang != Leseausgang::gelesen) return false;

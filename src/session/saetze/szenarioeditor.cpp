@@ -220,12 +220,12 @@ void Szenarioeditor::uebernimm_Plateautiefe() {
 // A change of the temperature or of the mode alone marks no record and starts no run: only the hint tells of it. Where there are
 // no results to be seen, as after a run that found no climate file, it does; and so does another file in the place of one.
 void Szenarioeditor::uebernimm_Klima() {
-    const bool war_variabel = z_.Parameter().Klimamodus == 1;
-    const bool variabel = e_.Klimamodus == 1;
+    const bool war_variabel = z_.Parameter().Klimamodus == nach_Klimadatei;
+    const bool variabel = e_.Klimamodus == nach_Klimadatei;
     std::string& Datei = z_.Vorgabe.Klimaszenario;
     const std::string vorher = Klimatext(z_.Vorgabe);
     if (e_.Temperatur != gezeigt_.Temperatur) z_.Parameter().Szenariotemperatur = static_cast<std::uint8_t>(e_.Temperatur);
-    z_.Parameter().Klimamodus = static_cast<std::uint8_t>(e_.Klimamodus);
+    z_.Parameter().Klimamodus = e_.Klimamodus;
     if (!variabel) {
         Datei.clear();
     } else if (e_.Klima >= 0 && !gleich_ohne_Gross_Klein(Datei, Eintrag(e_.Klimadateien, e_.Klima))) {

@@ -110,7 +110,7 @@ void Ergebnisbereich::decke_zu() {
 
 // The grids have a spare last row until the user chooses a view; another list of windows brings it back.
 void Ergebnisbereich::bestimme_Zeilen() {
-    const int TWA_Zeiten = Stand().Parameter().TWA_Zeiten;
+    const TWA_Listenart TWA_Zeiten = Stand().Parameter().TWA_Zeiten;
     if (TWA_Zeiten_ != TWA_Zeiten) {
         Ersatzzeile_ = true;
     } else if (PEC_Typ_ != Sicht().PEC_Typ) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <vector>
 
 #include "window/kern/rahmen.h"
@@ -57,7 +58,7 @@ private:
     // A spare last row of the single grids, until a view is chosen for the first time in its list of windows.
     bool Ersatzzeile_ = true;
     int PEC_Typ_ = -1;
-    int TWA_Zeiten_ = -1;
+    std::optional<TWA_Listenart> TWA_Zeiten_;
 };
 
 }  // namespace varnok

@@ -216,7 +216,7 @@ TEST_F(Auswahlprobe, the_accumulated_view_with_every_third_year_adds_a_third_of_
     s_->fuehre_aus<&Listenwahl::waehle_PEC_Typ>(Anreicherung);
     s_->fuehre_aus<&Listenwahl::waehle_Fruchtwechsel>(jedes_dritte_Jahr);
     const double erwartet = Maximum() + static_cast<double>(Werte().Werte(Gesamtgehalt, 0).Plateauwert) / 3;
-    EXPECT_EQ(Ergebnisse_einer_Studie(s_->Stand(), 0)[1][1], Formatiere_Zahl(erwartet, false, true, 0));
+    EXPECT_EQ(Ergebnisse_einer_Studie(s_->Stand(), 0)[1][1], Formatiere_Zahl(erwartet, false, true, Milligramm));
 }
 
 // Results of a scheme without the compound: nothing of it is known.
@@ -232,7 +232,7 @@ TEST_F(Auswahlprobe, a_table_of_a_compound_that_was_not_calculated_shows_zeros) 
 TEST_F(Auswahlprobe, result_rows_are_13_with_the_EU_list_and_15_with_the_monthly_list) {
     gestartet();
     EXPECT_EQ(Ergebnisse_einer_Studie(s_->Stand(), 0).size(), 13U);
-    Parameter_.TWA_Zeiten = 0;
+    Parameter_.TWA_Zeiten = Monatsliste;
     schreibe_Probe();
     gestartet();
     EXPECT_EQ(Ergebnisse_einer_Studie(s_->Stand(), 0).size(), 15U);

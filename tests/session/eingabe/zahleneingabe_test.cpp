@@ -231,7 +231,7 @@ TEST_F(Zahleneingabe, remarks_are_those_of_the_files_as_they_were_read_or_saved_
 }
 
 TEST_F(Zahleneingabe, doubtful_weather_is_a_remark_while_it_is_in_force) {
-    Parameter_.Klimamodus = 1;
+    Parameter_.Klimamodus = nach_Klimadatei;
     Felder_.Klimaszenario = "site";
     schreibe_Probe();
     std::ofstream(Wurzel_ / "input/site.cli") << "header\n01-Jan        1.5       0.5          200\n";
@@ -240,7 +240,7 @@ TEST_F(Zahleneingabe, doubtful_weather_is_a_remark_while_it_is_in_force) {
     ASSERT_GE(b.size(), 1U);
     EXPECT_EQ(als_Zeile(b[0]), "input/site.cli:1: remark: there are 1 days behind the header line, not 365");
     s_->fuehre_aus<&Szenarioeditor::oeffne>();
-    s_->fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(0);
+    s_->fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(konstante_Temperatur);
     s_->fuehre_aus<&Szenarioeditor::uebernimm>();
     s_->fuehre_aus<&Szenarioeditor::schliesse>();
     EXPECT_TRUE(Bemerkungen(s_->Stand()).empty());

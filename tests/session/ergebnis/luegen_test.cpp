@@ -138,7 +138,7 @@ TEST_F(Luegen, after_a_failed_write_nothing_tells_of_the_report_before) {
 }
 
 TEST_F(Luegen, half_the_dose_under_weather_that_another_program_changed_is_not_half_the_old_result) {
-    Parameter_.Klimamodus = 1;
+    Parameter_.Klimamodus = nach_Klimadatei;
     Parameter_.Q10 = fuer_alle(2.58);
     Felder_.Klimaszenario = "Weather";
     schreibe("Weather.cli", gang::Wetterdatei(5));

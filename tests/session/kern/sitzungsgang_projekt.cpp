@@ -48,9 +48,9 @@ Eingabe zweite_Eingabe() {
     p.Kinetik[0][2] = DFOP;
     p.k_SFO[0][0] = 0.02;
     p.k2_DFOP[0][2] = 0.001;
-    p.Klimamodus = 1;
+    p.Klimamodus = nach_Klimadatei;
     p.Bodendichte = 1.2;
-    p.Einheit = 1;
+    p.Einheit = Mikrogramm;
     e.Klimaszenario = "Weather A";
     e.Applikationsmuster = unregelmaessig;
     waehle_Anzahl(e, 5);

@@ -114,7 +114,7 @@ void Gang::pruefe_Ergebnisse(const Aktionsart& a) {
         return;
     }
     const bool Hinweis = z().Hinweis();
-    if (!Hinweis && (a.Merkmale & immer) != 0 && z().Parameter().Klimamodus == 1) {
+    if (!Hinweis && (a.Merkmale & immer) != 0 && z().Parameter().Klimamodus == nach_Klimadatei) {
         const auto Datei = Stand_.find(z().Vorgabe.Klimaszenario + Klima_Endung);
         if (Datei == Stand_.end() || !z().Klima.Wert() || *z().Klima.Wert() != Datei->second)
             throw Verstoss{"results of another weather", z().Vorgabe.Klimaszenario};

@@ -174,7 +174,7 @@ TEST_F(Satzprobe, a_character_without_a_place_in_the_file_is_told_on_saving_and_
 TEST_F(Satzprobe, a_climate_file_that_is_missing_is_told_and_the_results_stay_covered) {
     gestartet();
     Eingabe e = Felder_;
-    e.Parameter.Klimamodus = 1;
+    e.Parameter.Klimamodus = nach_Klimadatei;
     e.Klimaszenario = "no such climate";
     Satz_schreiben(Projektordner(Wurzel_.string()), "Second", Szenario, e, Sicht_);
     Fragen_.erwarte("Data file missing", "Cannot load climate data file. Please correct!");

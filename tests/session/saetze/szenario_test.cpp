@@ -156,7 +156,7 @@ TEST_F(Szenarioprobe, cancel_changes_nothing) {
     const Laufparameter vorher = p();
     s.fuehre_aus<&Szenarioeditor::aendere>(E::Bodendichte, "9");
     s.fuehre_aus<&Szenarioeditor::waehle_Szenario>(0);
-    s.fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(1);
+    s.fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(nach_Klimadatei);
     abgebrochen();
     EXPECT_EQ(p(), vorher);
     EXPECT_EQ(s_->Stand().Namen[Szenario], "Probe");

@@ -92,10 +92,10 @@ TEST_F(Szenarioprobe, another_name_keeps_temperature_and_mode) {
     klimadatei("Site A");
     Sitzung& s = offen();
     s.fuehre_aus<&Szenarioeditor::waehle_Temperatur>(7);
-    s.fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(1);
+    s.fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(nach_Klimadatei);
     s.fuehre_aus<&Szenarioeditor::waehle_Szenario>(0);
     EXPECT_EQ(Entwurf().Temperatur, 7);
-    EXPECT_EQ(Entwurf().Klimamodus, 1);
+    EXPECT_EQ(Entwurf().Klimamodus, nach_Klimadatei);
 }
 
 // Another program has deleted the file: the values on the screen are still those of that record.

@@ -38,7 +38,7 @@ protected:
     }
     // The record names a climate file that is not there.
     void ohne_Klimadatei() {
-        Parameter_.Klimamodus = 1;
+        Parameter_.Klimamodus = nach_Klimadatei;
         Felder_.Klimaszenario = "gone";
         schreibe_Probe();
     }
