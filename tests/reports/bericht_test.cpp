@@ -163,7 +163,7 @@ QTextCursor ab(const Bericht& b, const char* Wort) {
 
 TEST(PDF, of_a_selection_holds_that_and_the_picture_in_it) {
     const Bericht b = Bericht_von(mit_Ergebnissen({}));
-    const auto Text = Seiten(als_PDF(*Auswahl_als_Dokument(ab(b, "GRAPHIC REPRESENTATION")), "x"));
+    const auto Text = Seiten(als_PDF(*Textstelle_als_Dokument(ab(b, "GRAPHIC REPRESENTATION")), "x"));
     ASSERT_TRUE(Text.has_value()) << "poppler-utils is missing";
     ASSERT_EQ(Text->size(), 1U);
     EXPECT_EQ(ohne_Luecken(Text->front()).find("GRAPHIC"), 0U);
@@ -173,7 +173,7 @@ TEST(PDF, of_a_selection_holds_that_and_the_picture_in_it) {
 
 TEST(PDF, of_a_selection_has_font_and_indent_of_the_report) {
     const Bericht b = Bericht_von(mit_Ergebnissen({}));
-    const auto d = Auswahl_als_Dokument(ab(b, "Soil density"));
+    const auto d = Textstelle_als_Dokument(ab(b, "Soil density"));
     EXPECT_EQ(d->defaultFont(), b.Dokument->defaultFont());
     EXPECT_EQ(d->begin().blockFormat(), b.Dokument->findBlock(ab(b, "Soil density").selectionStart()).blockFormat());
 }
