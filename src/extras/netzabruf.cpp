@@ -215,11 +215,15 @@ Netzabruf::~Netzabruf() {
         return;
     }
     for (int* Nummer : {&Netz_->nebenher, &Netz_->wartend}) Netz_->vergiss(*Nummer);
-    static_cast<void>(Netz_.release());
-    haengt_ = true;
+    Zurueckgelassene().push_back(std::move(Netz_));
 }
 
-bool Netzabruf::haengt_ = false;
+std::vector<std::unique_ptr<Netzabruf::Netz>>& Netzabruf::Zurueckgelassene() {
+    static auto& Liste = *new std::vector<std::unique_ptr<Netz>>;
+    return Liste;
+}
+
+bool Netzabruf::haengt() { return !Zurueckgelassene().empty(); }
 
 Netzabruf::Netz& Netzabruf::oeffne() {
     if (!Netz_) Netz_ = std::make_unique<Netz>();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <vector>
 
 #include "extras/abruf.h"
 
@@ -17,7 +18,7 @@ public:
     ~Netzabruf() override;
 
     // Whether a request could not be stopped when its object went: the process ends without waiting for it.
-    static bool haengt() { return haengt_; }
+    static bool haengt();
 
     Abrufantwort hole(const std::string& Adresse, const Abrufgrenze& Grenze) override;
     void hole_nebenher(const std::string& Adresse, const Abrufgrenze& Grenze, std::function<void(Abrufantwort)> fertig) override;
@@ -26,8 +27,7 @@ public:
 private:
     struct Netz;
     Netz& oeffne();
-
-    static bool haengt_;
+    static std::vector<std::unique_ptr<Netz>>& Zurueckgelassene();  // what could not be stopped
 
     bool mit_Eingaben_;
     std::unique_ptr<Netz> Netz_;  // made by the first request: a program that asks nobody opens nothing

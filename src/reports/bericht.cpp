@@ -46,9 +46,11 @@ Diagramm erstelle_Berichtsdiagramm(const Darstellung& d, Berichtsart Art) {
     setze_Bereiche_nach_Ansicht(b, d.Sicht.PEC_Typ);
     const Stoffschema Schema = d.Vorgabe().Berechnungsmodus;
     const int st = d.Sicht.Studie_Index;
+    // The summary opens with the parent. A compound that the scheme does not have cannot be in view.
     if (Art == Berichtsart::erweitert)
         return erstelle_Diagramm_Zusammenfassung(d, b, Zusammenfassungssatz_von(Schema, 0), st, false);
-    return erstelle_Diagramm(d, b, Diagrammsatz_von(Schema, 0), st);
+    const int c = d.Sicht.Substanz < Anzahl_Stoffe(Schema) ? d.Sicht.Substanz : 0;
+    return erstelle_Diagramm(d, b, Diagrammsatz_von(Schema, c), st);
 }
 
 Bericht schreibe_Bericht(const Berichtsauftrag& a) {

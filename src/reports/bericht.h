@@ -38,7 +38,8 @@ struct Bericht {
     std::string RTF;
 };
 
-// The diagram of a report without a window: the parent's, over the time that the view starts with.
+// The diagram of a report without a window: of the compound in view (a summary: the parent), over the time that the view starts
+// with.
 Diagramm erstelle_Berichtsdiagramm(const Darstellung& d, Berichtsart Art);
 
 // Makes the report; nothing is written. Needs a QGuiApplication; may run in any thread. Throws Laufzeitfehler: no file can

@@ -1,5 +1,5 @@
 // One calculation in two programs: what varnok-batch writes of a simulation is what the window shows and writes of it, byte for
-// byte: results, day series, both reports with their pictures.
+// byte: results, day series, both reports with their pictures. So it is where the region writes numbers with a comma.
 
 #include <gtest/gtest.h>
 #include <unistd.h>
@@ -49,8 +49,8 @@ public:
     std::vector<std::string> Texte;
 };
 
-// A line of a record replaced, so that no program can calculate it.
-struct Schaden {
+// A line of a record replaced.
+struct Zeilentausch {
     const char* Endung = nullptr;
     int Zeile = 0;
     const char* Text = nullptr;
@@ -59,21 +59,31 @@ struct Schaden {
 struct Fall {
     fs::path Projekt;
     std::string Simulation;
-    Schaden Fehler = {};
+    std::vector<Zeilentausch> Tausch = {};
 };
 
 void PrintTo(const Fall& f, std::ostream* aus) {
     *aus << f.Projekt.filename().string() << ", " << f.Simulation;
-    if (f.Fehler.Text) *aus << ", " << f.Fehler.Text;
+    for (const Zeilentausch& t : f.Tausch) *aus << ", " << t.Text;
 }
 
-constexpr Schaden Schaeden[] = {
+// So that no program can calculate it.
+constexpr Zeilentausch Schaeden[] = {
     {".sce", 3, "Soil density (kg/L):\t0"},      {".sce", 9, "Climatic condition:\tnowhere\r\nClimate mode:\t1"},
     {".app", 5, "Application rate (g/ha):\t-1"}, {".che", 9, "Number of studies:\tnone"},
     {".che", 15, "Kinetics:\t9\t0\t0"},
 };
 
-// Every case of tests/cases, everything that is shipped, and one case with each damage.
+// Another compound in view than the parent, in a scheme that has it and in one that has not.
+const Fall andere_Substanz[] = {
+    {VARNOK_TESTORDNER "/cases/two_parallel_metabolites", "case", {{".che", 25, "Compound shown:\t2"}}},
+    {VARNOK_TESTORDNER "/cases/single_application_sfo", "case", {{".che", 25, "Compound shown:\t1"}}},
+    {VARNOK_TESTORDNER "/cases/two_studies",
+     "case",
+     {{".che", 40, "Compound shown:\t1"}, {".che", 43, "Type of calculation:\t2"}}},
+};
+
+// Every case of tests/cases, everything that is shipped, one case with each damage, and the views of a compound.
 std::vector<Fall> alle_Faelle() {
     std::vector<fs::path> Projekte = {VARNOK_DATENORDNER};
     for (const auto& Eintrag : fs::directory_iterator(VARNOK_TESTORDNER "/cases")) Projekte.push_back(Eintrag.path());
@@ -83,7 +93,8 @@ std::vector<Fall> alle_Faelle() {
         for (const std::string& Name : Projektordner(Projekt.string()).Namen(Endungen[Simulation]))
             Faelle.push_back({Projekt, Name});
     }
-    for (const Schaden& s : Schaeden) Faelle.push_back({VARNOK_TESTORDNER "/cases/single_application_sfo", "case", s});
+    for (const Zeilentausch& s : Schaeden) Faelle.push_back({VARNOK_TESTORDNER "/cases/single_application_sfo", "case", {s}});
+    Faelle.insert(Faelle.end(), std::begin(andere_Substanz), std::end(andere_Substanz));
     return Faelle;
 }
 
@@ -101,7 +112,7 @@ protected:
         fs::create_directories(Projekt() / "output");
         fs::copy(GetParam().Projekt / "input", Projekt() / "input", fs::copy_options::recursive);
         fs::permissions(Projekt() / "input", fs::perms::owner_all, fs::perm_options::add);
-        if (GetParam().Fehler.Text) beschaedige(GetParam().Fehler);
+        for (const Zeilentausch& t : GetParam().Tausch) tausche(t);
     }
     ~Eine_Rechnung() override {
         s_.reset();
@@ -111,12 +122,12 @@ protected:
     fs::path Projekt() const { return Wurzel_ / "projekt"; }
     fs::path Ausgabe(const std::string& Name) const { return Wurzel_ / "batch" / Name; }
 
-    void beschaedige(const Schaden& s) const {
-        const fs::path Datei = Projekt() / "input" / (GetParam().Simulation + s.Endung);
+    void tausche(const Zeilentausch& t) const {
+        const fs::path Datei = Projekt() / "input" / (GetParam().Simulation + t.Endung);
         std::string Bytes = Inhalt(Datei);
         std::size_t von = 0;
-        for (int i = 1; i < s.Zeile; ++i) von = Bytes.find("\r\n", von) + 2;
-        Bytes.replace(von, Bytes.find("\r\n", von) - von, s.Text);
+        for (int i = 1; i < t.Zeile; ++i) von = Bytes.find("\r\n", von) + 2;
+        Bytes.replace(von, Bytes.find("\r\n", von) - von, t.Text);
         fs::permissions(Datei, fs::perms::owner_write, fs::perm_options::add);
         std::ofstream(Datei, std::ios::binary) << Bytes;
     }
@@ -149,9 +160,9 @@ protected:
     }
 
     // The simulation as a user opens it: the program starts with any, then this one is chosen.
-    Sitzung& oeffne() {
+    Sitzung& oeffne(char Dezimalzeichen = '.') {
         s_.reset();
-        s_ = std::make_unique<Sitzung>(Umgebung{&Fragen_, Projekt().string(), VARNOK_DATENORDNER, '.', &Uhr_});
+        s_ = std::make_unique<Sitzung>(Umgebung{&Fragen_, Projekt().string(), VARNOK_DATENORDNER, Dezimalzeichen, &Uhr_});
         EXPECT_TRUE(s_->fuehre_aus<&Programmablauf::oeffne_Projekt>());
         s_->fuehre_aus<&Programmablauf::verlasse_Startseite>();
         const auto& Liste = s_->Stand().Listen[Simulation];
@@ -187,16 +198,17 @@ protected:
 };
 
 // What was remarked while reading, and the sum over the files, are no results.
-JSON ohne_Herkunft(JSON Dokument) {
+std::string ohne_Herkunft(const std::string& Text) {
+    JSON Dokument = JSON::parse(Text);
     for (JSON& s : Dokument.at("simulations")) {
         s.erase("remarks");
         s.erase("inputs_sha256");
     }
-    return Dokument;
+    return Dokument.dump(1);
 }
 
-// The document of varnok-batch about results of the window.
-JSON als_Dokument(const Zustand& z, const std::string& Simulation) {
+// Results of the window as varnok-batch hands them to its writers.
+batch::Simulationsausgang als_Ausgang(const Zustand& z, const std::string& Simulation) {
     const Simulationssatz Satz = lies_Simulation(*z.Ordner, Simulation);
     batch::Simulationsausgang a;
     a.Ergebnis.Name = Simulation;
@@ -204,11 +216,12 @@ JSON als_Dokument(const Zustand& z, const std::string& Simulation) {
     a.Ergebnis.Dateinamen = Satz.Dateinamen;
     a.Ergebnis.Vorgabe = std::make_shared<const Eingabe>(z.Vorgabe);
     for (int st = 0; st < z.Studienzahl(); ++st) a.Ergebnis.Studien.push_back(z.Werte().at(static_cast<std::size_t>(st)));
-    return ohne_Herkunft(JSON::parse(batch::als_JSON({a})));
+    return a;
 }
 
 TEST_P(Eine_Rechnung, gives_the_same_bytes_in_both_programs) {
-    const bool gelungen = rufe_Batch({"--json", Ausgabe("ergebnis.json").string(), "--series", Ausgabe("serien").string()});
+    const bool gelungen = rufe_Batch({"--json", Ausgabe("ergebnis.json").string(), "--csv", Ausgabe("ergebnis.csv").string(),
+                                      "--series", Ausgabe("serien").string()});
     const Zustand& z = oeffne().Stand();
     ASSERT_EQ(gelungen, !z.abgedeckt()) << "one program shows a result and the other does not";
     if (!gelungen) {
@@ -228,10 +241,12 @@ TEST_P(Eine_Rechnung, gives_the_same_bytes_in_both_programs) {
         vergleiche_Bericht(batch::Studienzusatz(jetzt.Vorgabe, st));
     }
 
-    oeffne();
+    oeffne(',');
     for (int st = 1; st < Studien; ++st) s_->fuehre_aus<&Listenwahl::waehle_Studie>(st);
-    const JSON vom_Fenster = ohne_Herkunft(als_Dokument(s_->Stand(), GetParam().Simulation));
-    EXPECT_EQ(vom_Fenster, ohne_Herkunft(JSON::parse(Inhalt(Ausgabe("ergebnis.json")))));
+    const std::vector<batch::Simulationsausgang> vom_Fenster = {als_Ausgang(s_->Stand(), GetParam().Simulation)};
+    EXPECT_EQ(ohne_Herkunft(batch::als_JSON(vom_Fenster)), ohne_Herkunft(Inhalt(Ausgabe("ergebnis.json"))));
+    EXPECT_EQ(batch::als_Text(*batch::CSV_Schreiber(), vom_Fenster), Inhalt(Ausgabe("ergebnis.csv")));
+    vergleiche_Bericht(batch::Studienzusatz(s_->Stand().Vorgabe, Studien - 1));
 
     if (Studien < 2) return;
     oeffne().fuehre_aus<&Listenwahl::zeige_Zusammenfassung>();

@@ -124,7 +124,7 @@ class langsamer_Proxy : public QNetworkProxyFactory {
 public:
     QList<QNetworkProxy> queryProxy(const QNetworkProxyQuery&) override {
         QThread::msleep(2000);
-        return {QNetworkProxy::NoProxy};
+        return {QNetworkProxy(QNetworkProxy::HttpProxy, QStringLiteral("127.0.0.1"), 1)};  // refuses, and looks no name up
     }
 };
 
