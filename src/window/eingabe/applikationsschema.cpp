@@ -77,7 +77,7 @@ void Applikationsschema::focusOutEvent(QFocusEvent* e) {
 
 void Applikationsschema::zeige() {
     zeigt_ = true;
-    const auto& Zeilen = Programm_.Stand().Felder().Applikationsschema;
+    const auto& Zeilen = Programm_.Stand().Vorgabe.Applikationsschema;
     setRowCount(static_cast<int>(Zeilen.size()));
     for (int i = 0; i < rowCount(); ++i) {
         for (int j = 0; j < columnCount(); ++j) {
