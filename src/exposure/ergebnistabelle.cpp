@@ -41,12 +41,12 @@ double Ansichtswert(float Plateauwert, PEC_Ansicht PEC_Art, Fruchtfolge Fruchtwe
            static_cast<double>(gespeichert);
 }
 
-std::string Formatiere_Zahl(double Wert, bool kuerzen, bool Grenztext, int Einheit) {
+std::string Formatiere_Zahl(double Wert, bool kuerzen, bool Grenztext, Einheitsart Einheit) {
     const bool fest = !kuerzen && Grenztext;
     if (!fest && Wert < 0) throw Laufzeitfehler("A negative concentration cannot be shown: " + allgemeine_Zahl(Wert));
-    const int Stellen = fest ? (Einheit == 0 ? 4 : 2) : Wert == 0 ? 1 : Stellen_fuer(Wert);
+    const int Stellen = fest ? (Einheit == Milligramm ? 4 : 2) : Wert == 0 ? 1 : Stellen_fuer(Wert);
     const double gezeigter = gerundet(Wert, Stellen);
-    if (fest && gezeigter == 0) return Einheit == 1 ? "<0.01" : "<0.0001";
+    if (fest && gezeigter == 0) return Einheit == Mikrogramm ? "<0.01" : "<0.0001";
     std::string Text = feste_Zahl(Wert, Stellen);
     if (kuerzen && gezeigter > 0) schneide_Nullen(Text);
     if (Text.back() == '.') Text.pop_back();

@@ -168,7 +168,7 @@ inline constexpr Befehlsliste alle_Befehle{
     Zeile<&Projektoeffnung::merke>{Weg::Zwischenschritt},
 
     Zeile<&Programmablauf::oeffne_Projekt>{Weg::Handlung},
-    Zeile<&Programmablauf::starte>{Weg::Handlung},
+    Zeile<&Programmablauf::verlasse_Startseite>{Weg::Handlung},
     Zeile<&Programmablauf::beginne_Dialog>{Weg::Befehl},
     Zeile<&Programmablauf::beende>{Weg::Befehl},
     Zeile<&Programmablauf::schliesse_Fenster>{Weg::Handlung},

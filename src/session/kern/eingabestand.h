@@ -20,21 +20,19 @@ struct Eingabestand : Schauplatz, Satzlisten {
     Ansicht Sicht;    // what the user has chosen to look at
     std::array<Satzplatz, 4> Saetze;
 
-    Eingabe& Felder() { return Vorgabe; }
-    const Eingabe& Felder() const { return Vorgabe; }
     Laufparameter& Parameter() { return Vorgabe.Parameter; }
     const Laufparameter& Parameter() const { return Vorgabe.Parameter; }
     int i_studie() const { return Sicht.Studie_Index; }
     int Studienzahl() const { return Vorgabe.Studienzahl(); }
 
-    // Told mark: all studies are in view, of which there are several.
+    // All studies are in view, of which there are several.
     bool Zusammenfassung_aktiv() const { return Zusammenfassung_ && Studienzahl() > 1; }
     void zeige_Zusammenfassung() { Zusammenfassung_ = true; }
     void zeige_Studien() { Zusammenfassung_ = false; }
     // The studies that the view on display shows: the selected one, in the summary view all.
     std::vector<int> gezeigte_Studien() const;
 
-    // The told marks, by kind.
+    // What of each kind the user changed.
     using Marken_je_Art = std::array<bool, 4>;
     Marken_je_Art Marken() const;
     // As they were before a step that did not come about, or that is no change of the user's.

@@ -42,7 +42,7 @@ void Ruecknahme::stelle_her(const Eingabe& e) {
     const bool andere_Fenster = z_.Vorgabe.Parameter.TWA_Zeiten != e.Parameter.TWA_Zeiten;
     z_.Vorgabe = e;
     if (andere_Fenster) z_.Sicht.TWA_Laenge = TWA_Vorauswahl(e.Parameter.TWA_Zeiten);
-    for (const Satzart Art : {Simulation, Wirkstoff, Applikation, Szenario}) {
+    for (const Satzart Art : alle_Arten) {
         if (u.Arten[Art]) z_.Saetze[Art].merke_Aenderung();
     }
     if (u.i_studie >= 0) z_.Sicht.Studie_Index = u.i_studie;

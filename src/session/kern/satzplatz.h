@@ -22,7 +22,7 @@ public:
     bool gelesen() const { return gelesen_; }
     // Why not, for the cover; empty while it is only waiting to be read.
     const std::string& Grund() const { return Grund_; }
-    // Told mark: the user changed it and is asked before it goes.
+    // The user changed it and is asked before it goes. The commands set it; nothing is compared.
     bool Geaendert() const { return Geaendert_; }
 
     // Counts what ties other values to the record: reading it, giving it up.

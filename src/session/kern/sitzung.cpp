@@ -8,12 +8,6 @@
 #include "session/kern/versuch.h"
 
 namespace varnok {
-namespace {
-
-constexpr std::array alle_Arten = {Simulation, Wirkstoff, Applikation, Szenario};
-
-}  // namespace
-
 Sitzung::Sitzung(Umgebung Welt) {
     z_.Welt = std::move(Welt);
     z_.Statuszeile.stelle_Uhr(&z_.Zeit());

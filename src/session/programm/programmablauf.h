@@ -27,7 +27,7 @@ public:
     // ends there.
     bool oeffne_Projekt();
     // The start page is left: the first run.
-    void starte();
+    void verlasse_Startseite();
     // A dialog is to open: the command is what stands around it, which accepts what is in work on the main screen. False where
     // that was refused: then it does not open.
     bool beginne_Dialog() { return true; }

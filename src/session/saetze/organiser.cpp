@@ -12,8 +12,6 @@
 namespace varnok {
 namespace {
 
-const std::vector<Satzart> alle_Arten = {Simulation, Wirkstoff, Applikation, Szenario};
-
 bool enthaelt(const std::vector<std::string>& Liste, const std::string& Name) {
     return std::find(Liste.begin(), Liste.end(), Name) != Liste.end();
 }
@@ -36,12 +34,12 @@ std::string Speicherbild_der_Datei(const std::string& Bytes) {
 // What "Done" changes on the main screen until the summary file is written.
 class Merkstand {
 public:
-    explicit Merkstand(const Eingabestand& z) : Listen_(z), Saetze_(z.Saetze), Beschreibung_(z.Felder().Beschreibung) {}
+    explicit Merkstand(const Eingabestand& z) : Listen_(z), Saetze_(z.Saetze), Beschreibung_(z.Vorgabe.Beschreibung) {}
 
     void stelle_her(Eingabestand& z) const {
         static_cast<Satzlisten&>(z) = Listen_;
         z.Saetze = Saetze_;
-        z.Felder().Beschreibung = Beschreibung_;
+        z.Vorgabe.Beschreibung = Beschreibung_;
     }
 
 private:
@@ -55,7 +53,7 @@ private:
 void Organiser::oeffne() {
     gewaehlt_.fill(false);
     umbenannt_ = Szenario_bearbeitet_ = Lauf_ = false;
-    Projektname_ = alter_Projektname_ = z_.Felder().Beschreibung;
+    Projektname_ = alter_Projektname_ = z_.Vorgabe.Beschreibung;
     fremde_Beschreibung_.reset();
     Listen_.Namen = z_.Namen;
     for (const Satzart Art : alle_Arten) Befehle_.lies_Liste(Art);
@@ -105,7 +103,7 @@ void Organiser::waehle_mit_Inhalt(Satzart Art) {
     // Nothing of the simulation selected before may be written over this one if it cannot be read.
     Projektname_.clear();
     gelesen_ = Dateibytes(z_, Listen_.gewaehlt(Simulation));
-    for (const Satzart t : {Wirkstoff, Applikation, Szenario}) Listen_.Namen[t].clear();
+    for (const Satzart t : Eingabearten) Listen_.Namen[t].clear();
     waehle_Simulation(Listen_.Auswahl(Simulation));
 }
 
@@ -264,7 +262,7 @@ void Organiser::gib_Listen_weiter() { static_cast<Satzlisten&>(z_) = Listen_; }
 bool Organiser::uebergib() {
     const Merkstand vorher(z_);
     gib_Listen_weiter();
-    z_.Felder().Beschreibung = Projektname_;
+    z_.Vorgabe.Beschreibung = Projektname_;
     z_.Saetze[Simulation].kenne({z_.gewaehlt(Simulation), gelesen_}, Speicherbild_der_Datei(gelesen_));
     if (z_.Auswahl(Simulation) < 0) return true;  // the folder has no simulation
     if (z_.nur_lesbar) return true;               // what was put together here is looked at, and written nowhere

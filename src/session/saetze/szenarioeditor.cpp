@@ -127,13 +127,13 @@ void Szenarioeditor::fuelle_Listen() {
 void Szenarioeditor::zeige_Werte() {
     const Laufparameter& p = z_.Parameter();
     const char d = z_.Welt.Dezimalzeichen;
-    e_.Texte = {z_.Felder().Bodenszenario, allgemeine_Zahl(p.Bodendichte, d), allgemeine_Zahl(p.Kohlenstoffgehalt, d),
+    e_.Texte = {z_.Vorgabe.Bodenszenario, allgemeine_Zahl(p.Bodendichte, d), allgemeine_Zahl(p.Kohlenstoffgehalt, d),
                 allgemeine_Zahl(p.Feldkapazitaet, d), allgemeine_Zahl(p.Welkepunkt, d)};
     e_.Boden = Tiefenliste(p.Bodentiefe, Bodenvorgaben, d);
     e_.Plateau = Tiefenliste(p.Plateautiefe, Plateauvorgaben, d);
     verlasse(&Szenarioentwurf::Boden);
     verlasse(&Szenarioentwurf::Plateau);
-    e_.Klima = Platz_der_Klimadatei(e_.Klimadateien, z_.Felder().Klimaszenario);
+    e_.Klima = Platz_der_Klimadatei(e_.Klimadateien, z_.Vorgabe.Klimaszenario);
     Klima_gewaehlt_ = false;
 }
 
@@ -224,12 +224,12 @@ void Szenarioeditor::uebernimm_Plateautiefe() {
 // A change of the temperature or of the mode alone marks no record and starts no run: only the hint tells of it. Where there are
 // no results to be seen, as after a run that found no climate file, it does; and so does another file in the place of one.
 void Szenarioeditor::uebernimm_Klima() {
-    const bool war_variabel = z_.Parameter().Klimamodus == 1;
-    const bool variabel = e_.Klimamodus == 1;
-    std::string& Datei = z_.Felder().Klimaszenario;
+    const bool war_variabel = z_.Parameter().Klimamodus == nach_Klimadatei;
+    const bool variabel = e_.Klimamodus == nach_Klimadatei;
+    std::string& Datei = z_.Vorgabe.Klimaszenario;
     const std::string vorher = Klimatext(z_.Vorgabe);
     if (e_.Temperatur != gezeigt_.Temperatur) z_.Parameter().Szenariotemperatur = static_cast<std::uint8_t>(e_.Temperatur);
-    z_.Parameter().Klimamodus = static_cast<std::uint8_t>(e_.Klimamodus);
+    z_.Parameter().Klimamodus = e_.Klimamodus;
     if (!variabel) {
         Datei.clear();
     } else if (e_.Klima >= 0 && !gleich_ohne_Gross_Klein(Datei, Eintrag(e_.Klimadateien, e_.Klima))) {
@@ -243,7 +243,7 @@ void Szenarioeditor::uebernimm_Klima() {
 
 void Szenarioeditor::uebernimm_Namen() {
     if (e_.Texte[Szenarioentwurf::Bodenszenario] != gezeigt_.Texte[Szenarioentwurf::Bodenszenario]) {
-        z_.Felder().Bodenszenario = e_.Texte[Szenarioentwurf::Bodenszenario];
+        z_.Vorgabe.Bodenszenario = e_.Texte[Szenarioentwurf::Bodenszenario];
         z_.Saetze[varnok::Szenario].merke_Aenderung();
         geaendert_ = true;
     }

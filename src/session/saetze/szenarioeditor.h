@@ -33,7 +33,7 @@ struct Szenarioentwurf {
     std::array<std::string, Anzahl_Felder> Texte;
     Tiefenwahl Boden;
     Tiefenwahl Plateau;
-    int Klimamodus = 0;
+    Klimaart Klimamodus = konstante_Temperatur;
     std::vector<std::string> Temperaturen;  // degrees C
     int Temperatur = 0;
     std::vector<std::string> Klimadateien;
@@ -49,7 +49,7 @@ public:
     // Whether a field shows a number outside its range.
     bool ausserhalb(Szenarioentwurf::Feld f) const;
     // Without a climate file there is nothing to choose; a record that is variable can stay so.
-    bool darf_variabel() const { return !e_.Klimadateien.empty() || gezeigt_.Klimamodus == 1; }
+    bool darf_variabel() const { return !e_.Klimadateien.empty() || gezeigt_.Klimamodus == nach_Klimadatei; }
 
     // Shows the scenario on the screen. One that the selector names and that was not read is read before. False if there is
     // nothing to show: the program ends.
@@ -65,7 +65,7 @@ public:
     // Keys or the wheel walk through the closed list: at a preset it stays until it is left.
     void blaettere(Tiefe t, int i);
     void verlasse(Tiefe t) { waehle_Tiefe(t, (e_.*t).Position); }
-    void waehle_Klimabedingungen(int m) { e_.Klimamodus = m; }
+    void waehle_Klimabedingungen(Klimaart m) { e_.Klimamodus = m; }
     void waehle_Temperatur(int i) { e_.Temperatur = i; }
     void waehle_Klimaszenario(int i);
 

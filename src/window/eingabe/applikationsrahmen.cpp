@@ -110,7 +110,7 @@ void Applikationsrahmen::erstelle_Termine(QWidget* Werte) {
 
 // The number of applications stands beside the dose, or at its place where each application has its own.
 void Applikationsrahmen::stelle_Anzahl() {
-    const bool links = Felder().Applikationsmuster == unregelmaessig;
+    const bool links = Vorgabe().Applikationsmuster == unregelmaessig;
     const QLayoutItem* bisher = Gitter_->itemAtPosition(0, links ? Raster::Feld : Raster::Feld_2);
     if (bisher && bisher->widget() == Anzahl_) return;
     Gitter_->removeWidget(L_Anzahl_);
@@ -143,7 +143,7 @@ void Applikationsrahmen::verbinde() {
 
 void Applikationsrahmen::zeige() {
     Satz_->zeige();
-    const Eingabe& e = Felder();
+    const Eingabe& e = Vorgabe();
     zeige_Option(*Applikationsmuster_, e.Applikationsmuster);
     Anzahl_->zeige(Zahlen(kleinste_Anzahl(e), max_Applikationen), e.Anzahl() - kleinste_Anzahl(e));
     Intervall_->zeige(Zahlen(1, Programm_.zeige<Listenwahl>().Intervalle()), e.Intervall_Index);
@@ -156,7 +156,7 @@ void Applikationsrahmen::zeige() {
 }
 
 void Applikationsrahmen::waehle_Zelle(Zelle z) {
-    if (Felder().Applikationsmuster == unregelmaessig) Schema_->waehle_Zelle(z);
+    if (Vorgabe().Applikationsmuster == unregelmaessig) Schema_->waehle_Zelle(z);
 }
 
 }  // namespace varnok

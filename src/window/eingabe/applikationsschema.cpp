@@ -76,7 +76,7 @@ void Applikationsschema::focusOutEvent(QFocusEvent* e) {
 }
 
 void Applikationsschema::zeige_Zelle(Zelle z) {
-    const auto& Zeilen = Programm_.Stand().Felder().Applikationsschema;
+    const auto& Zeilen = Programm_.Stand().Vorgabe.Applikationsschema;
     const QString Text = in_Qt(Zeilen.at(static_cast<std::size_t>(z.Zeile)).at(static_cast<std::size_t>(z.Spalte)).Text());
     QTableWidgetItem* Ziel = item(z.Zeile, z.Spalte);
     if (!Ziel) {
@@ -91,7 +91,7 @@ void Applikationsschema::zeige_Zelle(Zelle z) {
 
 void Applikationsschema::zeige() {
     zeigt_ = true;
-    setRowCount(static_cast<int>(Programm_.Stand().Felder().Applikationsschema.size()));
+    setRowCount(static_cast<int>(Programm_.Stand().Vorgabe.Applikationsschema.size()));
     for (int i = 0; i < rowCount(); ++i) {
         for (int j = 0; j < columnCount(); ++j) zeige_Zelle({i, j});
     }

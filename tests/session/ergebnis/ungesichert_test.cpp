@@ -41,7 +41,7 @@ TEST_F(Ungesichert, a_view_chosen_is_nothing_to_save_and_nothing_to_ask_about) {
     s_->fuehre_aus<&Listenwahl::waehle_Substanz>(0);
     tippe_ins("S_DT50_0", "12");
     s_->fuehre_aus<&Feldeingabe::nimm_zurueck>(Feld("S_DT50_0"));
-    for (const Satzart Art : {Simulation, Wirkstoff, Applikation, Szenario}) EXPECT_FALSE(z().verschieden(Art)) << Art;
+    for (const Satzart Art : alle_Arten) EXPECT_FALSE(z().verschieden(Art)) << Art;
     s_->fuehre_aus<&Programmablauf::beende>();  // a question would fail the test
     EXPECT_TRUE(z().beendet());
     EXPECT_EQ(gesichert(), Namen{});
@@ -142,7 +142,7 @@ TEST_F(Ungesichert, a_cell_in_work_can_be_undone) {
 TEST_F(Ungesichert, undo_of_the_list_of_windows_leaves_a_window_of_the_list_in_view) {
     gestartet();
     Optionsentwurf o = s_->fuehre_aus<&Optionensteuerung::oeffne>();
-    o.TWA_Zeiten = 0;
+    o.TWA_Zeiten = TWA_monatlich;
     s_->fuehre_aus<&Optionensteuerung::uebernimm>(o);
     s_->fuehre_aus<&Optionensteuerung::schliesse>();
     s_->fuehre_aus<&Listenwahl::waehle_TWA_Laenge>(11);

@@ -36,7 +36,7 @@ void Probesitzung::schreibe_Probe() {
 
 void Probesitzung::schreibe_Saetze(const std::string& Name, const Eingabe& e) const {
     const Projektordner Ordner(Wurzel_.string());
-    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) Satz_schreiben(Ordner, Name, Art, e, Sicht_);
+    for (const Satzart Art : Eingabearten) Satz_schreiben(Ordner, Name, Art, e, Sicht_);
 }
 
 Sitzung& Probesitzung::nur_geladen() {
@@ -47,7 +47,7 @@ Sitzung& Probesitzung::nur_geladen() {
 }
 
 Sitzung& Probesitzung::gestartet() {
-    nur_geladen().fuehre_aus<&Programmablauf::starte>();
+    nur_geladen().fuehre_aus<&Programmablauf::verlasse_Startseite>();
     return *s_;
 }
 

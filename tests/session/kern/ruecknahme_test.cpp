@@ -65,7 +65,7 @@ protected:
         schreibe_Probe();
     }
     void es_versagt() { Fragen_.erwarte_Anfang("Runtime error", "The calculation is not possible with these input data."); }
-    std::string Bedeckung() const { return s_->Stand().Felder().Applikationsschema[0][3].Text(); }
+    std::string Bedeckung() const { return s_->Stand().Vorgabe.Applikationsschema[0][3].Text(); }
 };
 
 // A run makes 99 of a full interception before another one fails.

@@ -9,12 +9,6 @@
 #include "session/kern/texte.h"
 
 namespace varnok::gang {
-namespace {
-
-constexpr std::array alle_Arten = {Simulation, Wirkstoff, Applikation, Szenario};
-
-}  // namespace
-
 Gang::Gang() {
     Fragen_.bei_Frage = [this] { sieh_bei_Frage_hin(); };
     Fragen_.bei_Zustimmung = [this](const Frage& f) { erlaube_Zugestimmtes(f); };
@@ -69,7 +63,7 @@ bool Gang::starte() {
     tue<&Aktualisierungssteuerung::suche_beim_Start>(
         [this](const std::string& Seite) { tue<&Aktualisierungssteuerung::melde>(Seite); });
     Welt_.Netz.antworte(Scheinwelt::Seite(std::string(Eigene_Version)));
-    tue<&Programmablauf::starte>();
+    tue<&Programmablauf::verlasse_Startseite>();
     Fragen_.bestehe_auf(std::nullopt);
     Name_in_Arbeit = getippt_ = false;
     letzter_Stand_ = z().Vorgabe;
@@ -242,7 +236,7 @@ void Gang::erlaube_Startsimulation() {
 void Gang::erlaube_Zugestimmtes(const Frage& f) {
     if (f.Titel == Texte::Datei_fehlt) erlaube_Startsimulation();
     if (f.Titel != Texte::Aenderungen_sichern) return;
-    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) {
+    for (const Satzart Art : Eingabearten) {
         if (f.Text.find(std::string("You modified ") + Satzart_Namen[Art] + " input") == std::string::npos) continue;
         const std::size_t bis = f.Text.rfind('\'');
         const std::size_t von = bis == std::string::npos ? bis : f.Text.rfind('\'', bis - 1);

@@ -21,8 +21,6 @@
 namespace varnok::gang {
 namespace {
 
-constexpr std::array alle_Arten = {Simulation, Wirkstoff, Applikation, Szenario};
-
 // A report without the lines that tell when it was made.
 std::string ohne_Zeitpunkt(const std::string& Bericht, const std::string& mit_Zeichen) {
     std::string Text;
@@ -117,7 +115,7 @@ void Gang::pruefe_Ergebnisse(const Aktionsart& a) {
         return;
     }
     const bool Hinweis = z().Hinweis();
-    if (!Hinweis && (a.Merkmale & immer) != 0 && z().Parameter().Klimamodus == 1) {
+    if (!Hinweis && (a.Merkmale & immer) != 0 && z().Parameter().Klimamodus == nach_Klimadatei) {
         const auto Datei = Stand_.find(z().Vorgabe.Klimaszenario + Klima_Endung);
         if (Datei == Stand_.end() || !z().Klima.Wert() || *z().Klima.Wert() != Datei->second)
             throw Verstoss{"results of another weather", z().Vorgabe.Klimaszenario};
@@ -169,7 +167,7 @@ void Gang::pruefe_Marken() const {
     const Dateistand& d = z().Saetze[Simulation].Datei();
     const Simulationssatz gelesen = zerlege_Simulation(d.Bytes, d.Name);
     bool andere = false;
-    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) andere = andere || z().Namen[Art] != gelesen.Dateinamen[Art];
+    for (const Satzart Art : Eingabearten) andere = andere || z().Namen[Art] != gelesen.Dateinamen[Art];
     if (andere != z().Simulation_markiert())
         throw Verstoss{"the mark of the combination", andere ? "is missing" : "stands over the combination of the file"};
 }
@@ -181,7 +179,7 @@ void Gang::pruefe_Satzbytes() const {
     Eingabe gelesene;
     gelesene.Parameter.TWA = z().Parameter().TWA;  // of the settings
     Ansicht Sicht;
-    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) {
+    for (const Satzart Art : Eingabearten) {
         std::string Bytes;
         try {
             Bytes = z().Speicherbytes(Art);
@@ -191,7 +189,7 @@ void Gang::pruefe_Satzbytes() const {
         const Lesebefund b = Satz_lesen_aus(Bytes, Endungen[Art], Art, gelesene, Sicht, '.');
         if (b.Ausgang != Leseausgang::gelesen) throw Verstoss{"what a save would write cannot be read", Endungen[Art] + b.Grund};
     }
-    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) {
+    for (const Satzart Art : Eingabearten) {
         const std::string hier = z().Speicherbytes(Art);
         const std::string dort = Satz_als_Bytes(Art, gelesene, Sicht, '.');
         if (hier != dort && !gleiche_Zahlen(hier, dort))

@@ -27,7 +27,7 @@ void waehle_Satz(Gang& g) {
 
 void loesche(Gang& g) {
     Satzart Art = eine_Art(g);
-    for (const Satzart t : {Simulation, Wirkstoff, Applikation, Szenario}) {
+    for (const Satzart t : alle_Arten) {
         if (g.z().Listen[t].size() > viele_Saetze) Art = t;
     }
     if (g.s().zeige<Satzverwaltung>().darf_loeschen(Art)) g.tue<&Satzverwaltung::loesche>(Art);

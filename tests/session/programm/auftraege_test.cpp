@@ -28,7 +28,7 @@ protected:
         if (Ordner == nullptr) GTEST_SKIP() << "for the scripts that prepare a project";
         s_ = std::make_unique<Sitzung>(Umgebung{&Fragen_, Ordner, VARNOK_DATENORDNER, '.'});
         ASSERT_TRUE(s_->fuehre_aus<&Programmablauf::oeffne_Projekt>());
-        s_->fuehre_aus<&Programmablauf::starte>();
+        s_->fuehre_aus<&Programmablauf::verlasse_Startseite>();
     }
     const Zustand& z() const { return s_->Stand(); }
     // Another rate each time.
@@ -55,7 +55,7 @@ TEST_F(Auftrag, Ein_Tag) {
     s_->fuehre_aus<&Satzverwaltung::speichere>();
     s_->fuehre_aus<&Berichtssteuerung::erstelle>();
     EXPECT_NE(s_->zeige<Berichtssteuerung>().offener(), nullptr);
-    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) s_->fuehre_aus<&Satzverwaltung::kopiere>(Art);
+    for (const Satzart Art : Eingabearten) s_->fuehre_aus<&Satzverwaltung::kopiere>(Art);
     s_->fuehre_aus<&Satzverwaltung::speichere>();
     s_->fuehre_aus<&Satzverwaltung::lege_an>(Szenario);
     benenne_um(*s_, Szenario, "../../outside", false);

@@ -90,7 +90,7 @@ TEST_F(Ende, not_now_at_any_question_does_nothing_and_does_not_end) {
     }
     EXPECT_EQ(Datei("input/Probe.che"), Wirkstoffdatei);
     EXPECT_EQ(Stempel(Wurzel_ / "input/Probe.vnk"), Zeit);
-    EXPECT_TRUE(s_->Stand().Saetze[1].Geaendert() && s_->Stand().Saetze[2].Geaendert());
+    EXPECT_TRUE(s_->Stand().Saetze[Wirkstoff].Geaendert() && s_->Stand().Saetze[Applikation].Geaendert());
     EXPECT_FALSE(gibt_es("backup"));
 }
 

@@ -62,7 +62,7 @@ public:
     void beginne() {
         s_ = std::make_unique<Sitzung>(Umgebung{&Zuhoerer_, Wurzel_.string(), "", '.'});
         EXPECT_TRUE(s_->fuehre_aus<&Programmablauf::oeffne_Projekt>());
-        befiehl<&Programmablauf::starte>();
+        befiehl<&Programmablauf::verlasse_Startseite>();
     }
 
 protected:

@@ -17,7 +17,7 @@ TEST_F(Befehlsprobe, a_new_record_takes_the_values_of_its_template_the_first_num
     EXPECT_EQ(z().gewaehlt(Szenario), "new scenario1");
     EXPECT_EQ(Datei(in("new scenario1", Szenario)), Datei(in("Second", Szenario)));
     EXPECT_EQ(z().Parameter().Bodendichte, 3);
-    EXPECT_TRUE(z().Saetze[0].Geaendert());
+    EXPECT_TRUE(z().Saetze[Simulation].Geaendert());
     EXPECT_TRUE(z().Simulation_markiert());
     EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe + 1);
     EXPECT_FALSE(z().abgedeckt());
@@ -59,7 +59,7 @@ TEST_F(Befehlsprobe, unsaved_values_are_in_backup_before_a_new_record_replaces_t
     tippe("S_DT50_0", "12");
     s_->fuehre_aus<&Satzverwaltung::lege_an>(Wirkstoff);
     EXPECT_EQ(gesichert(), Namen{"unsaved Probe.che"});
-    EXPECT_FALSE(z().Saetze[1].Geaendert());
+    EXPECT_FALSE(z().Saetze[Wirkstoff].Geaendert());
     EXPECT_NE(z().Statuszeile.Text().find("backup/"), std::string::npos);
 }
 
@@ -71,8 +71,8 @@ TEST_F(Befehlsprobe, a_copy_has_the_file_of_the_old_name_and_the_values_of_the_s
     EXPECT_EQ(Datei("input/copy of Probe.che"), Datei("input/Probe.che"));
     EXPECT_EQ(z().gewaehlt(Wirkstoff), "copy of Probe");
     EXPECT_EQ(s_->zeige<Feldeingabe>().Text(Feld("S_DT50_0")), "12");
-    EXPECT_TRUE(z().Saetze[1].Geaendert());
-    EXPECT_TRUE(z().Saetze[0].Geaendert());
+    EXPECT_TRUE(z().Saetze[Wirkstoff].Geaendert());
+    EXPECT_TRUE(z().Saetze[Simulation].Geaendert());
     EXPECT_TRUE(z().Simulation_markiert());
     EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe);
     EXPECT_FALSE(z().abgedeckt());
@@ -82,7 +82,7 @@ TEST_F(Befehlsprobe, a_copy_has_the_file_of_the_old_name_and_the_values_of_the_s
 TEST_F(Befehlsprobe, a_copy_of_a_simulation_marks_nothing_and_is_the_newest) {
     gestartet().fuehre_aus<&Satzverwaltung::kopiere>(Simulation);
     EXPECT_EQ(z().gewaehlt(Simulation), "copy of Probe");
-    EXPECT_FALSE(z().Saetze[0].Geaendert());
+    EXPECT_FALSE(z().Saetze[Simulation].Geaendert());
     EXPECT_EQ(neueste_Simulation(Projektordner(Wurzel_.string())), "copy of Probe");
     erwarte_Gleichstand(Simulation);
 }
@@ -107,7 +107,7 @@ TEST_F(Befehlsprobe, a_copy_over_an_existing_file_with_no_changes_nothing) {
     s_->fuehre_aus<&Satzverwaltung::kopiere>(Wirkstoff);
     EXPECT_EQ(z().gewaehlt(Wirkstoff), "Probe");
     EXPECT_EQ(Datei("input/copy of Probe.che"), "old");
-    EXPECT_FALSE(z().Saetze[0].Geaendert());
+    EXPECT_FALSE(z().Saetze[Simulation].Geaendert());
 }
 
 TEST_F(Befehlsprobe, no_to_the_delete_question_changes_nothing) {
@@ -189,7 +189,7 @@ TEST_F(Befehlsprobe, after_deleting_a_simulation_refresh_loads_its_neighbour) {
     bejahe_Loeschen();
     s_->fuehre_aus<&Satzverwaltung::loesche>(Simulation);
     s_->fuehre_aus<&Satzverwaltung::aktualisiere>();
-    EXPECT_EQ(z().Felder().Beschreibung, "second");
+    EXPECT_EQ(z().Vorgabe.Beschreibung, "second");
     EXPECT_EQ(z().Parameter().Bodendichte, 3);
     EXPECT_FALSE(z().abgedeckt());
 }
@@ -202,8 +202,8 @@ TEST_F(Befehlsprobe, a_record_gets_another_name_and_nothing_is_read) {
     EXPECT_FALSE(gibt_es("input/Probe.che"));
     EXPECT_EQ(Datei("input/Renamed.che"), Inhalt);
     EXPECT_EQ(s_->zeige<Feldeingabe>().Text(Feld("S_DT50_0")), "12");
-    EXPECT_TRUE(z().Saetze[1].Geaendert());
-    EXPECT_TRUE(z().Saetze[0].Geaendert());
+    EXPECT_TRUE(z().Saetze[Wirkstoff].Geaendert());
+    EXPECT_TRUE(z().Saetze[Simulation].Geaendert());
     EXPECT_TRUE(z().Simulation_markiert());
     EXPECT_FALSE(z().abgedeckt());
     erwarte_Gleichstand(Wirkstoff);
@@ -226,7 +226,7 @@ TEST_F(Befehlsprobe, a_name_of_three_characters_is_taken_as_it_stands) {
 TEST_F(Befehlsprobe, an_unchanged_name_asks_nothing_and_a_change_of_case_only_renames) {
     gestartet();
     EXPECT_TRUE(benenne_um(*s_, Wirkstoff, "Probe", true));
-    EXPECT_FALSE(z().Saetze[0].Geaendert());
+    EXPECT_FALSE(z().Saetze[Simulation].Geaendert());
     EXPECT_TRUE(benenne_um(*s_, Wirkstoff, "PROBE", true));
     EXPECT_TRUE(gibt_es("input/PROBE.che"));
     EXPECT_FALSE(gibt_es("input/Probe.che"));
@@ -284,7 +284,7 @@ TEST_P(Unnamen, are_refused_before_a_file_is_touched) {
     EXPECT_FALSE(benenne_um(*s_, Wirkstoff, GetParam().Name, true));
     EXPECT_EQ(auf_Platte(Wirkstoff), vorher);
     EXPECT_EQ(z().gewaehlt(Wirkstoff), "Probe");
-    EXPECT_FALSE(z().Saetze[0].Geaendert());
+    EXPECT_FALSE(z().Saetze[Simulation].Geaendert());
     EXPECT_TRUE(gesichert().empty());
 }
 
@@ -359,7 +359,7 @@ TEST_F(Befehlsprobe, a_record_changed_by_another_program_is_not_saved_over_witho
     Fragen_.erwarte("Replace existing record?", Text, Knopf::Nein);
     s_->fuehre_aus<&Satzverwaltung::speichere>();
     EXPECT_EQ(Datei("input/Probe.che"), "theirs");
-    EXPECT_TRUE(z().Saetze[1].Geaendert());
+    EXPECT_TRUE(z().Saetze[Wirkstoff].Geaendert());
     Fragen_.erwarte("Replace existing record?", Text, Knopf::Ja);
     s_->fuehre_aus<&Satzverwaltung::speichere>();
     EXPECT_NE(Datei("input/Probe.che"), "theirs");
@@ -392,7 +392,7 @@ TEST_F(Befehlsprobe, a_second_window_on_the_folder_says_so_and_saves_only_after_
     Sitzung zweite(Umgebung{&Antworten, Wurzel_.string(), "", '.'});
     Antworten.erwarte_Anfang("Project folder in use", "Another window of VARNOK works on this project folder.");
     ASSERT_TRUE(zweite.fuehre_aus<&Programmablauf::oeffne_Projekt>());
-    zweite.fuehre_aus<&Programmablauf::starte>();
+    zweite.fuehre_aus<&Programmablauf::verlasse_Startseite>();
     const auto vorher = std::filesystem::last_write_time(Wurzel_ / "input/Probe.che");
     Antworten.erwarte_Anfang("Save changes?", "Another window of VARNOK works on this project folder.", Knopf::Nein);
     zweite.fuehre_aus<&Satzverwaltung::speichere>();
