@@ -61,8 +61,8 @@ std::string Bildsteuerung::Daten(const Datenform& f) const {
     const bool mit_Tafel = z_.Sicht.PEC_Typ != Hintergrund;
     for (const int c : mit_Tafel ? Stoffe_von(d) : std::vector<int>()) {
         const std::string Titel = d.Ergebnistitel.empty() ? "" : d.Ergebnistitel + ": ";
-        Tafeln.push_back({Titel + Stoffname(z_.Vorgabe, c),
-                          d.Zusammenfassung ? Ergebnisse_aller_Studien(z_, c) : Ergebnisse_einer_Studie(z_, c)});
+        Tafeln.push_back(
+            {Titel + Stoffname(z_.Vorgabe, c), d.Zusammenfassung ? Werte_aller_Studien(z_, c) : Werte_einer_Studie(z_, c)});
     }
     return Diagrammdaten(d, Tafeln, f);
 }
