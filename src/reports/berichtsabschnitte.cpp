@@ -5,7 +5,6 @@
 #include <string_view>
 
 #include "base/laufzeitfehler.h"
-#include "base/text.h"
 #include "base/zahlen.h"
 #include "exposure/ergebnistabelle.h"
 #include "reports/berichtswoerter.h"
@@ -93,7 +92,7 @@ const char* Schemaname(Stoffschema s) { return Berichtsschemata.at(s); }
 
 std::string Punkttext(const Zahlwert& z) {
     std::string Text = z.Text();
-    if (lies_Zahl(ohne_Randblanks(Text)).ganz()) std::replace(Text.begin(), Text.end(), ',', '.');
+    if (z.ganz()) std::replace(Text.begin(), Text.end(), ',', '.');
     return Text;
 }
 
