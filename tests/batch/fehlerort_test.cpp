@@ -81,7 +81,7 @@ TEST_F(Ort_des_Fehlers, of_a_table_row_keeps_the_row_beside_the_line) {
 
 TEST_F(Ort_des_Fehlers, of_a_cell_of_the_table_is_its_store_beside_its_word) {
     Vorlage.Felder.Applikationsmuster = unregelmaessig;
-    Vorlage.Felder.Applikationsschema = {{"01", "04", "100", "0"}, {"31", "04", "100", "0"}};
+    Vorlage.Felder.Applikationsschema = {{"01", "04", "100", "0"}, {"00", "04", "100", "0"}};
     Vorlage.Felder.Anzahl_Index = 0;
     Projekt.schreibe("bad", Vorlage);
     Arbeitsplatz Platz;
