@@ -127,7 +127,7 @@ public:
         std::string Text;
         for (const auto& s : a.Ergebnis.Studien) {
             for (int c = 0; c < static_cast<int>(s->Stoffwerte.size()); ++c) {
-                for (const Endpunktart e : {Gesamtgehalt, Porenwasser}) schreibe_Zeile(CSV_Zeile(Text), a, Umfang_, *s, c, e);
+                for (const Endpunktart e : alle_Endpunkte) schreibe_Zeile(CSV_Zeile(Text), a, Umfang_, *s, c, e);
             }
         }
         return Text;

@@ -63,7 +63,7 @@ void Datenbank::schreibe(const Ergebnis& s, const Variantennummer& Variante) {
     Anweisung& e = Ziel_.Zeilen().Ergebnis;
     const Eingabe& v = *s.Vorgabe;
     for (int c = 0; c < static_cast<int>(s.Stoffwerte.size()); ++c) {
-        for (const Endpunktart Endpunkt : {Gesamtgehalt, Porenwasser}) {
+        for (const Endpunktart Endpunkt : alle_Endpunkte) {
             const Endpunktergebnis& w = s.Werte(Endpunkt, c);
             mit(e.nimm(1, Simulation_), 2, Variante);
             e.nimm(3, s.i_studie + 1).nimm(4, v.Studie.at(static_cast<std::size_t>(s.i_studie)));

@@ -24,7 +24,7 @@ JSON als_Objekt(const Fensterergebnis& f) {
     return {{"days", Tage(f.Tage)}, {"maximum", Zahl(f.Maximum)}, {"start", f.Starttag}, {"actual", Zahl(f.aktuell)}};
 }
 
-JSON als_Objekt(const Endpunktergebnis& e, Endpunktart Endpunkt, int Einheit) {
+JSON als_Objekt(const Endpunktergebnis& e, Endpunktart Endpunkt, Einheitsart Einheit) {
     JSON Jahresmaximum = JSON::array();
     for (const float m : e.Jahresmaximum) Jahresmaximum.push_back(Zahl(m));
     JSON TWA = JSON::array();
@@ -45,7 +45,7 @@ JSON als_Objekt(const Endpunktergebnis& e, Endpunktart Endpunkt, int Einheit) {
 
 JSON Stoffobjekt(const Ergebnis& s, int i_substanz) {
     JSON Endpunktliste = JSON::array();
-    for (const Endpunktart e : {Gesamtgehalt, Porenwasser})
+    for (const Endpunktart e : alle_Endpunkte)
         Endpunktliste.push_back(als_Objekt(s.Werte(e, i_substanz), e, s.Vorgabe->Parameter.Einheit));
     return {{"compound", i_substanz}, {"name", Stoffname(*s.Vorgabe, i_substanz)}, {"endpoints", std::move(Endpunktliste)}};
 }
@@ -119,9 +119,9 @@ void haenge_an(JSON& Objekt, const Simulationsergebnis& r) {
     for (const Bemerkung& b : r.Bemerkungen) Bemerkungen.push_back(als_Objekt(b));
     Objekt.update({
         {"description", r.Beschreibung},
-        {"compound_record", r.Dateinamen[1]},
-        {"application_record", r.Dateinamen[2]},
-        {"scenario_record", r.Dateinamen[3]},
+        {"compound_record", r.Dateinamen[Wirkstoff]},
+        {"application_record", r.Dateinamen[Applikation]},
+        {"scenario_record", r.Dateinamen[Szenario]},
         {"Einheit", p.Einheit},
         {"Separate_Rueckstaende", p.Separate_Rueckstaende},
         {"TWA_Zeiten", p.TWA_Zeiten},

@@ -38,7 +38,7 @@ std::vector<Kennwerte> entnimm_Kennwerte(const Simulationsergebnis& r) {
     std::vector<Kennwerte> Alle;
     for (const auto& s : r.Studien) {
         for (int c = 0; c < static_cast<int>(s->Stoffwerte.size()); ++c) {
-            for (const Endpunktart e : {Gesamtgehalt, Porenwasser}) {
+            for (const Endpunktart e : alle_Endpunkte) {
                 const Endpunktergebnis& w = s->Werte(e, c);
                 Kennwerte k;
                 k.Studie = s->i_studie + 1;

@@ -47,7 +47,7 @@ void haenge_an(std::vector<Bemerkung>& Bemerkungen, const std::vector<Bemerkung>
 void lade_Saetze(const Auftrag& a, const std::string& Simulation, const Simulationssatz& Satz, Eingabe& e, Ansicht& Sicht,
                  std::vector<Bemerkung>& Bemerkungen, Eingabensumme* Summe) {
     e.Beschreibung = Satz.Beschreibung;
-    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) fordere_Satz(a, Simulation, Satz, Art);
+    for (const Satzart Art : Eingabearten) fordere_Satz(a, Simulation, Satz, Art);
     std::array<std::string, 4> Bytes;
     for (const Satzart Art : Lesefolge) {
         const std::string Datei = Satzdatei(Satz, Art);
@@ -61,7 +61,7 @@ void lade_Saetze(const Auftrag& a, const std::string& Simulation, const Simulati
         }
     }
     if (!Summe) return;
-    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) Summe->nimm_Datei(Bytes[Art]);
+    for (const Satzart Art : Eingabearten) Summe->nimm_Datei(Bytes[Art]);
 }
 
 }  // namespace varnok::batch

@@ -131,7 +131,7 @@ std::string Satztabelle(const Projektordner& Ordner) {
     Projektpruefer Pruefer(Ordner);
     std::string Text;
     schreibe_Kopf(CSV_Zeile(Text));
-    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) {
+    for (const Satzart Art : Eingabearten) {
         for (const std::string& Name : Ordner.Namen(Endungen[Art])) {
             const auto Befunde = Pruefer.pruefe_Satz(Name, Art);
             Eingabe e;

@@ -15,7 +15,7 @@ struct Spalte {
 std::vector<Spalte> waehle_Spalten(const Ergebnis& s) {
     std::vector<Spalte> Spalten;
     for (int c = 0; c < static_cast<int>(s.Stoffwerte.size()); ++c) {
-        for (int e = 0; e < Endpunkte; ++e) {
+        for (const Endpunktart e : alle_Endpunkte) {
             std::string Indizes = "_";
             Indizes.append(std::to_string(c)).append("_").append(std::to_string(e));
             Spalten.push_back({"Boden" + Indizes, &s.Werte(e, c).Reihe_Bodentiefe});

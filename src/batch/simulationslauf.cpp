@@ -63,7 +63,7 @@ Eingabensumme gemeinsame_Summe(const Auftrag& a, const Lesung& l, const std::str
 std::string Summe_von(const Auftrag& a, const std::shared_ptr<const Lesung>& l, const Eingabe& e,
                       const std::optional<Variante>& Herkunft, Arbeitsplatz& Platz) {
     if (!l->Summe) return {};
-    const std::string Klima = e.Parameter.Klimamodus == 1 ? e.Klimaszenario : std::string();
+    const std::string Klima = e.Parameter.Klimamodus == nach_Klimadatei ? e.Klimaszenario : std::string();
     if (!Platz.Summe || Platz.Summe->von != l || Platz.Summe->Klima != Klima)
         Platz.Summe = Arbeitsplatz::Summenstand{l, Klima, gemeinsame_Summe(a, *l, Klima)};
     Eingabensumme Summe = Platz.Summe->Summe;
@@ -150,7 +150,7 @@ void rechne(const Auftrag& a, const Arbeitsstueck& s, Arbeitsplatz& Platz, Simul
     const Eingabe& e = *g.Vorgabe;
     r.Eingabensumme = Summe_von(a, l, e, s.Herkunft, Platz);
     if (s.Herkunft && Platz.Summe && l->Summe) r.gemeinsame_Summe = Platz.Summe->Summe.als_Text();
-    if (e.Parameter.Klimamodus == 1 && Platz.Klima->lade(e.Klimaszenario))
+    if (e.Parameter.Klimamodus == nach_Klimadatei && Platz.Klima->lade(e.Klimaszenario))
         haenge_an(r.Bemerkungen, Platz.Klima->Bemerkungen(), a.Ordner);
     r.Bemerkungen.insert(r.Bemerkungen.end(), a.zu_den_Einstellungen.begin(), a.zu_den_Einstellungen.end());
     if (!a.Vorgaben.leer()) {

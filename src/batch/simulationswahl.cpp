@@ -27,7 +27,7 @@ std::string vorhandener_Name(const Namensliste& Namen, const std::string& Name, 
     throw Aufruffehler("there is no simulation \"" + Name + "\" in " + Ordner.Eingabeordner());
 }
 
-Namensliste Auswahl(const Projektordner& Ordner, const Aufruf& a, const Namensliste& Namen) {
+Namensliste gewaehlte_Simulationen(const Projektordner& Ordner, const Aufruf& a, const Namensliste& Namen) {
     if (a.alle) return Namen;
     Namensliste Gewaehlte;
     for (const std::string& Name : a.Simulationen) Gewaehlte.push_back(vorhandener_Name(Namen, Name, Ordner));
@@ -53,7 +53,7 @@ Namensliste waehle_Simulationen(const Projektordner& Ordner, const Aufruf& a) {
     const Namensliste Namen = Ordner.Namen(Endungen[Simulation]);
     if (Namen.empty()) throw Aufruffehler(Ordner.Eingabeordner() + ": there is no simulation (*.vnk) in this project");
 
-    return jeden_einmal(Auswahl(Ordner, a, Namen));
+    return jeden_einmal(gewaehlte_Simulationen(Ordner, a, Namen));
 }
 
 }  // namespace varnok::batch

@@ -22,7 +22,7 @@ constexpr const char* ohne_Wert = "-";
 using Zellen = std::vector<std::string>;
 
 const std::array<std::size_t, 5>& Fenster(const Simulationsergebnis& r) {
-    return gezeigte_Fenster[r.Vorgabe->Parameter.TWA_Zeiten == 0 ? 0 : 1];
+    return gezeigte_Fenster[r.Vorgabe->Parameter.TWA_Zeiten];
 }
 
 Zellen Kopfzeile(const Simulationsergebnis& r, const Endpunktergebnis& e) {
@@ -91,9 +91,9 @@ std::string Simulationstext(const Simulationsausgang& a, const Schreibumfang& u)
     std::string Text = "Simulation:  " + druckbar(r.Name) + "\n";
     if (a.Herkunft) Text += "Variant:     " + Variantentext(*a.Herkunft, u.Variantennamen) + "\n";
     if (!r.Beschreibung.empty()) Text += "Description: " + druckbar(r.Beschreibung) + "\n";
-    Text += "Records:     compound \"" + druckbar(r.Dateinamen[1]) + "\", application pattern \"" + druckbar(r.Dateinamen[2]) +
-            "\", scenario \"" + druckbar(r.Dateinamen[3]) + "\"\n";
-    for (const Endpunktart e : {Gesamtgehalt, Porenwasser}) Text += Endpunkttabelle(r, e);
+    Text += "Records:     compound \"" + druckbar(r.Dateinamen[Wirkstoff]) + "\", application pattern \"" +
+            druckbar(r.Dateinamen[Applikation]) + "\", scenario \"" + druckbar(r.Dateinamen[Szenario]) + "\"\n";
+    for (const Endpunktart e : alle_Endpunkte) Text += Endpunkttabelle(r, e);
     for (const auto& s : r.Studien) {
         for (const std::string& w : s->Warnungen)
             Text += "\nWarning, study " + std::to_string(s->i_studie + 1) + ": " + druckbar(w) + "\n";

@@ -29,7 +29,7 @@ std::string Datum(int Jahrestag) {
 void schreibe_Kopf(CSV_Zeile z, const Ergebnis& s) {
     for (const char* Name : {"day", "year", "date", "temperature (°C)", "soil moisture (Vol%)", "dose (g/ha)"}) z.Text(Name);
     for (int c = 0; c < static_cast<int>(s.Stoffwerte.size()); ++c) {
-        for (const Endpunktart e : {Gesamtgehalt, Porenwasser}) {
+        for (const Endpunktart e : alle_Endpunkte) {
             const std::string davor = Stoffname(*s.Vorgabe, c) + " " + std::string(Endpunktnamen[e]) + " ";
             const std::string Einheit = " (" + std::string(Konzentrationseinheit(s.Vorgabe->Parameter.Einheit, e)) + ")";
             for (const std::string_view Sicht : Ansichtsnamen) z.Text(davor + std::string(Sicht) + Einheit);
@@ -44,7 +44,7 @@ Tageswetter bestimme_Tageswetter(const Eingabe& e, const Klimaquelle& Quelle, La
     Tageswetter w;
     l.Felder = e;
     beginne_Tageswerte(l);
-    auto Tage = e.Parameter.Klimamodus == 1 ? Quelle.lade(e.Klimaszenario) : std::nullopt;
+    auto Tage = e.Parameter.Klimamodus == nach_Klimadatei ? Quelle.lade(e.Klimaszenario) : std::nullopt;
     if (!Tage) {
         setze_konstantes_Klima(l);
         w.Temperatur = {l.Tag.Tagestemperatur};

@@ -89,7 +89,7 @@ struct Diagramm {
     Beschriftung Name_x_Achse;
     Beschriftung Name_y_Achse;
     std::string Ergebnistitel;            // over the table of results; empty for a multi-compound diagram, which has none
-    int Einheit = 0;                      // of the curves: 0 mg, 1 microgram,
+    Einheitsart Einheit = Milligramm;     // of the curves,
     Endpunktart Endpunkt = Gesamtgehalt;  // per kg of soil or per litre of pore water
     Legende Legendeninhalt;
     std::vector<Kurve> Kurven;

@@ -17,8 +17,7 @@ public:
 
     PEC_Ansicht PEC_Art() const { return d_.Sicht.PEC_Typ; }
     Endpunktart Endpunkt() const { return d_.Sicht.Endpunkt; }
-    // 0 mg, 1 microgram
-    int Masseneinheit() const { return Vorgabe_.Parameter.Einheit; }
+    Einheitsart Masseneinheit() const { return Vorgabe_.Parameter.Einheit; }
 
     // Largest value of the run, and the series on the days from `von` to `bis`.
     float Maximum(int i_studie, int i_substanz) const;

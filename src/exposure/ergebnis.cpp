@@ -36,11 +36,12 @@ float PECactual(Tagesreihe_lesend Reihe, int Maximumtag, float Fenstertage) {
 // The series of one compound and endpoint as the stores hold it.
 struct Speicherplatz {
     const Ergebnisspeicher& s;
-    int e, st, c;
+    Endpunktart e;
+    int st, c;
 
     template <class T>
     const T& aus(const Ergebnistabelle<T>& Tabelle) const {
-        return Tabelle[Platz(e)][Platz(st)][Platz(c)];
+        return Tabelle[e][Platz(st)][Platz(c)];
     }
     template <class Zahl>
     Zahl endlich(Zahl Wert, const char* Name) const {
@@ -101,7 +102,7 @@ Ergebnis entnimm_Ergebnis(const Lauf& l, int i_studie, std::shared_ptr<const Ein
     const std::vector<float> Fenster = TWA_Fenster(l.Felder.Parameter);
     for (int c = 0; c < Anzahl_Stoffe(l.Felder.Berechnungsmodus); ++c) {
         Stoffergebnis Stoff;
-        for (int e = 0; e < Endpunkte; ++e) Stoff.Endpunktwerte[Platz(e)] = entnimm_Endpunkt({s, e, i_studie, c}, Fenster, u);
+        for (const Endpunktart e : alle_Endpunkte) Stoff.Endpunktwerte[e] = entnimm_Endpunkt({s, e, i_studie, c}, Fenster, u);
         r.Stoffwerte.push_back(std::move(Stoff));
     }
     r.Warnungen = l.Warnungen;

@@ -62,8 +62,8 @@ struct Ergebnis {
     std::vector<Stoffergebnis> Stoffwerte;  // those of the scheme, parent first
     std::vector<std::string> Warnungen;
 
-    const Endpunktergebnis& Werte(int i_endpunkt, int i_substanz) const {
-        return Stoffwerte.at(static_cast<std::size_t>(i_substanz)).Endpunktwerte.at(static_cast<std::size_t>(i_endpunkt));
+    const Endpunktergebnis& Werte(Endpunktart e, int i_substanz) const {
+        return Stoffwerte.at(static_cast<std::size_t>(i_substanz)).Endpunktwerte[e];
     }
 };
 

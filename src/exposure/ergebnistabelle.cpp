@@ -36,7 +36,7 @@ double gezeigter_Wert(const Darstellung& d, const Endpunktergebnis& e, float ges
     return Ansichtswert(e.Plateauwert, d.Sicht.PEC_Typ, d.Sicht.Fruchtwechsel, gespeichert);
 }
 
-int Einheit_der_Studie(const Darstellung& d, int i_studie) { return d.Studie(i_studie).Vorgabe->Parameter.Einheit; }
+Einheitsart Einheit_der_Studie(const Darstellung& d, int i_studie) { return d.Studie(i_studie).Vorgabe->Parameter.Einheit; }
 
 // The rows that the averaging windows of the input make.
 std::vector<Ergebniswerte::Zeile> leere_Zeilen(const Darstellung& d) {
@@ -56,12 +56,12 @@ double Ansichtswert(float Plateauwert, PEC_Ansicht PEC_Art, Fruchtfolge Fruchtwe
            static_cast<double>(gespeichert);
 }
 
-std::string Formatiere_Zahl(double Wert, bool kuerzen, bool Grenztext, int Einheit, char Dezimalzeichen) {
+std::string Formatiere_Zahl(double Wert, bool kuerzen, bool Grenztext, Einheitsart Einheit, char Dezimalzeichen) {
     const bool fest = !kuerzen && Grenztext;
     if (!fest && Wert < 0) throw Laufzeitfehler("A negative concentration cannot be shown: " + allgemeine_Zahl(Wert));
-    const int Stellen = fest ? (Einheit == 0 ? 4 : 2) : Wert == 0 ? 1 : Stellen_fuer(Wert);
+    const int Stellen = fest ? (Einheit == Milligramm ? 4 : 2) : Wert == 0 ? 1 : Stellen_fuer(Wert);
     const double gezeigter = gerundet(Wert, Stellen);
-    if (fest && gezeigter == 0) return "<" + allgemeine_Zahl(Einheit == 1 ? 0.01 : 0.0001, Dezimalzeichen);
+    if (fest && gezeigter == 0) return "<" + allgemeine_Zahl(Einheit == Mikrogramm ? 0.01 : 0.0001, Dezimalzeichen);
     std::string Text = feste_Zahl(Wert, Stellen, Dezimalzeichen);
     if (kuerzen && gezeigter > 0) schneide_Nullen(Text, Dezimalzeichen);
     if (Text.back() == Dezimalzeichen) Text.pop_back();
@@ -84,7 +84,7 @@ std::string Ergebniswerte::Text(const Zeile& z, std::size_t i_spalte, char Dezim
 
 Ergebniswerte Werte_einer_Studie(const Darstellung& d, int i_studie, int i_substanz) {
     const Endpunktergebnis& e = d.Werte(i_studie, i_substanz);
-    const int Einheit = Einheit_der_Studie(d, i_studie);
+    const Einheitsart Einheit = Einheit_der_Studie(d, i_studie);
     Ergebniswerte w{{{Kopf_aktuell, Einheit}, {Kopf_Mittelwert, Einheit}}, leere_Zeilen(d)};
     w.Zeilen[0].Spalten = {gezeigter_Wert(d, e, e.Maximum_Bodentiefe), std::nullopt};
     for (std::size_t j = 0; j < e.TWA.size(); ++j)

@@ -14,7 +14,7 @@ double Ansichtswert(float Plateauwert, PEC_Ansicht PEC_Art, Fruchtfolge Fruchtwe
 
 // Text of a concentration in the unit `Einheit`. `kuerzen` cuts zeros at the end, `Grenztext` writes "<0.0001"
 // or "<0.01" for what rounds to zero. Throws Laufzeitfehler for a negative value unless the pattern is fixed.
-std::string Formatiere_Zahl(double Wert, bool kuerzen, bool Grenztext, int Einheit, char Dezimalzeichen = '.');
+std::string Formatiere_Zahl(double Wert, bool kuerzen, bool Grenztext, Einheitsart Einheit, char Dezimalzeichen = '.');
 
 // Day that lies a window's length after the day of the peak in the soil depth, at most the last day of the run.
 // Negative for a compound that never rose above 0 and a short window: there the concentration is 0.
@@ -24,7 +24,7 @@ int PECactual_Tag(int Maximumtag, float Fenstertage);
 struct Ergebniswerte {
     struct Spalte {
         std::string Kopf;
-        int Einheit = 0;  // of its concentrations
+        Einheitsart Einheit = Milligramm;  // of its concentrations
     };
     struct Zeile {
         std::optional<float> Fenster;                // days; none for the peak

@@ -76,9 +76,10 @@ private:
     template <std::size_t Kompartimente>
     void rechne_Reihen() {
         Ergebnisspeicher& s = l_.Speicher;
-        Reihe<Kompartimente> Plateau(*this, s.Reihe_Plateautiefe(0, l_.i_studie, l_.i_substanz), s.Bildung_Plateautiefe,
-                                     Tiefe::Plateau);
-        Reihe<Kompartimente> Boden(*this, s.Reihe_Bodentiefe(0, l_.i_studie, l_.i_substanz), s.Bildung_Bodentiefe, Tiefe::Boden);
+        Reihe<Kompartimente> Plateau(*this, s.Reihe_Plateautiefe(Gesamtgehalt, l_.i_studie, l_.i_substanz),
+                                     s.Bildung_Plateautiefe, Tiefe::Plateau);
+        Reihe<Kompartimente> Boden(*this, s.Reihe_Bodentiefe(Gesamtgehalt, l_.i_studie, l_.i_substanz), s.Bildung_Bodentiefe,
+                                   Tiefe::Boden);
         for (int d = 1; d <= Faktoren_.letzter(); ++d) {
             Plateau.rechne_Tag(d);
             Boden.rechne_Tag(d);

@@ -97,7 +97,7 @@ void bestimme_Plateaujahr(Plateauplatz& p) {
 void summiere_Reihe(Plateauplatz& p, Lauf& l) {
     const Laufparameter& q = l.Felder.Parameter;
     const auto st = static_cast<std::size_t>(l.i_studie);
-    const double F = (l.Speicher.Wirksame_Rate / 1000) / (q.Bodendichte * q.Plateautiefe / 10) * (q.Einheit == 0 ? 1 : 1000);
+    const double F = (l.Speicher.Wirksame_Rate / 1000) / (q.Bodendichte * q.Plateautiefe / 10) * Einheitenfaktor(q.Einheit);
     const double k = q.k_SFO[0][st] * std::pow(q.Q10[0][st], (q.Szenariotemperatur - q.TRef[0][st]) / 10);
     const double x = Maximum(std::exp(-Tage_pro_Jahr * k), 1E-30);  // keeps the plateau above 0 for fast decay
     bestimme_Plateaujahr(p);
@@ -113,7 +113,7 @@ void summiere_Reihe(Plateauplatz& p, Lauf& l) {
 
 // Whether the yearly loss factor of the compound is constant and known.
 bool geschlossen(const Laufparameter& p, std::size_t st, std::size_t c) {
-    const bool konstant = p.Klimamodus == 0 || (p.Q10[0][st] == 1 && p.Walker[0][st] == 0);
+    const bool konstant = p.Klimamodus == konstante_Temperatur || (p.Q10[0][st] == 1 && p.Walker[0][st] == 0);
     return c == 0 && p.Kinetik[0][st] == SFO && konstant;
 }
 
@@ -150,7 +150,7 @@ double finde_maximales_Plateau(float y_a, float y_b, double t_a, double t_b) {
 void berechne_Plateau(Lauf& l) {
     const auto st = static_cast<std::size_t>(l.i_studie);
     const auto c = static_cast<std::size_t>(l.i_substanz);
-    for (std::size_t e = 0; e < Endpunkte; ++e) {
+    for (const Endpunktart e : alle_Endpunkte) {
         Plateauplatz p(l.Speicher, e, st, c);
         p.Zuwachs = Maximum(0, p.Peak(10) - p.Peak(1));
         if (geschlossen(l.Felder.Parameter, st, c)) {

@@ -83,7 +83,7 @@ private:
 std::vector<float> TWA_Fenster(const Laufparameter& p) {
     std::vector<float> Fenster;
     const auto verkuerze = [](double Tage) { return static_cast<float>(Tage); };
-    if (p.TWA_Zeiten == 1) {
+    if (p.TWA_Zeiten == EU_Liste) {
         std::transform(p.TWA.EU.begin(), p.TWA.EU.end(), std::back_inserter(Fenster), verkuerze);
     } else {
         std::transform(p.TWA.Monat.begin(), p.TWA.Monat.end(), std::back_inserter(Fenster), verkuerze);
@@ -106,10 +106,10 @@ void berechne_TWA(Lauf& l) {
     const auto st = static_cast<std::size_t>(l.i_studie);
     const auto c = static_cast<std::size_t>(l.i_substanz);
     const std::vector<float> Laengen = TWA_Fenster(l.Felder.Parameter);
-    std::array<Tagesreihe_lesend, Endpunkte> Integral = {s.Integral_Bodentiefe(0, l.i_studie, l.i_substanz),
-                                                         s.Integral_Bodentiefe(1, l.i_studie, l.i_substanz)};
+    std::array<Tagesreihe_lesend, Endpunkte> Integral = {s.Integral_Bodentiefe(Gesamtgehalt, l.i_studie, l.i_substanz),
+                                                         s.Integral_Bodentiefe(Porenwasser, l.i_studie, l.i_substanz)};
     std::array<bool, Endpunkte> steigt;
-    for (std::size_t e = 0; e < Endpunkte; ++e)
+    for (const Endpunktart e : alle_Endpunkte)
         steigt[e] = std::is_sorted(Integral[e].begin(), Integral[e].begin() + letzter_Tag + 1);
     for (std::size_t j = 1; j <= Laengen.size(); ++j) {
         const auto Laenge = static_cast<double>(Laengen[j - 1]);
@@ -117,7 +117,7 @@ void berechne_TWA(Lauf& l) {
             melde_unmoegliche_Rechnung("length of TWA window " + std::to_string(j) + " (d) = " + allgemeine_Zahl(Laenge),
                                        {{}, 0, "TWA"});
         }
-        for (std::size_t e = 0; e < Endpunkte; ++e) {
+        for (const Endpunktart e : alle_Endpunkte) {
             const Fenstermaximum m = Fenster(Integral[e], steigt[e], Laenge).suche();
             if (!std::isfinite(m.Mittel)) {
                 melde_unmoegliche_Rechnung("length of TWA window (d) = " + allgemeine_Zahl(Laenge), {{}, 0, "TWA"});

@@ -18,7 +18,7 @@ std::string TWA_Eintrag(float Tage, char Dezimalzeichen = '.');
 std::vector<std::string> TWA_Eintraege(const Laufparameter& p, char Dezimalzeichen = '.');
 
 // Preselected position of that selector: the 28-day or the 30-day window.
-constexpr int TWA_Vorauswahl(std::uint8_t TWA_Zeiten) { return 6 * TWA_Zeiten; }
+constexpr int TWA_Vorauswahl(TWA_Listenart Liste) { return Liste == EU_Liste ? 6 : 0; }
 
 // The largest mean concentration over any window of each length in force, and the first day of that
 // window, for `i_studie` and `i_substanz` and both endpoints, from the running integral of the series in the

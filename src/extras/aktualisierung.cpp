@@ -65,7 +65,7 @@ Ausgang Aktualisierung::tausche(const std::string& Programm) {
         return verwirf(Fehler.what());
     }
     sage(Updatetexte::Titel, Updatetexte::geladen);
-    if (Welt_.Tausch->starte()) return Ausgang::Programmende;
+    if (Welt_.Tausch->starte_neues_Programm()) return Ausgang::Programmende;
     return verwirf(Updatetexte::nicht_gestartet);
 }
 

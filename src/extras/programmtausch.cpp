@@ -108,7 +108,7 @@ void Dateitausch::bereite_vor(const std::string& Programm) {
     schreibe_Datei(Skriptdatei(), mit_Stapeldateien ? Tauschstapel() : Tauschskript(Angaben_), als_Datei);
 }
 
-bool Dateitausch::starte() {
+bool Dateitausch::starte_neues_Programm() {
     QProcess Helfer;
     Helfer.setProgram(mit_Stapeldateien ? QStringLiteral("cmd.exe") : QStringLiteral("/bin/sh"));
     QStringList Argumente{als_QString(Skriptdatei())};

@@ -15,8 +15,8 @@ public:
     virtual bool moeglich() const = 0;
     // Puts the new program and the script beside the old one. Throws Laufzeitfehler.
     virtual void bereite_vor(const std::string& Programm) = 0;
-    // Starts the script without waiting for it. False if that fails.
-    virtual bool starte() = 0;
+    // Starts the script, which starts the new program, without waiting for it. False if that fails.
+    virtual bool starte_neues_Programm() = 0;
     // Removes what `bereite_vor` made.
     virtual void verwirf() = 0;
 };
@@ -44,7 +44,7 @@ public:
 
     bool moeglich() const override;
     void bereite_vor(const std::string& Programm) override;
-    bool starte() override;
+    bool starte_neues_Programm() override;
     void verwirf() override;
 
     // What `bereite_vor` made, under names that nobody can foresee; empty before.

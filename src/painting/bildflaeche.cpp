@@ -7,7 +7,7 @@
 #include "diagrams/druckfassung.h"
 #include "painting/diagrammlage.h"
 #include "painting/rahmenfeld.h"
-#include "painting/titelsatz.h"
+#include "painting/titelform.h"
 #include "painting/zeichner.h"
 
 namespace varnok {

@@ -144,18 +144,18 @@ private:
     }
 
     void schreibe_Text(const Schriftzug& s) {
-        const Schriftsatz Satz = setze_Schrift(Flaeche_, z_.System, s, Schriftgroesse_Bericht);
+        const Schriftbild Bild = setze_Schrift(Flaeche_, z_.System, s, Schriftgroesse_Bericht);
         const bool mittig = s.Halt == Anker::mittig;
-        const QRectF& r = Satz.Platz;
+        const QRectF& r = Bild.Platz;
         xml_.writeStartElement(u"text"_s);
         merkmal(u"x", Zahl(mittig ? r.center().x() : s.Halt == Anker::rechts ? r.right() : r.left()));
-        merkmal(u"y", Zahl(r.top() + QFontMetricsF(Satz.Schrift).ascent()));
-        merkmal(u"font-size", Zahl(Satz.Schrift.pixelSize()));
+        merkmal(u"y", Zahl(r.top() + QFontMetricsF(Bild.Schrift).ascent()));
+        merkmal(u"font-size", Zahl(Bild.Schrift.pixelSize()));
         merkmal(u"fill", Palettenfarbe(s.Farbe).name());
         if (s.Halt != Anker::links) merkmal(u"text-anchor", mittig ? u"middle"_s : u"end"_s);
         if (s.fett) merkmal(u"font-weight", u"bold"_s);
         if (s.kursiv) merkmal(u"font-style", u"italic"_s);
-        xml_.writeCharacters(fuer_XML(Satz.Text));
+        xml_.writeCharacters(fuer_XML(Bild.Text));
         xml_.writeEndElement();
     }
 

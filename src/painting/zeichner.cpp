@@ -15,14 +15,14 @@ constexpr double Einheiten_pro_Punkt = 96.0 / 72.0;
 void male_Texte(QPainter& p, const QRectF& Flaeche, const Zeichenliste& z, int kleinste_Groesse) {
     p.setRenderHint(QPainter::TextAntialiasing);
     for (const Schriftzug& s : z.Texte) {
-        const Schriftsatz Satz = setze_Schrift(Flaeche, z.System, s, kleinste_Groesse);
-        p.setFont(Satz.Schrift);
+        const Schriftbild Bild = setze_Schrift(Flaeche, z.System, s, kleinste_Groesse);
+        p.setFont(Bild.Schrift);
         p.setPen(Palettenfarbe(s.Farbe));
-        p.drawText(Satz.Platz.topLeft() + QPointF(0, QFontMetricsF(Satz.Schrift).ascent()), Satz.Text);
+        p.drawText(Bild.Platz.topLeft() + QPointF(0, QFontMetricsF(Bild.Schrift).ascent()), Bild.Text);
     }
 }
 
-double Breite(const Schriftsatz& s) { return QFontMetricsF(s.Schrift).horizontalAdvance(s.Text); }
+double Breite(const Schriftbild& s) { return QFontMetricsF(s.Schrift).horizontalAdvance(s.Text); }
 
 }  // namespace
 
@@ -42,23 +42,23 @@ QPointF auf_Flaeche(const QRectF& Flaeche, const Koordinaten& System, Punkt p) {
             Flaeche.top() + (System.oben - p.y) / System.Hoehe() * Flaeche.height()};
 }
 
-Schriftsatz setze_Schrift(const QRectF& Flaeche, const Koordinaten& System, const Schriftzug& s, int kleinste_Groesse) {
-    Schriftsatz Satz{QString::fromStdString(s.Inhalt), Diagrammschrift(s.Groesse, s.fett, s.kursiv), {}, false};
+Schriftbild setze_Schrift(const QRectF& Flaeche, const Koordinaten& System, const Schriftzug& s, int kleinste_Groesse) {
+    Schriftbild Bild{QString::fromStdString(s.Inhalt), Diagrammschrift(s.Groesse, s.fett, s.kursiv), {}, false};
     if (s.einpassen) {
-        for (int g = s.Groesse - 1; g >= kleinste_Groesse && Breite(Satz) > Flaeche.width(); --g) {
-            Satz.Schrift = Diagrammschrift(g, s.fett, s.kursiv);
+        for (int g = s.Groesse - 1; g >= kleinste_Groesse && Breite(Bild) > Flaeche.width(); --g) {
+            Bild.Schrift = Diagrammschrift(g, s.fett, s.kursiv);
         }
-        if (Breite(Satz) > Flaeche.width()) {
-            Satz.gekuerzt = true;
-            Satz.Text = QFontMetricsF(Satz.Schrift).elidedText(Satz.Text, Qt::ElideMiddle, Flaeche.width());
+        if (Breite(Bild) > Flaeche.width()) {
+            Bild.gekuerzt = true;
+            Bild.Text = QFontMetricsF(Bild.Schrift).elidedText(Bild.Text, Qt::ElideMiddle, Flaeche.width());
         }
     }
-    Satz.Platz = QRectF(auf_Flaeche(Flaeche, System, s.Ort), QSizeF(Breite(Satz), QFontMetricsF(Satz.Schrift).height()));
-    Satz.Platz.translate(-Satz.Platz.width() * (s.Halt == Anker::links ? 0 : s.Halt == Anker::mittig ? 0.5 : 1), 0);
-    if (!s.einpassen) return Satz;
-    Satz.Platz.moveLeft(std::max(Flaeche.left(), std::min(Satz.Platz.left(), Flaeche.right() - Satz.Platz.width())));
-    Satz.Platz.moveTop(std::max(Flaeche.top(), std::min(Satz.Platz.top(), Flaeche.bottom() - Satz.Platz.height())));
-    return Satz;
+    Bild.Platz = QRectF(auf_Flaeche(Flaeche, System, s.Ort), QSizeF(Breite(Bild), QFontMetricsF(Bild.Schrift).height()));
+    Bild.Platz.translate(-Bild.Platz.width() * (s.Halt == Anker::links ? 0 : s.Halt == Anker::mittig ? 0.5 : 1), 0);
+    if (!s.einpassen) return Bild;
+    Bild.Platz.moveLeft(std::max(Flaeche.left(), std::min(Bild.Platz.left(), Flaeche.right() - Bild.Platz.width())));
+    Bild.Platz.moveTop(std::max(Flaeche.top(), std::min(Bild.Platz.top(), Flaeche.bottom() - Bild.Platz.height())));
+    return Bild;
 }
 
 void passe_Legende_an(Legende& l, Beschriftungsplaetze& p, double Flaechenbreite) {

@@ -19,7 +19,7 @@ inline constexpr int Schriftgroesse_Bericht = 7;
 inline constexpr int Schriftgroesse_Titel = 12;
 
 // How a text stands on a surface.
-struct Schriftsatz {
+struct Schriftbild {
     QString Text;
     QFont Schrift;
     QRectF Platz;
@@ -28,7 +28,7 @@ struct Schriftsatz {
 
 // Works out the place of a text. A label is moved inside the surface where it would leave it, then shrunk down
 // to `kleinste_Groesse`, then cut in its middle; other texts stand where they stand.
-Schriftsatz setze_Schrift(const QRectF& Flaeche, const Koordinaten& System, const Schriftzug& s,
+Schriftbild setze_Schrift(const QRectF& Flaeche, const Koordinaten& System, const Schriftzug& s,
                           int kleinste_Groesse = Schriftgroesse_Fenster);
 
 // A place of the drawing on the surface.

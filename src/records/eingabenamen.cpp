@@ -146,15 +146,15 @@ void setze_Bildungsanteil(Eingabe& e, Ansicht&, const Ort& o, const Eingabewert&
 }
 
 Eingabewert lies_Klima(const Eingabe& e, const Ansicht&, const Ort&) {
-    return als_Eingabewert(e.Parameter.Klimamodus == 1 ? std::string_view(e.Klimaszenario) : konstantes_Klima);
+    return als_Eingabewert(e.Parameter.Klimamodus == nach_Klimadatei ? std::string_view(e.Klimaszenario) : konstantes_Klima);
 }
 void setze_Klima(Eingabe& e, Ansicht&, const Ort&, const Eingabewert& w) {
     const bool konstant = w.Wort == konstantes_Klima;
-    e.Parameter.Klimamodus = konstant ? 0 : 1;
+    e.Parameter.Klimamodus = konstant ? konstante_Temperatur : nach_Klimadatei;
     e.Klimaszenario = konstant ? std::string() : w.Wort;
 }
 
-template <std::uint8_t Laufparameter::*Feld>
+template <auto Feld>
 Eingabewert lies_Wahl(Wortliste Worte, const Eingabe& e) {
     return Wort(Worte, e.Parameter.*Feld);
 }
@@ -181,8 +181,8 @@ constexpr Eingabename Zahl(std::string_view Name, std::string_view Speicher, Ind
 }
 
 // A whole number out of a list.
-constexpr Eingabename Auswahl(std::string_view Name, std::string_view Speicher, int von, int bis, std::string_view Einheit,
-                              Lesen l, Setzen s, bool zuerst = false) {
+constexpr Eingabename Listenzahl(std::string_view Name, std::string_view Speicher, int von, int bis, std::string_view Einheit,
+                                 Lesen l, Setzen s, bool zuerst = false) {
     const Bereich Grenzen = {static_cast<double>(von), true, static_cast<double>(bis), true};
     return {Name, Speicher, Indexart::keiner, {}, Grenzen, Einheit, true, zuerst, l, s};
 }
@@ -215,15 +215,15 @@ constexpr std::array Tabelle = {
     Zahl("rate", "Applikationsrate", Indexart::keiner, lies_Feld<&Eingabe::Applikationsrate>,
          setze_Feld<&Eingabe::Applikationsrate>),
     Zahl("interception", "Interzeption", Indexart::keiner, lies_Feld<&Eingabe::Interzeption>, setze_Feld<&Eingabe::Interzeption>),
-    Auswahl("interval", "Intervall", 1, Tage_pro_Jahr, "d", lies_Position<&Eingabe::Intervall_Index>,
-            setze_Position<&Eingabe::Intervall_Index>),
-    Auswahl("month", "App_Monat", 1, Monate, "", lies_Position<&Eingabe::App_Monat>, setze_Position<&Eingabe::App_Monat>),
-    Auswahl("day", "App_Tag", 1, laengster_Monat, "", lies_Position<&Eingabe::App_Tag>, setze_Position<&Eingabe::App_Tag>),
+    Listenzahl("interval", "Intervall", 1, Tage_pro_Jahr, "d", lies_Position<&Eingabe::Intervall_Index>,
+               setze_Position<&Eingabe::Intervall_Index>),
+    Listenzahl("month", "App_Monat", 1, Monate, "", lies_Position<&Eingabe::App_Monat>, setze_Position<&Eingabe::App_Monat>),
+    Listenzahl("day", "App_Tag", 1, laengster_Monat, "", lies_Position<&Eingabe::App_Tag>, setze_Position<&Eingabe::App_Tag>),
     Tabellenwert<0>("day", "Tabellentag"),
     Tabellenwert<1>("month", "Tabellenmonat"),
     Tabellenwert<2>("rate", "Tabellenrate"),
     Tabellenwert<3>("interception", "Tabelleninterzeption"),
-    Auswahl("rotation", "Fruchtwechsel", 1, Anbaujahre(jedes_dritte_Jahr), "years", lies_Fruchtwechsel, setze_Fruchtwechsel),
+    Listenzahl("rotation", "Fruchtwechsel", 1, Anbaujahre(jedes_dritte_Jahr), "years", lies_Fruchtwechsel, setze_Fruchtwechsel),
     Wortwahl("kinetics", "Kinetik", Indexart::Studie_und_Stoff, Kinetiknamen, lies_Kinetik, setze_Kinetik, vor_anderen),
     Zahl("DT50", "k_SFO", Indexart::Studie_und_Stoff, lies_DT50, setze_DT50),
     Zahl("DT50_1", "k1_DFOP", Indexart::Studie_und_Stoff, lies_DT50_Phase<&P::k1_DFOP, &P::k1_HS>,
@@ -248,9 +248,9 @@ constexpr std::array Tabelle = {
     Parameterwert<&P::Welkepunkt>("wilting_point", "Welkepunkt"),
     Parameterwert<&P::Szenariotemperatur>("temperature", "Szenariotemperatur", true),
     Wortwahl("climate", "Klimaszenario", Indexart::keiner, {}, lies_Klima, setze_Klima, vor_anderen),
-    Auswahl("scheme", "Berechnungsmodus", 0, 3, "", lies_Schema, setze_Schema, vor_anderen),
-    Auswahl("separate", "Separate_Rueckstaende", 0, 2, "", lies_Parameter<&P::Separate_Rueckstaende>,
-            setze_Parameter<&P::Separate_Rueckstaende>),
+    Listenzahl("scheme", "Berechnungsmodus", 0, 3, "", lies_Schema, setze_Schema, vor_anderen),
+    Listenzahl("separate", "Separate_Rueckstaende", gemeinsam, im_Jahr_getrennt, "", lies_Parameter<&P::Separate_Rueckstaende>,
+               setze_Parameter<&P::Separate_Rueckstaende>),
     Wortwahl("unit", "Einheit", Indexart::keiner, Masseneinheiten, lies_Einheit, setze_Parameter<&P::Einheit>),
     Wortwahl("twa", "TWA_Zeiten", Indexart::keiner, TWA_Listennamen, lies_TWA, setze_Parameter<&P::TWA_Zeiten>),
 };

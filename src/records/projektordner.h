@@ -19,6 +19,10 @@ enum Satzart {
     Vorlage_Szenario = 6
 };
 
+// What the selectors choose from, in their order; of these, what holds inputs.
+inline constexpr std::array alle_Arten = {Simulation, Wirkstoff, Applikation, Szenario};
+inline constexpr std::array Eingabearten = {Wirkstoff, Applikation, Szenario};
+
 inline constexpr std::array<const char*, 7> Endungen = {".vnk", ".che", ".app", ".sce", ".chn", ".apn", ".scn"};
 inline constexpr const char* Klima_Endung = ".cli";
 inline constexpr std::array<const char*, 4> Satzart_Namen = {"", "pesticide", "application", "scenario"};

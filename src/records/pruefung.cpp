@@ -70,7 +70,7 @@ void pruefe_Applikation(Sammler& s, Eingabe e, Ergebnisspeicher& Speicher) {
 
 void pruefe_Szenario(Sammler& s, const Eingabe& e, const Projektordner& Ordner) {
     probiere(s, e, [&] { pruefe_Boden(e.Parameter); });
-    if (e.Parameter.Klimamodus == 1 && !Ordner.finde(e.Klimaszenario, Klima_Endung))
+    if (e.Parameter.Klimamodus == nach_Klimadatei && !Ordner.finde(e.Klimaszenario, Klima_Endung))
         s.bemaengle(*finde_Satzstelle({.Feld = "Klimatext"}, e), "there is no climate file of that name", e.Klimaszenario);
 }
 
@@ -86,7 +86,7 @@ Befunde Projektpruefer::pruefe_Simulation(const std::string& Name) const {
         std::vector<Bemerkung> Bemerkungen;
         const Simulationssatz Satz = lies_Simulation(Ordner_, Name, &Bemerkungen);
         s.bemerke(Bemerkungen);
-        for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) {
+        for (const Satzart Art : Eingabearten) {
             const std::string& Satzname = Satz.Dateinamen[Art];
             if (!Ordner_.enthaelt(Satzname, Endungen[Art]))
                 s.bemaengle(Art + 1, std::string(Satzart_Namen[Art]) + " record", "there is no record of that name", Satzname);

@@ -148,11 +148,11 @@ Lesebefund lies_Szenario(Lesung& l) {
         const int Zeile_der_Temperatur = Zeile_von("Szenariotemperatur", l.Felder);
         const bool hinter_dem_Boden = f.Zeile() > Zeile_von("Welkepunkt", l.Felder);
         const bool vor_dem_Klima = f.am_Aufbau() && hinter_dem_Boden && f.Zeile() < Zeile_der_Temperatur;
-        const bool nur_ohne_Temperatur = f.Zeile() == Zeile_der_Temperatur && p.Klimamodus == 1;
+        const bool nur_ohne_Temperatur = f.Zeile() == Zeile_der_Temperatur && p.Klimamodus == nach_Klimadatei;
         if (!vor_dem_Klima && !nur_ohne_Temperatur) return abgebrochen(f);
         p.Szenariotemperatur = 20;
         if (vor_dem_Klima) {
-            p.Klimamodus = 0;
+            p.Klimamodus = konstante_Temperatur;
             l.Felder.Klimaszenario.clear();
         }
         const char* Folge = vor_dem_Klima ? "the climate is 20 °C constant" : "the temperature is not needed";

@@ -23,7 +23,7 @@ Feld Ganzzahl(std::uint8_t& Platz, int von, int bis) { return {Feldart::ganze_Za
 // The place holds the zero-based position in a list whose first entry is `von`.
 Feld Position(int& Platz, int von, int bis) { return {Feldart::ganze_Zahl, &Platz, von, bis, von}; }
 template <class Aufzaehlung>
-Feld Auswahl(Aufzaehlung& Platz, int bis) {
+Feld Listenfeld(Aufzaehlung& Platz, int bis) {
     return Ganzzahl(als_Byte(Platz), 0, bis);
 }
 Feld Kennzahl(Kinetikart& Platz, Kinetikart letzte) { return {Feldart::Kennzahl, &als_Byte(Platz), 0, letzte}; }
@@ -161,22 +161,22 @@ void gehe_durch_Szenario(Satzgang& g, Eingabe& e) {
     g.Zeile("Climatic condition:", {im_Speicher(Text(Klima), "Klimatext")});
     e.Klimaszenario = Klima;
     if (g.folgt_Trennlinie()) {
-        p.Klimamodus = 0;
+        p.Klimamodus = konstante_Temperatur;
         p.Szenariotemperatur = 20;
     } else {
-        g.Zeile("Climate mode:", {ohne_Komma(Ganzzahl(p.Klimamodus, 0, 1))});
+        g.Zeile("Climate mode:", {ohne_Komma(Listenfeld(p.Klimamodus, nach_Klimadatei))});
         g.Zeile("Scenario Temperature:",
                 {mit(ohne_Komma(Ganzzahl(p.Szenariotemperatur, 0, Hoechstzahl_Byte)), Grenzen_von("Szenariotemperatur"))});
     }
     g.Schlusszeile();
     // Under constant temperature the line tells the temperature and no climate file.
-    if (p.Klimamodus == 0) e.Klimaszenario.clear();
+    if (p.Klimamodus == konstante_Temperatur) e.Klimaszenario.clear();
 }
 
 void gehe_durch_Applikation(Satzgang& g, Eingabe& e, Ansicht& a) {
     g.Ueberschrift("Application Pattern");
-    g.Zeile("Application type:", {ohne_Komma(Auswahl(e.Applikationsmuster, unregelmaessig))});
-    g.Zeile("PEC-Type:", {Auswahl(a.PEC_Typ, Anreicherung)});
+    g.Zeile("Application type:", {ohne_Komma(Listenfeld(e.Applikationsmuster, unregelmaessig))});
+    g.Zeile("PEC-Type:", {Listenfeld(a.PEC_Typ, Anreicherung)});
     g.beginne("Regular application date:");
     g.Zwischenwert(im_Speicher(mit_Teil(Position(e.App_Monat, 1, Monate), "month"), "App_Monat"));
     // The list of days follows the month, so that a day of the old month does not outlive it.
@@ -195,7 +195,7 @@ void gehe_durch_Applikation(Satzgang& g, Eingabe& e, Ansicht& a) {
 
 void gehe_durch_Wirkstoffkopf(Satzgang& g, Eingabe& e) {
     g.Ueberschrift("Pesticide data");
-    g.Zeile("Unit:", {Ganzzahl(e.Parameter.Einheit, 0, 1)});
+    g.Zeile("Unit:", {Listenfeld(e.Parameter.Einheit, Mikrogramm)});
 }
 
 void gehe_durch_Ausgabename(Satzgang& g, Eingabe& e) {
@@ -210,8 +210,8 @@ void gehe_durch_Ausgabename(Satzgang& g, Eingabe& e) {
 
 void gehe_durch_Wirkstoffdaten(Satzgang& g, Eingabe& e, Ansicht& a, int& Zaehler) {
     Laufparameter& p = e.Parameter;
-    g.Zeile("Separate residues:", {Ganzzahl(p.Separate_Rueckstaende, 0, 2)});
-    g.Zeile("TWA according to EU:", {Ganzzahl(p.TWA_Zeiten, 0, 1)});
+    g.Zeile("Separate residues:", {Listenfeld(p.Separate_Rueckstaende, im_Jahr_getrennt)});
+    g.Zeile("TWA according to EU:", {Listenfeld(p.TWA_Zeiten, EU_Liste)});
     g.Zeile("Calculation mode:", {Ganzzahl(p.Rechenmodus, 0, Hoechstzahl_Byte)});
     g.Trennlinie();
     g.Ueberschrift("Degradation kinetics Parameters");
@@ -223,7 +223,7 @@ void gehe_durch_Wirkstoffdaten(Satzgang& g, Eingabe& e, Ansicht& a, int& Zaehler
     g.Zeile("Compound shown:", {ohne_Komma(Position(a.Substanz, 0, 2))});
     g.Trennlinie();
     g.Ueberschrift("Metabolism scheme");
-    g.Zeile("Type of calculation:", {Auswahl(e.Berechnungsmodus, zwei_in_Folge)});
+    g.Zeile("Type of calculation:", {Listenfeld(e.Berechnungsmodus, zwei_in_Folge)});
     g.Zeile("Parent:", {mit_Teil(Text(e.Name_Wirkstoff), "name"), Masse(e.Molmasse_Wirkstoff, 0)});
     g.Zeile("Metabolite 1:",
             {mit_Teil(Text(e.Name_Met_1), "name"), Masse(e.Molmasse_Met_1, 1), Anteil(e.Bildungsanteil_Met_1, 1)});

@@ -64,7 +64,7 @@ Zeilensuche suche(Satzart Art, const Fehlerort& Ort, const Eingabe& e) {
 }  // namespace
 
 std::optional<Satzstelle> finde_Satzstelle(const Fehlerort& Ort, const Eingabe& e) {
-    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) {
+    for (const Satzart Art : Eingabearten) {
         const Zeilensuche s = suche(Art, Ort, e);
         if (!s.Wert()) continue;
         // With the irregular pattern it is the table that holds doses and interceptions.

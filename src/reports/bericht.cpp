@@ -59,7 +59,7 @@ Bericht schreibe_Bericht(const Berichtsauftrag& a) {
     b.Name = als_Dateiname(r.Name(a.Inhalt, a.Zeitpunkt));
     b.Text = r.Text(a.Inhalt, {a.Programmversion, a.Zeitpunkt.Datum, a.Zeitpunkt.Zeit, a.Applikationssatz});
     b.Dokument = leeres_Dokument();
-    Textauswahl w(*b.Dokument, QString::fromStdString(b.Text));
+    Textstelle w(*b.Dokument, QString::fromStdString(b.Text));
     const std::string& Simulation = a.Inhalt.Namen.Beschreibung;
     b.Dokument->setMetaInformation(QTextDocument::DocumentTitle,
                                    QString::fromStdString(Simulation.empty() ? b.Name : Simulation));

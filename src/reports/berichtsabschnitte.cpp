@@ -100,7 +100,7 @@ std::string Parametertext(const char* Beschriftung, double Wert) {
         throw Laufzeitfehler("The report cannot show a negative value: " + std::string(Beschriftung) + " " +
                              allgemeine_Zahl(Wert));
     }
-    return Formatiere_Zahl(Wert, true, true, 0);
+    return Formatiere_Zahl(Wert, true, true, Milligramm);
 }
 
 void haenge_Kopf_an(Textaufbau& t, const Darstellung& d, const Berichtsangaben& a, Berichtsart Art) {
@@ -138,7 +138,7 @@ void haenge_Szenario_an(Textaufbau& t, const Darstellung& d, const Berichtsangab
     t.Zeile("Field capacity (Vol%):                          ", allgemeine_Zahl(p.Feldkapazitaet));
     t.Zeile("Wilting point (Vol%):                             ", allgemeine_Zahl(p.Welkepunkt), 2);
     t.Zeile("Climatic conditions:                        ", Klimatext(*r.Vorgabe));
-    if (p.Klimamodus == 1) {
+    if (p.Klimamodus == nach_Klimadatei) {
         // The mean counts the spare days of the time axis as well.
         t.Zeile("Mean temperature (°C):                            ", feste_Zahl(r.Summe_Temperatur / (Tagesplaetze - 1), 1));
         t.Zeile("Annual Rainfall (mm):                                ", ganz_oder_leer(r.Summe_Niederschlag));

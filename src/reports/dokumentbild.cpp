@@ -79,14 +79,14 @@ QTextDocument* kopiere_Dokument(const QTextDocument& Dokument) {
     return Kopie;
 }
 
-std::unique_ptr<QTextDocument> Auswahl_als_Dokument(const QTextCursor& Auswahl) {
-    const QTextDocument& ganzes = *Auswahl.document();
+std::unique_ptr<QTextDocument> Textstelle_als_Dokument(const QTextCursor& Stelle) {
+    const QTextDocument& ganzes = *Stelle.document();
     auto Dokument = std::make_unique<QTextDocument>();
     Dokument->setDefaultFont(ganzes.defaultFont());
     Dokument->setMetaInformation(QTextDocument::DocumentTitle, ganzes.metaInformation(QTextDocument::DocumentTitle));
-    QTextCursor(Dokument.get()).insertFragment(Auswahl.selection());
+    QTextCursor(Dokument.get()).insertFragment(Stelle.selection());
     // The first paragraph comes without its format.
-    QTextCursor(Dokument.get()).setBlockFormat(ganzes.findBlock(Auswahl.selectionStart()).blockFormat());
+    QTextCursor(Dokument.get()).setBlockFormat(ganzes.findBlock(Stelle.selectionStart()).blockFormat());
     if (const auto* Objekt = ganzes.findChild<Bildobjekt*>()) merke_Zeichnung(*Dokument, Objekt->Liste);
     return Dokument;
 }

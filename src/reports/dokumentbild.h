@@ -37,6 +37,6 @@ void zeichne_statt_Bild(QTextDocument& Dokument);
 QTextDocument* kopiere_Dokument(const QTextDocument& Dokument);
 
 // The same of what is selected in a document.
-std::unique_ptr<QTextDocument> Auswahl_als_Dokument(const QTextCursor& Auswahl);
+std::unique_ptr<QTextDocument> Textstelle_als_Dokument(const QTextCursor& Stelle);
 
 }  // namespace varnok

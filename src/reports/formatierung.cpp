@@ -14,7 +14,7 @@ constexpr int Hellrot = 12;
 
 QString Wort(const char* Utf8) { return QString::fromUtf8(Utf8); }
 
-void formatiere_Kopf(Textauswahl& w) {
+void formatiere_Kopf(Textstelle& w) {
     w.alles();
     w.groesse(10);
     w.kursiv(false);
@@ -42,7 +42,7 @@ void formatiere_Kopf(Textauswahl& w) {
     w.Tabulatoren({3000, 4000, 6000});
 }
 
-void formatiere_Ergebniskopf(Textauswahl& w, Berichtsart Art) {
+void formatiere_Ergebniskopf(Textstelle& w, Berichtsart Art) {
     w.setze_Anfang(0);
     w.suche(Wort(Berichtswort::Ergebnisse));
     w.fett();
@@ -61,7 +61,7 @@ void formatiere_Ergebniskopf(Textauswahl& w, Berichtsart Art) {
 }
 
 // A block's headline, and its colour to the end of the document: the next block overwrites it.
-void formatiere_Block(Textauswahl& w, const char* Kopf, int Farbe) {
+void formatiere_Block(Textstelle& w, const char* Kopf, int Farbe) {
     w.suche(Wort(Kopf));
     w.groesse(12);
     w.kursiv();
@@ -69,7 +69,7 @@ void formatiere_Block(Textauswahl& w, const char* Kopf, int Farbe) {
     w.Farbe(Farbe);
 }
 
-void formatiere_Stoff(Textauswahl& w, const std::string& Name, bool Metabolit) {
+void formatiere_Stoff(Textstelle& w, const std::string& Name, bool Metabolit) {
     w.setze(0, 0);
     w.suche(Wort(Berichtswort::Stoffkopf) + QString::fromStdString(Name));
     w.fett();
@@ -85,7 +85,7 @@ void formatiere_Stoff(Textauswahl& w, const std::string& Name, bool Metabolit) {
 
 // Each warning is looked for in a copy of the text that is cut down as they are found, and in the document from
 // where the last one ended.
-void formatiere_Warnungen(Textauswahl& w, const std::string& Berichtstext) {
+void formatiere_Warnungen(Textstelle& w, const std::string& Berichtstext) {
     constexpr qsizetype Warnungslaenge = 300;
     constexpr qsizetype Fortsetzung = 270;
     constexpr qsizetype Sichtweite = 65000;
@@ -104,7 +104,7 @@ void formatiere_Warnungen(Textauswahl& w, const std::string& Berichtstext) {
 
 }  // namespace
 
-void formatiere_Bericht(Textauswahl& w, const std::string& Berichtstext, const std::vector<std::string>& Stoffnamen,
+void formatiere_Bericht(Textstelle& w, const std::string& Berichtstext, const std::vector<std::string>& Stoffnamen,
                         Berichtsart Art) {
     formatiere_Kopf(w);
     formatiere_Ergebniskopf(w, Art);

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "reports/berichtsabschnitte.h"
-#include "reports/textauswahl.h"
+#include "reports/textstelle.h"
 
 namespace varnok {
 
@@ -15,7 +15,7 @@ inline constexpr const char* Berichtsschrift = "Times New Roman";
 // Formats a report step by step: each step searches for words of the text and works on what it finds, so that a
 // compound called like a headline draws a format to itself. Afterwards the document holds everything but the picture.
 // `Stoffnamen` are those of the scheme, parent first.
-void formatiere_Bericht(Textauswahl& w, const std::string& Berichtstext, const std::vector<std::string>& Stoffnamen,
+void formatiere_Bericht(Textstelle& w, const std::string& Berichtstext, const std::vector<std::string>& Stoffnamen,
                         Berichtsart Art);
 
 }  // namespace varnok

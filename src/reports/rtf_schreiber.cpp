@@ -19,7 +19,7 @@
 #include "base/zeichensatz.h"
 #include "reports/dokumentbild.h"
 #include "reports/seitenmass.h"
-#include "reports/textauswahl.h"
+#include "reports/textstelle.h"
 #include "reports/twips.h"
 
 namespace varnok {

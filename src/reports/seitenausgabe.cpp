@@ -63,7 +63,7 @@ void male_Fuss(QPainter& p, QRectF Flaeche, const QTextDocument& d, std::size_t 
 
 // A copy of the document set for a device. Documents keep a pointer to the device that they are laid out for: it ends before
 // the device does.
-struct Drucksatz {
+struct Druckform {
     std::unique_ptr<QTextDocument> Kopie;
     double Massstab = 1;
     QRectF Flaeche;
@@ -71,8 +71,8 @@ struct Drucksatz {
     std::vector<Druckseite> Seiten;
 };
 
-Drucksatz setze(const QTextDocument& Dokument, QPagedPaintDevice& Geraet) {
-    Drucksatz d;
+Druckform setze(const QTextDocument& Dokument, QPagedPaintDevice& Geraet) {
+    Druckform d;
     d.Kopie.reset(kopiere_Dokument(Dokument));
     const double Aufloesung = Geraet.logicalDpiX();
     // Smaller paper shows the same page, smaller. A printer that is out of reach has no width.
@@ -97,7 +97,7 @@ int Seitenzahl(const QTextDocument& Dokument, QPagedPaintDevice& Geraet) {
 }
 
 bool drucke_Dokument(const QTextDocument& Dokument, QPagedPaintDevice& Geraet) {
-    const Drucksatz d = setze(Dokument, Geraet);
+    const Druckform d = setze(Dokument, Geraet);
     const QPageRanges gewuenscht = Geraet.pageRanges();
     QPainter p;
     if (!p.begin(&Geraet)) return false;

@@ -4,7 +4,7 @@
 #include <QTextLayout>
 #include <algorithm>
 
-#include "reports/textauswahl.h"
+#include "reports/textstelle.h"
 
 namespace varnok {
 namespace {
@@ -20,10 +20,10 @@ std::vector<Druckzeile> alle_Zeilen(const QTextDocument& Dokument) {
     Dokument.documentLayout()->documentSize();  // lays it out to its end
     std::vector<Druckzeile> Zeilen;
     for (QTextBlock b = Dokument.begin(); b.isValid(); b = b.next()) {
-        const QTextLayout* Satz = b.layout();
-        for (int i = 0; i < Satz->lineCount(); ++i) {
-            const double oben = Satz->position().y() + Satz->lineAt(i).y();
-            Zeilen.push_back({b, i, oben, oben + Satz->lineAt(i).height()});
+        const QTextLayout* Zeilenlage = b.layout();
+        for (int i = 0; i < Zeilenlage->lineCount(); ++i) {
+            const double oben = Zeilenlage->position().y() + Zeilenlage->lineAt(i).y();
+            Zeilen.push_back({b, i, oben, oben + Zeilenlage->lineAt(i).height()});
         }
     }
     while (!Zeilen.empty() && leer(Zeilen.back())) Zeilen.pop_back();

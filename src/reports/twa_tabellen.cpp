@@ -48,7 +48,7 @@ public:
         return Ansichtswert(Werte(st).Plateauwert, Anreicherung, d_.Sicht.Fruchtwechsel, Jahreswert);
     }
     std::string Laengentext(std::size_t w) const {
-        return Formatiere_Zahl(static_cast<double>(TWA(d_.Sicht.Studie_Index, w).Tage), true, true, 0);
+        return Formatiere_Zahl(static_cast<double>(TWA(d_.Sicht.Studie_Index, w).Tage), true, true, Milligramm);
     }
 
     // Peak of the first year in the tillage depth, in % of what the first application could have become at most
@@ -58,8 +58,7 @@ public:
         const double M = Molmasse(*r.Vorgabe, c_).Zahl();
         const Zahlwert& P = r.Vorgabe->Molmasse_Wirkstoff;
         const auto Rate = static_cast<double>(r.erste_Rate);
-        const double T =
-            (p_.Einheit == 1 ? 1000.0 : 1.0) * ((M / P.Zahl()) * (Rate / 1000)) / (p_.Bodentiefe * p_.Bodendichte / 10);
+        const double T = Einheitenfaktor(p_.Einheit) * ((M / P.Zahl()) * (Rate / 1000)) / (p_.Bodentiefe * p_.Bodendichte / 10);
         if (!std::isfinite(T)) {
             melde_unmoegliche_Rechnung("Molecular mass (g/mol) = " + P.Text(), {{}, 0, "Molmasse", st, 0});
         }

@@ -11,7 +11,7 @@
 #include "reports/berichtswoerter.h"
 #include "reports/seitenmass.h"
 #include "reports/tabulatoren.h"
-#include "reports/textauswahl.h"
+#include "reports/textstelle.h"
 #include "reports/twips.h"
 
 namespace varnok {
@@ -62,14 +62,14 @@ std::optional<Spalten> Zellanfaenge(const QTextBlock& b, Schriftgrad g) {
     QTextOption o;
     o.setTabs(alle_Tabulatoren(f));
     o.setUseDesignMetrics(true);
-    QTextLayout Satz(b.text(), b.document()->defaultFont());
-    Satz.setTextOption(o);
-    Satz.setFormats(Formate_in(b, g));
-    Satz.beginLayout();
-    QTextLine Zeile = Satz.createLine();
+    QTextLayout Zeilenlage(b.text(), b.document()->defaultFont());
+    Zeilenlage.setTextOption(o);
+    Zeilenlage.setFormats(Formate_in(b, g));
+    Zeilenlage.beginLayout();
+    QTextLine Zeile = Zeilenlage.createLine();
     Zeile.setLineWidth(Twips_in_Pixel(Textbreite) - f.leftMargin() - f.rightMargin());
-    const bool bricht = Satz.createLine().isValid();
-    Satz.endLayout();
+    const bool bricht = Zeilenlage.createLine().isValid();
+    Zeilenlage.endLayout();
     if (bricht) return std::nullopt;
     Spalten Anfaenge;
     const QString Text = b.text();

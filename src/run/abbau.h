@@ -38,7 +38,7 @@ public:
 protected:
     std::size_t Studie() const { return static_cast<std::size_t>(l_.i_studie); }
     const Laufparameter& Parameter() const { return l_.Felder.Parameter; }
-    bool getrennt() const { return Parameter().Separate_Rueckstaende != 0; }
+    bool getrennt() const { return Parameter().Separate_Rueckstaende != gemeinsam; }
 
     Lauf& l_;
     Slotzeilen& Zeilen_;

@@ -20,26 +20,26 @@ public:
           st_(Platz(l.i_studie)),
           c_(Platz(l.i_substanz)),
           letzter_(l.Platz->Faktoren.letzter()),
-          Plateau_{l.Speicher.Reihe_Plateautiefe(0, l.i_studie, l.i_substanz),
-                   l.Speicher.Reihe_Plateautiefe(1, l.i_studie, l.i_substanz)},
-          Boden_{l.Speicher.Reihe_Bodentiefe(0, l.i_studie, l.i_substanz),
-                 l.Speicher.Reihe_Bodentiefe(1, l.i_studie, l.i_substanz)},
-          Integral_{l.Speicher.Integral_Bodentiefe(0, l.i_studie, l.i_substanz),
-                    l.Speicher.Integral_Bodentiefe(1, l.i_studie, l.i_substanz)} {}
+          Plateau_{l.Speicher.Reihe_Plateautiefe(Gesamtgehalt, l.i_studie, l.i_substanz),
+                   l.Speicher.Reihe_Plateautiefe(Porenwasser, l.i_studie, l.i_substanz)},
+          Boden_{l.Speicher.Reihe_Bodentiefe(Gesamtgehalt, l.i_studie, l.i_substanz),
+                 l.Speicher.Reihe_Bodentiefe(Porenwasser, l.i_studie, l.i_substanz)},
+          Integral_{l.Speicher.Integral_Bodentiefe(Gesamtgehalt, l.i_studie, l.i_substanz),
+                    l.Speicher.Integral_Bodentiefe(Porenwasser, l.i_studie, l.i_substanz)} {}
 
     void teile_durch_PW() {
         const Tageszahlen& PW = l_.Platz->Faktoren.PW();
         for (std::size_t d = 1; d <= Platz(letzter_); ++d) {
-            Plateau_[1][d] = static_cast<float>(static_cast<double>(Plateau_[0][d]) / PW[d]);
-            Boden_[1][d] = static_cast<float>(static_cast<double>(Boden_[0][d]) / PW[d]);
+            Plateau_[Porenwasser][d] = static_cast<float>(static_cast<double>(Plateau_[Gesamtgehalt][d]) / PW[d]);
+            Boden_[Porenwasser][d] = static_cast<float>(static_cast<double>(Boden_[Gesamtgehalt][d]) / PW[d]);
         }
     }
 
     void integriere() {
-        std::array<float, Endpunkte> Summe = {Boden_[0][0], Boden_[1][0]};
-        for (std::size_t e = 0; e < Endpunkte; ++e) Integral_[e][0] = Summe[e];
+        std::array<float, Endpunkte> Summe = {Boden_[Gesamtgehalt][0], Boden_[Porenwasser][0]};
+        for (const Endpunktart e : alle_Endpunkte) Integral_[e][0] = Summe[e];
         for (std::size_t d = 1; d <= Platz(letzter_); ++d) {
-            for (std::size_t e = 0; e < Endpunkte; ++e) {
+            for (const Endpunktart e : alle_Endpunkte) {
                 const double Zuwachs = (static_cast<double>(Boden_[e][d]) + static_cast<double>(Boden_[e][d - 1])) / 2;
                 Summe[e] = static_cast<float>(Zuwachs + static_cast<double>(Summe[e]));
                 Integral_[e][d] = Summe[e];
@@ -49,17 +49,16 @@ public:
 
     // The integral goes wherever the soil depth goes, and stays there.
     void pruefe() const {
-        if (std::isfinite(Integral_[0][Platz(letzter_)]) && std::isfinite(Integral_[1][Platz(letzter_)]) &&
-            endlich(Plateau_[0]) && endlich(Plateau_[1])) {
+        if (std::isfinite(Integral_[Gesamtgehalt][Platz(letzter_)]) && std::isfinite(Integral_[Porenwasser][Platz(letzter_)]) &&
+            endlich(Plateau_[Gesamtgehalt]) && endlich(Plateau_[Porenwasser])) {
             return;
         }
         for (int d = 1; d <= letzter_; ++d) {
-            for (std::size_t e = 0; e < Endpunkte; ++e)
-                pruefe_Konzentration(l_, d, Plateau_[e][Platz(d)], Integral_[e][Platz(d)]);
+            for (const Endpunktart e : alle_Endpunkte) pruefe_Konzentration(l_, d, Plateau_[e][Platz(d)], Integral_[e][Platz(d)]);
         }
     }
 
-    void bestimme_Maxima(std::size_t e) {
+    void bestimme_Maxima(Endpunktart e) {
         Ergebnisspeicher& s = l_.Speicher;
         const bool Stamm = l_.i_substanz == 0;
         const auto alle_Tage = [&](Tagesreihe_lesend Reihe) { return Reihe.subspan(1, Platz(letzter_)); };
@@ -76,7 +75,7 @@ public:
 
 private:
     // The day of the last one that was found.
-    int bestimme_Jahresmaxima(std::size_t e, Tageswert Anfang) {
+    int bestimme_Jahresmaxima(Endpunktart e, Tageswert Anfang) {
         Tageswert m = Anfang;
         for (int Jahr = 1; Jahr <= Jahre; ++Jahr) {
             const int von = std::max(1, (Jahr - 1) * Tage_pro_Jahr);
@@ -127,7 +126,7 @@ void werte_Reihen_aus(Lauf& l) {
     a.teile_durch_PW();
     a.integriere();
     a.pruefe();
-    for (std::size_t e = 0; e < Endpunkte; ++e) a.bestimme_Maxima(e);
+    for (const Endpunktart e : alle_Endpunkte) a.bestimme_Maxima(e);
 }
 
 }  // namespace varnok

@@ -10,7 +10,7 @@
 
 namespace varnok {
 
-// [unit][endpoint]; unit 0 mg, 1 microgram
+// [unit][endpoint]
 inline constexpr std::array<std::array<std::string_view, 2>, 2> Einheiten = {{{"mg/kg", "mg/L"}, {"µg/kg", "µg/L"}}};
 inline constexpr std::array<std::string_view, 2> Masseneinheiten = {"mg", "µg"};
 inline constexpr std::array<std::string_view, 2> Endpunktnamen = {"total soil", "pore water"};
@@ -33,6 +33,8 @@ constexpr Endpunktart Endpunkt_von(std::string_view Name) {
 }
 
 // Unit of a concentration: "mg/kg", "mg/L", "µg/kg" or "µg/L".
-constexpr std::string_view Konzentrationseinheit(int Einheit, Endpunktart Endpunkt) { return Einheiten[Einheit == 1][Endpunkt]; }
+constexpr std::string_view Konzentrationseinheit(Einheitsart Einheit, Endpunktart Endpunkt) {
+    return Einheiten[Einheit][Endpunkt];
+}
 
 }  // namespace varnok

@@ -27,7 +27,7 @@ const Zahlwert& Bildungsanteil(const Eingabe& e, int i_substanz) {
 }
 
 std::string Klimatext(const Eingabe& e) {
-    if (e.Parameter.Klimamodus == 1) return e.Klimaszenario;
+    if (e.Parameter.Klimamodus == nach_Klimadatei) return e.Klimaszenario;
     return std::to_string(static_cast<int>(e.Parameter.Szenariotemperatur)) + " °C constant";
 }
 

@@ -22,32 +22,32 @@ const Ergebnisspeicher::Stoffreihen& Ergebnisspeicher::lies(int i_studie, int i_
     return (*Reihen_)[Platz(i_studie)][Platz(i_substanz)];
 }
 
-Tagesreihe Ergebnisspeicher::Reihe_Plateautiefe(int i_endpunkt, int i_studie, int i_substanz) {
-    return beschreibe(i_studie, i_substanz).Plateau[Platz(i_endpunkt)];
+Tagesreihe Ergebnisspeicher::Reihe_Plateautiefe(Endpunktart e, int i_studie, int i_substanz) {
+    return beschreibe(i_studie, i_substanz).Plateau[e];
 }
-Tagesreihe_lesend Ergebnisspeicher::Reihe_Plateautiefe(int i_endpunkt, int i_studie, int i_substanz) const {
-    return lies(i_studie, i_substanz).Plateau[Platz(i_endpunkt)];
-}
-
-Tagesreihe Ergebnisspeicher::Reihe_Bodentiefe(int i_endpunkt, int i_studie, int i_substanz) {
-    return beschreibe(i_studie, i_substanz).Boden[Platz(i_endpunkt)];
-}
-Tagesreihe_lesend Ergebnisspeicher::Reihe_Bodentiefe(int i_endpunkt, int i_studie, int i_substanz) const {
-    return lies(i_studie, i_substanz).Boden[Platz(i_endpunkt)];
+Tagesreihe_lesend Ergebnisspeicher::Reihe_Plateautiefe(Endpunktart e, int i_studie, int i_substanz) const {
+    return lies(i_studie, i_substanz).Plateau[e];
 }
 
-Tagesreihe Ergebnisspeicher::Integral_Bodentiefe(int i_endpunkt, int i_studie, int i_substanz) {
-    return beschreibe(i_studie, i_substanz).Integral[Platz(i_endpunkt)];
+Tagesreihe Ergebnisspeicher::Reihe_Bodentiefe(Endpunktart e, int i_studie, int i_substanz) {
+    return beschreibe(i_studie, i_substanz).Boden[e];
 }
-Tagesreihe_lesend Ergebnisspeicher::Integral_Bodentiefe(int i_endpunkt, int i_studie, int i_substanz) const {
-    return lies(i_studie, i_substanz).Integral[Platz(i_endpunkt)];
+Tagesreihe_lesend Ergebnisspeicher::Reihe_Bodentiefe(Endpunktart e, int i_studie, int i_substanz) const {
+    return lies(i_studie, i_substanz).Boden[e];
+}
+
+Tagesreihe Ergebnisspeicher::Integral_Bodentiefe(Endpunktart e, int i_studie, int i_substanz) {
+    return beschreibe(i_studie, i_substanz).Integral[e];
+}
+Tagesreihe_lesend Ergebnisspeicher::Integral_Bodentiefe(Endpunktart e, int i_studie, int i_substanz) const {
+    return lies(i_studie, i_substanz).Integral[e];
 }
 
 void Ergebnisspeicher::leere_Studie(int i_studie) {
     Tagesrate.fill(0);
     Applikationstag.fill(0);
     const auto st = static_cast<std::size_t>(i_studie);
-    for (std::size_t e = 0; e < Endpunkte; ++e) {
+    for (const Endpunktart e : alle_Endpunkte) {
         Maximum_Plateautiefe[e][st].fill(0);
         Maximum_Bodentiefe[e][st].fill(0);
         Maximumtag_Plateautiefe[e][st].fill(0);
@@ -71,7 +71,7 @@ void Ergebnisspeicher::leere_Studie(int i_studie) {
 void Ergebnisspeicher::verwirf_Studie(int i_studie) {
     leere_Studie(i_studie);
     const auto st = static_cast<std::size_t>(i_studie);
-    for (std::size_t e = 0; e < Endpunkte; ++e) {
+    for (const Endpunktart e : alle_Endpunkte) {
         TWA_Maximum[e][st] = {};
         TWA_Starttag[e][st] = {};
     }

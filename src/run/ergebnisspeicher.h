@@ -24,23 +24,23 @@ using Tagesreihe_lesend = std::span<const float, Tagesplaetze>;
 
 // The results of all studies. Allocated once; a study that was never run holds zeros, and a run
 // touches the section of its own study only. All concentrations are in the unit of `Einheit` per kg
-// of soil (endpoint 0) or per litre of pore water (endpoint 1).
+// of soil (`Gesamtgehalt`) or per litre of pore water (`Porenwasser`).
 class Ergebnisspeicher {
 public:
     Ergebnisspeicher();
 
     // Daily concentration with the doses of all ten years mixed into the tillage depth.
     // The sum of all slots; the residues of the single applications are no result.
-    Tagesreihe Reihe_Plateautiefe(int i_endpunkt, int i_studie, int i_substanz);
-    Tagesreihe_lesend Reihe_Plateautiefe(int i_endpunkt, int i_studie, int i_substanz) const;
+    Tagesreihe Reihe_Plateautiefe(Endpunktart e, int i_studie, int i_substanz);
+    Tagesreihe_lesend Reihe_Plateautiefe(Endpunktart e, int i_studie, int i_substanz) const;
 
     // Daily concentration with the doses of the first year only, mixed into the soil depth.
-    Tagesreihe Reihe_Bodentiefe(int i_endpunkt, int i_studie, int i_substanz);
-    Tagesreihe_lesend Reihe_Bodentiefe(int i_endpunkt, int i_studie, int i_substanz) const;
+    Tagesreihe Reihe_Bodentiefe(Endpunktart e, int i_studie, int i_substanz);
+    Tagesreihe_lesend Reihe_Bodentiefe(Endpunktart e, int i_studie, int i_substanz) const;
 
     // Running trapezoid integral of `Reihe_Bodentiefe`, concentration times days.
-    Tagesreihe Integral_Bodentiefe(int i_endpunkt, int i_studie, int i_substanz);
-    Tagesreihe_lesend Integral_Bodentiefe(int i_endpunkt, int i_studie, int i_substanz) const;
+    Tagesreihe Integral_Bodentiefe(Endpunktart e, int i_studie, int i_substanz);
+    Tagesreihe_lesend Integral_Bodentiefe(Endpunktart e, int i_studie, int i_substanz) const;
 
     // Clears what a run of the study writes: its series, integral, maxima and background, the doses and the formation.
     void leere_Studie(int i_studie);

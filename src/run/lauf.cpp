@@ -47,7 +47,7 @@ void rechne_Stoffe(Lauf& l, const Rechenschritte& r) {
 // False if the scenario wants a climate file that cannot be opened.
 bool lade_Klima(Lauf& l, const Klimaquelle& Quelle) {
     l.Klima = Wetter();
-    if (l.Felder.Parameter.Klimamodus != 1) return true;
+    if (l.Felder.Parameter.Klimamodus == konstante_Temperatur) return true;
     auto Tage = Quelle.lade(l.Felder.Klimaszenario);
     if (!Tage) return false;
     if (Tage->empty())

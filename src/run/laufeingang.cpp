@@ -17,7 +17,7 @@ void gehe_durch_Szenario(const Eingabe& e, Funktion nimm) {
     nimm("Feldkapazitaet", -1, p.Feldkapazitaet);
     nimm("Welkepunkt", -1, p.Welkepunkt);
     nimm("Klimamodus", -1, p.Klimamodus);
-    if (p.Klimamodus == 1) {
+    if (p.Klimamodus == nach_Klimadatei) {
         nimm("App_Monat", -1, e.App_Monat);  // where the weather begins
         nimm("App_Tag", -1, e.App_Tag);
     } else {
@@ -30,7 +30,7 @@ void gehe_durch_Optionen(const Laufparameter& p, Funktion nimm) {
     nimm("Einheit", -1, p.Einheit);
     nimm("Separate_Rueckstaende", -1, p.Separate_Rueckstaende);
     nimm("TWA_Zeiten", -1, p.TWA_Zeiten);
-    if (p.TWA_Zeiten == 1) {
+    if (p.TWA_Zeiten == EU_Liste) {
         for (const double Tage : p.TWA.EU) nimm("TWA", -1, Tage);
     } else {
         for (const double Tage : p.TWA.Monat) nimm("TWA", -1, Tage);
@@ -122,7 +122,8 @@ bool liest_ein_Lauf(const Eingabe& e, std::string_view Speicher, int i_studie, i
 }
 
 bool gleicher_Laufeingang(const Eingabe& a, const Eingabe& b, int i_studie) {
-    const bool gleiches_Klima = a.Parameter.Klimamodus != 1 || b.Parameter.Klimamodus != 1 || a.Klimaszenario == b.Klimaszenario;
+    const bool gleiches_Klima = a.Parameter.Klimamodus == konstante_Temperatur ||
+                                b.Parameter.Klimamodus == konstante_Temperatur || a.Klimaszenario == b.Klimaszenario;
     return gleiches_Klima && Laufeingang(a, i_studie) == Laufeingang(b, i_studie);
 }
 

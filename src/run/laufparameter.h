@@ -49,19 +49,19 @@ inline constexpr int meiste_TWA =
 // program that has read no record yet.
 struct Laufparameter {
     // scenario
-    double Bodendichte = 0;                // kg/L
-    double Bodentiefe = 0;                 // cm
-    double Plateautiefe = 0;               // cm
-    double Kohlenstoffgehalt = 0;          // %
-    double Feldkapazitaet = 0;             // Vol%
-    double Welkepunkt = 0;                 // Vol%
-    std::uint8_t Klimamodus = 0;           // 0 constant temperature, 1 climate file
+    double Bodendichte = 0;        // kg/L
+    double Bodentiefe = 0;         // cm
+    double Plateautiefe = 0;       // cm
+    double Kohlenstoffgehalt = 0;  // %
+    double Feldkapazitaet = 0;     // Vol%
+    double Welkepunkt = 0;         // Vol%
+    Klimaart Klimamodus = konstante_Temperatur;
     std::uint8_t Szenariotemperatur = 20;  // degrees C
 
     // options
-    std::uint8_t Einheit = 0;                         // 0 mg, 1 microgram
-    std::uint8_t Separate_Rueckstaende = 0;           // 0 no, 1 yes, 2 within a year
-    std::uint8_t TWA_Zeiten = 1;                      // 0 monthly list, 1 EU list
+    Einheitsart Einheit = Milligramm;
+    Rueckstandsart Separate_Rueckstaende = gemeinsam;
+    TWA_Listenart TWA_Zeiten = EU_Liste;
     std::array<std::uint8_t, 7> Ausgabename_Teile{};  // product, study, kinetics, endpoint, date, time, unused
     std::uint8_t Rechenmodus = 0;                     // carried through the record
 

@@ -37,8 +37,8 @@ public:
           Faktoren_(l.Platz->Faktoren),
           Abbau_(erstelle_Abbau(l)),
           Wege_(lies_Bildungswege(l.Felder)),
-          Plateau_(s_.Reihe_Plateautiefe(0, l.i_studie, 0)),
-          Boden_(s_.Reihe_Bodentiefe(0, l.i_studie, 0)) {}
+          Plateau_(s_.Reihe_Plateautiefe(Gesamtgehalt, l.i_studie, 0)),
+          Boden_(s_.Reihe_Bodentiefe(Gesamtgehalt, l.i_studie, 0)) {}
 
     void rechne() {
         beginne_Tageswerte(l_);
@@ -63,7 +63,7 @@ private:
     Summenziel Ziel(Tagesreihe Gesamt, Bildungsreihen& Bildung, int d) const;
 
     bool dosiert(int d) const { return s_.Tagesrate[static_cast<std::size_t>(d)] > 0; }
-    bool getrennt() const { return l_.Felder.Parameter.Separate_Rueckstaende != 0; }
+    bool getrennt() const { return l_.Felder.Parameter.Separate_Rueckstaende != gemeinsam; }
 
     Lauf& l_;
     Ergebnisspeicher& s_;
@@ -80,8 +80,7 @@ private:
 // Concentration of the dose of day d in a depth in cm: g/ha over dm and kg/L gives mg/kg.
 double Wirkstofflauf::Konzentration(int d, double Tiefe) const {
     const double Rate = static_cast<double>(s_.Tagesrate[static_cast<std::size_t>(d)]);
-    const double Einheitenfaktor = l_.Felder.Parameter.Einheit == 0 ? 1 : 1000;
-    return (Rate / 1000) / ((Tiefe / 10) * l_.Felder.Parameter.Bodendichte) * Einheitenfaktor;
+    return (Rate / 1000) / ((Tiefe / 10) * l_.Felder.Parameter.Bodendichte) * Einheitenfaktor(l_.Felder.Parameter.Einheit);
 }
 
 void Wirkstofflauf::rechne_Tag_0() {
@@ -97,8 +96,8 @@ void Wirkstofflauf::rechne_Tag_0() {
     pruefe_Konzentration(l_, 0, Plateau_Wasser, Boden_Wasser);
     Plateau_[0] = Zeilen_.heute(Tiefe::Plateau, 1) = Plateau;
     Boden_[0] = Zeilen_.heute(Tiefe::Boden, 1) = Boden;
-    s_.Reihe_Plateautiefe(1, l_.i_studie, 0)[0] = Plateau_Wasser;
-    s_.Reihe_Bodentiefe(1, l_.i_studie, 0)[0] = Boden_Wasser;
+    s_.Reihe_Plateautiefe(Porenwasser, l_.i_studie, 0)[0] = Plateau_Wasser;
+    s_.Reihe_Bodentiefe(Porenwasser, l_.i_studie, 0)[0] = Boden_Wasser;
     Anzahl_Slots_ = 1;
     Abbau_->beginne_Tag_0();
     zeige(0, 0, 1);
@@ -143,7 +142,7 @@ void Wirkstofflauf::appliziere(int d) {
     if (getrennt()) ++Anzahl_Slots_;
     const int Slot = Anzahl_Slots_;
     Abbau_->beginne_Slot(Slot, d);
-    if (l_.Felder.Parameter.Separate_Rueckstaende == 2 && Jahreswechsel_) {
+    if (l_.Felder.Parameter.Separate_Rueckstaende == im_Jahr_getrennt && Jahreswechsel_) {
         Jahreswechsel_ = false;
         for (int s = 1; s < Slot; ++s) Abbau_->vereinige(s, Slot, d);
     }

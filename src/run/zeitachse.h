@@ -10,7 +10,7 @@ inline constexpr int Jahre = 10;
 inline constexpr int letzter_Tag = Jahre * Tage_pro_Jahr - 1;
 inline constexpr int Tagesplaetze = 3752;  // 3650 days of the run and 102 spare ones that stay 0
 
-inline constexpr int Endpunkte = 2;  // 0 total soil, 1 pore water
+inline constexpr int Endpunkte = 2;  // places by `Endpunktart`
 inline constexpr int Stoffe = 3;     // 0 parent, 1 first metabolite, 2 second metabolite
 inline constexpr int max_Studien = 6;
 inline constexpr int Studienplaetze = 7;  // the seventh place of the tables is never used

@@ -31,7 +31,7 @@ struct Viele : testing::Test {
             Probe p;
             p.Felder.Berechnungsmodus = static_cast<Stoffschema>(i % 4);
             p.Felder.Parameter.Kinetik[0][0] = static_cast<Kinetikart>(i % 4);
-            p.Felder.Parameter.Separate_Rueckstaende = static_cast<std::uint8_t>(i % 3);
+            p.Felder.Parameter.Separate_Rueckstaende = static_cast<Rueckstandsart>(i % 3);
             p.Felder.Parameter.k_SFO[0][0] = 0.001 * (i + 1);
             p.Felder.Applikationsmuster = regelmaessig;
             waehle_Anzahl(p.Felder, 2 + i);

@@ -92,7 +92,7 @@ TEST(Batch_CSV, row_for_each_simulation_study_compound_and_endpoint) {
 TEST(Batch_CSV, numbers_are_those_of_the_JSON) {
     Probeprojekt Projekt;
     Probe p;
-    p.Felder.Parameter.TWA_Zeiten = 0;
+    p.Felder.Parameter.TWA_Zeiten = Monatsliste;
     Projekt.schreibe("a", p);
     const Tabelle t = lies_CSV(rufe({"--csv", "-", Projekt.Pfad()}).aus);
     const auto JSON = rufe({"--json", "-", Projekt.Pfad()}).JSON();

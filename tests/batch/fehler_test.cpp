@@ -210,7 +210,7 @@ TEST_F(Fehler, dose_of_the_table_that_is_too_large_names_its_line) {
 
 Probe mit_Klimadatei() {
     Probe p;
-    p.Felder.Parameter.Klimamodus = 1;
+    p.Felder.Parameter.Klimamodus = nach_Klimadatei;
     p.Felder.Klimaszenario = "weather";
     return p;
 }

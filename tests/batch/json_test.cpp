@@ -55,8 +55,8 @@ TEST(Batch_JSON, keys_stand_in_the_order_of_the_contract) {
 
 TEST(Batch_JSON, simulation_tells_its_records_and_options) {
     Probe p;
-    p.Felder.Parameter.Separate_Rueckstaende = 2;
-    p.Felder.Parameter.TWA_Zeiten = 0;
+    p.Felder.Parameter.Separate_Rueckstaende = im_Jahr_getrennt;
+    p.Felder.Parameter.TWA_Zeiten = Monatsliste;
     p.Felder.Berechnungsmodus = ein_Metabolit;
     const JSON Dokument = gerechnet(p);
     const JSON& s = Dokument["simulations"][0];
@@ -94,7 +94,7 @@ TEST(Batch_JSON, unit_follows_Einheit_and_endpoint) {
     const char* const Einheiten[2][2] = {{"mg/kg", "mg/L"}, {"µg/kg", "µg/L"}};
     for (const int Einheit : {0, 1}) {
         Probe p;
-        p.Felder.Parameter.Einheit = static_cast<std::uint8_t>(Einheit);
+        p.Felder.Parameter.Einheit = static_cast<Einheitsart>(Einheit);
         const JSON Dokument = gerechnet(p);
         const JSON& Endpunktliste = Dokument["simulations"][0]["studies"][0]["compounds"][0]["endpoints"];
         EXPECT_EQ(Endpunktliste[0]["unit"], Einheiten[Einheit][0]);
@@ -115,7 +115,7 @@ TEST(Batch_JSON, applications_of_the_first_year_are_counted_from_the_first) {
 TEST(Batch_JSON, list_of_windows_is_that_of_TWA_Zeiten) {
     for (const int TWA_Zeiten : {0, 1}) {
         Probe p;
-        p.Felder.Parameter.TWA_Zeiten = static_cast<std::uint8_t>(TWA_Zeiten);
+        p.Felder.Parameter.TWA_Zeiten = static_cast<TWA_Listenart>(TWA_Zeiten);
         const JSON Dokument = gerechnet(p);
         const JSON& TWA = Dokument["simulations"][0]["studies"][0]["compounds"][0]["endpoints"][0]["TWA"];
         std::vector<int> Tage;

@@ -54,7 +54,7 @@ Probeprojekt::Probeprojekt() {
 
 void Probeprojekt::schreibe(const std::string& Simulation, const Probe& p) {
     const Projektordner Ordner(Pfad());
-    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) Satz_schreiben(Ordner, Simulation, Art, p.Felder, p.Sicht);
+    for (const Satzart Art : Eingabearten) Satz_schreiben(Ordner, Simulation, Art, p.Felder, p.Sicht);
     schreibe_Simulation(Ordner, Simulation, {p.Felder.Beschreibung, {"", Simulation, Simulation, Simulation}});
     // Time stamps a minute apart, whatever the file system's resolution.
     const auto Zeit = fs::file_time_type::clock::now() + std::chrono::minutes(++Alter_);

@@ -57,7 +57,7 @@ TEST_F(Pruefung, faults_of_every_kind_of_file) {
     Probe p;
     p.Felder.Applikationsmuster = unregelmaessig;
     p.Felder.Applikationsschema = {{"15", "05", "500", "0"}, {"01", "04", "500", "0"}};
-    p.Felder.Parameter.Klimamodus = 1;
+    p.Felder.Parameter.Klimamodus = nach_Klimadatei;
     p.Felder.Klimaszenario = "Desert";
     Projekt.schreibe("turned", p);
     const auto Zeilen = Befunde(1);
@@ -142,7 +142,7 @@ TEST_F(Pruefung, full_series_has_dates_weather_doses_and_the_three_views) {
         Klima += Tag + "\r\n";
     }
     Projekt.schreibe_Bytes("Wet.cli", Klima);
-    p.Felder.Parameter.Klimamodus = 1;
+    p.Felder.Parameter.Klimamodus = nach_Klimadatei;
     p.Felder.Klimaszenario = "Wet";
     Projekt.schreibe("s", p);
     const std::string Ordner = Projekt.daneben("days");

@@ -34,35 +34,35 @@ struct Drei_Simulationen : testing::Test {
     }
 };
 
-using Auswahl = Drei_Simulationen;
+using Simulationswahl = Drei_Simulationen;
 
-TEST_F(Auswahl, default_is_the_newest_summary_file) {
+TEST_F(Simulationswahl, default_is_the_newest_summary_file) {
     EXPECT_THAT(gewaehlt({Projekt.Pfad()}), ElementsAre("gamma"));
     fs::last_write_time(Projekt.Eingabedatei("Alpha.vnk"), fs::file_time_type::clock::now() + std::chrono::hours(1));
     EXPECT_THAT(gewaehlt({Projekt.Pfad()}), ElementsAre("Alpha"));
 }
 
-TEST_F(Auswahl, all_comes_in_the_order_of_the_selector) {
+TEST_F(Simulationswahl, all_comes_in_the_order_of_the_selector) {
     EXPECT_THAT(gewaehlt({"--all", Projekt.Pfad()}), ElementsAre("Alpha", "beta", "gamma"));
 }
 
-TEST_F(Auswahl, names_keep_the_order_of_the_call_and_count_once) {
+TEST_F(Simulationswahl, names_keep_the_order_of_the_call_and_count_once) {
     EXPECT_THAT(gewaehlt({"--simulation", "gamma", "--simulation", "beta", "--simulation", "gamma", Projekt.Pfad()}),
                 ElementsAre("gamma", "beta"));
 }
 
-TEST_F(Auswahl, case_does_not_matter_where_no_name_matches_exactly) {
+TEST_F(Simulationswahl, case_does_not_matter_where_no_name_matches_exactly) {
     EXPECT_THAT(gewaehlt({"--simulation", "ALPHA", "--simulation", "alpha", Projekt.Pfad()}), ElementsAre("Alpha"));
     fs::copy(Projekt.Eingabedatei("Alpha.vnk"), Projekt.Eingabedatei("ALPHA.vnk"));
     EXPECT_THAT(gewaehlt({"--simulation", "ALPHA", Projekt.Pfad()}), ElementsAre("ALPHA"));
 }
 
-TEST_F(Auswahl, case_does_not_matter_for_letters_beyond_ascii_either) {
+TEST_F(Simulationswahl, case_does_not_matter_for_letters_beyond_ascii_either) {
     Projekt.schreibe("Äpfel");
     EXPECT_THAT(gewaehlt({"--simulation", "äPFEL", Projekt.Pfad()}), ElementsAre("Äpfel"));
 }
 
-TEST_F(Auswahl, shards_take_every_nth_and_together_all) {
+TEST_F(Simulationswahl, shards_take_every_nth_and_together_all) {
     const auto Teil = [&](const char* Wunsch) {
         std::vector<std::string> Namen;
         const auto r = rufe({"--all", "--shard", Wunsch, "--json", "-", Projekt.Pfad()});
@@ -77,23 +77,23 @@ TEST_F(Auswahl, shards_take_every_nth_and_together_all) {
     EXPECT_THAT(Teil("7/9"), IsEmpty());
 }
 
-TEST_F(Auswahl, unknown_simulation_is_a_wrong_call_that_calculates_nothing) {
+TEST_F(Simulationswahl, unknown_simulation_is_a_wrong_call_that_calculates_nothing) {
     const auto r = rufe({"--simulation", "beta", "--simulation", "delta", "--json", "-", Projekt.Pfad()});
     EXPECT_EQ(r.Status, 2);
     EXPECT_EQ(r.aus, "");
     EXPECT_THAT(r.fehler, HasSubstr("\"delta\""));
 }
 
-TEST_F(Auswahl, path_in_place_of_a_simulation_name_is_unknown) {
+TEST_F(Simulationswahl, path_in_place_of_a_simulation_name_is_unknown) {
     EXPECT_EQ(rufe({"--simulation", "../input/beta", Projekt.Pfad()}).Status, 2);
 }
 
-TEST_F(Auswahl, input_folder_is_found_whatever_its_case) {
+TEST_F(Simulationswahl, input_folder_is_found_whatever_its_case) {
     fs::rename(Projekt.Pfad() + "/input", Projekt.Pfad() + "/INPUT");
     EXPECT_THAT(gewaehlt({"--all", Projekt.Pfad()}), ElementsAre("Alpha", "beta", "gamma"));
 }
 
-TEST_F(Auswahl, project_path_may_end_in_a_slash) { EXPECT_THAT(gewaehlt({Projekt.Pfad() + "/"}), ElementsAre("gamma")); }
+TEST_F(Simulationswahl, project_path_may_end_in_a_slash) { EXPECT_THAT(gewaehlt({Projekt.Pfad() + "/"}), ElementsAre("gamma")); }
 
 TEST(Projektpfad, missing_project_is_a_wrong_call) {
     const auto r = rufe({"/no/such/project"});

@@ -164,7 +164,7 @@ protected:
         s_.reset();
         s_ = std::make_unique<Sitzung>(Umgebung{&Fragen_, Projekt().string(), VARNOK_DATENORDNER, Dezimalzeichen, &Uhr_});
         EXPECT_TRUE(s_->fuehre_aus<&Programmablauf::oeffne_Projekt>());
-        s_->fuehre_aus<&Programmablauf::starte>();
+        s_->fuehre_aus<&Programmablauf::verlasse_Startseite>();
         const auto& Liste = s_->Stand().Listen[Simulation];
         const auto Platz = std::find(Liste.begin(), Liste.end(), GetParam().Simulation) - Liste.begin();
         s_->fuehre_aus<&Satzverwaltung::waehle_Simulation>(static_cast<int>(Platz));

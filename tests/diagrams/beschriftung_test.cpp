@@ -137,7 +137,7 @@ TEST(Beschriftung, axis_names_and_table_titles_by_unit_and_endpoint) {
                   {1, 1, "c(µg/L)", "Pore water concentrations (µg/L) incl. crop rotation"}};
     for (const auto& f : Faelle) {
         Handergebnis h;
-        h.Felder.Parameter.Einheit = static_cast<std::uint8_t>(f.Einheit);
+        h.Felder.Parameter.Einheit = static_cast<Einheitsart>(f.Einheit);
         h.Sicht.Endpunkt = static_cast<Endpunktart>(f.Endpunkt);
         h.Felder.Berechnungsmodus = ein_Metabolit;
         Diagrammbereiche b = Startbereiche(jaehrlich);
@@ -170,10 +170,10 @@ TEST(Beschriftung, names_are_those_of_now_and_all_else_is_that_of_the_result) {
     p.Felder.Beschreibung = "Barley";
     p.Felder.Studie[0] = "lab";
     p.Felder.Name_Wirkstoff = "new name";
-    p.Felder.Parameter.Einheit = 1;
+    p.Felder.Parameter.Einheit = Mikrogramm;
     p.Felder.Berechnungsmodus = zwei_parallel;
     p.Felder.Parameter.Kinetik[0][0] = FOMC;
-    p.Felder.Parameter.TWA_Zeiten = 0;
+    p.Felder.Parameter.TWA_Zeiten = Monatsliste;
     Diagrammbereiche b = Startbereiche(jaehrlich);
     const std::vector<Diagramm> Diagramme = erstelle_Diagramme(p, b, 0);
     ASSERT_EQ(Diagramme.size(), 1U);
@@ -181,7 +181,7 @@ TEST(Beschriftung, names_are_those_of_now_and_all_else_is_that_of_the_result) {
     EXPECT_EQ(d.Titel.Text, "Annual concentration of Barley Study: lab");
     EXPECT_EQ(d.Kommentar.Text, "Mode: Parent only  - presented substance: new name (kinetics: HS )");
     EXPECT_EQ(d.Name_y_Achse.Text, "c(mg/kg)");
-    EXPECT_EQ(d.Einheit, 0);
+    EXPECT_EQ(d.Einheit, Milligramm);
     EXPECT_EQ(d.Datei.Dateiname, "Detailed Results - new name.tab");
     EXPECT_EQ(d.Legendeninhalt.Gruppen.at(0).Eintraege.at(1).Text, "TWA  (1 d)");
 }

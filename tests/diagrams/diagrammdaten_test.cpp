@@ -22,7 +22,7 @@ Diagramm kurzes(Handergebnis& h, int Satz) {
 // A table with a column for each value of a row.
 Ergebniswerte Werte(const std::vector<std::string>& Koepfe, std::vector<Ergebniswerte::Zeile> Zeilen) {
     Ergebniswerte w;
-    for (const std::string& Kopf : Koepfe) w.Spalten.push_back({Kopf, 0});
+    for (const std::string& Kopf : Koepfe) w.Spalten.push_back({Kopf, Milligramm});
     w.Zeilen = std::move(Zeilen);
     return w;
 }

@@ -292,8 +292,8 @@ TEST(Einzeldiagramm_Kurve, is_the_series_of_the_view) {
 
 TEST(Einzeldiagramm_Kurve, is_that_of_endpoint_and_study) {
     auto h = probe::Handergebnis_Studien(3);
-    setze_Boden(h, {4}, 0, 2, 0);
-    setze_Boden(h, {6}, 0, 2, 1);
+    setze_Boden(h, {4}, 0, 2, Gesamtgehalt);
+    setze_Boden(h, {6}, 0, 2, Porenwasser);
     Diagrammbereiche b = bis_Tag(2);
     EXPECT_EQ(Linien(erstelle_Diagramm(h, b, 0, 2), 1, 2)[0].von.y, 4);
     h.Sicht.Endpunkt = Porenwasser;

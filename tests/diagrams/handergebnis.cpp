@@ -27,21 +27,21 @@ Handergebnis Handergebnis_Studien(int n) {
     return h;
 }
 
-void setze_Boden(Handergebnis& h, const std::vector<float>& Werte, int i_substanz, int i_studie, int i_endpunkt) {
-    Endpunktergebnis& e = h.Werte(i_substanz, i_studie, i_endpunkt);
+void setze_Boden(Handergebnis& h, const std::vector<float>& Werte, int i_substanz, int i_studie, Endpunktart Endpunkt) {
+    Endpunktergebnis& e = h.Werte(i_substanz, i_studie, Endpunkt);
     std::copy(Werte.begin(), Werte.end(), e.Reihe_Bodentiefe.begin());
     e.Maximumtag_Bodentiefe = Tag_des_Maximums(Werte);
     e.Maximum_Bodentiefe = Werte[St(e.Maximumtag_Bodentiefe)];
 }
 
-void setze_Plateau(Handergebnis& h, const std::vector<float>& Werte, int i_substanz, int i_studie, int i_endpunkt) {
-    Endpunktergebnis& e = h.Werte(i_substanz, i_studie, i_endpunkt);
+void setze_Plateau(Handergebnis& h, const std::vector<float>& Werte, int i_substanz, int i_studie, Endpunktart Endpunkt) {
+    Endpunktergebnis& e = h.Werte(i_substanz, i_studie, Endpunkt);
     std::copy(Werte.begin(), Werte.end(), e.Reihe_Plateautiefe.begin());
     e.Maximum_Plateautiefe = Werte[St(Tag_des_Maximums(Werte))];
 }
 
 void setze_Maximumtag(Handergebnis& h, int Tag, int i_substanz, int i_studie) {
-    for (int e = 0; e < Endpunkte; ++e) h.Werte(i_substanz, i_studie, e).Maximumtag_Bodentiefe = Tag;
+    for (const Endpunktart e : alle_Endpunkte) h.Werte(i_substanz, i_studie, e).Maximumtag_Bodentiefe = Tag;
 }
 
 void setze_TWA(Handergebnis& h, float Laenge, float Hoehe, int Start, int i_substanz, int i_studie) {
@@ -51,11 +51,11 @@ void setze_TWA(Handergebnis& h, float Laenge, float Hoehe, int Start, int i_subs
             for (Endpunktergebnis& e : Stoff.Endpunktwerte) e.TWA.at(w).Tage = Laenge;
         }
     }
-    for (int e = 0; e < Endpunkte; ++e) h.Werte(i_substanz, i_studie, e).TWA.at(w) = {Laenge, Hoehe, Start, 0};
+    for (const Endpunktart e : alle_Endpunkte) h.Werte(i_substanz, i_studie, e).TWA.at(w) = {Laenge, Hoehe, Start, 0};
 }
 
-void setze_Plateauwert(Handergebnis& h, float Wert, int i_substanz, int i_studie, int i_endpunkt) {
-    h.Werte(i_substanz, i_studie, i_endpunkt).Plateauwert = Wert;
+void setze_Plateauwert(Handergebnis& h, float Wert, int i_substanz, int i_studie, Endpunktart Endpunkt) {
+    h.Werte(i_substanz, i_studie, Endpunkt).Plateauwert = Wert;
 }
 
 std::vector<Linie> Linien(const Diagramm& d, int Farbe, int Breite) {

@@ -23,9 +23,11 @@ struct Handergebnis : Darstellungsprobe {
 Handergebnis Handergebnis_Studien(int n);
 
 // Days 0 and on of the series in the soil depth, with its maximum and the day of it.
-void setze_Boden(Handergebnis& h, const std::vector<float>& Werte, int i_substanz = 0, int i_studie = 0, int i_endpunkt = 0);
+void setze_Boden(Handergebnis& h, const std::vector<float>& Werte, int i_substanz = 0, int i_studie = 0,
+                 Endpunktart Endpunkt = Gesamtgehalt);
 // The same for the tillage depth.
-void setze_Plateau(Handergebnis& h, const std::vector<float>& Werte, int i_substanz = 0, int i_studie = 0, int i_endpunkt = 0);
+void setze_Plateau(Handergebnis& h, const std::vector<float>& Werte, int i_substanz = 0, int i_studie = 0,
+                   Endpunktart Endpunkt = Gesamtgehalt);
 
 // Day of the peak in the soil depth.
 void setze_Maximumtag(Handergebnis& h, int Tag, int i_substanz = 0, int i_studie = 0);
@@ -33,7 +35,7 @@ void setze_Maximumtag(Handergebnis& h, int Tag, int i_substanz = 0, int i_studie
 // Height and first day of the largest average over the selected window, whose length becomes `Laenge` for all.
 void setze_TWA(Handergebnis& h, float Laenge, float Hoehe, int Start, int i_substanz = 0, int i_studie = 0);
 
-void setze_Plateauwert(Handergebnis& h, float Wert, int i_substanz = 0, int i_studie = 0, int i_endpunkt = 0);
+void setze_Plateauwert(Handergebnis& h, float Wert, int i_substanz = 0, int i_studie = 0, Endpunktart Endpunkt = Gesamtgehalt);
 
 // The lines of a colour and width, in order.
 std::vector<Linie> Linien(const Diagramm& d, int Farbe, int Breite);

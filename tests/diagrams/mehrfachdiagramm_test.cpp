@@ -115,7 +115,7 @@ TEST(Mehrfachdiagramm, the_parallel_scheme_looks_at_the_parent_after_a_click_and
 TEST(Mehrfachdiagramm, the_second_metabolite_gets_room_for_the_longest_window) {
     for (const auto& [Liste, Ende] : {std::pair{1, 801.0}, {0, 1061.0}}) {
         Handergebnis h = Schema(zwei_in_Folge);
-        h.Felder.Parameter.TWA_Zeiten = static_cast<std::uint8_t>(Liste);
+        h.Felder.Parameter.TWA_Zeiten = static_cast<TWA_Listenart>(Liste);
         setze_Maximumtag(h, 700, 2);
         Diagrammbereiche b = Startbereiche(jaehrlich);
         erstelle_Diagramm_mehrfach(h, b, 11, 0, 0);

@@ -44,7 +44,7 @@ TEST(Tagesreihe, head_by_unit_and_endpoint) {
                   {1, 1, "Time (d)\tPEC (µg/L)"}};
     for (const auto& f : Faelle) {
         Handergebnis h;
-        h.Felder.Parameter.Einheit = static_cast<std::uint8_t>(f.Einheit);
+        h.Felder.Parameter.Einheit = static_cast<Einheitsart>(f.Einheit);
         h.Sicht.Endpunkt = static_cast<Endpunktart>(f.Endpunkt);
         EXPECT_EQ(Datei(h, 0, 10).front(), f.Kopf);
     }
@@ -110,8 +110,8 @@ TEST(Diagramm_txt, a_line_for_each_day_and_study_of_the_curves) {
 
 TEST(Diagramm_txt, is_that_of_the_endpoint) {
     auto h = probe::Handergebnis_Studien(1);
-    probe::setze_Plateau(h, {0, 2}, 0, 0, 0);
-    probe::setze_Plateau(h, {0, 3}, 0, 0, 1);
+    probe::setze_Plateau(h, {0, 2}, 0, 0, Gesamtgehalt);
+    probe::setze_Plateau(h, {0, 3}, 0, 0, Porenwasser);
     h.Sicht.Endpunkt = Porenwasser;
     Diagrammbereiche b = Startbereiche(jaehrlich);
     EXPECT_EQ(erstelle_Diagramm_Zusammenfassung(h, b, 0, 0).Datei.Zeilen.at(0), "0 0 1 3");

@@ -51,7 +51,7 @@ TEST_P(Skalierung, by_a_power_of_two_equals_a_run_with_the_new_dose) {
     const auto r = skaliert(Fall(GetParam()).Dosis("500"), Fall(GetParam()).Dosis("2000"), 4);
     ASSERT_TRUE(r);
     for (int c = 0; c < 3; ++c) {
-        for (int e = 0; e < 2; ++e) erwarte_gleich(r->Werte(e, c), neu->Werte(e, c));
+        for (const Endpunktart e : alle_Endpunkte) erwarte_gleich(r->Werte(e, c), neu->Werte(e, c));
     }
     EXPECT_EQ(r->Tagesrate, neu->Tagesrate);
     EXPECT_EQ(r->Wirksame_Rate, neu->Wirksame_Rate);
@@ -65,8 +65,8 @@ TEST(Skalierung, by_interception_equals_a_run_too) {
     const Lauf_bauer neu = Lauf_bauer().nach_SFO(0.002).Dosis("800", "50");
     const auto r = skaliert(Lauf_bauer().nach_SFO(0.002).Dosis("800", "0"), neu, 0.5);
     ASSERT_TRUE(r);
-    erwarte_gleich(r->Werte(0, 0), rechne(neu)->Werte(0, 0));
-    erwarte_gleich(r->Werte(1, 0), rechne(neu)->Werte(1, 0));
+    erwarte_gleich(r->Werte(Gesamtgehalt, 0), rechne(neu)->Werte(Gesamtgehalt, 0));
+    erwarte_gleich(r->Werte(Porenwasser, 0), rechne(neu)->Werte(Porenwasser, 0));
 }
 
 // Three times a rounded value is not the rounded triple: such a change is a run.

@@ -23,7 +23,7 @@ Lauf_bauer bei(const Gitterpunkt& g) {
     b.nach_SFO(0.008, 1).nach_DFOP(0.03, 0.002, 0.4, 2).Korrektur(1, 0, 20, 1).Korrektur(1, 0, 20, 2);
     b.Schema(g.Schema).Rueckstaende(g.Rueckstaende).regelmaessige_Gaben(2, 30).Dosis("750", "20").Temperatur(12);
     b.Molmassen(200, 150, 80).Bildungsanteile(60, 40);
-    if (g.Klimamodus == 1) b.Wetter(wechselndes_Wetter(365)).Beginn(4, 15);
+    if (g.Klimamodus == nach_Klimadatei) b.Wetter(wechselndes_Wetter(365)).Beginn(4, 15);
     return b;
 }
 
@@ -138,7 +138,7 @@ TEST_P(Linear, twice_the_rate_doubles_every_store_exactly) {
     const Gitterpunkt g{GetParam(), 3, 1, 1};
     const Lauf l = bei(g).Dosis("250").rechne();
     const Lauf doppelt = bei(g).Dosis("500").rechne();
-    for (int e = 0; e < Endpunkte; ++e) {
+    for (const Endpunktart e : alle_Endpunkte) {
         for (int c = 0; c < Stoffe; ++c) {
             erwarte_doppelt(doppelt.Speicher.Integral_Bodentiefe(e, 0, c), l.Speicher.Integral_Bodentiefe(e, 0, c), "integral");
             erwarte_doppelt(doppelt.Speicher.Reihe_Plateautiefe(e, 0, c), l.Speicher.Reihe_Plateautiefe(e, 0, c), "tillage");

@@ -35,7 +35,7 @@ TEST(Tabellenkopf, heads_and_labels_of_the_regulation) {
 
 TEST(Tabellenkopf, the_monthly_list_has_15_rows) {
     Lauf_bauer b;
-    b.Felder.Parameter.TWA_Zeiten = 0;
+    b.Felder.Parameter.TWA_Zeiten = Monatsliste;
     const Tabellentext t = Kopf(b);
     ASSERT_EQ(t.size(), 15U);
     EXPECT_EQ(t[13][0], std::string(25 - 2 * 5, ' ') + "360 d");
@@ -98,7 +98,7 @@ TEST(Ergebnistabelle, background_leaves_the_last_texts) {
 
 TEST(Ergebnistabelle, pore_water_shows_its_own_stores) {
     Darstellungsprobe l = mit_Peak(1.5F, 0);
-    l.Werte(0, 0, 1).Maximum_Bodentiefe = 0.5F;
+    l.Werte(0, 0, Porenwasser).Maximum_Bodentiefe = 0.5F;
     l.Sicht.Endpunkt = Porenwasser;
     EXPECT_EQ(Tabelle(l)[1][1], "0.5000");
 }
@@ -112,7 +112,7 @@ TEST(Ergebnistabelle, a_value_below_the_last_place_reads_as_a_bound_and_six_blan
 TEST(Ergebnistabelle, the_unit_decides_the_places) {
     Darstellungsprobe l = mit_Peak(1.5F, 0);
     l.Werte().TWA[0].Maximum = 0.004F;
-    l.Felder.Parameter.Einheit = 1;
+    l.Felder.Parameter.Einheit = Mikrogramm;
     l.Studie();  // the unit is that of the result
     EXPECT_EQ(Tabelle(l)[1][1], "1.50");
     EXPECT_EQ(Tabelle(l)[2][2], "<0.01      ");
@@ -199,7 +199,7 @@ TEST(Ergebniswerte, of_all_studies_have_the_unit_of_each) {
     const Ergebniswerte w = Werte_aller_Studien(p, 0);
     ASSERT_EQ(w.Spalten.size(), 2U);
     EXPECT_EQ(w.Spalten[1].Kopf, "study 2");
-    EXPECT_EQ(w.Spalten[1].Einheit, 0);
+    EXPECT_EQ(w.Spalten[1].Einheit, Milligramm);
     ASSERT_EQ(w.Zeilen.size(), 11U);
     EXPECT_EQ(w.Zeilen[0].Spalten[1], 2.0);
     EXPECT_EQ(w.Zeilen[10].Fenster, 100.0F);

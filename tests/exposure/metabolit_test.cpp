@@ -81,7 +81,7 @@ TEST(Metabolit, is_0_on_day_0_and_appears_on_day_1) {
     EXPECT_EQ(Boden(l, 0, 1), 0.0F);
     EXPECT_EQ(Plateau(l, 0, 1), 0.0F);
     EXPECT_EQ(Boden(l, 1, 1), Bildung(l, 0, 1));
-    EXPECT_EQ(l.Speicher.Integral_Bodentiefe(0, 0, 1)[0], 0.0F);
+    EXPECT_EQ(l.Speicher.Integral_Bodentiefe(Gesamtgehalt, 0, 1)[0], 0.0F);
 }
 
 TEST(Metabolit, what_forms_on_a_day_decays_from_the_next_day_on) {
@@ -195,8 +195,8 @@ TEST(Metabolit, pore_water_is_a_rescaling_with_its_own_KOC) {
     const Lauf l = mit_Metabolit().KOC(300, 1).rechne();
     const double PW = 2 * 300 / 100.0 + 0.4 / 1.5;
     for (const int d : {1, 100, 3649}) {
-        EXPECT_NEAR(Boden(l, d, 1, 1), Boden(l, d, 1) / PW, 1E-6 * static_cast<double>(Boden(l, d, 1))) << d;
-        EXPECT_NEAR(Plateau(l, d, 1, 1), Plateau(l, d, 1) / PW, 1E-6 * static_cast<double>(Plateau(l, d, 1))) << d;
+        EXPECT_NEAR(Boden(l, d, 1, Porenwasser), Boden(l, d, 1) / PW, 1E-6 * static_cast<double>(Boden(l, d, 1))) << d;
+        EXPECT_NEAR(Plateau(l, d, 1, Porenwasser), Plateau(l, d, 1) / PW, 1E-6 * static_cast<double>(Plateau(l, d, 1))) << d;
     }
 }
 

@@ -18,7 +18,7 @@ constexpr int Met = 1;  // a metabolite always takes the estimate
 Lauf mit_Peaks(double erstes, double achtes, double neuntes, double zehntes, int i_substanz = Met) {
     Lauf l = Lauf_bauer().Schema(1).baue();
     l.i_substanz = i_substanz;
-    for (int e = 0; e < Endpunkte; ++e) {
+    for (const Endpunktart e : alle_Endpunkte) {
         auto& J = l.Speicher.Jahresmaximum[static_cast<std::size_t>(e)][0][static_cast<std::size_t>(i_substanz)];
         const float Teiler = e == 0 ? 1.0F : 2.0F;
         J[1] = static_cast<float>(erstes) / Teiler;
@@ -69,11 +69,11 @@ TEST(Schaetzung, runs_for_both_endpoints) {
 
 TEST(Schaetzung, without_growth_there_is_no_background) {
     const Lauf l = berechnet(mit_Peaks(2, 1.5, 1.5, 1.5));
-    for (int e = 0; e < Endpunkte; ++e) {
-        EXPECT_EQ(Zuwachs(l, e), 0) << e;
-        EXPECT_EQ(Wert_von(l, e), 0) << e;
-        EXPECT_EQ(Text(l, e), "100% of the final plateau") << e;
-        EXPECT_EQ(Jahr(l, e), 10) << e;
+    for (const Endpunktart e : alle_Endpunkte) {
+        EXPECT_EQ(Zuwachs(l, e), 0) << int{e};
+        EXPECT_EQ(Wert_von(l, e), 0) << int{e};
+        EXPECT_EQ(Text(l, e), "100% of the final plateau") << int{e};
+        EXPECT_EQ(Jahr(l, e), 10) << int{e};
     }
 }
 
@@ -108,9 +108,9 @@ TEST(Schaetzung, a_lesser_fall_is_still_searched) {
 
 TEST(Schaetzung, linear_growth_has_no_plateau) {
     const Lauf l = berechnet(mit_Peaks(1, 8, 9, 10));
-    for (int e = 0; e < Endpunkte; ++e) {
-        EXPECT_EQ(Wert_von(l, e), static_cast<float>(Zuwachs(l, e))) << e;
-        EXPECT_EQ(Text(l, e), "0% of the final plateau") << e;
+    for (const Endpunktart e : alle_Endpunkte) {
+        EXPECT_EQ(Wert_von(l, e), static_cast<float>(Zuwachs(l, e))) << int{e};
+        EXPECT_EQ(Text(l, e), "0% of the final plateau") << int{e};
     }
     EXPECT_EQ(Zuwachs(l), 9);
 }
@@ -231,7 +231,7 @@ TEST(Geschlossen, without_decay_the_residues_grow_without_limit) {
 
 TEST(Geschlossen, pore_water_has_no_background_after_a_first_run) {
     const Lauf l = Stamm().rechne();
-    EXPECT_GT(Plateau(l, 3649, 0, 1), 0);
+    EXPECT_GT(Plateau(l, 3649, 0, Porenwasser), 0);
     EXPECT_EQ(Wert_von(l, 1), 0);
     EXPECT_EQ(Zuwachs(l, 1), 0);
     EXPECT_EQ(Text(l, 1), "");

@@ -15,7 +15,7 @@ namespace {
 // A run whose integral is what a test says; averages are searched in it alone.
 Lauf mit_Integral(double (*Integral)(int)) {
     Lauf l = Lauf_bauer().baue();
-    for (int e = 0; e < Endpunkte; ++e) {
+    for (const Endpunktart e : alle_Endpunkte) {
         const auto Reihe = l.Speicher.Integral_Bodentiefe(e, 0, 0);
         for (int d = 0; d <= letzter_Tag; ++d) Reihe[static_cast<std::size_t>(d)] = static_cast<float>(Integral(d));
     }
@@ -33,7 +33,7 @@ TEST(TWA_Liste, the_regulation_has_ten_windows) {
 
 TEST(TWA_Liste, the_monthly_list_has_twelve) {
     Lauf_bauer b;
-    b.Felder.Parameter.TWA_Zeiten = 0;
+    b.Felder.Parameter.TWA_Zeiten = Monatsliste;
     const auto Eintraege = TWA_Eintraege(b.Felder.Parameter);
     ASSERT_EQ(Eintraege.size(), 12U);
     EXPECT_EQ(Eintraege.front(), "TWA (30 d)");
@@ -42,9 +42,9 @@ TEST(TWA_Liste, the_monthly_list_has_twelve) {
 
 TEST(TWA_Liste, the_28_or_the_30_day_window_is_preselected) {
     Lauf_bauer b;
-    EXPECT_EQ(TWA_Eintraege(b.Felder.Parameter)[static_cast<std::size_t>(TWA_Vorauswahl(1))], "TWA (28 d)");
-    b.Felder.Parameter.TWA_Zeiten = 0;
-    EXPECT_EQ(TWA_Eintraege(b.Felder.Parameter)[static_cast<std::size_t>(TWA_Vorauswahl(0))], "TWA (30 d)");
+    EXPECT_EQ(TWA_Eintraege(b.Felder.Parameter)[static_cast<std::size_t>(TWA_Vorauswahl(EU_Liste))], "TWA (28 d)");
+    b.Felder.Parameter.TWA_Zeiten = Monatsliste;
+    EXPECT_EQ(TWA_Eintraege(b.Felder.Parameter)[static_cast<std::size_t>(TWA_Vorauswahl(Monatsliste))], "TWA (30 d)");
 }
 
 TEST(TWA_Liste, an_edited_length_is_narrowed_to_single_precision) {
@@ -185,7 +185,7 @@ TEST(TWA, a_length_of_0_is_a_fault) {
 
 TEST(TWA, places_behind_the_last_window_keep_their_values) {
     Lauf_bauer b;
-    b.Felder.Parameter.TWA_Zeiten = 0;
+    b.Felder.Parameter.TWA_Zeiten = Monatsliste;
     Lauf l = b.rechne();
     const float zwoelftes = Mittel(l, 12);
     ASSERT_TRUE(Lauf_bauer().Dosis("1").rechne_in(l).gelungen());

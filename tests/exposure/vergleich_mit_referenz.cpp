@@ -21,7 +21,7 @@ namespace {
 
 std::uint32_t Bits(float v) { return std::bit_cast<std::uint32_t>(v); }
 
-int Fensterzahl(const Laufparameter& p) { return p.TWA_Zeiten == 1 ? 10 : 12; }
+int Fensterzahl(const Laufparameter& p) { return p.TWA_Zeiten == EU_Liste ? 10 : 12; }
 
 // First difference of two stores of numbers as text, empty without one.
 template <class A, class B>
@@ -38,7 +38,7 @@ std::string Unterschied(const A& Lauf_, const B& Referenz) {
 
 void vergleiche_Reihen(const Lauf& l, const referenz::Stoffergebnis& r, int c) {
     const Ergebnisspeicher& s = l.Speicher;
-    for (int e = 0; e < Endpunkte; ++e) {
+    for (const Endpunktart e : alle_Endpunkte) {
         SCOPED_TRACE("endpoint " + std::to_string(e));
         const auto i = static_cast<std::size_t>(e);
         GLEICH(s.Reihe_Bodentiefe(e, l.i_studie, c), r.Boden[i]);
@@ -152,7 +152,7 @@ Lauf_bauer bei(const Gitterpunkt& g) {
     b.nach_SFO(0.01, 1).nach_DFOP(0.03, 0.002, 0.4, 2);
     b.Schema(g.Schema).Rueckstaende(g.Rueckstaende).regelmaessige_Gaben(2, 20).Dosis("750", "20").Temperatur(12);
     b.Korrektur(2.2, 0.5, 20, 1).Korrektur(2.58, 0, 18, 2);
-    if (g.Klimamodus == 1) b.Wetter(wechselndes_Wetter(365)).Beginn(4, 15);
+    if (g.Klimamodus == nach_Klimadatei) b.Wetter(wechselndes_Wetter(365)).Beginn(4, 15);
     return b;
 }
 
@@ -274,7 +274,7 @@ void setze_Szenario(Zufall& z, Lauf_bauer& b) {
 }
 
 void setze_Fenster(Zufall& z, Lauf_bauer& b) {
-    b.Felder.Parameter.TWA_Zeiten = static_cast<std::uint8_t>(z.ganz(0, 1));
+    b.Felder.Parameter.TWA_Zeiten = static_cast<TWA_Listenart>(z.ganz(0, 1));
     if (z.mit(0.7)) return;
     for (double& L : b.Felder.Parameter.TWA.EU) L = z.mit(0.2) ? z.zwischen(3600, 5000) : z.zwischen(0.1, 200);
     for (double& L : b.Felder.Parameter.TWA.Monat) L = z.mit(0.5) ? z.ganz(1, 400) + 0.5 : z.zwischen(0.1, 400);

@@ -8,23 +8,20 @@
 namespace varnok {
 namespace {
 
-constexpr int mg = 0;
-constexpr int Mikrogramm = 1;
-
-std::string fest(double v, int Einheit) { return Formatiere_Zahl(v, false, true, Einheit); }
-std::string gekuerzt(double v) { return Formatiere_Zahl(v, true, false, mg); }
-std::string fuenfstellig(double v) { return Formatiere_Zahl(v, false, false, mg); }
+std::string fest(double v, Einheitsart Einheit) { return Formatiere_Zahl(v, false, true, Einheit); }
+std::string gekuerzt(double v) { return Formatiere_Zahl(v, true, false, Milligramm); }
+std::string fuenfstellig(double v) { return Formatiere_Zahl(v, false, false, Milligramm); }
 
 TEST(Formatiere_Zahl, the_unit_fixes_the_places_of_a_table) {
-    EXPECT_EQ(fest(1.23456, mg), "1.2346");
+    EXPECT_EQ(fest(1.23456, Milligramm), "1.2346");
     EXPECT_EQ(fest(1.23456, Mikrogramm), "1.23");
-    EXPECT_EQ(fest(12345.6, mg), "12345.6000");
+    EXPECT_EQ(fest(12345.6, Milligramm), "12345.6000");
 }
 
 TEST(Formatiere_Zahl, below_the_last_place_of_mg_a_bound_is_told) {
-    EXPECT_EQ(fest(0.00004, mg), "<0.0001");
-    EXPECT_EQ(fest(0.00005, mg), "0.0001");
-    EXPECT_EQ(fest(0, mg), "<0.0001");
+    EXPECT_EQ(fest(0.00004, Milligramm), "<0.0001");
+    EXPECT_EQ(fest(0.00005, Milligramm), "0.0001");
+    EXPECT_EQ(fest(0, Milligramm), "<0.0001");
 }
 
 TEST(Formatiere_Zahl, below_the_last_place_of_micrograms_a_bound_is_told) {
@@ -35,8 +32,8 @@ TEST(Formatiere_Zahl, below_the_last_place_of_micrograms_a_bound_is_told) {
 
 // A metabolite can dip below 0 by a hair; the fixed pattern takes it.
 TEST(Formatiere_Zahl, a_negative_value_passes_the_fixed_pattern) {
-    EXPECT_EQ(fest(-0.00001, mg), "<0.0001");
-    EXPECT_EQ(fest(-0.5, mg), "-0.5000");
+    EXPECT_EQ(fest(-0.00001, Milligramm), "<0.0001");
+    EXPECT_EQ(fest(-0.5, Milligramm), "-0.5000");
 }
 
 TEST(Formatiere_Zahl, about_five_figures_by_the_size_of_the_value) {
@@ -59,7 +56,7 @@ TEST(Formatiere_Zahl, the_pattern_changes_at_each_power_of_ten) {
 TEST(Formatiere_Zahl, exactly_zero_reads_0_0) {
     EXPECT_EQ(fuenfstellig(0), "0.0");
     EXPECT_EQ(gekuerzt(0), "0.0");
-    EXPECT_EQ(Formatiere_Zahl(0, true, true, mg), "0.0");
+    EXPECT_EQ(Formatiere_Zahl(0, true, true, Milligramm), "0.0");
 }
 
 TEST(Formatiere_Zahl, zeros_at_the_end_are_cut) {
@@ -75,10 +72,10 @@ TEST(Formatiere_Zahl, a_point_left_alone_is_cut_too) {
 }
 
 TEST(Formatiere_Zahl, both_switches_cut_and_tell_no_bound) {
-    EXPECT_EQ(Formatiere_Zahl(12.5, true, true, mg), "12.5");
-    EXPECT_EQ(Formatiere_Zahl(100, true, true, mg), "100");
+    EXPECT_EQ(Formatiere_Zahl(12.5, true, true, Milligramm), "12.5");
+    EXPECT_EQ(Formatiere_Zahl(100, true, true, Milligramm), "100");
     EXPECT_EQ(Formatiere_Zahl(100, true, true, Mikrogramm), "100");
-    EXPECT_EQ(Formatiere_Zahl(0.00001, true, true, mg), "0.0000");
+    EXPECT_EQ(Formatiere_Zahl(0.00001, true, true, Milligramm), "0.0000");
 }
 
 TEST(Formatiere_Zahl, zeros_before_the_point_stay) {

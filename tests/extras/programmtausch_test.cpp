@@ -100,7 +100,7 @@ TEST_F(Tausch, the_script_replaces_the_program_after_its_end_and_starts_it) {
     Laufender alter;
     Dateitausch t = Tauscher(alter.Nummer());
     t.bereite_vor(Programm("new"));
-    ASSERT_TRUE(t.starte());
+    ASSERT_TRUE(t.starte_neues_Programm());
     QThread::msleep(500);
     EXPECT_EQ(Dateien().size(), 3U);
     EXPECT_EQ(Inhalt(alt()), Programm("old"));
@@ -122,7 +122,7 @@ TEST_F(Tausch, a_second_running_copy_does_not_hinder) {
     Laufender alter;
     Dateitausch t = Tauscher(alter.Nummer());
     t.bereite_vor(Programm("new"));
-    ASSERT_TRUE(t.starte());
+    ASSERT_TRUE(t.starte_neues_Programm());
     alter.beende();
     EXPECT_TRUE(warte_auf([this] { return !Inhalt(Programme_ / "new was here").empty(); }));
     EXPECT_EQ(Inhalt(alt()), Programm("new"));
@@ -135,7 +135,7 @@ TEST_F(Tausch, a_copy_that_fails_restarts_the_old_program) {
     Dateitausch t = Tauscher(alter.Nummer());
     t.bereite_vor(Programm("new"));
     fs::remove(t.neue_Datei());
-    ASSERT_TRUE(t.starte());
+    ASSERT_TRUE(t.starte_neues_Programm());
     alter.beende();
     ASSERT_TRUE(warte_auf([this] { return !Inhalt(Programme_ / "old was here").empty(); }));
     EXPECT_EQ(Dateien(), (std::vector<std::string>{"old was here", "varnok"}));
@@ -175,7 +175,7 @@ TEST_F(Tausch, nothing_of_the_user_is_written_over_or_removed) {
     Laufender alter;
     Dateitausch t = Tauscher(alter.Nummer());
     t.bereite_vor(Programm("new"));
-    ASSERT_TRUE(t.starte());
+    ASSERT_TRUE(t.starte_neues_Programm());
     alter.beende();
     ASSERT_TRUE(warte_auf([this] { return !Inhalt(Programme_ / "new was here").empty(); }));
     fs::remove(Programme_ / "new was here");
@@ -204,7 +204,7 @@ TEST_F(Tausch, a_link_that_took_the_place_of_the_program_meanwhile_stays) {
     t.bereite_vor(Programm("new"));
     fs::rename(alt(), Wurzel_ / "elsewhere");
     fs::create_symlink(Wurzel_ / "elsewhere", alt());
-    ASSERT_TRUE(t.starte());
+    ASSERT_TRUE(t.starte_neues_Programm());
     alter.beende();
     ASSERT_TRUE(warte_auf([this] { return !Inhalt(Programme_ / "old was here").empty(); }));
     EXPECT_TRUE(fs::is_symlink(alt()));

@@ -116,7 +116,7 @@ const QRectF Flaeche(0, 0, 200, 100);
 const Koordinaten System = {0, 100, 200, 0};
 
 TEST(Schrift, stands_with_its_upper_left_corner_at_its_place) {
-    const Schriftsatz s = setze_Schrift(Flaeche, System, {{30, 80}, "x"});
+    const Schriftbild s = setze_Schrift(Flaeche, System, {{30, 80}, "x"});
     EXPECT_EQ(s.Platz.topLeft(), QPointF(30, 20));
     EXPECT_EQ(s.Schrift.pixelSize(), 13);  // 10 points at 96 per inch
     EXPECT_FALSE(s.gekuerzt);
@@ -127,22 +127,22 @@ TEST(Schrift, number_at_the_edge_is_not_moved) {
 }
 
 TEST(Schrift, label_is_moved_inside) {
-    const Schriftsatz rechts = setze_Schrift(Flaeche, System, {{190, 2}, "label", 0, 10, true, false, true});
+    const Schriftbild rechts = setze_Schrift(Flaeche, System, {{190, 2}, "label", 0, 10, true, false, true});
     EXPECT_DOUBLE_EQ(rechts.Platz.right(), 200);
     EXPECT_DOUBLE_EQ(rechts.Platz.bottom(), 100);
-    const Schriftsatz links = setze_Schrift(Flaeche, System, {{-50, 150}, "label", 0, 10, true, false, true});
+    const Schriftbild links = setze_Schrift(Flaeche, System, {{-50, 150}, "label", 0, 10, true, false, true});
     EXPECT_EQ(links.Platz.topLeft(), QPointF(0, 0));
     EXPECT_FALSE(links.gekuerzt);
 }
 
 TEST(Schrift, label_shrinks_before_it_is_cut) {
     const Schriftzug s = {{0, 50}, "a label of thirty-two characters", 0, 10, false, false, true};
-    const Schriftsatz Fenster = setze_Schrift(Flaeche, System, s, Schriftgroesse_Fenster);
+    const Schriftbild Fenster = setze_Schrift(Flaeche, System, s, Schriftgroesse_Fenster);
     EXPECT_TRUE(Fenster.gekuerzt);
     EXPECT_EQ(Fenster.Schrift.pixelSize(), 13);
     EXPECT_LE(Fenster.Platz.width(), 200);
     EXPECT_TRUE(Fenster.Text.startsWith(QStringLiteral("a lab")) && Fenster.Text.endsWith(QStringLiteral("ters")));
-    const Schriftsatz Bericht = setze_Schrift(Flaeche, System, s, Schriftgroesse_Bericht);
+    const Schriftbild Bericht = setze_Schrift(Flaeche, System, s, Schriftgroesse_Bericht);
     EXPECT_FALSE(Bericht.gekuerzt);
     EXPECT_LT(Bericht.Schrift.pixelSize(), 13);
     EXPECT_LE(Bericht.Platz.width(), 200);
@@ -150,7 +150,7 @@ TEST(Schrift, label_shrinks_before_it_is_cut) {
 }
 
 TEST(Schrift, label_too_wide_even_at_7_points_loses_its_middle) {
-    const Schriftsatz s =
+    const Schriftbild s =
         setze_Schrift(Flaeche, System, {{0, 50}, std::string(60, 'w'), 0, 10, false, false, true}, Schriftgroesse_Bericht);
     EXPECT_TRUE(s.gekuerzt);
     EXPECT_EQ(s.Schrift.pixelSize(), 9);

@@ -31,7 +31,7 @@ void pruefe_Saetze(const std::string& Endung, Satzart Art) {
 }
 
 TEST(Auslieferung, every_record_reads_without_a_note_and_writes_the_same_bytes) {
-    for (const auto Art : {Wirkstoff, Applikation, Szenario}) {
+    for (const auto Art : Eingabearten) {
         pruefe_Saetze(Endungen[Art], Art);
         pruefe_Saetze(Endungen[Art + Szenario], Art);
     }
@@ -43,7 +43,7 @@ TEST(Auslieferung, every_simulation_names_records_that_exist_letter_for_letter) 
     for (const auto& Name : Namen) {
         SCOPED_TRACE(Name);
         const Simulationssatz s = lies_Simulation(Daten, Name);
-        for (const auto Art : {Wirkstoff, Applikation, Szenario}) {
+        for (const auto Art : Eingabearten) {
             EXPECT_THAT(Daten.Namen(Endungen[Art]), Contains(s.Dateinamen[Art]));
         }
     }

@@ -121,7 +121,7 @@ TEST_P(Satz_Schaden, other_kinds_of_file) {
     pruefe("\r\n", GetParam());
     pruefe(std::string(100000, '\n'), GetParam());
     pruefe(std::string(100000, '\t'), GetParam());
-    for (const auto Art : {Wirkstoff, Applikation, Szenario}) pruefe(Bytes(Art, volle_Probe(3)), GetParam());
+    for (const auto Art : Eingabearten) pruefe(Bytes(Art, volle_Probe(3)), GetParam());
 }
 
 INSTANTIATE_TEST_SUITE_P(alle, Satz_Schaden, ::testing::Values(Wirkstoff, Applikation, Szenario));

@@ -66,7 +66,7 @@ TEST(Satz_schreiben, small_scenario_line_by_line) {
 TEST(Satz_schreiben, climate_line_is_the_temperature_or_the_climate_file) {
     Satzprobe p = volle_Probe();
     EXPECT_EQ(zerlegt(Bytes(Szenario, p))[8], "Climatic condition:\tTemperate site");
-    p.Felder.Parameter.Klimamodus = 0;
+    p.Felder.Parameter.Klimamodus = konstante_Temperatur;
     p.Felder.Parameter.Szenariotemperatur = 7;
     const Satzprobe vorher = p;
     EXPECT_EQ(zerlegt(Bytes(Szenario, p))[8],
@@ -260,7 +260,7 @@ INSTANTIATE_TEST_SUITE_P(alle, Satz_Rundgang,
 TEST(Satz_Rundgang_in_Dateien, each_kind_goes_through_the_folder_unchanged) {
     const Probeordner o;
     const Satzprobe p = volle_Probe(3);
-    for (const auto Art : {Wirkstoff, Applikation, Szenario}) {
+    for (const auto Art : Eingabearten) {
         Satz_schreiben(o.Ordner(), "Größe", Art, p.Felder, p.Sicht);
         Satzprobe q;
         EXPECT_EQ(Satz_lesen(o.Ordner(), "Größe", Art, q.Felder, q.Sicht).Ausgang, Leseausgang::gelesen);

@@ -88,11 +88,11 @@ Satzprobe volle_Probe(int Studien, char Dezimalzeichen) {
     l.Kohlenstoffgehalt = 1.25;
     l.Feldkapazitaet = 30.5;
     l.Welkepunkt = 10.1;
-    l.Klimamodus = 1;
+    l.Klimamodus = nach_Klimadatei;
     l.Szenariotemperatur = 21;
-    l.Einheit = 1;
-    l.Separate_Rueckstaende = 2;
-    l.TWA_Zeiten = 0;
+    l.Einheit = Mikrogramm;
+    l.Separate_Rueckstaende = im_Jahr_getrennt;
+    l.TWA_Zeiten = Monatsliste;
     l.Ausgabename_Teile = {1, 0, 2, 3, 0, 1, 255};
     l.Rechenmodus = 3;
     for (std::size_t i = 0; i < static_cast<std::size_t>(Studien); ++i) fuelle_Studie(p, i);

@@ -80,7 +80,7 @@ TEST(Simulation_Datei, missing_file_and_folder_are_told) {
 TEST(Simulation_Datei, line_break_in_a_description_read_back_would_shift_the_names) {
     const Probeordner o;
     o.lege_an("x.vnk", "first\r\nsecond\r\nA\r\nB\r\nC\r\n");
-    EXPECT_EQ(lies_Simulation(o.Ordner(), "x").Dateinamen[1], "second");
+    EXPECT_EQ(lies_Simulation(o.Ordner(), "x").Dateinamen[Wirkstoff], "second");
 }
 
 TEST(Simulation_Datei, refuses_what_the_file_cannot_hold_and_keeps_the_old_one) {
@@ -105,7 +105,7 @@ TEST(Simulation_Datei, name_of_other_case_is_no_entry_of_a_selector_but_opens_th
     const Probeordner o;
     o.lege_an("Compound A.che");
     o.lege_an("x.vnk", "d\r\ncompound a\r\nB\r\nC\r\n");
-    const std::string Name = lies_Simulation(o.Ordner(), "x").Dateinamen[1];
+    const std::string Name = lies_Simulation(o.Ordner(), "x").Dateinamen[Wirkstoff];
     const auto Namen = o.Ordner().Namen(".che");
     EXPECT_EQ(std::count(Namen.begin(), Namen.end(), Name), 0);
     EXPECT_TRUE(o.Ordner().finde(Name, ".che"));

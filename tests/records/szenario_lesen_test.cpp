@@ -22,7 +22,7 @@ TEST(Szenario_lesen, each_line_goes_to_its_place) {
     erwartet.Felder.Parameter.Kohlenstoffgehalt = 1.25;
     erwartet.Felder.Parameter.Feldkapazitaet = 30.5;
     erwartet.Felder.Parameter.Welkepunkt = 10.1;
-    erwartet.Felder.Parameter.Klimamodus = 1;
+    erwartet.Felder.Parameter.Klimamodus = nach_Klimadatei;
     erwartet.Felder.Parameter.Szenariotemperatur = 21;
     erwartet.Felder.Bodenszenario = "Sandy loam, \"dry\"";
     erwartet.Felder.Klimaszenario = "Temperate site";
@@ -33,7 +33,7 @@ TEST(Szenario_lesen, divider_in_place_of_the_climate_lines_means_constant_20_deg
     Satzprobe p = volle_Probe();
     const std::string alt = vor_Zeile(Satz, 10) + Trennlinie + "\r\n";
     EXPECT_EQ(lies(alt, Szenario, p).Ausgang, Leseausgang::gelesen);
-    EXPECT_EQ(p.Felder.Parameter.Klimamodus, 0);
+    EXPECT_EQ(p.Felder.Parameter.Klimamodus, konstante_Temperatur);
     EXPECT_EQ(p.Felder.Parameter.Szenariotemperatur, 20);
     EXPECT_EQ(p.Felder.Klimaszenario, "");
     EXPECT_EQ(Klimatext(p.Felder), "20 °C constant");
@@ -48,10 +48,10 @@ TEST(Szenario_lesen, divider_in_place_of_the_climate_lines_means_constant_20_deg
 TEST(Szenario_lesen, six_hyphens_anywhere_in_line_10_are_the_divider) {
     Satzprobe p;
     EXPECT_EQ(lies(mit_Zeile(Satz, 10, "Climate mode:\t1 ------"), Szenario, p).Ausgang, Leseausgang::gelesen);
-    EXPECT_EQ(p.Felder.Parameter.Klimamodus, 0);
+    EXPECT_EQ(p.Felder.Parameter.Klimamodus, konstante_Temperatur);
     p = {};
     EXPECT_EQ(lies(mit_Zeile(Satz, 10, "Climate mode:\t1 -----"), Szenario, p).Ausgang, Leseausgang::gelesen);
-    EXPECT_EQ(p.Felder.Parameter.Klimamodus, 1);
+    EXPECT_EQ(p.Felder.Parameter.Klimamodus, nach_Klimadatei);
 }
 
 TEST(Szenario_lesen, constant_temperature_takes_the_place_of_the_climate_name) {
@@ -146,12 +146,12 @@ TEST(Szenario_lesen, file_that_ends_before_its_climate_lines_means_constant_20_d
     for (const std::size_t Zeile : {9U, 10U}) {
         for (const int Modus : {0, 1}) {
             Satzprobe p = volle_Probe(4);
-            p.Felder.Parameter.Klimamodus = static_cast<std::uint8_t>(Modus);
+            p.Felder.Parameter.Klimamodus = static_cast<Klimaart>(Modus);
             p.Felder.Parameter.Szenariotemperatur = 5;
             p.Felder.Klimaszenario = "old";
             const Lesebefund b = lies(vor_Zeile(zehn_Grad, Zeile), Szenario, p);
             EXPECT_EQ(b.Ausgang, Leseausgang::gelesen);
-            EXPECT_EQ(p.Felder.Parameter.Klimamodus, 0);
+            EXPECT_EQ(p.Felder.Parameter.Klimamodus, konstante_Temperatur);
             EXPECT_EQ(Klimatext(p.Felder), "20 °C constant");
             ASSERT_EQ(b.Bemerkungen.size(), 1u);
             EXPECT_EQ(b.Bemerkungen[0].Zeile, static_cast<int>(Zeile));
@@ -171,7 +171,7 @@ TEST(Szenario_lesen, temperature_may_be_missing_only_where_a_climate_file_is_nam
         p = vorher;
         const Lesebefund b = lies(Bytes, Szenario, p);
         EXPECT_EQ(b.Ausgang, Leseausgang::gelesen);
-        EXPECT_EQ(p.Felder.Parameter.Klimamodus, 1);
+        EXPECT_EQ(p.Felder.Parameter.Klimamodus, nach_Klimadatei);
         EXPECT_EQ(p.Felder.Klimaszenario, "Temperate site");
         EXPECT_EQ(p.Felder.Parameter.Szenariotemperatur, 20);  // not that of the record before
         ASSERT_EQ(b.Bemerkungen.size(), 1u);

@@ -29,9 +29,9 @@ TEST(Wirkstoff_lesen, each_line_goes_to_its_place) {
     Satzprobe p;
     EXPECT_EQ(lies(Satz, Wirkstoff, p).Ausgang, Leseausgang::gelesen);
     const Satzprobe voll = volle_Probe(2);
-    EXPECT_EQ(p.Felder.Parameter.Einheit, 1);
-    EXPECT_EQ(p.Felder.Parameter.Separate_Rueckstaende, 2);
-    EXPECT_EQ(p.Felder.Parameter.TWA_Zeiten, 0);
+    EXPECT_EQ(p.Felder.Parameter.Einheit, Mikrogramm);
+    EXPECT_EQ(p.Felder.Parameter.Separate_Rueckstaende, im_Jahr_getrennt);
+    EXPECT_EQ(p.Felder.Parameter.TWA_Zeiten, Monatsliste);
     EXPECT_EQ(p.Felder.Parameter.Rechenmodus, 3);
     EXPECT_EQ(p.Felder.Parameter.Ausgabename_Teile, voll.Felder.Parameter.Ausgabename_Teile);
     EXPECT_EQ(p.Felder.Studienzahl(), 2);
@@ -111,7 +111,7 @@ TEST(Wirkstoff_lesen, what_a_record_gives_does_not_depend_on_the_one_before) {
         nach_anderem.Felder.Parameter.Plateautiefe = 0;
     nach_anderem.Felder.Parameter.Kohlenstoffgehalt = nach_anderem.Felder.Parameter.Feldkapazitaet =
         nach_anderem.Felder.Parameter.Welkepunkt = 0;
-    nach_anderem.Felder.Parameter.Klimamodus = 0;
+    nach_anderem.Felder.Parameter.Klimamodus = konstante_Temperatur;
     nach_anderem.Felder.Parameter.Szenariotemperatur = 20;
     EXPECT_EQ(nach_anderem.Felder.Parameter, frisch.Felder.Parameter);
     EXPECT_EQ(Bytes(Wirkstoff, nach_anderem), Bytes(Wirkstoff, frisch));
@@ -173,7 +173,7 @@ TEST_P(Wirkstoff_Flaggen, missing_tab_clears_the_flag_in_progress_and_all_later_
     EXPECT_EQ(p.Felder.Parameter.Ausgabename_Teile, GetParam().erwartet);
     ASSERT_EQ(b.Bemerkungen.size(), 1u);
     EXPECT_EQ(b.Bemerkungen[0].Zeile, 3);
-    EXPECT_EQ(p.Felder.Parameter.Separate_Rueckstaende, 2);
+    EXPECT_EQ(p.Felder.Parameter.Separate_Rueckstaende, im_Jahr_getrennt);
     EXPECT_EQ(p.Felder.Bildungsanteil_Met_2.Text(), "0.25");
 }
 
@@ -223,7 +223,7 @@ TEST(Wirkstoff_Flaggen, fault_in_the_first_study_clears_all_flags_and_goes_on_wi
     EXPECT_EQ(p.Felder.Parameter.Ausgabename_Teile, F{});
     EXPECT_EQ(p.Felder.Studie, volle_Probe(3).Felder.Studie);
     EXPECT_EQ(p.Felder.Parameter.KOC[0][0], 110);
-    EXPECT_EQ(p.Felder.Parameter.Einheit, 1);
+    EXPECT_EQ(p.Felder.Parameter.Einheit, Mikrogramm);
     ASSERT_EQ(b.Bemerkungen.size(), 1u);
     EXPECT_EQ(b.Bemerkungen[0].Zeile, 11);
 }

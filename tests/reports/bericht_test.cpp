@@ -65,7 +65,7 @@ TEST(Bericht, the_run_is_only_read) {
     EXPECT_EQ(l.Studien, vorher.Studien);
     EXPECT_EQ(*l.Studien[0]->Vorgabe, l.Felder);
     for (int c = 0; c < 2; ++c) {
-        for (int e = 0; e < Endpunkte; ++e) {
+        for (const Endpunktart e : alle_Endpunkte) {
             const Endpunktergebnis& jetzt = l.Studien[0]->Werte(e, c);
             EXPECT_EQ(jetzt.Reihe_Bodentiefe, Werte.Werte(e, c).Reihe_Bodentiefe);
             EXPECT_EQ(jetzt.Reihe_Plateautiefe, Werte.Werte(e, c).Reihe_Plateautiefe);
@@ -163,7 +163,7 @@ QTextCursor ab(const Bericht& b, const char* Wort) {
 
 TEST(PDF, of_a_selection_holds_that_and_the_picture_in_it) {
     const Bericht b = Bericht_von(mit_Ergebnissen({}));
-    const auto Text = Seiten(als_PDF(*Auswahl_als_Dokument(ab(b, "GRAPHIC REPRESENTATION")), "x"));
+    const auto Text = Seiten(als_PDF(*Textstelle_als_Dokument(ab(b, "GRAPHIC REPRESENTATION")), "x"));
     ASSERT_TRUE(Text.has_value()) << "poppler-utils is missing";
     ASSERT_EQ(Text->size(), 1U);
     EXPECT_EQ(ohne_Luecken(Text->front()).find("GRAPHIC"), 0U);
@@ -173,7 +173,7 @@ TEST(PDF, of_a_selection_holds_that_and_the_picture_in_it) {
 
 TEST(PDF, of_a_selection_has_font_and_indent_of_the_report) {
     const Bericht b = Bericht_von(mit_Ergebnissen({}));
-    const auto d = Auswahl_als_Dokument(ab(b, "Soil density"));
+    const auto d = Textstelle_als_Dokument(ab(b, "Soil density"));
     EXPECT_EQ(d->defaultFont(), b.Dokument->defaultFont());
     EXPECT_EQ(d->begin().blockFormat(), b.Dokument->findBlock(ab(b, "Soil density").selectionStart()).blockFormat());
 }

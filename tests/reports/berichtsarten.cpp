@@ -35,7 +35,7 @@ Lauf_bauer Metaboliten() { return drei_Stoffe(); }
 Lauf_bauer lange_Namen() {
     Lauf_bauer b = zwanzig_Gaben(mit_Namen(drei_Stoffe()).Einheit(1));
     b.Sicht.Endpunkt = Porenwasser;
-    b.Felder.Parameter.TWA_Zeiten = 0;
+    b.Felder.Parameter.TWA_Zeiten = Monatsliste;
     return b;
 }
 

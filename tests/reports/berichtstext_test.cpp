@@ -279,8 +279,8 @@ TEST(Ergebnisblock, small_value_in_micrograms) {
 TEST(Ergebnisblock, actual_value_behind_the_run_is_that_of_its_last_day) {
     Lauf Rechnung = Lauf_bauer().rechne();
     Rechnung.Speicher.Maximumtag_Bodentiefe[0][0][0] = 3640;
-    Rechnung.Speicher.Reihe_Bodentiefe(0, 0, 0)[3647] = 0.5F;
-    Rechnung.Speicher.Reihe_Bodentiefe(0, 0, 0)[3649] = 0.25F;
+    Rechnung.Speicher.Reihe_Bodentiefe(Gesamtgehalt, 0, 0)[3647] = 0.5F;
+    Rechnung.Speicher.Reihe_Bodentiefe(Gesamtgehalt, 0, 0)[3649] = 0.25F;
     const auto l = aus_Lauf(Rechnung);
     const auto Tabelle = ab_Zeile(erstelle_Standardbericht(l, Angaben), "Time(d)\tPECact*");
     EXPECT_THAT(Tabelle[4], ::testing::StartsWith("7\t0.5000\t"));
@@ -295,7 +295,7 @@ TEST(Ergebnisblock, window_that_is_no_whole_number) {
 
 TEST(Ergebnisblock, monthly_list_has_twelve_windows) {
     Lauf_bauer b;
-    b.Felder.Parameter.TWA_Zeiten = 0;
+    b.Felder.Parameter.TWA_Zeiten = Monatsliste;
     const auto Tabelle = ab_Zeile(Text_von(b), "Time(d)\tPECact*");
     EXPECT_THAT(Tabelle[1], ::testing::StartsWith("30\t"));
     EXPECT_THAT(Tabelle[12], ::testing::StartsWith("360\t"));

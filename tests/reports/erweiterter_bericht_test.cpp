@@ -126,7 +126,7 @@ TEST(ErweiterterBericht, each_study_has_its_own_day_of_the_peak) {
     b.i_studie = 1;
     Lauf zweite = b.rechne();
     zweite.Speicher.Maximumtag_Bodentiefe[0][1][0] = 100;
-    zweite.Speicher.Reihe_Bodentiefe(0, 1, 0)[101] = 0.75F;
+    zweite.Speicher.Reihe_Bodentiefe(Gesamtgehalt, 1, 0)[101] = 0.75F;
     l.Studien[1] = aus_Lauf(zweite).Studien[1];
     const auto Zeilen = ab_Zeile(erstelle_erweiterten_Bericht(l, Angaben), "Time (d)");
     EXPECT_EQ(Zeilen[1], "1\t1.3201\t0.7500");

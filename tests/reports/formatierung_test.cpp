@@ -193,7 +193,7 @@ std::string fett_in(const std::string& Rest) {
     const std::string Text =
         "V A R N O K\r\nSoil Residue Forecast Tool\r\ndeveloped by Emil Tarrasch\r\nRESULTS OF THE CALCULATION\r\n" + Rest;
     QTextDocument d;
-    Textauswahl w(d, QString::fromStdString(Text));
+    Textstelle w(d, QString::fromStdString(Text));
     formatiere_Bericht(w, Text, {""}, Berichtsart::Standard);
     std::string fett;
     for (QTextBlock b = d.findBlockByNumber(4); b.isValid(); b = b.next()) {
@@ -224,7 +224,7 @@ TEST(Warnungsformat, second_warning_too_close_to_the_first_is_overlooked) {
 TEST(Formatierung, text_without_a_title_is_bold_as_a_whole) {
     const std::string Text = "nothing to find\r\nat all\r\n";
     QTextDocument d;
-    Textauswahl w(d, QString::fromStdString(Text));
+    Textstelle w(d, QString::fromStdString(Text));
     formatiere_Bericht(w, Text, {""}, Berichtsart::Standard);
     for (const int Zeile : {0, 1}) {
         const QTextBlock b = d.findBlockByNumber(Zeile);
@@ -235,9 +235,9 @@ TEST(Formatierung, text_without_a_title_is_bold_as_a_whole) {
 
 // --- the selection itself ----------------------------------------------------------------------------------
 
-TEST(Textauswahl, counts_a_line_end_as_two_characters) {
+TEST(Textstelle, counts_a_line_end_as_two_characters) {
     QTextDocument d;
-    Textauswahl w(d, QStringLiteral("ab\r\ncd\r\n\r\nef"));
+    Textstelle w(d, QStringLiteral("ab\r\ncd\r\n\r\nef"));
     EXPECT_TRUE(w.suche(QStringLiteral("ef")));
     EXPECT_EQ(w.Anfang(), 10);
     w.fett();
@@ -249,9 +249,9 @@ TEST(Textauswahl, counts_a_line_end_as_two_characters) {
     EXPECT_EQ(d.toPlainText(), QStringLiteral("ab\ncd\n\nef"));
 }
 
-TEST(Textauswahl, finds_at_or_behind_the_start_of_the_selection) {
+TEST(Textstelle, finds_at_or_behind_the_start_of_the_selection) {
     QTextDocument d;
-    Textauswahl w(d, QStringLiteral("one two one"));
+    Textstelle w(d, QStringLiteral("one two one"));
     EXPECT_TRUE(w.suche(QStringLiteral("one")));
     EXPECT_EQ(w.Anfang(), 0);
     EXPECT_TRUE(w.suche(QStringLiteral("one")));  // at the start counts
@@ -262,9 +262,9 @@ TEST(Textauswahl, finds_at_or_behind_the_start_of_the_selection) {
     EXPECT_EQ(w.Laenge(), 3);
 }
 
-TEST(Textauswahl, search_without_a_hit_leaves_the_selection) {
+TEST(Textstelle, search_without_a_hit_leaves_the_selection) {
     QTextDocument d;
-    Textauswahl w(d, QStringLiteral("one two"));
+    Textstelle w(d, QStringLiteral("one two"));
     w.setze(4, 3);
     EXPECT_FALSE(w.suche(QStringLiteral("three")));
     EXPECT_EQ(w.Anfang(), 4);
@@ -273,9 +273,9 @@ TEST(Textauswahl, search_without_a_hit_leaves_the_selection) {
     EXPECT_FALSE(w.suche(QStringLiteral("TWO")));  // case counts
 }
 
-TEST(Textauswahl, never_reaches_beyond_the_text) {
+TEST(Textstelle, never_reaches_beyond_the_text) {
     QTextDocument d;
-    Textauswahl w(d, QStringLiteral("abc"));
+    Textstelle w(d, QStringLiteral("abc"));
     w.setze(2, 300);
     EXPECT_EQ(w.Laenge(), 1);
     w.setze(302, 0);
@@ -285,9 +285,9 @@ TEST(Textauswahl, never_reaches_beyond_the_text) {
     EXPECT_EQ(w.Laenge(), 2);
 }
 
-TEST(Textauswahl, empty_selection_changes_no_character_but_its_paragraph) {
+TEST(Textstelle, empty_selection_changes_no_character_but_its_paragraph) {
     QTextDocument d;
-    Textauswahl w(d, QStringLiteral("abc\r\ndef"));
+    Textstelle w(d, QStringLiteral("abc\r\ndef"));
     w.setze(1, 0);
     w.fett();
     w.zentriert();

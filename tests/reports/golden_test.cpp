@@ -58,7 +58,7 @@ const std::vector<Fall>& Faelle() {
              Lauf_bauer b = Lauf_bauer().nach_DFOP(0.1, 0.01, 0.7);
              b.Sicht.Endpunkt = Porenwasser;
              b.Sicht.PEC_Typ = Hintergrund;
-             b.Felder.Parameter.TWA_Zeiten = 0;
+             b.Felder.Parameter.TWA_Zeiten = Monatsliste;
              return b;
          }},
         {"variable climate", [] { return Lauf_bauer().Wetter(wechselndes_Wetter(365)).Beginn(4, 15); }},

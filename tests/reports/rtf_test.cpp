@@ -10,7 +10,7 @@
 #include "berichtsprobe.h"
 #include "reports/dokumentbild.h"
 #include "reports/rtf_schreiber.h"
-#include "reports/textauswahl.h"
+#include "reports/textstelle.h"
 #include "rtf_leser.h"
 
 namespace varnok::probe {
@@ -73,7 +73,7 @@ TEST(RTF, formats_of_a_report) {
 
 TEST(RTF, format_that_ends_within_a_line) {
     QTextDocument d;
-    Textauswahl w(d, QStringLiteral("plain bold\r\nnext"));
+    Textstelle w(d, QStringLiteral("plain bold\r\nnext"));
     w.suche(QStringLiteral("bold"));
     w.fett();
     w.Farbe(12);

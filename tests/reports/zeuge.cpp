@@ -59,14 +59,14 @@ struct Zeuge {
     }
     // A concentration in the fixed pattern of its unit.
     std::string Z(double x) const {
-        const bool Mikrogramm = a.Felder.Parameter.Einheit == 1;
-        const std::string t = feste_Zahl(x, Mikrogramm ? 2 : 4);
-        return t.find_first_not_of("0.") == std::string::npos ? (Mikrogramm ? "<0.01" : "<0.0001") : t;
+        const bool in_Mikrogramm = a.Felder.Parameter.Einheit == Mikrogramm;
+        const std::string t = feste_Zahl(x, in_Mikrogramm ? 2 : 4);
+        return t.find_first_not_of("0.") == std::string::npos ? (in_Mikrogramm ? "<0.01" : "<0.0001") : t;
     }
-    int Fenster() const { return a.Felder.Parameter.TWA_Zeiten == 1 ? 10 : 12; }
+    int Fenster() const { return a.Felder.Parameter.TWA_Zeiten == EU_Liste ? 10 : 12; }
     double Laenge(int w) const {
         const auto i = static_cast<std::size_t>(w - 1);
-        return a.Felder.Parameter.TWA_Zeiten == 1 ? a.Felder.Parameter.TWA.EU[i] : a.Felder.Parameter.TWA.Monat[i];
+        return a.Felder.Parameter.TWA_Zeiten == EU_Liste ? a.Felder.Parameter.TWA.EU[i] : a.Felder.Parameter.TWA.Monat[i];
     }
     const referenz::Stoffergebnis& r(std::size_t s, std::size_t c) const { return Studien[s].Stoffe[c]; }
     // Concentration a window's length after the peak, which the ten years limit.
@@ -110,10 +110,11 @@ Fuellung Zeuge::Grundfuellung() const {
     f["carbon"] = allgemeine_Zahl(p.Kohlenstoffgehalt);
     f["capacity"] = allgemeine_Zahl(p.Feldkapazitaet);
     f["wilting"] = allgemeine_Zahl(p.Welkepunkt);
-    f["climate"] = p.Klimamodus == 1 ? a.Felder.Klimaszenario : std::to_string(p.Szenariotemperatur) + " °C constant";
+    f["climate"] =
+        p.Klimamodus == nach_Klimadatei ? a.Felder.Klimaszenario : std::to_string(p.Szenariotemperatur) + " °C constant";
     f["scheme"] = Schemata[Schema()];
     f["word"] = e() == 1 ? "pore water" : "total soil";
-    f["unit"] = std::string(p.Einheit == 1 ? "(µg/" : "(mg/") + (e() == 1 ? "L)" : "kg)");
+    f["unit"] = std::string(p.Einheit == Mikrogramm ? "(µg/" : "(mg/") + (e() == 1 ? "L)" : "kg)");
     f["R"] = std::to_string(a.Sicht.Fruchtwechsel + 1);
     return f;
 }
@@ -130,7 +131,7 @@ std::string Zeuge::Kopf(bool alle) const {
     f["summary"] = alle ? "\r\n\r\nSUMMARY REPORT CONSIDERING ALL SOIL STUDIES\r\n\r\n\r\n\r\n\r\n" : "\r\n\r\n\r\n\r\n";
     f["trailer"] = alle ? "" : "   ";
     f["weather"] = "";
-    if (a.Felder.Parameter.Klimamodus == 1) {
+    if (a.Felder.Parameter.Klimamodus == nach_Klimadatei) {
         const auto& s = Studien.back().Klimasummen;
         const auto ganz = [](double x) { return feste_Zahl(x, 0) == "0" ? std::string() : feste_Zahl(x, 0); };
         f["weather"] = "Mean temperature (°C):                            \t" + feste_Zahl(s[0] / 3751, 1) +
@@ -280,7 +281,7 @@ std::string Zeuge::Ergebnisse(std::size_t c) const {
             Wert((c == 1 ? a.Felder.Molmasse_Met_1 : a.Felder.Molmasse_Met_2).Text()) / Wert(a.Felder.Molmasse_Wirkstoff.Text());
         const auto Dosis =
             static_cast<double>(Studien[st()].Tagesrate[static_cast<std::size_t>(Studien[st()].Applikationstag[1])]);
-        const double T = (a.Felder.Parameter.Einheit == 1 ? 1000 : 1) * (M * (Dosis / 1000)) /
+        const double T = (a.Felder.Parameter.Einheit == Mikrogramm ? 1000 : 1) * (M * (Dosis / 1000)) /
                          (a.Felder.Parameter.Bodentiefe * a.Felder.Parameter.Bodendichte / 10);
         const auto Jahr1 = static_cast<double>(r(st(), c).Jahresmaximum[e()][1]);
         f["share"] = "^\r\n(^ This is " + feste_Zahl(Jahr1 * 100 / T, 2) +

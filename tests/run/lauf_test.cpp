@@ -75,15 +75,15 @@ TEST(Lauf, day_3649_is_the_last_one_computed) {
     for (int c = 0; c < Stoffe; ++c) {
         EXPECT_GT(Boden(l, 3649, c), 0.0F) << c;
         EXPECT_GT(Plateau(l, 3649, c), 0.0F) << c;
-        EXPECT_GT(Plateau(l, 3649, c, 1), 0.0F) << c;
-        EXPECT_GT(l.Speicher.Integral_Bodentiefe(1, 0, c)[3649], 0.0F) << c;
+        EXPECT_GT(Plateau(l, 3649, c, Porenwasser), 0.0F) << c;
+        EXPECT_GT(l.Speicher.Integral_Bodentiefe(Porenwasser, 0, c)[3649], 0.0F) << c;
     }
 }
 
 TEST(Lauf, from_day_3650_on_every_series_stays_0) {
     const Lauf l = mit_allem().rechne();
     for (int d = 3650; d < Tagesplaetze; ++d) {
-        for (int e = 0; e < Endpunkte; ++e) {
+        for (const Endpunktart e : alle_Endpunkte) {
             for (int c = 0; c < Stoffe; ++c) {
                 ASSERT_EQ(Boden(l, d, c, e), 0.0F) << d;
                 ASSERT_EQ(Plateau(l, d, c, e), 0.0F) << d;
@@ -177,7 +177,7 @@ TEST(Lauf, dates_out_of_order_leave_the_study_cleared) {
 TEST(Lauf, a_missing_climate_leaves_the_study_cleared) {
     Lauf l = mit_allem().rechne();
     Lauf_bauer b = mit_allem();
-    b.Felder.Parameter.Klimamodus = 1;
+    b.Felder.Parameter.Klimamodus = nach_Klimadatei;
     EXPECT_EQ(b.rechne_in(l).Ausgang, Laufausgang::Klimadatei_fehlt);
     EXPECT_TRUE(geleert(l, 0));
 }
@@ -186,7 +186,7 @@ TEST(Lauf, a_missing_climate_leaves_the_study_cleared) {
 TEST(Lauf, a_missing_climate_leaves_averages_of_0) {
     Lauf l = Lauf_bauer().rechne();
     Lauf_bauer b;
-    b.Felder.Parameter.Klimamodus = 1;
+    b.Felder.Parameter.Klimamodus = nach_Klimadatei;
     ASSERT_EQ(b.rechne_in(l).Ausgang, Laufausgang::Klimadatei_fehlt);
     EXPECT_EQ(l.Speicher.TWA_Maximum[0][0][0], (std::array<float, TWA_Plaetze>{}));
 }

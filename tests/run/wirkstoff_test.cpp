@@ -100,16 +100,16 @@ TEST(Wirkstoff, the_first_dose_of_year_2_raises_the_tillage_depth_alone) {
 
 TEST(Porenwasser, day_0_sees_the_mean_moisture_and_later_days_field_capacity) {
     const Lauf l = Lauf_bauer().nach_SFO(0).KOC(0).Feuchte(40, 10).rechne();
-    EXPECT_NEAR(Boden(l, 0, 0, 1), 4.0 / 3 / (0.25 / 1.5), 1E-5);
-    EXPECT_NEAR(Boden(l, 1, 0, 1), 4.0 / 3 / (0.40 / 1.5), 1E-5);
+    EXPECT_NEAR(Boden(l, 0, 0, Porenwasser), 4.0 / 3 / (0.25 / 1.5), 1E-5);
+    EXPECT_NEAR(Boden(l, 1, 0, Porenwasser), 4.0 / 3 / (0.40 / 1.5), 1E-5);
     EXPECT_EQ(Boden(l, 0), Boden(l, 1));  // no step in total soil
 }
 
 TEST(Porenwasser, of_day_0_is_that_of_slot_1) {
     const Lauf l = Lauf_bauer().Feuchte(40, 10).rechne();
     const double PW = 2 * 100 / 100.0 + 0.25 / 1.5;
-    EXPECT_EQ(Boden(l, 0, 0, 1), static_cast<float>(static_cast<double>(Bodenslot(l, 1, 0)) / PW));
-    EXPECT_EQ(Plateau(l, 0, 0, 1), static_cast<float>(static_cast<double>(Plateauslot(l, 1, 0)) / PW));
+    EXPECT_EQ(Boden(l, 0, 0, Porenwasser), static_cast<float>(static_cast<double>(Bodenslot(l, 1, 0)) / PW));
+    EXPECT_EQ(Plateau(l, 0, 0, Porenwasser), static_cast<float>(static_cast<double>(Plateauslot(l, 1, 0)) / PW));
 }
 
 TEST(Porenwasser, is_that_of_the_sum_of_all_slots) {
@@ -118,13 +118,13 @@ TEST(Porenwasser, is_that_of_the_sum_of_all_slots) {
     for (int d = 1; d < 3650; ++d) {
         float Summe = 0;
         for (int Slot = 1; Slot < Slots_Plateau; ++Slot) Summe += Plateauslot(l, Slot, d);
-        ASSERT_EQ(Plateau(l, d, 0, 1), static_cast<float>(static_cast<double>(Summe) / PW)) << d;
+        ASSERT_EQ(Plateau(l, d, 0, Porenwasser), static_cast<float>(static_cast<double>(Summe) / PW)) << d;
     }
 }
 
 TEST(Porenwasser, follows_the_moisture_of_the_day_in_variable_climate) {
     const Lauf l = Lauf_bauer().nach_SFO(0).KOC(0).Feuchte(40, 10).Wetter({{0, 9, 20}}).rechne();  // dry after one day
-    EXPECT_NEAR(Boden(l, 1, 0, 1), 4.0 / 3 / (0.10 / 1.5), 1E-5);
+    EXPECT_NEAR(Boden(l, 1, 0, Porenwasser), 4.0 / 3 / (0.10 / 1.5), 1E-5);
 }
 
 // A table that begins with a row of rate 0 has no slot before its first dose, and the moisture of
@@ -137,8 +137,8 @@ TEST(Porenwasser, without_a_slot_the_moisture_stays_at_its_mean_up_to_the_first_
                        .Rueckstaende(1)
                        .Termine({{"1", "3", "0", "0"}, {"6", "3", "1000", "0"}})
                        .rechne();
-    EXPECT_NEAR(Boden(l, 5, 0, 1), 4.0 / 3 / (0.25 / 1.5), 1E-5);
-    EXPECT_NEAR(Boden(l, 6, 0, 1), 4.0 / 3 / (0.40 / 1.5), 1E-5);
+    EXPECT_NEAR(Boden(l, 5, 0, Porenwasser), 4.0 / 3 / (0.25 / 1.5), 1E-5);
+    EXPECT_NEAR(Boden(l, 6, 0, Porenwasser), 4.0 / 3 / (0.40 / 1.5), 1E-5);
 }
 
 // ---- slots ----
@@ -235,7 +235,7 @@ TEST(Erster_Tag, without_a_dose_the_maxima_start_from_0) {
 
 TEST(Erster_Tag, the_integral_starts_at_the_first_concentration) {
     const Lauf l = Lauf_bauer().rechne();
-    for (int e = 0; e < Endpunkte; ++e) EXPECT_EQ(l.Speicher.Integral_Bodentiefe(e, 0, 0)[0], Boden(l, 0, 0, e)) << e;
+    for (const Endpunktart e : alle_Endpunkte) EXPECT_EQ(l.Speicher.Integral_Bodentiefe(e, 0, 0)[0], Boden(l, 0, 0, e)) << int{e};
 }
 
 TEST(Integral, grows_by_trapezoids) {
@@ -243,7 +243,9 @@ TEST(Integral, grows_by_trapezoids) {
     double Summe = static_cast<double>(Boden(l, 0));
     for (int d = 1; d < 3650; ++d) {
         Summe += (static_cast<double>(Boden(l, d)) + static_cast<double>(Boden(l, d - 1))) / 2;
-        ASSERT_NEAR(l.Speicher.Integral_Bodentiefe(0, 0, 0)[static_cast<std::size_t>(d)], Summe, einfach_genau(Summe, d)) << d;
+        ASSERT_NEAR(l.Speicher.Integral_Bodentiefe(Gesamtgehalt, 0, 0)[static_cast<std::size_t>(d)], Summe,
+                    einfach_genau(Summe, d))
+            << d;
     }
 }
 
@@ -278,7 +280,7 @@ TEST(Maxima, the_day_of_the_tillage_depth_follows_the_yearly_maxima) {
 TEST(Maxima, pore_water_has_its_own) {
     const Lauf l = Lauf_bauer().nach_SFO(0.001).KOC(0).Feuchte(40, 10).regelmaessige_Gaben(2, 10).rechne();
     EXPECT_EQ(l.Speicher.Maximumtag_Bodentiefe[0][0][0], 10);
-    EXPECT_EQ(l.Speicher.Maximum_Bodentiefe[1][0][0], Boden(l, 10, 0, 1));
+    EXPECT_EQ(l.Speicher.Maximum_Bodentiefe[1][0][0], Boden(l, 10, 0, Porenwasser));
 }
 
 // An organic carbon content below 0 makes pore water negative: the first year then starts from day 0, the others from -1.
@@ -286,10 +288,10 @@ TEST(Maxima, below_0_start_from_day_0_in_the_first_year_alone) {
     Lauf_bauer b;
     b.Felder.Parameter.Kohlenstoffgehalt *= -1;
     const Lauf l = b.nach_SFO(0.0001).KOC(15).rechne();
-    ASSERT_LT(Plateau(l, 0, 0, 1), -1.0F);
-    ASSERT_LT(Plateau(l, 364, 0, 1), -1.0F);
-    float groesster = Plateau(l, 0, 0, 1);
-    for (int d = 1; d < 365; ++d) groesster = std::max(groesster, Plateau(l, d, 0, 1));
+    ASSERT_LT(Plateau(l, 0, 0, Porenwasser), -1.0F);
+    ASSERT_LT(Plateau(l, 364, 0, Porenwasser), -1.0F);
+    float groesster = Plateau(l, 0, 0, Porenwasser);
+    for (int d = 1; d < 365; ++d) groesster = std::max(groesster, Plateau(l, d, 0, Porenwasser));
     EXPECT_EQ(l.Speicher.Jahresmaximum[1][0][0][1], groesster);
     EXPECT_EQ(l.Speicher.Jahresmaximum[1][0][0][2], -1.0F);
 }

@@ -41,8 +41,8 @@ Ergebnis& Darstellungsprobe::Studie(int i_studie) {
     return *eigenes;
 }
 
-Endpunktergebnis& Darstellungsprobe::Werte(int i_substanz, int i_studie, int i_endpunkt) {
-    return Studie(i_studie).Stoffwerte.at(St(i_substanz)).Endpunktwerte.at(St(i_endpunkt));
+Endpunktergebnis& Darstellungsprobe::Werte(int i_substanz, int i_studie, Endpunktart Endpunkt) {
+    return Studie(i_studie).Stoffwerte.at(St(i_substanz)).Endpunktwerte[Endpunkt];
 }
 
 Darstellungsprobe leere_Probe(const Lauf_bauer& b) { return {b.Felder, b.Sicht, {}}; }

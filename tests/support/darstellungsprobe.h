@@ -17,7 +17,7 @@ struct Darstellungsprobe {
 
     // The result of a study to be changed by hand; an empty one of the present input is made where there is none.
     Ergebnis& Studie(int i_studie = 0);
-    Endpunktergebnis& Werte(int i_substanz = 0, int i_studie = 0, int i_endpunkt = 0);
+    Endpunktergebnis& Werte(int i_substanz = 0, int i_studie = 0, Endpunktart Endpunkt = Gesamtgehalt);
 };
 
 // Every study of the builder's input calculated, by the same way as both programs. Throws std::logic_error if a run ends early.

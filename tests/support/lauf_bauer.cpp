@@ -23,7 +23,7 @@ void kopiere_Studie(Stofftabelle<T>& Tabelle, std::size_t nach) {
 template <class Funktion>
 void alle_Speicher(const Lauf& l, int i_studie, Funktion f) {
     const Ergebnisspeicher& s = l.Speicher;
-    for (int e = 0; e < Endpunkte; ++e) {
+    for (const Endpunktart e : alle_Endpunkte) {
         for (int c = 0; c < Stoffe; ++c) {
             f("Reihe_Plateautiefe", s.Reihe_Plateautiefe(e, i_studie, c));
             f("Reihe_Bodentiefe", s.Reihe_Bodentiefe(e, i_studie, c));
@@ -156,7 +156,7 @@ Lauf_bauer& Lauf_bauer::Termine(std::vector<Applikationszeile> Zeilen) {
 }
 
 Lauf_bauer& Lauf_bauer::Rueckstaende(int Separate_Rueckstaende) {
-    Felder.Parameter.Separate_Rueckstaende = static_cast<std::uint8_t>(Separate_Rueckstaende);
+    Felder.Parameter.Separate_Rueckstaende = static_cast<Rueckstandsart>(Separate_Rueckstaende);
     return *this;
 }
 
@@ -179,7 +179,7 @@ Lauf_bauer& Lauf_bauer::Temperatur(int Grad) {
 }
 
 Lauf_bauer& Lauf_bauer::Wetter(std::vector<Klimatag> Tage) {
-    Felder.Parameter.Klimamodus = 1;
+    Felder.Parameter.Klimamodus = nach_Klimadatei;
     Klima = std::move(Tage);
     return *this;
 }
@@ -191,7 +191,7 @@ Lauf_bauer& Lauf_bauer::Beginn(int Monat, int Tag) {
 }
 
 Lauf_bauer& Lauf_bauer::Einheit(int Code) {
-    Felder.Parameter.Einheit = static_cast<std::uint8_t>(Code);
+    Felder.Parameter.Einheit = static_cast<Einheitsart>(Code);
     return *this;
 }
 
@@ -228,12 +228,12 @@ Lauf Lauf_bauer::rechne() const {
     return l;
 }
 
-float Boden(const Lauf& l, int Tag, int i_substanz, int i_endpunkt) {
-    return l.Speicher.Reihe_Bodentiefe(i_endpunkt, l.i_studie, i_substanz)[St(Tag)];
+float Boden(const Lauf& l, int Tag, int i_substanz, Endpunktart Endpunkt) {
+    return l.Speicher.Reihe_Bodentiefe(Endpunkt, l.i_studie, i_substanz)[St(Tag)];
 }
 
-float Plateau(const Lauf& l, int Tag, int i_substanz, int i_endpunkt) {
-    return l.Speicher.Reihe_Plateautiefe(i_endpunkt, l.i_studie, i_substanz)[St(Tag)];
+float Plateau(const Lauf& l, int Tag, int i_substanz, Endpunktart Endpunkt) {
+    return l.Speicher.Reihe_Plateautiefe(Endpunkt, l.i_studie, i_substanz)[St(Tag)];
 }
 
 float Bodenslot(const Lauf& l, int Slot, int Tag, int i_substanz) {
@@ -247,7 +247,7 @@ float Plateauslot(const Lauf& l, int Slot, int Tag, int i_substanz) {
 std::string Abbild(const Lauf& l, int i_studie) {
     std::string Bytes;
     alle_Speicher(l, i_studie, [&](const char*, const auto& Werte) { haenge_an(Bytes, Werte); });
-    for (int e = 0; e < Endpunkte; ++e) {
+    for (const Endpunktart e : alle_Endpunkte) {
         for (int c = 0; c < Stoffe; ++c) Bytes += l.Speicher.Plateautext[St(e)][St(i_studie)][St(c)] + '\n';
     }
     return Bytes;

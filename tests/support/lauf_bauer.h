@@ -69,8 +69,8 @@ struct Lauf_bauer {
 };
 
 // Values of the sum slot.
-float Boden(const Lauf& l, int Tag, int i_substanz = 0, int i_endpunkt = 0);
-float Plateau(const Lauf& l, int Tag, int i_substanz = 0, int i_endpunkt = 0);
+float Boden(const Lauf& l, int Tag, int i_substanz = 0, Endpunktart Endpunkt = Gesamtgehalt);
+float Plateau(const Lauf& l, int Tag, int i_substanz = 0, Endpunktart Endpunkt = Gesamtgehalt);
 // Values of one slot at total soil content.
 float Bodenslot(const Lauf& l, int Slot, int Tag, int i_substanz = 0);
 float Plateauslot(const Lauf& l, int Slot, int Tag, int i_substanz = 0);

@@ -93,8 +93,8 @@ void Plateaujahr(Stoffergebnis& s, std::size_t e) {
 
 // Total soil only: pore water keeps the zeros that the stores started with.
 bool geschlossen(const Lage& l, Stoffergebnis& s) {
-    const double F =
-        (l.Ergebnis.Wirksame_Rate / 1000) / (l.p.Bodendichte * l.p.Plateautiefe / 10) * std::pow(10.0, 3.0 * l.p.Einheit);
+    const double F = (l.Ergebnis.Wirksame_Rate / 1000) / (l.p.Bodendichte * l.p.Plateautiefe / 10) *
+                     std::pow(10.0, 3.0 * static_cast<int>(l.p.Einheit));
     const double k = l.von(l.p.k_SFO, 0) * std::pow(l.von(l.p.Q10, 0), (l.p.Szenariotemperatur - l.von(l.p.TRef, 0)) / 10);
     const double x = Maximum(std::exp(-365 * k), 1e-30);
     bool begrenzt = true;

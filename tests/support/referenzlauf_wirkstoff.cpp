@@ -18,7 +18,7 @@ struct Wirkstofflauf {
     double Tiefe_Boden = l.p.Bodentiefe / 10;      // dm
     double Tiefe_Plateau = l.p.Plateautiefe / 10;  // dm
     double Dichte = l.p.Bodendichte;               // kg/L
-    double Einheitenfaktor = std::pow(10.0, 3.0 * l.p.Einheit);
+    double Einheitenfaktor = std::pow(10.0, 3.0 * static_cast<int>(l.p.Einheit));
     int Kinetik = -1;
     double k = 0, k1 = 0, k2 = 0, g = 0, alpha = 0, beta = 0, Tb = 0;
     double Bildungsanteil_1 = 0, Bildungsanteil_2 = 0, M0 = 0, M1 = 0, M2 = 0;

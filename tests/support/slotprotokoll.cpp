@@ -25,8 +25,8 @@ std::span<const float, Tagesplaetze> Slotprotokoll::Slot(int i_studie, int i_sub
 
 Tagesreihe_lesend Slotreihe(const Lauf& l, int i_studie, int i_substanz, Tiefe t, int Slot) {
     if (Slot == 0) {
-        return t == Tiefe::Plateau ? l.Speicher.Reihe_Plateautiefe(0, i_studie, i_substanz)
-                                   : l.Speicher.Reihe_Bodentiefe(0, i_studie, i_substanz);
+        return t == Tiefe::Plateau ? l.Speicher.Reihe_Plateautiefe(Gesamtgehalt, i_studie, i_substanz)
+                                   : l.Speicher.Reihe_Bodentiefe(Gesamtgehalt, i_studie, i_substanz);
     }
     const auto* Protokoll = dynamic_cast<const Slotprotokoll*>(l.Beobachter.get());
     if (Protokoll == nullptr) throw std::logic_error("nobody has kept the slots of this run");

@@ -48,7 +48,7 @@ class Scheintausch final : public Programmtausch {
 public:
     bool moeglich() const override { return ersetzbar; }
     void bereite_vor(const std::string& Programm) override { bereit = Programm; }
-    bool starte() override { return ++gestartet > 0 && startet; }
+    bool starte_neues_Programm() override { return ++gestartet > 0 && startet; }
     void verwirf() override { bereit.clear(); }
 
     bool ersetzbar = true, startet = true;

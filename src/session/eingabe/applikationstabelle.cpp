@@ -30,19 +30,19 @@ bool darf_leer_sein(Zelle z) { return !Grenzen(z).Grenzen.enthaelt(0); }
 }  // namespace
 
 bool Applikationstabelle::enthaelt(Zelle z) const {
-    return z.Zeile >= 0 && z.Spalte >= 0 && z.Zeile < static_cast<int>(z_.Felder().Applikationsschema.size()) && z.Spalte < 4;
+    return z.Zeile >= 0 && z.Spalte >= 0 && z.Zeile < static_cast<int>(z_.Vorgabe.Applikationsschema.size()) && z.Spalte < 4;
 }
 
 void Applikationstabelle::setze(Zelle z, Zahlwert v) {
     if (!enthaelt(z)) return;
-    Zahlwert& Ziel = z_.Felder().Applikationsschema[static_cast<std::size_t>(z.Zeile)][static_cast<std::size_t>(z.Spalte)];
+    Zahlwert& Ziel = z_.Vorgabe.Applikationsschema[static_cast<std::size_t>(z.Zeile)][static_cast<std::size_t>(z.Spalte)];
     if (Ziel == v) return;
     Ziel = std::move(v);
-    z_.Saetze[2].merke_Aenderung();
+    z_.Saetze[Applikation].merke_Aenderung();
 }
 
 const Zahlwert& Applikationstabelle::Wert(Zelle z) const {
-    return z_.Felder().Applikationsschema.at(static_cast<std::size_t>(z.Zeile)).at(static_cast<std::size_t>(z.Spalte));
+    return z_.Vorgabe.Applikationsschema.at(static_cast<std::size_t>(z.Zeile)).at(static_cast<std::size_t>(z.Spalte));
 }
 
 bool Applikationstabelle::ausserhalb(Zelle z) const {

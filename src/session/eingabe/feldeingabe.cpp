@@ -1,5 +1,7 @@
 #include "session/eingabe/feldeingabe.h"
 
+#include <utility>
+
 #include "base/zahlen.h"
 #include "session/kern/texte.h"
 #include "session/kern/zahleneingabe.h"
@@ -9,8 +11,8 @@ namespace {
 
 const Feldbeschreibung& Beschreibung(int Feld) { return Feldtabelle()[static_cast<std::size_t>(Feld)]; }
 
-// Type of the record that a field belongs to.
-std::size_t Satz_von(const Feldbeschreibung& f) { return f.Gruppe == Feldgruppe::Dosis ? 2 : 1; }
+// The record that a field belongs to.
+Satzart Satz_von(const Feldbeschreibung& f) { return f.Gruppe == Feldgruppe::Dosis ? Applikation : Wirkstoff; }
 
 bool gehoert_zur_Studie(const Feldbeschreibung& f) {
     return f.Gruppe == Feldgruppe::Studie || f.Gruppe == Feldgruppe::Studie_Hinweis_bleibt;
@@ -37,7 +39,7 @@ je_Ziel(F...) -> je_Ziel<F...>;
 
 const Zahlwert& Feldeingabe::Feldwert(int Feld) const {
     const auto* Ziel = std::get_if<Zahlwert Eingabe::*>(&Beschreibung(Feld).Ziel);
-    return Ziel ? z_.Felder().*(*Ziel) : Studienfelder_[static_cast<std::size_t>(Feld)];
+    return Ziel ? z_.Vorgabe.*(*Ziel) : Studienfelder_[static_cast<std::size_t>(Feld)];
 }
 
 Zahlwert Feldeingabe::gespeicherter_Wert(const Feldbeschreibung& f) const {
@@ -49,7 +51,7 @@ Zahlwert Feldeingabe::gespeicherter_Wert(const Feldbeschreibung& f) const {
     };
     return std::visit(je_Ziel{[&](Stofftabelle<double> Laufparameter::*t) { return zeige((z_.Parameter().*t)[c][st]); },
                               [&](Studientabelle<double> Laufparameter::*t) { return zeige((z_.Parameter().*t)[st]); },
-                              [&](Zahlwert Eingabe::*t) { return z_.Felder().*t; }},
+                              [&](Zahlwert Eingabe::*t) { return z_.Vorgabe.*t; }},
                       f.Ziel);
 }
 
@@ -76,16 +78,17 @@ void Feldeingabe::setze(int Feld, const Zahlwert& v) {
     if (gehoert_zur_Studie(f)) Studienfelder_[static_cast<std::size_t>(Feld)] = v;
     std::visit(je_Ziel{[&](Stofftabelle<double> Laufparameter::*t) { (z_.Parameter().*t)[c][st] = Ziel; },
                        [&](Studientabelle<double> Laufparameter::*t) { (z_.Parameter().*t)[st] = Ziel; },
-                       [&](Zahlwert Eingabe::*t) { z_.Felder().*t = v; }},
+                       [&](Zahlwert Eingabe::*t) { z_.Vorgabe.*t = v; }},
                f.Ziel);
 }
 
 void Feldeingabe::aendere(int Feld, const std::string& Text) {
     const Feldbeschreibung& f = Beschreibung(Feld);
-    geaendert_ = true;
+    Satzplatz& Satz = z_.Saetze[Satz_von(f)];
+    if (!std::exchange(geaendert_, true)) alte_Marke_ = Satz.Geaendert();
     setze(Feld, Text);
     if (Feldwert(Feld) == Alter_Wert_) z_.Feld_abgelehnt = false;
-    z_.Saetze[Satz_von(f)].merke_Aenderung();
+    Satz.merke_Aenderung();
 }
 
 bool Feldeingabe::pruefe(int Feld, bool Enter) {
@@ -136,6 +139,7 @@ bool Feldeingabe::ausserhalb(int Feld) const {
 void Feldeingabe::nimm_zurueck(int Feld) {
     if (Feld != aktiv_ || !geaendert_) return;
     setze(Feld, Alter_Wert_);
+    z_.Saetze[Satz_von(Beschreibung(Feld))].stelle_Marke(alte_Marke_);
     geaendert_ = z_.Feld_abgelehnt = false;
 }
 

@@ -51,9 +51,10 @@ private:
     Laufsteuerung& Laeufe_;
     std::vector<Zahlwert> Studienfelder_;  // what the study fields show; the other texts stand in `Eingabe`
     int aktiv_ = -1;
-    Zahlwert Alter_Wert_;     // last accepted text of the active field
-    Zahlwert Eintrittswert_;  // its text when it got the focus
-    bool geaendert_ = false;  // typed in since the field got the focus
+    Zahlwert Alter_Wert_;      // last accepted text of the active field
+    Zahlwert Eintrittswert_;   // its text when it got the focus
+    bool geaendert_ = false;   // typed in since the field got the focus
+    bool alte_Marke_ = false;  // of its record, before that
 };
 
 }  // namespace varnok

@@ -8,7 +8,7 @@
 
 namespace varnok {
 
-void Listenwahl::merke_Applikation() { z_.Saetze[2].merke_Aenderung(); }
+void Listenwahl::merke_Applikation() { z_.Saetze[Applikation].merke_Aenderung(); }
 
 void Listenwahl::waehle_Substanz(int c) {
     z_.Sicht.Substanz = c;
@@ -19,7 +19,7 @@ void Listenwahl::waehle_Kinetik(int c, Kinetikart k) {
     Kinetikart& Kinetik = z_.Parameter().Kinetik[static_cast<std::size_t>(c)][static_cast<std::size_t>(z_.i_studie())];
     if (Kinetik == k) return;
     Kinetik = k;
-    z_.Saetze[1].merke_Aenderung();
+    z_.Saetze[Wirkstoff].merke_Aenderung();
     Laeufe_.berechne();
 }
 
@@ -31,56 +31,56 @@ void Listenwahl::waehle_Studie(int i) {
 }
 
 void Listenwahl::waehle_Berechnungsmodus(Stoffschema m) {
-    if (m == z_.Felder().Berechnungsmodus) return;
-    z_.Felder().Berechnungsmodus = m;
+    if (m == z_.Vorgabe.Berechnungsmodus) return;
+    z_.Vorgabe.Berechnungsmodus = m;
     if (z_.Sicht.Substanz >= Anzahl_Stoffe(m)) z_.Sicht.Substanz = 0;
     if (!z_.Gestartet) return;
-    z_.Saetze[1].merke_Aenderung();
+    z_.Saetze[Wirkstoff].merke_Aenderung();
     // Nothing valid stands for the new scheme: the summary ends and every study is run.
     z_.zeige_Studien();
     Laeufe_.berechne_alle_Studien();
 }
 
 void Listenwahl::aendere_Namen(int c, const std::string& Name) {
-    std::string& Platz = c == 0 ? z_.Felder().Name_Wirkstoff : c == 1 ? z_.Felder().Name_Met_1 : z_.Felder().Name_Met_2;
+    std::string& Platz = c == 0 ? z_.Vorgabe.Name_Wirkstoff : c == 1 ? z_.Vorgabe.Name_Met_1 : z_.Vorgabe.Name_Met_2;
     if (Platz == Name) return;
     Platz = Name;
-    z_.Saetze[1].merke_Aenderung();
+    z_.Saetze[Wirkstoff].merke_Aenderung();
 }
 
 void Listenwahl::waehle_Muster(Applikationsart m) {
-    if (m == z_.Felder().Applikationsmuster) return;
-    z_.Felder().Applikationsmuster = m;
+    if (m == z_.Vorgabe.Applikationsmuster) return;
+    z_.Vorgabe.Applikationsmuster = m;
     if (!z_.Gestartet) return;
     merke_Applikation();
     Laeufe_.berechne();
 }
 
 void Listenwahl::waehle_Monat(int i) {
-    if (i == z_.Felder().App_Monat) return;
-    z_.Felder().App_Monat = i;
-    z_.Felder().App_Tag = std::min(z_.Felder().App_Tag, Tage_im_Monat(i + 1) - 1);
+    if (i == z_.Vorgabe.App_Monat) return;
+    z_.Vorgabe.App_Monat = i;
+    z_.Vorgabe.App_Tag = std::min(z_.Vorgabe.App_Tag, Tage_im_Monat(i + 1) - 1);
     merke_Applikation();
     Laeufe_.berechne();
 }
 
 void Listenwahl::waehle_Tag(int i) {
-    if (i == z_.Felder().App_Tag) return;
-    z_.Felder().App_Tag = i;
+    if (i == z_.Vorgabe.App_Tag) return;
+    z_.Vorgabe.App_Tag = i;
     merke_Applikation();
     Laeufe_.berechne();
 }
 
 void Listenwahl::waehle_Intervall(int i) {
-    if (i == z_.Felder().Intervall_Index) return;
-    z_.Felder().Intervall_Index = i;
+    if (i == z_.Vorgabe.Intervall_Index) return;
+    z_.Vorgabe.Intervall_Index = i;
     z_.zeige_Studien();
     merke_Applikation();
     Laeufe_.berechne();
 }
 
 void Listenwahl::waehle_Anzahl(int i) {
-    Eingabe& e = z_.Felder();
+    Eingabe& e = z_.Vorgabe;
     const int Anzahl = kleinste_Anzahl(e) + i;
     if (Anzahl == e.Anzahl()) return;
     const std::size_t bisher = e.Applikationsschema.size();
@@ -125,9 +125,9 @@ void Listenwahl::zeige_Zusammenfassung() {
     Laeufe_.berechne();
 }
 
-int Listenwahl::Tage() const { return Tage_im_Monat(z_.Felder().App_Monat + 1); }
+int Listenwahl::Tage() const { return Tage_im_Monat(z_.Vorgabe.App_Monat + 1); }
 
-int Listenwahl::Intervalle() const { return laengstes_Intervall(z_.Felder().Anzahl()); }
+int Listenwahl::Intervalle() const { return laengstes_Intervall(z_.Vorgabe.Anzahl()); }
 
 std::vector<std::string> Listenwahl::TWA_Laengen() const { return TWA_Eintraege(z_.Parameter(), z_.Welt.Dezimalzeichen); }
 

@@ -40,7 +40,7 @@ std::string Berichtssteuerung::Ergebnisdatei() const {
 }
 
 Berichtssteuerung::Grundlage Berichtssteuerung::jetzige_Grundlage() const {
-    return {Diagramme_.Zeichnung(), z_.Vorgabe, z_.Namen, z_.Einstellung.Bild.fuer_Druck};
+    return {Diagramme_.Zeichnung(), z_.Vorgabe, z_.Namen, z_.Einstellung.Bild.fuer_Druck, Herkunft_der_Ergebnisse(z_)};
 }
 
 void Berichtssteuerung::schliesse_veralteten() {
@@ -72,7 +72,7 @@ void Berichtssteuerung::stelle_her(const Diagramm& Bild) {
                                                            Bild,
                                                            Diagramme_.Legende(),
                                                            z_.Einstellung.Bild.fuer_Druck,
-                                                           Herkunft_der_Ergebnisse(z_)}));
+                                                           Grundlage_.Herkunft}));
 }
 
 void Berichtssteuerung::speichere_PDF(const std::string& Pfad) const {

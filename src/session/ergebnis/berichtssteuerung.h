@@ -41,6 +41,7 @@ private:
         Eingabe Vorgabe;
         std::array<std::string, 4> Saetze;
         bool fuer_Druck = false;
+        std::string Herkunft;
 
         friend bool operator==(const Grundlage&, const Grundlage&) = default;
     };

@@ -77,7 +77,7 @@ std::string Diagrammsteuerung::zeichne(const Ergebnis* gelaufen) {
 }
 
 int& Diagrammsteuerung::Platz_vorne() {
-    const Stoffschema m = z_.Felder().Berechnungsmodus;
+    const Stoffschema m = z_.Vorgabe.Berechnungsmodus;
     return z_.Zusammenfassung_aktiv() ? vorne_Zusammenfassung_[m] : vorne_[m];
 }
 
@@ -91,7 +91,7 @@ const Diagramm* Diagrammsteuerung::vorderes() const {
 }
 
 void Diagrammsteuerung::bringe_nach_vorn(int i_substanz) {
-    const Stoffschema m = z_.Felder().Berechnungsmodus;
+    const Stoffschema m = z_.Vorgabe.Berechnungsmodus;
     const int Nummer = z_.Zusammenfassung_aktiv() ? Zusammenfassungssatz_von(m, i_substanz) : Diagrammsatz_von(m, i_substanz);
     if (Nummer != kein_Diagramm) Platz_vorne() = Nummer;
 }

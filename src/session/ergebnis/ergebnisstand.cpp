@@ -14,7 +14,7 @@ bool gleiche_Bytes(const Klimabytes& a, const Klimabytes& b) { return a == b || 
 bool Ergebnisstand::gueltig(int i_studie, const Eingabe& e, const Klimabytes& Klima) const {
     const auto st = static_cast<std::size_t>(i_studie);
     if (!Werte_.at(st)) return false;
-    if (e.Parameter.Klimamodus == 1 && !gleiche_Bytes(Klima_[st], Klima)) return false;
+    if (e.Parameter.Klimamodus == nach_Klimadatei && !gleiche_Bytes(Klima_[st], Klima)) return false;
     return gleicher_Laufeingang(*Werte_[st]->Vorgabe, e, i_studie);
 }
 

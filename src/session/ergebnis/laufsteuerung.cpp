@@ -29,7 +29,7 @@ bool nur_andere_Dosis(Eingabe alt, const Eingabe& neu, int i_studie) {
 }  // namespace
 
 void Laufsteuerung::sieh_Klima_an() {
-    if (z_.Parameter().Klimamodus != 1 || !z_.Ordner) {
+    if (z_.Parameter().Klimamodus == konstante_Temperatur || !z_.Ordner) {
         z_.Klima = nullptr;
         return;
     }
@@ -128,7 +128,7 @@ void Laufsteuerung::melde_Warnungen() {
 }
 
 void Laufsteuerung::melde_fehlenden_Satz() {
-    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) {
+    for (const Satzart Art : Eingabearten) {
         if (z_.Auswahl(Art) < 0) {
             melde(z_, Texte::Satz_nicht_gewaehlt, Texte::Satz_waehlen[Art]);
             return;

@@ -21,6 +21,7 @@
 #include "session/saetze/beschreibungseingabe.h"
 #include "session/saetze/eingabedateien.h"
 #include "session/saetze/organiser.h"
+#include "session/saetze/satzumbenennung.h"
 #include "session/saetze/satzverwaltung.h"
 #include "session/saetze/studienverwaltung.h"
 #include "session/saetze/szenarioeditor.h"
@@ -60,7 +61,7 @@ inline constexpr Befehlsliste alle_Befehle{
     Zeile<&Applikationstabelle::haenge_an>{Weg::Zwischenschritt},
     Zeile<&Applikationstabelle::nimm_letztes>{Weg::Zwischenschritt},
     Zeile<&Applikationstabelle::leere>{Weg::Zwischenschritt},
-    Zeile<&Applikationstabelle::fuege_ein>{Weg::Zwischenschritt},
+    Zeile<&Applikationstabelle::fuege_ein>{Weg::Befehl},
     Zeile<&Applikationstabelle::schliesse_ab>{Weg::Handlung, true},
     Zeile<&Applikationstabelle::bestaetige>{Weg::Rechenbefehl},
 
@@ -100,7 +101,10 @@ inline constexpr Befehlsliste alle_Befehle{
     Zeile<&Satzverwaltung::lege_an>{Weg::Rechenbefehl},
     Zeile<&Satzverwaltung::kopiere>{Weg::Befehl},
     Zeile<&Satzverwaltung::loesche>{Weg::Befehl},
-    Zeile<&Satzverwaltung::benenne_um>{Weg::Befehl},
+    Zeile<&Satzumbenennung::beginne>{Weg::Befehl},
+    Zeile<&Satzumbenennung::aendere>{Weg::Zwischenschritt},
+    Zeile<&Satzumbenennung::bestaetige>{Weg::Handlung},
+    Zeile<&Satzumbenennung::nimm_zurueck>{Weg::Zwischenschritt},
     Zeile<&Satzverwaltung::speichere>{Weg::Befehl},
     Zeile<&Satzverwaltung::aktualisiere>{Weg::Rechenbefehl},
 
@@ -164,7 +168,7 @@ inline constexpr Befehlsliste alle_Befehle{
     Zeile<&Projektoeffnung::merke>{Weg::Zwischenschritt},
 
     Zeile<&Programmablauf::oeffne_Projekt>{Weg::Handlung},
-    Zeile<&Programmablauf::starte>{Weg::Handlung},
+    Zeile<&Programmablauf::verlasse_Startseite>{Weg::Handlung},
     Zeile<&Programmablauf::beginne_Dialog>{Weg::Befehl},
     Zeile<&Programmablauf::beende>{Weg::Befehl},
     Zeile<&Programmablauf::schliesse_Fenster>{Weg::Handlung},

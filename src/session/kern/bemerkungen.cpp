@@ -47,7 +47,7 @@ std::vector<Bemerkung> Bemerkungen(const Zustand& z) {
             Alle.push_back(std::move(b));
         }
     };
-    for (const Satzart Art : {Simulation, Wirkstoff, Applikation, Szenario}) {
+    for (const Satzart Art : alle_Arten) {
         if (z.Saetze[Art].gelesen() && !z.Saetze[Art].Datei().Bytes.empty()) nimm_auf(zum_Satz(z.Saetze[Art].Datei(), Art));
     }
     nimm_auf(zum_Klima(z));

@@ -17,22 +17,24 @@ std::vector<int> Eingabestand::gezeigte_Studien() const {
 }
 
 bool Eingabestand::Saetze_vollstaendig() const {
-    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) {
+    for (const Satzart Art : Eingabearten) {
         if (Auswahl(Art) < 0 || !Saetze[Art].gelesen()) return false;
     }
     return Saetze[Simulation].gelesen();  // a simulation in the place of a deleted one
 }
 
-std::string Eingabestand::Speicherbytes(Satzart Art) const {
-    if (Art != Simulation) return Satz_als_Bytes(Art, Vorgabe, Sicht, Welt.Dezimalzeichen);
+std::string Eingabestand::Bytes(Satzart Art, const Ansicht& Gesehenes) const {
+    if (Art != Simulation) return Satz_als_Bytes(Art, Vorgabe, Gesehenes, Welt.Dezimalzeichen);
     Simulationssatz Satz{Vorgabe.Beschreibung, {}};
-    for (const Satzart t : {Wirkstoff, Applikation, Szenario}) Satz.Dateinamen[t] = Namen[t];
+    for (const Satzart t : Eingabearten) Satz.Dateinamen[t] = Namen[t];
     return Simulation_als_Bytes(Satz);
 }
 
+std::string Eingabestand::Speicherbytes(Satzart Art) const { return Bytes(Art, Sicht); }
+
 std::string Eingabestand::Speicherbild(Satzart Art) const {
     try {
-        return Speicherbytes(Art);
+        return Bytes(Art, {});
     } catch (const Laufzeitfehler& f) {
         return f.what();
     }
@@ -53,11 +55,13 @@ bool Eingabestand::Simulation_markiert() const {
 }
 
 Eingabestand::Marken_je_Art Eingabestand::Marken() const {
-    return {Saetze[0].Geaendert(), Saetze[1].Geaendert(), Saetze[2].Geaendert(), Saetze[3].Geaendert()};
+    Marken_je_Art Marken{};
+    for (const Satzart Art : alle_Arten) Marken[Art] = Saetze[Art].Geaendert();
+    return Marken;
 }
 
 void Eingabestand::stelle_Marken(const Marken_je_Art& Marken) {
-    for (std::size_t Art = 0; Art < Saetze.size(); ++Art) Saetze[Art].stelle_Marke(Marken[Art]);
+    for (const Satzart Art : alle_Arten) Saetze[Art].stelle_Marke(Marken[Art]);
 }
 
 }  // namespace varnok

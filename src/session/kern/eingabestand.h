@@ -20,21 +20,19 @@ struct Eingabestand : Schauplatz, Satzlisten {
     Ansicht Sicht;    // what the user has chosen to look at
     std::array<Satzplatz, 4> Saetze;
 
-    Eingabe& Felder() { return Vorgabe; }
-    const Eingabe& Felder() const { return Vorgabe; }
     Laufparameter& Parameter() { return Vorgabe.Parameter; }
     const Laufparameter& Parameter() const { return Vorgabe.Parameter; }
     int i_studie() const { return Sicht.Studie_Index; }
     int Studienzahl() const { return Vorgabe.Studienzahl(); }
 
-    // Told mark: all studies are in view, of which there are several.
+    // All studies are in view, of which there are several.
     bool Zusammenfassung_aktiv() const { return Zusammenfassung_ && Studienzahl() > 1; }
     void zeige_Zusammenfassung() { Zusammenfassung_ = true; }
     void zeige_Studien() { Zusammenfassung_ = false; }
     // The studies that the view on display shows: the selected one, in the summary view all.
     std::vector<int> gezeigte_Studien() const;
 
-    // The told marks, by kind.
+    // What of each kind the user changed.
     using Marken_je_Art = std::array<bool, 4>;
     Marken_je_Art Marken() const;
     // As they were before a step that did not come about, or that is no change of the user's.
@@ -48,13 +46,16 @@ struct Eingabestand : Schauplatz, Satzlisten {
     bool Saetze_vollstaendig() const;
     // What a save of this kind writes. Throws Laufzeitfehler for a text or a value that no record can hold.
     std::string Speicherbytes(Satzart Art) const;
-    // The same for comparing: where nothing can be written, the reason.
+    // The inputs in it, for comparing: the same whatever is in view, which a record keeps and no result depends on. Where nothing
+    // can be written, the reason.
     std::string Speicherbild(Satzart Art) const;
-    // Whether a save would now write something else than right after reading or saving. A place that was not read is different
+    // Whether a save would now write other inputs than right after reading or saving. A place that was not read is different
     // only by what the user entered there.
     bool verschieden(Satzart Art) const;
 
 private:
+    std::string Bytes(Satzart Art, const Ansicht& Gesehenes) const;
+
     bool Zusammenfassung_ = false;
 };
 

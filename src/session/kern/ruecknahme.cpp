@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "exposure/twa.h"
 #include "session/kern/unterschied.h"
 
 namespace varnok {
@@ -13,6 +14,12 @@ void Ruecknahme::mache_rueckgaengig() {
 
 void Ruecknahme::wiederhole() {
     if (Verlauf_.kann_vor()) stelle_her(Verlauf_.vor());
+}
+
+// What stands in a field or a cell becomes the last step with the command.
+std::string Ruecknahme::Name_zurueck() const {
+    const std::string Offenes = Verlauf_.Name_des_Offenen(z_.Vorgabe);
+    return Offenes.empty() ? Verlauf_.Name_zurueck() : Offenes;
 }
 
 // A field in work is no step yet.
@@ -32,8 +39,10 @@ int Ruecknahme::Folge_der_Saetze() const {
 // An input of the history in place of the present one, with the study and the compound in view that it concerns.
 void Ruecknahme::stelle_her(const Eingabe& e) {
     const Unterschied u = vergleiche(z_.Vorgabe, e);
+    const bool andere_Fenster = z_.Vorgabe.Parameter.TWA_Zeiten != e.Parameter.TWA_Zeiten;
     z_.Vorgabe = e;
-    for (const Satzart Art : {Simulation, Wirkstoff, Applikation, Szenario}) {
+    if (andere_Fenster) z_.Sicht.TWA_Laenge = TWA_Vorauswahl(e.Parameter.TWA_Zeiten);
+    for (const Satzart Art : alle_Arten) {
         if (u.Arten[Art]) z_.Saetze[Art].merke_Aenderung();
     }
     if (u.i_studie >= 0) z_.Sicht.Studie_Index = u.i_studie;

@@ -16,7 +16,7 @@ public:
     void mache_rueckgaengig();
     void wiederhole();
     // What they would change; empty where there is nothing.
-    std::string Name_zurueck() const { return Verlauf_.Name_zurueck(); }
+    std::string Name_zurueck() const;
     std::string Name_vor() const { return Verlauf_.Name_vor(); }
 
     // An action is over, or a command begins: what was entered up to here is a step of its own.

@@ -16,13 +16,13 @@ struct Dateistand {
 class Satzplatz {
 public:
     const Dateistand& Datei() const { return Datei_; }
-    // What a save would have written right after reading or saving.
+    // The inputs as a save would have written them right after reading or saving.
     const std::string& gespeichert() const { return gespeichert_; }
     // False: the values on the screen are not those of the record that the selector names.
     bool gelesen() const { return gelesen_; }
     // Why not, for the cover; empty while it is only waiting to be read.
     const std::string& Grund() const { return Grund_; }
-    // Told mark: the user changed it and is asked before it goes.
+    // The user changed it and is asked before it goes. The commands set it; nothing is compared.
     bool Geaendert() const { return Geaendert_; }
 
     // Counts what ties other values to the record: reading it, giving it up.
@@ -36,7 +36,7 @@ public:
         stelle(false, std::move(Grund));
         ++Lesungen_;
     }
-    // The values of this file are on the screen; `Bild` is what a save of them would write.
+    // The values of this file are on the screen; `Bild` is how a save would write them.
     void lies(Dateistand Datei, std::string Bild) {
         kenne(std::move(Datei), std::move(Bild));
         ++Lesungen_;
@@ -59,8 +59,8 @@ public:
         if (gelesen_) Datei_.Name = std::move(Name);
     }
     // A save wrote this; the mark is the business of the command that saves.
-    void schreibe(Dateistand Datei) {
-        gespeichert_ = Datei.Bytes;
+    void schreibe(Dateistand Datei, std::string Bild) {
+        gespeichert_ = std::move(Bild);
         Datei_ = std::move(Datei);
     }
 

@@ -50,7 +50,7 @@ struct Schauplatz {
     bool ohne_Nebenausgaben = false;              // the same for the present project path: nothing goes there unasked
 
     Meldezeile Statuszeile;
-    Eigen<Programmablauf> Gestartet;  // told mark: the main screen is in use
+    Eigen<Programmablauf> Gestartet;  // the start page was left: the main screen is in use
 
     const Uhr& Zeit() const {
         static const Systemuhr Maschine;

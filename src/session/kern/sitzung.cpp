@@ -8,12 +8,6 @@
 #include "session/kern/versuch.h"
 
 namespace varnok {
-namespace {
-
-constexpr std::array alle_Arten = {Simulation, Wirkstoff, Applikation, Szenario};
-
-}  // namespace
-
 Sitzung::Sitzung(Umgebung Welt) {
     z_.Welt = std::move(Welt);
     z_.Statuszeile.stelle_Uhr(&z_.Zeit());
@@ -51,6 +45,7 @@ bool Sitzung::nimm_Texte_an(bool mit_Lauf) {
     if (Tabelle_.ist_in_Arbeit() && !fuehre_aus<&Applikationstabelle::schliesse_ab>()) return false;
     if (Felder_.aktives_Feld() >= 0 && !fuehre_aus<&Feldeingabe::schliesse_ab>(mit_Lauf)) return false;
     if (Studien_.Name_offen()) fuehre_aus<&Studienverwaltung::bestaetige>(false);
+    if (Umbenennung_.offen()) fuehre_aus<&Satzumbenennung::bestaetige>(false);
     if (Beschreibung_.offen()) fuehre_aus<&Beschreibungseingabe::schliesse>();
     Ruecknahme_.merke();  // a cell or a name typed before is a step of its own
     return true;
@@ -88,8 +83,9 @@ void Sitzung::raeume_Marken_auf() {
 void Sitzung::fuehre_Statuszeile() {
     // The first results take no line away: until then nobody has seen it.
     const bool andere_Werte = letzte_Werte_ != Ergebnisse{} && z_.Werte() != letzte_Werte_;
-    z_.Statuszeile.schliesse_ab(z_.Vorgabe != letzte_Vorgabe_ || andere_Werte);
+    z_.Statuszeile.schliesse_ab(z_.Vorgabe != letzte_Vorgabe_ || z_.Namen != letzte_Namen_ || andere_Werte);
     letzte_Vorgabe_ = z_.Vorgabe;
+    letzte_Namen_ = z_.Namen;
     letzte_Werte_ = z_.Werte();
 }
 

@@ -3,6 +3,7 @@
 // The program behind the screen. Every decision is taken in one of the parts, and every user action comes to its part on one
 // way; the widgets show `Zustand` and the parts.
 
+#include <array>
 #include <functional>
 #include <string>
 #include <tuple>
@@ -17,9 +18,9 @@ class Sitzung {
     // All parts of `Sitzung` or `const Sitzung`.
     template <class S>
     static auto Teile_von(S& s) {
-        return std::tie(s.Diagramme_, s.Bilder_, s.Laeufe_, s.Felder_, s.Ruecknahme_, s.Saetze_, s.Organiser_, s.Listen_,
-                        s.Studien_, s.Beschreibung_, s.Editor_, s.Tabelle_, s.Berichte_, s.Update_, s.Optionen_, s.Dateien_,
-                        s.Hilfe_, s.Programm_, s.Zwischenstand_, s.Zeichen_, s.Projekte_, s.Wiederherstellung_);
+        return std::tie(s.Diagramme_, s.Bilder_, s.Laeufe_, s.Felder_, s.Ruecknahme_, s.Saetze_, s.Umbenennung_, s.Organiser_,
+                        s.Listen_, s.Studien_, s.Beschreibung_, s.Editor_, s.Tabelle_, s.Berichte_, s.Update_, s.Optionen_,
+                        s.Dateien_, s.Hilfe_, s.Programm_, s.Zwischenstand_, s.Zeichen_, s.Projekte_, s.Wiederherstellung_);
     }
     auto Teile() { return Teile_von(*this); }
     auto Teile() const { return Teile_von(*this); }
@@ -74,6 +75,7 @@ private:
     Feldeingabe Felder_{z_, Laeufe_};
     Ruecknahme Ruecknahme_{z_, Laeufe_, Felder_, Diagramme_};
     Satzverwaltung Saetze_{z_, Laeufe_, Felder_, Diagramme_};
+    Satzumbenennung Umbenennung_{z_, Saetze_};
     Organiser Organiser_{z_, Saetze_};
     Listenwahl Listen_{z_, Laeufe_, Felder_, Diagramme_};
     Studienverwaltung Studien_{z_, Laeufe_, Felder_};
@@ -88,10 +90,11 @@ private:
     Zeichenmeldung Zeichen_{z_};
     Projektoeffnung Projekte_{z_, Saetze_};
     Zwischensicherung Zwischenstand_{z_, Saetze_, Felder_};
-    Programmablauf Programm_{z_, Saetze_, Felder_, Laeufe_, Studien_, Tabelle_, Zwischenstand_};
+    Programmablauf Programm_{z_, Saetze_, Felder_, Laeufe_, Studien_, Umbenennung_, Tabelle_, Zwischenstand_};
     Wiederherstellung Wiederherstellung_{z_, Saetze_};
     // As the last action left them.
     Eingabe letzte_Vorgabe_;
+    std::array<std::string, 4> letzte_Namen_;
     Ergebnisse letzte_Werte_;
 };
 

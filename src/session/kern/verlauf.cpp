@@ -45,4 +45,9 @@ std::string Verlauf::Name_vor() const {
     return kann_vor() ? vergleiche(Staende_[Platz_], Staende_[Platz_ + 1]).Name : std::string();
 }
 
+std::string Verlauf::Name_des_Offenen(const Eingabe& e) const {
+    const bool unveraendert = Staende_.empty() || Staende_[Platz_] == e;
+    return unveraendert ? std::string() : vergleiche(Staende_[Platz_], e).Name;
+}
+
 }  // namespace varnok

@@ -25,6 +25,8 @@ public:
     // What undo and redo would change, for their menu entries; empty where there is nothing.
     std::string Name_zurueck() const;
     std::string Name_vor() const;
+    // What has changed since the last step; empty where nothing has.
+    std::string Name_des_Offenen(const Eingabe& e) const;
 
 private:
     std::vector<Eingabe> Staende_;

@@ -13,10 +13,10 @@ bool Zustand::alles_Gezeigte_gueltig() const {
 
 std::string Zustand::Abdeckungswort() const {
     if (!Gestartet) return Texte::Eingabe_geaendert;
-    for (const Satzart Art : {Simulation, Wirkstoff, Applikation, Szenario}) {
+    for (const Satzart Art : alle_Arten) {
         if (!Saetze[Art].gelesen() && !Saetze[Art].Grund().empty()) return Saetze[Art].Grund();
     }
-    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) {
+    for (const Satzart Art : Eingabearten) {
         if (Auswahl(Art) < 0 && !Namen[Art].empty()) return Texte::fehlender_Satz(Namen[Art] + Endungen[Art]);
     }
     if (!Saetze_vollstaendig()) return Texte::Satz_fehlt;

@@ -67,10 +67,10 @@ bool Optionensteuerung::uebernimm(const Optionsentwurf& Neue) {
     }
     Laufparameter& p = z_.Parameter();
     z_.Einstellung.Farbeinstellung = static_cast<std::uint8_t>(Neue.Farbeinstellung);
-    p.Einheit = static_cast<std::uint8_t>(Neue.Einheit);
+    p.Einheit = Neue.Einheit;
     z_.Einstellung.Tips_anzeigen = static_cast<std::uint8_t>(Neue.Tips_anzeigen);
-    p.Separate_Rueckstaende = static_cast<std::uint8_t>(Neue.Separate_Rueckstaende);
-    p.TWA_Zeiten = static_cast<std::uint8_t>(Neue.TWA_Zeiten);
+    p.Separate_Rueckstaende = Neue.Separate_Rueckstaende;
+    p.TWA_Zeiten = Neue.TWA_Zeiten;
     std::copy(Neue.Ausgabename_Teile.begin(), Neue.Ausgabename_Teile.end(), p.Ausgabename_Teile.begin());
     Lauf_faellig_ = true;
     setze_Projektpfad(Neue.Projektpfad);

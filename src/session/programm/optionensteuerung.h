@@ -12,9 +12,9 @@ namespace varnok {
 // What the options dialog shows and changes. Unit, residues, list of windows and parts of the name belong to the compound
 // record, the rest to the settings file.
 struct Optionsentwurf {
-    int Einheit = 0;                // 0 mg, 1 microgram
-    int Separate_Rueckstaende = 0;  // 0 no, 1 yes, 2 within a year
-    int TWA_Zeiten = 1;             // 0 monthly list, 1 EU list
+    Einheitsart Einheit = Milligramm;
+    Rueckstandsart Separate_Rueckstaende = gemeinsam;
+    TWA_Listenart TWA_Zeiten = EU_Liste;
     std::array<bool, 6> Ausgabename_Teile{};
     int Tips_anzeigen = 0;
     int Farbeinstellung = 0;  // 0 coloured, 1 as the desktop

@@ -98,11 +98,11 @@ bool Programmablauf::oeffne_Projekt() {
     sage_Sperre(z_);
     Saetze_.fuelle_Listen();
     z_.Sicht.TWA_Laenge = TWA_Vorauswahl(z_.Parameter().TWA_Zeiten);
-    z_.Felder().Studie = {""};  // what stands under the cover where no compound can be read
+    z_.Vorgabe.Studie = {""};  // what stands under the cover where no compound can be read
     return (Zwischenstand_.biete_an() || lade_erste()) && !z_.beendet();
 }
 
-void Programmablauf::starte() {
+void Programmablauf::verlasse_Startseite() {
     if (z_.Gestartet) return;
     z_.Gestartet = true;
     Laeufe_.berechne();
@@ -128,7 +128,7 @@ void Programmablauf::beende() {
     const bool geschrieben = z_.nur_lesbar || (!zu_sichern->empty() && z_.Saetze[Simulation].gelesen());
     bool weiter = true;
     std::string Fehler;
-    if (!geschrieben && (z_.Saetze[0].Geaendert() || z_.Neu_berechnen()))
+    if (!geschrieben && (z_.Saetze[Simulation].Geaendert() || z_.Neu_berechnen()))
         Fehler = Fehler_bei([&] { weiter = Saetze_.schreibe_Zusammenfassungsdatei(); });
     if (!weiter || !sichere_am_Ende()) return;
     const std::string zweiter = z_.nur_lesbar ? "" : Fehler_bei([&] { Einstellungen_schreiben(z_); });
@@ -145,6 +145,7 @@ bool Programmablauf::schliesse_Fenster() {
     Tabelle_.schliesse_ab();
     Felder_.schliesse_ab(false);
     Studien_.bestaetige(false);
+    Umbenennung_.bestaetige(false);
     const auto zu_sichern = Saetze_.frage_nach_Sicherung();
     if (!zu_sichern) return false;
     if (!zu_sichern->empty() && !Saetze_.speichere_Arten(*zu_sichern)) return false;

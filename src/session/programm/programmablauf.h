@@ -3,7 +3,7 @@
 #include "session/eingabe/applikationstabelle.h"
 #include "session/eingabe/feldeingabe.h"
 #include "session/ergebnis/laufsteuerung.h"
-#include "session/saetze/satzverwaltung.h"
+#include "session/saetze/satzumbenennung.h"
 #include "session/saetze/studienverwaltung.h"
 #include "session/saetze/zwischensicherung.h"
 
@@ -13,12 +13,13 @@ namespace varnok {
 class Programmablauf {
 public:
     Programmablauf(Zustand& z, Satzverwaltung& Saetze, Feldeingabe& Felder, Laufsteuerung& Laeufe, Studienverwaltung& Studien,
-                   Applikationstabelle& Tabelle, Zwischensicherung& Zwischenstand)
+                   Satzumbenennung& Umbenennung, Applikationstabelle& Tabelle, Zwischensicherung& Zwischenstand)
         : z_(z),
           Saetze_(Saetze),
           Felder_(Felder),
           Laeufe_(Laeufe),
           Studien_(Studien),
+          Umbenennung_(Umbenennung),
           Tabelle_(Tabelle),
           Zwischenstand_(Zwischenstand) {}
 
@@ -26,7 +27,7 @@ public:
     // ends there.
     bool oeffne_Projekt();
     // The start page is left: the first run.
-    void starte();
+    void verlasse_Startseite();
     // A dialog is to open: the command is what stands around it, which accepts what is in work on the main screen. False where
     // that was refused: then it does not open.
     bool beginne_Dialog() { return true; }
@@ -45,6 +46,7 @@ private:
     Feldeingabe& Felder_;
     Laufsteuerung& Laeufe_;
     Studienverwaltung& Studien_;
+    Satzumbenennung& Umbenennung_;
     Applikationstabelle& Tabelle_;
     Zwischensicherung& Zwischenstand_;
 };

@@ -6,7 +6,7 @@
 namespace varnok {
 
 void Beschreibungseingabe::oeffne() {
-    alter_Text_ = z_.Felder().Beschreibung;
+    alter_Text_ = z_.Vorgabe.Beschreibung;
     alte_Marke_ = z_.Saetze[Simulation].Geaendert();
     offen_ = true;
 }
@@ -15,8 +15,8 @@ void Beschreibungseingabe::aendere(const std::string& Text) {
     std::string eine_Zeile = Text;
     std::replace_if(
         eine_Zeile.begin(), eine_Zeile.end(), [](char c) { return c == '\n' || c == '\r'; }, ' ');
-    if (eine_Zeile == z_.Felder().Beschreibung) return;
-    z_.Felder().Beschreibung = eine_Zeile;
+    if (eine_Zeile == z_.Vorgabe.Beschreibung) return;
+    z_.Vorgabe.Beschreibung = eine_Zeile;
     z_.Saetze[Simulation].merke_Aenderung();
 }
 
@@ -24,7 +24,7 @@ void Beschreibungseingabe::schliesse() { offen_ = false; }
 
 void Beschreibungseingabe::nimm_zurueck() {
     if (!std::exchange(offen_, false)) return;
-    z_.Felder().Beschreibung = alter_Text_;
+    z_.Vorgabe.Beschreibung = alter_Text_;
     z_.Saetze[Simulation].stelle_Marke(alte_Marke_);
 }
 

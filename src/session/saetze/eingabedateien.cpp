@@ -66,23 +66,23 @@ bool Eingabedateien::speichere(const std::string& Dateiname) {
     z_.Statuszeile.vergiss_Frueheres();
     // Three lines, no description: read as four, the file is misread, and that is why this dialog stays out of use.
     std::string Bytes;
-    for (std::size_t Art = 1; Art <= 3; ++Art) Bytes += als_Satztext(z_.Namen[Art], Satzart_Namen[Art]) + "\r\n";
+    for (const Satzart Art : Eingabearten) Bytes += als_Satztext(z_.Namen[Art], Satzart_Namen[Art]) + "\r\n";
     // What is replaced is kept, the records of the selectors too: their files may hold what the screen never showed.
     Sicherungsgut ersetzt;
-    const auto ersetze = [&](const std::string& Satz, std::size_t Art) {
+    const auto ersetze = [&](const std::string& Satz, Satzart Art) {
         const auto alte = z_.Ordner->finde(Satz, Endungen[Art]);
         if (alte) ersetzt.nimm_Datei(*alte, Satz + Endungen[Art]);
     };
     ersetze(Name, Simulation);
-    for (std::size_t Art = 1; Art <= 3; ++Art) {
+    for (const Satzart Art : Eingabearten) {
         if (z_.Saetze[Art].gelesen()) ersetze(z_.Namen[Art], Art);
     }
     sichere(z_, ersetzt);
     schreibe_Datei(z_.Ordner->Zielpfad(Name, Endung), Bytes, als_Satz);
     zeige_als_Simulation(Name);
-    for (std::size_t Art = 1; Art <= 3; ++Art) {
+    for (const Satzart Art : Eingabearten) {
         if (!z_.Saetze[Art].gelesen()) continue;
-        Satz_schreiben(*z_.Ordner, z_.Namen[Art], static_cast<Satzart>(Art), z_.Vorgabe, z_.Sicht, z_.Welt.Dezimalzeichen);
+        Satz_schreiben(*z_.Ordner, z_.Namen[Art], Art, z_.Vorgabe, z_.Sicht, z_.Welt.Dezimalzeichen);
         z_.Saetze[Art].vergiss_Aenderung();
     }
     return true;

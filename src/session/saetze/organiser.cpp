@@ -12,8 +12,6 @@
 namespace varnok {
 namespace {
 
-const std::vector<Satzart> alle_Arten = {Simulation, Wirkstoff, Applikation, Szenario};
-
 bool enthaelt(const std::vector<std::string>& Liste, const std::string& Name) {
     return std::find(Liste.begin(), Liste.end(), Name) != Liste.end();
 }
@@ -36,12 +34,12 @@ std::string Speicherbild_der_Datei(const std::string& Bytes) {
 // What "Done" changes on the main screen until the summary file is written.
 class Merkstand {
 public:
-    explicit Merkstand(const Eingabestand& z) : Listen_(z), Saetze_(z.Saetze), Beschreibung_(z.Felder().Beschreibung) {}
+    explicit Merkstand(const Eingabestand& z) : Listen_(z), Saetze_(z.Saetze), Beschreibung_(z.Vorgabe.Beschreibung) {}
 
     void stelle_her(Eingabestand& z) const {
         static_cast<Satzlisten&>(z) = Listen_;
         z.Saetze = Saetze_;
-        z.Felder().Beschreibung = Beschreibung_;
+        z.Vorgabe.Beschreibung = Beschreibung_;
     }
 
 private:
@@ -55,7 +53,8 @@ private:
 void Organiser::oeffne() {
     gewaehlt_.fill(false);
     umbenannt_ = Szenario_bearbeitet_ = Lauf_ = false;
-    Projektname_ = alter_Projektname_ = alte_Beschreibung_ = z_.Felder().Beschreibung;
+    Projektname_ = alter_Projektname_ = z_.Vorgabe.Beschreibung;
+    fremde_Beschreibung_.reset();
     Listen_.Namen = z_.Namen;
     for (const Satzart Art : alle_Arten) Befehle_.lies_Liste(Art);
     // The description on the screen may not be saved yet, but it belongs to the simulation on the screen alone.
@@ -82,7 +81,7 @@ void Organiser::lies_Simulation_in_Maske(int Position) {
 void Organiser::waehle_Simulation(int Position) {
     lies_Simulation_in_Maske(Position);
     gewaehlt_.fill(true);
-    z_.Felder().Beschreibung = Projektname_;
+    fremde_Beschreibung_ = Projektname_;
 }
 
 void Organiser::waehle(Satzart Art, int Position) {
@@ -104,7 +103,7 @@ void Organiser::waehle_mit_Inhalt(Satzart Art) {
     // Nothing of the simulation selected before may be written over this one if it cannot be read.
     Projektname_.clear();
     gelesen_ = Dateibytes(z_, Listen_.gewaehlt(Simulation));
-    for (const Satzart t : {Wirkstoff, Applikation, Szenario}) Listen_.Namen[t].clear();
+    for (const Satzart t : Eingabearten) Listen_.Namen[t].clear();
     waehle_Simulation(Listen_.Auswahl(Simulation));
 }
 
@@ -160,15 +159,8 @@ void Organiser::ziehe_Hauptformular_nach(Satzart Art, const std::string& alt, co
 
 // The file of what the main screen shows is gone: a save from there must not bring it back under a name that is taken by now.
 void Organiser::entwerte_im_Hauptformular(Satzart Art, const char* Grund) {
-    sichere({Art});
+    Waechter_.sichere_Ungesichertes({Art});
     z_.Saetze[Art].verwirf(Grund);
-}
-
-// The description of another simulation may stand on the main screen by now.
-void Organiser::sichere(const std::vector<Satzart>& Arten) {
-    std::string andere = std::exchange(z_.Felder().Beschreibung, alte_Beschreibung_);
-    Waechter_.sichere_Ungesichertes(Arten);
-    z_.Felder().Beschreibung = std::move(andere);
 }
 
 std::string Organiser::Einwand_gegen_Bearbeiten() const {
@@ -242,7 +234,7 @@ bool Organiser::uebernimm() {
     pruefe_Dateien();
     const std::vector<Satzart> Arten = zu_lesende();
     z_.Statuszeile.vergiss_Frueheres();
-    sichere(Arten);
+    Waechter_.sichere_Ungesichertes(Arten);
     if (!uebergib()) return false;
     z_.Saetze[Simulation].vergiss_Aenderung();
     Lauf_ = Lauf;
@@ -260,7 +252,7 @@ void Organiser::gib_Listen_weiter() { static_cast<Satzlisten&>(z_) = Listen_; }
 bool Organiser::uebergib() {
     const Merkstand vorher(z_);
     gib_Listen_weiter();
-    z_.Felder().Beschreibung = Projektname_;
+    z_.Vorgabe.Beschreibung = Projektname_;
     z_.Saetze[Simulation].kenne({z_.gewaehlt(Simulation), gelesen_}, Speicherbild_der_Datei(gelesen_));
     if (z_.Auswahl(Simulation) < 0) return true;  // the folder has no simulation
     if (z_.nur_lesbar) return true;               // what was put together here is looked at, and written nowhere
@@ -275,9 +267,10 @@ bool Organiser::uebergib() {
     return geschrieben;
 }
 
-void Organiser::verwirf() { z_.Felder().Beschreibung = alte_Beschreibung_; }
+void Organiser::verwirf() { fremde_Beschreibung_.reset(); }
 
 void Organiser::schliesse_ab() {
+    fremde_Beschreibung_.reset();
     if (!std::exchange(Lauf_, false)) return;
     Saetze_.lies_nach();
 }

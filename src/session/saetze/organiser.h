@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -23,6 +24,10 @@ public:
 
     const Satzlisten& Listen() const { return Listen_; }
     const std::string& Projektname() const { return Projektname_; }
+    // What the main screen shows meanwhile: of a simulation chosen here that one's, which is no input yet.
+    const std::string& gezeigte_Beschreibung() const {
+        return fremde_Beschreibung_ ? *fremde_Beschreibung_ : z_.Vorgabe.Beschreibung;
+    }
     bool darf_kopieren(Satzart Art) const { return Listen_.Auswahl(Art) >= 0; }
     bool darf_loeschen(Satzart Art) const { return darf_kopieren(Art) && Listen_.Listen[Art].size() > 1; }
     // Empty where the scenario editor can be opened, else why not: it shows the scenario that is loaded and no other.
@@ -58,7 +63,6 @@ private:
     std::vector<Satzart> zu_lesende() const;
     bool ist_vollstaendig() const;
     void pruefe_Dateien();
-    void sichere(const std::vector<Satzart>& Arten);
     bool uebergib();
     void gib_Listen_weiter();
     void ziehe_Hauptformular_nach(Satzart Art, const std::string& alt = {}, const std::string& neu = {});
@@ -70,11 +74,11 @@ private:
     Satzbefehle Befehle_;
     Satzwaechter Waechter_{z_};
     std::string Projektname_;
-    std::string alter_Projektname_;   // as the dialog showed it first
-    std::string alte_Beschreibung_;   // of the main screen, before the dialog was opened
-    std::string gelesen_;             // the summary file as the dialog read it
-    std::array<bool, 4> gewaehlt_{};  // what the user chose is read, also under the same name
-    bool umbenannt_ = false;          // the summary file may name a record that is called otherwise now
+    std::string alter_Projektname_;                   // as the dialog showed it first
+    std::optional<std::string> fremde_Beschreibung_;  // of a simulation chosen here, for the main screen to show
+    std::string gelesen_;                             // the summary file as the dialog read it
+    std::array<bool, 4> gewaehlt_{};                  // what the user chose is read, also under the same name
+    bool umbenannt_ = false;                          // the summary file may name a record that is called otherwise now
     bool Szenario_bearbeitet_ = false;
     std::string Szenario_vorher_;  // the values on the screen as a record, before the editor
     bool Lauf_ = false;            // `schliesse_ab` reads and runs

@@ -11,12 +11,6 @@
 #include "session/kern/texte.h"
 
 namespace varnok {
-namespace {
-
-const std::vector<Satzart> alle_Arten = {Simulation, Wirkstoff, Applikation, Szenario};
-
-}  // namespace
-
 void Satzverwaltung::fuelle_Listen() {
     for (const Satzart Art : alle_Arten) Befehle_.lies_Liste(Art);
     nenne_Unwaehlbare();
@@ -24,7 +18,7 @@ void Satzverwaltung::fuelle_Listen() {
 
 // A simulation names its records in the character set of the records.
 void Satzverwaltung::nenne_Unwaehlbare() {
-    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) {
+    for (const Satzart Art : Eingabearten) {
         for (const std::string& Name : z_.Listen[Art]) {
             const std::string Einwand = Einwand_gegen_Text(Name);
             if (!Einwand.empty())
@@ -55,7 +49,7 @@ void Satzverwaltung::erklaere_fehlend(Satzart Art) {
 }
 
 bool Satzverwaltung::lies_Satz(Satzart Art, const std::string& Satzname) {
-    const int alte_TWA_Zeiten = z_.Parameter().TWA_Zeiten;
+    const TWA_Listenart alte_TWA_Zeiten = z_.Parameter().TWA_Zeiten;
     Lesebefund Befund;
     const std::string Fehler =
         Fehler_bei([&] { Befund = Satz_lesen(*z_.Ordner, Satzname, Art, z_.Vorgabe, z_.Sicht, z_.Welt.Dezimalzeichen); });
@@ -78,21 +72,21 @@ bool Satzverwaltung::lies_Satz(Satzart Art, const std::string& Satzname) {
 }
 
 // What is tied to a record whose values have just come.
-void Satzverwaltung::folge_dem_Satz(Satzart Art, int alte_TWA_Zeiten) {
+void Satzverwaltung::folge_dem_Satz(Satzart Art, TWA_Listenart alte_TWA_Zeiten) {
     if (Art == Wirkstoff) nach_Wirkstoff(alte_TWA_Zeiten);
     if (Art == Applikation) Diagramme_.setze_Bereiche_nach_Ansicht();
     Diagramme_.bringe_nach_vorn(z_.Sicht.Substanz);
 }
 
-void Satzverwaltung::nach_Wirkstoff(int alte_TWA_Zeiten) {
+void Satzverwaltung::nach_Wirkstoff(TWA_Listenart alte_TWA_Zeiten) {
     if (z_.Parameter().TWA_Zeiten != alte_TWA_Zeiten) z_.Sicht.TWA_Laenge = TWA_Vorauswahl(z_.Parameter().TWA_Zeiten);
     // A compound that the scheme does not have cannot stay in view.
-    if (z_.Sicht.Substanz >= Anzahl_Stoffe(z_.Felder().Berechnungsmodus)) z_.Sicht.Substanz = 0;
+    if (z_.Sicht.Substanz >= Anzahl_Stoffe(z_.Vorgabe.Berechnungsmodus)) z_.Sicht.Substanz = 0;
     Felder_.fuelle();
 }
 
 void Satzverwaltung::uebernimm(const std::string& Simulation, const Simulationssatz& Satz) {
-    z_.Felder().Beschreibung = Satz.Beschreibung;
+    z_.Vorgabe.Beschreibung = Satz.Beschreibung;
     z_.Namen = Satz.Dateinamen;
     z_.Namen[varnok::Simulation] = Simulation;
     for (Satzplatz& p : z_.Saetze) p.verlange();
@@ -108,21 +102,21 @@ void Satzverwaltung::lade_Start(const std::string& Simulation) {
 }
 
 void Satzverwaltung::waehle_Simulation(int Position) {
-    const std::string Simulation = z_.Listen[0].at(static_cast<std::size_t>(Position));
-    const std::string Fremdes = Waechter_.Fremdes(alle_Arten);
-    if (!z_.Ordner->finde(Simulation, Endungen[0])) Befehle_.lies_Liste(varnok::Simulation);
+    const std::string Simulation = z_.Listen[varnok::Simulation].at(static_cast<std::size_t>(Position));
+    const std::string Fremdes = Waechter_.Fremdes({alle_Arten.begin(), alle_Arten.end()});
+    if (!z_.Ordner->finde(Simulation, Endungen[varnok::Simulation])) Befehle_.lies_Liste(varnok::Simulation);
     const Simulationssatz Satz = lies_Simulation(*z_.Ordner, Simulation);
     z_.Statuszeile.vergiss_Frueheres();
     sichere_Ungesichertes();
     z_.Statuszeile.stelle_voran(Fremdes);
     uebernimm(Simulation, Satz);
-    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) Befehle_.lies_Liste(Art);  // a record that went is not found
+    for (const Satzart Art : Eingabearten) Befehle_.lies_Liste(Art);  // a record that went is not found
     if (lies_fehlende_Saetze()) schliesse_Laden_ab();
 }
 
 // Reads the records that the selectors name and that were not read, up to the first that is missing or cannot be read.
 bool Satzverwaltung::lies_fehlende_Saetze() {
-    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) {
+    for (const Satzart Art : Eingabearten) {
         if (z_.Auswahl(Art) < 0) Befehle_.lies_Liste(Art);  // it may have come meanwhile
         if (z_.Auswahl(Art) < 0) {
             erklaere_fehlend(Art);
@@ -227,7 +221,7 @@ void Satzverwaltung::nenne_Simulationen_mit(Satzart Art, const std::string& Name
 // read by loading it.
 void Satzverwaltung::sichere_vor_dem_Lesen(Satzart Art) {
     std::vector<Satzart> Arten;
-    for (const Satzart a : {Wirkstoff, Applikation, Szenario}) {
+    for (const Satzart a : Eingabearten) {
         if (a == Art || !z_.Saetze[a].gelesen()) Arten.push_back(a);
     }
     Waechter_.sichere_Ungesichertes(Arten);
@@ -252,7 +246,7 @@ void Satzverwaltung::lies_neu(const std::vector<Satzart>& Arten) {
 // What is read over is in `backup` before, and what another program did is told. True if something was read.
 bool Satzverwaltung::lies_auf_Wunsch_nach() {
     if (!z_.Saetze[Simulation].gelesen() && z_.Auswahl(Simulation) >= 0) return lies_nach();
-    const std::string Fremdes = Waechter_.Fremdes(alle_Arten);
+    const std::string Fremdes = Waechter_.Fremdes({alle_Arten.begin(), alle_Arten.end()});
     if (!z_.Saetze_vollstaendig()) sichere_vor_dem_Lesen(Simulation);
     z_.Statuszeile.stelle_voran(Fremdes);
     if (!lies_nach()) return false;
@@ -270,7 +264,7 @@ void Satzverwaltung::lies_Szenario_nach() {
 }
 
 bool Satzverwaltung::pruefe_Auswahl(const std::vector<Knopf>& Knoepfe) {
-    for (std::size_t Art = 1; Art <= 3; ++Art) {
+    for (const Satzart Art : Eingabearten) {
         if (z_.Auswahl(Art) >= 0) continue;
         z_.Welt.Fragen->frage({Texte::Satz_nicht_gewaehlt, Texte::Satz_waehlen[Art], Symbol::Ausrufezeichen, Knoepfe});
         return false;
@@ -289,9 +283,11 @@ bool Satzverwaltung::schreibe_Zusammenfassungsdatei() {
     return true;
 }
 
-void Satzverwaltung::sichere_Ungesichertes(Sicherungsgut dazu) { Waechter_.sichere_Ungesichertes(alle_Arten, std::move(dazu)); }
+void Satzverwaltung::sichere_Ungesichertes(Sicherungsgut dazu) {
+    Waechter_.sichere_Ungesichertes({alle_Arten.begin(), alle_Arten.end()}, std::move(dazu));
+}
 
-bool Satzverwaltung::speichere() { return speichere_Arten({Wirkstoff, Applikation, Szenario}); }
+bool Satzverwaltung::speichere() { return speichere_Arten({Eingabearten.begin(), Eingabearten.end()}); }
 
 bool Satzverwaltung::speichere_Arten(std::vector<Satzart> Arten) {
     if (!pruefe_Auswahl({Knopf::OK, Knopf::Abbrechen})) return false;
@@ -342,7 +338,7 @@ Knopf Satzverwaltung::frage_Sicherung(Satzart Art, const std::string& Ziel) cons
 
 std::optional<std::vector<Satzart>> Satzverwaltung::frage_nach_Sicherung() const {
     std::vector<Satzart> zu_sichern;
-    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) {
+    for (const Satzart Art : Eingabearten) {
         if (!wird_gefragt(Art)) continue;
         const Knopf Antwort = frage_Sicherung(Art, z_.Namen[Art]);
         if (Antwort == Knopf::nicht_jetzt) return std::nullopt;

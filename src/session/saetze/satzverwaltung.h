@@ -83,8 +83,8 @@ private:
     void nenne_Unwaehlbare();
     bool lies_auf_Wunsch_nach();
     bool lies_Stueck(const Sicherungsstueck& Stueck);
-    void folge_dem_Satz(Satzart Art, int alte_TWA_Zeiten);
-    void nach_Wirkstoff(int alte_TWA_Zeiten);
+    void folge_dem_Satz(Satzart Art, TWA_Listenart alte_TWA_Zeiten);
+    void nach_Wirkstoff(TWA_Listenart alte_TWA_Zeiten);
     void uebernimm(const std::string& Simulation, const Simulationssatz& Satz);
     void erklaere_ungelesen(Satzart Art, const std::string& Grund);
     void erklaere_fehlend(Satzart Art);

@@ -97,7 +97,7 @@ Schreibausgang Satzwaechter::schreibe(const std::vector<Satzart>& Arten) {
     sichere(z_, ersetzt);
     for (const Auftrag& a : Auftraege) {
         schreibe_Datei(a.Pfad, a.Bytes, als_Satz);
-        z_.Saetze[a.Art].schreibe({a.Name, a.Bytes});
+        z_.Saetze[a.Art].schreibe({a.Name, a.Bytes}, z_.Speicherbild(a.Art));
     }
     return Schreibausgang::geschrieben;
 }

@@ -14,7 +14,7 @@ namespace {
 // The files of the start simulation, as far as they are there.
 Sicherungsgut Dateien_der_Startsimulation(const Eingabestand& z) {
     Sicherungsgut Gut;
-    for (const Satzart Art : {Simulation, Wirkstoff, Applikation, Szenario}) {
+    for (const Satzart Art : alle_Arten) {
         const auto Pfad = z.Ordner->finde(Startsimulation, Endungen[Art]);
         if (Pfad) Gut.nimm_Datei(*Pfad, std::string(Startsimulation) + Endungen[Art]);
     }
@@ -50,8 +50,8 @@ bool Satzverwaltung::lade_Zwischenstand(const Zwischenstand& Stand) {
     const Simulationssatz Satz = zerlege_Simulation(Stand.Zusammenfassung, Datei);
     const Simulationssatz gespeicherter = lies_Simulation(*z_.Ordner, Stand.Simulation);
     uebernimm(Stand.Simulation, gespeicherter);
-    z_.Felder().Beschreibung = Satz.Beschreibung;
-    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) z_.Namen[Art] = Satz.Dateinamen[Art];
+    z_.Vorgabe.Beschreibung = Satz.Beschreibung;
+    for (const Satzart Art : Eingabearten) z_.Namen[Art] = Satz.Dateinamen[Art];
     z_.Saetze[Simulation].stelle_Marke(z_.verschieden(Simulation));
     beim_Start_ = true;
     bool alles = lies_fehlende_Saetze();
@@ -63,9 +63,9 @@ bool Satzverwaltung::lade_Zwischenstand(const Zwischenstand& Stand) {
 
 // Values of a record that is on the screen; a piece of any other stays where it is.
 bool Satzverwaltung::lies_Stueck(const Sicherungsstueck& Stueck) {
-    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) {
+    for (const Satzart Art : Eingabearten) {
         if (!z_.Saetze[Art].gelesen() || Stueck.Dateiname != Name_des_Ungesicherten(z_, Art)) continue;
-        const int alte_TWA_Zeiten = z_.Parameter().TWA_Zeiten;
+        const TWA_Listenart alte_TWA_Zeiten = z_.Parameter().TWA_Zeiten;
         const Lesebefund Befund =
             Satz_lesen_aus(Stueck.Bytes, Stueck.Dateiname, Art, z_.Vorgabe, z_.Sicht, z_.Welt.Dezimalzeichen);
         if (Befund.Ausgang != Leseausgang::gelesen) return false;

@@ -18,7 +18,7 @@ void Studienverwaltung::addiere() {
 }
 
 void Studienverwaltung::beginne_Umbenennen() {
-    if (!Name_offen_ && z_.Studienzahl() > 0) oeffne(z_.Felder().Studie[static_cast<std::size_t>(z_.i_studie())], false);
+    if (!Name_offen_ && z_.Studienzahl() > 0) oeffne(z_.Vorgabe.Studie[static_cast<std::size_t>(z_.i_studie())], false);
 }
 
 void Studienverwaltung::nimm_zurueck() { Name_offen_ = false; }
@@ -43,8 +43,8 @@ void Studienverwaltung::bestaetige(bool Enter) {
 }
 
 void Studienverwaltung::fuege_an(const std::string& Name) {
-    z_.Saetze[1].merke_Aenderung();
-    z_.Felder().Studie.push_back(Name);
+    z_.Saetze[Wirkstoff].merke_Aenderung();
+    z_.Vorgabe.Studie.push_back(Name);
     const int neu = z_.Studienzahl() - 1;
     setze_Startwerte(z_.Parameter(), static_cast<std::size_t>(neu));
     z_.Sicht.Studie_Index = neu;
@@ -54,10 +54,10 @@ void Studienverwaltung::fuege_an(const std::string& Name) {
 }
 
 void Studienverwaltung::benenne_um(const std::string& Name) {
-    std::string& Platz = z_.Felder().Studie[static_cast<std::size_t>(z_.i_studie())];
+    std::string& Platz = z_.Vorgabe.Studie[static_cast<std::size_t>(z_.i_studie())];
     if (Platz == Name) return;
     Platz = Name;
-    z_.Saetze[1].merke_Aenderung();
+    z_.Saetze[Wirkstoff].merke_Aenderung();
 }
 
 void Studienverwaltung::loesche() {
@@ -66,11 +66,11 @@ void Studienverwaltung::loesche() {
     if (z_.Welt.Fragen->frage(f) != Knopf::Ja) return;
     const int Platz = z_.i_studie();
     ruecke_Kinetik_vor(z_.Parameter(), static_cast<std::size_t>(Platz), static_cast<std::size_t>(z_.Studienzahl()));
-    z_.Felder().Studie.erase(z_.Felder().Studie.begin() + Platz);
-    setze_Startwerte(z_.Parameter(), z_.Felder().Studie.size());
+    z_.Vorgabe.Studie.erase(z_.Vorgabe.Studie.begin() + Platz);
+    setze_Startwerte(z_.Parameter(), z_.Vorgabe.Studie.size());
     z_.Sicht.Studie_Index = std::min(Platz, z_.Studienzahl() - 1);
     // The flag of the application pattern, not that of the compound: the question on exit has always named that record.
-    z_.Saetze[2].merke_Aenderung();
+    z_.Saetze[Applikation].merke_Aenderung();
     z_.Statuszeile.sage("Koc, Q10, Walker, To and kinetics of the following studies stay with their place. Please check.");
     Felder_.fuelle();
     Laeufe_.berechne();

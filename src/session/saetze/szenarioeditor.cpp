@@ -103,6 +103,10 @@ bool Szenarioeditor::oeffne() {
     return !z_.beendet();
 }
 
+std::string Szenarioeditor::gezeigter_Satz() const {
+    return z_.Saetze[varnok::Szenario].gelesen() ? z_.Namen[varnok::Szenario] : z_.gewaehlt(varnok::Szenario);
+}
+
 void Szenarioeditor::fuelle_Listen() {
     for (int t = 0; t <= hoechste_Temperatur; ++t) e_.Temperaturen.push_back(std::to_string(t));
     e_.Temperatur = z_.Parameter().Szenariotemperatur;
@@ -114,7 +118,7 @@ void Szenarioeditor::fuelle_Listen() {
     e_.Klimadateien = z_.Ordner->Namen(Klima_Endung);
     e_.Szenarien = z_.Ordner->Namen(Endungen[varnok::Szenario]);
     // The values on the screen are those of their record, also when another program has deleted its file.
-    const std::string Name = z_.gewaehlt(varnok::Szenario);
+    const std::string Name = gezeigter_Satz();
     const bool fehlt = std::find(e_.Szenarien.begin(), e_.Szenarien.end(), Name) == e_.Szenarien.end();
     if (fehlt && !Name.empty()) e_.Szenarien.push_back(Name);
     e_.Szenario = Platz(e_.Szenarien, Name);
@@ -123,14 +127,14 @@ void Szenarioeditor::fuelle_Listen() {
 void Szenarioeditor::zeige_Werte() {
     const Laufparameter& p = z_.Parameter();
     const char d = z_.Welt.Dezimalzeichen;
-    e_.Bodenname = z_.Felder().Bodenszenario;
+    e_.Bodenname = z_.Vorgabe.Bodenszenario;
     e_.Zahlen = {Zahlwert(), allgemeine_Zahl(p.Bodendichte, d), allgemeine_Zahl(p.Kohlenstoffgehalt, d),
                  allgemeine_Zahl(p.Feldkapazitaet, d), allgemeine_Zahl(p.Welkepunkt, d)};
     e_.Boden = Tiefenliste(p.Bodentiefe, Bodenvorgaben, d);
     e_.Plateau = Tiefenliste(p.Plateautiefe, Plateauvorgaben, d);
     verlasse(&Szenarioentwurf::Boden);
     verlasse(&Szenarioentwurf::Plateau);
-    e_.Klima = Platz_der_Klimadatei(e_.Klimadateien, z_.Felder().Klimaszenario);
+    e_.Klima = Platz_der_Klimadatei(e_.Klimadateien, z_.Vorgabe.Klimaszenario);
     Klima_gewaehlt_ = false;
 }
 
@@ -225,12 +229,12 @@ void Szenarioeditor::uebernimm_Plateautiefe() {
 // A change of the temperature or of the mode alone marks no record and starts no run: only the hint tells of it. Where there are
 // no results to be seen, as after a run that found no climate file, it does; and so does another file in the place of one.
 void Szenarioeditor::uebernimm_Klima() {
-    const bool war_variabel = z_.Parameter().Klimamodus == 1;
-    const bool variabel = e_.Klimamodus == 1;
-    std::string& Datei = z_.Felder().Klimaszenario;
+    const bool war_variabel = z_.Parameter().Klimamodus == nach_Klimadatei;
+    const bool variabel = e_.Klimamodus == nach_Klimadatei;
+    std::string& Datei = z_.Vorgabe.Klimaszenario;
     const std::string vorher = Klimatext(z_.Vorgabe);
     if (e_.Temperatur != gezeigt_.Temperatur) z_.Parameter().Szenariotemperatur = static_cast<std::uint8_t>(e_.Temperatur);
-    z_.Parameter().Klimamodus = static_cast<std::uint8_t>(e_.Klimamodus);
+    z_.Parameter().Klimamodus = e_.Klimamodus;
     if (!variabel) {
         Datei.clear();
     } else if (e_.Klima >= 0 && !gleich_ohne_Gross_Klein(Datei, Eintrag(e_.Klimadateien, e_.Klima))) {
@@ -244,12 +248,12 @@ void Szenarioeditor::uebernimm_Klima() {
 
 void Szenarioeditor::uebernimm_Namen() {
     if (e_.Bodenname != gezeigt_.Bodenname) {
-        z_.Felder().Bodenszenario = e_.Bodenname;
+        z_.Vorgabe.Bodenszenario = e_.Bodenname;
         z_.Saetze[varnok::Szenario].merke_Aenderung();
         geaendert_ = true;
     }
     const std::string Name = Eintrag(e_.Szenarien, e_.Szenario);
-    if (Name == z_.gewaehlt(varnok::Szenario)) return;
+    if (Name == gezeigter_Satz()) return;
     z_.Listen[varnok::Szenario] = z_.Ordner->Namen(Endungen[varnok::Szenario]);
     z_.Namen[varnok::Szenario] = Name;
     z_.Saetze[Simulation].merke_Aenderung();

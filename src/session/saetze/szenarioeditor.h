@@ -35,7 +35,7 @@ struct Szenarioentwurf {
     const std::string& Text(Feld f) const { return f == Bodenszenario ? Bodenname : Zahlen[f].Text(); }
     Tiefenwahl Boden;
     Tiefenwahl Plateau;
-    int Klimamodus = 0;
+    Klimaart Klimamodus = konstante_Temperatur;
     std::vector<std::string> Temperaturen;  // degrees C
     int Temperatur = 0;
     std::vector<std::string> Klimadateien;
@@ -51,7 +51,7 @@ public:
     // Whether a field shows a number outside its range.
     bool ausserhalb(Szenarioentwurf::Feld f) const;
     // Without a climate file there is nothing to choose; a record that is variable can stay so.
-    bool darf_variabel() const { return !e_.Klimadateien.empty() || gezeigt_.Klimamodus == 1; }
+    bool darf_variabel() const { return !e_.Klimadateien.empty() || gezeigt_.Klimamodus == nach_Klimadatei; }
 
     // Shows the scenario on the screen. One that the selector names and that was not read is read before. False if there is
     // nothing to show: the program ends.
@@ -67,7 +67,7 @@ public:
     // Keys or the wheel walk through the closed list: at a preset it stays until it is left.
     void blaettere(Tiefe t, int i);
     void verlasse(Tiefe t) { waehle_Tiefe(t, (e_.*t).Position); }
-    void waehle_Klimabedingungen(int m) { e_.Klimamodus = m; }
+    void waehle_Klimabedingungen(Klimaart m) { e_.Klimamodus = m; }
     void waehle_Temperatur(int i) { e_.Temperatur = i; }
     void waehle_Klimaszenario(int i);
 
@@ -82,6 +82,8 @@ public:
     void schliesse();
 
 private:
+    // Of whose record the values on the screen are.
+    std::string gezeigter_Satz() const;
     void fuelle_Listen();
     void zeige_Werte();
     bool uebernimm_Wert(double neu, double& Parameter);

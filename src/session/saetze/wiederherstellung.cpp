@@ -18,7 +18,7 @@ namespace {
 constexpr std::string_view vor_Ungesichertem = "unsaved ";
 
 std::optional<Gesichertes> erkenne(const std::string& Sicherung, const std::string& Dateiname) {
-    for (const Satzart Art : {Simulation, Wirkstoff, Applikation, Szenario}) {
+    for (const Satzart Art : alle_Arten) {
         const std::string_view Endung = Endungen[Art];
         if (Dateiname.size() <= Endung.size()) continue;
         const std::size_t Laenge = Dateiname.size() - Endung.size();

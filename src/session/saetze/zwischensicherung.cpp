@@ -9,7 +9,7 @@ namespace varnok {
 Zwischenstand Zwischensicherung::jetziger() const {
     Zwischenstand s{z_.Namen[Simulation], z_.Speicherbild(Simulation), {}};
     Sicherungsgut Gut;
-    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) Gut.nimm(Saetze_.Ungesichertes(Art));
+    for (const Satzart Art : Eingabearten) Gut.nimm(Saetze_.Ungesichertes(Art));
     s.Stuecke = std::move(Gut.Stuecke);
     return s;
 }

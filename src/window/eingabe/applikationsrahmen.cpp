@@ -108,7 +108,7 @@ void Applikationsrahmen::erstelle_Termine(QWidget* Werte) {
 
 // The number of applications stands beside the dose, or at its place where each application has its own.
 void Applikationsrahmen::stelle_Anzahl() {
-    const bool links = Felder().Applikationsmuster == unregelmaessig;
+    const bool links = Vorgabe().Applikationsmuster == unregelmaessig;
     const QLayoutItem* bisher = Gitter_->itemAtPosition(0, links ? Raster::Feld : Raster::Feld_2);
     if (bisher && bisher->widget() == Anzahl_) return;
     Gitter_->removeWidget(L_Anzahl_);
@@ -134,13 +134,14 @@ void Applikationsrahmen::verbinde() {
     connect(Fruchtwechsel_, &QComboBox::activated, this,
             [this](int r) { befiehl<&Listenwahl::waehle_Fruchtwechsel>(static_cast<Fruchtfolge>(r)); });
     connect(Schema_, &Applikationsschema::getippt, this, &Rahmen::getippt);
+    connect(Schema_, &Applikationsschema::eingefuegt, this, &Rahmen::gehandelt);
     connect(Schema_, &Applikationsschema::verlassen, this, [this] { befiehl<&Applikationstabelle::schliesse_ab>(); });
     connect(Schema_, &Applikationsschema::bestaetigt, this, [this] { befiehl<&Applikationstabelle::bestaetige>(); });
 }
 
 void Applikationsrahmen::zeige() {
     Satz_->zeige();
-    const Eingabe& e = Felder();
+    const Eingabe& e = Vorgabe();
     zeige_Option(*Applikationsmuster_, e.Applikationsmuster);
     Anzahl_->zeige(Zahlen(kleinste_Anzahl(e), max_Applikationen), e.Anzahl() - kleinste_Anzahl(e));
     Intervall_->zeige(Zahlen(1, Programm_.zeige<Listenwahl>().Intervalle()), e.Intervall_Index);
@@ -153,7 +154,7 @@ void Applikationsrahmen::zeige() {
 }
 
 void Applikationsrahmen::waehle_Zelle(Zelle z) {
-    if (Felder().Applikationsmuster == unregelmaessig) Schema_->waehle_Zelle(z);
+    if (Vorgabe().Applikationsmuster == unregelmaessig) Schema_->waehle_Zelle(z);
 }
 
 }  // namespace varnok

@@ -80,7 +80,7 @@ void Applikationsschema::focusOutEvent(QFocusEvent* e) {
 
 void Applikationsschema::zeige() {
     zeigt_ = true;
-    const auto& Zeilen = Programm_.Stand().Felder().Applikationsschema;
+    const auto& Zeilen = Programm_.Stand().Vorgabe.Applikationsschema;
     setRowCount(static_cast<int>(Zeilen.size()));
     for (int i = 0; i < rowCount(); ++i) {
         for (int j = 0; j < columnCount(); ++j) {
@@ -115,6 +115,13 @@ void Applikationsschema::waehle_Zelle(Zelle z) {
 
 Zelle Applikationsschema::aktuelle_Zelle() const { return {currentRow(), currentColumn()}; }
 
+void Applikationsschema::fuege_ein() {
+    const Zelle z = aktuelle_Zelle();
+    if (z.Zeile < 0 || z.Spalte < 0) return;
+    Programm_.fuehre_aus<&Applikationstabelle::fuege_ein>(z, aus_Qt(QApplication::clipboard()->text()));
+    Q_EMIT eingefuegt();
+}
+
 bool Applikationsschema::bearbeite(const QKeyEvent& e) {
     const Zelle z = aktuelle_Zelle();
     if (z.Zeile < 0 || z.Spalte < 0) return false;
@@ -124,8 +131,6 @@ bool Applikationsschema::bearbeite(const QKeyEvent& e) {
         Programm_.fuehre_aus<&Applikationstabelle::nimm_letztes>(z);
     } else if (e.key() == Qt::Key_Delete) {
         Programm_.fuehre_aus<&Applikationstabelle::leere>(z);
-    } else if (e.matches(QKeySequence::Paste)) {
-        Programm_.fuehre_aus<&Applikationstabelle::fuege_ein>(z, aus_Qt(QApplication::clipboard()->text()));
     } else {
         return false;
     }
@@ -137,6 +142,8 @@ void Applikationsschema::keyPressEvent(QKeyEvent* e) {
         Q_EMIT bestaetigt();
     } else if (e->matches(QKeySequence::Copy)) {
         kopiere_Zellen(*this);
+    } else if (e->matches(QKeySequence::Paste)) {
+        fuege_ein();
     } else if (bearbeite(*e)) {
         zeige();
         Q_EMIT getippt();

@@ -17,6 +17,7 @@ public:
 
 Q_SIGNALS:
     void getippt();
+    void eingefuegt();
     void bestaetigt();
     // The cell that was typed into is no more the current one, or the table no more in focus.
     void verlassen();
@@ -27,6 +28,7 @@ protected:
 
 private:
     Zelle aktuelle_Zelle() const;
+    void fuege_ein();
     bool bearbeite(const QKeyEvent& e);
     void verlasse_Zelle();
 

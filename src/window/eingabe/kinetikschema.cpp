@@ -81,10 +81,9 @@ void Kinetikschema::verbinde_Studien() {
 
 void Kinetikschema::zeige_Studien() {
     const Studienverwaltung& Studien = Programm_.zeige<Studienverwaltung>();
-    Studie_->zeige(Felder().Studie, Stand().i_studie());
+    Studie_->zeige(Vorgabe().Studie, Stand().i_studie());
     Addiere_Studie_->setEnabled(Studien.darf_addieren());
-    if (Studien.Name_offen() && !Studienname_->isVisible()) Studienname_->oeffne(in_Qt(Studien.Vorschlag()));
-    if (!Studien.Name_offen() && Studienname_->isVisible()) Studienname_->schliesse();
+    Studienname_->zeige(Studien.Name_offen(), in_Qt(Studien.Vorschlag()));
     // The fields still hold the values of the study before.
     Kinetikfelder_->setEnabled(!(Studien.Name_offen() && Studien.neu()));
 }
@@ -145,7 +144,7 @@ void Kinetikschema::zeige() {
     zeige_Studien();
     for (Rahmen* r : Seiten_) r->zeige();
 
-    const Stoffschema m = Felder().Berechnungsmodus;
+    const Stoffschema m = Vorgabe().Berechnungsmodus;
     for (int c = 0; c < Stoffe; ++c) Substanz_->button(c)->setVisible(m != nur_Wirkstoff && c < Anzahl_Stoffe(m));
     QLayout* Spalte = Kinetikfelder_->parentWidget()->layout();
     const int Optionszeile = Substanz_->button(0)->sizeHint().height() + Spalte->spacing();

@@ -87,7 +87,7 @@ void Stoffseite::ordne_Tabfolge() {
 }
 
 void Stoffseite::zeige_Namen() {
-    for (int c = 0; c < Stoffe; ++c) Zeilen_[static_cast<std::size_t>(c)].Name->zeige(in_Qt(Stoffname(Felder(), c)));
+    for (int c = 0; c < Stoffe; ++c) Zeilen_[static_cast<std::size_t>(c)].Name->zeige(in_Qt(Stoffname(Vorgabe(), c)));
 }
 
 // Fields of one caption stand in each row.
@@ -99,7 +99,7 @@ void Stoffseite::benenne(const Stoffzeile& z) {
 
 void Stoffseite::zeige() {
     zeige_Namen();
-    const Stoffschema m = Felder().Berechnungsmodus;
+    const Stoffschema m = Vorgabe().Berechnungsmodus;
     for (int c = 0; c < Stoffe; ++c) {
         Stoffzeile& z = Zeilen_[static_cast<std::size_t>(c)];
         const bool sichtbar = c < Anzahl_Stoffe(m);
@@ -133,7 +133,7 @@ Metabolismusschema::Metabolismusschema(Sitzung& Programm, Feldsteuerung& Steueru
 
 void Metabolismusschema::zeige() {
     Stoffseite::zeige();
-    Kopf_Bildung_->setVisible(Anzahl_Stoffe(Felder().Berechnungsmodus) > 1);
+    Kopf_Bildung_->setVisible(Anzahl_Stoffe(Vorgabe().Berechnungsmodus) > 1);
 }
 
 }  // namespace varnok

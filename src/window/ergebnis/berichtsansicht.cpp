@@ -147,7 +147,7 @@ void Berichtsansicht::drucke() {
     if (Dialog.printRange() != QAbstractPrintDialog::Selection) {
         gedruckt = drucke_Dokument(*gezeigter_->Dokument, Drucker);
     } else {
-        gedruckt = drucke_Dokument(*Auswahl_als_Dokument(Bericht_->textCursor()), Drucker);
+        gedruckt = drucke_Dokument(*Textstelle_als_Dokument(Bericht_->textCursor()), Drucker);
     }
     if (gedruckt) return;
     Stand().Welt.Fragen->frage({Texte::Laufzeitfehler, Texte::nicht_gedruckt, Symbol::Ausrufezeichen, {Knopf::OK}});

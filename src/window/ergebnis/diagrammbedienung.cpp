@@ -48,7 +48,7 @@ void Diagrammflaeche::changeEvent(QEvent* e) {
 void Diagrammflaeche::mousePressEvent(QMouseEvent* e) {
     const bool mit_Taste = e->modifiers() & Tasten;
     if (e->button() == Qt::LeftButton && mit_Taste) {
-        if (Inhalt_) Auswahl_ = {e->position().x(), e->position().x()};
+        if (Inhalt_) Markierung_ = {e->position().x(), e->position().x()};
     } else if (e->button() == Qt::LeftButton) {
         Q_EMIT weiterzuschalten();
     } else if (e->button() == Qt::RightButton) {
@@ -65,15 +65,15 @@ void Diagrammflaeche::mousePressEvent(QMouseEvent* e) {
 void Diagrammflaeche::mouseDoubleClickEvent(QMouseEvent* e) { mousePressEvent(e); }
 
 void Diagrammflaeche::mouseMoveEvent(QMouseEvent* e) {
-    if (!Auswahl_) return lies_ab_bei(e->position());
-    Auswahl_->second = e->position().x();
+    if (!Markierung_) return lies_ab_bei(e->position());
+    Markierung_->second = e->position().x();
     update();
 }
 
 void Diagrammflaeche::mouseReleaseEvent(QMouseEvent* e) {
-    if (!Auswahl_ || e->button() != Qt::LeftButton) return;
-    const auto [von, bis] = std::minmax(Auswahl_->first, Auswahl_->second);
-    Auswahl_.reset();
+    if (!Markierung_ || e->button() != Qt::LeftButton) return;
+    const auto [von, bis] = std::minmax(Markierung_->first, Markierung_->second);
+    Markierung_.reset();
     update();
     if (bis - von >= kuerzester_Zug) Q_EMIT Zeitraum_gezogen(Tag_bei(von), Tag_bei(bis));
 }

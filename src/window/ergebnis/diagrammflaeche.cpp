@@ -53,7 +53,7 @@ Diagrammflaeche::Diagrammflaeche(bool Zusammenfassung, int Nummer, const QString
     Tafel_ = new Ergebnisrahmen(Endung, Ergebnistitel, this);
     connect(Tafel_, &Flaechenrahmen::betreten, this, &Diagrammflaeche::verbirg_Ablesung);
     connect(Tafel_, &Ergebnisrahmen::umgeklappt, this, [this] {
-        ordne_Tafel(Tafelsatz_);
+        ordne_Tafel(Tafelform_);
         ordne_Rahmen();
     });
 }
@@ -109,8 +109,8 @@ void Diagrammflaeche::ordne() {
     ordne_Schilder();
     Legende_->ordne(width(), Massstab_);
     if (Tafel_) {
-        waehle_Tafelsatz();
-        ordne_Tafel(Tafelsatz_);
+        waehle_Tafelform();
+        ordne_Tafel(Tafelform_);
     }
     ordne_Rahmen();
     zeige_Lesestelle();
@@ -155,45 +155,45 @@ void Diagrammflaeche::ordne_Rahmen() {
     gestellt_fuer_ = {Anblick_, size()};
 }
 
-void Diagrammflaeche::ordne_Tafel(Tafelsatz s) {
+void Diagrammflaeche::ordne_Tafel(Tafelform s) {
     const double Achse = Inhalt_ ? auf_Flaeche(rect(), Liste_.System, {0, 0}).y() : height();
     Tafel_->ordne(size(), static_cast<int>(Achse), s);
 }
 
-void Diagrammflaeche::waehle_Tafelsatz() {
+void Diagrammflaeche::waehle_Tafelform() {
     if (!Inhalt_ || Tafel_->isHidden() || (steht_fest() && gesehen_)) return;
     std::vector<Rahmengroesse> Groessen;
-    for (const Tafelsatz s : {Tafelsatz::gewohnt, Tafelsatz::klein, Tafelsatz::gefaltet}) {
+    for (const Tafelform s : {Tafelform::gewohnt, Tafelform::klein, Tafelform::gefaltet}) {
         ordne_Tafel(s);
         const auto Anteil = in_Anteilen(Tafel_->rect(), size());
         Groessen.push_back({Anteil.Breite, Anteil.Hoehe});
     }
-    Tafelsatz_ = static_cast<Tafelsatz>(waehle_Groesse(Feld(), Wuensche(), Groessen));
+    Tafelform_ = static_cast<Tafelform>(waehle_Groesse(Feld(), Wuensche(), Groessen));
 }
 
 double Diagrammflaeche::bestimme_Kopf() {
     constexpr int kleinster_Titel = 9;
     const double Breite = Groesse().width() - 2 * Seitenrand - 1;
-    Titelsatz_ = setze_in_zwei_Zeilen(in_Qt(Inhalt_->Titel.Text), Breite, Schriftgroesse_Titel, kleinster_Titel, true, false);
-    const int Kommentargroesse = std::min(Schriftgroesse_Fenster, Titelsatz_.Groesse - 1);
-    Kommentarsatz_ =
+    Titelform_ = setze_in_zwei_Zeilen(in_Qt(Inhalt_->Titel.Text), Breite, Schriftgroesse_Titel, kleinster_Titel, true, false);
+    const int Kommentargroesse = std::min(Schriftgroesse_Fenster, Titelform_.Groesse - 1);
+    Kommentarform_ =
         setze_in_zwei_Zeilen(in_Qt(Inhalt_->Kommentar.Text), Breite, Kommentargroesse, kleinster_Titel - 1, true, false);
     double Hoehe = 0;
-    for (const Titelsatz* s : {&Titelsatz_, &Kommentarsatz_})
+    for (const Titelform* s : {&Titelform_, &Kommentarform_})
         Hoehe += std::ceil(QFontMetricsF(Diagrammschrift(s->Groesse, true)).height()) * static_cast<double>(s->Zeilen.size());
     return Hoehe;
 }
 
 // `Ort` is the upper left corner, or the middle of the upper edge.
-void Diagrammflaeche::setze_Schild(Schildname s, const Beschriftung& b, const Titelsatz& Satz, const QPointF& Ort, bool mittig) {
+void Diagrammflaeche::setze_Schild(Schildname s, const Beschriftung& b, const Titelform& Form, const QPointF& Ort, bool mittig) {
     QLabel& l = *Schilder_[s];
-    QFont Schrift = Diagrammschrift(Satz.Groesse, b.fett);
+    QFont Schrift = Diagrammschrift(Form.Groesse, b.fett);
     Schrift.setPixelSize(static_cast<int>(std::lround(Schrift.pixelSize() * Massstab_)));
     const QFontMetrics Masse(Schrift);
     const auto Rand = static_cast<int>((mittig ? Seitenrand : Schildrand) * Massstab_);
     QStringList Zeilen;
     int Breite = 0;
-    for (const QString& z : Satz.Zeilen) {
+    for (const QString& z : Form.Zeilen) {
         Zeilen << Masse.elidedText(z, Qt::ElideMiddle, width() - 2 * Rand);
         Breite = std::max(Breite, Masse.horizontalAdvance(Zeilen.back()) + 1);
     }
@@ -204,7 +204,7 @@ void Diagrammflaeche::setze_Schild(Schildname s, const Beschriftung& b, const Ti
     l.setFont(Schrift);
     l.setAlignment(mittig ? Qt::AlignHCenter : Qt::AlignLeft);
     l.setText(Zeilen.join(u'\n'));
-    l.setToolTip(Zeilen == Satz.Zeilen ? QString() : als_Tip(in_Qt(b.Text)));
+    l.setToolTip(Zeilen == Form.Zeilen ? QString() : als_Tip(in_Qt(b.Text)));
     l.setGeometry(std::max(Rand, std::min(links, width() - Breite - Rand)), static_cast<int>(std::lround(Ort.y())), Breite,
                   Masse.height() * static_cast<int>(Zeilen.size()));
 }
@@ -219,8 +219,8 @@ void Diagrammflaeche::ordne_Schilder() {
     // On a large surface title and comment hang between its edge and the axis, the names stay at their axes.
     const double Achse_oben = Stelle({Achsen_.links, Achsen_.oben}).y();
     const double Titel_oben = 1 + std::max(0.0, Achse_oben - Kopf_ * Massstab_ - 1.5 * Zeile - 2) / 3;
-    setze_Schild(Titel, Inhalt_->Titel, Titelsatz_, {Mitte, Titel_oben}, true);
-    setze_Schild(Kommentar, Inhalt_->Kommentar, Kommentarsatz_, {Mitte, Schilder_[Titel]->geometry().bottom() + 1.0}, true);
+    setze_Schild(Titel, Inhalt_->Titel, Titelform_, {Mitte, Titel_oben}, true);
+    setze_Schild(Kommentar, Inhalt_->Kommentar, Kommentarform_, {Mitte, Schilder_[Titel]->geometry().bottom() + 1.0}, true);
     const auto setze_Namen = [&](Schildname s, const Beschriftung& b) {
         setze_Schild(s, b, {{in_Qt(b.Text)}, Schriftgroesse_Fenster, true}, {0, 0}, false);
     };
@@ -261,10 +261,10 @@ void Diagrammflaeche::paintEvent(QPaintEvent*) {
     QPainter p(this);
     p.drawPixmap(0, 0, Bild_);
     gesehen_ = gesehen_ || Inhalt_;
-    if (Auswahl_) {
+    if (Markierung_) {
         const double oben = auf_Flaeche(rect(), Liste_.System, {0, Achsen_.oben}).y();
         const double unten = auf_Flaeche(rect(), Liste_.System, {0, 0}).y();
-        p.fillRect(QRectF(QPointF(Auswahl_->first, oben), QPointF(Auswahl_->second, unten)), QColor(0, 0, 255, 40));
+        p.fillRect(QRectF(QPointF(Markierung_->first, oben), QPointF(Markierung_->second, unten)), QColor(0, 0, 255, 40));
     }
     if (!Ablesepunkt_) return;
     p.setRenderHint(QPainter::Antialiasing);

@@ -13,7 +13,7 @@
 #include "diagrams/diagrammsaetze.h"
 #include "diagrams/lesegang.h"
 #include "diagrams/rahmenlage.h"
-#include "painting/titelsatz.h"
+#include "painting/titelform.h"
 
 class QLabel;
 
@@ -22,7 +22,7 @@ namespace varnok {
 class Ergebnisrahmen;
 class Flaechenrahmen;
 class Legendenrahmen;
-enum class Tafelsatz;
+enum class Tafelform;
 
 // The surface of one diagram, light on any desktop: the drawing, and standing on it labels, legend and the grid of
 // results. The painted drawing is kept until another one or another size comes.
@@ -79,14 +79,14 @@ private:
     double bestimme_Kopf();
     void ordne_Schilder();
     void ordne_Ablesung();
-    void setze_Schild(Schildname s, const Beschriftung& b, const Titelsatz& Satz, const QPointF& Ort, bool mittig);
+    void setze_Schild(Schildname s, const Beschriftung& b, const Titelform& Form, const QPointF& Ort, bool mittig);
     void ordne_Rahmen();
     std::vector<Flaechenrahmen*> sichtbare_Rahmen() const;
     std::vector<Rahmenwunsch> Wuensche() const;
     // Nothing has happened that frames leave their places for.
     bool steht_fest() const { return gestellt_fuer_ == std::pair(Anblick_, size()); }
-    void ordne_Tafel(Tafelsatz s);
-    void waehle_Tafelsatz();
+    void ordne_Tafel(Tafelform s);
+    void waehle_Tafelform();
     void lies_ab_bei(const QPointF& Ort);
     void zeige_Ablesung(const std::optional<Ablesung>& a);
     // The place that keys have led to, also for those who hear it.
@@ -102,8 +102,8 @@ private:
     std::optional<Diagramm> Inhalt_;
     Zeichenliste Liste_;  // fitted to the size
     Koordinaten Achsen_;  // the rectangle between the axes
-    Titelsatz Titelsatz_;
-    Titelsatz Kommentarsatz_;
+    Titelform Titelform_;
+    Titelform Kommentarform_;
     double Kopf_ = 0;                                        // units that both take
     std::tuple<std::string, std::string, double> Kopf_aus_;  // the texts and the width that they were set for
     double Massstab_ = 1;
@@ -112,11 +112,11 @@ private:
     QLabel* Ablesungsschild_;
     std::optional<QPointF> Ablesepunkt_;
     int Ablesefarbe_ = 0;
-    std::optional<Lesestelle> Lesestelle_;              // while keys read off
-    std::optional<std::pair<double, double>> Auswahl_;  // pixels from left to right, while days are marked
+    std::optional<Lesestelle> Lesestelle_;                 // while keys read off
+    std::optional<std::pair<double, double>> Markierung_;  // pixels from left to right, while days are marked
     Legendenrahmen* Legende_;
     Ergebnisrahmen* Tafel_ = nullptr;
-    Tafelsatz Tafelsatz_ = {};
+    Tafelform Tafelform_ = {};
     // Where frames stand that were not dragged, and what they were placed for; nothing before that has been seen.
     std::array<std::optional<Rahmenplatz>, 2> Plaetze_;
     int Anblick_ = 0;

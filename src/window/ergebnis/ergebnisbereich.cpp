@@ -110,7 +110,7 @@ void Ergebnisbereich::decke_zu() {
 
 // The grids have a spare last row until the user chooses a view; another list of windows brings it back.
 void Ergebnisbereich::bestimme_Zeilen() {
-    const int TWA_Zeiten = Stand().Parameter().TWA_Zeiten;
+    const TWA_Listenart TWA_Zeiten = Stand().Parameter().TWA_Zeiten;
     if (TWA_Zeiten_ != TWA_Zeiten) {
         Ersatzzeile_ = true;
     } else if (PEC_Typ_ != Sicht().PEC_Typ) {
@@ -174,9 +174,9 @@ void Ergebnisbereich::zeige_Ergebnisse(Seite& s) {
 }
 
 void Ergebnisbereich::zeige() {
-    Berechnungsmodus_->zeige_Seite(Felder().Berechnungsmodus);
+    Berechnungsmodus_->zeige_Seite(Vorgabe().Berechnungsmodus);
     bestimme_Zeilen();
-    Seite& s = Seiten_[Felder().Berechnungsmodus];
+    Seite& s = Seiten_[Vorgabe().Berechnungsmodus];
     zeige_Ergebnisse(s);
     decke_zu();
     zeige_Abdeckung();
@@ -184,7 +184,7 @@ void Ergebnisbereich::zeige() {
 
 void Ergebnisbereich::zeige_Abdeckung() {
     const QString Wort = in_Qt(Stand().Abdeckungswort());
-    Seiten_[Felder().Berechnungsmodus].Flaeche->setEnabled(Wort.isEmpty());
+    Seiten_[Vorgabe().Berechnungsmodus].Flaeche->setEnabled(Wort.isEmpty());
     Abdeckung_->zeige(!Wort.isEmpty(), Wort);
 }
 

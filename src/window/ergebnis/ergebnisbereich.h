@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <vector>
 
 #include "window/kern/rahmen.h"
@@ -25,7 +26,7 @@ public:
     // The diagram in front, for a command; the field in work is accepted first. Null where that is refused, and where
     // there is no diagram to be seen.
     Diagrammflaeche* Flaeche_fuer_Befehl();
-    Diagrammflaeche* Flaeche_vorn() const { return Flaeche_vorn(Seiten_[Felder().Berechnungsmodus]); }
+    Diagrammflaeche* Flaeche_vorn() const { return Flaeche_vorn(Seiten_[Vorgabe().Berechnungsmodus]); }
     // The dialog for the time range of the diagram in front.
     void skaliere();
     // A view was chosen: grids that the user hid come back.
@@ -57,7 +58,7 @@ private:
     // A spare last row of the single grids, until a view is chosen for the first time in its list of windows.
     bool Ersatzzeile_ = true;
     int PEC_Typ_ = -1;
-    int TWA_Zeiten_ = -1;
+    std::optional<TWA_Listenart> TWA_Zeiten_;
 };
 
 }  // namespace varnok

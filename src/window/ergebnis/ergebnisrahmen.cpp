@@ -51,30 +51,30 @@ struct Kopfplatz {
 };
 
 // A head in lines of a column.
-struct Kopfsatz {
+struct Kopfform {
     QStringList Zeilen;
     bool ganz = true;
 };
 
-Kopfsatz setze_Kopf(const QString& Text, const QFont& Schrift, const Kopfplatz& Platz) {
-    QTextLayout Satz(Text, Schrift);
+Kopfform setze_Kopf(const QString& Text, const QFont& Schrift, const Kopfplatz& Platz) {
+    QTextLayout Zeilenlage(Text, Schrift);
     QTextOption Art;
     Art.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    Satz.setTextOption(Art);
-    Satz.beginLayout();
-    Kopfsatz k;
-    for (QTextLine z = Satz.createLine(); z.isValid() && k.ganz; z = Satz.createLine()) {
+    Zeilenlage.setTextOption(Art);
+    Zeilenlage.beginLayout();
+    Kopfform k;
+    for (QTextLine z = Zeilenlage.createLine(); z.isValid() && k.ganz; z = Zeilenlage.createLine()) {
         z.setLineWidth(Platz.Breite);
         k.ganz = k.Zeilen.size() + 1 < Platz.Zeilen || z.textStart() + z.textLength() >= Text.size();
         const QString Rest = Text.mid(z.textStart(), k.ganz ? z.textLength() : -1).trimmed();
         k.Zeilen << (k.ganz ? Rest : QFontMetrics(Schrift).elidedText(Rest, Qt::ElideRight, Platz.Breite));
     }
-    Satz.endLayout();
+    Zeilenlage.endLayout();
     return k;
 }
 
 struct Kopfreihe {
-    std::vector<Kopfsatz> Koepfe;
+    std::vector<Kopfform> Koepfe;
     bool ganz = true, verschieden = true;
 };
 
@@ -226,7 +226,7 @@ int Ergebnisrahmen::Spaltenbreite(int Flaechenbreite) const {
         Flaechenbreite < Ziffern(*this, 66) ? 9.5 : 11;  // on a small surface there is a legend to leave room for
     if (n <= 3) return std::max(1, std::min(Ziffern(*this, gewohnte), passend));
     // The grid of many studies takes no more than two thirds of the surface, as far as its numbers let it.
-    const int noetig = Ziffern(*this, Satz_ == Tafelsatz::gewohnt ? 8 : 7);
+    const int noetig = Ziffern(*this, Form_ == Tafelform::gewohnt ? 8 : 7);
     const int erlaubt = std::max(noetig, Flaechenbreite * 2 / 3 / n);
     const int Wort = Kopfwortbreite();
     const int bequem = std::max(Ziffern(*this, gewohnte), Wort <= erlaubt ? Wort : 0);
@@ -266,10 +266,10 @@ int Ergebnisrahmen::falte() {
     return gesehene;
 }
 
-void Ergebnisrahmen::ordne(const QSize& Flaeche, int Achsenhoehe, Tafelsatz s) {
-    Satz_ = s;
+void Ergebnisrahmen::ordne(const QSize& Flaeche, int Achsenhoehe, Tafelform s) {
+    Form_ = s;
     QFont Schrift = parentWidget()->font();
-    if (s != Tafelsatz::gewohnt) Schrift.setPixelSize(QFontInfo(Schrift).pixelSize() * 5 / 6);
+    if (s != Tafelform::gewohnt) Schrift.setPixelSize(QFontInfo(Schrift).pixelSize() * 5 / 6);
     setFont(Schrift);
     const int Zeilen = falte();
     const int Spalte = Spaltenbreite(Flaeche.width());
@@ -291,7 +291,7 @@ bool Ergebnisrahmen::eventFilter(QObject* Kind, QEvent* e) {
     if (Kind != Tafel_) return Flaechenrahmen::eventFilter(Kind, e);
     if (e->type() != QEvent::FocusIn && e->type() != QEvent::FocusOut) return false;
     const bool im_Fokus = e->type() == QEvent::FocusIn || betrifft_nur_Fenster(static_cast<QFocusEvent*>(e)->reason());
-    if (std::exchange(im_Fokus_, im_Fokus) != im_Fokus && Satz_ == Tafelsatz::gefaltet) Q_EMIT umgeklappt();
+    if (std::exchange(im_Fokus_, im_Fokus) != im_Fokus && Form_ == Tafelform::gefaltet) Q_EMIT umgeklappt();
     return false;
 }
 
@@ -330,7 +330,7 @@ void Ergebnisrahmen::ordne_Zeilen(int Platz, int Kopfzeilen) {
     const int Zeilen = Tafel_->rowCount();
     if (zugeklappt()) Platz = Zeilen * (Schrift + 3) + weit.ganz();
     const int Textzeilen = std::max(1, Zeilen - 1 + Kopfzeilen);
-    const bool klein = Satz_ == Tafelsatz::klein;
+    const bool klein = Form_ == Tafelform::klein;
     const bool zu_hoch = klein || Textzeilen * Schrift > Platz - weit.ganz();
     const bool ohne_letzte = zu_hoch && Zeilen > 1 && letzte_Zeile_leer();
     const Abstaende& a = klein ? knapp : zu_hoch ? eng : weit;

@@ -10,7 +10,7 @@ namespace varnok {
 
 // How a grid is set, as `waehle_Groesse` counts: in the letters of the desktop, in smaller ones, or its most important rows
 // alone.
-enum class Tafelsatz { gewohnt, klein, gefaltet };
+enum class Tafelform { gewohnt, klein, gefaltet };
 
 // The grid of results upon a diagram, under its title. Cells can be selected by click and copied. Where it
 // is folded a click or the focus shows all rows as long as it has the focus.
@@ -24,7 +24,7 @@ public:
     void zeige(const Tabellentext& Tabelle, int wichtig);
     void setze_Titel(const QString& Titel);
     // In the present font, on a surface of that size whose time axis lies at that height.
-    void ordne(const QSize& Flaeche, int Achsenhoehe, Tafelsatz s);
+    void ordne(const QSize& Flaeche, int Achsenhoehe, Tafelform s);
 
 Q_SIGNALS:
     // It wants to be set anew.
@@ -47,14 +47,14 @@ private:
     int Kopfwortbreite() const;  // of the longest word that the head of a study cannot break
     // Hides rows, and gives how many are seen.
     int falte();
-    bool zugeklappt() const { return Satz_ == Tafelsatz::gefaltet && !im_Fokus_; }
+    bool zugeklappt() const { return Form_ == Tafelform::gefaltet && !im_Fokus_; }
     // Heights of the rows, of which the first has so many lines, for that room between title and time axis.
     void ordne_Zeilen(int Platz, int Kopfzeilen);
 
     QLabel* Titel_;
     QTableWidget* Tafel_;
     QLabel* Rest_;  // what is to be said of rows that are not seen
-    Tafelsatz Satz_ = Tafelsatz::gewohnt;
+    Tafelform Form_ = Tafelform::gewohnt;
     int wichtig_ = 0;
     bool im_Fokus_ = false;
 };

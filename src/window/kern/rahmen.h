@@ -61,7 +61,7 @@ protected:
     // Passes on what a part of the frame tells.
     void horche_auf(Rahmen* Teil);
     const Zustand& Stand() const { return Programm_.Stand(); }
-    const Eingabe& Felder() const { return Programm_.Stand().Felder(); }
+    const Eingabe& Vorgabe() const { return Programm_.Stand().Vorgabe; }
     const Ansicht& Sicht() const { return Stand().Sicht; }
     bool farbig() const { return Stand().Einstellung.Farbeinstellung == 0; }
 

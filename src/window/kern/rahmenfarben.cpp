@@ -53,7 +53,7 @@ QColor Rahmenfarbe(Rahmenart Art) {
 }
 
 // What stays as the desktop has it is not set, so it goes on following the desktop.
-QPalette lesbare_Auswahl(const QPalette& Schreibtisch) {
+QPalette lesbare_Markierung(const QPalette& Schreibtisch) {
     QPalette Neues;
     for (const auto Gruppe : {QPalette::Active, QPalette::Inactive}) {
         const QColor Schrift = Schreibtisch.color(Gruppe, QPalette::HighlightedText);

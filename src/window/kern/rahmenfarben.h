@@ -36,7 +36,7 @@ QColor Rahmenfarbe(Rahmenart Art);
 QPalette helle_Palette(const QColor& Flaeche);
 
 // The selection of the desktop, darker or lighter where its text would not stand out from it by 4.5 to 1.
-QPalette lesbare_Auswahl(const QPalette& Schreibtisch);
+QPalette lesbare_Markierung(const QPalette& Schreibtisch);
 
 // Makes a part of a form one that `farbe_einstellen` gives the colour of its kind, with all that stands on it.
 void setze_Rahmenart(QWidget& Teil, Rahmenart Art);

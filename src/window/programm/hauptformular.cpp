@@ -71,7 +71,7 @@ Hauptformular::Hauptformular(Sitzung& Programm, Fensterfrage* Fragen, const QStr
     Blaetter_->addWidget(Arbeitsflaeche_);
     setCentralWidget(Blaetter_);
 
-    connect(Intro_, &Intro::gestartet, this, &Hauptformular::starte);
+    connect(Intro_, &Intro::gestartet, this, &Hauptformular::verlasse_Startseite);
     connect(Menue_, &Menue::gehandelt, this, &Hauptformular::nach_Handlung);
     Drucken_ = findChild<QAction*>(u"M_Drucken"_s);
     connect(Drucken_, &QAction::triggered, Bericht_, &Berichtsansicht::drucke);
@@ -162,10 +162,10 @@ QWidget* Hauptformular::erstelle_Ergebnisspalte() {
     return Spalte;
 }
 
-void Hauptformular::starte() {
+void Hauptformular::verlasse_Startseite() {
     {
         const Wartezeiger warte;
-        Programm_.fuehre_aus<&Programmablauf::starte>();
+        Programm_.fuehre_aus<&Programmablauf::verlasse_Startseite>();
     }
     nach_Handlung();
     Schalter_->gib_Ende_den_Fokus();
@@ -199,13 +199,13 @@ void Hauptformular::sichere_Zwischenstand() {
 void Hauptformular::zeige_Getipptes() {
     Schalter_->zeige_Hinweis();
     Ergebnisse_->zeige_Abdeckung();
+    Menue_->zeige();
     zeige_Titel();
 }
 
 void Hauptformular::zeige_Titel() {
     const Zustand& z = Programm_.Stand();
-    const std::array Arten = {Simulation, Wirkstoff, Applikation, Szenario};
-    const bool verschieden = std::any_of(Arten.begin(), Arten.end(), [&z](Satzart Art) { return z.verschieden(Art); });
+    const bool verschieden = std::any_of(alle_Arten.begin(), alle_Arten.end(), [&z](Satzart Art) { return z.verschieden(Art); });
     setWindowTitle(u"VARNOK - Soil residue forecast tool"_s + (z.nur_lesbar ? u" (read only)"_s : QString()) +
                    (verschieden ? u"*"_s : QString()));
 }

@@ -60,7 +60,7 @@ private:
     QWidget* erstelle_Ergebnisspalte();
     template <class R>
     R* nimm_auf(R* Neuer);
-    void starte();
+    void verlasse_Startseite();
     void oeffne_Organiser();
     void stelle_wieder_her();
     void nach_Handlung();

@@ -81,7 +81,7 @@ int main(int argc, char** argv) {
     QApplication::setApplicationVersion(QString::fromLatin1(varnok::Programmversion));
     QApplication::setDesktopFileName(u"org.varnok.varnok"_s);
     QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
-    QApplication::setPalette(varnok::lesbare_Auswahl(QApplication::palette()));
+    QApplication::setPalette(varnok::lesbare_Markierung(QApplication::palette()));
     QApplication::setWindowIcon(varnok::Bild_aus_SVG(u"varnok"_s));
     // Numbers that Qt writes follow no locale; records keep the decimal separator of the region.
     const bool Komma = QLocale::system().decimalPoint() == u","_s;

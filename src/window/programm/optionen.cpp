@@ -75,9 +75,9 @@ Optionen::Optionen(Sitzung& Programm, QWidget* parent) : QDialog(parent), Progra
 QVBoxLayout* Optionen::erstelle_Satzspalte(const Optionsentwurf& o) {
     const Einstellungen& e = Programm_.Stand().Einstellung;
     const QStringList Fensterlisten = {woertlich(in_Qt(e.TWA_Titel_Monat)), woertlich(in_Qt(e.TWA_Titel_EU))};
-    const Optionskasten Einheit =
-        erstelle_Optionskasten(u"Einheit"_s, u"Concentration expressed in:"_s,
-                               {in_Qt(Masseneinheiten[0]), in_Qt(Masseneinheiten[1])}, o.Einheit, Lage::untereinander, this);
+    const Optionskasten Einheit = erstelle_Optionskasten(u"Einheit"_s, u"Concentration expressed in:"_s,
+                                                         {in_Qt(Masseneinheiten[Milligramm]), in_Qt(Masseneinheiten[Mikrogramm])},
+                                                         o.Einheit, Lage::untereinander, this);
     const Optionskasten Rueckstaende = erstelle_Optionskasten(
         u"Separate_Rueckstaende"_s, u"Separate consideration of  residues from different applications:"_s,
         {u"No"_s, u"Yes"_s, u"Yes, but only within a year"_s}, o.Separate_Rueckstaende, Lage::untereinander, this);
@@ -188,9 +188,9 @@ void Optionen::lege_Ordner_an() {
 
 Optionsentwurf Optionen::Entwurf() const {
     Optionsentwurf o;
-    o.Einheit = Einheit_->checkedId();
-    o.Separate_Rueckstaende = Separate_Rueckstaende_->checkedId();
-    o.TWA_Zeiten = TWA_Zeiten_->checkedId();
+    o.Einheit = static_cast<Einheitsart>(Einheit_->checkedId());
+    o.Separate_Rueckstaende = static_cast<Rueckstandsart>(Separate_Rueckstaende_->checkedId());
+    o.TWA_Zeiten = static_cast<TWA_Listenart>(TWA_Zeiten_->checkedId());
     for (std::size_t i = 0; i < Check1_.size(); ++i) o.Ausgabename_Teile[i] = Check1_[i]->isChecked();
     o.Tips_anzeigen = Tips_anzeigen_->checkedId();
     o.Farbeinstellung = Farbeinstellung_->checkedId();

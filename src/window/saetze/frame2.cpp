@@ -50,7 +50,8 @@ void Frame2::schliesse_auf() { Programm_.fuehre_aus<&Beschreibungseingabe::oeffn
 void Frame2::zeige() {
     Simulation_->zeige();
     Simulation_->Liste->faerbe(Stand().Simulation_markiert() ? Farben::Markierung : QColor());
-    Beschreibung_->zeige(in_Qt(Felder().Beschreibung), Programm_.zeige<Beschreibungseingabe>().offen(), farbig());
+    Beschreibung_->zeige(in_Qt(Programm_.zeige<Organiser>().gezeigte_Beschreibung()),
+                         Programm_.zeige<Beschreibungseingabe>().offen(), farbig());
 }
 
 }  // namespace varnok

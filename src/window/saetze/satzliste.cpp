@@ -44,21 +44,16 @@ void Satzliste::verbinde_Bedienung() {
     connect(Bedienung, &Listenbedienung::anlegen, this, [this] { befiehl<&Satzverwaltung::lege_an>(Art_); });
     connect(Bedienung, &Listenbedienung::kopieren, this, kopiere);
     connect(Bedienung, &Listenbedienung::loeschen, this, loesche);
-    connect(Bedienung, &Listenbedienung::umbenennen, this,
-            [this] { Neuer_Dateiname_->oeffne(in_Qt(Programm_.Stand().gewaehlt(Art_))); });
+    connect(Bedienung, &Listenbedienung::umbenennen, this, [this] { befiehl<&Satzumbenennung::beginne>(Art_); });
+    connect(Neuer_Dateiname_, &QLineEdit::textEdited, this,
+            [this](const QString& Text) { Programm_.fuehre_aus<&Satzumbenennung::aendere>(aus_Qt(Text)); });
     connect(Neuer_Dateiname_, &Umbenennfeld::bestaetigt, this, &Satzliste::benenne_um);
+    connect(Neuer_Dateiname_, &Umbenennfeld::zurueckgenommen, this, [this] { befiehl<&Satzumbenennung::nimm_zurueck>(); });
 }
 
-// A name that was refused can be corrected while the box has the focus; left, it is given up.
+// A name that was refused can be corrected while the box has the focus.
 void Satzliste::benenne_um(bool Enter) {
-    const std::string Text = aus_Qt(Neuer_Dateiname_->text());
-    if (!Enter) Neuer_Dateiname_->schliesse();
-    const bool fertig = befiehl<&Satzverwaltung::benenne_um>(Art_, Text, Enter);
-    if (fertig) {
-        Neuer_Dateiname_->schliesse();
-    } else if (Enter) {
-        Neuer_Dateiname_->setFocus(Qt::OtherFocusReason);
-    }
+    if (!befiehl<&Satzumbenennung::bestaetige>(Enter) && Enter) Neuer_Dateiname_->setFocus(Qt::OtherFocusReason);
 }
 
 void Satzliste::zeige() {
@@ -66,6 +61,8 @@ void Satzliste::zeige() {
     Liste->zeige(z.Listen[Art_], z.Auswahl(Art_));
     if (Art_ != Simulation) sperre_Unwaehlbare(*Liste, z.Listen[Art_]);
     const auto& Saetze = Programm_.zeige<Satzverwaltung>();
+    const auto& Name = Programm_.zeige<Satzumbenennung>();
+    Neuer_Dateiname_->zeige(Name.offen_ueber(Art_), in_Qt(Name.Vorschlag()));
     Copy->setEnabled(Saetze.darf_kopieren(Art_));
     Loeschen->setEnabled(Saetze.darf_loeschen(Art_));
 }

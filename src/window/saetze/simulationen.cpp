@@ -46,7 +46,7 @@ Simulationen::Simulationen(Sitzung& Programm, Szenarioaufruf oeffne_Szenarioedit
 }
 
 void Simulationen::erstelle_Zeilen() {
-    for (const Satzart Art : {Simulation, Wirkstoff, Applikation, Szenario}) {
+    for (const Satzart Art : alle_Arten) {
         auto* Zeile = new Organiserzeile(Art, Programm_, this);
         connect(Zeile, &Rahmen::gehandelt, this, &Simulationen::zeige);
         if (Art == Simulation) {

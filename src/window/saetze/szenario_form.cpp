@@ -142,8 +142,8 @@ QWidget* Szenario_Form::erstelle_Klima() {
     Klimabedingungen_ = new QButtonGroup(this);
     auto* Reihe = new QHBoxLayout;
     Reihe->setSpacing(16);
-    for (int m = 0; m < 2; ++m) {
-        auto* Option = new QRadioButton(m == 0 ? u"Constant"_s : u"Variable"_s, Kasten);
+    for (const Klimaart m : {konstante_Temperatur, nach_Klimadatei}) {
+        auto* Option = new QRadioButton(m == konstante_Temperatur ? u"Constant"_s : u"Variable"_s, Kasten);
         Option->setObjectName(u"Klimabedingungen_"_s + in_Qt(m));
         Option->setAccessibleDescription(Kasten->title());
         Klimabedingungen_->addButton(Option, m);
@@ -161,7 +161,7 @@ QWidget* Szenario_Form::erstelle_Klima() {
     r->addWidget(Temperatur_, 1, Feldspalte, 1, Feldspalten, Qt::AlignLeft);
     r->addWidget(Klimaszenario_, 1, Feldspalte, 1, Feldspalten);
     connect(Klimabedingungen_, &QButtonGroup::idClicked, this,
-            [this](int m) { befiehl<&Szenarioeditor::waehle_Klimabedingungen>(m); });
+            [this](int m) { befiehl<&Szenarioeditor::waehle_Klimabedingungen>(static_cast<Klimaart>(m)); });
     connect(Temperatur_, &QComboBox::activated, this, [this](int i) { befiehl<&Szenarioeditor::waehle_Temperatur>(i); });
     connect(Klimaszenario_, &QComboBox::activated, this, [this](int i) { befiehl<&Szenarioeditor::waehle_Klimaszenario>(i); });
     return Kasten;
@@ -191,11 +191,12 @@ void Szenario_Form::zeige() {
     Bodentiefe_->zeige(e.Boden);
     Plateautiefe_->zeige(e.Plateau);
     zeige_Option(*Klimabedingungen_, e.Klimamodus);
-    Klimabedingungen_->button(1)->setEnabled(Editor.darf_variabel());
+    Klimabedingungen_->button(nach_Klimadatei)->setEnabled(Editor.darf_variabel());
     Temperatur_->zeige(e.Temperaturen, e.Temperatur);
     Klimaszenario_->zeige(e.Klimadateien, e.Klima);
-    for (QWidget* w : std::initializer_list<QWidget*>{Temperaturschild_, Temperatur_}) w->setVisible(e.Klimamodus == 0);
-    Klimaszenario_->setVisible(e.Klimamodus == 1);
+    for (QWidget* w : std::initializer_list<QWidget*>{Temperaturschild_, Temperatur_})
+        w->setVisible(e.Klimamodus == konstante_Temperatur);
+    Klimaszenario_->setVisible(e.Klimamodus == nach_Klimadatei);
 }
 
 void Szenario_Form::accept() {

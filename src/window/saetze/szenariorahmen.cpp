@@ -87,8 +87,8 @@ bool Szenariorahmen::eventFilter(QObject* Quelle, QEvent* e) {
 
 void Szenariorahmen::zeige() {
     Satz_->zeige();
-    Bodenszenario_->zeige(in_Qt(Felder().Bodenszenario));
-    Klimaszenario_->zeige(in_Qt(Klimatext(Felder())));
+    Bodenszenario_->zeige(in_Qt(Vorgabe().Bodenszenario));
+    Klimaszenario_->zeige(in_Qt(Klimatext(Vorgabe())));
 }
 
 }  // namespace varnok

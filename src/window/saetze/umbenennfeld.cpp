@@ -43,6 +43,11 @@ void Umbenennfeld::schliesse() {
     if (Fokus) Liste_.setFocus(Qt::OtherFocusReason);
 }
 
+void Umbenennfeld::zeige(bool offen, const QString& Vorschlag) {
+    if (offen && !isVisible()) oeffne(Vorschlag);
+    if (!offen && isVisible()) schliesse();
+}
+
 // In a dialog Enter and Esc belong to the box, not to the dialog's buttons.
 bool Umbenennfeld::event(QEvent* e) {
     if (e->type() == QEvent::ShortcutOverride) {

@@ -15,6 +15,8 @@ public:
     void oeffne(const QString& Text);
     // The focus goes back to the list where the box had it.
     void schliesse();
+    // Open or closed, as the session says.
+    void zeige(bool offen, const QString& Vorschlag);
 
 Q_SIGNALS:
     // `Enter`: the box was not left, and may stay open for a correction.

@@ -270,7 +270,7 @@ TEST_F(Dosis, twice_the_rate_doubles_every_concentration_without_a_run) {
     EXPECT_TRUE(ohne_Lauf("Applikationsrate", "2000"));
     EXPECT_EQ(Maximum(), 2 * vorher);
     EXPECT_EQ(Werte().Wirksame_Rate, 2 * Wirksame);
-    EXPECT_TRUE(s_->Stand().Saetze[2].Geaendert());
+    EXPECT_TRUE(s_->Stand().Saetze[Applikation].Geaendert());
 }
 
 // Powers of two leave every bit of a number's digits, so nothing is rounded in another way.
@@ -353,7 +353,7 @@ TEST_F(Felder, an_interception_left_at_0_reads_0_and_marks_nothing) {
     s_->fuehre_aus<&Feldeingabe::betrete>(f);
     EXPECT_TRUE(s_->fuehre_aus<&Feldeingabe::verlasse>(f));
     EXPECT_EQ(s_->zeige<Feldeingabe>().Text(f), "0");
-    EXPECT_FALSE(s_->Stand().Saetze[2].Geaendert());
+    EXPECT_FALSE(s_->Stand().Saetze[Applikation].Geaendert());
 }
 
 TEST_F(Felder, esc_puts_the_last_accepted_text_back) {
@@ -374,7 +374,7 @@ TEST_F(Felder, a_command_out_of_an_invalid_field_is_not_done) {
     s_->fuehre_aus<&Feldeingabe::aendere>(f, "-1");
     Fragen_.erwarte(ungueltig, DT50);
     s_->fuehre_aus<&Listenwahl::waehle_Muster>(regelmaessig);
-    EXPECT_EQ(s_->Stand().Felder().Applikationsmuster, 0);
+    EXPECT_EQ(s_->Stand().Vorgabe.Applikationsmuster, 0);
 }
 
 TEST_F(Felder, refresh_out_of_a_changed_field_makes_one_run) {
@@ -395,7 +395,7 @@ TEST_F(Felder, showing_a_study_writes_nothing_back) {
     s_->fuehre_aus<&Listenwahl::waehle_Studie>(1);
     EXPECT_EQ(s_->Stand().Parameter().TRef[0][1], -5);
     EXPECT_EQ(s_->Stand().Parameter().k_SFO[0][1], 0.0123456789012345);
-    EXPECT_FALSE(s_->Stand().Saetze[1].Geaendert());
+    EXPECT_FALSE(s_->Stand().Saetze[Wirkstoff].Geaendert());
 }
 
 }  // namespace

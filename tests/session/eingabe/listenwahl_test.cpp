@@ -20,7 +20,7 @@ TEST_F(Auswahlprobe, another_kinetics_stores_its_code_marks_the_record_and_runs)
     const int Laeufe = s_->zeige<Diagrammsteuerung>().Zeichnung();
     s_->fuehre_aus<&Listenwahl::waehle_Kinetik>(0, FOMC);
     EXPECT_EQ(s_->Stand().Parameter().Kinetik[0][0], FOMC);
-    EXPECT_TRUE(s_->Stand().Saetze[1].Geaendert());
+    EXPECT_TRUE(s_->Stand().Saetze[Wirkstoff].Geaendert());
     EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe + 1);
 }
 
@@ -29,7 +29,7 @@ TEST_F(Auswahlprobe, the_same_kinetics_again_does_nothing) {
     const int Laeufe = s_->zeige<Diagrammsteuerung>().Zeichnung();
     s_->fuehre_aus<&Listenwahl::waehle_Kinetik>(0, SFO);
     EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe);
-    EXPECT_FALSE(s_->Stand().Saetze[1].Geaendert());
+    EXPECT_FALSE(s_->Stand().Saetze[Wirkstoff].Geaendert());
 }
 
 TEST_F(Auswahlprobe, a_study_shows_its_values_and_is_run_once) {
@@ -58,7 +58,7 @@ TEST_F(Auswahlprobe, a_change_of_study_keeps_the_mark_of_the_compound_record) {
     gestartet();
     ASSERT_TRUE(tippe("S_DT50_0", "12"));
     s_->fuehre_aus<&Listenwahl::waehle_Studie>(1);
-    EXPECT_TRUE(s_->Stand().Saetze[1].Geaendert());
+    EXPECT_TRUE(s_->Stand().Saetze[Wirkstoff].Geaendert());
 }
 
 TEST_F(Auswahlprobe, a_field_edits_its_own_compound_whatever_was_calculated_last) {
@@ -75,7 +75,7 @@ TEST_F(Auswahlprobe, another_scheme_runs_every_study) {
     s_->fuehre_aus<&Listenwahl::waehle_Berechnungsmodus>(ein_Metabolit);
     EXPECT_GT(Maximum(0, 1), 0.0F);
     EXPECT_GT(Maximum(1, 1), 0.0F);
-    EXPECT_TRUE(s_->Stand().Saetze[1].Geaendert());
+    EXPECT_TRUE(s_->Stand().Saetze[Wirkstoff].Geaendert());
     EXPECT_FALSE(s_->Stand().abgedeckt());
 }
 
@@ -101,7 +101,7 @@ TEST_F(Auswahlprobe, a_compound_in_view_marks_nothing) {
     schreibe_Probe();
     gestartet();
     s_->fuehre_aus<&Listenwahl::waehle_Substanz>(1);
-    EXPECT_FALSE(s_->Stand().Saetze[1].Geaendert());
+    EXPECT_FALSE(s_->Stand().Saetze[Wirkstoff].Geaendert());
 }
 
 TEST_F(Auswahlprobe, a_name_is_run_on_leaving_only_if_it_changed) {
@@ -112,7 +112,7 @@ TEST_F(Auswahlprobe, a_name_is_run_on_leaving_only_if_it_changed) {
     s_->fuehre_aus<&Listenwahl::aendere_Namen>(0, "Parent Q");
     s_->fuehre_aus<&Listenwahl::verlasse_Namen>();
     EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe + 1);
-    EXPECT_TRUE(s_->Stand().Saetze[1].Geaendert());
+    EXPECT_TRUE(s_->Stand().Saetze[Wirkstoff].Geaendert());
 }
 
 TEST_F(Auswahlprobe, a_month_shorter_than_the_day_takes_its_last_day) {
@@ -121,9 +121,9 @@ TEST_F(Auswahlprobe, a_month_shorter_than_the_day_takes_its_last_day) {
     schreibe_Probe();
     gestartet();
     s_->fuehre_aus<&Listenwahl::waehle_Monat>(1);
-    EXPECT_EQ(s_->Stand().Felder().App_Tag, 27);
+    EXPECT_EQ(s_->Stand().Vorgabe.App_Tag, 27);
     EXPECT_EQ(s_->zeige<Listenwahl>().Tage(), 28);
-    EXPECT_TRUE(s_->Stand().Saetze[2].Geaendert());
+    EXPECT_TRUE(s_->Stand().Saetze[Applikation].Geaendert());
 }
 
 TEST_F(Auswahlprobe, more_applications_shorten_the_list_of_intervals_and_keep_the_mark) {
@@ -131,11 +131,11 @@ TEST_F(Auswahlprobe, more_applications_shorten_the_list_of_intervals_and_keep_th
     schreibe_Probe();
     gestartet();
     s_->fuehre_aus<&Listenwahl::waehle_Intervall>(181);
-    const bool Marke = s_->Stand().Saetze[2].Geaendert();
+    const bool Marke = s_->Stand().Saetze[Applikation].Geaendert();
     s_->fuehre_aus<&Listenwahl::waehle_Anzahl>(18);  // 20 a year
     EXPECT_EQ(s_->zeige<Listenwahl>().Intervalle(), 18);
-    EXPECT_EQ(s_->Stand().Felder().Intervall(), 18);
-    EXPECT_EQ(s_->Stand().Saetze[2].Geaendert(), Marke);
+    EXPECT_EQ(s_->Stand().Vorgabe.Intervall(), 18);
+    EXPECT_EQ(s_->Stand().Saetze[Applikation].Geaendert(), Marke);
     EXPECT_EQ(Werte().Anzahl_pro_Jahr, 20);
 }
 
@@ -216,7 +216,7 @@ TEST_F(Auswahlprobe, the_accumulated_view_with_every_third_year_adds_a_third_of_
     s_->fuehre_aus<&Listenwahl::waehle_PEC_Typ>(Anreicherung);
     s_->fuehre_aus<&Listenwahl::waehle_Fruchtwechsel>(jedes_dritte_Jahr);
     const double erwartet = Maximum() + static_cast<double>(Werte().Werte(Gesamtgehalt, 0).Plateauwert) / 3;
-    EXPECT_EQ(Ergebnisse_einer_Studie(s_->Stand(), 0)[1][1], Formatiere_Zahl(erwartet, false, true, 0));
+    EXPECT_EQ(Ergebnisse_einer_Studie(s_->Stand(), 0)[1][1], Formatiere_Zahl(erwartet, false, true, Milligramm));
 }
 
 // Results of a scheme without the compound: nothing of it is known.
@@ -232,7 +232,7 @@ TEST_F(Auswahlprobe, a_table_of_a_compound_that_was_not_calculated_shows_zeros) 
 TEST_F(Auswahlprobe, result_rows_are_13_with_the_EU_list_and_15_with_the_monthly_list) {
     gestartet();
     EXPECT_EQ(Ergebnisse_einer_Studie(s_->Stand(), 0).size(), 13U);
-    Parameter_.TWA_Zeiten = 0;
+    Parameter_.TWA_Zeiten = Monatsliste;
     schreibe_Probe();
     gestartet();
     EXPECT_EQ(Ergebnisse_einer_Studie(s_->Stand(), 0).size(), 15U);
@@ -249,7 +249,7 @@ protected:
         gestartet();
     }
     std::string Text(int Zeile, int Spalte) const {
-        return s_->Stand().Felder().Applikationsschema[static_cast<std::size_t>(Zeile)][static_cast<std::size_t>(Spalte)].Text();
+        return s_->Stand().Vorgabe.Applikationsschema[static_cast<std::size_t>(Zeile)][static_cast<std::size_t>(Spalte)].Text();
     }
 };
 
@@ -259,7 +259,7 @@ TEST_F(Tabellenprobe, keys_edit_the_cell_and_mark_record_and_hint) {
     for (const char z : std::string("12.5")) s_->fuehre_aus<&Applikationstabelle::haenge_an>(Zelle{0, 2}, z);
     s_->fuehre_aus<&Applikationstabelle::nimm_letztes>(Zelle{0, 2});
     EXPECT_EQ(Text(0, 2), "12.");
-    EXPECT_TRUE(s_->Stand().Saetze[2].Geaendert());
+    EXPECT_TRUE(s_->Stand().Saetze[Applikation].Geaendert());
     EXPECT_TRUE(s_->Stand().Hinweis());
 }
 
@@ -297,7 +297,7 @@ TEST_F(Tabellenprobe, a_column_of_numbers_is_pasted_downwards_and_no_row_is_made
     s_->fuehre_aus<&Applikationstabelle::fuege_ein>(Zelle{0, 2}, "10\r\n20\r\n30\r\n");
     EXPECT_EQ(Text(0, 2), "10");
     EXPECT_EQ(Text(1, 2), "20");
-    EXPECT_EQ(s_->Stand().Felder().Applikationsschema.size(), 2U);
+    EXPECT_EQ(s_->Stand().Vorgabe.Applikationsschema.size(), 2U);
 }
 
 TEST_F(Tabellenprobe, rows_cut_off_by_a_smaller_number_come_back_with_a_larger_one) {

@@ -76,7 +76,7 @@ TEST_F(Zahleneingabe, enter_replaces_the_text_as_leaving_does) {
     s_->fuehre_aus<&Feldeingabe::aendere>(f, "750 g");
     ASSERT_TRUE(s_->fuehre_aus<&Feldeingabe::bestaetige>(f));
     EXPECT_EQ(s_->zeige<Feldeingabe>().Text(f), "750");
-    EXPECT_EQ(s_->Stand().Felder().Applikationsrate.Text(), "750");
+    EXPECT_EQ(s_->Stand().Vorgabe.Applikationsrate.Text(), "750");
     EXPECT_EQ(s_->Stand().Statuszeile.Text(), "Rate: \"750 g\" was read as 750.");
 }
 
@@ -117,7 +117,6 @@ TEST_F(Zahleneingabe, close_box_puts_back_a_text_with_two_separators) {
     const double vorher = s_->Stand().Parameter().KOC[0][0];
     s_->fuehre_aus<&Feldeingabe::betrete>(f);
     s_->fuehre_aus<&Feldeingabe::aendere>(f, "1.250,5");
-    Fragen_.erwarte_Anfang("Save changes?", "You modified pesticide", Knopf::Nein);
     EXPECT_TRUE(s_->fuehre_aus<&Programmablauf::schliesse_Fenster>());
     EXPECT_EQ(s_->Stand().Parameter().KOC[0][0], vorher);
 }
@@ -136,7 +135,7 @@ protected:
         for (const char c : Tasten) s_->fuehre_aus<&Applikationstabelle::haenge_an>(z, c);
     }
     const std::string& Text(int Zeile, int Spalte) const {
-        return s_->Stand().Felder().Applikationsschema[static_cast<std::size_t>(Zeile)][static_cast<std::size_t>(Spalte)].Text();
+        return s_->Stand().Vorgabe.Applikationsschema[static_cast<std::size_t>(Zeile)][static_cast<std::size_t>(Spalte)].Text();
     }
     Sitzung& mit_Tabelle() {
         Felder_.Applikationsmuster = unregelmaessig;
@@ -231,7 +230,7 @@ TEST_F(Zahleneingabe, remarks_are_those_of_the_files_as_they_were_read_or_saved_
 }
 
 TEST_F(Zahleneingabe, doubtful_weather_is_a_remark_while_it_is_in_force) {
-    Parameter_.Klimamodus = 1;
+    Parameter_.Klimamodus = nach_Klimadatei;
     Felder_.Klimaszenario = "site";
     schreibe_Probe();
     std::ofstream(Wurzel_ / "input/site.cli") << "header\n01-Jan        1.5       0.5          200\n";
@@ -240,7 +239,7 @@ TEST_F(Zahleneingabe, doubtful_weather_is_a_remark_while_it_is_in_force) {
     ASSERT_GE(b.size(), 1U);
     EXPECT_EQ(als_Zeile(b[0]), "input/site.cli:1: remark: there are 1 days behind the header line, not 365");
     s_->fuehre_aus<&Szenarioeditor::oeffne>();
-    s_->fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(0);
+    s_->fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(konstante_Temperatur);
     s_->fuehre_aus<&Szenarioeditor::uebernimm>();
     s_->fuehre_aus<&Szenarioeditor::schliesse>();
     EXPECT_TRUE(Bemerkungen(s_->Stand()).empty());
@@ -275,14 +274,14 @@ TEST_F(Zahleneingabe, one_application_a_year_from_a_record_is_in_the_list_while_
     Felder_.Applikationsschema.resize(1);
     schreibe_Probe();
     gestartet();
-    EXPECT_EQ(s_->Stand().Felder().Anzahl(), 1);
-    EXPECT_EQ(kleinste_Anzahl(s_->Stand().Felder()), 1);
+    EXPECT_EQ(s_->Stand().Vorgabe.Anzahl(), 1);
+    EXPECT_EQ(kleinste_Anzahl(s_->Stand().Vorgabe), 1);
     EXPECT_EQ(Werte().Anzahl_pro_Jahr, 1);
     s_->fuehre_aus<&Listenwahl::waehle_Anzahl>(2);  // 1, 2, 3
-    EXPECT_EQ(s_->Stand().Felder().Anzahl(), 3);
-    EXPECT_EQ(kleinste_Anzahl(s_->Stand().Felder()), 2);
+    EXPECT_EQ(s_->Stand().Vorgabe.Anzahl(), 3);
+    EXPECT_EQ(kleinste_Anzahl(s_->Stand().Vorgabe), 2);
     s_->fuehre_aus<&Listenwahl::waehle_Anzahl>(0);
-    EXPECT_EQ(s_->Stand().Felder().Anzahl(), 2);
+    EXPECT_EQ(s_->Stand().Vorgabe.Anzahl(), 2);
 }
 
 }  // namespace

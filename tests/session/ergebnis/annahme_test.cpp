@@ -34,7 +34,7 @@ protected:
     Eingabe gespeichert(const std::string& Name) const {
         Eingabe e;
         Ansicht a;
-        for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) Satz_lesen(Projektordner(Wurzel_.string()), Name, Art, e, a);
+        for (const Satzart Art : Eingabearten) Satz_lesen(Projektordner(Wurzel_.string()), Name, Art, e, a);
         return e;
     }
     const std::string& Zeile() const { return Zeile_ = z().Statuszeile.Text(); }
@@ -53,7 +53,7 @@ TEST_F(Annahme, a_description_in_work_ends_with_the_next_command) {
     ASSERT_EQ(z().gewaehlt(Simulation), "Second");
     EXPECT_FALSE(s_->zeige<Beschreibungseingabe>().offen());
     s_->fuehre_aus<&Beschreibungseingabe::nimm_zurueck>();
-    EXPECT_EQ(z().Felder().Beschreibung, "second");
+    EXPECT_EQ(z().Vorgabe.Beschreibung, "second");
 }
 
 TEST_F(Annahme, a_description_opens_only_once_the_field_in_work_is_accepted) {
@@ -79,7 +79,7 @@ TEST_F(Annahme, the_close_box_puts_back_a_cell_that_would_be_a_thousandth) {
     tippe_Zelle({0, 2}, "1.250.5");
     Fragen_.erwarte_Anfang("Save changes?", "You modified application", Knopf::nicht_jetzt);
     EXPECT_FALSE(s_->fuehre_aus<&Programmablauf::schliesse_Fenster>());
-    EXPECT_EQ(z().Felder().Applikationsschema[0][2].Text(), "500");
+    EXPECT_EQ(z().Vorgabe.Applikationsschema[0][2].Text(), "500");
     EXPECT_FALSE(s_->zeige<Applikationstabelle>().ist_in_Arbeit());
 }
 
@@ -176,7 +176,7 @@ TEST_F(Annahme, a_command_that_the_user_gives_up_leaves_the_line) {
 
 TEST_F(Annahme, typing_takes_no_cover_away) {
     gestartet_mit_Tabelle();
-    const std::string alt = z().Felder().Applikationsschema[0][0].Text();
+    const std::string alt = z().Vorgabe.Applikationsschema[0][0].Text();
     tippe_Zelle({0, 0}, "400");
     Fragen_.erwarte_Anfang("No valid input!", "");
     s_->fuehre_aus<&Applikationstabelle::bestaetige>();
@@ -219,11 +219,11 @@ TEST_F(Annahme, an_open_report_closes_when_a_name_in_it_is_another) {
     s_->fuehre_aus<&Berichtssteuerung::erstelle>();
     ASSERT_NE(s_->zeige<Berichtssteuerung>().offener(), nullptr);
     s_->fuehre_aus<&Ruecknahme::mache_rueckgaengig>();
-    EXPECT_EQ(z().Felder().Bodenszenario, "Sandy loam");
+    EXPECT_EQ(z().Vorgabe.Bodenszenario, "Sandy loam");
     EXPECT_EQ(s_->zeige<Berichtssteuerung>().offener(), nullptr);
     s_->fuehre_aus<&Berichtssteuerung::erstelle>();
     ASSERT_NE(s_->zeige<Berichtssteuerung>().offener(), nullptr);
-    EXPECT_TRUE(s_->fuehre_aus<&Satzverwaltung::benenne_um>(Applikation, "Third", true));
+    EXPECT_TRUE(benenne_um(*s_, Applikation, "Third", true));
     EXPECT_EQ(s_->zeige<Berichtssteuerung>().offener(), nullptr);
 }
 
@@ -282,7 +282,7 @@ protected:
     void starte() {
         s_ = std::make_unique<Sitzung>(Umgebung{&Zuschauer_, Wurzel_.string(), "", '.'});
         ASSERT_TRUE(s_->fuehre_aus<&Programmablauf::oeffne_Projekt>());
-        s_->fuehre_aus<&Programmablauf::starte>();
+        s_->fuehre_aus<&Programmablauf::verlasse_Startseite>();
     }
     Zuschauer Zuschauer_;
 };
@@ -309,7 +309,7 @@ TEST_F(Hinter_der_Meldung, bleiben_gueltige_Ergebnisse_zu_sehen) {
     starte();
     bool abgedeckt = true;
     Zuschauer_.bei_Frage = [&] { abgedeckt = z().abgedeckt(); };
-    EXPECT_FALSE(s_->fuehre_aus<&Satzverwaltung::benenne_um>(Szenario, "a/b", false));
+    EXPECT_FALSE(benenne_um(*s_, Szenario, "a/b", false));
     ASSERT_EQ(Zuschauer_.Gesehenes.size(), 1U);
     EXPECT_FALSE(abgedeckt);
 }

@@ -75,7 +75,7 @@ protected:
         std::filesystem::copy(std::filesystem::path(VARNOK_DATENORDNER) / "input", Wurzel_ / "input");
         s_ = std::make_unique<Sitzung>(Umgebung{&Fragen_, Wurzel_.string(), VARNOK_DATENORDNER, '.'});
         EXPECT_TRUE(s_->fuehre_aus<&Programmablauf::oeffne_Projekt>());
-        s_->fuehre_aus<&Programmablauf::starte>();
+        s_->fuehre_aus<&Programmablauf::verlasse_Startseite>();
     }
     ~Ausgelieferte_Bilder() override {
         s_.reset();

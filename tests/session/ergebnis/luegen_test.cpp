@@ -38,7 +38,7 @@ TEST_F(Luegen, rows_of_another_irregular_record_never_come_back) {
     gestartet().fuehre_aus<&Listenwahl::waehle_Anzahl>(0);
     waehle(Applikation, "Second");
     s_->fuehre_aus<&Listenwahl::waehle_Anzahl>(3);
-    const auto& Tabelle = z().Felder().Applikationsschema;
+    const auto& Tabelle = z().Vorgabe.Applikationsschema;
     ASSERT_EQ(Tabelle.size(), 5U);
     for (std::size_t i = 2; i < 5; ++i) EXPECT_EQ(Tabelle[i], Applikationszeile{}) << i;
     Fragen_.erwarte_Anfang("No valid input!", "");
@@ -50,7 +50,7 @@ TEST_F(Luegen, rows_cut_off_come_back_while_the_record_stands) {
     mache_unregelmaessig();
     gestartet().fuehre_aus<&Listenwahl::waehle_Anzahl>(0);
     s_->fuehre_aus<&Listenwahl::waehle_Anzahl>(3);
-    EXPECT_EQ(z().Felder().Applikationsschema, Felder_.Applikationsschema);
+    EXPECT_EQ(z().Vorgabe.Applikationsschema, Felder_.Applikationsschema);
 }
 
 TEST_F(Luegen, a_digit_typed_into_a_cell_leaves_table_and_diagram_of_the_new_view_with_the_hint) {
@@ -138,7 +138,7 @@ TEST_F(Luegen, after_a_failed_write_nothing_tells_of_the_report_before) {
 }
 
 TEST_F(Luegen, half_the_dose_under_weather_that_another_program_changed_is_not_half_the_old_result) {
-    Parameter_.Klimamodus = 1;
+    Parameter_.Klimamodus = nach_Klimadatei;
     Parameter_.Q10 = fuer_alle(2.58);
     Felder_.Klimaszenario = "Weather";
     schreibe("Weather.cli", gang::Wetterdatei(5));
@@ -162,7 +162,7 @@ TEST_F(Luegen, a_scenario_without_its_last_lines_shows_and_calculates_20_degrees
     schreibe_Saetze("Probe", Felder_);
     gestartet();
     waehle(Szenario, "Second");
-    EXPECT_EQ(Klimatext(z().Felder()), "20 °C constant");
+    EXPECT_EQ(Klimatext(z().Vorgabe), "20 °C constant");
     EXPECT_EQ(z().Parameter().Szenariotemperatur, 20);
     EXPECT_FALSE(z().abgedeckt());
     EXPECT_EQ(Klimatext(*Werte().Vorgabe), "20 °C constant");
@@ -172,12 +172,12 @@ TEST_F(Luegen, a_record_that_cannot_be_read_is_covered_with_file_line_and_reason
     schreibe("Second.che", "rubbish");
     gestartet();
     ASSERT_TRUE(tippe("S_DT50_0", "12"));
-    const Eingabe vorher = z().Felder();
+    const Eingabe vorher = z().Vorgabe;
     Fragen_.erwarte_Anfang("Save changes?", "", Knopf::Nein);
     waehle(Wirkstoff, "Second");
     EXPECT_EQ(z().Abdeckungswort(), "Second.che, line 2: the file ends before \"Unit:\"");
     EXPECT_THAT(z().Statuszeile.Text(), HasSubstr("Second.che, line 2"));
-    EXPECT_EQ(z().Felder(), vorher);
+    EXPECT_EQ(z().Vorgabe, vorher);
     EXPECT_FALSE(z().Saetze[Wirkstoff].Geaendert());
     ASSERT_TRUE(tippe("S_DT50_0", "13"));
     s_->fuehre_aus<&Satzverwaltung::speichere>();
@@ -193,10 +193,10 @@ TEST_F(Luegen, a_pattern_read_in_part_never_stands_beside_the_rest_of_another) {
     const std::string ganz = Datei("input/Second.app");
     schreibe("Second.app", ganz.substr(0, ganz.find("02\t05")));
     gestartet();
-    const Eingabe vorher = z().Felder();
+    const Eingabe vorher = z().Vorgabe;
     waehle(Applikation, "Second");
     EXPECT_THAT(z().Abdeckungswort(), HasSubstr("Second.app, line 11: "));
-    EXPECT_EQ(z().Felder(), vorher);
+    EXPECT_EQ(z().Vorgabe, vorher);
     waehle(Applikation, "Probe");
     EXPECT_FALSE(z().abgedeckt());
 }
@@ -239,13 +239,13 @@ TEST_F(Luegen, undo_of_a_deleted_study_brings_back_all_of_it) {
     Parameter_.Tb_HS[0] = 3;
     schreibe_Saetze("Probe", Felder_);
     gestartet();
-    const Eingabe vorher = z().Felder();
+    const Eingabe vorher = z().Vorgabe;
     const auto Tabelle = Ergebnisse_einer_Studie(s_->Stand(), 0);
     Fragen_.erwarte_Anfang("Delete study", "", Knopf::Ja);
     s_->fuehre_aus<&Studienverwaltung::loesche>();
     ASSERT_EQ(z().Studienzahl(), 1);
     s_->fuehre_aus<&Ruecknahme::mache_rueckgaengig>();
-    EXPECT_EQ(z().Felder(), vorher);
+    EXPECT_EQ(z().Vorgabe, vorher);
     EXPECT_EQ(Ergebnisse_einer_Studie(s_->Stand(), 0), Tabelle);
     EXPECT_FALSE(z().Hinweis());
     EXPECT_FALSE(z().abgedeckt());
@@ -255,19 +255,19 @@ TEST_F(Luegen, undo_of_a_deleted_study_brings_back_all_of_it) {
 TEST_F(Luegen, undo_and_redo_pass_a_table_that_a_run_repairs) {
     mache_unregelmaessig();
     gestartet();
-    const Eingabe geladen = z().Felder();
+    const Eingabe geladen = z().Vorgabe;
     s_->fuehre_aus<&Applikationstabelle::fuege_ein>(Zelle{0, 3}, "150");
-    const Eingabe getippt = z().Felder();
+    const Eingabe getippt = z().Vorgabe;
     Fragen_.erwarte_Anfang("Delete study", "", Knopf::Ja);
     s_->fuehre_aus<&Studienverwaltung::loesche>();
-    const Eingabe geloescht = z().Felder();
+    const Eingabe geloescht = z().Vorgabe;
     s_->fuehre_aus<&Ruecknahme::mache_rueckgaengig>();
-    EXPECT_EQ(z().Felder(), getippt);
+    EXPECT_EQ(z().Vorgabe, getippt);
     s_->fuehre_aus<&Ruecknahme::mache_rueckgaengig>();
-    EXPECT_EQ(z().Felder(), geladen);
+    EXPECT_EQ(z().Vorgabe, geladen);
     s_->fuehre_aus<&Ruecknahme::wiederhole>();
     s_->fuehre_aus<&Ruecknahme::wiederhole>();
-    EXPECT_EQ(z().Felder(), geloescht);
+    EXPECT_EQ(z().Vorgabe, geloescht);
 }
 
 // "Not now"
@@ -275,13 +275,13 @@ TEST_F(Luegen, undo_and_redo_pass_a_table_that_a_run_repairs) {
 TEST_F(Luegen, esc_on_choosing_a_record_leaves_everything_as_it_was) {
     gestartet();
     ASSERT_TRUE(tippe("S_DT50_0", "12"));
-    const Eingabe vorher = z().Felder();
+    const Eingabe vorher = z().Vorgabe;
     const auto Marken = z().Marken();
     const std::string Datei_davor = Datei("input/Second.che");
     Fragen_.erwarte_Anfang("Save changes?", "", Knopf::nicht_jetzt);
     waehle(Wirkstoff, "Second");
     EXPECT_EQ(z().gewaehlt(Wirkstoff), "Probe");
-    EXPECT_EQ(z().Felder(), vorher);
+    EXPECT_EQ(z().Vorgabe, vorher);
     EXPECT_EQ(z().Marken(), Marken);
     EXPECT_FALSE(z().Simulation_markiert());
     EXPECT_FALSE(z().abgedeckt());
@@ -318,7 +318,7 @@ TEST_F(Luegen, only_the_question_that_writes_into_the_record_chosen_has_no_defau
     Merker m;
     Sitzung s(Umgebung{&m, Wurzel_.string(), "", '.'});
     ASSERT_TRUE(s.fuehre_aus<&Programmablauf::oeffne_Projekt>());
-    s.fuehre_aus<&Programmablauf::starte>();
+    s.fuehre_aus<&Programmablauf::verlasse_Startseite>();
     s.fuehre_aus<&Listenwahl::aendere_Namen>(0, "Another");
     s.fuehre_aus<&Satzverwaltung::waehle_Satz>(Wirkstoff, 1);
     s.fuehre_aus<&Listenwahl::aendere_Namen>(0, "Another again");

@@ -25,7 +25,7 @@ protected:
         Welt.erste_Simulation = Simulation;
         s_ = std::make_unique<Sitzung>(Welt);
         s_->fuehre_aus<&Programmablauf::oeffne_Projekt>();
-        s_->fuehre_aus<&Programmablauf::starte>();
+        s_->fuehre_aus<&Programmablauf::verlasse_Startseite>();
         return *s_;
     }
     const Zustand& z() const { return s_->Stand(); }

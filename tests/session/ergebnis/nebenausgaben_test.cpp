@@ -19,7 +19,7 @@ protected:
 TEST_F(Nebenausgabenprobe, run_dump_is_there_after_the_first_run) {
     nur_geladen();
     EXPECT_FALSE(gibt_es("output/test.txt"));
-    s_->fuehre_aus<&Programmablauf::starte>();
+    s_->fuehre_aus<&Programmablauf::verlasse_Startseite>();
     const std::string Text = Protokoll();
     EXPECT_EQ(Text, erwartetes_Protokoll());
     EXPECT_EQ(std::count(Text.begin(), Text.end(), '\n'), 3650);
@@ -68,7 +68,7 @@ TEST_F(Nebenausgabenprobe, a_run_dump_that_cannot_be_written_is_told_once_and_th
     nur_geladen();
     Fragen_.erwarte("Runtime error",
                     "Cannot write the file \"" + (Wurzel_ / "output" / "test.txt").string() + "\": it is a folder");
-    s_->fuehre_aus<&Programmablauf::starte>();
+    s_->fuehre_aus<&Programmablauf::verlasse_Startseite>();
     EXPECT_FALSE(s_->Stand().abgedeckt());
     EXPECT_FALSE(s_->Stand().Hinweis());
     EXPECT_NE(s_->zeige<Diagrammsteuerung>().vorderes(), nullptr);
@@ -80,7 +80,7 @@ TEST_F(Nebenausgabenprobe, a_day_series_that_cannot_be_written_is_told_once_and_
     versperre("Detailed Results - Parent P.tab");
     nur_geladen();
     Fragen_.erwarte_Anfang("Runtime error", "Cannot write the file ");
-    s_->fuehre_aus<&Programmablauf::starte>();
+    s_->fuehre_aus<&Programmablauf::verlasse_Startseite>();
     EXPECT_FALSE(s_->Stand().abgedeckt());
     EXPECT_EQ(Protokoll(), erwartetes_Protokoll());
     s_->fuehre_aus<&Satzverwaltung::aktualisiere>();
@@ -94,7 +94,7 @@ TEST_F(Nebenausgabenprobe, a_file_in_place_of_the_folder_is_told_in_one_line) {
     std::ofstream(Wurzel_ / "output") << "in the way";
     nur_geladen();
     Fragen_.erwarte("Runtime error", "Cannot make the folder \"" + (Wurzel_ / "output").string() + "\": Not a directory");
-    s_->fuehre_aus<&Programmablauf::starte>();
+    s_->fuehre_aus<&Programmablauf::verlasse_Startseite>();
     EXPECT_FALSE(s_->Stand().abgedeckt());
 }
 

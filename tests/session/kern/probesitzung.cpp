@@ -36,7 +36,7 @@ void Probesitzung::schreibe_Probe() {
 
 void Probesitzung::schreibe_Saetze(const std::string& Name, const Eingabe& e) const {
     const Projektordner Ordner(Wurzel_.string());
-    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) Satz_schreiben(Ordner, Name, Art, e, Sicht_);
+    for (const Satzart Art : Eingabearten) Satz_schreiben(Ordner, Name, Art, e, Sicht_);
 }
 
 Sitzung& Probesitzung::nur_geladen() {
@@ -47,7 +47,7 @@ Sitzung& Probesitzung::nur_geladen() {
 }
 
 Sitzung& Probesitzung::gestartet() {
-    nur_geladen().fuehre_aus<&Programmablauf::starte>();
+    nur_geladen().fuehre_aus<&Programmablauf::verlasse_Startseite>();
     return *s_;
 }
 
@@ -71,6 +71,14 @@ const Ergebnis& Probesitzung::Werte(int i_studie) const { return s_->Stand().zei
 
 float Probesitzung::Maximum(int i_studie, int i_substanz) const {
     return Werte(i_studie).Werte(Gesamtgehalt, i_substanz).Maximum_Bodentiefe;
+}
+
+bool benenne_um(Sitzung& s, Satzart Art, const std::string& Name, bool Enter) {
+    s.fuehre_aus<&Satzumbenennung::beginne>(Art);
+    s.fuehre_aus<&Satzumbenennung::aendere>(Name);
+    const bool fertig = s.fuehre_aus<&Satzumbenennung::bestaetige>(Enter);
+    s.fuehre_aus<&Satzumbenennung::nimm_zurueck>();
+    return fertig;
 }
 
 }  // namespace varnok

@@ -41,4 +41,7 @@ protected:
     std::unique_ptr<Sitzung> s_;
 };
 
+// A record gets that name in its box; a box that is still open with a refused name is closed with Esc.
+bool benenne_um(Sitzung& s, Satzart Art, const std::string& Name, bool Enter);
+
 }  // namespace varnok

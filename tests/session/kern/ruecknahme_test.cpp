@@ -30,7 +30,7 @@ TEST_P(Verlaufsanfang, LiegtHinterJedemAnderenSatz) {
 const std::vector<Fall> Faelle = {
     {"other_simulation", [](Sitzung& s, Drehbuch&) { s.fuehre_aus<&Satzverwaltung::waehle_Simulation>(1); }, false},
     {"other_record", [](Sitzung& s, Drehbuch&) { s.fuehre_aus<&Satzverwaltung::waehle_Satz>(Szenario, 1); }, false},
-    {"rename", [](Sitzung& s, Drehbuch&) { s.fuehre_aus<&Satzverwaltung::benenne_um>(Szenario, "Third", true); }, false},
+    {"rename", [](Sitzung& s, Drehbuch&) { benenne_um(s, Szenario, "Third", true); }, false},
     {"delete",
      [](Sitzung& s, Drehbuch& d) {
          d.erwarte_Anfang("Delete record", "", Knopf::Ja);

@@ -9,12 +9,6 @@
 #include "session/kern/texte.h"
 
 namespace varnok::gang {
-namespace {
-
-constexpr std::array alle_Arten = {Simulation, Wirkstoff, Applikation, Szenario};
-
-}  // namespace
-
 Gang::Gang() {
     Fragen_.bei_Frage = [this] { sieh_bei_Frage_hin(); };
     Fragen_.bei_Zustimmung = [this](const Frage& f) { erlaube_Zugestimmtes(f); };
@@ -39,6 +33,7 @@ void Gang::sperre(Sperrlage Lage) {
 
 void Gang::oeffne(Sperrlage Lage) {
     s_.reset();  // of two windows on one folder the second would ask
+    letzter_Stand_.reset();
     sperre(Lage);
     Umgebung u{&Fragen_, Projekt_.Wurzel().string(), "", '.', &Zeit_, Welt_.Update()};
     u.weiteres_Fenster = [this](const std::string&) { return Welt_.Fenster_moeglich && ++Welt_.Fenster > 0; };
@@ -68,7 +63,7 @@ bool Gang::starte() {
     tue<&Aktualisierungssteuerung::suche_beim_Start>(
         [this](const std::string& Seite) { tue<&Aktualisierungssteuerung::melde>(Seite); });
     Welt_.Netz.antworte(Scheinwelt::Seite(std::string(Eigene_Version)));
-    tue<&Programmablauf::starte>();
+    tue<&Programmablauf::verlasse_Startseite>();
     Fragen_.bestehe_auf(std::nullopt);
     Name_in_Arbeit = getippt_ = false;
     letzter_Stand_ = z().Vorgabe;
@@ -115,11 +110,11 @@ void Gang::pruefe_Zurueckgebrachtes(const Vorher& v, bool gewuenscht) {
         Fragen_.gefragt("Runtime error") || Fragen_.Bericht().find("Not all of the values") != std::string::npos;
     for (const Satzart Art : alle_Arten) {
         const std::string& Bild = v.Bilder[Art];
-        if (!v.Saetze[Art].gelesen() || Bild.empty() || Bild == v.Saetze[Art].gespeichert()) continue;
+        if (!v.Saetze[Art].gelesen() || Bild.empty() || v.Eingaben[Art] == v.Saetze[Art].gespeichert()) continue;
         if (!Projekt_.gesichert(Bild))
             throw Verstoss{"unsaved values are lost with the program", Satzdatei(v.Saetze[Art].Datei().Name, Art)};
         const std::string jetzt = z().Speicherbild(Art);
-        if (gewuenscht && !gestoert && jetzt != Bild && !gleiche_Zahlen(jetzt, Bild))
+        if (gewuenscht && !gestoert && jetzt != v.Eingaben[Art] && !gleiche_Zahlen(jetzt, v.Eingaben[Art]))
             throw Verstoss{"unsaved values do not come back", Satzdatei(v.Saetze[Art].Datei().Name, Art)};
     }
 }
@@ -133,6 +128,7 @@ Gang::Vorher Gang::merke() const {
         } catch (const Laufzeitfehler&) {
             v.Bilder[Art].clear();
         }
+        v.Eingaben[Art] = z().Speicherbild(Art);
     }
     v.Vorgabe = z().Vorgabe;
     v.etwas_in_Arbeit = etwas_offen();
@@ -141,7 +137,7 @@ Gang::Vorher Gang::merke() const {
 
 bool Gang::etwas_offen() const {
     return Feld_in_Arbeit() || s_->zeige<Applikationstabelle>().ist_in_Arbeit() || s_->zeige<Studienverwaltung>().Name_offen() ||
-           s_->zeige<Beschreibungseingabe>().offen() || Name_in_Arbeit;
+           s_->zeige<Satzumbenennung>().offen() || s_->zeige<Beschreibungseingabe>().offen() || Name_in_Arbeit;
 }
 
 void Gang::tue(const Aktion& a) {
@@ -150,7 +146,7 @@ void Gang::tue(const Aktion& a) {
     Zufall_.beginne(a.Saat);
     Fragen_.beginne();
     erlaubt_.clear();
-    abgestuerzt_ = false;
+    abgestuerzt_ = im_Verlauf_bewegt_ = false;
     Art_ = &Art;
     vorher_ = merke();
     try {
@@ -213,6 +209,19 @@ void Gang::tue_Fremdes(const char* Tat, const std::function<std::string()>& tue)
     }
 }
 
+void Gang::sieh_nach_Lesungen() {
+    int Summe = 0;
+    for (const Satzplatz& p : z().Saetze) Summe += p.Lesungen() + p.Umbenennungen();
+    if (std::exchange(Lesungen_, Summe) != Summe) letzter_Stand_.reset();
+}
+
+void Gang::erlaube_offene_Umbenennung() {
+    const auto& [Art, Name] = offener_Name_;
+    if (!s_ || !s_->zeige<Satzumbenennung>().offen_ueber(Art)) return;
+    erlaube_Satz(false, Art);
+    erlaube_Datei(Art, Name.ends_with(Endungen[Art]) ? Name.substr(0, Name.size() - 4) : Name);
+}
+
 void Gang::erlaube_gelesene() {
     for (const Satzart Art : alle_Arten) {
         if (z().Saetze[Art].gelesen()) erlaube_Datei(Art, z().Namen[Art]);
@@ -227,7 +236,7 @@ void Gang::erlaube_Startsimulation() {
 void Gang::erlaube_Zugestimmtes(const Frage& f) {
     if (f.Titel == Texte::Datei_fehlt) erlaube_Startsimulation();
     if (f.Titel != Texte::Aenderungen_sichern) return;
-    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) {
+    for (const Satzart Art : Eingabearten) {
         if (f.Text.find(std::string("You modified ") + Satzart_Namen[Art] + " input") == std::string::npos) continue;
         const std::size_t bis = f.Text.rfind('\'');
         const std::size_t von = bis == std::string::npos ? bis : f.Text.rfind('\'', bis - 1);

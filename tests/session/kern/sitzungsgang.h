@@ -12,6 +12,7 @@
 #include <set>
 #include <string>
 #include <tuple>
+#include <utility>
 #include <vector>
 
 #include "session/kern/sitzung.h"
@@ -84,6 +85,8 @@ public:
         erlaube<Befehl>(false, a...);
         auto w = s_->fuehre_aus<Befehl>(a...);
         erlaube<Befehl>(true, a...);
+        if constexpr (std::is_same_v<Teil_mit<Befehl>, Ruecknahme>) im_Verlauf_bewegt_ = true;
+        sieh_nach_Lesungen();
         if (hat_Sinn && getan(w)) ++Befehle_[Befehlsname<Befehl>()];
         return w;
     }
@@ -101,6 +104,8 @@ public:
     Antworter& Fragesteller() { return Fragen_; }
     Scheinwelt& Welt() { return Welt_; }
     void sage(const std::string& Text);
+    // The box of a record stands open with this name, which the next command takes.
+    void setze_offenen_Namen(Satzart Art, const std::string& Name) { offener_Name_ = {Art, Name}; }
     // A text that is typed and not left yet: what is drawn may not carry it.
     bool Name_in_Arbeit = false;
     void getippt() { getippt_ = true; }
@@ -123,7 +128,8 @@ private:
     // As an action found it.
     struct Vorher {
         std::array<Satzplatz, 4> Saetze;
-        std::array<std::string, 4> Bilder;  // what a save would have written, empty where nothing can be
+        std::array<std::string, 4> Bilder;    // what a save would have written, empty where nothing can be
+        std::array<std::string, 4> Eingaben;  // without the view
         Eingabe Vorgabe;
         bool etwas_in_Arbeit = false;
     };
@@ -136,6 +142,9 @@ private:
     void erlaube_Satz(bool im_Organiser, Satzart Art, const Weitere&...);
     void erlaube_Datei(Satzart Art, const std::string& Name) { erlaubt_.insert(Satzdatei(Name, Art)); }
     void erlaube_gelesene();
+    void erlaube_offene_Umbenennung();
+    // A record that was read, given up or renamed begins the history anew.
+    void sieh_nach_Lesungen();
     void erlaube_Startsimulation();
     void erlaube_Zugestimmtes(const Frage& f);
 
@@ -167,6 +176,7 @@ private:
     Schrittuhr Zeit_;
     std::unique_ptr<Sitzung> s_;
     Scheinwelt Welt_;
+    std::pair<Satzart, std::string> offener_Name_;
     Sperrlage Lage_ = Sperrlage::frei;  // of the next start
     std::unique_ptr<Projektsperre> zweites_Fenster_;
     Dateien Stand_;                    // of `input` after the last action and what another program has done since
@@ -178,9 +188,11 @@ private:
     std::map<const Ergebnis*, Klimabytes> Klima_von_;
     varnok::Ergebnisse bekannt_;
     std::optional<Eingabe> letzter_Stand_;  // of the history, where it is known
+    int Lesungen_ = 0;                      // and renamings, up to here
     int ausstehend_ = 0;                    // actions since then whose text was still in work
     bool getippt_ = false;
     bool abgestuerzt_ = false;
+    bool im_Verlauf_bewegt_ = false;  // by the action itself
     bool Zelle_in_Arbeit_ = false;
     std::vector<std::string> Protokoll_;
     Zaehler Befehle_, Abdeckungen_, Fremdes_;
@@ -197,6 +209,8 @@ bool Gang::hat_etwas_zu_tun() const {
     if constexpr (ist_einer_von<Befehl, &Ruecknahme::wiederhole>) return !s_->zeige<Ruecknahme>().Name_vor().empty();
     if constexpr (ist_einer_von<Befehl, &B::schliesse, &B::speichere_PDF>) return s_->zeige<B>().offener() != nullptr;
     if constexpr (ist_einer_von<Befehl, &S::aendere, &S::bestaetige, &S::nimm_zurueck>) return s_->zeige<S>().Name_offen();
+    using U = Satzumbenennung;
+    if constexpr (ist_einer_von<Befehl, &U::aendere, &U::bestaetige, &U::nimm_zurueck>) return s_->zeige<U>().offen();
     if constexpr (ist_einer_von<Befehl, &Applikationstabelle::schliesse_ab>)
         return s_->zeige<Applikationstabelle>().ist_in_Arbeit();
     if constexpr (ist_einer_von<Befehl, &Diagrammsteuerung::verschiebe>) return s_->zeige<Diagrammsteuerung>().hat_Ausschnitt();
@@ -213,6 +227,7 @@ void Gang::erlaube_Satz(bool im_Organiser, Satzart Art, const Weitere&...) {
 template <auto Befehl, class... Angaben>
 void Gang::erlaube(bool nachher, const Angaben&... a) {
     constexpr Namensrecht Recht = Recht_am_Satz<Befehl>();
+    if (!nachher) erlaube_offene_Umbenennung();
     const auto Namen = std::tie(a...);
     if constexpr (Recht.vorher || Recht.nachher) {
         if (nachher ? Recht.nachher : Recht.vorher) erlaube_Satz(std::is_same_v<Teil_mit<Befehl>, Organiser>, a...);

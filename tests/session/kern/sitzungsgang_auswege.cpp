@@ -9,8 +9,6 @@
 namespace varnok::gang {
 namespace {
 
-constexpr std::array alle_Arten = {Simulation, Wirkstoff, Applikation, Szenario};
-
 // The bytes around a place.
 std::string Stelle(const std::string& Bytes, std::size_t i) {
     const std::size_t von = Bytes.rfind('\n', i) + 1;

@@ -52,7 +52,7 @@ constexpr Namensrecht Recht_am_Satz() {
     using O = Organiser;
     if (ist_einer_von<Befehl, &S::lege_an, &S::kopiere, &O::kopiere>) return {false, true};
     if (ist_einer_von<Befehl, &S::loesche, &O::loesche>) return {true, false};
-    if (ist_einer_von<Befehl, &S::benenne_um, &O::benenne_um>) return {true, true};
+    if (ist_einer_von<Befehl, &O::benenne_um>) return {true, true};
     return {};
 }
 

@@ -36,7 +36,7 @@ void aendere_Szenario(Gang& g) {
                 g.tue<&Szenarioeditor::waehle_Option>(&Szenarioentwurf::Plateau, g.r().unter(2));
                 break;
             case 5:
-                if (e.darf_variabel()) g.tue<&Szenarioeditor::waehle_Klimabedingungen>(g.r().unter(2));
+                if (e.darf_variabel()) g.tue<&Szenarioeditor::waehle_Klimabedingungen>(static_cast<Klimaart>(g.r().unter(2)));
                 break;
             case 6:
                 g.tue<&Szenarioeditor::waehle_Temperatur>(g.r().unter(30));
@@ -180,13 +180,13 @@ void Optionen_OK(Gang& g) {
     Optionsentwurf o = g.tue<&Optionensteuerung::oeffne>();
     switch (g.r().unter(5)) {
         case 0:
-            o.Einheit = g.r().unter(2);
+            o.Einheit = static_cast<Einheitsart>(g.r().unter(2));
             break;
         case 1:
-            o.Separate_Rueckstaende = g.r().unter(3);
+            o.Separate_Rueckstaende = static_cast<Rueckstandsart>(g.r().unter(3));
             break;
         case 2:
-            o.TWA_Zeiten = g.r().unter(2);
+            o.TWA_Zeiten = static_cast<TWA_Listenart>(g.r().unter(2));
             break;
         case 3:
             o.Ausgabename_Teile[0] = !o.Ausgabename_Teile[0];

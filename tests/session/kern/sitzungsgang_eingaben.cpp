@@ -15,7 +15,7 @@ std::string Feldname(int f) { return Feldtabelle()[static_cast<std::size_t>(f)].
 int sichtbares_Feld(Gang& g) {
     for (;;) {
         const int f = g.r().unter(static_cast<int>(Feldtabelle().size()));
-        if (Feldtabelle()[static_cast<std::size_t>(f)].i_substanz < Anzahl_Stoffe(g.z().Felder().Berechnungsmodus)) return f;
+        if (Feldtabelle()[static_cast<std::size_t>(f)].i_substanz < Anzahl_Stoffe(g.z().Vorgabe.Berechnungsmodus)) return f;
     }
 }
 
@@ -77,11 +77,9 @@ void Esc_im_Feld(Gang& g) {
         g.tue<&Feldeingabe::nimm_zurueck>(g.s().zeige<Feldeingabe>().aktives_Feld());
 }
 
-void waehle_Substanz(Gang& g) {
-    g.tue<&Listenwahl::waehle_Substanz>(g.r().unter(Anzahl_Stoffe(g.z().Felder().Berechnungsmodus)));
-}
+void waehle_Substanz(Gang& g) { g.tue<&Listenwahl::waehle_Substanz>(g.r().unter(Anzahl_Stoffe(g.z().Vorgabe.Berechnungsmodus))); }
 void waehle_Kinetik(Gang& g) {
-    const int c = g.r().unter(Anzahl_Stoffe(g.z().Felder().Berechnungsmodus));
+    const int c = g.r().unter(Anzahl_Stoffe(g.z().Vorgabe.Berechnungsmodus));
     const auto k = static_cast<Kinetikart>(g.r().unter(c == 0 ? 4 : 2));
     g.sage(std::to_string(c) + " " + std::to_string(k));
     g.tue<&Listenwahl::waehle_Kinetik>(c, k);
@@ -98,9 +96,9 @@ void waehle_Intervall(Gang& g) {
     g.tue<&Listenwahl::waehle_Intervall>(i);
 }
 
-bool hat_Tabelle(Gang& g) { return g.z().Felder().Applikationsmuster == unregelmaessig; }
+bool hat_Tabelle(Gang& g) { return g.z().Vorgabe.Applikationsmuster == unregelmaessig; }
 Zelle eine_Zelle(Gang& g) {
-    const Zelle z{g.r().unter(static_cast<int>(g.z().Felder().Applikationsschema.size())), g.r().unter(4)};
+    const Zelle z{g.r().unter(static_cast<int>(g.z().Vorgabe.Applikationsschema.size())), g.r().unter(4)};
     g.sage(std::to_string(z.Zeile) + "/" + std::to_string(z.Spalte));
     return z;
 }

@@ -19,7 +19,7 @@ const Knoepfe Ja_Nein = {Knopf::Ja, Knopf::Nein};
 struct Fragenklasse {
     const char* Titel;
     const char* Stelle;  // of the text
-    const Knoepfe* Auswahl;
+    const Knoepfe* Angebot;
 };
 const std::array Klassen = {
     Fragenklasse{Texte::Aenderungen_sichern, "Yes writes these values to", &Ja_Nein},
@@ -72,12 +72,12 @@ const std::array Klassen = {
 std::string Name(const Fragenklasse& k, Knopf Antwort) {
     static const std::array Woerter = {"OK", "Cancel", "Yes", "No", "Esc"};
     const std::string Stelle = *k.Stelle == 0 ? "" : std::string(" (") + k.Stelle + ")";
-    return k.Titel + Stelle + (k.Auswahl == &mit_Abbruch ? " or Cancel: " : ": ") + Woerter[static_cast<std::size_t>(Antwort)];
+    return k.Titel + Stelle + (k.Angebot == &mit_Abbruch ? " or Cancel: " : ": ") + Woerter[static_cast<std::size_t>(Antwort)];
 }
 
-Knoepfe Antworten(const Knoepfe& Auswahl) {
-    Knoepfe Alle = Auswahl;
-    if (Auswahl == Ja_Nein) Alle.push_back(Knopf::nicht_jetzt);
+Knoepfe Antworten(const Knoepfe& Angebot) {
+    Knoepfe Alle = Angebot;
+    if (Angebot == Ja_Nein) Alle.push_back(Knopf::nicht_jetzt);
     return Alle;
 }
 
@@ -92,7 +92,7 @@ constexpr const char* benannt = "Record \"...\" missing: choose one";
 std::vector<std::string> alle_Fragen() {
     std::vector<std::string> Namen;
     for (const Fragenklasse& k : Klassen) {
-        for (const Knopf Antwort : Antworten(*k.Auswahl)) Namen.push_back(Name(k, Antwort));
+        for (const Knopf Antwort : Antworten(*k.Angebot)) Namen.push_back(Name(k, Antwort));
     }
     return Namen;
 }
@@ -120,7 +120,7 @@ Knopf Antworter::frage(const Frage& f) {
     const bool hindert = f.Titel == Texte::Laufzeitfehler || f.Text.find(Texte::trotzdem_sichern) != std::string::npos;
     if (laesst_los_ && ja_nein && hindert) Antwort = Knopf::Ja;
     const auto Klasse = std::find_if(Klassen.begin(), Klassen.end(), [&](const Fragenklasse& k) {
-        return f.Titel == k.Titel && f.Text.find(k.Stelle) != std::string::npos && f.Knoepfe == *k.Auswahl;
+        return f.Titel == k.Titel && f.Text.find(k.Stelle) != std::string::npos && f.Knoepfe == *k.Angebot;
     });
     if (Klasse == Klassen.end()) {
         unbekannte_ = f.Titel + ": " + f.Text;

@@ -23,7 +23,7 @@ void Studienname_zurueck(Gang& g) {
 
 void tippe_Namen(Gang& g) {
     if (!g.tue<&Feldeingabe::schliesse_ab>(true)) return;  // the focus goes over
-    const int c = g.r().unter(Anzahl_Stoffe(g.z().Felder().Berechnungsmodus));
+    const int c = g.r().unter(Anzahl_Stoffe(g.z().Vorgabe.Berechnungsmodus));
     g.tue<&Listenwahl::aendere_Namen>(c, "Name " + std::to_string(g.r().unter(5)));
     g.Name_in_Arbeit = true;
     if (g.r().einmal_von(2)) return;

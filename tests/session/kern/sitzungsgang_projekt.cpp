@@ -48,9 +48,9 @@ Eingabe zweite_Eingabe() {
     p.Kinetik[0][2] = DFOP;
     p.k_SFO[0][0] = 0.02;
     p.k2_DFOP[0][2] = 0.001;
-    p.Klimamodus = 1;
+    p.Klimamodus = nach_Klimadatei;
     p.Bodendichte = 1.2;
-    p.Einheit = 1;
+    p.Einheit = Mikrogramm;
     e.Klimaszenario = "Weather A";
     e.Applikationsmuster = unregelmaessig;
     waehle_Anzahl(e, 5);
@@ -88,12 +88,12 @@ Gangprojekt::~Gangprojekt() {
 void Gangprojekt::schreibe_Anfang() {
     const Projektordner Ordner(Wurzel_.string());
     const auto Saetze = [&](const std::string& Name, const Eingabe& e) {
-        for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) Satz_schreiben(Ordner, Name, Art, e, {});
+        for (const Satzart Art : Eingabearten) Satz_schreiben(Ordner, Name, Art, e, {});
     };
     Saetze("Alpha", Probeeingabe());
     Saetze("Beta", zweite_Eingabe());
     const fs::path Eingang = Wurzel_ / "input";
-    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) {
+    for (const Satzart Art : Eingabearten) {
         fs::copy_file(Eingang / (std::string("Alpha") + Endungen[Art]),
                       Eingang / (std::string("Do not delete this file") + Endungen[Art + 3]));
     }
@@ -163,7 +163,7 @@ void Gangprojekt::schreibe_neu(const fs::path& p, Zufall& r) {
     e.Parameter.Bodendichte = 1 + r.unter(9) / 10.0;
     e.Applikationsrate = std::to_string(100 + r.unter(900));
     e.Parameter.k_SFO[0][0] = 0.01 + r.unter(50) / 1000.0;
-    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) {
+    for (const Satzart Art : Eingabearten) {
         if (p.extension() == Endungen[Art]) schreibe(p, Satz_als_Bytes(Art, e, {}));
     }
     if (p.extension() == Klima_Endung) schreibe(p, Wetterdatei(r.unter(20)));

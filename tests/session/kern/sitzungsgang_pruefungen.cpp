@@ -21,8 +21,6 @@
 namespace varnok::gang {
 namespace {
 
-constexpr std::array alle_Arten = {Simulation, Wirkstoff, Applikation, Szenario};
-
 // A report without the lines that tell when it was made.
 std::string ohne_Zeitpunkt(const std::string& Bericht, const std::string& mit_Zeichen) {
     std::string Text;
@@ -67,7 +65,7 @@ void Gang::pruefe_Dateien(const Vorher& v) {
 // What a run makes of a table: other texts for its numbers, and less than 100 % of interception.
 std::string Gang::repariert(Eingabe e) const {
     Tabelle_mit_Applikationen_berechne_PEC(e);
-    return Satz_als_Bytes(Applikation, e, z().Sicht, z().Welt.Dezimalzeichen);
+    return Satz_als_Bytes(Applikation, e, {}, z().Welt.Dezimalzeichen);
 }
 
 // Values that no file held and that the screen does not show any more.
@@ -77,10 +75,11 @@ void Gang::pruefe_Verworfenes(const Aktionsart& a, const Vorher& v, const Dateie
     const bool andere_Simulation = z().beendet() || std::string(a.Name) == "simulation";
     for (const Satzart Art : alle_Arten) {
         const std::string& Bild = v.Bilder[Art];
-        if (!v.Saetze[Art].gelesen() || Bild.empty() || Bild == v.Saetze[Art].gespeichert()) continue;
+        if (!v.Saetze[Art].gelesen() || Bild.empty() || v.Eingaben[Art] == v.Saetze[Art].gespeichert()) continue;
         if (Art == Simulation && !andere_Simulation) continue;
         const std::string jetzt = z().Speicherbild(Art);
-        if (!z().beendet() && (jetzt == Bild || (Art == Applikation && gleiche_Zahlen(jetzt, repariert(v.Vorgabe))))) continue;
+        if (!z().beendet() && (jetzt == v.Eingaben[Art] || (Art == Applikation && gleiche_Zahlen(jetzt, repariert(v.Vorgabe)))))
+            continue;
         const bool Datei = std::any_of(nachher.begin(), nachher.end(), [&](const auto& d) { return d.second == Bild; });
         if (Datei || Projekt_.gesichert(Bild)) continue;
         // The command that led to the end chose another record before: that combination is what was unsaved.
@@ -90,7 +89,7 @@ void Gang::pruefe_Verworfenes(const Aktionsart& a, const Vorher& v, const Dateie
         if (Name.starts_with("editor") && z().Saetze[Art].gelesen() && z().Saetze[Art].Datei().Name == v.Saetze[Art].Datei().Name)
             continue;
         throw Verstoss{"unsaved values are dropped",
-                       Satzdatei(v.Saetze[Art].Datei().Name, Art) + ": " + Unterschied(Bild, jetzt)};
+                       Satzdatei(v.Saetze[Art].Datei().Name, Art) + ": " + Unterschied(v.Eingaben[Art], jetzt)};
     }
 }
 
@@ -116,7 +115,7 @@ void Gang::pruefe_Ergebnisse(const Aktionsart& a) {
         return;
     }
     const bool Hinweis = z().Hinweis();
-    if (!Hinweis && (a.Merkmale & immer) != 0 && z().Parameter().Klimamodus == 1) {
+    if (!Hinweis && (a.Merkmale & immer) != 0 && z().Parameter().Klimamodus == nach_Klimadatei) {
         const auto Datei = Stand_.find(z().Vorgabe.Klimaszenario + Klima_Endung);
         if (Datei == Stand_.end() || !z().Klima.Wert() || *z().Klima.Wert() != Datei->second)
             throw Verstoss{"results of another weather", z().Vorgabe.Klimaszenario};
@@ -168,7 +167,7 @@ void Gang::pruefe_Marken() const {
     const Dateistand& d = z().Saetze[Simulation].Datei();
     const Simulationssatz gelesen = zerlege_Simulation(d.Bytes, d.Name);
     bool andere = false;
-    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) andere = andere || z().Namen[Art] != gelesen.Dateinamen[Art];
+    for (const Satzart Art : Eingabearten) andere = andere || z().Namen[Art] != gelesen.Dateinamen[Art];
     if (andere != z().Simulation_markiert())
         throw Verstoss{"the mark of the combination", andere ? "is missing" : "stands over the combination of the file"};
 }
@@ -180,7 +179,7 @@ void Gang::pruefe_Satzbytes() const {
     Eingabe gelesene;
     gelesene.Parameter.TWA = z().Parameter().TWA;  // of the settings
     Ansicht Sicht;
-    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) {
+    for (const Satzart Art : Eingabearten) {
         std::string Bytes;
         try {
             Bytes = z().Speicherbytes(Art);
@@ -190,7 +189,7 @@ void Gang::pruefe_Satzbytes() const {
         const Lesebefund b = Satz_lesen_aus(Bytes, Endungen[Art], Art, gelesene, Sicht, '.');
         if (b.Ausgang != Leseausgang::gelesen) throw Verstoss{"what a save would write cannot be read", Endungen[Art] + b.Grund};
     }
-    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) {
+    for (const Satzart Art : Eingabearten) {
         const std::string hier = z().Speicherbytes(Art);
         const std::string dort = Satz_als_Bytes(Art, gelesene, Sicht, '.');
         if (hier != dort && !gleiche_Zahlen(hier, dort))
@@ -273,8 +272,8 @@ void Gang::pruefe_Verlauf(const Aktionsart& a, const Vorher& v) {
     if ((a.Merkmale & immer) != 0) Zelle_in_Arbeit_ = false;
     if ((a.Merkmale & (Befehl | Handlung | fremd)) == 0 && v.Vorgabe.Applikationsschema != z().Vorgabe.Applikationsschema)
         Zelle_in_Arbeit_ = true;
-    // A record was read, perhaps: where the history stands now is known once nothing is in work.
-    if ((a.Merkmale & (liest | Pruefung)) != 0) letzter_Stand_.reset();
+    // The action went through the history itself: where that stands now is known once nothing is in work.
+    if (im_Verlauf_bewegt_) letzter_Stand_.reset();
     // A cell in work is no step before a command; one that did nothing may not have ended an action.
     const bool abgeschlossen = (a.Merkmale & (Befehl | Handlung)) != 0 && !(v.Vorgabe == z().Vorgabe);
     if (letzter_Stand_ && *letzter_Stand_ == z().Vorgabe && !offen) {
@@ -292,7 +291,8 @@ void Gang::pruefe_Verlauf(const Aktionsart& a, const Vorher& v) {
         return;
     }
     const Eingabe jetzt = z().Vorgabe;
-    const int hoechstens = 1 + 2 * ausstehend_ + (v.etwas_in_Arbeit ? 2 : 0);
+    constexpr int viele = 50;  // of an action of several commands
+    const int hoechstens = (a.Merkmale & (liest | Pruefung)) != 0 ? viele : 1 + 2 * ausstehend_ + (v.etwas_in_Arbeit ? 2 : 0);
     int n = 0;
     Fragen_.beginne();
     while (n < hoechstens && !(z().Vorgabe == *letzter_Stand_) && !s_->zeige<Ruecknahme>().Name_zurueck().empty()) {

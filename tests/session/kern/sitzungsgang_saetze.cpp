@@ -27,7 +27,7 @@ void waehle_Satz(Gang& g) {
 
 void loesche(Gang& g) {
     Satzart Art = eine_Art(g);
-    for (const Satzart t : {Simulation, Wirkstoff, Applikation, Szenario}) {
+    for (const Satzart t : alle_Arten) {
         if (g.z().Listen[t].size() > viele_Saetze) Art = t;
     }
     if (g.s().zeige<Satzverwaltung>().darf_loeschen(Art)) g.tue<&Satzverwaltung::loesche>(Art);
@@ -43,11 +43,18 @@ void kopiere(Gang& g) {
     g.setze_ab(false);
     if (g.s().zeige<Satzverwaltung>().darf_kopieren(Art)) g.tue<&Satzverwaltung::kopiere>(Art);
 }
+void beginne_Umbenennen(Gang& g, Satzart Art, const std::string& Name) {
+    g.tue<&Satzumbenennung::beginne>(Art);
+    g.tue<&Satzumbenennung::aendere>(Name);
+    g.setze_offenen_Namen(Art, Name);
+}
 void benenne_um(Gang& g) {
     const Satzart Art = eine_Art(g);
     const std::string Name = g.r().eins_von(Namenstexte);
     g.sage("\"" + Name + "\"");
-    g.tue<&Satzverwaltung::benenne_um>(Art, Name, !g.r().einmal_von(4));
+    beginne_Umbenennen(g, Art, Name);
+    if (g.r().einmal_von(4)) return;  // the next command takes what stands in the box
+    if (!g.tue<&Satzumbenennung::bestaetige>(!g.r().einmal_von(4))) g.tue<&Satzumbenennung::nimm_zurueck>();
 }
 
 // With each answer, as long as there is another one.
@@ -59,7 +66,8 @@ void ersetze(Gang& g) {
         if (anderer == Liste.end()) return;
         g.sage("\"" + *anderer + "\"");
         g.Fragesteller().bestehe_auf(Antwort);
-        g.tue<&Satzverwaltung::benenne_um>(Art, *anderer, true);
+        beginne_Umbenennen(g, Art, *anderer);
+        if (!g.tue<&Satzumbenennung::bestaetige>(true)) g.tue<&Satzumbenennung::nimm_zurueck>();
     }
 }
 void loesche_mit_jeder_Antwort(Gang& g) {

@@ -30,7 +30,7 @@ protected:
         return *s_;
     }
     Sitzung& gestartete() {
-        geladene().fuehre_aus<&Programmablauf::starte>();
+        geladene().fuehre_aus<&Programmablauf::verlasse_Startseite>();
         return *s_;
     }
     void Server_bietet(const std::string& Version) { Netz_.Antworten[Ziel_.Versionsseite()] = Seite(Version); }
@@ -236,7 +236,7 @@ TEST_F(Onlinecheck, at_the_start_a_download_that_fails_is_told) {
 TEST_F(Onlinecheck, at_the_start_says_nothing_any_more_on_the_working_screen) {
     geladene();
     suche_beim_Start();
-    s_->fuehre_aus<&Programmablauf::starte>();
+    s_->fuehre_aus<&Programmablauf::verlasse_Startseite>();
     Netz_.antworte(Seite("20180922"));
     EXPECT_EQ(Handlungen_, 0);
 }

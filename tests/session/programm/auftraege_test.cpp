@@ -3,6 +3,7 @@
 
 #include <cstdlib>
 
+#include "session/kern/probesitzung.h"
 #include "session/kern/sitzung.h"
 #include "support/drehbuch.h"
 
@@ -27,7 +28,7 @@ protected:
         if (Ordner == nullptr) GTEST_SKIP() << "for the scripts that prepare a project";
         s_ = std::make_unique<Sitzung>(Umgebung{&Fragen_, Ordner, VARNOK_DATENORDNER, '.'});
         ASSERT_TRUE(s_->fuehre_aus<&Programmablauf::oeffne_Projekt>());
-        s_->fuehre_aus<&Programmablauf::starte>();
+        s_->fuehre_aus<&Programmablauf::verlasse_Startseite>();
     }
     const Zustand& z() const { return s_->Stand(); }
     // Another rate each time.
@@ -54,11 +55,11 @@ TEST_F(Auftrag, Ein_Tag) {
     s_->fuehre_aus<&Satzverwaltung::speichere>();
     s_->fuehre_aus<&Berichtssteuerung::erstelle>();
     EXPECT_NE(s_->zeige<Berichtssteuerung>().offener(), nullptr);
-    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) s_->fuehre_aus<&Satzverwaltung::kopiere>(Art);
+    for (const Satzart Art : Eingabearten) s_->fuehre_aus<&Satzverwaltung::kopiere>(Art);
     s_->fuehre_aus<&Satzverwaltung::speichere>();
     s_->fuehre_aus<&Satzverwaltung::lege_an>(Szenario);
-    s_->fuehre_aus<&Satzverwaltung::benenne_um>(Szenario, "../../outside", false);
-    s_->fuehre_aus<&Satzverwaltung::benenne_um>(Szenario, "renamed", false);
+    benenne_um(*s_, Szenario, "../../outside", false);
+    benenne_um(*s_, Szenario, "renamed", false);
     s_->fuehre_aus<&Satzverwaltung::loesche>(Szenario);
     s_->fuehre_aus<&Satzverwaltung::aktualisiere>();
     stelle_wieder_her();
@@ -82,7 +83,7 @@ TEST_F(Auftrag, Ohne_Ende) {
         s_->fuehre_aus<&Satzverwaltung::speichere>();
         s_->fuehre_aus<&Berichtssteuerung::erstelle>();
         s_->fuehre_aus<&Satzverwaltung::kopiere>(Szenario);
-        s_->fuehre_aus<&Satzverwaltung::benenne_um>(Szenario, "work " + std::to_string(Zahl_ % 3), true);
+        benenne_um(*s_, Szenario, "work " + std::to_string(Zahl_ % 3), true);
         s_->fuehre_aus<&Satzverwaltung::loesche>(Szenario);
         stelle_wieder_her();
         // No record but those of this simulation is ever saved.

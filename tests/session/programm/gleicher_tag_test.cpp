@@ -62,7 +62,7 @@ public:
     void beginne() {
         s_ = std::make_unique<Sitzung>(Umgebung{&Zuhoerer_, Wurzel_.string(), "", '.'});
         EXPECT_TRUE(s_->fuehre_aus<&Programmablauf::oeffne_Projekt>());
-        befiehl<&Programmablauf::starte>();
+        befiehl<&Programmablauf::verlasse_Startseite>();
     }
 
 protected:
@@ -136,7 +136,7 @@ const std::vector<Ein_Tag::Schritt>& Ein_Tag::Schritte() {
         {"type again", [](Ein_Tag& t) { t.gib_ein("310"); }},
         {"save", [](Ein_Tag& t) { t.befiehl<&Satzverwaltung::speichere>(); }, nur_lesbar, voll},
         {"copy", [](Ein_Tag& t) { t.befiehl<&Satzverwaltung::kopiere>(Szenario); }, nur_lesbar, voll},
-        {"rename", [](Ein_Tag& t) { t.befiehl<&Satzverwaltung::benenne_um>(Szenario, "renamed", true); }, nur_lesbar},
+        {"rename", [](Ein_Tag& t) { benenne_um(*t.s_, Szenario, "renamed", true); }, nur_lesbar},
         {"delete", [](Ein_Tag& t) { t.befiehl<&Satzverwaltung::loesche>(Szenario); }, nur_lesbar, voll},
         {"choose", [](Ein_Tag& t) { t.waehle(Szenario, "Spare"); }},
         {"new", [](Ein_Tag& t) { t.befiehl<&Satzverwaltung::lege_an>(Szenario); }, nur_lesbar, voll},

@@ -79,7 +79,7 @@ TEST_F(Nur_lesen, each_command_on_files_answers_with_one_message) {
                               +[](Sitzung& s) { s.fuehre_aus<&Satzverwaltung::lege_an>(Szenario); },
                               +[](Sitzung& s) { s.fuehre_aus<&Satzverwaltung::kopiere>(Szenario); },
                               +[](Sitzung& s) { s.fuehre_aus<&Satzverwaltung::loesche>(Szenario); },
-                              +[](Sitzung& s) { s.fuehre_aus<&Satzverwaltung::benenne_um>(Szenario, "New name", true); },
+                              +[](Sitzung& s) { benenne_um(s, Szenario, "New name", true); },
                               +[](Sitzung& s) { s.fuehre_aus<&Satzverwaltung::lade_Voreinstellungen>(); }}) {
         erwarte_eine_Meldung();
         Befehl(*s_);
@@ -121,7 +121,7 @@ TEST_F(Nur_lesen, options_are_taken_and_the_settings_stay) {
     Optionsentwurf Optionen = s_->fuehre_aus<&Optionensteuerung::oeffne>();
     ASSERT_EQ(Optionen.Tips_anzeigen, 1);
     Optionen.Tips_anzeigen = 0;
-    Optionen.Einheit = 1;
+    Optionen.Einheit = Mikrogramm;
     EXPECT_TRUE(s_->fuehre_aus<&Optionensteuerung::uebernimm>(Optionen));
     erwarte_eine_Meldung();
     Fragen_.erwarte_Anfang("Tooltips", "The tooltips will be switched off");

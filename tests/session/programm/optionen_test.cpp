@@ -13,9 +13,9 @@ namespace varnok {
 namespace {
 
 TEST_F(Optionsprobe, are_shown_as_they_are) {
-    Parameter_.Einheit = 1;
-    Parameter_.Separate_Rueckstaende = 2;
-    Parameter_.TWA_Zeiten = 0;
+    Parameter_.Einheit = Mikrogramm;
+    Parameter_.Separate_Rueckstaende = im_Jahr_getrennt;
+    Parameter_.TWA_Zeiten = Monatsliste;
     Parameter_.Ausgabename_Teile = {1, 0, 1, 0, 0, 1, 1};
     schreibe_Probe();
     Einstellungen e;
@@ -67,7 +67,7 @@ TEST_F(Optionsprobe, in_the_summary_view_run_all_studies_and_stay_there) {
     gestartet();
     s_->fuehre_aus<&Listenwahl::zeige_Zusammenfassung>();
     const int Zeichnung = s_->zeige<Diagrammsteuerung>().Zeichnung();
-    bestaetige([](Optionsentwurf& o) { o.Einheit = 1; });
+    bestaetige([](Optionsentwurf& o) { o.Einheit = Mikrogramm; });
     EXPECT_TRUE(s_->Stand().Zusammenfassung_aktiv());
     EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Zeichnung + 1);
     EXPECT_FLOAT_EQ(Maximum(0), 1333.3334F);
@@ -79,7 +79,7 @@ TEST_F(Optionsprobe, the_unit_multiplies_by_a_thousand_and_goes_with_the_compoun
     ASSERT_FLOAT_EQ(Maximum(), 1.3333334F);  // 1000 g/ha in 5 cm of 1.5 kg/L
     const std::string vorher = Datei("input/Probe.che");
     const std::string Einstellung = Datei("VARNOK.ini");
-    bestaetige([](Optionsentwurf& o) { o.Einheit = 1; });
+    bestaetige([](Optionsentwurf& o) { o.Einheit = Mikrogramm; });
     EXPECT_FLOAT_EQ(Maximum(), 1333.3334F);
     EXPECT_TRUE(s_->Stand().Saetze[Wirkstoff].Geaendert());
     EXPECT_FALSE(s_->Stand().Hinweis());
@@ -91,7 +91,7 @@ TEST_F(Optionsprobe, the_unit_multiplies_by_a_thousand_and_goes_with_the_compoun
 
 TEST_F(Optionsprobe, a_changed_unit_is_asked_about_at_the_end) {
     gestartet();
-    bestaetige([](Optionsentwurf& o) { o.Einheit = 1; });
+    bestaetige([](Optionsentwurf& o) { o.Einheit = Mikrogramm; });
     Fragen_.erwarte("Save changes?",
                     "You modified pesticide input data!  Do you want to save the changes in your data base?\n'Probe'", Knopf::Ja);
     s_->fuehre_aus<&Programmablauf::beende>();
@@ -108,12 +108,12 @@ TEST_F(Optionsprobe, separate_residues_of_slowing_kinetics_last_longer) {
     schreibe_Probe();
     gestartet();
     const auto letzter = [&] { return Werte().Werte(Gesamtgehalt, 0).Reihe_Plateautiefe[3640]; };
-    bestaetige([](Optionsentwurf& o) { o.Separate_Rueckstaende = 2; });
+    bestaetige([](Optionsentwurf& o) { o.Separate_Rueckstaende = im_Jahr_getrennt; });
     const float innerhalb_des_Jahres = letzter();
     EXPECT_TRUE(s_->Stand().Saetze[Wirkstoff].Geaendert());
-    bestaetige([](Optionsentwurf& o) { o.Separate_Rueckstaende = 0; });
+    bestaetige([](Optionsentwurf& o) { o.Separate_Rueckstaende = gemeinsam; });
     const float zusammen = letzter();
-    bestaetige([](Optionsentwurf& o) { o.Separate_Rueckstaende = 1; });
+    bestaetige([](Optionsentwurf& o) { o.Separate_Rueckstaende = getrennt; });
     const float getrennt = letzter();
     EXPECT_GT(getrennt, 1.5F * zusammen);
     EXPECT_FLOAT_EQ(innerhalb_des_Jahres, zusammen);
@@ -125,7 +125,7 @@ TEST_F(Optionsprobe, the_monthly_list_brings_its_windows_its_rows_and_its_first_
     gestartet();
     ASSERT_EQ(Ergebnisse_einer_Studie(s_->Stand(), 0).size(), 13U);
     s_->fuehre_aus<&Listenwahl::waehle_TWA_Laenge>(2);
-    bestaetige([](Optionsentwurf& o) { o.TWA_Zeiten = 0; });
+    bestaetige([](Optionsentwurf& o) { o.TWA_Zeiten = Monatsliste; });
     EXPECT_EQ(Ergebnisse_einer_Studie(s_->Stand(), 0).size(), 15U);
     EXPECT_EQ(s_->zeige<Listenwahl>().TWA_Laengen().size(), 12U);
     EXPECT_EQ(s_->zeige<Listenwahl>().TWA_Laengen().front(), "TWA (30 d)");
@@ -135,7 +135,7 @@ TEST_F(Optionsprobe, the_monthly_list_brings_its_windows_its_rows_and_its_first_
     EXPECT_FALSE(s_->Stand().Hinweis());
     // The mean of 30 days from the peak on, with k = 0.01: c (1 - exp(-0.3)) / 0.3.
     EXPECT_NEAR(Werte().Werte(Gesamtgehalt, 0).TWA[0].Maximum, 1.3333334 * (1 - std::exp(-0.3)) / 0.3, 1e-4);
-    bestaetige([](Optionsentwurf& o) { o.TWA_Zeiten = 1; });
+    bestaetige([](Optionsentwurf& o) { o.TWA_Zeiten = EU_Liste; });
     EXPECT_EQ(Ergebnisse_einer_Studie(s_->Stand(), 0).size(), 13U);
     EXPECT_EQ(s_->zeige<Listenwahl>().TWA_Laengen().size(), 10U);
     EXPECT_EQ(s_->Stand().Sicht.TWA_Laenge, 6);  // 28 days
@@ -145,14 +145,14 @@ TEST_F(Optionsprobe, the_monthly_list_brings_its_windows_its_rows_and_its_first_
 
 TEST_F(Optionsprobe, the_list_of_a_compound_record_comes_with_it) {
     Eingabe e = Felder_;
-    e.Parameter.TWA_Zeiten = 0;
+    e.Parameter.TWA_Zeiten = Monatsliste;
     Satz_schreiben(Projektordner(Wurzel_.string()), "Monthly", Wirkstoff, e, Sicht_);
     gestartet();
     s_->fuehre_aus<&Satzverwaltung::waehle_Satz>(Wirkstoff, 0);
     ASSERT_EQ(s_->Stand().gewaehlt(Wirkstoff), "Monthly");
     EXPECT_EQ(s_->zeige<Listenwahl>().TWA_Laengen().size(), 12U);
     EXPECT_EQ(s_->Stand().Sicht.TWA_Laenge, 0);
-    EXPECT_EQ(s_->fuehre_aus<&Optionensteuerung::oeffne>().TWA_Zeiten, 0);
+    EXPECT_EQ(s_->fuehre_aus<&Optionensteuerung::oeffne>().TWA_Zeiten, Monatsliste);
 }
 
 TEST_F(Optionsprobe, the_parts_of_the_name_mark_the_compound_and_make_the_name) {
@@ -212,7 +212,7 @@ TEST_F(Optionsprobe, settings_that_cannot_be_written_are_told_and_the_run_follow
         .erwarte("Tooltips", "The tooltips will be switched off when you exit VARNOK and call it again!");
     bestaetige([](Optionsentwurf& o) {
         o.Tips_anzeigen = 0;
-        o.Einheit = 1;
+        o.Einheit = Mikrogramm;
     });
     EXPECT_FLOAT_EQ(Maximum(), 1333.3334F);
     EXPECT_FALSE(s_->Stand().abgedeckt());
@@ -233,7 +233,7 @@ TEST_F(Optionsprobe, a_run_that_fails_leaves_the_results_covered_and_the_hint_on
         Fragen_.erwarte("No valid input!", "The sequence of application dates that is not valid. Please correct!");
     }
     gestartet();
-    bestaetige([](Optionsentwurf& o) { o.Einheit = 1; });
+    bestaetige([](Optionsentwurf& o) { o.Einheit = Mikrogramm; });
     EXPECT_TRUE(s_->Stand().abgedeckt());
     EXPECT_TRUE(s_->Stand().Hinweis());
 }
@@ -244,10 +244,10 @@ TEST_F(Optionsprobe, with_a_record_missing_stay_covered_without_a_word) {
     std::filesystem::last_write_time(Wurzel_ / "input/Torn.vnk",
                                      std::filesystem::last_write_time(Wurzel_ / "input/Probe.vnk") - std::chrono::hours(1));
     nur_geladen();
-    s_->fuehre_aus<&Programmablauf::starte>();
+    s_->fuehre_aus<&Programmablauf::verlasse_Startseite>();
     s_->fuehre_aus<&Satzverwaltung::waehle_Simulation>(1);
     ASSERT_TRUE(s_->Stand().abgedeckt());
-    bestaetige([](Optionsentwurf& o) { o.Einheit = 1; });
+    bestaetige([](Optionsentwurf& o) { o.Einheit = Mikrogramm; });
     EXPECT_TRUE(s_->Stand().abgedeckt());
 }
 

@@ -25,7 +25,7 @@ protected:
         };
         s_ = std::make_unique<Sitzung>(Welt);
         EXPECT_TRUE(s_->fuehre_aus<&Programmablauf::oeffne_Projekt>());
-        s_->fuehre_aus<&Programmablauf::starte>();
+        s_->fuehre_aus<&Programmablauf::verlasse_Startseite>();
         s_->fuehre_aus<&Projektoeffnung::merke>();
         return *s_;
     }
@@ -78,7 +78,7 @@ TEST_F(Oeffnung, simulation_of_this_project_is_loaded_here_also_one_that_came_la
     oeffne(lege_Simulation_an("Later"));
     EXPECT_TRUE(Fenster_.empty());
     EXPECT_EQ(s_->Stand().gewaehlt(Simulation), "Later");
-    EXPECT_EQ(s_->Stand().Felder().Beschreibung, "Of Later");
+    EXPECT_EQ(s_->Stand().Vorgabe.Beschreibung, "Of Later");
     EXPECT_FALSE(s_->Stand().Hinweis());
 }
 

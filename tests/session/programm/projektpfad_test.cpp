@@ -78,11 +78,11 @@ TEST_F(Projektpfad, output_goes_to_the_new_project_at_once) {
 TEST_F(Projektpfad, records_climate_and_backup_stay_with_the_old_project) {
     gestartet();
     Eingabe e = Felder_;
-    e.Parameter.Klimamodus = 1;
+    e.Parameter.Klimamodus = nach_Klimadatei;
     e.Klimaszenario = "Temperate site";
     std::filesystem::copy(std::filesystem::path(VARNOK_DATENORDNER) / "input/Temperate site.cli", Wurzel_ / "input");
     Satz_schreiben(Projektordner(Wurzel_.string()), "Weather", Szenario, e, Sicht_);
-    nur_geladen().fuehre_aus<&Programmablauf::starte>();
+    nur_geladen().fuehre_aus<&Programmablauf::verlasse_Startseite>();
     waehle_Projekt("new");
     s_->fuehre_aus<&Satzverwaltung::waehle_Satz>(Szenario, 1);
     EXPECT_EQ(s_->Stand().gewaehlt(Szenario), "Weather");
@@ -122,13 +122,13 @@ TEST_F(Projektpfad, what_is_no_folder_is_refused_and_nothing_is_changed) {
     const std::string hier = Wurzel_.string() + "/";
     for (const std::string& Pfad : {hier + "no such folder", hier + "input/Probe.che", std::string()}) {
         Optionsentwurf o = s_->fuehre_aus<&Optionensteuerung::oeffne>();
-        o.Einheit = 1;
+        o.Einheit = Mikrogramm;
         o.Projektpfad = Pfad;
         Fragen_.erwarte("Project path", "There is no folder \"" + Pfad + "\".");
         EXPECT_FALSE(s_->fuehre_aus<&Optionensteuerung::uebernimm>(o));
         s_->fuehre_aus<&Optionensteuerung::schliesse>();
     }
-    EXPECT_EQ(s_->Stand().Parameter().Einheit, 0);
+    EXPECT_EQ(s_->Stand().Parameter().Einheit, Milligramm);
     EXPECT_EQ(s_->Stand().Projektpfad, Wurzel_.string());
     EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Zeichnung);
 }

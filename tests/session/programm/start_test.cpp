@@ -91,7 +91,7 @@ TEST_F(Start, with_a_missing_record_and_others_to_choose_is_covered_and_says_whi
 
 TEST_F(Start, after_a_rename_and_the_close_box_works_and_says_what_it_misses) {
     gestartet();
-    ASSERT_TRUE(s_->fuehre_aus<&Satzverwaltung::benenne_um>(Wirkstoff, "Renamed", true));
+    ASSERT_TRUE(benenne_um(*s_, Wirkstoff, "Renamed", true));
     ASSERT_TRUE(s_->fuehre_aus<&Programmablauf::schliesse_Fenster>());
     EXPECT_TRUE(gibt_es("backup"));  // the combination that no file holds
     gestartet();
@@ -113,7 +113,7 @@ TEST_F(Start, with_a_short_summary_tells_and_takes_the_next_newest) {
     const auto spaeter = std::filesystem::last_write_time(Wurzel_ / "input/Probe.vnk") + std::chrono::seconds(5);
     std::filesystem::last_write_time(Wurzel_ / "input/Torn.vnk", spaeter);
     Fragen_.erwarte("Runtime error", "File Torn.vnk, line 2: the file ends before the name of the compound record");
-    EXPECT_EQ(nur_geladen().Stand().Namen[0], "Probe");
+    EXPECT_EQ(nur_geladen().Stand().Namen[Simulation], "Probe");
 }
 
 TEST_F(Start, before_ok_nothing_is_computed) {
@@ -150,7 +150,7 @@ TEST_F(Start, ok_makes_the_first_run_and_leaves_no_mark) {
 TEST_F(Start, shows_the_scheme_of_the_record) {
     Felder_.Berechnungsmodus = zwei_parallel;
     schreibe_Probe();
-    EXPECT_EQ(nur_geladen().Stand().Felder().Berechnungsmodus, 2);
+    EXPECT_EQ(nur_geladen().Stand().Vorgabe.Berechnungsmodus, 2);
 }
 
 }  // namespace

@@ -48,13 +48,13 @@ const std::vector<Befehl> Befehle = {
      }},
     {"deletion_with_unsaved_values", tippe_Namen, [](Sitzung& s, Drehbuch& d) { loesche(s, d, Wirkstoff); }},
     {"deletion_of_a_simulation", nichts, [](Sitzung& s, Drehbuch& d) { loesche(s, d, Simulation); }},
-    {"rename", nichts, [](Sitzung& s, Drehbuch&) { s.fuehre_aus<&Satzverwaltung::benenne_um>(Szenario, "Other", true); }},
+    {"rename", nichts, [](Sitzung& s, Drehbuch&) { benenne_um(s, Szenario, "Other", true); }},
     {"rename_to_another_case", nichts,
-     [](Sitzung& s, Drehbuch&) { s.fuehre_aus<&Satzverwaltung::benenne_um>(Szenario, "PROBE", true); }},
+     [](Sitzung& s, Drehbuch&) { benenne_um(s, Szenario, "PROBE", true); }},
     {"rename_over_a_record_in_another_case", nichts,
      [](Sitzung& s, Drehbuch& d) {
          erwarte_Ja(d, "Replace existing record?");
-         s.fuehre_aus<&Satzverwaltung::benenne_um>(Szenario, "SECOND", true);
+         benenne_um(s, Szenario, "SECOND", true);
      }},
     {"save", tippe_Namen, [](Sitzung& s, Drehbuch&) { s.fuehre_aus<&Satzverwaltung::speichere>(); }, true},
     {"choice_with_yes", tippe_Namen,
@@ -84,7 +84,7 @@ class Abbruch : public Befehlsprobe, public ::testing::WithParamInterface<Befehl
 protected:
     // No two files hold the same: what is lost cannot hide behind another one.
     Abbruch() {
-        for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) {
+        for (const Satzart Art : Eingabearten) {
             schreibe_eigenen(std::string("Probe") + Endungen[Art], Art, "101");
             schreibe_eigenen(std::string("Second") + Endungen[Art], Art, "102");
             schreibe_eigenen(std::string("Do not delete this file") + Endungen[Art + 3], Art, "103");
@@ -128,7 +128,7 @@ protected:
     // Each record holds the bytes of before or those of after the command; nothing half written carries the name of one.
     void erwarte_ganze_Saetze(const Dateien& danach) const {
         const Dateien jetzt = lies("input");
-        for (const Satzart Art : {Simulation, Wirkstoff, Applikation, Szenario}) {
+        for (const Satzart Art : alle_Arten) {
             for (const std::string& Name : auf_Platte(Art)) {
                 const std::string& Bytes = jetzt.at(Name + Endungen[Art]);
                 const bool ganz = haelt(Gegenstand_, Name + Endungen[Art], Bytes) || haelt(danach, Name + Endungen[Art], Bytes);
@@ -161,7 +161,7 @@ protected:
 
     void lege_Weiteres_an() {
         schreibe_Datei((Wurzel_ / "input/copy of Probe.app").string(), "an older copy");
-        for (const Satzart Art : {Simulation, Wirkstoff, Applikation, Szenario}) {
+        for (const Satzart Art : alle_Arten) {
             const std::string Name = std::string("Programcheck") + Endungen[Art];
             schreibe_Datei((Wurzel_ / "input" / Name).string(), "the user's own " + Name);
         }

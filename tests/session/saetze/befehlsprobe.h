@@ -26,7 +26,7 @@ protected:
         const auto Pfad = Wurzel_ / "input/Second.vnk";
         const auto Stempel = std::filesystem::last_write_time(Wurzel_ / "input/Probe.vnk");
         std::filesystem::last_write_time(Pfad, Stempel - std::chrono::hours(1));
-        for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) {
+        for (const Satzart Art : Eingabearten) {
             const std::string Vorlage = std::string("input/Do not delete this file") + Endungen[Art + 3];
             std::filesystem::copy_file(Wurzel_ / "input" / (std::string("Second") + Endungen[Art]), Wurzel_ / Vorlage);
         }

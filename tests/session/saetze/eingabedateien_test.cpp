@@ -79,7 +79,7 @@ TEST_F(Dateidialogprobe, saving_writes_three_names_and_the_records) {
     EXPECT_EQ(Datei("input/Probe.vnk"), "A trial\r\nProbe\r\nProbe\r\nProbe\r\n");
     EXPECT_EQ(s_->Stand().gewaehlt(Simulation), "Other");
     EXPECT_FALSE(s_->Stand().Simulation_markiert());
-    for (std::size_t t = 1; t <= 3; ++t) EXPECT_FALSE(s_->Stand().Saetze[t].Geaendert());
+    for (const Satzart t : Eingabearten) EXPECT_FALSE(s_->Stand().Saetze[t].Geaendert());
     Eingabe e;
     Ansicht a;
     Satz_lesen(Projektordner(Wurzel_.string()), "Probe", Wirkstoff, e, a);

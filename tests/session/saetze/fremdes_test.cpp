@@ -29,7 +29,7 @@ TEST_F(Fremdes, a_changed_record_is_told_at_refresh_and_the_values_stay) {
     aendere_von_aussen("Probe.che");
     s_->fuehre_aus<&Satzverwaltung::aktualisiere>();
     EXPECT_EQ(z().Statuszeile.Text(), "\"Probe.che\" was changed by another program since it was read.");
-    EXPECT_EQ(z().Felder().Name_Wirkstoff, "Parent P");
+    EXPECT_EQ(z().Vorgabe.Name_Wirkstoff, "Parent P");
     EXPECT_FALSE(z().abgedeckt());
 }
 
@@ -63,7 +63,7 @@ TEST_F(Fremdes, a_copy_of_a_changed_record_is_theirs_and_is_not_saved_over_unask
 TEST_F(Fremdes, a_changed_record_that_got_another_name_is_not_saved_over_unasked) {
     gestartet();
     aendere_von_aussen("Probe.che");
-    s_->fuehre_aus<&Satzverwaltung::benenne_um>(Wirkstoff, "Renamed", true);
+    benenne_um(*s_, Wirkstoff, "Renamed", true);
     EXPECT_TRUE(Status_nennt("\"Probe.che\" was changed by another program"));
     erwarte_Ersatzfrage("Renamed.che", Knopf::Nein);
     s_->fuehre_aus<&Satzverwaltung::speichere>();
@@ -213,7 +213,7 @@ TEST_F(Fremdes, exit_stays_where_its_save_was_refused) {
     erwarte_Ersatzfrage("Probe.che", Knopf::Nein);
     s_->fuehre_aus<&Programmablauf::beende>();
     EXPECT_FALSE(z().beendet());
-    EXPECT_TRUE(z().Saetze[1].Geaendert());
+    EXPECT_TRUE(z().Saetze[Wirkstoff].Geaendert());
 }
 
 TEST_F(Fremdes, a_record_that_cannot_be_read_is_not_replaced_and_nothing_else_is_written) {
@@ -225,7 +225,7 @@ TEST_F(Fremdes, a_record_that_cannot_be_read_is_not_replaced_and_nothing_else_is
     Fragen_.erwarte("Runtime error", "Cannot read the file \"" + Pfad("Probe.sce") + "\": it is a folder");
     s_->fuehre_aus<&Satzverwaltung::speichere>();
     EXPECT_EQ(Datei("input/Probe.che"), Wirkstoffdatei);
-    EXPECT_TRUE(z().Saetze[1].Geaendert());
+    EXPECT_TRUE(z().Saetze[Wirkstoff].Geaendert());
 }
 
 class ZweitesFenster : public Fremdes {
@@ -269,11 +269,11 @@ TEST_F(ZweitesFenster, stays_open_where_the_save_at_exit_was_refused) {
     erwarte_Fensterfrage(Knopf::Nein);
     s_->fuehre_aus<&Programmablauf::beende>();
     EXPECT_FALSE(z().beendet());
-    EXPECT_TRUE(z().Saetze[1].Geaendert());
+    EXPECT_TRUE(z().Saetze[Wirkstoff].Geaendert());
 }
 
 TEST_F(ZweitesFenster, sees_what_the_first_one_saved) {
-    erstes_.fuehre_aus<&Programmablauf::starte>();
+    erstes_.fuehre_aus<&Programmablauf::verlasse_Startseite>();
     erstes_.fuehre_aus<&Listenwahl::aendere_Namen>(0, "Saved by the first");
     erstes_.fuehre_aus<&Satzverwaltung::speichere>();
     erwarte_Fensterfrage(Knopf::Ja);

@@ -62,7 +62,7 @@ TEST_F(Linksprobe, rename_over_one_replaces_the_link) {
     fs::create_symlink(fremd_ / "Other.sce", Wurzel_ / "input/Other.sce");
     gestartet();
     Fragen_.erwarte_Anfang("Replace existing record?", "The record", Knopf::Ja);
-    EXPECT_TRUE(s_->fuehre_aus<&Satzverwaltung::benenne_um>(Szenario, "Other", true));
+    EXPECT_TRUE(benenne_um(*s_, Szenario, "Other", true));
     EXPECT_FALSE(fs::is_symlink(Wurzel_ / "input/Other.sce"));
     EXPECT_EQ(lies(fremd_ / "Other.sce"), "mine");
 }

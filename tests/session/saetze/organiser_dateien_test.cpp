@@ -20,9 +20,9 @@ TEST_F(Organiserdateien, a_copied_record_is_selected_and_counts_as_chosen) {
     kopiere(Wirkstoff);
     erwartet["copy of Probe.che"] = erwartet["Probe.che"];
     EXPECT_EQ(Dateien(), erwartet);
-    EXPECT_EQ(o().Listen().Listen[1], (Liste{"copy of Probe", "Probe", "Second"}));
+    EXPECT_EQ(o().Listen().Listen[Wirkstoff], (Liste{"copy of Probe", "Probe", "Second"}));
     EXPECT_EQ(gewaehlt(Wirkstoff), "copy of Probe");
-    EXPECT_EQ(z().Listen[1], (Liste{"Probe", "Second"}));
+    EXPECT_EQ(z().Listen[Wirkstoff], (Liste{"Probe", "Second"}));
     EXPECT_TRUE(fertig());
     EXPECT_EQ(Datei("input/Probe.vnk"), Zeilen("A trial", "copy of Probe", "Probe", "Probe"));
     EXPECT_EQ(z().gewaehlt(Wirkstoff), "copy of Probe");
@@ -39,7 +39,7 @@ TEST_F(Organiserdateien, a_copied_simulation_is_read_into_the_dialog) {
     kopiere(Simulation);
     EXPECT_EQ(gewaehlt(Simulation), "copy of Second");
     EXPECT_EQ(o().Projektname(), "The second one");
-    EXPECT_EQ(Maske().Beschreibung, "The second one");
+    EXPECT_EQ(s_->zeige<Organiser>().gezeigte_Beschreibung(), "The second one");
     EXPECT_EQ(gewaehlt(Wirkstoff), "Second");
     EXPECT_TRUE(fertig());
     EXPECT_EQ(z().gewaehlt(Simulation), "copy of Second");
@@ -53,8 +53,8 @@ TEST_F(Organiserdateien, a_copy_stays_on_the_disk_after_closing_and_the_main_scr
     schliesse();
     EXPECT_TRUE(gibt_es("input/copy of Probe.sce"));
     EXPECT_TRUE(gibt_es("input/copy of Probe.vnk"));
-    EXPECT_EQ(z().Listen[3], (Liste{"Probe", "Second"}));
-    EXPECT_EQ(z().Listen[0], (Liste{"Probe", "Second", "Torn"}));
+    EXPECT_EQ(z().Listen[Szenario], (Liste{"Probe", "Second"}));
+    EXPECT_EQ(z().Listen[Simulation], (Liste{"Probe", "Second", "Torn"}));
     EXPECT_EQ(Maske().Beschreibung, "A trial");
     EXPECT_FALSE(z().abgedeckt());
 }
@@ -71,7 +71,7 @@ TEST_F(Organiserdateien, a_copy_over_an_existing_file_asks_and_keeps_what_it_rep
     Fragen_.erwarte("Replace existing record?", Text, Knopf::Ja);
     kopiere(Applikation);
     EXPECT_EQ(gewaehlt(Applikation), "copy of Probe");
-    EXPECT_EQ(o().Listen().Listen[2], (Liste{"copy of Probe", "Probe", "Second"}));
+    EXPECT_EQ(o().Listen().Listen[Applikation], (Liste{"copy of Probe", "Probe", "Second"}));
     EXPECT_EQ(Datei("input/copy of Probe.app"), Datei("input/Probe.app"));
     EXPECT_EQ(Gesichertes().at("copy of Probe.app"), "something else");
 }
@@ -90,7 +90,7 @@ TEST_F(Organiserdateien, a_copy_over_the_record_on_the_screen_leaves_its_values_
     EXPECT_EQ(Gesichertes().count("unsaved copy of Second.che"), 1U);
     schliesse();
     EXPECT_TRUE(z().abgedeckt());
-    EXPECT_FALSE(z().Saetze[1].Geaendert());
+    EXPECT_FALSE(z().Saetze[Wirkstoff].Geaendert());
     s_->fuehre_aus<&Satzverwaltung::speichere>();  // writes no file of a record that was not read
     EXPECT_EQ(Datei("input/copy of Second.che"), Datei("input/Second.che"));
     s_->fuehre_aus<&Satzverwaltung::aktualisiere>();
@@ -117,7 +117,7 @@ TEST_F(Organiserdateien, the_entry_that_moves_up_after_a_deletion_counts_as_chos
     EXPECT_EQ(Gesichertes().at("Probe.sce"), erwartet["Probe.sce"]);
     erwartet.erase("Probe.sce");
     EXPECT_EQ(Dateien(), erwartet);
-    EXPECT_EQ(o().Listen().Listen[3], Liste{"Second"});
+    EXPECT_EQ(o().Listen().Listen[Szenario], Liste{"Second"});
     EXPECT_EQ(gewaehlt(Szenario), "Second");
     EXPECT_TRUE(fertig());
     EXPECT_EQ(z().Parameter().Bodendichte, 3);
@@ -143,7 +143,7 @@ TEST_F(Organiserdateien, a_neighbour_that_cannot_be_read_takes_nothing_from_the_
     tue<&Organiser::loesche>(Simulation);
     EXPECT_EQ(gewaehlt(Simulation), "Torn");
     EXPECT_EQ(o().Projektname(), "");
-    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) EXPECT_EQ(gewaehlt(Art), "");
+    for (const Satzart Art : Eingabearten) EXPECT_EQ(gewaehlt(Art), "");
 }
 
 TEST_F(Organiserdateien, the_last_record_of_a_kind_cannot_be_deleted) {
@@ -170,7 +170,7 @@ TEST_F(Organiserdateien, deleting_the_simulation_of_the_main_screen_loads_its_ne
     EXPECT_EQ(o().Projektname(), "The second one");
     EXPECT_TRUE(fertig());
     EXPECT_FALSE(gibt_es("input/Probe.vnk"));
-    EXPECT_EQ(z().Listen[0], (Liste{"Second", "Torn"}));
+    EXPECT_EQ(z().Listen[Simulation], (Liste{"Second", "Torn"}));
     EXPECT_EQ(z().gewaehlt(Simulation), "Second");
     EXPECT_EQ(Datei("input/Second.vnk"), Nachbar);
     EXPECT_EQ(Maske().Name_Wirkstoff, "Other parent");
@@ -185,8 +185,8 @@ TEST_F(Organiserdateien, after_deleting_a_record_on_the_screen_and_closing_it_is
     waehle(Wirkstoff, "Probe");
     loesche(Wirkstoff);
     schliesse();
-    EXPECT_EQ(z().Listen[1], Liste{"Second"});
-    EXPECT_EQ(z().Auswahl(1), -1);
+    EXPECT_EQ(z().Listen[Wirkstoff], Liste{"Second"});
+    EXPECT_EQ(z().Auswahl(Wirkstoff), -1);
     EXPECT_TRUE(z().abgedeckt());
     EXPECT_EQ(z().Abdeckungswort(), "Record deleted: choose or refresh");
     EXPECT_EQ(Gesichertes().count("unsaved Probe.che"), 1U);
@@ -202,8 +202,8 @@ TEST_F(Organiserdateien, after_deleting_the_simulation_and_closing_saving_and_le
     oeffne();
     loesche(Simulation);
     schliesse();
-    EXPECT_EQ(z().Listen[0], (Liste{"Second", "Torn"}));
-    EXPECT_EQ(z().Auswahl(0), -1);
+    EXPECT_EQ(z().Listen[Simulation], (Liste{"Second", "Torn"}));
+    EXPECT_EQ(z().Auswahl(Simulation), -1);
     EXPECT_TRUE(z().abgedeckt());
     EXPECT_EQ(Maske().Beschreibung, "A trial");
     const auto vorher = Dateien();
@@ -217,7 +217,7 @@ TEST_F(Organiserdateien, deleting_what_the_main_screen_does_not_show_leaves_its_
     waehle(Wirkstoff, "Second");
     loesche(Wirkstoff);
     schliesse();
-    EXPECT_EQ(z().Listen[1], Liste{"Probe"});
+    EXPECT_EQ(z().Listen[Wirkstoff], Liste{"Probe"});
     EXPECT_EQ(z().gewaehlt(Wirkstoff), "Probe");
     EXPECT_FALSE(z().abgedeckt());
 }
@@ -231,16 +231,16 @@ TEST_F(Organiserdateien, a_renamed_record_alone_is_written_into_the_summary_and_
     oeffne();
     auto erwartet = Dateien();
     EXPECT_TRUE(benenne_um(Wirkstoff, "Better name"));
-    EXPECT_EQ(o().Listen().Listen[1], (Liste{"Better name", "Second"}));
+    EXPECT_EQ(o().Listen().Listen[Wirkstoff], (Liste{"Better name", "Second"}));
     EXPECT_TRUE(fertig());
     erwartet["Better name.che"] = erwartet["Probe.che"];
     erwartet.erase("Probe.che");
     erwartet["Probe.vnk"] = Zeilen("A trial", "Better name", "Probe", "Probe");
     EXPECT_EQ(Dateien(), erwartet);
     EXPECT_EQ(z().gewaehlt(Wirkstoff), "Better name");
-    EXPECT_EQ(z().Namen[1], "Better name");
+    EXPECT_EQ(z().Namen[Wirkstoff], "Better name");
     EXPECT_EQ(s_->zeige<Feldeingabe>().Text(Feld("S_DT50_0")), "12");
-    EXPECT_TRUE(z().Saetze[1].Geaendert());
+    EXPECT_TRUE(z().Saetze[Wirkstoff].Geaendert());
     EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Zeichnung);
     EXPECT_TRUE(Gesichertes().empty());
     EXPECT_FALSE(z().Simulation_markiert());
@@ -276,12 +276,12 @@ TEST_F(Organiserdateien, after_a_rename_and_closing_the_main_screen_has_the_new_
     EXPECT_TRUE(benenne_um(Szenario, "Better name"));
     EXPECT_TRUE(benenne_um(Simulation, "Zebra"));
     schliesse();
-    EXPECT_EQ(z().Listen[3], (Liste{"Better name", "Second"}));
+    EXPECT_EQ(z().Listen[Szenario], (Liste{"Better name", "Second"}));
     EXPECT_EQ(z().gewaehlt(Szenario), "Better name");
-    EXPECT_EQ(z().Listen[0], (Liste{"Second", "Torn", "Zebra"}));
+    EXPECT_EQ(z().Listen[Simulation], (Liste{"Second", "Torn", "Zebra"}));
     EXPECT_EQ(z().gewaehlt(Simulation), "Zebra");
     EXPECT_EQ(Datei("input/Zebra.vnk"), Zusammenfassung);
-    EXPECT_TRUE(z().Saetze[0].Geaendert());
+    EXPECT_TRUE(z().Saetze[Simulation].Geaendert());
     EXPECT_TRUE(z().Simulation_markiert());
     EXPECT_FALSE(z().abgedeckt());
 }
@@ -319,7 +319,7 @@ TEST_F(Organiserdateien, a_name_that_is_taken_is_asked_about_with_enter) {
     EXPECT_EQ(gewaehlt(Wirkstoff), "Probe");
     Fragen_.erwarte("Replace existing record?", Text, Knopf::Ja);
     EXPECT_TRUE(benenne_um(Wirkstoff, "Second"));
-    EXPECT_EQ(o().Listen().Listen[1], Liste{"Second"});
+    EXPECT_EQ(o().Listen().Listen[Wirkstoff], Liste{"Second"});
     EXPECT_EQ(Datei("input/Second.che"), vorher.at("Probe.che"));
     EXPECT_EQ(Gesichertes().at("Second.che"), vorher.at("Second.che"));
     EXPECT_TRUE(fertig());
@@ -353,7 +353,7 @@ TEST_F(Organiserdateien, a_rename_over_the_record_on_the_screen_leaves_its_value
     Fragen_.erwarte("Replace existing record?", "The record ' Probe ' already exists. Do you want to replace it?", Knopf::Ja);
     EXPECT_TRUE(benenne_um(Wirkstoff, "Probe"));
     schliesse();
-    EXPECT_EQ(z().Listen[1], Liste{"Probe"});
+    EXPECT_EQ(z().Listen[Wirkstoff], Liste{"Probe"});
     EXPECT_EQ(z().gewaehlt(Wirkstoff), "Probe");
     EXPECT_TRUE(z().abgedeckt());
     EXPECT_EQ(Maske().Name_Wirkstoff, "Parent P");

@@ -35,7 +35,7 @@ TEST_F(Organiserfremde, a_record_that_another_program_took_away_is_told_and_lose
     const auto vorher = Dateien();
     Fragen_.erwarte_Anfang("Runtime error", "File Second.che is missing in the folder");
     EXPECT_FALSE(fertig());
-    EXPECT_EQ(o().Listen().Listen[1], Liste{"Probe"});
+    EXPECT_EQ(o().Listen().Listen[Wirkstoff], Liste{"Probe"});
     EXPECT_EQ(gewaehlt(Wirkstoff), "");
     EXPECT_EQ(Dateien(), vorher);
     Fragen_.erwarte("Record not set", "Pesticide record not set. Please select!");
@@ -61,7 +61,7 @@ TEST_F(Organiserfremde, a_folder_that_has_lost_all_simulations_lets_the_user_out
     gestartet();
     for (const char* Name : {"Probe.vnk", "Second.vnk", "Torn.vnk"}) std::filesystem::remove(Wurzel_ / "input" / Name);
     oeffne();
-    EXPECT_TRUE(o().Listen().Listen[0].empty());
+    EXPECT_TRUE(o().Listen().Listen[Simulation].empty());
     EXPECT_EQ(gewaehlt(Wirkstoff), "Probe");
     const auto vorher = Dateien();
     waehle(Wirkstoff, "Second");

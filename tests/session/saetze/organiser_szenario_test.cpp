@@ -30,7 +30,7 @@ TEST_F(Organiserszenario, an_edited_scenario_keeps_its_values_when_the_other_rec
     EXPECT_TRUE(fertig());
     EXPECT_EQ(Maske().Name_Wirkstoff, "Other parent");
     EXPECT_EQ(z().Parameter().Bodendichte, 6);
-    EXPECT_TRUE(z().Saetze[3].Geaendert());
+    EXPECT_TRUE(z().Saetze[Szenario].Geaendert());
     EXPECT_FALSE(z().abgedeckt());
     EXPECT_EQ(Gesichertes().count("unsaved Probe.sce"), 0U);
 }

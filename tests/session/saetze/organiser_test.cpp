@@ -13,8 +13,8 @@ class Organisertest : public Organiserprobe {};
 
 TEST_F(Organisertest, opening_shows_the_simulation_and_the_records_of_the_main_screen) {
     oeffne();
-    EXPECT_EQ(o().Listen().Listen[0], (Liste{"Probe", "Second", "Torn"}));
-    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) {
+    EXPECT_EQ(o().Listen().Listen[Simulation], (Liste{"Probe", "Second", "Torn"}));
+    for (const Satzart Art : Eingabearten) {
         EXPECT_EQ(o().Listen().Listen[Art], (Liste{"Probe", "Second"}));
         EXPECT_EQ(gewaehlt(Art), "Probe");
     }
@@ -26,8 +26,8 @@ TEST_F(Organisertest, opening_reads_the_folder_anew) {
     gestartet();
     schreibe_Saetze("Added meanwhile", "X", 1);
     oeffne();
-    EXPECT_EQ(o().Listen().Listen[1], (Liste{"Added meanwhile", "Probe", "Second"}));
-    EXPECT_EQ(z().Listen[1], (Liste{"Probe", "Second"}));
+    EXPECT_EQ(o().Listen().Listen[Wirkstoff], (Liste{"Added meanwhile", "Probe", "Second"}));
+    EXPECT_EQ(z().Listen[Wirkstoff], (Liste{"Probe", "Second"}));
 }
 
 TEST_F(Organisertest, a_description_that_is_not_saved_survives_the_opening_and_is_shown) {
@@ -38,7 +38,7 @@ TEST_F(Organisertest, a_description_that_is_not_saved_survives_the_opening_and_i
     EXPECT_EQ(o().Projektname(), "not saved yet");
     EXPECT_TRUE(fertig());
     EXPECT_EQ(Maske().Beschreibung, "not saved yet");
-    EXPECT_TRUE(z().Saetze[0].Geaendert());
+    EXPECT_TRUE(z().Saetze[Simulation].Geaendert());
     EXPECT_EQ(Dateien(), vorher);
 }
 
@@ -52,7 +52,7 @@ TEST_F(Organisertest, without_a_simulation_on_the_main_screen_the_last_entry_is_
     oeffne();
     loesche(Simulation);
     schliesse();
-    ASSERT_EQ(z().Auswahl(0), -1);
+    ASSERT_EQ(z().Auswahl(Simulation), -1);
     oeffne();
     EXPECT_EQ(gewaehlt(Simulation), "Torn");
     EXPECT_EQ(o().Projektname(), "A torn one");
@@ -97,8 +97,8 @@ TEST_F(Organisertest, done_hands_the_lists_over_as_the_dialog_shows_them) {
     schreibe_Saetze("Added meanwhile", "X", 1);
     oeffne();
     EXPECT_TRUE(fertig());
-    for (const Satzart Art : {Simulation, Wirkstoff, Applikation, Szenario}) EXPECT_EQ(z().Listen[Art], o().Listen().Listen[Art]);
-    EXPECT_EQ(z().gewaehlt(1), "Probe");
+    for (const Satzart Art : alle_Arten) EXPECT_EQ(z().Listen[Art], o().Listen().Listen[Art]);
+    EXPECT_EQ(z().gewaehlt(Wirkstoff), "Probe");
     EXPECT_EQ(z().Namen, (std::array<std::string, 4>{"Probe", "Probe", "Probe", "Probe"}));
 }
 
@@ -106,8 +106,8 @@ TEST_F(Organisertest, choosing_a_simulation_shows_its_text_and_names_and_reads_n
     oeffne();
     waehle(Simulation, "Second");
     EXPECT_EQ(o().Projektname(), "The second one");
-    EXPECT_EQ(Maske().Beschreibung, "The second one");
-    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) EXPECT_EQ(gewaehlt(Art), "Second");
+    EXPECT_EQ(s_->zeige<Organiser>().gezeigte_Beschreibung(), "The second one");
+    for (const Satzart Art : Eingabearten) EXPECT_EQ(gewaehlt(Art), "Second");
     EXPECT_EQ(Maske().Name_Wirkstoff, "Parent P");
     EXPECT_EQ(z().gewaehlt(Simulation), "Probe");
 }
@@ -124,7 +124,7 @@ TEST_F(Organisertest, done_reads_the_three_records_of_another_simulation_and_mak
     EXPECT_EQ(Maske().Beschreibung, "The second one");
     EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Zeichnung + 1);
     EXPECT_FALSE(z().abgedeckt());
-    EXPECT_FALSE(z().Saetze[0].Geaendert());
+    EXPECT_FALSE(z().Saetze[Simulation].Geaendert());
     EXPECT_EQ(Datei("input/Second.vnk"), Zeilen("The second one", "Second", "Second", "Second"));
     EXPECT_GT(Stempel("Second.vnk"), Stempel("Torn.vnk"));  // the one used last
 }
@@ -143,7 +143,7 @@ TEST_F(Organisertest, each_missing_record_holds_the_dialog_with_its_own_message_
     oeffne();
     const char* Texte[] = {"", "Pesticide record not set. Please select!", "Application record not set. Please select!",
                            "Scenario record not set. Please select!"};
-    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) {
+    for (const Satzart Art : Eingabearten) {
         std::array<std::string, 3> Saetze = {"Second", "Second", "Second"};
         Saetze[Art - 1U] = "no such record";
         simulation("Torn", "A torn one", Saetze);
@@ -188,7 +188,7 @@ TEST_F(Organisertest, a_simulation_that_cannot_be_read_leaves_the_dialog_as_it_w
     waehle(Simulation, "Torn");
     EXPECT_EQ(gewaehlt(Simulation), "Second");
     EXPECT_EQ(o().Projektname(), "The second one");
-    EXPECT_EQ(Maske().Beschreibung, "The second one");
+    EXPECT_EQ(s_->zeige<Organiser>().gezeigte_Beschreibung(), "The second one");
 }
 
 TEST_F(Organisertest, opening_and_done_leave_another_combination_on_the_screen_alone) {
@@ -213,7 +213,7 @@ TEST_F(Organisertest, another_record_and_what_was_typed_into_it_survive_a_change
     EXPECT_TRUE(fertig());
     EXPECT_EQ(Maske().Name_Wirkstoff, "Other parent");
     EXPECT_EQ(s_->zeige<Feldeingabe>().Text(Feld("S_DT50_0")), "12");
-    EXPECT_TRUE(z().Saetze[1].Geaendert());
+    EXPECT_TRUE(z().Saetze[Wirkstoff].Geaendert());
     EXPECT_EQ(Datei("input/Probe.vnk"), Zeilen("In other words", "Second", "Probe", "Probe"));
     EXPECT_TRUE(Gesichertes().empty());
 }
@@ -228,7 +228,7 @@ TEST_F(Organisertest, values_that_done_reads_over_are_in_the_backup_and_nothing_
     EXPECT_TRUE(fertig());
     EXPECT_EQ(Datei("input/Probe.che"), alt);
     EXPECT_EQ(Maske().Name_Wirkstoff, "Other parent");
-    EXPECT_FALSE(z().Saetze[1].Geaendert());
+    EXPECT_FALSE(z().Saetze[Wirkstoff].Geaendert());
     const auto Gerettet = Gesichertes();
     ASSERT_EQ(Gerettet.size(), 2U);
     Eingabe e;
@@ -260,7 +260,7 @@ TEST_F(Organisertest, a_changed_description_alone_is_written_and_shown_and_nothi
     EXPECT_EQ(Datei("input/Probe.vnk"), Zeilen("In other words", "Probe", "Probe", "Probe"));
     EXPECT_EQ(Maske().Beschreibung, "In other words");
     EXPECT_EQ(s_->zeige<Feldeingabe>().Text(Feld("S_DT50_0")), "12");
-    EXPECT_TRUE(z().Saetze[1].Geaendert());
+    EXPECT_TRUE(z().Saetze[Wirkstoff].Geaendert());
     EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Zeichnung + 1);  // the picture carries the description
     EXPECT_EQ(s_->zeige<Diagrammsteuerung>().vorderes()->Titel.Text.find("A trial"), std::string::npos);
     EXPECT_TRUE(Gesichertes().empty());
@@ -293,7 +293,7 @@ TEST_F(Organisertest, a_summary_file_that_cannot_be_written_leaves_the_main_scre
     EXPECT_EQ(Dateien(), vorher);
     EXPECT_EQ(z().gewaehlt(Simulation), "Probe");
     EXPECT_EQ(z().gewaehlt(Wirkstoff), "Probe");
-    EXPECT_EQ(z().Namen[0], "Probe");
+    EXPECT_EQ(z().Namen[Simulation], "Probe");
     EXPECT_EQ(Maske().Name_Wirkstoff, "Parent P");
     schliesse();
     EXPECT_EQ(Maske().Beschreibung, "A trial");
@@ -307,7 +307,7 @@ TEST_F(Organisertest, before_the_start_the_records_are_read_and_nothing_is_run) 
     EXPECT_TRUE(fertig());
     EXPECT_EQ(Maske().Name_Wirkstoff, "Other parent");
     EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), 0);
-    s_->fuehre_aus<&Programmablauf::starte>();
+    s_->fuehre_aus<&Programmablauf::verlasse_Startseite>();
     EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), 1);
     EXPECT_FALSE(z().abgedeckt());
 }

@@ -49,7 +49,7 @@ protected:
 
     const Organiser& o() const { return s_->zeige<Organiser>(); }
     const Zustand& z() const { return s_->Stand(); }
-    const Eingabe& Maske() const { return s_->Stand().Felder(); }
+    const Eingabe& Maske() const { return s_->Stand().Vorgabe; }
     std::string gewaehlt(Satzart Art) const { return o().Listen().gewaehlt(Art); }
 
     // What the user does in the dialog.

@@ -40,11 +40,11 @@ TEST_F(Satzprobe, a_simulation_brings_its_description_its_records_and_one_run) {
     gestartet();
     const int Laeufe = s_->zeige<Diagrammsteuerung>().Zeichnung();
     s_->fuehre_aus<&Satzverwaltung::waehle_Simulation>(Platz(0, "Second"));
-    EXPECT_EQ(s_->Stand().Felder().Beschreibung, "Second");
-    EXPECT_EQ(s_->Stand().Felder().Name_Wirkstoff, "Other parent");
+    EXPECT_EQ(s_->Stand().Vorgabe.Beschreibung, "Second");
+    EXPECT_EQ(s_->Stand().Vorgabe.Name_Wirkstoff, "Other parent");
     EXPECT_EQ(s_->Stand().Parameter().Bodendichte, 3);
     EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe + 1);
-    EXPECT_FALSE(s_->Stand().Saetze[0].Geaendert());
+    EXPECT_FALSE(s_->Stand().Saetze[Simulation].Geaendert());
     EXPECT_FALSE(s_->Stand().Simulation_markiert());
 }
 
@@ -53,7 +53,7 @@ TEST_F(Satzprobe, a_simulation_with_a_missing_record_stays_covered_until_one_is_
     gestartet();
     s_->fuehre_aus<&Satzverwaltung::waehle_Simulation>(Platz(0, "Torn"));
     EXPECT_TRUE(s_->Stand().abgedeckt());
-    EXPECT_EQ(s_->Stand().Auswahl(2), -1);
+    EXPECT_EQ(s_->Stand().Auswahl(Applikation), -1);
     s_->fuehre_aus<&Satzverwaltung::waehle_Satz>(Applikation, Platz(2, "Second"));
     EXPECT_FALSE(s_->Stand().abgedeckt());
     EXPECT_EQ(s_->Stand().Parameter().Bodendichte, 3);  // the scenario behind the missing record was read, too
@@ -63,7 +63,7 @@ TEST_F(Satzprobe, a_record_name_that_differs_only_in_case_is_not_found) {
     simulation("Torn", "SECOND", "Second", "Second");
     gestartet();
     s_->fuehre_aus<&Satzverwaltung::waehle_Simulation>(Platz(0, "Torn"));
-    EXPECT_EQ(s_->Stand().Auswahl(1), -1);
+    EXPECT_EQ(s_->Stand().Auswahl(Wirkstoff), -1);
     EXPECT_TRUE(s_->Stand().abgedeckt());
 }
 
@@ -83,8 +83,8 @@ TEST_F(Satzprobe, a_short_summary_is_told_and_the_inputs_stay) {
     gestartet();
     Fragen_.erwarte("Runtime error", "File Torn.vnk, line 3: the file ends before the name of the application pattern record");
     s_->fuehre_aus<&Satzverwaltung::waehle_Simulation>(Platz(0, "Torn"));
-    EXPECT_EQ(s_->Stand().Namen[0], "Probe");
-    EXPECT_EQ(s_->Stand().Felder().Name_Wirkstoff, "Parent P");
+    EXPECT_EQ(s_->Stand().Namen[Simulation], "Probe");
+    EXPECT_EQ(s_->Stand().Vorgabe.Name_Wirkstoff, "Parent P");
 }
 
 TEST_F(Satzprobe, a_compound_record_that_cannot_be_used_leaves_the_inputs_as_they_were) {
@@ -94,14 +94,14 @@ TEST_F(Satzprobe, a_compound_record_that_cannot_be_used_leaves_the_inputs_as_the
     gestartet();
     Fragen_.erwarte_Anfang("Runtime error", "File Second.che, line 2");
     s_->fuehre_aus<&Satzverwaltung::waehle_Satz>(Wirkstoff, Platz(1, "Second"));
-    EXPECT_EQ(s_->Stand().Felder().Name_Wirkstoff, "Parent P");
+    EXPECT_EQ(s_->Stand().Vorgabe.Name_Wirkstoff, "Parent P");
     EXPECT_TRUE(s_->Stand().abgedeckt());
 }
 
 TEST_F(Satzprobe, another_record_marks_the_simulation_and_runs) {
     gestartet();
     s_->fuehre_aus<&Satzverwaltung::waehle_Satz>(Szenario, Platz(3, "Second"));
-    EXPECT_TRUE(s_->Stand().Saetze[0].Geaendert());
+    EXPECT_TRUE(s_->Stand().Saetze[Simulation].Geaendert());
     EXPECT_TRUE(s_->Stand().Simulation_markiert());
     EXPECT_FLOAT_EQ(Maximum(), 0.6666667F);  // twice the density
 }
@@ -116,7 +116,7 @@ TEST_F(Satzprobe, yes_on_choosing_stores_the_values_left_in_the_record_chosen) {
                     Knopf::Ja);
     s_->fuehre_aus<&Satzverwaltung::waehle_Satz>(Wirkstoff, Platz(1, "Second"));
     EXPECT_EQ(Datei("input/Probe.che"), links);
-    EXPECT_EQ(s_->Stand().Felder().Name_Wirkstoff, "Parent P");
+    EXPECT_EQ(s_->Stand().Vorgabe.Name_Wirkstoff, "Parent P");
     EXPECT_EQ(s_->zeige<Feldeingabe>().Text(Feld("S_DT50_0")), "12");
 }
 
@@ -127,7 +127,7 @@ TEST_F(Satzprobe, saving_writes_all_four_files_and_clears_the_marks_of_the_recor
     s_->fuehre_aus<&Beschreibungseingabe::aendere>("Another description");
     s_->fuehre_aus<&Satzverwaltung::speichere>();
     EXPECT_EQ(Datei("input/Probe.vnk"), "Another description\r\nProbe\r\nProbe\r\nProbe\r\n");
-    for (std::size_t t = 1; t <= 3; ++t) EXPECT_FALSE(s_->Stand().Saetze[t].Geaendert());
+    for (const Satzart t : Eingabearten) EXPECT_FALSE(s_->Stand().Saetze[t].Geaendert());
     Eingabe e;
     Ansicht a;
     Satz_lesen(Projektordner(Wurzel_.string()), "Probe", Applikation, e, a);
@@ -149,8 +149,8 @@ TEST_F(Satzprobe, a_line_break_in_the_description_becomes_a_blank) {
     gestartet();
     s_->fuehre_aus<&Beschreibungseingabe::oeffne>();
     s_->fuehre_aus<&Beschreibungseingabe::aendere>("two\nlines");
-    EXPECT_EQ(s_->Stand().Felder().Beschreibung, "two lines");
-    EXPECT_TRUE(s_->Stand().Saetze[0].Geaendert());
+    EXPECT_EQ(s_->Stand().Vorgabe.Beschreibung, "two lines");
+    EXPECT_TRUE(s_->Stand().Saetze[Simulation].Geaendert());
 }
 
 TEST_F(Satzprobe, esc_brings_the_old_description_back_and_locks_it) {
@@ -158,7 +158,7 @@ TEST_F(Satzprobe, esc_brings_the_old_description_back_and_locks_it) {
     s_->fuehre_aus<&Beschreibungseingabe::oeffne>();
     s_->fuehre_aus<&Beschreibungseingabe::aendere>("typed by mistake");
     s_->fuehre_aus<&Beschreibungseingabe::nimm_zurueck>();
-    EXPECT_EQ(s_->Stand().Felder().Beschreibung, "A trial");
+    EXPECT_EQ(s_->Stand().Vorgabe.Beschreibung, "A trial");
     EXPECT_FALSE(s_->zeige<Beschreibungseingabe>().offen());
 }
 
@@ -174,7 +174,7 @@ TEST_F(Satzprobe, a_character_without_a_place_in_the_file_is_told_on_saving_and_
 TEST_F(Satzprobe, a_climate_file_that_is_missing_is_told_and_the_results_stay_covered) {
     gestartet();
     Eingabe e = Felder_;
-    e.Parameter.Klimamodus = 1;
+    e.Parameter.Klimamodus = nach_Klimadatei;
     e.Klimaszenario = "no such climate";
     Satz_schreiben(Projektordner(Wurzel_.string()), "Second", Szenario, e, Sicht_);
     Fragen_.erwarte("Data file missing", "Cannot load climate data file. Please correct!");
@@ -192,7 +192,7 @@ TEST_F(Satzprobe, a_fault_of_the_arithmetic_is_one_box_and_what_was_entered_stay
                     "The calculation is not possible with these input data. Please correct! (Soil density (kg/L) = 0)");
     s_->fuehre_aus<&Satzverwaltung::waehle_Satz>(Szenario, Platz(3, "Second"));
     EXPECT_TRUE(s_->Stand().abgedeckt());
-    EXPECT_EQ(s_->Stand().Auswahl(3), Platz(3, "Second"));
+    EXPECT_EQ(s_->Stand().Auswahl(Szenario), Platz(3, "Second"));
 }
 
 }  // namespace

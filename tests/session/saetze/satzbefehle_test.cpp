@@ -17,7 +17,7 @@ TEST_F(Befehlsprobe, a_new_record_takes_the_values_of_its_template_the_first_num
     EXPECT_EQ(z().gewaehlt(Szenario), "new scenario1");
     EXPECT_EQ(Datei(in("new scenario1", Szenario)), Datei(in("Second", Szenario)));
     EXPECT_EQ(z().Parameter().Bodendichte, 3);
-    EXPECT_TRUE(z().Saetze[0].Geaendert());
+    EXPECT_TRUE(z().Saetze[Simulation].Geaendert());
     EXPECT_TRUE(z().Simulation_markiert());
     EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe + 1);
     EXPECT_FALSE(z().abgedeckt());
@@ -59,7 +59,7 @@ TEST_F(Befehlsprobe, unsaved_values_are_in_backup_before_a_new_record_replaces_t
     tippe("S_DT50_0", "12");
     s_->fuehre_aus<&Satzverwaltung::lege_an>(Wirkstoff);
     EXPECT_EQ(gesichert(), Namen{"unsaved Probe.che"});
-    EXPECT_FALSE(z().Saetze[1].Geaendert());
+    EXPECT_FALSE(z().Saetze[Wirkstoff].Geaendert());
     EXPECT_NE(z().Statuszeile.Text().find("backup/"), std::string::npos);
 }
 
@@ -71,8 +71,8 @@ TEST_F(Befehlsprobe, a_copy_has_the_file_of_the_old_name_and_the_values_of_the_s
     EXPECT_EQ(Datei("input/copy of Probe.che"), Datei("input/Probe.che"));
     EXPECT_EQ(z().gewaehlt(Wirkstoff), "copy of Probe");
     EXPECT_EQ(s_->zeige<Feldeingabe>().Text(Feld("S_DT50_0")), "12");
-    EXPECT_TRUE(z().Saetze[1].Geaendert());
-    EXPECT_TRUE(z().Saetze[0].Geaendert());
+    EXPECT_TRUE(z().Saetze[Wirkstoff].Geaendert());
+    EXPECT_TRUE(z().Saetze[Simulation].Geaendert());
     EXPECT_TRUE(z().Simulation_markiert());
     EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe);
     EXPECT_FALSE(z().abgedeckt());
@@ -82,7 +82,7 @@ TEST_F(Befehlsprobe, a_copy_has_the_file_of_the_old_name_and_the_values_of_the_s
 TEST_F(Befehlsprobe, a_copy_of_a_simulation_marks_nothing_and_is_the_newest) {
     gestartet().fuehre_aus<&Satzverwaltung::kopiere>(Simulation);
     EXPECT_EQ(z().gewaehlt(Simulation), "copy of Probe");
-    EXPECT_FALSE(z().Saetze[0].Geaendert());
+    EXPECT_FALSE(z().Saetze[Simulation].Geaendert());
     EXPECT_EQ(neueste_Simulation(Projektordner(Wurzel_.string())), "copy of Probe");
     erwarte_Gleichstand(Simulation);
 }
@@ -107,7 +107,7 @@ TEST_F(Befehlsprobe, a_copy_over_an_existing_file_with_no_changes_nothing) {
     s_->fuehre_aus<&Satzverwaltung::kopiere>(Wirkstoff);
     EXPECT_EQ(z().gewaehlt(Wirkstoff), "Probe");
     EXPECT_EQ(Datei("input/copy of Probe.che"), "old");
-    EXPECT_FALSE(z().Saetze[0].Geaendert());
+    EXPECT_FALSE(z().Saetze[Simulation].Geaendert());
 }
 
 TEST_F(Befehlsprobe, no_to_the_delete_question_changes_nothing) {
@@ -189,7 +189,7 @@ TEST_F(Befehlsprobe, after_deleting_a_simulation_refresh_loads_its_neighbour) {
     bejahe_Loeschen();
     s_->fuehre_aus<&Satzverwaltung::loesche>(Simulation);
     s_->fuehre_aus<&Satzverwaltung::aktualisiere>();
-    EXPECT_EQ(z().Felder().Beschreibung, "second");
+    EXPECT_EQ(z().Vorgabe.Beschreibung, "second");
     EXPECT_EQ(z().Parameter().Bodendichte, 3);
     EXPECT_FALSE(z().abgedeckt());
 }
@@ -198,12 +198,12 @@ TEST_F(Befehlsprobe, a_record_gets_another_name_and_nothing_is_read) {
     gestartet();
     tippe("S_DT50_0", "12");
     const std::string Inhalt = Datei("input/Probe.che");
-    EXPECT_TRUE(s_->fuehre_aus<&Satzverwaltung::benenne_um>(Wirkstoff, "Renamed", true));
+    EXPECT_TRUE(benenne_um(*s_, Wirkstoff, "Renamed", true));
     EXPECT_FALSE(gibt_es("input/Probe.che"));
     EXPECT_EQ(Datei("input/Renamed.che"), Inhalt);
     EXPECT_EQ(s_->zeige<Feldeingabe>().Text(Feld("S_DT50_0")), "12");
-    EXPECT_TRUE(z().Saetze[1].Geaendert());
-    EXPECT_TRUE(z().Saetze[0].Geaendert());
+    EXPECT_TRUE(z().Saetze[Wirkstoff].Geaendert());
+    EXPECT_TRUE(z().Saetze[Simulation].Geaendert());
     EXPECT_TRUE(z().Simulation_markiert());
     EXPECT_FALSE(z().abgedeckt());
     erwarte_Gleichstand(Wirkstoff);
@@ -211,23 +211,23 @@ TEST_F(Befehlsprobe, a_record_gets_another_name_and_nothing_is_read) {
 
 TEST_F(Befehlsprobe, a_typed_extension_of_the_kind_is_not_added_twice_and_another_one_stays) {
     gestartet();
-    s_->fuehre_aus<&Satzverwaltung::benenne_um>(Wirkstoff, "abc.che", true);
+    benenne_um(*s_, Wirkstoff, "abc.che", true);
     EXPECT_TRUE(gibt_es("input/abc.che"));
-    s_->fuehre_aus<&Satzverwaltung::benenne_um>(Wirkstoff, "abc.app", true);
+    benenne_um(*s_, Wirkstoff, "abc.app", true);
     EXPECT_TRUE(gibt_es("input/abc.app.che"));
 }
 
 TEST_F(Befehlsprobe, a_name_of_three_characters_is_taken_as_it_stands) {
     gestartet();
-    s_->fuehre_aus<&Satzverwaltung::benenne_um>(Wirkstoff, "che", true);
+    benenne_um(*s_, Wirkstoff, "che", true);
     EXPECT_TRUE(gibt_es("input/che.che"));
 }
 
 TEST_F(Befehlsprobe, an_unchanged_name_asks_nothing_and_a_change_of_case_only_renames) {
     gestartet();
-    EXPECT_TRUE(s_->fuehre_aus<&Satzverwaltung::benenne_um>(Wirkstoff, "Probe", true));
-    EXPECT_FALSE(z().Saetze[0].Geaendert());
-    EXPECT_TRUE(s_->fuehre_aus<&Satzverwaltung::benenne_um>(Wirkstoff, "PROBE", true));
+    EXPECT_TRUE(benenne_um(*s_, Wirkstoff, "Probe", true));
+    EXPECT_FALSE(z().Saetze[Simulation].Geaendert());
+    EXPECT_TRUE(benenne_um(*s_, Wirkstoff, "PROBE", true));
     EXPECT_TRUE(gibt_es("input/PROBE.che"));
     EXPECT_FALSE(gibt_es("input/Probe.che"));
     erwarte_Gleichstand(Wirkstoff);
@@ -237,7 +237,7 @@ TEST_F(Befehlsprobe, a_taken_name_is_replaced_after_a_yes_and_kept_in_backup) {
     gestartet();
     const std::string Inhalt = Datei("input/Probe.sce");
     Fragen_.erwarte("Replace existing record?", "The record ' Second ' already exists. Do you want to replace it?", Knopf::Ja);
-    EXPECT_TRUE(s_->fuehre_aus<&Satzverwaltung::benenne_um>(Szenario, "Second", true));
+    EXPECT_TRUE(benenne_um(*s_, Szenario, "Second", true));
     EXPECT_EQ(Datei("input/Second.sce"), Inhalt);
     EXPECT_EQ(z().Listen[Szenario], Namen{"Second"});
     EXPECT_EQ(gesichert(), Namen{"Second.sce"});
@@ -246,10 +246,10 @@ TEST_F(Befehlsprobe, a_taken_name_is_replaced_after_a_yes_and_kept_in_backup) {
 TEST_F(Befehlsprobe, a_name_that_differs_only_in_case_from_another_record_is_told_as_existing) {
     gestartet();
     Fragen_.erwarte("Replace existing record?", "The record ' SECOND ' already exists. Do you want to replace it?", Knopf::Nein);
-    EXPECT_FALSE(s_->fuehre_aus<&Satzverwaltung::benenne_um>(Szenario, "SECOND", true));
+    EXPECT_FALSE(benenne_um(*s_, Szenario, "SECOND", true));
     EXPECT_EQ(z().gewaehlt(Szenario), "Probe");
     Fragen_.erwarte("Replace existing record?", "The record ' SECOND ' already exists. Do you want to replace it?", Knopf::Ja);
-    EXPECT_TRUE(s_->fuehre_aus<&Satzverwaltung::benenne_um>(Szenario, "SECOND", true));
+    EXPECT_TRUE(benenne_um(*s_, Szenario, "SECOND", true));
     EXPECT_EQ(z().Listen[Szenario], Namen{"SECOND"});
     erwarte_Gleichstand(Szenario);
 }
@@ -257,7 +257,7 @@ TEST_F(Befehlsprobe, a_name_that_differs_only_in_case_from_another_record_is_tol
 TEST_F(Befehlsprobe, a_taken_name_is_a_fault_where_the_box_was_only_left) {
     gestartet();
     Fragen_.erwarte("Runtime error", "The record \"Second\" already exists. \"Probe\" keeps its name.");
-    EXPECT_FALSE(s_->fuehre_aus<&Satzverwaltung::benenne_um>(Szenario, "Second", false));
+    EXPECT_FALSE(benenne_um(*s_, Szenario, "Second", false));
     EXPECT_EQ(z().gewaehlt(Szenario), "Probe");
     EXPECT_TRUE(gibt_es("input/Probe.sce"));
     EXPECT_FALSE(z().abgedeckt());
@@ -267,7 +267,7 @@ TEST_F(Befehlsprobe, a_rename_names_the_simulations_that_lose_their_record) {
     schreibe_Simulation(Projektordner(Wurzel_.string()), "Third", {"", {"", "Probe", "Second", "Second"}});
     std::filesystem::last_write_time(Wurzel_ / "input/Third.vnk", std::filesystem::last_write_time(Wurzel_ / "input/Second.vnk"));
     gestartet();
-    s_->fuehre_aus<&Satzverwaltung::benenne_um>(Wirkstoff, "Renamed", true);
+    benenne_um(*s_, Wirkstoff, "Renamed", true);
     EXPECT_EQ(z().Statuszeile.Text(), "Simulations that still name \"Probe\": \"Third\"");
 }
 
@@ -281,10 +281,10 @@ TEST_P(Unnamen, are_refused_before_a_file_is_touched) {
     gestartet();
     const Namen vorher = auf_Platte(Wirkstoff);
     Fragen_.erwarte_Anfang("Runtime error", "\"" + GetParam().Name + "\" cannot be the name of a record: ");
-    EXPECT_FALSE(s_->fuehre_aus<&Satzverwaltung::benenne_um>(Wirkstoff, GetParam().Name, true));
+    EXPECT_FALSE(benenne_um(*s_, Wirkstoff, GetParam().Name, true));
     EXPECT_EQ(auf_Platte(Wirkstoff), vorher);
     EXPECT_EQ(z().gewaehlt(Wirkstoff), "Probe");
-    EXPECT_FALSE(z().Saetze[0].Geaendert());
+    EXPECT_FALSE(z().Saetze[Simulation].Geaendert());
     EXPECT_TRUE(gesichert().empty());
 }
 
@@ -359,7 +359,7 @@ TEST_F(Befehlsprobe, a_record_changed_by_another_program_is_not_saved_over_witho
     Fragen_.erwarte("Replace existing record?", Text, Knopf::Nein);
     s_->fuehre_aus<&Satzverwaltung::speichere>();
     EXPECT_EQ(Datei("input/Probe.che"), "theirs");
-    EXPECT_TRUE(z().Saetze[1].Geaendert());
+    EXPECT_TRUE(z().Saetze[Wirkstoff].Geaendert());
     Fragen_.erwarte("Replace existing record?", Text, Knopf::Ja);
     s_->fuehre_aus<&Satzverwaltung::speichere>();
     EXPECT_NE(Datei("input/Probe.che"), "theirs");
@@ -392,7 +392,7 @@ TEST_F(Befehlsprobe, a_second_window_on_the_folder_says_so_and_saves_only_after_
     Sitzung zweite(Umgebung{&Antworten, Wurzel_.string(), "", '.'});
     Antworten.erwarte_Anfang("Project folder in use", "Another window of VARNOK works on this project folder.");
     ASSERT_TRUE(zweite.fuehre_aus<&Programmablauf::oeffne_Projekt>());
-    zweite.fuehre_aus<&Programmablauf::starte>();
+    zweite.fuehre_aus<&Programmablauf::verlasse_Startseite>();
     const auto vorher = std::filesystem::last_write_time(Wurzel_ / "input/Probe.che");
     Antworten.erwarte_Anfang("Save changes?", "Another window of VARNOK works on this project folder.", Knopf::Nein);
     zweite.fuehre_aus<&Satzverwaltung::speichere>();

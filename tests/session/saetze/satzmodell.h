@@ -15,8 +15,6 @@ namespace varnok {
 using Textliste = std::vector<std::string>;
 using Dateien = std::map<std::string, std::string>;  // bytes by name
 
-inline constexpr std::array<Satzart, 3> Saetze = {Wirkstoff, Applikation, Szenario};
-
 // What the user would expect: files, names, values on the screen in the form of records.
 struct Modell {
     Dateien Platte;
@@ -46,14 +44,14 @@ struct Modell {
     }
 
     bool vollstaendig() const {
-        const bool gewaehlt = std::all_of(Saetze.begin(), Saetze.end(), [&](Satzart t) { return !Name[t].empty(); });
+        const bool gewaehlt = std::all_of(Eingabearten.begin(), Eingabearten.end(), [&](Satzart t) { return !Name[t].empty(); });
         return gewaehlt && std::find(neu.begin(), neu.end(), true) == neu.end();
     }
 
     std::string Bytes_des_Schirms(Satzart t) const {
         if (t != Simulation) return Schirm[t];
         std::string Bytes = Schirm[0] + "\r\n";
-        for (const Satzart s : Saetze) Bytes += (Name[s].empty() ? fehlend[s] : Name[s]) + "\r\n";
+        for (const Satzart s : Eingabearten) Bytes += (Name[s].empty() ? fehlend[s] : Name[s]) + "\r\n";
         return Bytes;
     }
 
@@ -66,15 +64,14 @@ struct Modell {
 
     // After each command: marks without a difference go.
     void raeume_Marken_auf() {
-        const auto arten = {Simulation, Wirkstoff, Applikation, Szenario};
-        if (std::none_of(arten.begin(), arten.end(), [&](Satzart t) { return verschieden(t); })) geaendert.fill(false);
+        if (std::none_of(alle_Arten.begin(), alle_Arten.end(), [&](Satzart t) { return verschieden(t); })) geaendert.fill(false);
     }
 
     void sichere_Werte(Satzart t) {
         if (verschieden(t)) gesichert["unsaved " + Datei(t, gelesen[t])] = Bytes_des_Schirms(t);
     }
     void sichere_ungelesene() {
-        for (const Satzart t : Saetze) {
+        for (const Satzart t : Eingabearten) {
             if (neu[t]) sichere_Werte(t);
         }
     }
@@ -86,7 +83,7 @@ struct Modell {
         merke(t);
     }
     bool lies_fehlende() {
-        for (const Satzart t : Saetze) {
+        for (const Satzart t : Eingabearten) {
             if (Name[t].empty()) {
                 if (neu[t]) geaendert[t] = false;  // nothing of it is asked for; what was typed is in `backup` by now
                 return false;
@@ -108,8 +105,8 @@ struct Modell {
         gelesen[t] = Name[t];
         merke(t);
     }
-    bool speichere(const std::vector<Satzart>& Arten = {Wirkstoff, Applikation, Szenario}) {
-        for (const Satzart t : Saetze) {
+    bool speichere(const std::vector<Satzart>& Arten = {Eingabearten.begin(), Eingabearten.end()}) {
+        for (const Satzart t : Eingabearten) {
             if (Name[t].empty()) return frage("Record not set"), false;
         }
         schreibe(Simulation);
@@ -197,7 +194,7 @@ struct Modell {
     }
 
     void waehle_Simulation(const std::string& n) {
-        for (const Satzart t : {Simulation, Wirkstoff, Applikation, Szenario}) sichere_Werte(t);
+        for (const Satzart t : alle_Arten) sichere_Werte(t);
         std::istringstream Zeilen(Platte.at(Datei(Simulation, n)));
         std::array<std::string, 4> Text;
         for (std::string& Zeile : Text) {
@@ -207,7 +204,7 @@ struct Modell {
         Name[0] = gelesen[0] = n;
         Schirm[0] = Text[0];
         neu[0] = false;
-        for (const Satzart t : Saetze) {
+        for (const Satzart t : Eingabearten) {
             Name[t] = gibt_es(t, Text[t]) ? Text[t] : "";
             fehlend[t] = Text[t];
             neu[t] = true;

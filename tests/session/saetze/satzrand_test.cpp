@@ -47,7 +47,7 @@ TEST_P(OhneSchreibrecht, a_command_is_one_message_and_changes_neither_lists_nor_
         EXPECT_EQ(z().Listen, vorher.Listen);
         EXPECT_EQ(z().Namen, vorher.Namen);
         EXPECT_EQ(s_->zeige<Feldeingabe>().Text(Feld("S_DT50_0")), "12");
-        EXPECT_TRUE(z().Saetze[1].Geaendert());
+        EXPECT_TRUE(z().Saetze[Wirkstoff].Geaendert());
         EXPECT_FALSE(z().abgedeckt());
     });
     std::filesystem::permissions(Wurzel_ / "input", std::filesystem::perms::owner_all);
@@ -78,13 +78,13 @@ INSTANTIATE_TEST_SUITE_P(Commands, OhneSchreibrecht,
                                            Befehl{"rename",
                                                   [](Sitzung& s, Drehbuch& d) {
                                                       erwarte_Fehler(d, "rename");
-                                                      s.fuehre_aus<&Satzverwaltung::benenne_um>(Wirkstoff, "x", true);
+                                                      benenne_um(s, Wirkstoff, "x", true);
                                                   }},
                                            Befehl{"rename_over_a_record",
                                                   [](Sitzung& s, Drehbuch& d) {
                                                       d.erwarte_Anfang("Replace existing record?", "", Knopf::Ja);
                                                       erwarte_Fehler(d, "rename");
-                                                      s.fuehre_aus<&Satzverwaltung::benenne_um>(Wirkstoff, "Second", true);
+                                                      benenne_um(s, Wirkstoff, "Second", true);
                                                   }},
                                            Befehl{"save",
                                                   [](Sitzung& s, Drehbuch& d) {
@@ -124,7 +124,7 @@ TEST_F(Satzrand, a_template_that_cannot_be_used_is_told_and_the_values_are_in_ba
     s_->fuehre_aus<&Satzverwaltung::lege_an>(Wirkstoff);
     EXPECT_EQ(gesichert(), Namen{"unsaved Probe.che"});
     EXPECT_TRUE(z().abgedeckt());
-    EXPECT_FALSE(z().Saetze[1].gelesen());
+    EXPECT_FALSE(z().Saetze[Wirkstoff].gelesen());
     s_->fuehre_aus<&Satzverwaltung::speichere>();
     EXPECT_EQ(Datei("input/new compound1.che"), "Pesticide data\r\nUnit:\t7\r\n");
 }
@@ -136,7 +136,7 @@ TEST_F(Satzrand, a_missing_template_makes_no_backup) {
     Fragen_.erwarte_Anfang("Runtime error", "The template");
     s_->fuehre_aus<&Satzverwaltung::lege_an>(Wirkstoff);
     EXPECT_TRUE(gesichert().empty());
-    EXPECT_TRUE(z().Saetze[1].Geaendert());
+    EXPECT_TRUE(z().Saetze[Wirkstoff].Geaendert());
 }
 
 TEST_F(Satzrand, a_copy_over_a_file_in_another_case_selects_the_entry_that_is_there) {
@@ -152,7 +152,7 @@ TEST_F(Satzrand, a_copy_over_a_file_in_another_case_selects_the_entry_that_is_th
 
 TEST_F(Satzrand, a_copy_whose_name_grows_too_long_is_refused) {
     gestartet();
-    ASSERT_TRUE(s_->fuehre_aus<&Satzverwaltung::benenne_um>(Szenario, std::string(235, 'x'), true));
+    ASSERT_TRUE(benenne_um(*s_, Szenario, std::string(235, 'x'), true));
     Fragen_.erwarte_Anfang("Runtime error", "\"copy of xxx");
     s_->fuehre_aus<&Satzverwaltung::kopiere>(Szenario);
     EXPECT_EQ(z().gewaehlt(Szenario), std::string(235, 'x'));
@@ -161,7 +161,7 @@ TEST_F(Satzrand, a_copy_whose_name_grows_too_long_is_refused) {
 
 TEST_F(Satzrand, a_name_of_the_longest_kind_can_be_left_with_unsaved_values) {
     gestartet();
-    ASSERT_TRUE(s_->fuehre_aus<&Satzverwaltung::benenne_um>(Wirkstoff, std::string(240, 'x'), true));
+    ASSERT_TRUE(benenne_um(*s_, Wirkstoff, std::string(240, 'x'), true));
     tippe("S_DT50_0", "12");
     s_->fuehre_aus<&Satzverwaltung::waehle_Simulation>(1);
     EXPECT_EQ(z().gewaehlt(Wirkstoff), "Second");
@@ -170,9 +170,9 @@ TEST_F(Satzrand, a_name_of_the_longest_kind_can_be_left_with_unsaved_values) {
 
 TEST_F(Satzrand, unchanged_text_stays_also_where_the_name_ends_like_an_extension) {
     gestartet();
-    ASSERT_TRUE(s_->fuehre_aus<&Satzverwaltung::benenne_um>(Szenario, "field.sce.sce", true));
+    ASSERT_TRUE(benenne_um(*s_, Szenario, "field.sce.sce", true));
     EXPECT_EQ(z().gewaehlt(Szenario), "field.sce");
-    EXPECT_TRUE(s_->fuehre_aus<&Satzverwaltung::benenne_um>(Szenario, "field.sce", true));
+    EXPECT_TRUE(benenne_um(*s_, Szenario, "field.sce", true));
     EXPECT_EQ(z().gewaehlt(Szenario), "field.sce");
 }
 
@@ -192,7 +192,7 @@ TEST_F(Satzrand, deletion_keeps_the_file_and_the_unsaved_values_in_one_backup) {
     bejahe_Loeschen();
     s_->fuehre_aus<&Satzverwaltung::loesche>(Wirkstoff);
     EXPECT_EQ(gesichert(), (Namen{"Probe.che", "unsaved Probe.che"}));
-    EXPECT_FALSE(z().Saetze[1].Geaendert());
+    EXPECT_FALSE(z().Saetze[Wirkstoff].Geaendert());
     const auto Ort = std::filesystem::directory_iterator(Wurzel_ / "backup")->path();
     EXPECT_EQ(lies_Datei((Ort / "Probe.che").string()), alt);
     EXPECT_EQ(z().Statuszeile.Text(),
@@ -206,7 +206,7 @@ TEST_F(Satzrand, what_is_typed_after_a_deletion_is_in_backup_before_the_neighbou
     s_->fuehre_aus<&Listenwahl::aendere_Namen>(0, "Typed later");
     s_->fuehre_aus<&Satzverwaltung::aktualisiere>();
     EXPECT_EQ(gesichert(), (Namen{"Probe.che", "unsaved Probe.che"}));
-    EXPECT_EQ(z().Felder().Name_Wirkstoff, "Parent P");
+    EXPECT_EQ(z().Vorgabe.Name_Wirkstoff, "Parent P");
     EXPECT_TRUE(z().Simulation_markiert());
     EXPECT_FALSE(z().abgedeckt());
 }
@@ -256,7 +256,7 @@ TEST_F(Satzrand, a_yes_that_cannot_save_puts_selection_and_mark_back) {
     waehle(Wirkstoff, "Probe");
     EXPECT_EQ(z().gewaehlt(Wirkstoff), "Second");
     EXPECT_EQ(z().Simulation_markiert(), Marke);
-    EXPECT_TRUE(z().Saetze[1].Geaendert());
+    EXPECT_TRUE(z().Saetze[Wirkstoff].Geaendert());
     EXPECT_EQ(Datei("input/Probe.che"), vorher);
 }
 
@@ -265,7 +265,7 @@ TEST_F(Satzrand, no_to_one_s_own_record_reads_the_file_again) {
     s_->fuehre_aus<&Listenwahl::aendere_Namen>(0, "Typed");
     erwarte_Sicherungsfrage(Knopf::Nein);
     waehle(Wirkstoff, "Probe");
-    EXPECT_EQ(z().Felder().Name_Wirkstoff, "Parent P");
+    EXPECT_EQ(z().Vorgabe.Name_Wirkstoff, "Parent P");
     EXPECT_EQ(gesichert(), Namen{"unsaved Probe.che"});
 }
 
@@ -277,7 +277,7 @@ TEST_F(Satzrand, exit_that_is_refused_keeps_the_marks_of_what_was_not_saved) {
     Fragen_.erwarte("Record not set", "Application record not set. Please select!");
     s_->fuehre_aus<&Programmablauf::beende>();
     EXPECT_FALSE(z().beendet());
-    EXPECT_TRUE(z().Saetze[1].Geaendert());
+    EXPECT_TRUE(z().Saetze[Wirkstoff].Geaendert());
 }
 
 TEST_F(Satzrand, yes_at_exit_and_at_the_close_box_with_an_empty_selector_writes_nothing_and_stays) {
@@ -301,10 +301,10 @@ TEST_F(Satzrand, loading_clears_the_marks_of_types_behind_a_missing_record_and_k
     gestartet();
     s_->fuehre_aus<&Listenwahl::waehle_Tag>(5);
     s_->fuehre_aus<&Satzverwaltung::waehle_Simulation>(2);
-    EXPECT_FALSE(z().Saetze[2].Geaendert());
+    EXPECT_FALSE(z().Saetze[Applikation].Geaendert());
     EXPECT_EQ(gesichert(), Namen{"unsaved Probe.app"});
     waehle(Applikation, "Second");
-    EXPECT_FALSE(z().Saetze[2].Geaendert());
+    EXPECT_FALSE(z().Saetze[Applikation].Geaendert());
     EXPECT_FALSE(z().abgedeckt());
 }
 

@@ -64,7 +64,7 @@ TEST_F(Sicherungsfrage, value_that_no_record_can_hold_blocks_no_simulation) {
     erwarte_Frage("unsaved Second.vnk: ", Knopf::Ja);
     s_->fuehre_aus<&Satzverwaltung::waehle_Simulation>(Platz(Simulation, "Probe"));
     EXPECT_EQ(z().gewaehlt(Simulation), "Probe");
-    EXPECT_EQ(z().Felder().Beschreibung, "A trial");
+    EXPECT_EQ(z().Vorgabe.Beschreibung, "A trial");
 }
 
 TEST_F(Sicherungsfrage, what_can_be_kept_beside_it_is_kept) {

@@ -40,7 +40,7 @@ protected:
     }
 
     const Laufparameter& p() const { return s_->Stand().Parameter(); }
-    const std::vector<std::string>& Studien() const { return s_->Stand().Felder().Studie; }
+    const std::vector<std::string>& Studien() const { return s_->Stand().Vorgabe.Studie; }
 };
 
 TEST_F(Studienprobe, the_box_of_a_new_study_proposes_the_next_number_and_nothing_else_is_possible_meanwhile) {
@@ -60,7 +60,7 @@ TEST_F(Studienprobe, a_new_study_is_selected_run_once_and_marks_the_compound) {
     EXPECT_EQ(Studien(), (std::vector<std::string>{"First soil", "Second soil", "Field 7"}));
     EXPECT_EQ(s_->Stand().i_studie(), 2);
     EXPECT_EQ(s_->Stand().Studienzahl(), 3);
-    EXPECT_TRUE(s_->Stand().Saetze[1].Geaendert());
+    EXPECT_TRUE(s_->Stand().Saetze[Wirkstoff].Geaendert());
     EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe + 1);
     EXPECT_FALSE(s_->Stand().abgedeckt());
     EXPECT_FALSE(s_->zeige<Studienverwaltung>().Name_offen());
@@ -94,7 +94,7 @@ TEST_F(Studienprobe, esc_takes_everything_back) {
     s_->fuehre_aus<&Studienverwaltung::bestaetige>(false);  // the focus that moves on afterwards
     EXPECT_EQ(Studien().size(), 2U);
     EXPECT_EQ(s_->Stand().Studienzahl(), 2);
-    EXPECT_FALSE(s_->Stand().Saetze[1].Geaendert());
+    EXPECT_FALSE(s_->Stand().Saetze[Wirkstoff].Geaendert());
     EXPECT_TRUE(s_->zeige<Studienverwaltung>().darf_addieren());
     EXPECT_TRUE(s_->zeige<Studienverwaltung>().darf_loeschen());
 }
@@ -140,14 +140,14 @@ TEST_F(Studienprobe, a_study_is_renamed_without_a_run_and_a_taken_name_is_allowe
     s_->fuehre_aus<&Studienverwaltung::aendere>("Second soil");
     s_->fuehre_aus<&Studienverwaltung::bestaetige>(false);
     EXPECT_EQ(Studien(), (std::vector<std::string>{"Second soil", "Second soil"}));
-    EXPECT_TRUE(s_->Stand().Saetze[1].Geaendert());
+    EXPECT_TRUE(s_->Stand().Saetze[Wirkstoff].Geaendert());
     EXPECT_FALSE(s_->Stand().abgedeckt());
 }
 
 TEST_F(Studienprobe, an_unchanged_name_marks_nothing) {
     gestartet().fuehre_aus<&Studienverwaltung::beginne_Umbenennen>();
     s_->fuehre_aus<&Studienverwaltung::bestaetige>(true);
-    EXPECT_FALSE(s_->Stand().Saetze[1].Geaendert());
+    EXPECT_FALSE(s_->Stand().Saetze[Wirkstoff].Geaendert());
 }
 
 TEST_F(Studienprobe, a_command_takes_the_name_in_the_box_as_typed) {
@@ -162,7 +162,7 @@ TEST_F(Studienprobe, no_to_the_question_deletes_nothing) {
     Fragen_.erwarte("Delete study", "Do you really want to delete this study?", Knopf::Nein);
     s_->fuehre_aus<&Studienverwaltung::loesche>();
     EXPECT_EQ(Studien().size(), 2U);
-    EXPECT_FALSE(s_->Stand().Saetze[2].Geaendert());
+    EXPECT_FALSE(s_->Stand().Saetze[Applikation].Geaendert());
 }
 
 TEST_F(Studienprobe, deleting_moves_the_rate_constants_and_leaves_the_other_tables_in_their_place) {
@@ -190,8 +190,8 @@ TEST_F(Studienprobe, deleting_moves_the_rate_constants_and_leaves_the_other_tabl
 TEST_F(Studienprobe, deleting_marks_the_application_pattern_and_says_what_to_check) {
     drei_Studien();
     loesche();
-    EXPECT_TRUE(s_->Stand().Saetze[2].Geaendert());
-    EXPECT_FALSE(s_->Stand().Saetze[1].Geaendert());
+    EXPECT_TRUE(s_->Stand().Saetze[Applikation].Geaendert());
+    EXPECT_FALSE(s_->Stand().Saetze[Wirkstoff].Geaendert());
     EXPECT_EQ(s_->Stand().Statuszeile.Text(),
               "Koc, Q10, Walker, To and kinetics of the following studies stay with their place. Please check.");
 }

@@ -91,7 +91,7 @@ TEST_F(Szenarioprobe, a_depth_and_a_temperature_outside_the_lists_are_entries_of
     EXPECT_EQ(p().Bodentiefe, 2.54);
     EXPECT_EQ(p().Plateautiefe, 60);
     EXPECT_EQ(p().Szenariotemperatur, 45);
-    EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert());
+    EXPECT_FALSE(s_->Stand().Saetze[Szenario].Geaendert());
 }
 
 TEST_F(Szenarioprobe, done_without_a_change_stores_nothing_and_runs_nothing) {
@@ -102,8 +102,8 @@ TEST_F(Szenarioprobe, done_without_a_change_stores_nothing_and_runs_nothing) {
     fertig();
     EXPECT_EQ(p(), vorher);
     EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe);
-    EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert());
-    EXPECT_FALSE(s_->Stand().Saetze[0].Geaendert());
+    EXPECT_FALSE(s_->Stand().Saetze[Szenario].Geaendert());
+    EXPECT_FALSE(s_->Stand().Saetze[Simulation].Geaendert());
 }
 
 TEST_F(Szenarioprobe, changed_values_are_stored_mark_the_scenario_and_lead_to_one_run) {
@@ -121,8 +121,8 @@ TEST_F(Szenarioprobe, changed_values_are_stored_mark_the_scenario_and_lead_to_on
     EXPECT_EQ(p().Feldkapazitaet, 31);
     EXPECT_EQ(p().Welkepunkt, 11);
     EXPECT_EQ(p().Bodentiefe, 2.5);
-    EXPECT_TRUE(s_->Stand().Saetze[3].Geaendert());
-    EXPECT_FALSE(s_->Stand().Saetze[0].Geaendert());
+    EXPECT_TRUE(s_->Stand().Saetze[Szenario].Geaendert());
+    EXPECT_FALSE(s_->Stand().Saetze[Simulation].Geaendert());
     EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe + 1);
     EXPECT_FALSE(s_->Stand().abgedeckt());
 }
@@ -132,7 +132,7 @@ TEST_F(Szenarioprobe, a_tillage_depth_below_the_soil_depth_is_told_and_corrected
     Fragen_.erwarte("Problem!", "A plateau depth was defined smaller than the current soil depth.\nThe problem was corrected.");
     fertig();
     EXPECT_EQ(p().Plateautiefe, 5);
-    EXPECT_TRUE(s_->Stand().Saetze[3].Geaendert());
+    EXPECT_TRUE(s_->Stand().Saetze[Szenario].Geaendert());
 }
 
 TEST_F(Szenarioprobe, a_soil_depth_above_the_tillage_depth_takes_it_along_without_a_word) {
@@ -156,11 +156,11 @@ TEST_F(Szenarioprobe, cancel_changes_nothing) {
     const Laufparameter vorher = p();
     s.fuehre_aus<&Szenarioeditor::aendere>(E::Bodendichte, "9");
     s.fuehre_aus<&Szenarioeditor::waehle_Szenario>(0);
-    s.fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(1);
+    s.fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(nach_Klimadatei);
     abgebrochen();
     EXPECT_EQ(p(), vorher);
-    EXPECT_EQ(s_->Stand().Namen[3], "Probe");
-    EXPECT_EQ(s_->Stand().gewaehlt(3), "Probe");
+    EXPECT_EQ(s_->Stand().Namen[Szenario], "Probe");
+    EXPECT_EQ(s_->Stand().gewaehlt(Szenario), "Probe");
     EXPECT_FALSE(s_->Stand().Hinweis());
 }
 
@@ -204,7 +204,7 @@ TEST_F(Szenarioprobe, an_entry_of_its_own_can_be_left_and_taken_again) {
     fertig();
     EXPECT_EQ(p().Bodentiefe, 2.54);
     EXPECT_EQ(p().Szenariotemperatur, 45);
-    EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert());
+    EXPECT_FALSE(s_->Stand().Saetze[Szenario].Geaendert());
     EXPECT_FALSE(s_->Stand().Hinweis());
 }
 
@@ -244,7 +244,7 @@ TEST_F(Szenarioprobe, a_tillage_depth_too_small_in_the_record_is_corrected_by_do
     offen();
     fertig();
     EXPECT_EQ(p().Plateautiefe, 5);
-    EXPECT_TRUE(s_->Stand().Saetze[3].Geaendert());
+    EXPECT_TRUE(s_->Stand().Saetze[Szenario].Geaendert());
     EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe + 1);
 }
 
@@ -269,7 +269,7 @@ TEST_F(Szenarioprobe, the_message_about_the_tillage_depth_carries_the_informatio
     Merker Zuhoerer;
     s_ = std::make_unique<Sitzung>(Umgebung{&Zuhoerer, Wurzel_.string(), "", '.'});
     ASSERT_TRUE(s_->fuehre_aus<&Programmablauf::oeffne_Projekt>());
-    s_->fuehre_aus<&Programmablauf::starte>();
+    s_->fuehre_aus<&Programmablauf::verlasse_Startseite>();
     offen().fuehre_aus<&Szenarioeditor::waehle_Tiefe>(&Szenarioentwurf::Plateau, 24);
     fertig();
     EXPECT_EQ(Zuhoerer.letzte.Titel, "Problem!");
@@ -285,7 +285,7 @@ TEST_F(Szenarioprobe, another_text_for_the_same_number_changes_nothing) {
     s.fuehre_aus<&Szenarioeditor::aendere>(E::Bodendichte, "1,50");
     s.fuehre_aus<&Szenarioeditor::aendere>(E::Feldkapazitaet, "30 Vol%");
     fertig();
-    EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert());
+    EXPECT_FALSE(s_->Stand().Saetze[Szenario].Geaendert());
     EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe);
 }
 
@@ -300,7 +300,7 @@ TEST_F(Szenarioprobe, a_value_that_was_not_touched_keeps_its_last_bit) {
     offen();
     fertig();
     EXPECT_EQ(p().Bodendichte, genau);
-    EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert());
+    EXPECT_FALSE(s_->Stand().Saetze[Szenario].Geaendert());
 }
 
 TEST_F(Szenarioprobe, an_impossible_value_is_stored_told_and_can_be_corrected) {
@@ -319,7 +319,7 @@ TEST_F(Szenarioprobe, an_impossible_value_is_stored_told_and_can_be_corrected) {
 TEST_F(Szenarioprobe, a_comma_region_reads_and_writes_commas) {
     s_ = std::make_unique<Sitzung>(Umgebung{&Fragen_, Wurzel_.string(), "", ','});
     ASSERT_TRUE(s_->fuehre_aus<&Programmablauf::oeffne_Projekt>());
-    s_->fuehre_aus<&Programmablauf::starte>();
+    s_->fuehre_aus<&Programmablauf::verlasse_Startseite>();
     Sitzung& s = offen();
     EXPECT_EQ(Entwurf().Text(E::Bodendichte), "1,5");
     EXPECT_EQ(Entwurf().Boden.Eintraege[24], "2,5");

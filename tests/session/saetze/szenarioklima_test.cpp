@@ -11,12 +11,12 @@ TEST_F(Szenarioprobe, another_temperature_alone_starts_no_run_and_shows_the_hint
     offen().fuehre_aus<&Szenarioeditor::waehle_Temperatur>(10);
     fertig();
     EXPECT_EQ(p().Szenariotemperatur, 10);
-    EXPECT_EQ(Klimatext(s_->Stand().Felder()),
+    EXPECT_EQ(Klimatext(s_->Stand().Vorgabe),
               "10 \xC2\xB0"
               "C constant");
     EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe);
     EXPECT_TRUE(s_->Stand().Hinweis());
-    EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert());
+    EXPECT_FALSE(s_->Stand().Saetze[Szenario].Geaendert());
 }
 
 TEST_F(Szenarioprobe, a_chosen_climate_file_marks_the_scenario_and_runs) {
@@ -26,12 +26,12 @@ TEST_F(Szenarioprobe, a_chosen_climate_file_marks_the_scenario_and_runs) {
     const int Laeufe = s_->zeige<Diagrammsteuerung>().Zeichnung();
     Sitzung& s = offen();
     EXPECT_EQ(Entwurf().Klima, 1);  // none is equal: the search ends at the last entry
-    s.fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(1);
+    s.fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(nach_Klimadatei);
     s.fuehre_aus<&Szenarioeditor::waehle_Klimaszenario>(0);
     fertig();
-    EXPECT_EQ(p().Klimamodus, 1);
-    EXPECT_EQ(s_->Stand().Felder().Klimaszenario, "Site A");
-    EXPECT_TRUE(s_->Stand().Saetze[3].Geaendert());
+    EXPECT_EQ(p().Klimamodus, nach_Klimadatei);
+    EXPECT_EQ(s_->Stand().Vorgabe.Klimaszenario, "Site A");
+    EXPECT_TRUE(s_->Stand().Saetze[Szenario].Geaendert());
     EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe + 1);
 }
 
@@ -40,13 +40,13 @@ TEST_F(Szenarioprobe, a_preselected_climate_file_is_stored_with_the_variable_mod
     gestartet();
     offen();
     fertig();
-    EXPECT_EQ(Klimatext(s_->Stand().Felder()),
+    EXPECT_EQ(Klimatext(s_->Stand().Vorgabe),
               "20 \xC2\xB0"
               "C constant");
-    offen().fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(1);
+    offen().fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(nach_Klimadatei);
     fertig();
-    EXPECT_EQ(s_->Stand().Felder().Klimaszenario, "Site A");
-    EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert());
+    EXPECT_EQ(s_->Stand().Vorgabe.Klimaszenario, "Site A");
+    EXPECT_FALSE(s_->Stand().Saetze[Szenario].Geaendert());
     EXPECT_TRUE(s_->Stand().Hinweis());
 }
 
@@ -59,7 +59,7 @@ TEST_F(Szenarioprobe, without_a_climate_file_the_variable_mode_cannot_be_chosen)
 }
 
 TEST_F(Szenarioprobe, a_missing_climate_file_asks_for_the_editor_once_and_done_runs_anew) {
-    Parameter_.Klimamodus = 1;
+    Parameter_.Klimamodus = nach_Klimadatei;
     Felder_.Klimaszenario = "gone";
     schreibe_Probe();
     klimadatei("Site A");
@@ -72,7 +72,7 @@ TEST_F(Szenarioprobe, a_missing_climate_file_asks_for_the_editor_once_and_done_r
     EXPECT_FALSE(s_->zeige<Laufsteuerung>().Klimadatei_fehlt());
     abgebrochen();
     EXPECT_TRUE(s_->Stand().abgedeckt());
-    offen().fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(0);
+    offen().fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(konstante_Temperatur);
     fertig();
     EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe + 1);
     EXPECT_FALSE(s_->Stand().abgedeckt());
@@ -84,11 +84,11 @@ TEST_F(Szenarioprobe, mode_and_temperature_together_still_start_no_run) {
     const int Laeufe = s_->zeige<Diagrammsteuerung>().Zeichnung();
     Sitzung& s = offen();
     s.fuehre_aus<&Szenarioeditor::waehle_Temperatur>(7);
-    s.fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(1);
+    s.fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(nach_Klimadatei);
     fertig();
     EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe);
     EXPECT_TRUE(s_->Stand().Hinweis());
-    EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert());
+    EXPECT_FALSE(s_->Stand().Saetze[Szenario].Geaendert());
     EXPECT_FALSE(s_->Stand().abgedeckt());
     s_->fuehre_aus<&Satzverwaltung::aktualisiere>();
     EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe + 1);
@@ -98,17 +98,17 @@ TEST_F(Szenarioprobe, mode_and_temperature_together_still_start_no_run) {
 // Under variable climate no day has the scenario's temperature.
 TEST_F(Szenarioprobe, the_temperature_of_a_variable_climate_is_kept_and_makes_nothing_stale) {
     klimadatei("Site A");
-    Parameter_.Klimamodus = 1;
+    Parameter_.Klimamodus = nach_Klimadatei;
     Felder_.Klimaszenario = "Site A";
     schreibe_Probe();
     gestartet();
     Sitzung& s = offen();
-    s.fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(0);
+    s.fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(konstante_Temperatur);
     s.fuehre_aus<&Szenarioeditor::waehle_Temperatur>(7);
-    s.fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(1);
+    s.fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(nach_Klimadatei);
     fertig();
     EXPECT_EQ(p().Szenariotemperatur, 7);
-    EXPECT_EQ(s_->Stand().Felder().Klimaszenario, "Site A");
+    EXPECT_EQ(s_->Stand().Vorgabe.Klimaszenario, "Site A");
     EXPECT_FALSE(s_->Stand().Hinweis());
 }
 
@@ -130,7 +130,7 @@ TEST_F(Szenarioprobe, the_next_run_in_the_summary_uses_the_new_temperature_for_e
 TEST_F(Szenarioprobe, the_same_climate_file_chosen_again_changes_nothing) {
     klimadatei("Site A");
     klimadatei("Site B");
-    Parameter_.Klimamodus = 1;
+    Parameter_.Klimamodus = nach_Klimadatei;
     Felder_.Klimaszenario = "Site A";
     schreibe_Probe();
     gestartet();
@@ -140,7 +140,7 @@ TEST_F(Szenarioprobe, the_same_climate_file_chosen_again_changes_nothing) {
     s.fuehre_aus<&Szenarioeditor::waehle_Klimaszenario>(1);
     s.fuehre_aus<&Szenarioeditor::waehle_Klimaszenario>(0);
     fertig();
-    EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert());
+    EXPECT_FALSE(s_->Stand().Saetze[Szenario].Geaendert());
     EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe);
 }
 
@@ -150,14 +150,14 @@ TEST_F(Szenarioprobe, a_climate_file_chosen_and_not_used_changes_nothing) {
     gestartet();
     const int Laeufe = s_->zeige<Diagrammsteuerung>().Zeichnung();
     Sitzung& s = offen();
-    s.fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(1);
+    s.fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(nach_Klimadatei);
     s.fuehre_aus<&Szenarioeditor::waehle_Klimaszenario>(0);
-    s.fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(0);
+    s.fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(konstante_Temperatur);
     fertig();
-    EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert());
+    EXPECT_FALSE(s_->Stand().Saetze[Szenario].Geaendert());
     EXPECT_FALSE(s_->Stand().Hinweis());
     EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe);
-    EXPECT_EQ(Klimatext(s_->Stand().Felder()),
+    EXPECT_EQ(Klimatext(s_->Stand().Vorgabe),
               "20 \xC2\xB0"
               "C constant");
 }
@@ -166,7 +166,7 @@ TEST_F(Szenarioprobe, a_climate_file_chosen_and_not_used_changes_nothing) {
 TEST_F(Szenarioprobe, a_climate_file_named_in_another_case_is_the_one_selected_and_stays) {
     klimadatei("Site A");
     klimadatei("Site B");
-    Parameter_.Klimamodus = 1;
+    Parameter_.Klimamodus = nach_Klimadatei;
     Felder_.Klimaszenario = "site a";
     schreibe_Probe();
     gestartet();
@@ -174,7 +174,7 @@ TEST_F(Szenarioprobe, a_climate_file_named_in_another_case_is_the_one_selected_a
     offen();
     EXPECT_EQ(Entwurf().Klima, 0);
     fertig();
-    EXPECT_EQ(s_->Stand().Felder().Klimaszenario, "site a");
+    EXPECT_EQ(s_->Stand().Vorgabe.Klimaszenario, "site a");
     EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe);
 }
 
@@ -188,8 +188,8 @@ TEST_F(Szenarioprobe, done_after_a_missing_climate_file_takes_the_file_on_displa
     offen();
     EXPECT_EQ(Entwurf().Klima, 1);
     fertig();
-    EXPECT_EQ(s_->Stand().Felder().Klimaszenario, "Site B");
-    EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert());  // preselected, not chosen
+    EXPECT_EQ(s_->Stand().Vorgabe.Klimaszenario, "Site B");
+    EXPECT_FALSE(s_->Stand().Saetze[Szenario].Geaendert());  // preselected, not chosen
     EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe + 1);
     EXPECT_FALSE(s_->Stand().abgedeckt());
 }
@@ -199,12 +199,12 @@ TEST_F(Szenarioprobe, cancel_after_a_missing_climate_file_does_not_repeat_the_ru
     klimadatei("Site A");
     gestartet_mit_Meldung();
     const int Laeufe = s_->zeige<Diagrammsteuerung>().Zeichnung();
-    offen().fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(0);
+    offen().fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(konstante_Temperatur);
     abgebrochen();
     EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe);
     EXPECT_TRUE(s_->Stand().abgedeckt());
     EXPECT_FALSE(s_->zeige<Laufsteuerung>().Klimadatei_fehlt());
-    EXPECT_EQ(s_->Stand().Felder().Klimaszenario, "gone");
+    EXPECT_EQ(s_->Stand().Vorgabe.Klimaszenario, "gone");
 }
 
 // Neither a file nor a name to put in its place: no run, and the name is not lost.
@@ -214,11 +214,11 @@ TEST_F(Szenarioprobe, done_without_any_climate_file_keeps_the_name_and_runs_noth
     offen();
     EXPECT_TRUE(s_->zeige<Szenarioeditor>().darf_variabel());
     EXPECT_EQ(Entwurf().Klima, -1);
-    s_->fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(0);
+    s_->fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(konstante_Temperatur);
     EXPECT_TRUE(s_->zeige<Szenarioeditor>().darf_variabel());  // back to what the record says
-    s_->fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(1);
+    s_->fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(nach_Klimadatei);
     fertig();
-    EXPECT_EQ(s_->Stand().Felder().Klimaszenario, "gone");
+    EXPECT_EQ(s_->Stand().Vorgabe.Klimaszenario, "gone");
     EXPECT_TRUE(s_->Stand().abgedeckt());
 }
 

@@ -18,11 +18,11 @@ TEST_F(Szenarioprobe, another_name_leaves_every_value_and_marks_the_simulation_o
     EXPECT_EQ(Entwurf().Text(E::Bodendichte), "1.5");  // what was typed goes
     fertig();
     EXPECT_EQ(p().Bodendichte, 1.5);
-    EXPECT_EQ(s_->Stand().gewaehlt(3), "Another");
-    EXPECT_EQ(s_->Stand().Namen[3], "Another");
-    EXPECT_TRUE(s_->Stand().Saetze[0].Geaendert());
+    EXPECT_EQ(s_->Stand().gewaehlt(Szenario), "Another");
+    EXPECT_EQ(s_->Stand().Namen[Szenario], "Another");
+    EXPECT_TRUE(s_->Stand().Saetze[Simulation].Geaendert());
     EXPECT_TRUE(s_->Stand().Simulation_markiert());
-    EXPECT_FALSE(s_->Stand().Saetze[3].Geaendert());
+    EXPECT_FALSE(s_->Stand().Saetze[Szenario].Geaendert());
     EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe);
 }
 
@@ -45,8 +45,8 @@ TEST_F(Szenarioprobe, a_soil_name_is_copied_and_marks_the_scenario_without_a_run
     const int Laeufe = s_->zeige<Diagrammsteuerung>().Zeichnung();
     offen().fuehre_aus<&Szenarioeditor::aendere>(E::Bodenszenario, "Silt loam");
     fertig();
-    EXPECT_EQ(s_->Stand().Felder().Bodenszenario, "Silt loam");
-    EXPECT_TRUE(s_->Stand().Saetze[3].Geaendert());
+    EXPECT_EQ(s_->Stand().Vorgabe.Bodenszenario, "Silt loam");
+    EXPECT_TRUE(s_->Stand().Saetze[Szenario].Geaendert());
     EXPECT_EQ(s_->zeige<Diagrammsteuerung>().Zeichnung(), Laeufe);
 }
 
@@ -60,7 +60,7 @@ TEST_F(Szenarioprobe, a_soil_name_that_no_record_can_hold_is_refused_where_it_is
     Fragen_.erwarte("No valid input!", "\"a\tb\" cannot be the name of a soil: it holds a control character");
     EXPECT_FALSE(s.fuehre_aus<&Szenarioeditor::aendere>(E::Bodenszenario, "a\tb"));
     fertig();
-    EXPECT_EQ(s_->Stand().Felder().Bodenszenario, "Loam \xC3\xA4");
+    EXPECT_EQ(s_->Stand().Vorgabe.Bodenszenario, "Loam \xC3\xA4");
     s_->fuehre_aus<&Satzverwaltung::speichere>();
     EXPECT_NE(Datei("input/Probe.sce").find("Loam \xE4\r\n"), std::string::npos);
 }
@@ -75,7 +75,7 @@ TEST_F(Szenarioprobe, a_soil_name_with_a_tab_can_be_corrected) {
     EXPECT_TRUE(s.fuehre_aus<&Szenarioeditor::aendere>(E::Bodenszenario, "a\tbc"));
     EXPECT_TRUE(s.fuehre_aus<&Szenarioeditor::aendere>(E::Bodenszenario, "abc"));
     fertig();
-    EXPECT_EQ(s_->Stand().Felder().Bodenszenario, "abc");
+    EXPECT_EQ(s_->Stand().Vorgabe.Bodenszenario, "abc");
 }
 
 TEST_F(Szenarioprobe, the_same_name_chosen_again_keeps_what_was_typed) {
@@ -92,10 +92,10 @@ TEST_F(Szenarioprobe, another_name_keeps_temperature_and_mode) {
     klimadatei("Site A");
     Sitzung& s = offen();
     s.fuehre_aus<&Szenarioeditor::waehle_Temperatur>(7);
-    s.fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(1);
+    s.fuehre_aus<&Szenarioeditor::waehle_Klimabedingungen>(nach_Klimadatei);
     s.fuehre_aus<&Szenarioeditor::waehle_Szenario>(0);
     EXPECT_EQ(Entwurf().Temperatur, 7);
-    EXPECT_EQ(Entwurf().Klimamodus, 1);
+    EXPECT_EQ(Entwurf().Klimamodus, nach_Klimadatei);
 }
 
 // Another program has deleted the file: the values on the screen are still those of that record.
@@ -106,8 +106,8 @@ TEST_F(Szenarioprobe, a_scenario_whose_file_is_gone_stays_selected) {
     offen().fuehre_aus<&Szenarioeditor::aendere>(E::Bodendichte, "2");
     EXPECT_EQ(Entwurf().Szenarien[static_cast<std::size_t>(Entwurf().Szenario)], "Probe");
     fertig();
-    EXPECT_EQ(s_->Stand().gewaehlt(3), "Probe");
-    EXPECT_FALSE(s_->Stand().Saetze[0].Geaendert());
+    EXPECT_EQ(s_->Stand().gewaehlt(Szenario), "Probe");
+    EXPECT_FALSE(s_->Stand().Saetze[Simulation].Geaendert());
     s_->fuehre_aus<&Satzverwaltung::speichere>();
     EXPECT_NE(Datei("input/Probe.sce").find("Soil density (kg/L):\t2\r\n"), std::string::npos);
     EXPECT_NE(Datei("input/Another.sce").find("Soil density (kg/L):\t1.1\r\n"), std::string::npos);
@@ -134,9 +134,9 @@ TEST_F(Szenarioprobe, without_a_scenario_the_last_one_is_preselected_and_done_re
     EXPECT_EQ(Entwurf().Szenarien[static_cast<std::size_t>(Entwurf().Szenario)], "Probe");
     s_->fuehre_aus<&Szenarioeditor::waehle_Szenario>(0);
     fertig();
-    EXPECT_EQ(s_->Stand().gewaehlt(3), "Another");
+    EXPECT_EQ(s_->Stand().gewaehlt(Szenario), "Another");
     EXPECT_EQ(p().Bodendichte, 1.1);  // the file's, as nothing was typed
-    EXPECT_TRUE(s_->Stand().Saetze[0].Geaendert());
+    EXPECT_TRUE(s_->Stand().Saetze[Simulation].Geaendert());
     EXPECT_FALSE(s_->Stand().abgedeckt());
 }
 
@@ -147,9 +147,9 @@ TEST_F(Szenarioprobe, without_a_scenario_what_was_typed_stands_under_the_name_ch
     s.fuehre_aus<&Szenarioeditor::waehle_Szenario>(0);
     s.fuehre_aus<&Szenarioeditor::aendere>(E::Bodendichte, "2.2");
     fertig();
-    EXPECT_EQ(s_->Stand().gewaehlt(3), "Another");
+    EXPECT_EQ(s_->Stand().gewaehlt(Szenario), "Another");
     EXPECT_EQ(p().Bodendichte, 2.2);
-    EXPECT_TRUE(s_->Stand().Saetze[3].Geaendert());
+    EXPECT_TRUE(s_->Stand().Saetze[Szenario].Geaendert());
     EXPECT_FALSE(s_->Stand().abgedeckt());
 }
 
@@ -157,9 +157,9 @@ TEST_F(Szenarioprobe, cancel_without_a_scenario_selects_none) {
     ohne_Szenario_geladen();
     offen();
     abgebrochen();
-    EXPECT_EQ(s_->Stand().Auswahl(3), -1);
-    EXPECT_EQ(s_->Stand().gewaehlt(3), "");
-    EXPECT_EQ(s_->Stand().Namen[3], "gone");  // as its simulation says
+    EXPECT_EQ(s_->Stand().Auswahl(Szenario), -1);
+    EXPECT_EQ(s_->Stand().gewaehlt(Szenario), "");
+    EXPECT_EQ(s_->Stand().Namen[Szenario], "gone");  // as its simulation says
     EXPECT_TRUE(s_->Stand().abgedeckt());
 }
 

@@ -38,7 +38,7 @@ protected:
     }
     // The record names a climate file that is not there.
     void ohne_Klimadatei() {
-        Parameter_.Klimamodus = 1;
+        Parameter_.Klimamodus = nach_Klimadatei;
         Felder_.Klimaszenario = "gone";
         schreibe_Probe();
     }
@@ -53,10 +53,10 @@ protected:
         const auto Pfad = Wurzel_ / "input/Torn.vnk";
         std::filesystem::last_write_time(Pfad, std::filesystem::last_write_time(Pfad) - std::chrono::hours(1));
         gestartet();
-        const auto& Liste = s_->Stand().Listen[0];
+        const auto& Liste = s_->Stand().Listen[Simulation];
         s_->fuehre_aus<&Satzverwaltung::waehle_Simulation>(
             static_cast<int>(std::find(Liste.begin(), Liste.end(), "Torn") - Liste.begin()));
-        ASSERT_EQ(s_->Stand().Auswahl(3), -1);
+        ASSERT_EQ(s_->Stand().Auswahl(Szenario), -1);
     }
     void zweites_Szenario() {
         Eingabe andere = Felder_;

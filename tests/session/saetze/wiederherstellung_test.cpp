@@ -74,7 +74,7 @@ TEST_F(Restoreprobe, brings_several_back_and_keeps_what_they_replace) {
     s_->fuehre_aus<&Wiederherstellung::stelle_her>(suche({"Probe.che", "Gone.app"}));
     EXPECT_EQ(Datei("input/Probe.che"), damals);
     EXPECT_EQ(Datei("input/Gone.app"), Datei("input/Probe.app"));
-    EXPECT_EQ(z().Felder().Name_Wirkstoff, "Old one") << "the screen shows what came back";
+    EXPECT_EQ(z().Vorgabe.Name_Wirkstoff, "Old one") << "the screen shows what came back";
     EXPECT_FALSE(z().abgedeckt());
     EXPECT_EQ(z().Listen[Applikation], (std::vector<std::string>{"Gone", "Probe"}));
     const auto neu = Angebot().front();
@@ -88,7 +88,7 @@ TEST_F(Restoreprobe, keeps_what_was_entered_for_the_record_on_the_screen) {
     gestartet();
     tippe("S_DT50_0", "12");
     s_->fuehre_aus<&Wiederherstellung::stelle_her>(suche({"Probe.che"}));
-    EXPECT_EQ(z().Felder().Name_Wirkstoff, "Old one");
+    EXPECT_EQ(z().Vorgabe.Name_Wirkstoff, "Old one");
     const auto Alle = Angebot();
     EXPECT_EQ(Alle[0].Dateiname, "Probe.che");
     EXPECT_EQ(Alle[1].Dateiname, "unsaved Probe.che");
@@ -158,7 +158,7 @@ TEST_F(Versagende_Platte_beim_Restore, what_came_back_before_it_failed_is_told_a
     Fragen_.erwarte_Anfang("Runtime error", "Cannot write the file \"" + (Wurzel_ / "input/Probe.app").string());
     s_->fuehre_aus<&Wiederherstellung::stelle_her>(Gewaehlte);
     EXPECT_EQ(Datei("input/Probe.che"), Wirkstoffsatz("Old one"));
-    EXPECT_EQ(z().Felder().Name_Wirkstoff, "Old one");
+    EXPECT_EQ(z().Vorgabe.Name_Wirkstoff, "Old one");
     EXPECT_TRUE(z().Statuszeile.Text().starts_with("Restored: \"Probe.che\".")) << z().Statuszeile.Text();
     EXPECT_EQ(Datei("input/Probe.app"), vorher);
 }

@@ -19,8 +19,6 @@ namespace {
 namespace fs = std::filesystem;
 using Bytes_nach_Namen = std::map<std::string, std::string>;
 
-constexpr std::array<Satzart, 4> alle_Arten = {Simulation, Wirkstoff, Applikation, Szenario};
-
 class Antworter : public Rueckfrage {
 public:
     Knopf frage(const Frage& f) override {
@@ -60,7 +58,7 @@ protected:
             schreibe_Saetze(Name, Felder_);
             schreibe_Simulation(Projektordner(Wurzel_.string()), Name, {"About " + Name, {"", Name, Name, Name}});
         }
-        for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) {
+        for (const Satzart Art : Eingabearten) {
             const auto Vorlage = Wurzel_ / "input" / (std::string("do not delete this file") + Endungen[Art + 3]);
             fs::copy_file(Wurzel_ / "input" / (std::string("beta") + Endungen[Art]), Vorlage);
         }
@@ -85,7 +83,7 @@ protected:
         return Gefundene;
     }
     int ganze_Zahl(int bis) { return std::uniform_int_distribution<int>(0, bis - 1)(Zufall_); }
-    Satzart Satz() { return std::array{Wirkstoff, Applikation, Szenario}.at(static_cast<std::size_t>(ganze_Zahl(3))); }
+    Satzart Satz() { return Eingabearten.at(static_cast<std::size_t>(ganze_Zahl(3))); }
     Satzart Art() { return alle_Arten.at(static_cast<std::size_t>(ganze_Zahl(4))); }
     const Zustand& z() const { return s_->Stand(); }
 
@@ -121,7 +119,7 @@ void Versagende_Platte_im_Gang::oeffne() {
     s_.reset();
     s_ = std::make_unique<Sitzung>(Umgebung{&Antworten_, Wurzel_.string(), "", '.'});
     ASSERT_TRUE(s_->fuehre_aus<&Programmablauf::oeffne_Projekt>()) << Antworten_.gehoert;
-    s_->fuehre_aus<&Programmablauf::starte>();
+    s_->fuehre_aus<&Programmablauf::verlasse_Startseite>();
 }
 
 // A record that is kept elsewhere, or a trap.
@@ -217,7 +215,7 @@ std::string Versagende_Platte_im_Gang::handle_mit_Dateien() {
             break;
     }
     constexpr std::array Namen = {"alpha", "beta", "gamma", "delta", "epsilon", "zeta"};
-    s_->fuehre_aus<&Satzverwaltung::benenne_um>(t, Namen.at(static_cast<std::size_t>(ganze_Zahl(6))), ganze_Zahl(3) > 0);
+    benenne_um(*s_, t, Namen.at(static_cast<std::size_t>(ganze_Zahl(6))), ganze_Zahl(3) > 0);
     return "rename";
 }
 

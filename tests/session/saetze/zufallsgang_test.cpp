@@ -61,23 +61,23 @@ protected:
             schreibe_Saetze(Name, Felder_);
             schreibe_Simulation(Ordner, Name, {"About " + Name, {"", Name, Name, Name}});
         }
-        for (const Satzart t : Saetze) {
+        for (const Satzart t : Eingabearten) {
             const auto Vorlage = Wurzel_ / "input" / (std::string("do not delete this file") + Endungen[t + 3]);
             std::filesystem::copy_file(Wurzel_ / "input" / (std::string("beta") + Endungen[t]), Vorlage);
         }
         s_ = std::make_unique<Sitzung>(Umgebung{&Antworten_, Wurzel_.string(), "", '.', &Zeit_});
         EXPECT_TRUE(s_->fuehre_aus<&Programmablauf::oeffne_Projekt>());
-        s_->fuehre_aus<&Programmablauf::starte>();
+        s_->fuehre_aus<&Programmablauf::verlasse_Startseite>();
         beginne_Modell();
     }
 
     void beginne_Modell() {
         m_.Platte = lies("input");
-        const std::string Name = s_->Stand().gewaehlt(0);
+        const std::string Name = s_->Stand().gewaehlt(Simulation);
         m_.Name = m_.gelesen = {Name, Name, Name, Name};
         m_.Schirm[0] = "About " + Name;
-        for (const Satzart t : Saetze) m_.Schirm[t] = m_.Platte.at(Name + Endungen[t]);
-        for (const Satzart t : {Simulation, Wirkstoff, Applikation, Szenario}) m_.merke(t);
+        for (const Satzart t : Eingabearten) m_.Schirm[t] = m_.Platte.at(Name + Endungen[t]);
+        for (const Satzart t : alle_Arten) m_.merke(t);
     }
 
     Dateien lies(const std::filesystem::path& Ordner) const {
@@ -103,7 +103,7 @@ protected:
 
     int ganze_Zahl(int bis) { return std::uniform_int_distribution<int>(0, bis - 1)(Zufall_); }
     Satzart Art() { return static_cast<Satzart>(ganze_Zahl(4)); }
-    Satzart Satz() { return Saetze[static_cast<std::size_t>(ganze_Zahl(3))]; }
+    Satzart Satz() { return Eingabearten[static_cast<std::size_t>(ganze_Zahl(3))]; }
 
     // Does one command on the program and on the model; gives its name for messages.
     std::string handle();
@@ -165,7 +165,7 @@ std::string Zufallsgang::handle_mit_Dateien(int Wahl) {
     constexpr std::array<const char*, 6> Namen = {"alpha", "beta", "gamma", "delta", "epsilon", "zeta"};
     const std::string Name = Namen[static_cast<std::size_t>(ganze_Zahl(6))];
     const bool Enter = ganze_Zahl(3) > 0;
-    s_->fuehre_aus<&Satzverwaltung::benenne_um>(t, Name + (ganze_Zahl(2) == 0 ? Endungen[t] : ""), Enter);
+    benenne_um(*s_, t, Name + (ganze_Zahl(2) == 0 ? Endungen[t] : ""), Enter);
     m_.benenne_um(t, Name, Enter);
     return "rename";
 }
@@ -205,8 +205,8 @@ void Zufallsgang::vergleiche(const Textliste& bisher) {
     EXPECT_EQ(lies("input"), m_.Platte);
     EXPECT_EQ(Antworten_.gefragt, m_.Fragen);
     EXPECT_EQ(z.abgedeckt(), !m_.vollstaendig());
-    EXPECT_EQ(z.Felder().Beschreibung, m_.Schirm[0]);
-    for (const Satzart t : {Simulation, Wirkstoff, Applikation, Szenario}) {
+    EXPECT_EQ(z.Vorgabe.Beschreibung, m_.Schirm[0]);
+    for (const Satzart t : alle_Arten) {
         EXPECT_EQ(z.Saetze[t].Geaendert(), m_.geaendert[t]);
         EXPECT_EQ(z.Listen[t], m_.Liste(t));
         EXPECT_EQ(z.gewaehlt(t), m_.Name[t]);

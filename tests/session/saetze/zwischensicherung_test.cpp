@@ -70,7 +70,7 @@ TEST_F(Absturz, another_simulation_with_another_record_and_description_comes_bac
     starte_neu(Knopf::Ja);
     EXPECT_EQ(z().gewaehlt(Simulation), "Second");
     EXPECT_EQ(z().gewaehlt(Szenario), "Probe");
-    EXPECT_EQ(z().Felder().Beschreibung, "Typed");
+    EXPECT_EQ(z().Vorgabe.Beschreibung, "Typed");
     EXPECT_EQ(Feldtext("Applikationsrate"), "700");
     EXPECT_TRUE(z().Simulation_markiert());
     EXPECT_EQ(Datei("input/Second.vnk"), Zeilen("The second one", "Second", "Second", "Second"));
@@ -117,7 +117,7 @@ TEST_F(Absturz, the_second_window_leaves_that_of_the_first_alone) {
     Sitzung zweite(Umgebung{&Fragen_, Wurzel_.string(), "", '.'});
     Fragen_.erwarte_Anfang("Project folder in use", "Another window", Knopf::OK);
     ASSERT_TRUE(zweite.fuehre_aus<&Programmablauf::oeffne_Projekt>());
-    zweite.fuehre_aus<&Programmablauf::starte>();
+    zweite.fuehre_aus<&Programmablauf::verlasse_Startseite>();
     zweite.fuehre_aus<&Zwischensicherung::schreibe>();
     EXPECT_EQ(Datei("backup/unsaved"), erstes);
 }

@@ -49,7 +49,7 @@ private Q_SLOTS:
         p_->druecke("S_DT50_0", Qt::Key_Return);
         QCOMPARE(Zeichnung(), vorher);
         QVERIFY(!Hinweis());
-        QVERIFY(!Stand().Saetze[1].Geaendert());
+        QVERIFY(!Stand().Saetze[Wirkstoff].Geaendert());
         p_->tippe("S_DT50_0", "12");
         p_->druecke("S_DT50_0", Qt::Key_Return);
         p_->druecke("S_DT50_0", Qt::Key_Return);
@@ -117,8 +117,8 @@ private Q_SLOTS:
         QVERIFY(Hinweis());
         p_->druecke("S_DT50_0", Qt::Key_Tab);
         QCOMPARE(k_SFO(), std::log(2.0) / 17);
-        QVERIFY(Stand().Saetze[1].Geaendert());
-        QVERIFY(!Stand().Saetze[2].Geaendert() && !Stand().Saetze[3].Geaendert());
+        QVERIFY(Stand().Saetze[Wirkstoff].Geaendert());
+        QVERIFY(!Stand().Saetze[Applikation].Geaendert() && !Stand().Saetze[Szenario].Geaendert());
         QCOMPARE(Zeichnung(), vorher + 1);
         QVERIFY(!Hinweis());
         QVERIFY(!p_->sichtbar("Abdeckung"));
@@ -178,8 +178,8 @@ private Q_SLOTS:
         p_->tippe("Applikationsrate", "2000");
         p_->druecke("Applikationsrate", Qt::Key_Tab);
         QCOMPARE(p_->Zelle("Ergebnisse_0", 1, 1), u"2.6667"_s);
-        QVERIFY(Stand().Saetze[2].Geaendert());
-        QVERIFY(!Stand().Saetze[1].Geaendert());
+        QVERIFY(Stand().Saetze[Applikation].Geaendert());
+        QVERIFY(!Stand().Saetze[Wirkstoff].Geaendert());
         // Half of it is kept from the soil by the crop.
         p_->tippe("Interzeption", "50");
         p_->druecke("Interzeption", Qt::Key_Return);
@@ -211,7 +211,7 @@ private Q_SLOTS:
         const int vorher = Zeichnung();
         p_->tippe(dieses, "New name");
         QCOMPARE(Feld(anderes)->text(), u"New name"_s);
-        QVERIFY(Stand().Saetze[1].Geaendert());
+        QVERIFY(Stand().Saetze[Wirkstoff].Geaendert());
         QCOMPARE(Zeichnung(), vorher);
         p_->druecke(dieses, Qt::Key_Tab);
         QCOMPARE(Zeichnung(), vorher + 1);
@@ -224,7 +224,7 @@ private Q_SLOTS:
         QTest::mouseClick(Feld("Name_Wirkstoff_0"), Qt::LeftButton);
         p_->druecke("Name_Wirkstoff_0", Qt::Key_Tab);
         QCOMPARE(Zeichnung(), vorher);
-        QVERIFY(!Stand().Saetze[1].Geaendert());
+        QVERIFY(!Stand().Saetze[Wirkstoff].Geaendert());
     }
 
     // Esc brings everything back: nothing is left to run.

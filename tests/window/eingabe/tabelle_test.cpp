@@ -68,7 +68,7 @@ private Q_SLOTS:
         QTest::sendKeyEvent(QTest::Click, t_, static_cast<Qt::Key>(Taste), Zeichen,
                             Ziffernblock ? Qt::KeypadModifier : Qt::NoModifier);
         QCOMPARE(t_->item(0, 2)->text(), danach);
-        QCOMPARE(Stand().Saetze[2].Geaendert(), danach != u"400"_s);
+        QCOMPARE(Stand().Saetze[Applikation].Geaendert(), danach != u"400"_s);
         QCOMPARE(Hinweis(), danach.toDouble() != 400);  // "400." is the same number
         QCOMPARE(p_->Programm().zeige<Diagrammsteuerung>().Zeichnung(), vorher);
         QCOMPARE(t_->currentRow(), 0);
@@ -115,7 +115,7 @@ private Q_SLOTS:
         QCOMPARE(t_->item(2, 3)->text(), u"20"_s);
         QCOMPARE(t_->item(0, 2)->text(), u"400"_s);
         QVERIFY(Hinweis());
-        QVERIFY(Stand().Saetze[2].Geaendert());
+        QVERIFY(Stand().Saetze[Applikation].Geaendert());
     }
 
     void what_is_pasted_beyond_the_table_is_dropped() {
@@ -152,7 +152,7 @@ private Q_SLOTS:
         QCOMPARE(t_->item(4, 2)->text(), fuenfte);
         QVERIFY(!Hinweis());  // the results are those of this table
         QCOMPARE(p_->Programm().zeige<Diagrammsteuerung>().Zeichnung(), vorher);
-        QVERIFY(!Stand().Saetze[2].Geaendert());
+        QVERIFY(!Stand().Saetze[Applikation].Geaendert());
     }
 
     void enter_ends_the_summary_view() {

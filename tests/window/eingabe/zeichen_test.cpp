@@ -36,7 +36,7 @@ private Q_SLOTS:
         QApplication::clipboard()->setText(u"\u03B1-Compound \u03A9 1\r\n"_s);
         QTest::keySequence(Feld, QKeySequence::Paste);
         QCOMPARE(Feld->text(), u"-Compound  1 "_s);
-        QCOMPARE(in_Qt(Stand().Felder().Name_Wirkstoff), u"-Compound  1 "_s);
+        QCOMPARE(in_Qt(Stand().Vorgabe.Name_Wirkstoff), u"-Compound  1 "_s);
         QTRY_VERIFY(Statuszeile().endsWith(u"\"\u03B1\" was left out: the records have no such character."_s));
     }
 

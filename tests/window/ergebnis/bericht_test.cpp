@@ -248,7 +248,7 @@ private Q_SLOTS:
         for (const char* Simulation : {"Programcheck", "Vines, Compound D", "Potatoes, Compound C", "Programcheck"}) {
             p_->waehle_Simulation(Simulation);
             p_->klicke("Bericht_erstellen");
-            QVERIFY(Blatt->toPlainText().contains(QString::fromStdString(p_->Programm().Stand().Felder().Beschreibung)));
+            QVERIFY(Blatt->toPlainText().contains(QString::fromStdString(p_->Programm().Stand().Vorgabe.Beschreibung)));
             p_->klicke("Bericht_erstellen");  // over the open one
             QVERIFY(p_->sichtbar("Bericht"));
             p_->klicke("Bericht_schliessen");

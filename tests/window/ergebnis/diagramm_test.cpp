@@ -328,7 +328,7 @@ private Q_SLOTS:
         for (int st = 0; st < 6; ++st) {
             auto* l = p_->Fenster().findChild<QLabel*>(u"L_Studie_Zusammenfassung_"_s + in_Qt(36 + st));
             QVERIFY(l && l->isVisible());
-            QCOMPARE(l->text(), in_Qt(p_->Programm().Stand().Felder().Studie[static_cast<std::size_t>(st)]));
+            QCOMPARE(l->text(), in_Qt(p_->Programm().Stand().Vorgabe.Studie[static_cast<std::size_t>(st)]));
         }
         QCOMPARE(p_->Teil<QWidget>("Legendenrahmen_Zusammenfassung_6")->findChildren<QLabel*>().size(), 6);
     }

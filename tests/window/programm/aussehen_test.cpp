@@ -228,7 +228,7 @@ private Q_SLOTS:
             QCOMPARE(Metabolitenschilder("Metabolismusschema"), Schild);
         }
         // The record's own scheme is no change.
-        QCOMPARE(p_->Programm().Stand().Saetze[1].Geaendert(), Schema != nur_Wirkstoff);
+        QCOMPARE(p_->Programm().Stand().Saetze[Wirkstoff].Geaendert(), Schema != nur_Wirkstoff);
         Fragen_.nimm();
     }
 

@@ -37,22 +37,22 @@ private Q_SLOTS:
         const int vorher = Zeichnung();
         const int alt = Monat->currentIndex();
         p_->druecke("App_Monat", Qt::Key_Down);
-        QCOMPARE(Stand().Felder().App_Monat, alt + 1);
+        QCOMPARE(Stand().Vorgabe.App_Monat, alt + 1);
         QCOMPARE(Zeichnung(), vorher);  // in a constant climate no run reads the date
         QVERIFY(!Hinweis());
-        QVERIFY(Stand().Saetze[2].Geaendert());
+        QVERIFY(Stand().Saetze[Applikation].Geaendert());
         p_->Teil<QComboBox>("S_Kinetik_0")->setFocus();
         p_->druecke("S_Kinetik_0", Qt::Key_Down);
         QCOMPARE(Stand().Parameter().Kinetik[0][0], DFOP);
         QCOMPARE(Zeichnung(), vorher + 1);
-        QVERIFY(Stand().Saetze[1].Geaendert());
+        QVERIFY(Stand().Saetze[Wirkstoff].Geaendert());
     }
 
     void arrow_keys_choose_an_option() {
         p_->Teil<QRadioButton>("Applikationsmuster_0")->setFocus();
         QTest::keyClick(p_->Teil<QRadioButton>("Applikationsmuster_0"), Qt::Key_Right);
         QTest::qWait(5);
-        QCOMPARE(Stand().Felder().Applikationsmuster, regelmaessig);
+        QCOMPARE(Stand().Vorgabe.Applikationsmuster, regelmaessig);
         QVERIFY(p_->Teil<QRadioButton>("Applikationsmuster_1")->isChecked());
     }
 
@@ -90,7 +90,7 @@ private Q_SLOTS:
         p_->waehle("PEC_Typ_0");
         p_->waehle("Endpunkt_1");
         QCOMPARE(Zeichnung(), vorher);
-        QVERIFY(!Stand().Saetze[2].Geaendert());
+        QVERIFY(!Stand().Saetze[Applikation].Geaendert());
     }
 
     // Looking at another compound, study or view is no modification.
@@ -100,7 +100,7 @@ private Q_SLOTS:
         p_->waehle_Eintrag("Studie", 3);
         p_->waehle_Eintrag("TWA_Laenge", 2);
         p_->waehle_Eintrag("Fruchtwechsel", 2);
-        for (std::size_t t = 0; t <= 3; ++t) QVERIFY(!Stand().Saetze[t].Geaendert());
+        for (const Satzart t : alle_Arten) QVERIFY(!Stand().Saetze[t].Geaendert());
         QVERIFY(!Hinweis());
         QVERIFY(!p_->sichtbar("Abdeckung"));
         Fragen_.nimm();
@@ -127,7 +127,7 @@ private Q_SLOTS:
         auto* Saetze = p_->Teil<QComboBox>("Liste_3");
         p_->waehle_Eintrag("Liste_3", Saetze->findText(u"Orchard, no tillage"_s));
         QCOMPARE(Liste->palette().color(QPalette::Button), QColor(192, 255, 255));
-        QVERIFY(Stand().Saetze[0].Geaendert());
+        QVERIFY(Stand().Saetze[Simulation].Geaendert());
         QVERIFY(!p_->sichtbar("Abdeckung"));
         p_->klicke("speichern");
         QCOMPARE(Liste->palette().color(QPalette::Button), vorher);

@@ -148,7 +148,7 @@ private Q_SLOTS:
         QVERIFY(p_->Inhalt(u"input/Programcheck.app"_s).contains("Application rate (g/ha):\t750"));
         QCOMPARE(p_->Inhalt(Zusammenfassung).count("\r\n"), 4);
         QVERIFY(p_->Inhalt(Einstellungsdatei).isEmpty());
-        for (std::size_t t = 1; t <= 3; ++t) QVERIFY(!p_->Programm().Stand().Saetze[t].Geaendert());
+        for (const Satzart t : Eingabearten) QVERIFY(!p_->Programm().Stand().Saetze[t].Geaendert());
         QVERIFY(p_->Fenster().isVisible());
         loese_aus("Ende");
         QCOMPARE(Fragen_.nimm(), QStringList());
@@ -276,7 +276,7 @@ private Q_SLOTS:
         QVERIFY2(Kaesten.back().section(u"Programcheck.che"_s, 1).size() > 5, qPrintable(Kaesten.back()));
         QVERIFY(p_->Fenster().isVisible());
         QCOMPARE(p_->Teil<QLineEdit>("S_DT50_0")->text(), u"17"_s);
-        QVERIFY(p_->Programm().Stand().Saetze[1].Geaendert());
+        QVERIFY(p_->Programm().Stand().Saetze[Wirkstoff].Geaendert());
         // Once the way is free the same command goes through.
         QVERIFY(QDir(p_->Pfad(Satzdatei)).removeRecursively());
         p_->klicke("speichern");
@@ -324,7 +324,7 @@ private Q_SLOTS:
         QVERIFY(p_->Fenster().isVisible());
         QVERIFY(!p_->Programm().Stand().beendet());
         QCOMPARE(p_->Teil<QLineEdit>("S_DT50_0")->text(), u"17"_s);
-        QVERIFY(p_->Programm().Stand().Saetze[1].Geaendert());
+        QVERIFY(p_->Programm().Stand().Saetze[Wirkstoff].Geaendert());
         QCOMPARE(p_->Inhalt(Satzdatei), alt);
     }
 
@@ -339,13 +339,13 @@ private Q_SLOTS:
         QTest::mouseClick(Feld, Qt::LeftButton);
         QTest::keyClicks(Feld, u"x"_s);
         QCOMPARE(Feld->text(), alt);
-        QVERIFY(!p_->Programm().Stand().Saetze[0].Geaendert());
+        QVERIFY(!p_->Programm().Stand().Saetze[Simulation].Geaendert());
         schliesse_auf();
         QCOMPARE(Farbe(), QColor(255, 255, 0));
         QVERIFY(!QApplication::activePopupWidget());
         p_->druecke("Beschreibung", Qt::Key_End);
         QTest::keyClicks(Feld, u" x"_s);
-        QVERIFY(p_->Programm().Stand().Saetze[0].Geaendert());
+        QVERIFY(p_->Programm().Stand().Saetze[Simulation].Geaendert());
         p_->druecke("Beschreibung", Qt::Key_Return);
         QVERIFY(Feld->isReadOnly());
         QCOMPARE(Farbe(), Ruhefarbe);
@@ -362,7 +362,7 @@ private Q_SLOTS:
         p_->druecke("Beschreibung", Qt::Key_Tab);
         QVERIFY(Beschreibung()->isReadOnly());
         QCOMPARE(Beschreibung()->text(), u"New text"_s);
-        QCOMPARE(p_->Programm().Stand().Felder().Beschreibung, std::string("New text"));
+        QCOMPARE(p_->Programm().Stand().Vorgabe.Beschreibung, std::string("New text"));
     }
 
     void esc_locks_the_description_and_brings_its_text_back() {

@@ -31,10 +31,10 @@ void verderbe(const QString& Pfad) {
     const Projektordner Ordner(aus_Qt(Pfad));
     Eingabe e;
     Ansicht a;
-    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) Satz_lesen(Ordner, "Programcheck", Art, e, a, '.');
+    for (const Satzart Art : Eingabearten) Satz_lesen(Ordner, "Programcheck", Art, e, a, '.');
     e.Name_Wirkstoff = e.Name_Met_1 = e.Name_Met_2 = e.Bodenszenario = boese;
     e.Studie.assign(2, boese);
-    for (const Satzart Art : {Wirkstoff, Applikation, Szenario}) {
+    for (const Satzart Art : Eingabearten) {
         const std::string Name = "<i>" + std::string(Endungen[Art] + 1) + "&amp;";
         Satz_schreiben(Ordner, Name, Art, e, a);
     }

@@ -160,12 +160,12 @@ private Q_SLOTS:
         p_->starte();
         p_->tippe("S_DT50_0", "20");
         p_->druecke("S_DT50_0", Qt::Key_S, Qt::ControlModifier);
-        QVERIFY(!p_->Programm().Stand().Saetze[1].Geaendert());
+        QVERIFY(!p_->Programm().Stand().Saetze[Wirkstoff].Geaendert());
         QCOMPARE(QApplication::focusWidget()->objectName(), u"S_DT50_0"_s);
         QTest::keyClick(p_->Teil<QLineEdit>("S_DT50_0"), Qt::Key_End);
         QTest::keyClicks(p_->Teil<QLineEdit>("S_DT50_0"), u"5"_s);
         QCOMPARE(p_->Teil<QLineEdit>("S_DT50_0")->text(), u"205"_s);
-        QVERIFY(p_->Programm().Stand().Saetze[1].Geaendert());
+        QVERIFY(p_->Programm().Stand().Saetze[Wirkstoff].Geaendert());
     }
 
     void another_cell_can_be_typed_in_after_a_message() {
@@ -255,7 +255,7 @@ private Q_SLOTS:
                         Qt::NoScrollPhase, false);
         QApplication::sendEvent(Liste, &Rad);
         QCOMPARE(Liste->currentIndex(), vorher);
-        QCOMPARE(p_->Programm().Stand().Felder().App_Monat, vorher);
+        QCOMPARE(p_->Programm().Stand().Vorgabe.App_Monat, vorher);
     }
 
     void space_presses_a_button_and_enter_does_not() {
@@ -276,7 +276,7 @@ private Q_SLOTS:
         QTest::mouseClick(Feld, Qt::RightButton);
         QVERIFY(!Feld->isReadOnly());
         QTest::keyClicks(Feld, u"x"_s);
-        QCOMPARE(in_Qt(p_->Programm().Stand().Felder().Beschreibung), Feld->text());
+        QCOMPARE(in_Qt(p_->Programm().Stand().Vorgabe.Beschreibung), Feld->text());
         QVERIFY(Feld->text() != alt);
         QTest::keyClick(Feld, Qt::Key_Escape);
         QVERIFY(Feld->isReadOnly());

@@ -141,7 +141,7 @@ private Q_SLOTS:
         tippe_weiter(u"42 days"_s);
         QTest::keyClick(p_->Fenster().windowHandle(), Qt::Key_Return);
         QTest::qWait(5);
-        QCOMPARE(Stand().Felder().Beschreibung, std::string("42 days"));
+        QCOMPARE(Stand().Vorgabe.Beschreibung, std::string("42 days"));
         QCOMPARE(feld("S_DT50_0")->text(), Zahl.isEmpty() ? alt : QString::fromLatin1(Zahl));
         QVERIFY(feld("Beschreibung")->isReadOnly());
         QCOMPARE(Fragen_.nimm(), QStringList());

@@ -134,9 +134,9 @@ class Zugangtest : public QObject {
 private:
     // As the program does on such a desktop.
     static void stelle_Palette_ein(QPalette p) {
-        const QPalette Auswahl = lesbare_Auswahl(p);
+        const QPalette Markierung = lesbare_Markierung(p);
         for (const auto Gruppe : {QPalette::Active, QPalette::Inactive})
-            p.setColor(Gruppe, QPalette::Highlight, Auswahl.color(Gruppe, QPalette::Highlight));
+            p.setColor(Gruppe, QPalette::Highlight, Markierung.color(Gruppe, QPalette::Highlight));
         QApplication::setPalette(p);
     }
     // Everything on the screen of a window.

@@ -81,7 +81,7 @@ private Q_SLOTS:
         QVERIFY(!Feld->isVisible());
         QVERIFY(liste("Simulationsliste")->hasFocus());
         QVERIFY(QFile::exists(p_->Pfad(u"input/Programcheck.vnk"_s)));
-        QVERIFY(!p_->Programm().Stand().Saetze[0].Geaendert());
+        QVERIFY(!p_->Programm().Stand().Saetze[Simulation].Geaendert());
     }
 
     void leaving_the_box_renames_and_a_taken_name_is_told_and_given_up() {
@@ -190,7 +190,7 @@ private Q_SLOTS:
         QTest::qWait(20);
         QCOMPARE(liste("Studie")->count(), Zahl);
         QVERIFY(p_->Teil<QAction>("M_Addiere")->isEnabled());
-        QVERIFY(!p_->Programm().Stand().Saetze[1].Geaendert());
+        QVERIFY(!p_->Programm().Stand().Saetze[Wirkstoff].Geaendert());
     }
 
     void leaving_the_box_adds_the_study() {

@@ -43,7 +43,7 @@ private Q_SLOTS:
         }
         QTest::qWait(1);
         QCOMPARE(l->currentText(), vorher);
-        QVERIFY(!p_->Programm().Stand().Saetze[0].Geaendert());
+        QVERIFY(!p_->Programm().Stand().Saetze[Simulation].Geaendert());
     }
 
     void a_letter_opens_the_list_and_searches_in_it_data() { nenne_Listen(); }
@@ -84,7 +84,7 @@ private Q_SLOTS:
         }
         QTest::qWait(1);
         QCOMPARE(l->currentText(), vorher);
-        QVERIFY(!p_->Programm().Stand().Saetze[0].Geaendert());
+        QVERIFY(!p_->Programm().Stand().Saetze[Simulation].Geaendert());
         QCOMPARE(Fragen_.nimm(), QStringList());
     }
 
@@ -141,7 +141,7 @@ private Q_SLOTS:
         QCOMPARE(l->currentText(), u"Programcheck"_s);
         QCOMPARE(p_->Programm().Stand().gewaehlt(Wirkstoff), std::string("Programcheck"));
         QCOMPARE(p_->Teil<QLineEdit>("S_DT50_0")->text(), u"17"_s);
-        QVERIFY(p_->Programm().Stand().Saetze[1].Geaendert());
+        QVERIFY(p_->Programm().Stand().Saetze[Wirkstoff].Geaendert());
         QVERIFY(!p_->sichtbar("Abdeckung"));
         QCOMPARE(p_->Inhalt(u"input/Programcheck.che"_s), alt);
         QCOMPARE(p_->Inhalt(u"input/Compound F, hockey stick.che"_s), gewaehlt);

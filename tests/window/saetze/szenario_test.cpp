@@ -167,7 +167,7 @@ private Q_SLOTS:
         QCOMPARE(p.Feldkapazitaet, 31.0);
         QCOMPARE(p.Welkepunkt, 11.0);
         QCOMPARE(p_->Teil<QLineEdit>("Bodenszenario")->text(), u"Silt loam"_s);
-        QVERIFY(p_->Programm().Stand().Saetze[3].Geaendert());
+        QVERIFY(p_->Programm().Stand().Saetze[Szenario].Geaendert());
     }
 
     // A list of depths under the keyboard: "4.9", "5.0", "5.1" without losing the list; left at 5.0 it goes.

@@ -1,4 +1,4 @@
-#include "painting/titelsatz.h"
+#include "painting/titelform.h"
 
 #include <QFontMetricsF>
 #include <algorithm>
@@ -58,8 +58,8 @@ QStringList brich_um(const QString& ganz, const QFontMetricsF& Masse, double Bre
 
 }  // namespace
 
-Titelsatz setze_in_zwei_Zeilen(const QString& Text, double Breite, int Groesse, int kleinste, bool fett, bool kursiv) {
-    Titelsatz s;
+Titelform setze_in_zwei_Zeilen(const QString& Text, double Breite, int Groesse, int kleinste, bool fett, bool kursiv) {
+    Titelform s;
     for (s.Groesse = Groesse;; --s.Groesse) {
         const QFontMetricsF Masse(Diagrammschrift(s.Groesse, fett, kursiv));
         s.Zeilen = brich_um(Text.trimmed(), Masse, Breite);
@@ -69,7 +69,7 @@ Titelsatz setze_in_zwei_Zeilen(const QString& Text, double Breite, int Groesse, 
 }
 
 int setze_Titel(Beschriftung& b, double Breite, int Groesse, int kleinste, bool fett, bool kursiv) {
-    Titelsatz s = setze_in_zwei_Zeilen(in_Qt(b.Text), Breite, Groesse, kleinste, fett, kursiv);
+    Titelform s = setze_in_zwei_Zeilen(in_Qt(b.Text), Breite, Groesse, kleinste, fett, kursiv);
     if (!s.passt) s.Zeilen = fuelle_Zeilen(in_Qt(b.Text), QFontMetricsF(Diagrammschrift(s.Groesse, fett, kursiv)), Breite);
     b.Groesse = s.Groesse;
     b.Text = aus_Qt(s.Zeilen.join(u'\n'));

@@ -1,6 +1,6 @@
 // Titles and comments in their lines.
 
-#include "painting/titelsatz.h"
+#include "painting/titelform.h"
 
 #include <gtest/gtest.h>
 
@@ -21,18 +21,18 @@ Beschriftung gesetzt(const std::string& Text, double Breite, int Zeilen) {
     return b;
 }
 
-TEST(Titelsatz, one_line_where_it_fits) {
+TEST(Titelform, one_line_where_it_fits) {
     const Beschriftung b = gesetzt("a title of some words", 400, 1);
     EXPECT_EQ(b.Text, "a title of some words");
     EXPECT_EQ(b.Groesse, 12);
 }
 
-TEST(Titelsatz, two_lines_of_about_the_same_width_where_it_does_not) {
+TEST(Titelform, two_lines_of_about_the_same_width_where_it_does_not) {
     EXPECT_EQ(gesetzt("first half of it second half of it", 200, 2).Text, "first half of it\nsecond half of it");
 }
 
 // Where both lines find room so, whatever their lengths.
-TEST(Titelsatz, the_second_line_begins_with_a_statement_of_its_own) {
+TEST(Titelform, the_second_line_begins_with_a_statement_of_its_own) {
     EXPECT_EQ(gesetzt("Annual concentration of a long description Study: x", 450, 2).Text,
               "Annual concentration of a long description\nStudy: x");
     EXPECT_EQ(gesetzt("Mode: Parent only  - presented substance: x", 300, 2).Text,
@@ -42,14 +42,14 @@ TEST(Titelsatz, the_second_line_begins_with_a_statement_of_its_own) {
               "one two three four five\nsix seven eight Study: x");
 }
 
-TEST(Titelsatz, smaller_letters_before_a_third_line) {
+TEST(Titelform, smaller_letters_before_a_third_line) {
     const Beschriftung b = gesetzt("first half of it second half of it", 140, 2);
     EXPECT_LT(b.Groesse, 12);
     EXPECT_GE(b.Groesse, 7);
 }
 
 // Every character is there, within the width, whatever the text.
-TEST(Titelsatz, nothing_is_ever_cut) {
+TEST(Titelform, nothing_is_ever_cut) {
     for (const std::string& Text :
          {std::string(300, 'w'), std::string("a ") + std::string(200, 'm') + " b", std::string("word ") + std::string(40, 'x'),
           std::string("x"), std::string("many short words ") + std::string(50, 'i') + " and more of them here"}) {
@@ -63,7 +63,7 @@ TEST(Titelsatz, nothing_is_ever_cut) {
     }
 }
 
-TEST(Titelsatz, of_a_picture_is_centred_over_the_axes_and_larger_than_the_comment) {
+TEST(Titelform, of_a_picture_is_centred_over_the_axes_and_larger_than_the_comment) {
     Lauf_bauer l;
     l.Felder.Beschreibung = "A description that is so long that its title does not fit on one line of the picture at all";
     for (const Lauf_bauer& b : {Lauf_bauer(), l}) {
@@ -86,7 +86,7 @@ TEST(Titelsatz, of_a_picture_is_centred_over_the_axes_and_larger_than_the_commen
 }
 
 // On a small picture a long title has smaller letters, and the comment still smaller ones.
-TEST(Titelsatz, the_comment_is_smaller_than_any_title) {
+TEST(Titelform, the_comment_is_smaller_than_any_title) {
     for (const std::size_t Laenge : {10U, 60U, 120U, 250U}) {
         Lauf_bauer l;
         for (std::size_t i = 0; i < Laenge; ++i) l.Felder.Beschreibung += i % 8 == 7 ? ' ' : 'e';

@@ -1,4 +1,4 @@
-#include "reports/textauswahl.h"
+#include "reports/textstelle.h"
 
 #include <QTextBlock>
 #include <QTextCursor>
@@ -18,18 +18,18 @@ constexpr QStringView Zeilenende = u"\r\n";
 
 }  // namespace
 
-Textauswahl::Textauswahl(QTextDocument& Dokument, const QString& Text) : Dokument_(&Dokument), Text_(Text) {
+Textstelle::Textstelle(QTextDocument& Dokument, const QString& Text) : Dokument_(&Dokument), Text_(Text) {
     for (qsizetype i = Text.indexOf(Zeilenende); i >= 0; i = Text.indexOf(Zeilenende, i + 2)) Zeilenenden_.append(i);
     Dokument.setUndoRedoEnabled(false);
     Dokument.setPlainText(Text);
 }
 
-void Textauswahl::setze(qsizetype Anfang, qsizetype Laenge) {
+void Textstelle::setze(qsizetype Anfang, qsizetype Laenge) {
     Anfang_ = std::clamp<qsizetype>(Anfang, 0, Text_.size());
     Laenge_ = std::clamp<qsizetype>(Laenge, 0, Text_.size() - Anfang_);
 }
 
-bool Textauswahl::suche(const QString& Wort) {
+bool Textstelle::suche(const QString& Wort) {
     const qsizetype Treffer = Text_.indexOf(Wort, Anfang_);
     if (Treffer < 0) return false;
     setze(Treffer, Wort.size());
@@ -37,46 +37,46 @@ bool Textauswahl::suche(const QString& Wort) {
 }
 
 // A line end is one position of the document: the two of the text lie before and behind it.
-int Textauswahl::Stelle_im_Dokument(qsizetype Stelle) const {
+int Textstelle::Stelle_im_Dokument(qsizetype Stelle) const {
     const auto davor = std::lower_bound(Zeilenenden_.begin(), Zeilenenden_.end(), Stelle) - Zeilenenden_.begin();
     return static_cast<int>(Stelle - davor);
 }
 
-QTextCursor Textauswahl::Zeiger() const {
+QTextCursor Textstelle::Zeiger() const {
     QTextCursor Zeiger(Dokument_);
     Zeiger.setPosition(Stelle_im_Dokument(Anfang_));
     Zeiger.setPosition(Stelle_im_Dokument(Anfang_ + Laenge_), QTextCursor::KeepAnchor);
     return Zeiger;
 }
 
-void Textauswahl::setze_Zeichenformat(const QTextCharFormat& f) { Zeiger().mergeCharFormat(f); }
+void Textstelle::setze_Zeichenformat(const QTextCharFormat& f) { Zeiger().mergeCharFormat(f); }
 
-void Textauswahl::groesse(double Punkte) {
+void Textstelle::groesse(double Punkte) {
     QTextCharFormat f;
     f.setFontPointSize(Punkte);
     setze_Zeichenformat(f);
 }
 
-void Textauswahl::fett(bool an) {
+void Textstelle::fett(bool an) {
     QTextCharFormat f;
     f.setFontWeight(an ? QFont::Bold : QFont::Normal);
     setze_Zeichenformat(f);
 }
 
-void Textauswahl::kursiv(bool an) {
+void Textstelle::kursiv(bool an) {
     QTextCharFormat f;
     f.setFontItalic(an);
     setze_Zeichenformat(f);
 }
 
-void Textauswahl::Farbe(int Palettenplatz) {
+void Textstelle::Farbe(int Palettenplatz) {
     QTextCharFormat f;
     f.setForeground(Palettenfarbe(Palettenplatz));
     setze_Zeichenformat(f);
 }
 
 template <class Aenderung>
-void Textauswahl::aendere_Absaetze(Aenderung a) {
+void Textstelle::aendere_Absaetze(Aenderung a) {
     QTextCursor Absatz = Zeiger();
     const int Ende = Absatz.selectionEnd();
     // An empty last paragraph counts to what is selected in front of it.
@@ -89,11 +89,11 @@ void Textauswahl::aendere_Absaetze(Aenderung a) {
     } while (Absatz.movePosition(QTextCursor::NextBlock) && (Absatz.position() < Ende || bis_Schluss));
 }
 
-void Textauswahl::zentriert() {
+void Textstelle::zentriert() {
     aendere_Absaetze([](QTextBlockFormat& f) { f.setAlignment(Qt::AlignHCenter); });
 }
 
-void Textauswahl::Einzug(int links, int rechts) {
+void Textstelle::Einzug(int links, int rechts) {
     aendere_Absaetze([=](QTextBlockFormat& f) {
         f.setLeftMargin(Twips_in_Pixel(links));
         f.setRightMargin(Twips_in_Pixel(rechts));
@@ -101,7 +101,7 @@ void Textauswahl::Einzug(int links, int rechts) {
 }
 
 // The document counts tab stops from the indent of the paragraph.
-void Textauswahl::Tabulatoren(std::initializer_list<int> Stellen) {
+void Textstelle::Tabulatoren(std::initializer_list<int> Stellen) {
     aendere_Absaetze([&](QTextBlockFormat& f) {
         QList<QTextOption::Tab> Liste;
         for (const int Stelle : Stellen) {
@@ -112,7 +112,7 @@ void Textauswahl::Tabulatoren(std::initializer_list<int> Stellen) {
     });
 }
 
-void Textauswahl::halte_beisammen() {
+void Textstelle::halte_beisammen() {
     QTextBlockFormat f;
     f.setProperty(bleibt_beim_naechsten, true);
     const QTextBlock Mitte = Zeiger().block();
@@ -124,7 +124,7 @@ void Textauswahl::halte_beisammen() {
     for (QTextBlock b = Mitte; b.next().isValid() && b.next().text().isEmpty(); b = b.next()) QTextCursor(b).mergeBlockFormat(f);
 }
 
-void Textauswahl::ersetze_durch_Bild(const QString& Name, const QImage& Bild, int Breite, int Hoehe) {
+void Textstelle::ersetze_durch_Bild(const QString& Name, const QImage& Bild, int Breite, int Hoehe) {
     Dokument_->addResource(QTextDocument::ImageResource, QUrl(Name), QVariant::fromValue(Bild));
     QTextImageFormat f;
     f.merge(Zeiger().charFormat());

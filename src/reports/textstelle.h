@@ -15,10 +15,10 @@ namespace varnok {
 inline constexpr int bleibt_beim_naechsten = QTextFormat::UserProperty + 1;
 
 // Positions count the characters of the plain text, a line end (CR LF) as two, whatever the document makes of it.
-class Textauswahl {
+class Textstelle {
 public:
     // Pours the text into the document, over what stood there. The document must outlive the object.
-    Textauswahl(QTextDocument& Dokument, const QString& Text);
+    Textstelle(QTextDocument& Dokument, const QString& Text);
 
     qsizetype Anfang() const { return Anfang_; }
     qsizetype Laenge() const { return Laenge_; }

@@ -8,7 +8,7 @@
 
 namespace varnok {
 
-struct Titelsatz {
+struct Titelform {
     QStringList Zeilen;
     int Groesse = 0;  // points
     bool passt = false;
@@ -16,7 +16,7 @@ struct Titelsatz {
 
 // One line where the text fits into the width, else two, broken where a new statement begins, or between words as evenly as can
 // be where that does not fit, and smaller letters down to `kleinste` where these are too wide.
-Titelsatz setze_in_zwei_Zeilen(const QString& Text, double Breite, int Groesse, int kleinste, bool fett, bool kursiv);
+Titelform setze_in_zwei_Zeilen(const QString& Text, double Breite, int Groesse, int kleinste, bool fett, bool kursiv);
 
 // Gives a label of a picture its lines within that width (units): more of them before anything is cut. `Groesse` (points) is that
 // of its letters where they fit, `kleinste` that of more than two lines. Returns the number of lines.
