@@ -51,7 +51,7 @@ public:
         std::filesystem::copy(VARNOK_DATENORDNER, Ordner_.path().toStdString(), std::filesystem::copy_options::recursive);
         Programm_ = std::make_unique<Sitzung>(Umgebung{&Antworten_, Ordner_.path().toStdString(), "", '.'});
         Programm_->fuehre_aus<&Programmablauf::oeffne_Projekt>();
-        Programm_->fuehre_aus<&Programmablauf::starte>();
+        Programm_->fuehre_aus<&Programmablauf::verlasse_Startseite>();
         const auto& Namen = Programm_->Stand().Listen[0];
         Programm_->fuehre_aus<&Satzverwaltung::waehle_Simulation>(
             static_cast<int>(std::find(Namen.begin(), Namen.end(), Simulation) - Namen.begin()));

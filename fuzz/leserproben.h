@@ -123,9 +123,9 @@ inline void pruefe_Einstellungen(const std::string& Eingang) {
     pruefe_Bemerkungen(Bemerkungen);
     fordere(e || !Bemerkungen.empty());
     if (!e) return;
-    const std::string Bytes = Einstellungen_als_Bytes(*e);
+    const std::string Bytes = Einstellungen_als_Bytes(e->Werte, e->TWA);
     const auto wieder = zerlege_Einstellungen(Bytes);
-    fordere(wieder && Einstellungen_als_Bytes(*wieder) == Bytes);
+    fordere(wieder && Einstellungen_als_Bytes(wieder->Werte, wieder->TWA) == Bytes);
 }
 
 // The findings about a record: a fault where it cannot be read, and each with a line and a message. The first byte chooses the

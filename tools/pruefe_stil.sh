@@ -6,7 +6,7 @@
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 Ordner=${1:-build/release}
-Muster=${2:-/(src|tests|bench)/}
+Muster=${2:-/(src|tests|bench|tools)/}
 
 Befehle=$(mktemp -d)
 trap 'rm -rf "$Befehle"' EXIT

@@ -6,16 +6,20 @@
 
 namespace varnok {
 
-// Where a fault lies, as far as it is known where it was found. The reader of a record knows file and line, a calculation the
-// store at fault with its study and compound.
+// Where a fault lies, as far as it is known where it was found. The reader of a record knows file, line and store, a calculation
+// the store at fault with its study and compound.
 struct Fehlerort {
     std::string Datei = {};  // with its ending, empty without one
     int Zeile = 0;           // of the file, counted from 1, 0 without one
-    std::string Feld = {};   // name of the store, e.g. "Bodendichte"; of a fault in a file as the file names it
+    std::string Feld = {};   // name of the store, e.g. "Bodendichte", as `Wertebereiche` name it; empty where none is at fault
     int i_studie = -1;       // counted from 0, -1 where the fault concerns no study
     int i_substanz = -1;     // 0 parent, -1 where it concerns no compound
     std::string Text = {};   // what stands in the file
     int Reihe = 0;           // of the table of applications, counted from 1, 0 where the fault concerns none
+    std::string Bezeichnung = {};  // as the file or the call names the value, e.g. "KOC (L/kg), parent, study 1"
+
+    // What a message calls the value.
+    const std::string& Name() const { return Bezeichnung.empty() ? Feld : Bezeichnung; }
 };
 
 // "X.che, line 12", or "X.che" for line 0.

@@ -131,7 +131,7 @@ private:
     static std::optional<Fruchtfolge> Fruchtwechsel_der_Variante(Quelle& q, const Herkunft& h) {
         std::optional<Fruchtfolge> Gefundener;
         mit(q.Rotation, 1, h.Variante);
-        if (q.Rotation.zeile()) Gefundener = static_cast<Fruchtfolge>(q.Rotation.Zahl(0) - 1);
+        if (q.Rotation.zeile()) Gefundener = Fruchtfolge_von(static_cast<int>(q.Rotation.Zahl(0)));
         q.Rotation.setze_zurueck();
         return Gefundener;
     }
@@ -140,7 +140,7 @@ private:
         Kennwerte k;
         k.Studie = static_cast<int>(e.Zahl(1));
         k.Stoff = static_cast<int>(e.Zahl(3));
-        k.Endpunkt = e.Text(5) == Endpunktnamen[Gesamtgehalt] ? Gesamtgehalt : Porenwasser;
+        k.Endpunkt = Endpunkt_von(e.Text(5));
         k.Einheit = e.Text(6);
         k.Maximum = e.Kommazahl(7);
         k.Plateau = e.Kommazahl(10);

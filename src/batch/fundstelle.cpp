@@ -32,9 +32,13 @@ Fundstelle finde_Fundstelle(const Laufergebnis& Ergebnis, const Eingabe& e, cons
     const std::string Datei = Satzdatei(Satz, Applikation);
     if (Ergebnis.Ausgang != Laufausgang::Tabelle_ungueltig) return in_Datei({.i_studie = i_studie}, Datei);
     const int Reihe = Ergebnis.Zeile + 1;
-    const std::string Spalte = Ergebnis.Spalte == 0 ? "day" : "month";
-    Fundstelle Stelle = in_Datei({.Feld = Spalte, .i_studie = i_studie, .Reihe = Reihe}, Datei, Stelle_der_Reihe(Reihe, e).Zeile);
-    Stelle.Text += ", row " + std::to_string(Reihe) + " of the table, " + Spalte;
+    const bool Tag = Ergebnis.Spalte == 0;
+    const Fehlerort Zelle = {.Feld = Tag ? "Tabellentag" : "Tabellenmonat",
+                             .i_studie = i_studie,
+                             .Reihe = Reihe,
+                             .Bezeichnung = Tag ? "day" : "month"};
+    Fundstelle Stelle = in_Datei(Zelle, Datei, Stelle_der_Reihe(Reihe, e).Zeile);
+    Stelle.Text += ", row " + std::to_string(Reihe) + " of the table, " + Zelle.Bezeichnung;
     return Stelle;
 }
 

@@ -21,7 +21,8 @@ void fordere_Satz(const Auftrag& a, const std::string& Simulationsname, const Si
     const std::string& Name = Satz.Dateinamen[Art];
     if (a.Ordner.enthaelt(Name, Endungen[Art])) return;
     // Line 1 of the summary file is the description, so the kinds of record stand on lines 2 to 4.
-    const Fehlerort Ort = {.Datei = Simulationsname + Endungen[Simulation], .Zeile = Art + 1, .Text = Name};
+    const Fehlerort Ort = {
+        .Datei = Simulationsname + Endungen[Simulation], .Zeile = Art + 1, .Text = Name, .Bezeichnung = Satzwoerter[Art]};
     std::string Grund = std::string("there is no ") + Satzwoerter[Art] + " \"" + Name + "\"";
     const auto aehnlich = a.Ordner.finde(Name, Endungen[Art]);
     if (aehnlich && a.Ordner.enthaelt(Satzname(*aehnlich), Endungen[Art])) {
@@ -56,8 +57,7 @@ void lade_Saetze(const Auftrag& a, const std::string& Simulation, const Simulati
         const Lesebefund Befund = Satz_lesen_aus(Bytes[Art], Datei, Art, e, Sicht);
         haenge_an(Bemerkungen, Befund.Bemerkungen, a.Ordner);
         if (Befund.Ausgang == Leseausgang::abgebrochen) {
-            throw Laufzeitfehler(Befund.Grund, {.Datei = Datei, .Zeile = Befund.Zeile, .Feld = Befund.Feld, .Text = Befund.Text},
-                                 Dateistelle(Datei, Befund.Zeile));
+            throw Laufzeitfehler(Befund.Grund, Befund.Ort, Dateistelle(Datei, Befund.Ort.Zeile));
         }
     }
     if (!Summe) return;

@@ -53,8 +53,6 @@ std::size_t lies_Position(const Zeilenquelle& q, std::string_view Text) {
     return static_cast<std::size_t>(fuehrende_Zahl(Text));
 }
 
-Endpunktart Endpunkt_von(const std::string& Name) { return Name == Endpunktnamen[Gesamtgehalt] ? Gesamtgehalt : Porenwasser; }
-
 Fruchtfolge Fruchtwechsel_von(const JSON& Objekt, Fruchtfolge sonst) {
     const JSON* Werte = nullptr;
     if (Objekt.contains("variant") && Objekt["variant"]["values"].contains("rotation")) Werte = &Objekt["variant"]["values"];
@@ -67,7 +65,7 @@ Kennwerte Kennwerte_von(const JSON& e, int Studie, int Stoff, Fruchtfolge Frucht
     Kennwerte k;
     k.Studie = Studie;
     k.Stoff = Stoff;
-    k.Endpunkt = Endpunkt_von(e.at("endpoint"));
+    k.Endpunkt = Endpunkt_von(e.at("endpoint").get<std::string>());
     k.Einheit = e.at("unit");
     k.Maximum = e.at("Maximum_Bodentiefe");
     k.Plateau = e.at("Plateauwert");

@@ -5,9 +5,11 @@
 #include <utility>
 #include <vector>
 
+#include "base/text.h"
 #include "batch/datenbankteil.h"
 #include "batch/schreiber.h"
 #include "batch/teilleser.h"
+#include "records/eingabenamen.h"
 
 namespace varnok::batch {
 namespace {
@@ -88,12 +90,14 @@ void fordere_alle(std::size_t Anzahl, std::size_t Ende) {
 Teilwunsch lies_Wunsch(const Aufruf& a) {
     Teilwunsch w;
     w.mit_Kennwerten = !a.Zusammenfassungsdatei.empty();
-    constexpr std::string_view davor = "rotation=";
+    const Namensbezug Rotation = lies_Namensbezug("rotation");
     for (const std::string& Text : a.Vorgaben) {
-        const std::string_view Wert = Text.starts_with(davor) ? std::string_view(Text).substr(davor.size()) : std::string_view();
-        if (Wert.size() != 1 || Wert[0] < '1' || Wert[0] > '3')
+        const auto Gleich = Text.find('=');
+        const bool benannt = Gleich != std::string::npos && ohne_Randblanks(Text.substr(0, Gleich)) == Rotation.Text;
+        const Zahlwert Wert = benannt ? Text.substr(Gleich + 1) : std::string();
+        if (!Wert.ganz() || !nimmt_an(*Rotation.Name, Wert.Zahl()))
             throw Aufruffehler("--set " + Text + ": with --merge only rotation=1, 2 or 3 is of use, for the summary");
-        w.Fruchtwechsel = static_cast<Fruchtfolge>(Wert[0] - '1');
+        w.Fruchtwechsel = Fruchtfolge_von(static_cast<int>(Wert.Zahl()));
     }
     return w;
 }

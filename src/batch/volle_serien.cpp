@@ -32,7 +32,7 @@ void schreibe_Kopf(CSV_Zeile z, const Ergebnis& s) {
         for (const Endpunktart e : alle_Endpunkte) {
             const std::string davor = Stoffname(*s.Vorgabe, c) + " " + std::string(Endpunktnamen[e]) + " ";
             const std::string Einheit = " (" + std::string(Konzentrationseinheit(s.Vorgabe->Parameter.Einheit, e)) + ")";
-            for (const char* Sicht : {"annual", "background", "accumulated"}) z.Text(davor + Sicht + Einheit);
+            for (const std::string_view Sicht : Ansichtsnamen) z.Text(davor + std::string(Sicht) + Einheit);
         }
     }
     z.beende();

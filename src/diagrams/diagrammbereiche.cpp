@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "base/zahlen.h"
 #include "run/zeitachse.h"
 
 namespace varnok {
@@ -41,16 +40,16 @@ void setze_Bereich_nach_Ansicht(Diagrammbereiche& b, PEC_Ansicht PEC_Art, bool Z
 
 double gehaltener_Start(double X_Start) { return X_Start > 0 ? std::min(X_Start, static_cast<double>(letzter_Tag)) : 0; }
 
-bool uebernimm_Skalierung(Diagrammbereiche& b, bool Zusammenfassung, int Nummer, std::string_view Start, std::string_view Ende) {
-    const double Endwert = Wert(Ende);
+bool uebernimm_Skalierung(Diagrammbereiche& b, bool Zusammenfassung, int Nummer, const Zahlwert& Start, const Zahlwert& Ende) {
+    const double Endwert = Ende.Zahl();
     if (!(Endwert >= 2 && Endwert <= 3650)) return false;
     const auto i = static_cast<std::size_t>(Nummer);
     if (Zusammenfassung) {
-        b.X_Start_Zusammenfassung[i] = Wert(Start);
+        b.X_Start_Zusammenfassung[i] = Start.Zahl();
         b.X_Ende_Zusammenfassung[i] = Endwert;
         b.manuelles_Ende[i] = Endwert;
     } else {
-        b.X_Start[i] = Wert(Start);
+        b.X_Start[i] = Start.Zahl();
         b.X_Ende[i] = Endwert;
     }
     return true;

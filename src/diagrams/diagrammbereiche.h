@@ -3,8 +3,8 @@
 // The time ranges of the diagrams, in days: what the view and the user's scaling leave in force.
 
 #include <array>
-#include <string_view>
 
+#include "base/zahlwert.h"
 #include "diagrams/diagrammsaetze.h"
 
 namespace varnok {
@@ -41,6 +41,6 @@ inline constexpr const char* Skalierungsfehler_Titel = "No valid input!";
 
 // Takes over what was typed for a diagram, or for a summary diagram. False, and nothing is stored, if the end is not
 // within 2 and 3650 days. The start is not checked: it may lie behind the end.
-bool uebernimm_Skalierung(Diagrammbereiche& b, bool Zusammenfassung, int Nummer, std::string_view Start, std::string_view Ende);
+bool uebernimm_Skalierung(Diagrammbereiche& b, bool Zusammenfassung, int Nummer, const Zahlwert& Start, const Zahlwert& Ende);
 
 }  // namespace varnok

@@ -1,6 +1,5 @@
 #include "diagrams/diagrammdaten.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "base/text.h"
@@ -27,10 +26,6 @@ public:
     template <class Art>
     void Zahl(Art Wert) {
         Feld(allgemeine_Zahl(Wert, f_.Dezimalzeichen));
-    }
-    void Zahltext(std::string Text) {
-        std::replace(Text.begin(), Text.end(), '.', f_.Dezimalzeichen);
-        Feld(Text);
     }
     void beende() {
         Text_ += "\r\n";
@@ -72,23 +67,16 @@ void schreibe_Mittelwerte(Zeilen& z, const Diagramm& d, const std::string& Einhe
     }
 }
 
-// The spare row of a grid tells of no window.
-bool ist_Ersatzzeile(const std::vector<std::string>& Zeile) { return Zeile.empty() || ohne_Randblanks(Zeile.front()).empty(); }
-
-void schreibe_Tafel(Zeilen& z, const Datentafel& t) {
+void schreibe_Tafel(Zeilen& z, const Datentafel& t, char Dezimalzeichen) {
     z.beende();
     z.Feld(t.Titel);
     z.beende();
-    for (std::size_t i = 0; i < t.Inhalt.size(); ++i) {
-        if (ist_Ersatzzeile(t.Inhalt[i])) continue;
-        for (std::size_t j = 0; j < t.Inhalt[i].size(); ++j) {
-            const std::string Text(ohne_Randblanks(t.Inhalt[i][j]));
-            if (i > 0 && j > 0) {
-                z.Zahltext(Text);
-            } else {
-                z.Feld(Text);
-            }
-        }
+    z.Feld(Fensterkopf);
+    for (const Ergebniswerte::Spalte& s : t.Inhalt.Spalten) z.Feld(ohne_Randblanks(s.Kopf));
+    z.beende();
+    for (const Ergebniswerte::Zeile& Zeile : t.Inhalt.Zeilen) {
+        z.Feld(Ergebniswerte::Bezeichnung(Zeile, Dezimalzeichen));
+        for (std::size_t j = 0; j < Zeile.Spalten.size(); ++j) z.Feld(t.Inhalt.Text(Zeile, j, Dezimalzeichen));
         z.beende();
     }
 }
@@ -105,7 +93,7 @@ std::string Diagrammdaten(const Diagramm& d, const std::vector<Datentafel>& Tafe
     z.beende();
     schreibe_Kurven(z, d, Einheit);
     schreibe_Mittelwerte(z, d, Einheit);
-    for (const Datentafel& t : Tafeln) schreibe_Tafel(z, t);
+    for (const Datentafel& t : Tafeln) schreibe_Tafel(z, t, f.Dezimalzeichen);
     return z.nimm();
 }
 

@@ -12,7 +12,7 @@ namespace varnok {
 
 struct Datentafel {
     std::string Titel;
-    Tabellentext Inhalt;
+    Ergebniswerte Inhalt;
 };
 
 // How rows are written.

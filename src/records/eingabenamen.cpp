@@ -21,7 +21,6 @@ using Wortliste = std::span<const std::string_view>;
 constexpr std::size_t Platz(int i) { return static_cast<std::size_t>(i); }
 
 // The words of the choices, in the order of their codes.
-constexpr std::array<std::string_view, 3> Muster = {"single", "regular", "irregular"};
 constexpr std::array<std::string_view, 2> TWA_Listennamen = {"monthly", "EU"};
 
 Eingabewert Wort(Wortliste Worte, int Code) { return als_Eingabewert(Worte[Platz(Code)], Code); }
@@ -107,7 +106,7 @@ void setze_Kinetik(Eingabe& e, Ansicht&, const Ort& o, const Eingabewert& w) {
     e.Parameter.Kinetik[Platz(o.Stoff)][Platz(o.Studie)] = static_cast<Kinetikart>(Code(w));
 }
 
-Eingabewert lies_Muster(const Eingabe& e, const Ansicht&, const Ort&) { return Wort(Muster, e.Applikationsmuster); }
+Eingabewert lies_Muster(const Eingabe& e, const Ansicht&, const Ort&) { return Wort(Musternamen, e.Applikationsmuster); }
 void setze_Muster(Eingabe& e, Ansicht&, const Ort&, const Eingabewert& w) {
     e.Applikationsmuster = static_cast<Applikationsart>(Code(w));
 }
@@ -211,7 +210,7 @@ constexpr Eingabename Tabellenwert(std::string_view Name, std::string_view Speic
 }
 
 constexpr std::array Tabelle = {
-    Wortwahl("pattern", "Applikationsmuster", Indexart::keiner, Muster, lies_Muster, setze_Muster, vor_anderen),
+    Wortwahl("pattern", "Applikationsmuster", Indexart::keiner, Musternamen, lies_Muster, setze_Muster, vor_anderen),
     Zahl("applications", "Anzahl", Indexart::keiner, lies_Anzahl, setze_Anzahl, true, vor_anderen),
     Zahl("rate", "Applikationsrate", Indexart::keiner, lies_Feld<&Eingabe::Applikationsrate>,
          setze_Feld<&Eingabe::Applikationsrate>),

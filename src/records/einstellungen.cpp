@@ -135,26 +135,27 @@ std::string als_Bildzeile(const Bildeinstellung& b) {
 
 }  // namespace
 
-std::optional<Einstellungen> zerlege_Einstellungen(const std::string& Bytes, const std::string& Datei,
-                                                   std::vector<Bemerkung>* Bemerkungen) {
+std::optional<Gelesene_Einstellungen> zerlege_Einstellungen(const std::string& Bytes, const std::string& Datei,
+                                                            std::vector<Bemerkung>* Bemerkungen) {
     Einstellungsleser Leser(Bytes, Datei, Bemerkungen);
-    Einstellungen e;
+    Gelesene_Einstellungen g;
+    Einstellungen& e = g.Werte;
     const bool gelesen = Leser.lies_Byte(e.Tips_anzeigen, "tooltips") && Leser.lies_Byte(e.Farbeinstellung, "appearance") &&
-                         Leser.lies_Text(e.TWA_Titel_EU, "title of the EU list") && Leser.lies_Liste(e.TWA.EU) &&
-                         Leser.lies_Text(e.TWA_Titel_Monat, "title of the monthly list") && Leser.lies_Liste(e.TWA.Monat);
+                         Leser.lies_Text(e.TWA_Titel_EU, "title of the EU list") && Leser.lies_Liste(g.TWA.EU) &&
+                         Leser.lies_Text(e.TWA_Titel_Monat, "title of the monthly list") && Leser.lies_Liste(g.TWA.Monat);
     if (!gelesen) return std::nullopt;
     Leser.lies_letzten_Text(e.Projektpfad);
     Leser.lies_Bildzeile(e.Bild);
-    return e;
+    return g;
 }
 
-std::string Einstellungen_als_Bytes(const Einstellungen& e) {
+std::string Einstellungen_als_Bytes(const Einstellungen& e, const TWA_Listen& TWA) {
     std::string Bytes = "Tooltips:\t" + std::to_string(e.Tips_anzeigen) + "\r\n";
     Bytes += "Appearance:\t" + std::to_string(e.Farbeinstellung) + "\r\n";
     Bytes += als_Zeile(e.TWA_Titel_EU);
-    for (const double Tage : e.TWA.EU) Bytes += als_Dauer(Tage);
+    for (const double Tage : TWA.EU) Bytes += als_Dauer(Tage);
     Bytes += als_Zeile(e.TWA_Titel_Monat);
-    for (const double Tage : e.TWA.Monat) Bytes += als_Dauer(Tage);
+    for (const double Tage : TWA.Monat) Bytes += als_Dauer(Tage);
     Bytes += als_Zeile(e.Projektpfad);
     return e.Bild == Bildeinstellung() ? Bytes : Bytes + als_Bildzeile(e.Bild);
 }

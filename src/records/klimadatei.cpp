@@ -89,7 +89,11 @@ Klimatag zerlege_Tag(std::string_view Zeile, int Nummer, const std::string& Date
         Tag.*s.Ziel = l.Zahl;
         if (!std::isfinite(l.Zahl)) {
             throw Laufzeitfehler('"' + aus_Windows_1252(Text) + "\" is too large a number",
-                                 {.Datei = Datei, .Zeile = Nummer, .Feld = std::string(s.Grenzen.Name), .Text = Auszug(Text)});
+                                 {.Datei = Datei,
+                                  .Zeile = Nummer,
+                                  .Feld = "Klimaszenario",
+                                  .Text = Auszug(Text),
+                                  .Bezeichnung = std::string(s.Grenzen.Name)});
         }
         Bemerkungen.pruefe(s, Nummer, Text, l);
     }

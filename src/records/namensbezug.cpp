@@ -46,49 +46,56 @@ constexpr std::string_view Klammertext(Indexart i) {
     return alles;
 }
 
-[[noreturn]] void verwirf(std::string_view Name, const std::string& Grund) {
-    throw Laufzeitfehler(std::string(Name) + ": " + Grund);
+[[noreturn]] void verwirf(const Namensbezug& b, const std::string& Grund, std::string_view Text = {}) {
+    throw Laufzeitfehler(b.Text + ": " + Grund, {.Feld = std::string(b.Name ? b.Name->Speicher : ""),
+                                                 .i_studie = b.Studie,
+                                                 .i_substanz = b.Stoff,
+                                                 .Text = std::string(Text),
+                                                 .Reihe = b.Reihe + 1,
+                                                 .Bezeichnung = b.Text});
 }
 
 // Counted from 0 as far as it is a place: studies and rows are typed from 1, compounds from 0.
-int lies_Index(std::string_view ganzer, std::string_view Text, const Indexbereich& b, std::string_view was) {
+int lies_Index(const Namensbezug& b, std::string_view Text, const Indexbereich& Grenzen, std::string_view was) {
     const Zahllesung z = lies_Zahl(Text);
-    const auto i = z.ganz() && !z.leer ? ganze_Zahl(z.Zahl, b.von, b.bis) : std::nullopt;
+    const auto i = z.ganz() && !z.leer ? ganze_Zahl(z.Zahl, Grenzen.von, Grenzen.bis) : std::nullopt;
     if (!i || *i != z.Zahl) {
-        verwirf(ganzer, "\"" + std::string(Text) + "\" is no " + std::string(was) + " (" + std::to_string(b.von) + " to " +
-                            std::to_string(b.bis) + ")");
+        verwirf(b,
+                "\"" + std::string(Text) + "\" is no " + std::string(was) + " (" + std::to_string(Grenzen.von) + " to " +
+                    std::to_string(Grenzen.bis) + ")",
+                Text);
     }
     return *i;
 }
 
-int lies_Studie(std::string_view ganzer, std::string_view Text) {
-    return Text.empty() ? -1 : lies_Index(ganzer, Text, Studien, "study") - 1;
+int lies_Studie(const Namensbezug& b, std::string_view Text) {
+    return Text.empty() ? -1 : lies_Index(b, Text, Studien, "study") - 1;
 }
 
-int lies_Stoff(std::string_view ganzer, std::string_view Text, const Indexbereich& b = Stoffindizes) {
-    return Text.empty() ? -1 : lies_Index(ganzer, Text, b, "compound");
+int lies_Stoff(const Namensbezug& b, std::string_view Text, const Indexbereich& Grenzen = Stoffindizes) {
+    return Text.empty() ? -1 : lies_Index(b, Text, Grenzen, "compound");
 }
 
 void lies_Indizes(Namensbezug& b, const std::vector<std::string_view>& Teile) {
     const Indexart Art = b.Name->Indizes;
     const std::size_t erwartet = Art == Indexart::Studie_und_Stoff ? 2 : 1;
-    if (Teile.size() != erwartet) verwirf(b.Text, "in the brackets belongs " + std::string(Klammertext(Art)));
+    if (Teile.size() != erwartet) verwirf(b, "in the brackets belongs " + std::string(Klammertext(Art)));
     switch (Art) {
         case Indexart::Studie_und_Stoff:
-            b.Studie = lies_Studie(b.Text, Teile[0]);
-            b.Stoff = lies_Stoff(b.Text, Teile[1]);
+            b.Studie = lies_Studie(b, Teile[0]);
+            b.Stoff = lies_Stoff(b, Teile[1]);
             break;
         case Indexart::Studie:
-            b.Studie = lies_Studie(b.Text, Teile[0]);
+            b.Studie = lies_Studie(b, Teile[0]);
             break;
         case Indexart::Stoff:
-            b.Stoff = lies_Stoff(b.Text, Teile[0]);
+            b.Stoff = lies_Stoff(b, Teile[0]);
             break;
         case Indexart::Metabolit:
-            b.Stoff = lies_Stoff(b.Text, Teile[0], Metabolite);
+            b.Stoff = lies_Stoff(b, Teile[0], Metabolite);
             break;
         case Indexart::Tabellenreihe:
-            b.Reihe = lies_Index(b.Text, Teile[0], Reihen, "row of the table of applications") - 1;
+            b.Reihe = lies_Index(b, Teile[0], Reihen, "row of the table of applications") - 1;
             break;
         case Indexart::keiner:
             break;
@@ -117,10 +124,10 @@ Eingabewert lies_Wort(const Namensbezug& b, std::string_view Text) {
     for (std::size_t i = 0; i < Worte.size(); ++i) {
         if (!gleich_ohne_Gross_Klein(Worte[i], gesucht)) continue;
         const bool nur_Wirkstoff = b.Name->Speicher == "Kinetik" && i > DFOP;
-        if (nur_Wirkstoff && b.Stoff > 0) verwirf(b.Text, std::string(Worte[i]) + " is a kinetics of the parent alone");
+        if (nur_Wirkstoff && b.Stoff > 0) verwirf(b, std::string(Worte[i]) + " is a kinetics of the parent alone");
         return als_Eingabewert(Worte[i], static_cast<int>(i));
     }
-    verwirf(b.Text, "\"" + std::string(Text) + "\" is not " + Wertebereich_als_Text(*b.Name));
+    verwirf(b, "\"" + std::string(Text) + "\" is not " + Wertebereich_als_Text(*b.Name), Text);
 }
 
 Eingabewert lies_Klima(const Namensbezug& b, std::string_view Text, const Projektordner& Ordner) {
@@ -130,7 +137,7 @@ Eingabewert lies_Klima(const Namensbezug& b, std::string_view Text, const Projek
         if (gleich_ohne_Gross_Klein(Vorhandener, Name))
             return als_Eingabewert(Ordner.enthaelt(Name, Klima_Endung) ? Name : Vorhandener);
     }
-    verwirf(b.Text, "there is no climate file \"" + Name + "\" in this project");
+    verwirf(b, "there is no climate file \"" + Name + "\" in this project", Text);
 }
 
 bool ist_Feld_neben_der_Tabelle(const Namensbezug& b) {
@@ -148,12 +155,12 @@ const Namensbezug* einer_von(std::span<const Namensbezug* const> gegebene, std::
 
 void pruefe_Boden(const Laufparameter& p, std::span<const Namensbezug* const> gegebene) {
     if (const auto* b = einer_von(gegebene, {"Plateautiefe", "Bodentiefe"}); b && p.Plateautiefe < p.Bodentiefe) {
-        verwirf(b->Text, "the tillage depth of " + allgemeine_Zahl(p.Plateautiefe) + " cm lies below the soil depth of " +
-                             allgemeine_Zahl(p.Bodentiefe) + " cm");
+        verwirf(*b, "the tillage depth of " + allgemeine_Zahl(p.Plateautiefe) + " cm lies below the soil depth of " +
+                        allgemeine_Zahl(p.Bodentiefe) + " cm");
     }
     if (const auto* b = einer_von(gegebene, {"Feldkapazitaet", "Welkepunkt"}); b && p.Welkepunkt > p.Feldkapazitaet) {
-        verwirf(b->Text, "the wilting point of " + allgemeine_Zahl(p.Welkepunkt) + " Vol% lies above the field capacity of " +
-                             allgemeine_Zahl(p.Feldkapazitaet) + " Vol%");
+        verwirf(*b, "the wilting point of " + allgemeine_Zahl(p.Welkepunkt) + " Vol% lies above the field capacity of " +
+                        allgemeine_Zahl(p.Feldkapazitaet) + " Vol%");
     }
 }
 
@@ -166,18 +173,18 @@ void pruefe_Tabelle(const Eingabe& e, std::span<const Namensbezug* const> gegebe
     const int Zeilenzahl = e.Anzahl();
     for (const Namensbezug* b : gegebene) {
         if (ist_Feld_neben_der_Tabelle(*b)) {
-            verwirf(b->Text, "the pattern is irregular, whose table it does not reach; " + std::string(b->Name->Name) +
-                                 "[k] is that of row k");
+            verwirf(*b, "the pattern is irregular, whose table it does not reach; " + std::string(b->Name->Name) +
+                            "[k] is that of row k");
         }
-        if (b->Reihe >= Zeilenzahl) verwirf(b->Text, "the table of applications has " + std::to_string(Zeilenzahl) + " rows");
+        if (b->Reihe >= Zeilenzahl) verwirf(*b, "the table of applications has " + std::to_string(Zeilenzahl) + " rows");
     }
     const auto* b = einer_von(gegebene, {"Anzahl", "Applikationsmuster"});
     if (!b) return;
     const auto& Reihen_da = e.Applikationsschema;
     const auto leere = std::find_if(Reihen_da.begin(), Reihen_da.end(), unvollstaendig);
     if (leere == Reihen_da.end()) return;
-    verwirf(b->Text, std::to_string(Zeilenzahl) + " applications are more than the table has rows: row " +
-                         std::to_string(leere - Reihen_da.begin() + 1) + " is not complete");
+    verwirf(*b, std::to_string(Zeilenzahl) + " applications are more than the table has rows: row " +
+                    std::to_string(leere - Reihen_da.begin() + 1) + " is not complete");
 }
 
 void stimme_Datum_ab(Eingabe& e, std::span<const Namensbezug* const> gegebene) {
@@ -185,7 +192,7 @@ void stimme_Datum_ab(Eingabe& e, std::span<const Namensbezug* const> gegebene) {
     const int Tage = Tage_im_Monat(e.App_Monat + 1);
     if (!b || e.App_Tag < Tage) return;
     if (const auto* Tag = einer_von(gegebene, {"App_Tag"}))
-        verwirf(Tag->Text, "month " + std::to_string(e.App_Monat + 1) + " has " + std::to_string(Tage) + " days");
+        verwirf(*Tag, "month " + std::to_string(e.App_Monat + 1) + " has " + std::to_string(Tage) + " days");
     e.App_Tag = Tage - 1;
 }
 
@@ -225,14 +232,14 @@ Namensbezug lies_Namensbezug(std::string_view Text) {
     const std::string_view Name = ohne_Randblanks(ganzer.substr(0, Klammer));
     const bool mit_Klammer = Klammer != std::string_view::npos;
     b.Name = finde_Namen(Name, mit_Klammer);
-    if (b.Name == nullptr) verwirf(ganzer, "there is no value of that name; --help-names lists them");
+    if (b.Name == nullptr) verwirf(b, "there is no value of that name; --help-names lists them");
     if (!mit_Klammer) {
         if (b.Name->Speicher == "Kinetik") b.Stoff = 0;
         return b;
     }
-    if (b.Name->Indizes == Indexart::keiner) verwirf(ganzer, std::string(Name) + " has no index");
+    if (b.Name->Indizes == Indexart::keiner) verwirf(b, std::string(Name) + " has no index");
     if (ganzer.back() != ']')
-        verwirf(ganzer, "the closing bracket is missing; in a table a name with a comma stands in quotation marks");
+        verwirf(b, "the closing bracket is missing; in a table a name with a comma stands in quotation marks");
     std::vector<std::string_view> Teile = zerlege_an(ganzer.substr(Klammer + 1, ganzer.size() - Klammer - 2), ',');
     for (std::string_view& Teil : Teile) Teil = ohne_Randblanks(Teil);
     lies_Indizes(b, Teile);
@@ -246,17 +253,17 @@ bool nimmt_an(const Eingabename& n, double Zahl) {
 
 Eingabewert lies_Eingabewert(const Namensbezug& b, std::string_view Text, const Projektordner& Ordner) {
     const std::string_view Kern = ohne_Randblanks(Text);
-    if (Kern.empty()) verwirf(b.Text, "no value is given");
+    if (Kern.empty()) verwirf(b, "no value is given");
     if (b.Name->ist_Klima()) return lies_Klima(b, Kern, Ordner);
     if (b.Name->ist_Wort()) return lies_Wort(b, Kern);
     const Zahllesung z = lies_Zahl(Kern);
-    if (!z.ganz()) verwirf(b.Text, "\"" + std::string(Kern) + "\" is not one number");
-    if (!std::isfinite(z.Zahl)) verwirf(b.Text, "\"" + std::string(Kern) + "\" is too large a number");
+    if (!z.ganz()) verwirf(b, "\"" + std::string(Kern) + "\" is not one number", Kern);
+    if (!std::isfinite(z.Zahl)) verwirf(b, "\"" + std::string(Kern) + "\" is too large a number", Kern);
     Eingabewert w = als_Eingabewert(z.Zahl);
     if (!nimmt_an(*b.Name, w.Zahl())) {
         const std::string Einheit = b.Name->Einheit.empty() ? "" : " " + std::string(b.Name->Einheit);
-        verwirf(b.Text,
-                "\"" + std::string(Kern) + "\" lies outside its range (" + Wertebereich_als_Text(*b.Name) + Einheit + ")");
+        verwirf(b, "\"" + std::string(Kern) + "\" lies outside its range (" + Wertebereich_als_Text(*b.Name) + Einheit + ")",
+                Kern);
     }
     return w;
 }
@@ -267,7 +274,7 @@ std::vector<Eingabeort> Orte(const Namensbezug& b, const Eingabe& e) {
     if (Art == Indexart::Tabellenreihe) return {{0, 0, b.Reihe}};
     const bool mit_Studie = Art == Indexart::Studie_und_Stoff || Art == Indexart::Studie;
     if (mit_Studie && b.Studie >= e.Studienzahl())
-        verwirf(b.Text, "there is no study " + std::to_string(b.Studie + 1) + ", only " + std::to_string(e.Studienzahl()));
+        verwirf(b, "there is no study " + std::to_string(b.Studie + 1) + ", only " + std::to_string(e.Studienzahl()));
     const int Studienzahl = mit_Studie ? e.Studienzahl() : 1;
     const int Stoffzahl = Art == Indexart::Studie ? 1 : Anzahl_Stoffe(e.Berechnungsmodus);
     const int erster = Art == Indexart::Metabolit ? 1 : 0;
@@ -302,7 +309,7 @@ void stimme_ab(Eingabe& e, std::span<const Namensbezug* const> gegebene) {
     const int Male = e.Anzahl();
     const int laengstes = laengstes_Intervall(Male);
     if (Abstand && e.Intervall() > laengstes) {
-        verwirf(Abstand->Text,
+        verwirf(*Abstand,
                 std::to_string(Male) + " applications a year leave at most " + std::to_string(laengstes) + " days between them");
     }
 }

@@ -79,16 +79,11 @@ std::vector<Eintrag> lies_ungeordnet(const std::string& Ordner) {
     return Eintraege;
 }
 #else
-std::string als_Text(const fs::path& Pfad) {
-    const std::u8string Text = Pfad.u8string();
-    return {Text.begin(), Text.end()};
-}
-
 std::vector<Eintrag> lies_ungeordnet(const std::string& Ordner) {
     std::vector<Eintrag> Eintraege;
     std::error_code Fehler;
     for (fs::directory_iterator i(als_Pfad(Ordner), Fehler), Ende; !Fehler && i != Ende; i.increment(Fehler)) {
-        std::string Name = als_Text(i->path().filename());
+        std::string Name = Pfadtext(i->path().filename());
         const auto Art = Art_von(verbunden(Ordner, Name));
         Eintraege.push_back({std::move(Name), Art});
     }

@@ -35,7 +35,7 @@ public:
     void bemaengle(const Satzstelle& Stelle, const std::string& Meldung, const std::string& Text = {}) {
         bemaengle(Stelle.Zeile, Stelle.Name, Meldung, Text);
     }
-    void bemaengle(const Laufzeitfehler& f) { bemaengle(f.Ort().Zeile, f.Ort().Feld, f.Grund(), f.Ort().Text); }
+    void bemaengle(const Laufzeitfehler& f) { bemaengle(f.Ort().Zeile, f.Ort().Name(), f.Grund(), f.Ort().Text); }
     Befunde nimm() { return std::move(Befunde_); }
 
 private:
@@ -51,7 +51,7 @@ void probiere(Sammler& s, const Eingabe& e, Probe p) {
         p();
     } catch (const Laufzeitfehler& f) {
         const auto Stelle = finde_Satzstelle(f.Ort(), e);
-        Stelle ? s.bemaengle(*Stelle, f.what()) : s.bemaengle(0, f.Ort().Feld, f.what());
+        Stelle ? s.bemaengle(*Stelle, f.what()) : s.bemaengle(0, f.Ort().Name(), f.what());
     }
 }
 
@@ -129,7 +129,7 @@ Befunde Projektpruefer::pruefe_Satz(const std::string& Bytes, const std::string&
         const Lesebefund b = Satz_lesen_aus(Bytes, Name + Endungen[Art], Art, e, Sicht);
         s.bemerke(b.Bemerkungen);
         if (b.Ausgang != Leseausgang::gelesen) {
-            s.bemaengle(b.Zeile, b.Feld, b.Grund, b.Text);
+            s.bemaengle(b.Ort.Zeile, b.Ort.Name(), b.Grund, b.Ort.Text);
         } else if (Art == Applikation || Art == Vorlage_Applikation) {
             pruefe_Applikation(s, e, *Speicher_);
         } else if (Art == Szenario || Art == Vorlage_Szenario) {

@@ -26,16 +26,15 @@ Satzart Grundart(Satzart Art) { return Art > Szenario ? static_cast<Satzart>(Art
 // What a reading works on: nothing of the caller's is touched before it is clear what counts.
 struct Lesung {
     Satzleser Leser;
-    const std::string& Datei;
     Eingabe Felder;
     Ansicht Sicht;
 };
 
-[[noreturn]] void verwirf(const Lesung& l, const Lesefehler& f, const std::string& Zusatz = {}) {
-    throw Laufzeitfehler(f.what() + Zusatz, {.Datei = l.Datei, .Zeile = f.Zeile(), .Feld = f.Feld(), .Text = f.Text()});
+[[noreturn]] void verwirf(const Lesefehler& f, const std::string& Zusatz = {}) {
+    throw Laufzeitfehler(f.what() + Zusatz, f.Ort());
 }
 
-Lesebefund abgebrochen(const Lesefehler& f) { return {Leseausgang::abgebrochen, f.Zeile(), f.what(), f.Feld(), f.Text(), {}}; }
+Lesebefund abgebrochen(const Lesefehler& f) { return {Leseausgang::abgebrochen, f.Ort(), f.what(), {}}; }
 
 void loesche_Flaggen_ab(Laufparameter& p, int Stelle) {
     std::fill(p.Ausgabename_Teile.begin() + std::clamp(Stelle, 0, 7), p.Ausgabename_Teile.end(), std::uint8_t{0});
@@ -66,7 +65,7 @@ void lies_Wirkstoffdaten(Lesung& l, bool Flaggen_repariert) {
     } catch (const Lesefehler& f) {
         if (!f.am_Aufbau()) throw;
         if (Flaggen_repariert) {
-            verwirf(l, f, " (line " + std::to_string(Zeile_der_Flaggen) + " is short of values, too)");
+            verwirf(f, " (line " + std::to_string(Zeile_der_Flaggen) + " is short of values, too)");
         }
         erster = f;
     }
@@ -75,7 +74,7 @@ void lies_Wirkstoffdaten(Lesung& l, bool Flaggen_repariert) {
     try {
         gehe_durch_Wirkstoffdaten(l.Leser, l.Felder, l.Sicht, Zaehler);
     } catch (const Lesefehler&) {
-        verwirf(l, *erster);
+        verwirf(*erster);
     }
 }
 
@@ -84,12 +83,12 @@ Lesebefund lies_Wirkstoff(Lesung& l) {
         gehe_durch_Wirkstoffkopf(l.Leser, l.Felder);
     } catch (const Lesefehler& f) {
         if (f.am_Aufbau()) return abgebrochen(f);
-        verwirf(l, f);
+        verwirf(f);
     }
     try {
         lies_Wirkstoffdaten(l, lies_Flaggen(l));
     } catch (const Lesefehler& f) {
-        verwirf(l, f);
+        verwirf(f);
     }
     l.Sicht.Studie_Index = 0;
     setze_Startwerte(l.Felder.Parameter, l.Felder.Studie.size());
@@ -176,7 +175,7 @@ Lesebefund Satz_lesen_aus(const std::string& Bytes, const std::string& Datei, Sa
                           char Dezimalzeichen) {
     if (Art < Wirkstoff || Art > Vorlage_Szenario) throw Laufzeitfehler("File " + Datei + " is no record", {Datei});
     if (Bytes.size() > Hoechstgroesse_Datei) throw Laufzeitfehler("the file is too large for a record", {Datei, 1});
-    Lesung l{Satzleser(Bytes, Datei, Dezimalzeichen), Datei, e, a};
+    Lesung l{Satzleser(Bytes, Datei, Dezimalzeichen), e, a};
     if (Bytes.starts_with(UTF8_Marke)) l.Leser.bemerke(1, "the file begins with the mark of UTF-8 and was read as Windows-1252");
     Lesebefund Befund = lies(l, Grundart(Art));
     Befund.Bemerkungen = l.Leser.Bemerkungen(l.Felder);
@@ -191,7 +190,7 @@ Lesebefund Satz_lesen(const Projektordner& Ordner, const std::string& Name, Satz
     if (Art < Wirkstoff || Art > Vorlage_Szenario) throw Laufzeitfehler("\"" + Name + "\" is no record");
     const std::string Endung = Endungen[Art];
     const auto Pfad = Ordner.finde(Name, Endung);
-    if (!Pfad) return {Leseausgang::fehlt, 0, {}, {}, {}, {}};
+    if (!Pfad) return {Leseausgang::fehlt, {}, {}, {}};
     return Satz_lesen_aus(lies_Datei(*Pfad), Name + Endung, Art, e, a, Dezimalzeichen);
 }
 

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "base/bemerkung.h"
+#include "base/laufzeitfehler.h"
 #include "records/projektordner.h"
 #include "run/ansicht.h"
 #include "run/eingabe.h"
@@ -21,10 +22,8 @@ enum class Leseausgang {
 
 struct Lesebefund {
     Leseausgang Ausgang = Leseausgang::gelesen;
-    int Zeile = 0;      // where reading was broken off, counted from 1
+    Fehlerort Ort;      // where reading was broken off
     std::string Grund;  // why
-    std::string Feld;   // and at which value, as the file names it
-    std::string Text;   // what stands there
     std::vector<Bemerkung> Bemerkungen;
 };
 

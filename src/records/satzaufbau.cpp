@@ -178,11 +178,11 @@ void gehe_durch_Applikation(Satzgang& g, Eingabe& e, Ansicht& a) {
     g.Zeile("Application type:", {ohne_Komma(Listenfeld(e.Applikationsmuster, unregelmaessig))});
     g.Zeile("PEC-Type:", {Listenfeld(a.PEC_Typ, Anreicherung)});
     g.beginne("Regular application date:");
-    g.Zwischenwert(mit_Teil(Position(e.App_Monat, 1, Monate), "month"));
+    g.Zwischenwert(im_Speicher(mit_Teil(Position(e.App_Monat, 1, Monate), "month"), "App_Monat"));
     // The list of days follows the month, so that a day of the old month does not outlive it.
     const int Tage = Tage_im_Monat(e.App_Monat + 1);
     e.App_Tag = std::min(e.App_Tag, Tage - 1);
-    g.Endwert(mit_Teil(ohne_Komma(Position(e.App_Tag, 1, Tage)), "day"));
+    g.Endwert(im_Speicher(mit_Teil(ohne_Komma(Position(e.App_Tag, 1, Tage)), "day"), "App_Tag"));
     g.Zeile("Application rate (g/ha):", {mit(Zahltext(e.Applikationsrate), Grenzen_von("Applikationsrate"))});
     g.Zeile("Crop interception (%):", {mit(Zahltext(e.Interzeption), Grenzen_von("Interzeption"))});
     // The list of intervals is full here and is cut to 365/number as soon as the number is known.

@@ -38,8 +38,9 @@ std::string_view Satzleser::naechste_Zeile(Zeilenname Name) {
     Stelle_ = 0;
     const auto Zeile = Zeilen_.naechste();
     if (!Zeile) {
-        throw Lesefehler(Lesefehler::Ursache::Aufbau, Zeilen_.Nummer() + 1, 0, "the file ends before " + Name.Text(),
-                         Name.Feldname({}));
+        Fehlerort Ort = Ort_von({}, {});
+        ++Ort.Zeile;
+        throw Lesefehler(Lesefehler::Ursache::Aufbau, std::move(Ort), 0, "the file ends before " + Name.Text());
     }
     return *Zeile;
 }
@@ -53,9 +54,8 @@ void Satzleser::beginne_Tabellenzeile(int Nummer) { Rest_ = naechste_Zeile({{}, 
 void Satzleser::Zwischenwert(const Feld& f) {
     const auto Tabulator = Rest_.find('\t');
     if (Tabulator == std::string_view::npos) {
-        throw Lesefehler(Lesefehler::Ursache::Aufbau, Zeilen_.Nummer(), Stelle_,
-                         Name_.Text() + " has too few values (no tab behind value " + std::to_string(Stelle_ + 1) + ")",
-                         Name_.Feldname(f), Auszug(Rest_));
+        throw Lesefehler(Lesefehler::Ursache::Aufbau, Ort_von(f, Rest_), Stelle_,
+                         Name_.Text() + " has too few values (no tab behind value " + std::to_string(Stelle_ + 1) + ")");
     }
     lies(f, ohne_Randblanks(Rest_.substr(0, Tabulator)));
     Rest_ = hinter_Tabulator(Rest_);
@@ -142,8 +142,19 @@ std::vector<Bemerkung> Satzleser::Bemerkungen(const Eingabe& e) const {
     return Geltende;
 }
 
+Fehlerort Satzleser::Ort_von(const Feld& f, std::string_view Text) const {
+    return {.Datei = Datei_,
+            .Zeile = Zeilen_.Nummer(),
+            .Feld = std::string(f.Speicher),
+            .i_studie = f.i_studie,
+            .i_substanz = f.i_substanz,
+            .Text = Auszug(Text),
+            .Reihe = Name_.Tabellenzeile,
+            .Bezeichnung = Name_.Feldname(f)};
+}
+
 void Satzleser::melde_Wert(const Feld& f, std::string_view Text, const std::string& Grund) {
-    throw Lesefehler(Lesefehler::Ursache::Wert, Zeilen_.Nummer(), Stelle_, Grund, Name_.Feldname(f), Auszug(Text));
+    throw Lesefehler(Lesefehler::Ursache::Wert, Ort_von(f, Text), Stelle_, Grund);
 }
 
 }  // namespace varnok

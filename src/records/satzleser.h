@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "base/bemerkung.h"
+#include "base/laufzeitfehler.h"
 #include "base/zahlen.h"
 #include "records/satz.h"
 #include "records/satzaufbau.h"
@@ -23,26 +24,18 @@ public:
         Wert,    // a value that its place cannot hold
     };
 
-    Lesefehler(Ursache u, int Zeile, int Stelle, const std::string& Grund, std::string Feld, std::string Text = {})
-        : std::runtime_error(Grund),
-          Ursache_(u),
-          Zeile_(Zeile),
-          Stelle_(Stelle),
-          Feld_(std::move(Feld)),
-          Text_(std::move(Text)) {}
+    Lesefehler(Ursache u, Fehlerort Ort, int Stelle, const std::string& Grund)
+        : std::runtime_error(Grund), Ursache_(u), Ort_(std::move(Ort)), Stelle_(Stelle) {}
 
     bool am_Aufbau() const { return Ursache_ == Ursache::Aufbau; }
-    int Zeile() const { return Zeile_; }               // counted from 1
-    int Stelle() const { return Stelle_; }             // values of that line read before the fault
-    const std::string& Feld() const { return Feld_; }  // as the file names it
-    const std::string& Text() const { return Text_; }  // of the value at fault
+    const Fehlerort& Ort() const { return Ort_; }
+    int Zeile() const { return Ort_.Zeile; }
+    int Stelle() const { return Stelle_; }  // values of that line read before the fault
 
 private:
     Ursache Ursache_;
-    int Zeile_;
+    Fehlerort Ort_;
     int Stelle_;
-    std::string Feld_;
-    std::string Text_;
 };
 
 // The walk that reads. Takes each value off the bytes and puts it into its place. Throws Lesefehler;
@@ -94,6 +87,7 @@ private:
     Zahllesung lies_Zahl(const Feld& f, std::string_view Text);
     void lies_ganze_Zahl(const Feld& f, std::string_view Text);
     void bemerke_Wert(const Feld& f, std::string_view Text, const Zahllesung& l, double genommen);
+    Fehlerort Ort_von(const Feld& f, std::string_view Text) const;
     [[noreturn]] void melde_Wert(const Feld& f, std::string_view Text, const std::string& Grund);
 
     Zeilenfolge Zeilen_;

@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "base/laufzeitfehler.h"
 #include "records/satzaufbau.h"
 
 namespace varnok {
@@ -26,8 +27,9 @@ public:
 private:
     void schreibe(const Feld& f);
     std::string als_Text(const Feld& f) const;
-    std::string als_Zahltext(double Zahl) const;
-    [[noreturn]] void melde(const std::string& Grund) const;
+    std::string als_Zahltext(const Feld& f, double Zahl) const;
+    Fehlerort Ort_von(const Feld& f) const;
+    [[noreturn]] void melde(const Feld& f, const std::string& Grund) const;
 
     char Dezimalzeichen_;
     std::string Name_;  // of the line in work, for messages

@@ -2,14 +2,14 @@
 
 #include <algorithm>
 
-#include "base/laufzeitfehler.h"
 #include "base/zeichensatz.h"
 
 namespace varnok {
 
-std::string als_Satztext(std::string_view Utf8, std::string_view Feldname) {
+std::string als_Satztext(std::string_view Utf8, std::string_view Feldname, Fehlerort Ort) {
     const std::string Anfang = "The record cannot be saved: " + std::string(Feldname) + " holds ";
-    const Fehlerort Ort = {.Feld = std::string(Feldname), .Text = std::string(Utf8)};
+    Ort.Bezeichnung = Feldname;
+    Ort.Text = Utf8;
     const auto Bytes = nach_Windows_1252(Utf8);
     if (!Bytes) {
         throw Laufzeitfehler(

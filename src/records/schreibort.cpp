@@ -20,11 +20,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::string als_Text(const fs::path& Pfad) {
-    const std::u8string Text = Pfad.u8string();
-    return {Text.begin(), Text.end()};
-}
-
 fs::file_type eigene_Art(const fs::path& Pfad) {
     std::error_code Fehler;
     return fs::symlink_status(Pfad, Fehler).type();
@@ -54,7 +49,7 @@ bool ist_darin(const fs::path& Pfad, const fs::path& Ordner) {
 
 std::string Linkbeschreibung(const fs::path& Pfad) {
     std::error_code Fehler;
-    return "it is a link to \"" + als_Text(fs::read_symlink(Pfad, Fehler)) + "\"";
+    return "it is a link to \"" + Pfadtext(fs::read_symlink(Pfad, Fehler)) + "\"";
 }
 
 // A file of its own folder is meant, not what its own folder is a link to.
@@ -75,13 +70,13 @@ std::string Ziel_des_Satzes(const std::string& Utf8, const fs::path& Pfad) {
     if (Art == fs::file_type::not_found) return Utf8;
     const fs::path Ziel = aufgeloest(Pfad);
     const bool von_der_Art =
-        Art == fs::file_type::regular && gleich_ohne_Gross_Klein(als_Text(Ziel.extension()), als_Text(Pfad.extension()));
-    if (!von_der_Art) lehne_ab(Utf8, Linkbeschreibung(Pfad) + ", which is no " + als_Text(Pfad.extension()) + " file");
-    return als_Text(Ziel);
+        Art == fs::file_type::regular && gleich_ohne_Gross_Klein(Pfadtext(Ziel.extension()), Pfadtext(Pfad.extension()));
+    if (!von_der_Art) lehne_ab(Utf8, Linkbeschreibung(Pfad) + ", which is no " + Pfadtext(Pfad.extension()) + " file");
+    return Pfadtext(Ziel);
 }
 
 void pruefe_Datei(const std::string& Utf8, const fs::path& Pfad, const Schreibort& Ort) {
-    const std::string Ordner = als_Text(Ordner_von(Pfad));
+    const std::string Ordner = Pfadtext(Ordner_von(Pfad));
     if (!Ort.Grenze.empty() && liegt_ausserhalb(Ordner, Ort.Grenze)) {
         lehne_ab(Utf8, "the folder \"" + Ordner + "\" is a link to outside of \"" + Ort.Grenze + "\"");
     }

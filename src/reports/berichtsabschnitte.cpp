@@ -5,7 +5,6 @@
 #include <string_view>
 
 #include "base/laufzeitfehler.h"
-#include "base/text.h"
 #include "base/zahlen.h"
 #include "exposure/ergebnistabelle.h"
 #include "reports/berichtswoerter.h"
@@ -18,7 +17,6 @@ constexpr std::array<std::string_view, 3> Rueckstandsarten = {
     "Residues from different applications are not considered separately",
     "Residues from different applications are considered separately",
     "Residues from different applications are considered separately over one year"};
-constexpr std::array Tabellenkoepfe = {"Day", "Month", "Rate (g/ha)", "Interception(%)"};
 constexpr std::array Berichtsschemata = {"Parent compound without metabolites", "Active compound and a single metabolite",
                                          "Active compound and two parallel metabolites",
                                          "Active compound and a sequence of two metabolites"};
@@ -60,7 +58,7 @@ void haenge_regelmaessige_an(Textaufbau& t, const Eingabe& e) {
 // The grid with its head; a tab stands behind each cell, also behind the last.
 void haenge_Tabelle_an(Textaufbau& t, const Eingabe& e) {
     t.Zeile("Number of Applications :            ", ganz(e.Anzahl()));
-    for (const char* Kopf : Tabellenkoepfe) t.Text({Kopf, "\t"}, 0);
+    for (const std::string_view Kopf : Tabellenkoepfe) t.Text({Kopf, "\t"}, 0);
     t.Enden(1);
     const std::size_t Zeilen = std::min(e.Applikationsschema.size(), static_cast<std::size_t>(e.Anzahl()));
     for (std::size_t z = 0; z < Zeilen; ++z) {
@@ -93,7 +91,7 @@ const char* Schemaname(Stoffschema s) { return Berichtsschemata.at(s); }
 
 std::string Punkttext(const Zahlwert& z) {
     std::string Text = z.Text();
-    if (lies_Zahl(ohne_Randblanks(Text)).ganz()) std::replace(Text.begin(), Text.end(), ',', '.');
+    if (z.ganz()) std::replace(Text.begin(), Text.end(), ',', '.');
     return Text;
 }
 

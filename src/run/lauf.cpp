@@ -3,6 +3,7 @@
 #include <span>
 
 #include "base/laufzeitfehler.h"
+#include "base/wertebereiche.h"
 #include "base/zahlen.h"
 #include "run/applikation.h"
 #include "run/tageswerte.h"
@@ -67,7 +68,7 @@ std::string Meldung(Laufausgang Ausgang) {
         case Laufausgang::berechnet:
             return {};
         case Laufausgang::Tabelle_ungueltig:
-            return "You entered application dates that are not valid. Please correct!";
+            return Bereiche::Meldung_Datum;
         case Laufausgang::Datumsfolge_ungueltig:
             return "The sequence of application dates that is not valid. Please correct!";
         case Laufausgang::Klimadatei_fehlt:

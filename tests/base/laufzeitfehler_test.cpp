@@ -27,6 +27,7 @@ TEST(Laufzeitfehler, without_a_line_is_the_reason_alone) {
     EXPECT_STREQ(Laufzeitfehler("Cannot read the file \"/a/X.che\"", {.Datei = "X.che"}).what(),
                  "Cannot read the file \"/a/X.che\"");
     EXPECT_STREQ(Laufzeitfehler("y", {.Feld = "Bodendichte", .Reihe = 2}).what(), "y");
+    EXPECT_EQ(Fehlerort{.Feld = "Bodendichte"}.Name(), "Bodendichte");
 }
 
 TEST(Laufzeitfehler, more_may_stand_in_front_of_the_reason) {

@@ -131,9 +131,9 @@ TEST(Batch_JSON, list_of_windows_is_that_of_TWA_Zeiten) {
 TEST(Batch_JSON, windows_of_a_settings_file_replace_the_default_lists) {
     Probeprojekt Projekt;
     Projekt.schreibe("case");
-    Einstellungen e;
-    e.TWA.EU = {1, 2.5, 3, 4, 5, 6, 7, 8, 9, 10};
-    Projekt.schreibe_Bytes("../VARNOK.ini", Einstellungen_als_Bytes(e));
+    TWA_Listen Listen;
+    Listen.EU = {1, 2.5, 3, 4, 5, 6, 7, 8, 9, 10};
+    Projekt.schreibe_Bytes("../VARNOK.ini", Einstellungen_als_Bytes({}, Listen));
     const auto r = rufe({"--json", "-", "--settings", Projekt.Pfad() + "/VARNOK.ini", Projekt.Pfad()});
     ASSERT_EQ(r.Status, 0) << r.fehler;
     const JSON Dokument = r.JSON();

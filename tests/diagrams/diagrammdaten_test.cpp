@@ -19,10 +19,19 @@ Diagramm kurzes(Handergebnis& h, int Satz) {
     return ist_mehrfach(Satz) ? erstelle_Diagramm_mehrfach(h, b, Satz, 0, 0) : erstelle_Diagramm(h, b, Satz, 0);
 }
 
+// A table with a column for each value of a row.
+Ergebniswerte Werte(const std::vector<std::string>& Koepfe, std::vector<Ergebniswerte::Zeile> Zeilen) {
+    Ergebniswerte w;
+    for (const std::string& Kopf : Koepfe) w.Spalten.push_back({Kopf, Milligramm});
+    w.Zeilen = std::move(Zeilen);
+    return w;
+}
+
 TEST(Diagrammdaten, of_one_compound_line_by_line) {
     Handergebnis h;
     probe::setze_Boden(h, {4, 2.5F, 0.000263F});
-    const std::string Text = Diagrammdaten(kurzes(h, 0), {{"Results", {{"Time (d)", " PECactual"}, {"1 d ", " 2.5000"}}}}, {});
+    const Ergebniswerte w = Werte({"PECactual", "PECtwa"}, {{{}, {4.0, std::nullopt}}, {1.0F, {2.5, 3.25}}});
+    const std::string Text = Diagrammdaten(kurzes(h, 0), {{"Results", w}}, {});
     EXPECT_EQ(Text,
               "Annual concentration of Wheat Study: field\r\n"
               "Mode: Parent only  - presented substance: parent (kinetics: SFO )\r\n"
@@ -36,16 +45,18 @@ TEST(Diagrammdaten, of_one_compound_line_by_line) {
               "parent,0,1,3.25\r\n"
               "\r\n"
               "Results\r\n"
-              "Time (d),PECactual\r\n"
-              "1 d,2.5000\r\n");
+              "Time(d),PECactual,PECtwa\r\n"
+              "PECmax,4.0000,--------\r\n"
+              "1 d,2.5000,3.2500\r\n");
 }
 
 TEST(Diagrammdaten, with_the_comma_of_the_region_semicolons_part_the_fields) {
     Handergebnis h;
     probe::setze_Boden(h, {4, 2.5F, 1});
-    const std::string Text = Diagrammdaten(kurzes(h, 0), {{"", {{"Time", "PEC"}, {"0.5 d", "<0.0001"}}}}, CSV_mit(','));
+    const Ergebniswerte w = Werte({"PECactual"}, {{0.5F, {0.00001}}});
+    const std::string Text = Diagrammdaten(kurzes(h, 0), {{"", w}}, CSV_mit(','));
     EXPECT_NE(Text.find("\r\n1;2,5\r\n"), std::string::npos);
-    EXPECT_NE(Text.find("\r\n0.5 d;<0,0001\r\n"), std::string::npos);
+    EXPECT_NE(Text.find("\r\n0,5 d;<0,0001\r\n"), std::string::npos);
     EXPECT_NE(Text.find("\r\nparent;0;1;3,25\r\n"), std::string::npos);
 }
 

@@ -118,6 +118,27 @@ TEST(Ergebnistabelle, the_unit_decides_the_places) {
     EXPECT_EQ(Tabelle(l)[2][2], "<0.01      ");
 }
 
+// What other programs get: no blanks around a text, and nothing to take apart.
+TEST(Ergebniswerte, are_numbers_by_window_with_a_text_for_each) {
+    Darstellungsprobe l = mit_Peak(1.5F, 0);
+    l.Werte().TWA[3].aktuell = 1.125F;
+    l.Werte().Plateauwert = 8;
+    l.Sicht.PEC_Typ = Anreicherung;
+    l.Felder.Parameter.TWA.EU[3] = 7.5;
+    l.Studie();
+    const Ergebniswerte w = Werte_einer_Studie(l, 0, 0);
+    ASSERT_EQ(w.Zeilen.size(), 11U);
+    EXPECT_EQ(w.Zeilen[0].Fenster, std::nullopt);
+    EXPECT_EQ(w.Zeilen[0].Spalten[0], 9.5);
+    EXPECT_EQ(w.Zeilen[0].Spalten[1], std::nullopt);
+    EXPECT_EQ(w.Zeilen[4].Fenster, 7.5F);
+    EXPECT_EQ(w.Zeilen[4].Spalten[0], 9.125);
+    EXPECT_EQ(Ergebniswerte::Bezeichnung(w.Zeilen[0]), "PECmax");
+    EXPECT_EQ(Ergebniswerte::Bezeichnung(w.Zeilen[4], ','), "7,5 d");
+    EXPECT_EQ(w.Text(w.Zeilen[4], 0, ','), "9,1250");
+    EXPECT_EQ(w.Text(w.Zeilen[0], 1), "--------");
+}
+
 TEST(PECactual, stands_a_window_behind_the_peak) { EXPECT_EQ(PECactual_Tag(40, 14), 54); }
 
 TEST(PECactual, of_a_peak_on_day_3640_is_taken_at_day_3649_for_30_days) { EXPECT_EQ(PECactual_Tag(3640, 30), 3649); }
@@ -170,6 +191,20 @@ TEST(Zusammenfassung, the_more_studies_the_fewer_blanks) {
     EXPECT_EQ(Zusammenfassung(mit_Studien(1))[1][1], "     1.0000");
     EXPECT_EQ(Zusammenfassung(mit_Studien(3))[1][3], "   3.0000");
     EXPECT_EQ(Zusammenfassung(mit_Studien(6))[1][6], "6.0000");
+}
+
+TEST(Ergebniswerte, of_all_studies_have_the_unit_of_each) {
+    Darstellungsprobe p = mit_Studien(2);
+    p.Werte(0, 0).TWA[9].Maximum = 0.00001F;
+    const Ergebniswerte w = Werte_aller_Studien(p, 0);
+    ASSERT_EQ(w.Spalten.size(), 2U);
+    EXPECT_EQ(w.Spalten[1].Kopf, "study 2");
+    EXPECT_EQ(w.Spalten[1].Einheit, Milligramm);
+    ASSERT_EQ(w.Zeilen.size(), 11U);
+    EXPECT_EQ(w.Zeilen[0].Spalten[1], 2.0);
+    EXPECT_EQ(w.Zeilen[10].Fenster, 100.0F);
+    EXPECT_EQ(w.Zeilen[10].Spalten[1], 0.5);
+    EXPECT_EQ(w.Text(w.Zeilen[10], 0, ','), "<0,0001");
 }
 
 TEST(Zusammenfassung, holds_peaks_and_averages_only) {

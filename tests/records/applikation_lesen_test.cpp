@@ -169,7 +169,7 @@ TEST_P(Applikation_Abbruch, value_outside_its_list_leaves_an_irregular_pattern_u
     const Satzprobe vorher = p;
     const Lesebefund b = lies(mit_Zeile(Satz, Zeile, Text), Applikation, p);
     EXPECT_EQ(b.Ausgang, Leseausgang::abgebrochen);
-    EXPECT_EQ(b.Zeile, static_cast<int>(Zeile));
+    EXPECT_EQ(b.Ort.Zeile, static_cast<int>(Zeile));
     EXPECT_THAT(b.Grund, HasSubstr(Grund));
     EXPECT_EQ(p, vorher);
 }
@@ -219,9 +219,10 @@ TEST(Applikation_lesen, no_number_outside_the_list_enters_where_a_run_needs_it) 
             const std::string Zeile = std::string("Number of applications per year:\t") + Text;
             const Lesebefund b = lies(mit_Zeile(mit_Muster(Muster), 8, Zeile), Applikation, p);
             EXPECT_EQ(b.Ausgang, Leseausgang::abgebrochen) << Text;
-            EXPECT_EQ(b.Zeile, 8);
-            EXPECT_EQ(b.Feld, "Number of applications per year");
-            EXPECT_EQ(b.Text, Text);
+            EXPECT_EQ(b.Ort.Zeile, 8);
+            EXPECT_EQ(b.Ort.Feld, "Anzahl");
+            EXPECT_EQ(b.Ort.Bezeichnung, "Number of applications per year");
+            EXPECT_EQ(b.Ort.Text, Text);
             EXPECT_EQ(p, vorher);
         }
     }
@@ -241,7 +242,7 @@ TEST(Applikation_lesen, missing_row_of_an_irregular_pattern_changes_nothing) {
     const Satzprobe vorher = p;
     const Lesebefund b = lies(vor_Zeile(Satz, 12) + Trennlinie + "\r\n", Applikation, p);
     EXPECT_EQ(b.Ausgang, Leseausgang::abgebrochen);
-    EXPECT_EQ(b.Zeile, 12);
+    EXPECT_EQ(b.Ort.Zeile, 12);
     EXPECT_EQ(b.Grund, "row 3 of the application table has too few values (no tab behind value 1)");
     EXPECT_EQ(p, vorher);
 }
@@ -249,7 +250,7 @@ TEST(Applikation_lesen, missing_row_of_an_irregular_pattern_changes_nothing) {
 TEST(Applikation_lesen, row_without_a_tab_of_an_irregular_pattern_changes_nothing) {
     Satzprobe p = volle_Probe(4);
     const Satzprobe vorher = p;
-    EXPECT_EQ(lies(mit_Zeile(Satz, 11, "20\t05"), Applikation, p).Zeile, 11);
+    EXPECT_EQ(lies(mit_Zeile(Satz, 11, "20\t05"), Applikation, p).Ort.Zeile, 11);
     EXPECT_EQ(p, vorher);
 }
 
@@ -280,7 +281,7 @@ TEST(Applikation_lesen, file_that_ends_before_what_the_run_of_its_pattern_reads_
             const Lesebefund b = lies(vor_Zeile(mit_Muster(Muster), static_cast<std::size_t>(Zeile)), Applikation, p);
             EXPECT_EQ(b.Ausgang == Leseausgang::abgebrochen, Zeile <= letzte) << Muster << ' ' << Zeile;
             if (Zeile > letzte) continue;
-            EXPECT_EQ(b.Zeile, Zeile);
+            EXPECT_EQ(b.Ort.Zeile, Zeile);
             EXPECT_EQ(p, vorher) << Muster << ' ' << Zeile;
         }
     }

@@ -12,17 +12,19 @@ namespace {
 using namespace probe;
 using ::testing::ElementsAre;
 
-Einstellungen Probe() {
-    Einstellungen e;
-    e.Tips_anzeigen = 1;
-    e.Farbeinstellung = 3;
-    e.TWA_Titel_EU = "Mine µ";
-    e.TWA.EU = {0.5, 1, 2, 3, 4, 5, 6, 7, 1.0 / 3, 365};
-    e.TWA_Titel_Monat = "";
-    e.TWA.Monat[11] = 3649;
-    e.Projektpfad = "/home/über/project";
-    return e;
+Gelesene_Einstellungen Probe() {
+    Gelesene_Einstellungen g;
+    g.Werte.Tips_anzeigen = 1;
+    g.Werte.Farbeinstellung = 3;
+    g.Werte.TWA_Titel_EU = "Mine µ";
+    g.Werte.TWA_Titel_Monat = "";
+    g.Werte.Projektpfad = "/home/über/project";
+    g.TWA.EU = {0.5, 1, 2, 3, 4, 5, 6, 7, 1.0 / 3, 365};
+    g.TWA.Monat[11] = 3649;
+    return g;
 }
+
+std::string als_Bytes(const Gelesene_Einstellungen& g) { return Einstellungen_als_Bytes(g.Werte, g.TWA); }
 
 TEST(Einstellungen, defaults_line_by_line) {
     Einstellungen e;
@@ -34,11 +36,11 @@ TEST(Einstellungen, defaults_line_by_line) {
 }
 
 TEST(Einstellungen, what_was_written_reads_back) {
-    EXPECT_EQ(zerlege_Einstellungen(Einstellungen_als_Bytes({})), Einstellungen{});
-    const std::string Bytes = Einstellungen_als_Bytes(Probe());
+    EXPECT_EQ(zerlege_Einstellungen(Einstellungen_als_Bytes({})), Gelesene_Einstellungen{});
+    const std::string Bytes = als_Bytes(Probe());
     auto e = zerlege_Einstellungen(Bytes);
     ASSERT_TRUE(e);
-    EXPECT_EQ(Einstellungen_als_Bytes(*e), Bytes);
+    EXPECT_EQ(als_Bytes(*e), Bytes);
     EXPECT_NEAR(e->TWA.EU[8], 1.0 / 3, 1e-15);  // 15 digits
     e->TWA.EU[8] = 1.0 / 3;
     EXPECT_EQ(*e, Probe());
@@ -50,7 +52,7 @@ TEST(Einstellungen, pictures_have_a_line_where_they_are_others_than_at_first) {
     e.Bild = {90, 70, 600, true};
     const std::string Bytes = Einstellungen_als_Bytes(e);
     EXPECT_EQ(zerlegt(Bytes).back(), "Pictures:\t90\t70\t600\t1");
-    EXPECT_EQ(zerlege_Einstellungen(Bytes), e);
+    EXPECT_EQ(zerlege_Einstellungen(Bytes)->Werte, e);
 }
 
 TEST(Einstellungen, a_line_for_pictures_that_makes_no_sense_is_left_alone) {
@@ -59,7 +61,7 @@ TEST(Einstellungen, a_line_for_pictures_that_makes_no_sense_is_left_alone) {
          {"Pictures:\t9000\t70\t600\t1", "Pictures:\t90\t70", "Something:\t90\t70\t600\t1", "\t\t\t\t", "x"}) {
         const auto e = zerlege_Einstellungen(Bytes + Zeile + "\r\n");
         ASSERT_TRUE(e) << Zeile;
-        EXPECT_EQ(e->Bild, Bildeinstellung()) << Zeile;
+        EXPECT_EQ(e->Werte.Bild, Bildeinstellung()) << Zeile;
     }
 }
 
@@ -67,7 +69,7 @@ TEST(Einstellungen, any_path_comes_back_as_it_was) {
     for (const char* Pfad : {"", "/plain", "/über", "/Ω/日本", "/Ã¤", "/â‚¬", "/\u0081", "C:\\Users\\x", " blank "}) {
         Einstellungen e;
         e.Projektpfad = Pfad;
-        EXPECT_EQ(zerlege_Einstellungen(Einstellungen_als_Bytes(e)), e) << Pfad;
+        EXPECT_EQ(zerlege_Einstellungen(Einstellungen_als_Bytes(e))->Werte, e) << Pfad;
     }
 }
 
@@ -78,18 +80,18 @@ TEST(Einstellungen, path_in_the_code_page_is_read) {
                                               "/\xFC"
                                               "ber"));
     ASSERT_TRUE(e2);
-    EXPECT_EQ(e2->Projektpfad, "/über");
+    EXPECT_EQ(e2->Werte.Projektpfad, "/über");
 }
 
 TEST(Einstellungen, file_without_line_27_has_an_empty_path) {
-    const auto e = zerlege_Einstellungen(vor_Zeile(Einstellungen_als_Bytes(Probe()), 27));
+    const auto e = zerlege_Einstellungen(vor_Zeile(als_Bytes(Probe()), 27));
     ASSERT_TRUE(e);
-    EXPECT_EQ(e->Projektpfad, "");
+    EXPECT_EQ(e->Werte.Projektpfad, "");
     EXPECT_EQ(e->TWA.Monat, Probe().TWA.Monat);
 }
 
 TEST(Einstellungen, any_earlier_end_is_no_settings_file) {
-    const std::string Bytes = Einstellungen_als_Bytes(Probe());
+    const std::string Bytes = als_Bytes(Probe());
     for (std::size_t Zeile = 1; Zeile <= 26; ++Zeile) EXPECT_FALSE(zerlege_Einstellungen(vor_Zeile(Bytes, Zeile))) << Zeile;
 }
 
@@ -108,9 +110,9 @@ TEST(Einstellungen, duration_is_read_in_free_form) {
 }
 
 TEST(Einstellungen, negative_number_takes_the_place_of_the_sign) {
-    Einstellungen e;
-    e.TWA.EU[0] = -1.5;
-    EXPECT_EQ(zerlegt(Einstellungen_als_Bytes(e))[3], "-1.5 ");
+    TWA_Listen TWA;
+    TWA.EU[0] = -1.5;
+    EXPECT_EQ(zerlegt(Einstellungen_als_Bytes({}, TWA))[3], "-1.5 ");
 }
 
 TEST(Einstellungen, duration_that_is_no_finite_number_is_no_settings_file) {
@@ -123,9 +125,9 @@ TEST(Einstellungen, duration_that_is_no_finite_number_is_no_settings_file) {
 
 TEST(Einstellungen, switches_are_read_behind_the_tab_as_whole_numbers) {
     const std::string Bytes = Einstellungen_als_Bytes({});
-    EXPECT_EQ(zerlege_Einstellungen(mit_Zeile(Bytes, 1, "any label\t 1 "))->Tips_anzeigen, 1);
-    EXPECT_EQ(zerlege_Einstellungen(mit_Zeile(Bytes, 2, "x\t255"))->Farbeinstellung, 255);
-    EXPECT_EQ(zerlege_Einstellungen(mit_Zeile(Bytes, 2, "no value"))->Farbeinstellung, 0);
+    EXPECT_EQ(zerlege_Einstellungen(mit_Zeile(Bytes, 1, "any label\t 1 "))->Werte.Tips_anzeigen, 1);
+    EXPECT_EQ(zerlege_Einstellungen(mit_Zeile(Bytes, 2, "x\t255"))->Werte.Farbeinstellung, 255);
+    EXPECT_EQ(zerlege_Einstellungen(mit_Zeile(Bytes, 2, "no value"))->Werte.Farbeinstellung, 0);
     for (const char* Zeile : {"x\t256", "x\t-1", "x\t1E400"}) {
         EXPECT_FALSE(zerlege_Einstellungen(mit_Zeile(Bytes, 1, Zeile))) << Zeile;
         EXPECT_FALSE(zerlege_Einstellungen(mit_Zeile(Bytes, 2, Zeile))) << Zeile;

@@ -26,7 +26,7 @@ protected:
         try {
             const Lesebefund b = lies(Schaden, Art, p);
             if (b.Ausgang == Leseausgang::abgebrochen) {
-                EXPECT_GT(b.Zeile, 0);
+                EXPECT_GT(b.Ort.Zeile, 0);
                 EXPECT_FALSE(b.Grund.empty());
                 EXPECT_EQ(p, vorher);
             } else {

@@ -118,7 +118,7 @@ TEST(Szenario_lesen, value_outside_its_place_that_a_run_needs_changes_nothing) {
         const std::string mit_Modus = mit_Zeile(Satz, 10, "Climate mode:\t" + std::to_string(Modus));
         const Lesebefund b = lies(mit_Zeile(mit_Modus, Zeile, Text), Szenario, p);
         EXPECT_EQ(b.Ausgang, Leseausgang::abgebrochen);
-        EXPECT_EQ(b.Zeile, static_cast<int>(Zeile));
+        EXPECT_EQ(b.Ort.Zeile, static_cast<int>(Zeile));
         EXPECT_EQ(b.Grund, Grund);
         EXPECT_EQ(p, vorher);
     }
@@ -131,7 +131,7 @@ TEST(Szenario_lesen, file_that_ends_before_its_soil_is_whole_changes_nothing) {
         const Satzprobe vorher = p;
         const Lesebefund b = lies(vor_Zeile(Satz, Zeile), Szenario, p);
         EXPECT_EQ(b.Ausgang, Leseausgang::abgebrochen) << Zeile;
-        EXPECT_EQ(b.Zeile, static_cast<int>(Zeile));
+        EXPECT_EQ(b.Ort.Zeile, static_cast<int>(Zeile));
         EXPECT_THAT(b.Grund, HasSubstr("the file ends before"));
         EXPECT_EQ(p, vorher) << Zeile;
     }

@@ -261,7 +261,7 @@ TEST(Wirkstoff_lesen, file_that_ends_before_line_3_changes_nothing) {
         const Satzprobe vorher = p;
         const Lesebefund b = lies(vor_Zeile(Satz, Zeile), Wirkstoff, p);
         EXPECT_EQ(b.Ausgang, Leseausgang::abgebrochen);
-        EXPECT_EQ(b.Zeile, static_cast<int>(Zeile));
+        EXPECT_EQ(b.Ort.Zeile, static_cast<int>(Zeile));
         EXPECT_EQ(p, vorher);
     }
 }

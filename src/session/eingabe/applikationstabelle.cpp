@@ -5,7 +5,6 @@
 
 #include "base/text.h"
 #include "base/wertebereiche.h"
-#include "base/zahlen.h"
 #include "records/einwaende.h"
 #include "session/kern/texte.h"
 #include "session/kern/zahleneingabe.h"
@@ -34,36 +33,36 @@ bool Applikationstabelle::enthaelt(Zelle z) const {
     return z.Zeile >= 0 && z.Spalte >= 0 && z.Zeile < static_cast<int>(z_.Vorgabe.Applikationsschema.size()) && z.Spalte < 4;
 }
 
-void Applikationstabelle::setze(Zelle z, std::string Text) {
+void Applikationstabelle::setze(Zelle z, Zahlwert v) {
     if (!enthaelt(z)) return;
     Zahlwert& Ziel = z_.Vorgabe.Applikationsschema[static_cast<std::size_t>(z.Zeile)][static_cast<std::size_t>(z.Spalte)];
-    if (Ziel.Text() == Text) return;
-    Ziel = std::move(Text);
+    if (Ziel == v) return;
+    Ziel = std::move(v);
     z_.Saetze[Applikation].merke_Aenderung();
 }
 
-const std::string& Applikationstabelle::Text(Zelle z) const {
-    return z_.Vorgabe.Applikationsschema.at(static_cast<std::size_t>(z.Zeile)).at(static_cast<std::size_t>(z.Spalte)).Text();
+const Zahlwert& Applikationstabelle::Wert(Zelle z) const {
+    return z_.Vorgabe.Applikationsschema.at(static_cast<std::size_t>(z.Zeile)).at(static_cast<std::size_t>(z.Spalte));
 }
 
 bool Applikationstabelle::ausserhalb(Zelle z) const {
     if (!enthaelt(z) || in_Arbeit_ == z || (Text(z).empty() && darf_leer_sein(z))) return false;
-    return !Einwand_gegen_Wert(Grenzen(z), Wert(Text(z))).empty();
+    return !Einwand_gegen_Wert(Grenzen(z), Wert(z).Zahl()).empty();
 }
 
 // What an accepted text becomes in its cell.
-std::string Applikationstabelle::als_Zellentext(Zelle z, const std::string& Text, std::string& Meldung) const {
-    const bool leer = ohne_Randblanks(Text).empty();
-    return leer && darf_leer_sein(z) ? std::string() : nimm_Zahl_an(z_, Zellenname(z), Text, Meldung);
+Zahlwert Applikationstabelle::als_Zellwert(Zelle z, const Zahlwert& v, std::string& Meldung) const {
+    const bool leer = ohne_Randblanks(v.Text()).empty();
+    return leer && darf_leer_sein(z) ? Zahlwert() : nimm_Zahl_an(z_, Zellenname(z), v, Meldung);
 }
 
 bool Applikationstabelle::schliesse_ab() {
     const auto z = std::exchange(in_Arbeit_, std::nullopt);
     // A record may have been read meanwhile, or the row cut off.
     if (!z || !enthaelt(*z) || Text(*z) != getippt_) return true;
-    if (ist_eindeutig(getippt_)) {
+    if (Wert(*z).eindeutig()) {
         std::string Meldung;
-        setze(*z, als_Zellentext(*z, getippt_, Meldung));
+        setze(*z, als_Zellwert(*z, Wert(*z), Meldung));
         z_.Statuszeile.sage_Zahl(Meldung);
         return true;
     }
@@ -82,7 +81,7 @@ void Applikationstabelle::tippe(Zelle z, std::string Text) {
 }
 
 void Applikationstabelle::nimm_Ungueltiges_zurueck() {
-    if (!in_Arbeit_ || !enthaelt(*in_Arbeit_) || Text(*in_Arbeit_) != getippt_ || ist_eindeutig(getippt_)) return;
+    if (!in_Arbeit_ || !enthaelt(*in_Arbeit_) || Text(*in_Arbeit_) != getippt_ || Wert(*in_Arbeit_).eindeutig()) return;
     setze(*std::exchange(in_Arbeit_, std::nullopt), vor_dem_Tippen_);
 }
 
@@ -105,16 +104,16 @@ void Applikationstabelle::fuege_ein(Zelle z, const std::string& Text) {
         if (!Zeile.empty() && Zeile.back() == '\r') Zeile.remove_suffix(1);
         if (Zeile.empty()) continue;
         int j = z.Spalte;
-        for (const std::string_view Wert : zerlege_an(Zeile, '\t')) {
+        for (const std::string_view Zellentext : zerlege_an(Zeile, '\t')) {
             const Zelle Ziel = {i, j++};
             if (!enthaelt(Ziel)) continue;
-            const std::string Kern(ohne_Randblanks(Wert));
-            const bool ohne_Zahl = !Kern.empty() && lies_Zahl(Kern).ohne_Zahl;
-            if (!ist_eindeutig(Kern) || (ohne_Zahl && darf_leer_sein(Ziel))) {
+            const Zahlwert Kern(std::string(ohne_Randblanks(Zellentext)));
+            const bool ohne_Zahl = !Kern.leer() && Kern.ohne_Zahl();
+            if (!Kern.eindeutig() || (ohne_Zahl && darf_leer_sein(Ziel))) {
                 if (!abgelehnt) abgelehnt = Grenzen(Ziel).Meldung;
                 continue;
             }
-            setze(Ziel, als_Zellentext(Ziel, Kern, Meldung));
+            setze(Ziel, als_Zellwert(Ziel, Kern, Meldung));
         }
         ++i;
     }

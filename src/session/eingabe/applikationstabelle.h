@@ -31,10 +31,11 @@ public:
     void bestaetige();
 
 private:
-    const std::string& Text(Zelle z) const;
-    void setze(Zelle z, std::string Text);
+    const Zahlwert& Wert(Zelle z) const;
+    const std::string& Text(Zelle z) const { return Wert(z).Text(); }
+    void setze(Zelle z, Zahlwert v);
     void tippe(Zelle z, std::string Text);
-    std::string als_Zellentext(Zelle z, const std::string& Text, std::string& Meldung) const;
+    Zahlwert als_Zellwert(Zelle z, const Zahlwert& v, std::string& Meldung) const;
     bool enthaelt(Zelle z) const;
 
     Zustand& z_;

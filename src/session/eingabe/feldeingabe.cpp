@@ -19,7 +19,7 @@ bool gehoert_zur_Studie(const Feldbeschreibung& f) {
 }
 
 // Whether the field takes this text.
-bool gilt(const Feldbeschreibung& f, const Zahlwert& v, bool Enter) { return ist_eindeutig(v.Text()) && f.gilt(v.Zahl(), Enter); }
+bool gilt(const Feldbeschreibung& f, const Zahlwert& v, bool Enter) { return v.eindeutig() && f.gilt(v.Zahl(), Enter); }
 
 // How the status line names a field.
 std::string Feldname(const Feldbeschreibung& f) {
@@ -128,9 +128,8 @@ bool Feldeingabe::gib_ab(int Feld, bool mit_Lauf) {
 // The field shows the number that its text was taken for.
 void Feldeingabe::uebernimm_Text(int Feld) {
     if (!geaendert_) return;
-    const std::string Text = Feldwert(Feld).Text();
-    const std::string Zahl = nimm_Zahl_an(z_, Feldname(Beschreibung(Feld)), Text);
-    if (Zahl != Text) setze(Feld, Zahl);
+    const Zahlwert Zahl = nimm_Zahl_an(z_, Feldname(Beschreibung(Feld)), Feldwert(Feld));
+    if (Zahl != Feldwert(Feld)) setze(Feld, Zahl);
 }
 
 bool Feldeingabe::ausserhalb(int Feld) const {

@@ -1,7 +1,6 @@
 #include "session/ergebnis/bildsteuerung.h"
 
 #include <QString>
-#include <array>
 
 #include "base/dateiname.h"
 #include "painting/bildausgabe.h"
@@ -15,7 +14,6 @@
 namespace varnok {
 namespace {
 
-constexpr std::array<const char*, 3> Ansichtsnamen = {"annual", "background", "accumulated"};
 constexpr qsizetype laengster_Name = 150;
 
 std::vector<int> Stoffe_von(const Diagramm& d) {
@@ -34,7 +32,7 @@ std::string Bildsteuerung::Vorschlag() const {
     for (const int c : Stoffe_von(d)) Name += (Name.empty() ? "" : ", ") + Stoffname(z_.Vorgabe, c);
     const auto st = static_cast<std::size_t>(z_.i_studie());
     Name += " - " + (d.Zusammenfassung ? std::string("all studies") : z_.Vorgabe.Studie.at(st));
-    Name += std::string(" - ") + Ansichtsnamen.at(z_.Sicht.PEC_Typ) + " - " + std::string(Endpunktnamen.at(d.Endpunkt));
+    Name += " - " + std::string(Ansichtsnamen.at(z_.Sicht.PEC_Typ)) + " - " + std::string(Endpunktnamen.at(d.Endpunkt));
     const std::string kurz = aus_Qt(in_Qt(als_Dateiname(Name)).simplified().left(laengster_Name).trimmed());
     return (Ordner_.empty() ? Ausgabeordner(*z_.Ausgabeprojekt) : Ordner_) + '/' + kurz;
 }
@@ -61,8 +59,8 @@ std::string Bildsteuerung::Daten(const Datenform& f) const {
     const bool mit_Tafel = z_.Sicht.PEC_Typ != Hintergrund;
     for (const int c : mit_Tafel ? Stoffe_von(d) : std::vector<int>()) {
         const std::string Titel = d.Ergebnistitel.empty() ? "" : d.Ergebnistitel + ": ";
-        Tafeln.push_back({Titel + Stoffname(z_.Vorgabe, c),
-                          d.Zusammenfassung ? Ergebnisse_aller_Studien(z_, c) : Ergebnisse_einer_Studie(z_, c)});
+        Tafeln.push_back(
+            {Titel + Stoffname(z_.Vorgabe, c), d.Zusammenfassung ? Werte_aller_Studien(z_, c) : Werte_einer_Studie(z_, c)});
     }
     return Diagrammdaten(d, Tafeln, f);
 }

@@ -101,8 +101,8 @@ void Diagrammsteuerung::schalte_weiter() {
     Platz_vorne() = z_.Zusammenfassung_aktiv() ? Zusammenfassungsring[i].Nummer : Diagrammring[i].Nummer;
 }
 
-bool Diagrammsteuerung::skaliere(const std::string& Start, const std::string& Ende) {
-    const bool eindeutig = ist_eindeutig(Start) && ist_eindeutig(Ende);
+bool Diagrammsteuerung::skaliere(const Zahlwert& Start, const Zahlwert& Ende) {
+    const bool eindeutig = Start.eindeutig() && Ende.eindeutig();
     if (eindeutig && uebernimm_Skalierung(Bereiche_, z_.Zusammenfassung_aktiv(), vorne(), Start, Ende)) {
         Ausschnitte_.erase(Ausschnittplatz());
         std::string Meldung;

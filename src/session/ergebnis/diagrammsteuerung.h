@@ -46,7 +46,7 @@ public:
     void schalte_weiter();
 
     // The dialog's values for the diagram in front. False, with a message, for an end that is refused.
-    bool skaliere(const std::string& Start, const std::string& Ende);
+    bool skaliere(const Zahlwert& Start, const Zahlwert& Ende);
     double X_Start() const;
     double X_Ende() const;
 

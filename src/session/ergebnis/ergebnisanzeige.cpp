@@ -38,13 +38,19 @@ Ergebnisse mit_Leerstellen(const Zustand& z, int i_substanz) {
     return Studien;
 }
 
+template <class Machen>
+auto mache(const Zustand& z, int i_substanz, Machen mache_aus) {
+    const Ergebnisse Studien = mit_Leerstellen(z, i_substanz);
+    return mache_aus(Darstellung{Studien, z.Sicht, z.Vorgabe});
+}
+
 template <class Fuellen>
 Tabellentext fuelle_Tabelle(const Zustand& z, int i_substanz, Fuellen fuelle) {
-    const Ergebnisse Studien = mit_Leerstellen(z, i_substanz);
-    const Darstellung d{Studien, z.Sicht, z.Vorgabe};
-    Tabellentext Tabelle = Tabellenkopf(d.Vorgabe().Parameter, z.Welt.Dezimalzeichen);
-    fuelle(d, Tabelle);
-    return Tabelle;
+    return mache(z, i_substanz, [&](const Darstellung& d) {
+        Tabellentext Tabelle = Tabellenkopf(d.Vorgabe().Parameter, z.Welt.Dezimalzeichen);
+        fuelle(d, Tabelle);
+        return Tabelle;
+    });
 }
 
 }  // namespace
@@ -59,6 +65,14 @@ Tabellentext Ergebnisse_aller_Studien(const Zustand& z, int i_substanz) {
     return fuelle_Tabelle(z, i_substanz, [&](const Darstellung& d, Tabellentext& Tabelle) {
         erstelle_Ergebnistabelle_Zusammenfassung(d, i_substanz, Tabelle);
     });
+}
+
+Ergebniswerte Werte_einer_Studie(const Zustand& z, int i_substanz) {
+    return mache(z, i_substanz, [&](const Darstellung& d) { return Werte_einer_Studie(d, z.i_studie(), i_substanz); });
+}
+
+Ergebniswerte Werte_aller_Studien(const Zustand& z, int i_substanz) {
+    return mache(z, i_substanz, [&](const Darstellung& d) { return Werte_aller_Studien(d, i_substanz); });
 }
 
 int Zeile_des_Mittelwerts(const Ansicht& a) {

@@ -10,7 +10,11 @@ namespace varnok {
 Tabellentext Ergebnisse_einer_Studie(const Zustand& z, int i_substanz);
 Tabellentext Ergebnisse_aller_Studien(const Zustand& z, int i_substanz);
 
-// The row of both for the average that the diagrams show.
+// The values of these grids.
+Ergebniswerte Werte_einer_Studie(const Zustand& z, int i_substanz);
+Ergebniswerte Werte_aller_Studien(const Zustand& z, int i_substanz);
+
+// The row of both grids for the average that the diagrams show.
 int Zeile_des_Mittelwerts(const Ansicht& a);
 
 }  // namespace varnok

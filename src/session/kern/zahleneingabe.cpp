@@ -1,6 +1,6 @@
 #include "session/kern/zahleneingabe.h"
 
-#include "base/zahlen.h"
+#include "base/text.h"
 
 namespace varnok {
 namespace {
@@ -16,20 +16,17 @@ std::string Anfang(const std::string& Text) {
 
 }  // namespace
 
-bool ist_eindeutig(const std::string& Text) { return !lies_Zahl(Text).mehrere_Trennzeichen; }
-
-std::string nimm_Zahl_an(const Schauplatz& z, const std::string& Feld, const std::string& Text, std::string& Meldung) {
-    const Zahllesung l = lies_Zahl(Text);
-    if (l.ganz()) return Text;
-    const std::string Zahl = allgemeine_Zahl(l.Zahl, z.Welt.Dezimalzeichen);
-    const std::string Gelesenes = l.leer ? "an empty text" : '"' + Anfang(Text) + '"';
-    Meldung += (Meldung.empty() ? "" : " ") + Feld + ": " + Gelesenes + " was read as " + Zahl + ".";
+Zahlwert nimm_Zahl_an(const Schauplatz& z, const std::string& Feld, const Zahlwert& v, std::string& Meldung) {
+    if (v.ganz()) return v;
+    const Zahlwert Zahl = Zahlwert::in_allgemeiner_Form(v.Zahl(), z.Welt.Dezimalzeichen);
+    const std::string Gelesenes = ohne_Randblanks(v.Text()).empty() ? "an empty text" : '"' + Anfang(v.Text()) + '"';
+    Meldung += (Meldung.empty() ? "" : " ") + Feld + ": " + Gelesenes + " was read as " + Zahl.Text() + ".";
     return Zahl;
 }
 
-std::string nimm_Zahl_an(Schauplatz& z, const std::string& Feld, const std::string& Text) {
+Zahlwert nimm_Zahl_an(Schauplatz& z, const std::string& Feld, const Zahlwert& v) {
     std::string Meldung;
-    const std::string Zahl = nimm_Zahl_an(z, Feld, Text, Meldung);
+    const Zahlwert Zahl = nimm_Zahl_an(z, Feld, v, Meldung);
     z.Statuszeile.sage_Zahl(Meldung);
     return Zahl;
 }

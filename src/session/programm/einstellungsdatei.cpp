@@ -9,8 +9,8 @@ std::string Einstellungspfad(const Eingabestand& z) { return z.Welt.Programmpfad
 void Einstellungen_schreiben(const Eingabestand& z) {
     Einstellungen e = z.Einstellung;
     e.Projektpfad = z.Projektpfad;
-    e.TWA = z.Parameter().TWA;
-    schreibe_Datei(Einstellungspfad(z), Einstellungen_als_Bytes(e), {Schreibweise::ungefragt, z.Welt.Programmpfad});
+    schreibe_Datei(Einstellungspfad(z), Einstellungen_als_Bytes(e, z.Parameter().TWA),
+                   {Schreibweise::ungefragt, z.Welt.Programmpfad});
 }
 
 void setze_Ausgabeprojekt(Eingabestand& z, const std::string& Pfad) {

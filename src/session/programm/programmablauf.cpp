@@ -16,7 +16,7 @@
 namespace varnok {
 namespace {
 
-std::optional<Einstellungen> lies_Einstellungen(Eingabestand& z) {
+std::optional<Gelesene_Einstellungen> lies_Einstellungen(Eingabestand& z) {
     const std::string Pfad = Einstellungspfad(z);
     try {
         return zerlege_Einstellungen(lies_Datei(Pfad), Pfad, &z.zu_den_Einstellungen);
@@ -28,12 +28,13 @@ std::optional<Einstellungen> lies_Einstellungen(Eingabestand& z) {
 // False where the file is missing or cannot be read: then it is made anew from the defaults without a word.
 bool lade_Einstellungen(Eingabestand& z) {
     const auto gelesen = lies_Einstellungen(z);
-    z.Einstellung = gelesen.value_or(Einstellungen{});
+    const Gelesene_Einstellungen geltende = gelesen.value_or(Gelesene_Einstellungen{});
+    z.Einstellung = geltende.Werte;
+    z.Parameter().TWA = geltende.TWA;
     // Who starts for the first time learns from the tips.
     if (!lies_Datei_falls_moeglich(Einstellungspfad(z))) z.Einstellung.Tips_anzeigen = 1;
     const bool hier = z.Welt.Projekt_genannt || z.Einstellung.Projektpfad.empty();
     z.Projektpfad = hier ? z.Welt.Programmpfad : z.Einstellung.Projektpfad;
-    z.Parameter().TWA = z.Einstellung.TWA;
     return gelesen.has_value();
 }
 

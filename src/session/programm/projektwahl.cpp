@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QString>
 
+#include "base/dateipfad.h"
 #include "base/text.h"
 #include "records/projektordner.h"
 
@@ -56,8 +57,7 @@ Projektwahl mit_Simulation(const QFileInfo& Datei) {
     if (!gleich_ohne_Gross_Klein(Ordner.dirName().toStdString(), "input")) {
         return {{}, {}, "a simulation is opened from the folder \"input\" of its project, which this file is not in"};
     }
-    const std::string Name =
-        Datei.fileName().chopped(static_cast<qsizetype>(std::string_view(Endungen[Simulation]).size())).toStdString();
+    const std::string Name = ohne_Endung(Datei.fileName().toStdString());
     Ordner.cdUp();
     return {Ordner.path().toStdString(), Name, {}};
 }

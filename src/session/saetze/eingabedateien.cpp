@@ -5,6 +5,7 @@
 #include <QString>
 #include <algorithm>
 
+#include "base/dateipfad.h"
 #include "base/laufzeitfehler.h"
 #include "base/zeichensatz.h"
 #include "records/dateien.h"
@@ -43,7 +44,7 @@ void Eingabedateien::zeige_als_Simulation(const std::string& Name) {
 }
 
 void Eingabedateien::lade(const std::string& Dateiname) {
-    const std::string Name = Dateiname.substr(0, Dateiname.size() - std::min<std::size_t>(Dateiname.size(), 4));
+    const std::string Name = ohne_Endung(Dateiname);
     pruefe_Namen(Name);
     const std::string Satz = z_.Namen[Wirkstoff];
     z_.Statuszeile.vergiss_Frueheres();

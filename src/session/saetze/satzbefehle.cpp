@@ -4,6 +4,7 @@
 #include <array>
 #include <utility>
 
+#include "base/dateipfad.h"
 #include "base/laufzeitfehler.h"
 #include "base/zeichensatz.h"
 #include "records/dateien.h"
@@ -26,15 +27,9 @@ void pruefe_Namen(const std::string& Name) {
 }
 
 // The typed name may carry the extension of its kind.
-std::string ohne_Endung(const std::string& Text, const std::string& Endung) {
+std::string ohne_getippte_Endung(const std::string& Text, const std::string& Endung) {
     if (Zeichenzahl(Text) > 3 && Text.ends_with(Endung)) return Text.substr(0, Text.size() - Endung.size());
     return Text;
-}
-
-// The entry of a selector behind a path.
-std::string Eintrag_von(const std::string& Pfad, const std::string& Endung) {
-    const std::string Datei = Pfad.substr(Pfad.rfind('/') + 1);
-    return Datei.substr(0, Datei.size() - Endung.size());
 }
 
 }  // namespace
@@ -96,7 +91,7 @@ bool Satzbefehle::kopiere(Satzart Art) {
     }
     const std::string Ziel = z_.Ordner->Zielpfad(neu, Endungen[Art]);
     kopiere_Datei(Quelle, Ziel);
-    Listen_.Namen[Art] = Eintrag_von(Ziel, Endungen[Art]);  // a file replaced may differ in case, and keeps its entry
+    Listen_.Namen[Art] = ohne_Endung(letzter_Teil(Ziel));  // a file replaced may differ in case, and keeps its entry
     lies_Liste(Art);
     return true;
 }
@@ -126,7 +121,7 @@ bool Satzbefehle::loesche(Satzart Art, Sicherungsgut dazu) {
 
 Umbenennung Satzbefehle::benenne_um(Satzart Art, const std::string& Text, bool mit_Frage) {
     const std::string alt = Listen_.gewaehlt(Art);
-    const std::string neu = ohne_Endung(Text, Endungen[Art]);
+    const std::string neu = ohne_getippte_Endung(Text, Endungen[Art]);
     if (Text == alt || neu == alt) return Umbenennung::unveraendert;
     verlange_Schreibrecht(z_);
     pruefe_Namen(neu);

@@ -63,7 +63,7 @@ bool Satzverwaltung::lies_Satz(Satzart Art, const std::string& Satzname) {
         return false;
     }
     if (Befund.Ausgang == Leseausgang::abgebrochen) {
-        erklaere_ungelesen(Art, Zeilenangabe(Satzname + Endungen[Art], Befund.Zeile) + ": " + Befund.Grund);
+        erklaere_ungelesen(Art, Zeilenangabe(Satzname + Endungen[Art], Befund.Ort.Zeile) + ": " + Befund.Grund);
         return false;
     }
     folge_dem_Satz(Art, alte_TWA_Zeiten);

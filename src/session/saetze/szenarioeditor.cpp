@@ -84,7 +84,7 @@ std::string Eintrag(const std::vector<std::string>& Liste, int i) {
 
 bool Szenarioeditor::ausserhalb(Szenarioentwurf::Feld f) const {
     const Zahlenfeld* Zeile = Zeile_von(f);
-    return Zeile && !Einwand_gegen_Wert(*Zeile->Grenzen, Wert(e_.Texte[f])).empty();
+    return Zeile && !Einwand_gegen_Wert(*Zeile->Grenzen, e_.Zahlen[f].Zahl()).empty();
 }
 
 bool Szenarioeditor::oeffne() {
@@ -127,8 +127,9 @@ void Szenarioeditor::fuelle_Listen() {
 void Szenarioeditor::zeige_Werte() {
     const Laufparameter& p = z_.Parameter();
     const char d = z_.Welt.Dezimalzeichen;
-    e_.Texte = {z_.Vorgabe.Bodenszenario, allgemeine_Zahl(p.Bodendichte, d), allgemeine_Zahl(p.Kohlenstoffgehalt, d),
-                allgemeine_Zahl(p.Feldkapazitaet, d), allgemeine_Zahl(p.Welkepunkt, d)};
+    e_.Bodenname = z_.Vorgabe.Bodenszenario;
+    e_.Zahlen = {Zahlwert(), allgemeine_Zahl(p.Bodendichte, d), allgemeine_Zahl(p.Kohlenstoffgehalt, d),
+                 allgemeine_Zahl(p.Feldkapazitaet, d), allgemeine_Zahl(p.Welkepunkt, d)};
     e_.Boden = Tiefenliste(p.Bodentiefe, Bodenvorgaben, d);
     e_.Plateau = Tiefenliste(p.Plateautiefe, Plateauvorgaben, d);
     verlasse(&Szenarioentwurf::Boden);
@@ -144,13 +145,17 @@ void Szenarioeditor::waehle_Szenario(int i) {
 }
 
 bool Szenarioeditor::aendere(Szenarioentwurf::Feld f, const std::string& Text) {
-    const std::string Einwand = f == Szenarioentwurf::Bodenszenario ? Einwand_gegen_Text(Text) : std::string();
+    if (f != Szenarioentwurf::Bodenszenario) {
+        e_.Zahlen[f] = Text;
+        return true;
+    }
+    const std::string Einwand = Einwand_gegen_Text(Text);
     // A name that came from a file can be corrected key by key.
-    if (!Einwand.empty() && Einwand_gegen_Text(e_.Texte[f]).empty()) {
+    if (!Einwand.empty() && Einwand_gegen_Text(e_.Bodenname).empty()) {
         melde(z_, Texte::keine_gueltige_Eingabe, "\"" + Text + "\" cannot be the name of a soil: " + Einwand);
         return false;
     }
-    e_.Texte[f] = Text;
+    e_.Bodenname = Text;
     return true;
 }
 
@@ -194,22 +199,22 @@ bool Szenarioeditor::uebernimm_Wert(double neu, double& Parameter) {
 void Szenarioeditor::uebernimm_Werte() {
     Laufparameter& p = z_.Parameter();
     using E = Szenarioentwurf;
-    const auto Text = [&](E::Feld f, double& Ziel) {
-        if (e_.Texte[f] != gezeigt_.Texte[f]) uebernimm_Wert(wie_im_Satz(Wert(e_.Texte[f])), Ziel);
+    const auto uebernimm_Zahl = [&](E::Feld f, double& Ziel) {
+        if (e_.Zahlen[f] != gezeigt_.Zahlen[f]) uebernimm_Wert(wie_im_Satz(e_.Zahlen[f].Zahl()), Ziel);
     };
     const auto uebernimm_Tiefe = [&](const Tiefenwahl& t, const Tiefenwahl& alt, double& Ziel) {
         return t.Position != alt.Position && uebernimm_Wert(t.Tiefen[static_cast<std::size_t>(t.Position)], Ziel);
     };
-    Text(E::Bodendichte, p.Bodendichte);
+    uebernimm_Zahl(E::Bodendichte, p.Bodendichte);
     uebernimm_Tiefe(e_.Boden, gezeigt_.Boden, p.Bodentiefe);
     if (uebernimm_Tiefe(e_.Plateau, gezeigt_.Plateau, p.Plateautiefe) && p.Plateautiefe < p.Bodentiefe) {
         const std::string Meldung =
             "A plateau depth was defined smaller than the current soil depth.\nThe problem was corrected.";
         z_.Welt.Fragen->frage({"Problem!", Meldung, Symbol::Hinweis, {Knopf::OK}});
     }
-    Text(E::Kohlenstoffgehalt, p.Kohlenstoffgehalt);
-    Text(E::Feldkapazitaet, p.Feldkapazitaet);
-    Text(E::Welkepunkt, p.Welkepunkt);
+    uebernimm_Zahl(E::Kohlenstoffgehalt, p.Kohlenstoffgehalt);
+    uebernimm_Zahl(E::Feldkapazitaet, p.Feldkapazitaet);
+    uebernimm_Zahl(E::Welkepunkt, p.Welkepunkt);
     uebernimm_Plateautiefe();
 }
 
@@ -242,8 +247,8 @@ void Szenarioeditor::uebernimm_Klima() {
 }
 
 void Szenarioeditor::uebernimm_Namen() {
-    if (e_.Texte[Szenarioentwurf::Bodenszenario] != gezeigt_.Texte[Szenarioentwurf::Bodenszenario]) {
-        z_.Vorgabe.Bodenszenario = e_.Texte[Szenarioentwurf::Bodenszenario];
+    if (e_.Bodenname != gezeigt_.Bodenname) {
+        z_.Vorgabe.Bodenszenario = e_.Bodenname;
         z_.Saetze[varnok::Szenario].merke_Aenderung();
         geaendert_ = true;
     }
@@ -256,13 +261,13 @@ void Szenarioeditor::uebernimm_Namen() {
 
 void Szenarioeditor::verlasse_Zahl(Szenarioentwurf::Feld f) {
     const Zahlenfeld* Zeile = Zeile_von(f);
-    if (!Zeile || e_.Texte[f] == gezeigt_.Texte[f] || !ist_eindeutig(e_.Texte[f])) return;
-    e_.Texte[f] = nimm_Zahl_an(z_, Zeile->Name, e_.Texte[f], Gelesenes_);
+    if (!Zeile || e_.Zahlen[f] == gezeigt_.Zahlen[f] || !e_.Zahlen[f].eindeutig()) return;
+    e_.Zahlen[f] = nimm_Zahl_an(z_, Zeile->Name, e_.Zahlen[f], Gelesenes_);
 }
 
 bool Szenarioeditor::nimm_Texte_an() {
     for (const Zahlenfeld& f : Zahlenfelder) {
-        if (e_.Texte[f.Feld] != gezeigt_.Texte[f.Feld] && !ist_eindeutig(e_.Texte[f.Feld])) {
+        if (e_.Zahlen[f.Feld] != gezeigt_.Zahlen[f.Feld] && !e_.Zahlen[f.Feld].eindeutig()) {
             melde(z_, Texte::keine_gueltige_Eingabe, f.Grenzen->Meldung);
             return false;
         }

@@ -30,7 +30,9 @@ struct Szenarioentwurf {
 
     std::vector<std::string> Szenarien;
     int Szenario = -1;
-    std::array<std::string, Anzahl_Felder> Texte;
+    std::string Bodenname;
+    std::array<Zahlwert, Anzahl_Felder> Zahlen;  // nothing in the place of the name
+    const std::string& Text(Feld f) const { return f == Bodenszenario ? Bodenname : Zahlen[f].Text(); }
     Tiefenwahl Boden;
     Tiefenwahl Plateau;
     Klimaart Klimamodus = konstante_Temperatur;

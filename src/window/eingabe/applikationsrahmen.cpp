@@ -16,8 +16,6 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr std::array<const char16_t*, 3> Musternamen = {u"single", u"regular", u"irregular"};
-
 // Which patterns show a control.
 constexpr unsigned bei_einzeln = 1U << einzeln;
 constexpr unsigned bei_regelmaessig = 1U << regelmaessig;
@@ -59,7 +57,7 @@ QWidget* Applikationsrahmen::erstelle_Muster() {
     Zeile->setSpacing(14);
     Applikationsmuster_ = new QButtonGroup(this);
     for (int m = 0; m < 3; ++m) {
-        auto* Option = new QRadioButton(QString::fromUtf16(Musternamen[static_cast<std::size_t>(m)]), Optionen);
+        auto* Option = new QRadioButton(in_Qt(Musternamen[static_cast<std::size_t>(m)]), Optionen);
         Option->setObjectName(u"Applikationsmuster_"_s + in_Qt(m));
         Applikationsmuster_->addButton(Option, m);
         Zeile->addWidget(Option);

@@ -12,6 +12,7 @@
 #include <chrono>
 
 #include "painting/qt_text.h"
+#include "run/bezeichnungen.h"
 #include "window/kern/bausteine.h"
 #include "window/kern/fokus.h"
 #include "window/kern/zwischenablage.h"
@@ -49,7 +50,9 @@ Applikationsschema::Applikationsschema(Sitzung& Programm, QWidget* parent) : QTa
     setObjectName(u"Applikationsschema"_s);
     setAccessibleName(u"Applications of a year"_s);
     setItemDelegate(new Zellenmaler(this));
-    setHorizontalHeaderLabels({u"Day"_s, u"Month"_s, u"Rate (g/ha)"_s, u"Interception(%)"_s});
+    QStringList Koepfe;
+    for (const std::string_view Kopf : Tabellenkoepfe) Koepfe << in_Qt(Kopf);
+    setHorizontalHeaderLabels(Koepfe);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setTabKeyNavigation(false);
     setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);

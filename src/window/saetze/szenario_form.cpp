@@ -112,7 +112,7 @@ void Szenario_Form::erstelle_Textzeile(QGridLayout& Raster, int Zeile, Szenarioe
 void Szenario_Form::tippe(Szenarioentwurf::Feld f, const QString& Text) {
     if (Programm_.fuehre_aus<&Szenarioeditor::aendere>(f, aus_Qt(Text))) return;
     QLineEdit* Feld = Texte_[f];
-    const QString angenommen = in_Qt(Programm_.zeige<Szenarioeditor>().Entwurf().Texte[f]);
+    const QString angenommen = in_Qt(Programm_.zeige<Szenarioeditor>().Entwurf().Text(f));
     const auto zuviel = Text.size() - angenommen.size();
     const int Stelle = Feld->cursorPosition();
     Feld->setText(angenommen);
@@ -186,8 +186,9 @@ void Szenario_Form::zeige() {
     Szenarioliste_->zeige(e.Szenarien, e.Szenario);
     sperre_Unwaehlbare(*Szenarioliste_, e.Szenarien);
     for (std::size_t f = 0; f < Texte_.size(); ++f) {
-        if (aus_Qt(Texte_[f]->text()) != e.Texte[f]) Texte_[f]->zeige(in_Qt(e.Texte[f]));
-        Texte_[f]->markiere(Editor.ausserhalb(static_cast<E::Feld>(f)));
+        const auto Feld = static_cast<E::Feld>(f);
+        if (aus_Qt(Texte_[f]->text()) != e.Text(Feld)) Texte_[f]->zeige(in_Qt(e.Text(Feld)));
+        Texte_[f]->markiere(Editor.ausserhalb(Feld));
     }
     Bodentiefe_->zeige(e.Boden);
     Plateautiefe_->zeige(e.Plateau);

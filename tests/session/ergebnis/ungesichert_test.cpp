@@ -142,7 +142,7 @@ TEST_F(Ungesichert, a_cell_in_work_can_be_undone) {
 TEST_F(Ungesichert, undo_of_the_list_of_windows_leaves_a_window_of_the_list_in_view) {
     gestartet();
     Optionsentwurf o = s_->fuehre_aus<&Optionensteuerung::oeffne>();
-    o.TWA_Zeiten = TWA_monatlich;
+    o.TWA_Zeiten = Monatsliste;
     s_->fuehre_aus<&Optionensteuerung::uebernimm>(o);
     s_->fuehre_aus<&Optionensteuerung::schliesse>();
     s_->fuehre_aus<&Listenwahl::waehle_TWA_Laenge>(11);

@@ -23,7 +23,8 @@ TEST_F(Optionsprobe, are_shown_as_they_are) {
     e.Farbeinstellung = 1;
     std::ofstream(Wurzel_ / "VARNOK.ini", std::ios::binary) << Einstellungen_als_Bytes(e);
     gestartet();
-    const Optionsentwurf erwartet{1, 2, 0, {true, false, true, false, false, true}, 1, 1, Wurzel_.string()};
+    const Optionsentwurf erwartet{Mikrogramm, im_Jahr_getrennt, Monatsliste, {true, false, true, false, false, true}, 1,
+                                  1,          Wurzel_.string()};
     EXPECT_EQ(s_->fuehre_aus<&Optionensteuerung::oeffne>(), erwartet);
 }
 

@@ -103,7 +103,7 @@ TEST_F(Projektpfad, the_settings_file_stays_beside_the_program_and_names_the_new
     waehle_Projekt("new");
     s_->fuehre_aus<&Programmablauf::beende>();
     EXPECT_FALSE(gibt_es("new/VARNOK.ini"));
-    EXPECT_EQ(zerlege_Einstellungen(Datei("VARNOK.ini"))->Projektpfad, (Wurzel_ / "new").string());
+    EXPECT_EQ(zerlege_Einstellungen(Datei("VARNOK.ini"))->Werte.Projektpfad, (Wurzel_ / "new").string());
     EXPECT_EQ(Datei("input/Probe.vnk"), "A trial\r\nProbe\r\nProbe\r\nProbe\r\n");
     EXPECT_EQ(Dateizahl("new/input"), 0U);
 }
@@ -113,7 +113,7 @@ TEST_F(Projektpfad, any_name_of_a_folder_comes_back_from_the_settings_file) {
     gestartet();
     waehle_Projekt("Δ 土 µ");
     s_->fuehre_aus<&Programmablauf::beende>();
-    EXPECT_EQ(zerlege_Einstellungen(Datei("VARNOK.ini"))->Projektpfad, (Wurzel_ / "Δ 土 µ").string());
+    EXPECT_EQ(zerlege_Einstellungen(Datei("VARNOK.ini"))->Werte.Projektpfad, (Wurzel_ / "Δ 土 µ").string());
 }
 
 TEST_F(Projektpfad, what_is_no_folder_is_refused_and_nothing_is_changed) {

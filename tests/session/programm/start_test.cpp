@@ -18,13 +18,13 @@ TEST_F(Start, without_a_settings_file_writes_one_with_the_defaults) {
     nur_geladen();
     const auto e = zerlege_Einstellungen(Datei(Einstellungsdatei));
     ASSERT_TRUE(e);
-    EXPECT_EQ(e->TWA.EU, Einstellungen().TWA.EU);
-    EXPECT_EQ(e->Projektpfad, Wurzel_.string());
+    EXPECT_EQ(e->TWA.EU, TWA_Listen().EU);
+    EXPECT_EQ(e->Werte.Projektpfad, Wurzel_.string());
 }
 
 TEST_F(Start, tips_are_on_where_there_is_no_settings_file_yet) {
     EXPECT_EQ(nur_geladen().Stand().Einstellung.Tips_anzeigen, 1);
-    EXPECT_EQ(zerlege_Einstellungen(Datei(Einstellungsdatei))->Tips_anzeigen, 1);
+    EXPECT_EQ(zerlege_Einstellungen(Datei(Einstellungsdatei))->Werte.Tips_anzeigen, 1);
     std::ofstream(Wurzel_ / Einstellungsdatei, std::ios::binary) << Einstellungen_als_Bytes({});
     EXPECT_EQ(nur_geladen().Stand().Einstellung.Tips_anzeigen, 0);
 }

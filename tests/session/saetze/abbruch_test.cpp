@@ -49,8 +49,7 @@ const std::vector<Befehl> Befehle = {
     {"deletion_with_unsaved_values", tippe_Namen, [](Sitzung& s, Drehbuch& d) { loesche(s, d, Wirkstoff); }},
     {"deletion_of_a_simulation", nichts, [](Sitzung& s, Drehbuch& d) { loesche(s, d, Simulation); }},
     {"rename", nichts, [](Sitzung& s, Drehbuch&) { benenne_um(s, Szenario, "Other", true); }},
-    {"rename_to_another_case", nichts,
-     [](Sitzung& s, Drehbuch&) { benenne_um(s, Szenario, "PROBE", true); }},
+    {"rename_to_another_case", nichts, [](Sitzung& s, Drehbuch&) { benenne_um(s, Szenario, "PROBE", true); }},
     {"rename_over_a_record_in_another_case", nichts,
      [](Sitzung& s, Drehbuch& d) {
          erwarte_Ja(d, "Replace existing record?");

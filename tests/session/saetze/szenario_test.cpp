@@ -321,7 +321,7 @@ TEST_F(Szenarioprobe, a_comma_region_reads_and_writes_commas) {
     ASSERT_TRUE(s_->fuehre_aus<&Programmablauf::oeffne_Projekt>());
     s_->fuehre_aus<&Programmablauf::verlasse_Startseite>();
     Sitzung& s = offen();
-    EXPECT_EQ(Entwurf().Texte[E::Bodendichte], "1,5");
+    EXPECT_EQ(Entwurf().Text(E::Bodendichte), "1,5");
     EXPECT_EQ(Entwurf().Boden.Eintraege[24], "2,5");
     s.fuehre_aus<&Szenarioeditor::waehle_Tiefe>(&Szenarioentwurf::Boden, 26);
     fertig();

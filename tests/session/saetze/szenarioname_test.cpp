@@ -15,7 +15,7 @@ TEST_F(Szenarioprobe, another_name_leaves_every_value_and_marks_the_simulation_o
     EXPECT_EQ(Entwurf().Szenarien, (std::vector<std::string>{"Another", "Probe"}));
     s.fuehre_aus<&Szenarioeditor::aendere>(E::Bodendichte, "9");
     s.fuehre_aus<&Szenarioeditor::waehle_Szenario>(0);
-    EXPECT_EQ(Entwurf().Texte[E::Bodendichte], "1.5");  // what was typed goes
+    EXPECT_EQ(Entwurf().Text(E::Bodendichte), "1.5");  // what was typed goes
     fertig();
     EXPECT_EQ(p().Bodendichte, 1.5);
     EXPECT_EQ(s_->Stand().gewaehlt(Szenario), "Another");
@@ -71,7 +71,7 @@ TEST_F(Szenarioprobe, a_soil_name_with_a_tab_can_be_corrected) {
     Bytes.replace(Bytes.find("Sandy loam"), 10, "a\tb");
     std::ofstream(Wurzel_ / "input/Probe.sce", std::ios::binary) << Bytes;
     Sitzung& s = offen();
-    ASSERT_EQ(Entwurf().Texte[E::Bodenszenario], "a\tb");
+    ASSERT_EQ(Entwurf().Text(E::Bodenszenario), "a\tb");
     EXPECT_TRUE(s.fuehre_aus<&Szenarioeditor::aendere>(E::Bodenszenario, "a\tbc"));
     EXPECT_TRUE(s.fuehre_aus<&Szenarioeditor::aendere>(E::Bodenszenario, "abc"));
     fertig();
@@ -83,7 +83,7 @@ TEST_F(Szenarioprobe, the_same_name_chosen_again_keeps_what_was_typed) {
     Sitzung& s = offen();
     s.fuehre_aus<&Szenarioeditor::aendere>(E::Bodendichte, "2");
     s.fuehre_aus<&Szenarioeditor::waehle_Szenario>(1);
-    EXPECT_EQ(Entwurf().Texte[E::Bodendichte], "2");
+    EXPECT_EQ(Entwurf().Text(E::Bodendichte), "2");
 }
 
 // Temperature and mode are not among the fields that another name puts back.
@@ -121,7 +121,7 @@ TEST_F(Szenarioprobe, a_scenario_not_read_yet_is_read_before_it_is_edited) {
     s_->fuehre_aus<&Satzverwaltung::loesche>(Szenario);
     ASSERT_EQ(p().Bodendichte, 1.5);
     offen();
-    EXPECT_EQ(Entwurf().Texte[E::Bodendichte], "1.1");
+    EXPECT_EQ(Entwurf().Text(E::Bodendichte), "1.1");
     EXPECT_FALSE(s_->Stand().abgedeckt());
     fertig();
     EXPECT_EQ(p().Bodendichte, 1.1);
