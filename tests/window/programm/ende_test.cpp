@@ -176,9 +176,8 @@ private Q_SLOTS:
     void the_close_box_puts_an_invalid_text_back() {
         oeffne_Arbeit();
         p_->tippe("S_Q10_0", "0");
-        Fragen_.antworte(Knopf::Ja);
         p_->Fenster().close();
-        QCOMPARE(Fragen_.nimm(), QStringList(Frage_nach("pesticide")));
+        QCOMPARE(Fragen_.nimm(), QStringList());  // nothing is left to save
         QVERIFY(!p_->Fenster().isVisible());
         QVERIFY(p_->Inhalt(Satzdatei).contains("Q10-factor:\t2.58\t2.58\t2.58\r\n"));
     }
