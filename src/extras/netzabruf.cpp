@@ -8,6 +8,7 @@
 #include <QThread>
 #include <QTimer>
 #include <QUrl>
+#include <algorithm>
 #include <map>
 #include <memory>
 #include <utility>
@@ -223,7 +224,10 @@ std::vector<std::unique_ptr<Netzabruf::Netz>>& Netzabruf::Zurueckgelassene() {
     return Liste;
 }
 
-bool Netzabruf::haengt() { return !Zurueckgelassene().empty(); }
+bool Netzabruf::haengt() {
+    const auto& Liste = Zurueckgelassene();
+    return std::any_of(Liste.begin(), Liste.end(), [](const auto& n) { return !n->Faden->wait(0); });
+}
 
 Netzabruf::Netz& Netzabruf::oeffne() {
     if (!Netz_) Netz_ = std::make_unique<Netz>();

@@ -17,7 +17,7 @@ public:
     // Waits for nobody: see `haengt`.
     ~Netzabruf() override;
 
-    // Whether a request could not be stopped when its object went: the process ends without waiting for it.
+    // Whether a request that could not be stopped when its object went still runs: the process ends without waiting for it.
     static bool haengt();
 
     Abrufantwort hole(const std::string& Adresse, const Abrufgrenze& Grenze) override;

@@ -53,6 +53,6 @@ std::optional<Gelesene_Einstellungen> zerlege_Einstellungen(const std::string& B
                                                             std::vector<Bemerkung>* Bemerkungen = nullptr);
 
 // All lines as they stand in the file.
-std::string Einstellungen_als_Bytes(const Einstellungen& e, const TWA_Listen& TWA = {});
+std::string Einstellungen_als_Bytes(const Einstellungen& e, const TWA_Listen& TWA);
 
 }  // namespace varnok

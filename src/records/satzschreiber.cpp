@@ -12,12 +12,14 @@ namespace varnok {
 void Satzschreiber::Ueberschrift(std::string_view Text) { Bytes_ += als_Satztext(Text, "the label") + "\r\n"; }
 
 void Satzschreiber::beginne(std::string_view Beschriftung) {
+    Tabellenzeile_ = 0;
     Name_ = '"' + std::string(ohne_Randblanks(Beschriftung)) + '"';
     Bytes_ += als_Satztext(Beschriftung, "the label") + '\t';
     Wertanfang_ = Bytes_.size();
 }
 
 void Satzschreiber::beginne_Tabellenzeile(int Nummer) {
+    Tabellenzeile_ = Nummer;
     Name_ = Reihenname(Nummer);
     Wertanfang_ = Bytes_.size();
 }
@@ -63,7 +65,11 @@ std::string Satzschreiber::als_Zahltext(const Feld& f, double Zahl) const {
 }
 
 Fehlerort Satzschreiber::Ort_von(const Feld& f) const {
-    return {.Feld = std::string(f.Speicher), .i_studie = f.i_studie, .i_substanz = f.i_substanz, .Bezeichnung = Name_};
+    return {.Feld = std::string(f.Speicher),
+            .i_studie = f.i_studie,
+            .i_substanz = f.i_substanz,
+            .Reihe = Tabellenzeile_,
+            .Bezeichnung = Name_};
 }
 
 void Satzschreiber::melde(const Feld& f, const std::string& Grund) const {

@@ -33,6 +33,7 @@ private:
 
     char Dezimalzeichen_;
     std::string Name_;  // of the line in work, for messages
+    int Tabellenzeile_ = 0;
     std::size_t Wertanfang_ = 0;
     std::string Bytes_;
 };

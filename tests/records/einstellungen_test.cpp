@@ -29,14 +29,14 @@ std::string als_Bytes(const Gelesene_Einstellungen& g) { return Einstellungen_al
 TEST(Einstellungen, defaults_line_by_line) {
     Einstellungen e;
     e.Projektpfad = "/p";
-    EXPECT_THAT(zerlegt(Einstellungen_als_Bytes(e)),
+    EXPECT_THAT(zerlegt(Einstellungen_als_Bytes(e, {})),
                 ElementsAre("Tooltips:\t0", "Appearance:\t0", "EU-Regulation", " 1 ", " 2 ", " 4 ", " 7 ", " 14 ", " 21 ", " 28 ",
                             " 42 ", " 50 ", " 100 ", "TWA according to JKI", " 30 ", " 60 ", " 90 ", " 120 ", " 150 ", " 180 ",
                             " 210 ", " 240 ", " 270 ", " 300 ", " 330 ", " 360 ", "/p"));
 }
 
 TEST(Einstellungen, what_was_written_reads_back) {
-    EXPECT_EQ(zerlege_Einstellungen(Einstellungen_als_Bytes({})), Gelesene_Einstellungen{});
+    EXPECT_EQ(zerlege_Einstellungen(Einstellungen_als_Bytes({}, {})), Gelesene_Einstellungen{});
     const std::string Bytes = als_Bytes(Probe());
     auto e = zerlege_Einstellungen(Bytes);
     ASSERT_TRUE(e);
@@ -50,13 +50,13 @@ TEST(Einstellungen, pictures_have_a_line_where_they_are_others_than_at_first) {
     Einstellungen e;
     e.Projektpfad = "/p";
     e.Bild = {90, 70, 600, true};
-    const std::string Bytes = Einstellungen_als_Bytes(e);
+    const std::string Bytes = Einstellungen_als_Bytes(e, {});
     EXPECT_EQ(zerlegt(Bytes).back(), "Pictures:\t90\t70\t600\t1");
     EXPECT_EQ(zerlege_Einstellungen(Bytes)->Werte, e);
 }
 
 TEST(Einstellungen, a_line_for_pictures_that_makes_no_sense_is_left_alone) {
-    const std::string Bytes = Einstellungen_als_Bytes({});
+    const std::string Bytes = Einstellungen_als_Bytes({}, {});
     for (const char* Zeile :
          {"Pictures:\t9000\t70\t600\t1", "Pictures:\t90\t70", "Something:\t90\t70\t600\t1", "\t\t\t\t", "x"}) {
         const auto e = zerlege_Einstellungen(Bytes + Zeile + "\r\n");
@@ -69,14 +69,14 @@ TEST(Einstellungen, any_path_comes_back_as_it_was) {
     for (const char* Pfad : {"", "/plain", "/über", "/Ω/日本", "/Ã¤", "/â‚¬", "/\u0081", "C:\\Users\\x", " blank "}) {
         Einstellungen e;
         e.Projektpfad = Pfad;
-        EXPECT_EQ(zerlege_Einstellungen(Einstellungen_als_Bytes(e))->Werte, e) << Pfad;
+        EXPECT_EQ(zerlege_Einstellungen(Einstellungen_als_Bytes(e, {}))->Werte, e) << Pfad;
     }
 }
 
 TEST(Einstellungen, path_in_the_code_page_is_read) {
     Einstellungen e;
     e.Projektpfad = "/p";
-    auto e2 = zerlege_Einstellungen(mit_Zeile(Einstellungen_als_Bytes(e), 27,
+    auto e2 = zerlege_Einstellungen(mit_Zeile(Einstellungen_als_Bytes(e, {}), 27,
                                               "/\xFC"
                                               "ber"));
     ASSERT_TRUE(e2);
@@ -100,7 +100,7 @@ TEST(Einstellungen, duration_is_read_in_free_form) {
         const char* Zeile;
         double Tage;
     };
-    const std::string Bytes = Einstellungen_als_Bytes({});
+    const std::string Bytes = Einstellungen_als_Bytes({}, {});
     for (const auto& [Zeile, Tage] :
          {Fall{"7", 7}, Fall{" 7 ", 7}, Fall{"\t 7.50", 7.5}, Fall{"7,5 days", 7.5}, Fall{"1E2", 100}, Fall{" -1 ", -1}}) {
         const auto e = zerlege_Einstellungen(mit_Zeile(Bytes, 7, Zeile));
@@ -116,7 +116,7 @@ TEST(Einstellungen, negative_number_takes_the_place_of_the_sign) {
 }
 
 TEST(Einstellungen, duration_that_is_no_finite_number_is_no_settings_file) {
-    const std::string Bytes = Einstellungen_als_Bytes({});
+    const std::string Bytes = Einstellungen_als_Bytes({}, {});
     for (const char* Zeile : {"", "   ", "\t", "abc", "1E400", "-"}) {
         EXPECT_FALSE(zerlege_Einstellungen(mit_Zeile(Bytes, 4, Zeile))) << Zeile;
         EXPECT_FALSE(zerlege_Einstellungen(mit_Zeile(Bytes, 26, Zeile))) << Zeile;
@@ -124,7 +124,7 @@ TEST(Einstellungen, duration_that_is_no_finite_number_is_no_settings_file) {
 }
 
 TEST(Einstellungen, switches_are_read_behind_the_tab_as_whole_numbers) {
-    const std::string Bytes = Einstellungen_als_Bytes({});
+    const std::string Bytes = Einstellungen_als_Bytes({}, {});
     EXPECT_EQ(zerlege_Einstellungen(mit_Zeile(Bytes, 1, "any label\t 1 "))->Werte.Tips_anzeigen, 1);
     EXPECT_EQ(zerlege_Einstellungen(mit_Zeile(Bytes, 2, "x\t255"))->Werte.Farbeinstellung, 255);
     EXPECT_EQ(zerlege_Einstellungen(mit_Zeile(Bytes, 2, "no value"))->Werte.Farbeinstellung, 0);
@@ -137,7 +137,7 @@ TEST(Einstellungen, switches_are_read_behind_the_tab_as_whole_numbers) {
 TEST(Einstellungen, doubtful_number_is_a_remark_and_a_fault_is_the_last_one) {
     const auto Bemerkungen = [](std::size_t Zeile, const char* Text) {
         std::vector<Bemerkung> b;
-        zerlege_Einstellungen(mit_Zeile(Einstellungen_als_Bytes({}), Zeile, Text), "v.ini", &b);
+        zerlege_Einstellungen(mit_Zeile(Einstellungen_als_Bytes({}, {}), Zeile, Text), "v.ini", &b);
         return b.empty() ? std::string() : als_Zeile(b.back());
     };
     EXPECT_EQ(Bemerkungen(4, " 7 "), "");
@@ -161,7 +161,7 @@ TEST(Einstellungen, garbage_is_no_settings_file) {
 TEST(Einstellungen, line_end_in_a_text_is_refused) {
     Einstellungen e;
     e.Projektpfad = "/a\n/b";
-    EXPECT_THROW(Einstellungen_als_Bytes(e), Laufzeitfehler);
+    EXPECT_THROW(Einstellungen_als_Bytes(e, {}), Laufzeitfehler);
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
 #include "session/ergebnis/berichtssteuerung.h"
 
+#include <utility>
+
 #include "base/laufzeitfehler.h"
 #include "base/programm.h"
 #include "base/text.h"
@@ -44,7 +46,13 @@ Berichtssteuerung::Grundlage Berichtssteuerung::jetzige_Grundlage() const {
 }
 
 void Berichtssteuerung::schliesse_veralteten() {
-    if (Bericht_ && (z_.Hinweis() || z_.abgedeckt() || Grundlage_ != jetzige_Grundlage())) schliesse();
+    if (!Bericht_) return;
+    Grundlage jetzige = jetzige_Grundlage();
+    if (!z_.Hinweis() && !z_.abgedeckt() && Grundlage_ == jetzige) return;
+    // Nothing else that can be seen has changed.
+    const bool andere_Herkunft = std::exchange(jetzige.Herkunft, Grundlage_.Herkunft) != Grundlage_.Herkunft;
+    if (andere_Herkunft && Grundlage_ == jetzige) z_.Statuszeile.sage_dazu(Texte::Bericht_ueberholt);
+    schliesse();
 }
 
 // Valid results are those of the present input in all that a run reads. A report tells of it in the rest, too: the date in

@@ -44,6 +44,11 @@ bool Eingabestand::verschieden(Satzart Art) const {
     return Saetze[Art].gelesen() ? Speicherbild(Art) != Saetze[Art].gespeichert() : Saetze[Art].Geaendert();
 }
 
+void Eingabestand::raeume_Marken_auf() {
+    if (std::any_of(alle_Arten.begin(), alle_Arten.end(), [this](Satzart Art) { return verschieden(Art); })) return;
+    for (Satzplatz& p : Saetze) p.vergiss_Aenderung();
+}
+
 bool Eingabestand::Simulation_markiert() const {
     if (!Saetze[Simulation].gelesen()) return false;
     try {

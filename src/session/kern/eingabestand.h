@@ -37,6 +37,8 @@ struct Eingabestand : Schauplatz, Satzlisten {
     Marken_je_Art Marken() const;
     // As they were before a step that did not come about, or that is no change of the user's.
     void stelle_Marken(const Marken_je_Art& Marken);
+    // Where no record is different, there is nothing to ask about.
+    void raeume_Marken_auf();
 
     // ---- what follows from all that; nobody keeps it ----
 

@@ -1,13 +1,11 @@
 #include "session/kern/sitzung.h"
 
-#include <algorithm>
-#include <array>
-#include <exception>
 #include <utility>
 
 #include "session/kern/versuch.h"
 
 namespace varnok {
+
 Sitzung::Sitzung(Umgebung Welt) {
     z_.Welt = std::move(Welt);
     z_.Statuszeile.stelle_Uhr(&z_.Zeit());
@@ -54,7 +52,7 @@ bool Sitzung::nimm_Texte_an(bool mit_Lauf) {
 // What follows from the values that an action leaves: marks without a difference go, what is shown is drawn, and then told of.
 void Sitzung::schliesse_Handlung_ab() {
     Laeufe_.sieh_Klima_an();  // the action may have named another file, or changed this one
-    raeume_Marken_auf();
+    z_.raeume_Marken_auf();
     if (!z_.Zusammenfassung_aktiv()) z_.zeige_Studien();  // it does not come back with a second study
     if (z_.Gestartet) {
         versuche([this] { zeichne_Stand(); });
@@ -71,13 +69,6 @@ void Sitzung::zeichne_Stand() {
     if (!z_.Gestartet) return;
     if (z_.alles_Gezeigte_gueltig()) z_.Gerechnetes.vergiss_Grund();
     Diagramme_.ziehe_nach(Laeufe_.nimm_Gelaufenes().get());
-}
-
-// Where a save would write nothing else than the files hold, there is nothing to ask about.
-void Sitzung::raeume_Marken_auf() {
-    const auto verschieden = [this](Satzart Art) { return z_.verschieden(Art); };
-    if (std::any_of(alle_Arten.begin(), alle_Arten.end(), verschieden)) return;
-    for (Satzplatz& p : z_.Saetze) p.vergiss_Aenderung();
 }
 
 void Sitzung::fuehre_Statuszeile() {

@@ -64,7 +64,6 @@ private:
     void versuche(const Handlung& h);
     bool nimm_Texte_an(bool mit_Lauf);
     void schliesse_Handlung_ab();
-    void raeume_Marken_auf();
     void zeichne_Stand();
     void fuehre_Statuszeile();
 

@@ -27,6 +27,7 @@ inline constexpr const char* nicht_zu_behalten = "It cannot be kept. Go on?";
 inline constexpr const char* Link_nur_auf_Wunsch = " is a link to another folder: it is written by \"Save\" alone.";
 inline constexpr const char* nur_lesbar = " is open for reading only: nothing in it can be saved, made, renamed or deleted.";
 
+inline constexpr const char* Bericht_ueberholt = "The open report was closed: its inputs are saved otherwise than it says.";
 inline constexpr const char* Bericht_ohne_Ordner =
     "The project path cannot be written: \"Save report as PDF\" puts the report where you say.";
 

@@ -145,7 +145,8 @@ bool Programmablauf::schliesse_Fenster() {
     Tabelle_.schliesse_ab();
     Felder_.schliesse_ab(false);
     Studien_.bestaetige(false);
-    Umbenennung_.bestaetige(false);
+    versuche(z_, [this] { Umbenennung_.bestaetige(false); });
+    z_.raeume_Marken_auf();
     const auto zu_sichern = Saetze_.frage_nach_Sicherung();
     if (!zu_sichern) return false;
     if (!zu_sichern->empty() && !Saetze_.speichere_Arten(*zu_sichern)) return false;

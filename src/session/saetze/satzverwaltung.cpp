@@ -11,6 +11,7 @@
 #include "session/kern/texte.h"
 
 namespace varnok {
+
 void Satzverwaltung::fuelle_Listen() {
     for (const Satzart Art : alle_Arten) Befehle_.lies_Liste(Art);
     nenne_Unwaehlbare();

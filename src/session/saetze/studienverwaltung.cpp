@@ -7,6 +7,7 @@
 #include "session/kern/texte.h"
 
 namespace varnok {
+
 void Studienverwaltung::oeffne(const std::string& Vorschlag, bool neu) {
     Name_offen_ = true;
     neu_ = neu;

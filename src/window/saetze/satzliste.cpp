@@ -53,6 +53,7 @@ void Satzliste::verbinde_Bedienung() {
 
 // A name that was refused can be corrected while the box has the focus.
 void Satzliste::benenne_um(bool Enter) {
+    if (!Programm_.zeige<Satzumbenennung>().offen_ueber(Art_)) return;
     if (!befiehl<&Satzumbenennung::bestaetige>(Enter) && Enter) Neuer_Dateiname_->setFocus(Qt::OtherFocusReason);
 }
 

@@ -7,6 +7,7 @@
 namespace varnok {
 namespace {
 
+using ::testing::AllOf;
 using ::testing::HasSubstr;
 using ::testing::Not;
 
@@ -160,6 +161,32 @@ TEST_F(Ungesichert, a_report_that_says_not_saved_closes_when_it_is) {
     ASSERT_THAT(s_->zeige<Berichtssteuerung>().offener()->RTF, HasSubstr("inputs not saved"));
     s_->fuehre_aus<&Satzverwaltung::speichere>();
     EXPECT_EQ(s_->zeige<Berichtssteuerung>().offener(), nullptr);
+    EXPECT_THAT(Zeile(), AllOf(HasSubstr("saved"), HasSubstr("The open report was closed")));
+}
+
+// The close box
+
+TEST_F(Ungesichert, the_close_box_does_not_ask_about_a_cell_that_it_has_put_back) {
+    mit_Tabelle();
+    s_->fuehre_aus<&Applikationstabelle::leere>(Zelle{0, 2});
+    for (const char c : std::string("1.2.5")) s_->fuehre_aus<&Applikationstabelle::haenge_an>(Zelle{0, 2}, c);
+    EXPECT_TRUE(s_->fuehre_aus<&Programmablauf::schliesse_Fenster>());
+}
+
+TEST_F(Ungesichert, the_close_box_does_not_ask_about_a_text_typed_back) {
+    gestartet();
+    const std::string vorher = s_->zeige<Feldeingabe>().Text(Feld("S_DT50_0"));
+    tippe_ins("S_DT50_0", "12");
+    s_->fuehre_aus<&Feldeingabe::aendere>(Feld("S_DT50_0"), vorher);
+    EXPECT_TRUE(s_->fuehre_aus<&Programmablauf::schliesse_Fenster>());
+}
+
+TEST_F(Ungesichert, the_close_box_closes_behind_a_refused_name) {
+    gestartet();
+    s_->fuehre_aus<&Satzumbenennung::beginne>(Szenario);
+    s_->fuehre_aus<&Satzumbenennung::aendere>("a/b");
+    Fragen_.erwarte_Anfang("Runtime error", "");
+    EXPECT_TRUE(s_->fuehre_aus<&Programmablauf::schliesse_Fenster>());
 }
 
 // The scenario editor

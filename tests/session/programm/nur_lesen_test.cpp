@@ -114,7 +114,7 @@ TEST_F(Nur_lesen, options_are_taken_and_the_settings_stay) {
     Rechte_.reset();
     Einstellungen e;
     e.Tips_anzeigen = 1;
-    std::ofstream(Wurzel_ / "VARNOK.ini", std::ios::binary) << Einstellungen_als_Bytes(e);
+    std::ofstream(Wurzel_ / "VARNOK.ini", std::ios::binary) << Einstellungen_als_Bytes(e, {});
     const std::string vorher = Datei("VARNOK.ini");
     entziehe();
     gestartet();

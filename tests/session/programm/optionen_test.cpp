@@ -21,7 +21,7 @@ TEST_F(Optionsprobe, are_shown_as_they_are) {
     Einstellungen e;
     e.Tips_anzeigen = 1;
     e.Farbeinstellung = 1;
-    std::ofstream(Wurzel_ / "VARNOK.ini", std::ios::binary) << Einstellungen_als_Bytes(e);
+    std::ofstream(Wurzel_ / "VARNOK.ini", std::ios::binary) << Einstellungen_als_Bytes(e, {});
     gestartet();
     const Optionsentwurf erwartet{Mikrogramm, im_Jahr_getrennt, Monatsliste, {true, false, true, false, false, true}, 1,
                                   1,          Wurzel_.string()};
@@ -178,7 +178,7 @@ TEST_F(Optionsprobe, the_seventh_part_of_the_name_survives_any_number_of_passes)
 }
 
 TEST_F(Optionsprobe, tooltips_switched_on_are_told_to_the_window_alone) {
-    std::ofstream(Wurzel_ / "VARNOK.ini", std::ios::binary) << Einstellungen_als_Bytes({});
+    std::ofstream(Wurzel_ / "VARNOK.ini", std::ios::binary) << Einstellungen_als_Bytes({}, {});
     gestartet();
     const std::string Einstellung = Datei("VARNOK.ini");
     EXPECT_TRUE(bestaetige([](Optionsentwurf& o) { o.Tips_anzeigen = 1; }));
@@ -193,7 +193,7 @@ TEST_F(Optionsprobe, tooltips_switched_on_are_told_to_the_window_alone) {
 TEST_F(Optionsprobe, tooltips_switched_off_write_the_settings_and_say_when_they_go) {
     Einstellungen e;
     e.Tips_anzeigen = 1;
-    std::ofstream(Wurzel_ / "VARNOK.ini", std::ios::binary) << Einstellungen_als_Bytes(e);
+    std::ofstream(Wurzel_ / "VARNOK.ini", std::ios::binary) << Einstellungen_als_Bytes(e, {});
     gestartet();
     const int Zeichnung = s_->zeige<Diagrammsteuerung>().Zeichnung();
     Fragen_.erwarte("Tooltips", "The tooltips will be switched off when you exit VARNOK and call it again!");
@@ -205,7 +205,7 @@ TEST_F(Optionsprobe, tooltips_switched_off_write_the_settings_and_say_when_they_
 TEST_F(Optionsprobe, settings_that_cannot_be_written_are_told_and_the_run_follows) {
     Einstellungen e;
     e.Tips_anzeigen = 1;
-    std::ofstream(Wurzel_ / "VARNOK.ini", std::ios::binary) << Einstellungen_als_Bytes(e);
+    std::ofstream(Wurzel_ / "VARNOK.ini", std::ios::binary) << Einstellungen_als_Bytes(e, {});
     gestartet();
     std::filesystem::remove(Wurzel_ / "VARNOK.ini");
     std::filesystem::create_directory(Wurzel_ / "VARNOK.ini");

@@ -25,12 +25,12 @@ TEST_F(Start, without_a_settings_file_writes_one_with_the_defaults) {
 TEST_F(Start, tips_are_on_where_there_is_no_settings_file_yet) {
     EXPECT_EQ(nur_geladen().Stand().Einstellung.Tips_anzeigen, 1);
     EXPECT_EQ(zerlege_Einstellungen(Datei(Einstellungsdatei))->Werte.Tips_anzeigen, 1);
-    std::ofstream(Wurzel_ / Einstellungsdatei, std::ios::binary) << Einstellungen_als_Bytes({});
+    std::ofstream(Wurzel_ / Einstellungsdatei, std::ios::binary) << Einstellungen_als_Bytes({}, {});
     EXPECT_EQ(nur_geladen().Stand().Einstellung.Tips_anzeigen, 0);
 }
 
 TEST_F(Start, with_settings_that_lack_the_project_path_uses_the_program_folder) {
-    std::string Bytes = Einstellungen_als_Bytes({});
+    std::string Bytes = Einstellungen_als_Bytes({}, {});
     Bytes.resize(Bytes.find("360") + 6);  // up to the line end of line 26
     std::ofstream(Wurzel_ / Einstellungsdatei, std::ios::binary) << Bytes;
     EXPECT_EQ(nur_geladen().Stand().Projektpfad, Wurzel_.string());
@@ -45,7 +45,7 @@ TEST_F(Start, with_garbage_in_the_settings_file_rewrites_it_from_the_defaults) {
 TEST_F(Start, with_a_project_path_that_is_gone_uses_the_program_folder_and_says_so) {
     Einstellungen e;
     e.Projektpfad = (Wurzel_ / "no such folder").string();
-    std::ofstream(Wurzel_ / Einstellungsdatei, std::ios::binary) << Einstellungen_als_Bytes(e);
+    std::ofstream(Wurzel_ / Einstellungsdatei, std::ios::binary) << Einstellungen_als_Bytes(e, {});
     nur_geladen();
     EXPECT_EQ(s_->Stand().Projektpfad, Wurzel_.string());
     EXPECT_NE(s_->Stand().Statuszeile.Text().find("no such folder"), std::string::npos);

@@ -40,7 +40,7 @@ protected:
         p_ = std::make_unique<Fensterprobe>(&Fragen_, [&](const QString& Pfad) {
             Einstellungen e;
             Aenderung(e);
-            std::ofstream(Pfad.toStdString() + "/VARNOK.ini", std::ios::binary) << Einstellungen_als_Bytes(e);
+            std::ofstream(Pfad.toStdString() + "/VARNOK.ini", std::ios::binary) << Einstellungen_als_Bytes(e, {});
         });
         p_->starte();
     }

@@ -149,7 +149,7 @@ private:
             schreibe(Ordner + u"/VARNOK.ini"_s, QByteArray::fromStdString([] {
                          Einstellungen e;
                          e.Tips_anzeigen = 1;
-                         return Einstellungen_als_Bytes(e);
+                         return Einstellungen_als_Bytes(e, {});
                      }()));
         });
         QTRY_VERIFY(Tooltips());
@@ -209,7 +209,7 @@ private Q_SLOTS:
 
     void without_the_option_nothing_has_a_tip() {
         p_ = std::make_unique<Fensterprobe>(&Fragen_, [&](const QString& Ordner) {
-            schreibe(Ordner + u"/VARNOK.ini"_s, QByteArray::fromStdString(Einstellungen_als_Bytes({})));
+            schreibe(Ordner + u"/VARNOK.ini"_s, QByteArray::fromStdString(Einstellungen_als_Bytes({}, {})));
         });
         QTest::qWait(20);
         QVERIFY(!Tooltips());

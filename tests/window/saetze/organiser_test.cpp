@@ -107,7 +107,7 @@ private Q_SLOTS:
             if (!f.open(QIODevice::WriteOnly)) qFatal("cannot write the settings");
             Einstellungen e;
             e.Farbeinstellung = 1;
-            f.write(QByteArray::fromStdString(Einstellungen_als_Bytes(e)));
+            f.write(QByteArray::fromStdString(Einstellungen_als_Bytes(e, {})));
         });
         im_Dialog([](Dialogprobe d) {
             for (const char* Liste : {"Liste_1", "Liste_2", "Liste_3"})

@@ -77,7 +77,7 @@ protected:
         e.Farbeinstellung = 1;
         QFile Datei(Ordner + QStringLiteral("/VARNOK.ini"));
         if (!Datei.open(QIODevice::WriteOnly)) qFatal("no settings");
-        Datei.write(QByteArray::fromStdString(Einstellungen_als_Bytes(e)));
+        Datei.write(QByteArray::fromStdString(Einstellungen_als_Bytes(e, {})));
     }
 
     Mitschrift Fragen_;
