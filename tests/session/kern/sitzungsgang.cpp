@@ -69,7 +69,6 @@ bool Gang::starte() {
     letzter_Stand_ = z().Vorgabe;
     ausstehend_ = 0;
     Klima_von_.clear();
-    bekannt_ = z().Werte();
     merke_Wetter();
     return beim_ersten;
 }

@@ -87,6 +87,7 @@ public:
         erlaube<Befehl>(true, a...);
         if constexpr (std::is_same_v<Teil_mit<Befehl>, Ruecknahme>) im_Verlauf_bewegt_ = true;
         sieh_nach_Lesungen();
+        merke_Wetter();
         if (hat_Sinn && getan(w)) ++Befehle_[Befehlsname<Befehl>()];
         return w;
     }
@@ -185,11 +186,10 @@ private:
     Vorher vorher_;
     std::optional<Verstoss> Fund_;  // at a question
     Gegenrechnung Gegen_;
-    std::map<const Ergebnis*, Klimabytes> Klima_von_;
-    varnok::Ergebnisse bekannt_;
-    std::optional<Eingabe> letzter_Stand_;  // of the history, where it is known
-    int Lesungen_ = 0;                      // and renamings, up to here
-    int ausstehend_ = 0;                    // actions since then whose text was still in work
+    std::map<std::shared_ptr<const Ergebnis>, Klimabytes> Klima_von_;  // as it was when they were made
+    std::optional<Eingabe> letzter_Stand_;                             // of the history, where it is known
+    int Lesungen_ = 0;                                                 // and renamings, up to here
+    int ausstehend_ = 0;                                               // actions since then whose text was still in work
     bool getippt_ = false;
     bool abgestuerzt_ = false;
     bool im_Verlauf_bewegt_ = false;  // by the action itself

@@ -95,17 +95,15 @@ void Gang::pruefe_Verworfenes(const Aktionsart& a, const Vorher& v, const Dateie
 
 void Gang::merke_Wetter() {
     for (const auto& e : z().Werte()) {
-        if (e && !Klima_von_.contains(e.get())) Klima_von_[e.get()] = z().Klima;
+        if (e) Klima_von_.try_emplace(e, z().Klima);
     }
 }
 
 // What is to be seen is a run's outcome over the inputs on the screen, or, with the hint, over those that it carries.
 void Gang::pruefe_Ergebnisse(const Aktionsart& a) {
     merke_Wetter();
-    bekannt_ = z().Werte();  // so that no other result stands at the same place
-    std::erase_if(Klima_von_, [&](const auto& p) {
-        return std::none_of(bekannt_.begin(), bekannt_.end(), [&](const auto& e) { return e.get() == p.first; });
-    });
+    const auto& Werte = z().Werte();
+    std::erase_if(Klima_von_, [&](const auto& p) { return std::find(Werte.begin(), Werte.end(), p.first) == Werte.end(); });
     pruefe_Marken();
     if (!etwas_offen()) pruefe_Satzbytes();
     if (z().abgedeckt()) {
@@ -220,11 +218,14 @@ void Gang::pruefe_Studie(int st, bool Hinweis, Zustand& frisch) {
     const Eingabe& Vorgabe = Hinweis ? *Gezeigtes->Vorgabe : z().Vorgabe;
     std::shared_ptr<const Ergebnis> e;
     try {
-        e = Gegen_.rechne(Vorgabe, st, Hinweis ? Klima_von_.at(Gezeigtes.get()) : z().Klima.Wert());
+        e = Gegen_.rechne(Vorgabe, st, Hinweis ? Klima_von_.at(Gezeigtes) : z().Klima.Wert());
     } catch (const std::exception& f) {
         throw Verstoss{"results uncovered that no run gives", f.what()};
     }
-    if (!e) throw Verstoss{"results uncovered that no run gives", "study " + std::to_string(st)};
+    if (!e)
+        throw Verstoss{"results uncovered that no run gives", "study " + std::to_string(st) + (Hinweis ? ", hint" : "") +
+                                                                  ", weather of " + Vorgabe.Klimaszenario +
+                                                                  (Vorgabe == z().Vorgabe ? "" : ", other inputs")};
     if (!gleiche_Werte(*e, *Gezeigtes))
         throw Verstoss{Hinweis ? "results are not of the input they carry" : "results are not of the input on the screen",
                        "study " + std::to_string(st)};
@@ -280,8 +281,10 @@ void Gang::pruefe_Verlauf(const Aktionsart& a, const Vorher& v) {
         ausstehend_ = 0;
         return;
     }
+    constexpr int viele = 50;  // steps of an action of several commands
+    const bool mehrere = (a.Merkmale & (liest | Pruefung)) != 0;
     if (offen || (letzter_Stand_ && !abgeschlossen)) {
-        ++ausstehend_;
+        ausstehend_ += mehrere ? viele : 1;
         return;
     }
     if (!letzter_Stand_) {
@@ -291,8 +294,7 @@ void Gang::pruefe_Verlauf(const Aktionsart& a, const Vorher& v) {
         return;
     }
     const Eingabe jetzt = z().Vorgabe;
-    constexpr int viele = 50;  // of an action of several commands
-    const int hoechstens = (a.Merkmale & (liest | Pruefung)) != 0 ? viele : 1 + 2 * ausstehend_ + (v.etwas_in_Arbeit ? 2 : 0);
+    const int hoechstens = (mehrere ? viele : 1) + 2 * ausstehend_ + (v.etwas_in_Arbeit ? 2 : 0);
     int n = 0;
     Fragen_.beginne();
     while (n < hoechstens && !(z().Vorgabe == *letzter_Stand_) && !s_->zeige<Ruecknahme>().Name_zurueck().empty()) {
