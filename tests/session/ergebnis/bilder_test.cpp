@@ -1,5 +1,7 @@
 // Pictures and data of diagrams behind the window, of everything that is shipped.
 
+#include <unistd.h>
+
 #include <QRectF>
 #include <algorithm>
 #include <filesystem>
@@ -69,7 +71,8 @@ public:
 
 class Ausgelieferte_Bilder : public ::testing::Test {
 protected:
-    Ausgelieferte_Bilder() : Wurzel_(std::filesystem::temp_directory_path() / "varnok-shipped-pictures") {
+    Ausgelieferte_Bilder()
+        : Wurzel_(std::filesystem::temp_directory_path() / ("varnok-shipped-pictures-" + std::to_string(::getpid()))) {
         std::filesystem::remove_all(Wurzel_);
         std::filesystem::create_directories(Wurzel_ / "output");
         std::filesystem::copy(std::filesystem::path(VARNOK_DATENORDNER) / "input", Wurzel_ / "input");
