@@ -1,7 +1,5 @@
 #include "session/ergebnis/berichtssteuerung.h"
 
-#include <utility>
-
 #include "base/laufzeitfehler.h"
 #include "base/programm.h"
 #include "base/text.h"
@@ -42,16 +40,15 @@ std::string Berichtssteuerung::Ergebnisdatei() const {
 }
 
 Berichtssteuerung::Grundlage Berichtssteuerung::jetzige_Grundlage() const {
-    return {Diagramme_.Zeichnung(), z_.Vorgabe, z_.Namen, z_.Einstellung.Bild.fuer_Druck, Herkunft_der_Ergebnisse(z_)};
+    return {Diagramme_.Zeichnung(), z_.Vorgabe, z_.Namen, z_.Einstellung.Bild.fuer_Druck};
 }
 
 void Berichtssteuerung::schliesse_veralteten() {
     if (!Bericht_) return;
-    Grundlage jetzige = jetzige_Grundlage();
-    if (!z_.Hinweis() && !z_.abgedeckt() && Grundlage_ == jetzige) return;
-    // Nothing else that can be seen has changed.
-    const bool andere_Herkunft = std::exchange(jetzige.Herkunft, Grundlage_.Herkunft) != Grundlage_.Herkunft;
-    if (andere_Herkunft && Grundlage_ == jetzige) z_.Statuszeile.sage_dazu(Texte::Bericht_ueberholt);
+    if (!z_.Hinweis() && !z_.abgedeckt() && Grundlage_ == jetzige_Grundlage()) {
+        if (Herkunft_ == Herkunft_der_Ergebnisse(z_)) return;
+        z_.Statuszeile.sage_dazu(Texte::Bericht_ueberholt);  // nothing else that can be seen has changed
+    }
     schliesse();
 }
 
@@ -71,6 +68,7 @@ Ergebnisse Berichtssteuerung::mit_jetziger_Vorgabe() const {
 void Berichtssteuerung::stelle_her(const Diagramm& Bild) {
     const Ergebnisse Werte = mit_jetziger_Vorgabe();
     Grundlage_ = jetzige_Grundlage();
+    Herkunft_ = Herkunft_der_Ergebnisse(z_);
     const Berichtsart Art = z_.Zusammenfassung_aktiv() ? Berichtsart::erweitert : Berichtsart::Standard;
     Bericht_ = std::make_unique<Bericht>(schreibe_Bericht({{Werte, z_.Sicht, z_.Vorgabe},
                                                            Art,
@@ -80,7 +78,7 @@ void Berichtssteuerung::stelle_her(const Diagramm& Bild) {
                                                            Bild,
                                                            Diagramme_.Legende(),
                                                            z_.Einstellung.Bild.fuer_Druck,
-                                                           Grundlage_.Herkunft}));
+                                                           Herkunft_}));
 }
 
 void Berichtssteuerung::speichere_PDF(const std::string& Pfad) const {

@@ -41,7 +41,6 @@ private:
         Eingabe Vorgabe;
         std::array<std::string, 4> Saetze;
         bool fuer_Druck = false;
-        std::string Herkunft;
 
         friend bool operator==(const Grundlage&, const Grundlage&) = default;
     };
@@ -55,7 +54,8 @@ private:
     Laufsteuerung& Laeufe_;
     Diagrammsteuerung& Diagramme_;
     std::unique_ptr<Bericht> Bericht_;
-    Grundlage Grundlage_;  // of the open report
+    Grundlage Grundlage_;   // of the open report
+    std::string Herkunft_;  // as it says
     std::string Ergebnisdatei_;
     std::string berichtete_Beschreibung_;
 };
